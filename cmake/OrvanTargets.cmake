@@ -1,0 +1,51 @@
+# What every target shares: the language, the warnings, the sanitizers, the compiler cache.
+
+find_program(ORVAN_CCACHE ccache)
+if(ORVAN_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${ORVAN_CCACHE})
+  set(CMAKE_C_COMPILER_LAUNCHER ${ORVAN_CCACHE})
+endif()
+
+add_library(orvan_options INTERFACE)
+target_compile_features(orvan_options INTERFACE cxx_std_20)
+target_include_directories(orvan_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_options(orvan_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Werror)
+if(ORVAN_SANITIZE)
+  target_compile_options(orvan_options INTERFACE
+    -fsanitize=${ORVAN_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(orvan_options INTERFACE -fsanitize=${ORVAN_SANITIZE})
+endif()
+if(ORVAN_FUZZ)
+  target_compile_options(orvan_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
+# A folder of src/: orvan_folder(NAME SOURCES a.cpp b.cpp LINKS orvan_core ... PRIVATE_LINKS ...)
+#
+# Makes the library orvan_NAME. LINKS is the list of what the folder may know. A folder of headers
+# alone has no SOURCES.
+function(orvan_folder name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+  if(arg_SOURCES)
+    add_library(orvan_${name} STATIC ${arg_SOURCES})
+    target_link_libraries(orvan_${name} PUBLIC orvan_options ${arg_LINKS} PRIVATE ${arg_PRIVATE_LINKS})
+  else()
+    add_library(orvan_${name} INTERFACE)
+    target_link_libraries(orvan_${name} INTERFACE orvan_options ${arg_LINKS})
+  endif()
+endfunction()
+
+# A test program: orvan_test(NAME SOURCES a_test.cpp ... LINKS orvan_x ...)
+#
+# Makes NAME_test, linked with GoogleTest, GoogleMock and tests/support, and registers it.
+function(orvan_test name)
+  cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name}_test ${arg_SOURCES})
+  target_link_libraries(${name}_test PRIVATE
+    orvan_options ${arg_LINKS} GTest::gmock GTest::gtest GTest::gtest_main)
+  target_include_directories(${name}_test PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  add_test(NAME ${name} COMMAND ${name}_test)
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 120)
+  endif()
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
+endfunction()
