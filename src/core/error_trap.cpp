@@ -1,0 +1,43 @@
+#include "core/error_trap.h"
+
+#include "runtime/numbers.h"
+
+namespace {
+constexpr int errorsAllowed = 10;
+}
+
+bool ErrorTrap::retriesAfter(const RunTimeError& error, int line)
+{
+    if (kind_.counted && ++errors_ > errorsAllowed) {
+        log(errorText(error), logLevel::error);
+        log("Error count exceeded, forcing exit from " + procName(), logLevel::error);
+        throw ForcedExit{this};
+    }
+    if (specialCase_) {
+        const Resume resume = specialCase_(error);
+        if (resume != Resume::asUsual) return resume == Resume::retry;
+    }
+    std::string text = errorText(error);
+    if (kind_.tellsLine) text += " Line: " + numberText(std::int64_t{line});
+    log(text, logLevel::error);
+    return tool_.g_log->DebugMode();
+}
+
+void ErrorTrap::exitProc()
+{
+    operator()([&] { tool_.g_log->exitProc(procName()); });
+}
+
+std::string ErrorTrap::procName() const
+{
+    std::string name;
+    name.reserve(module_.size() + routine_.size() + 2);
+    name.append("[").append(module_).append("]").append(routine_);
+    return name;
+}
+
+std::string errorText(const RunTimeError& error)
+{
+    return "Err.Number = " + numberText(std::int64_t{error.number()}) +
+           " Err.Description = " + error.description();
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+/// Writes whole event logs to files.
+class EventLogExporter {
+public:
+    virtual ~EventLogExporter() = default;
+
+    /// Writes all records of an event log as comma-separated text, over an existing file.
+    /// Raises 53 for an event log that does not exist, 76, 61, 70 for the target.
+    virtual void exportEventLog(const std::string& logName, const std::string& target,
+                                int flags) = 0;
+};

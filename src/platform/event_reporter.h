@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The server's event reporter: reports events and formats raw log lines.
+class EventReporter {
+public:
+    /// What a formatter takes at most, in bytes.
+    static constexpr std::size_t traceLineLimit = 510;
+
+    virtual ~EventReporter() = default;
+
+    /// The two start-up calls, in this order. Raise 429 where the server installs no reporter.
+    virtual void startUp() = 0;
+    virtual void completeStartUp() = 0;
+
+    /// A handle for this tool's reports. Raises 429.
+    virtual std::int32_t registerTool(const std::string& moduleName) = 0;
+
+    /// Raises 429, or what stands in the way of writing the event.
+    virtual void report(const std::string& source, std::int32_t handle, int type, std::int32_t id,
+                        const std::vector<std::string>& inserts) = 0;
+
+    /// Appends the formatted form of a raw line to `formatted`:
+    /// `<time> (<source>,<traceNumber>,<component>,<traceLevel>) <trace>`.
+    /// Raises 5 for a line that is none, or of more than `traceLineLimit` bytes, 429; then
+    /// `formatted` is as before.
+    virtual void formatTraceLine(std::string_view rawLine, std::string& formatted) = 0;
+};

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "platform/text_stream.h"
+#include "runtime/dates.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+/// What a folder listing or a look at one file tells.
+struct FileInfo {
+    std::string name; ///< without folder
+    std::int64_t size = 0;
+    Date created;  ///< local time of the server
+    Date modified; ///< local time of the server
+    bool folder = false;
+    bool readOnly = false;
+};
+
+struct DiskSpace {
+    std::int64_t freeBytes = 0; ///< available to the caller
+    std::int64_t totalBytes = 0;
+};
+
+enum class SpecialFolder { windows = 0, temporary = 2 };
+
+/// The files of the machine under diagnosis.
+///
+/// Paths are Windows paths in UTF-8; `\` and `/` both separate; a path without a drive is taken
+/// from the current folder; names match without regard to case. Any call may raise 70 (permission
+/// denied) or 57 (device I/O error).
+class FileSystem {
+public:
+    virtual ~FileSystem() = default;
+
+    virtual bool fileExists(const std::string& path) const = 0;
+    virtual bool folderExists(const std::string& path) const = 0;
+
+    /// A file's facts. Raises 53 (file not found).
+    virtual FileInfo file(const std::string& path) const = 0;
+
+    /// The size of all files in a folder and below. Raises 76 (path not found).
+    virtual std::int64_t folderSize(const std::string& path) const = 0;
+
+    /// Files and folders in a folder, sorted by name, without "." and "..". Raises 76.
+    virtual std::vector<FileInfo> entries(const std::string& folder) const = 0;
+
+    /// Names of the plain files that match a pattern such as `C:\Logs\diag_*.txt`, sorted; `*` and
+    /// `?` in the last part alone. None, or no such folder, is an empty list.
+    virtual std::vector<std::string> matching(const std::string& pattern) const = 0;
+
+    /// Makes the last level. Raises 58 (exists), 76 (its parent is missing).
+    virtual void createFolder(const std::string& path) = 0;
+
+    /// Removes a folder with what it holds. Raises 76.
+    virtual void removeFolder(const std::string& path) = 0;
+
+    /// Copies over whatever stands at `target`. Raises 53, 76, 61 (disk full), 70 for a read-only
+    /// target.
+    virtual void copyFile(const std::string& source, const std::string& target) = 0;
+
+    /// Raises 53; 70 for a read-only file.
+    virtual void deleteFile(const std::string& path) = 0;
+
+    /// Makes a file an ordinary one that may be written. Raises 53.
+    virtual void clearAttributes(const std::string& path) = 0;
+
+    /// Raises 53, 76.
+    virtual std::unique_ptr<TextReader> openForReading(const std::string& path) const = 0;
+
+    /// Opens for writing at the end, and makes the file when it is missing. Raises 76.
+    virtual std::unique_ptr<TextWriter> openForAppending(const std::string& path) = 0;
+
+    /// Makes the file, over an existing one. Raises 76.
+    virtual std::unique_ptr<TextWriter> createTextFile(const std::string& path) = 0;
+
+    virtual std::string specialFolder(SpecialFolder folder) const = 0;
+
+    /// The long form of a path with shortened names; the path itself where nothing is shortened.
+    virtual std::string longPathName(const std::string& path) const = 0;
+
+    /// "C:" of "C:\x"; the empty text when the path names no drive.
+    virtual std::string driveName(const std::string& path) const = 0;
+
+    /// Of the drive such as "C:\". Raises 76.
+    virtual DiskSpace diskSpace(const std::string& drive) const = 0;
+
+    /// Where relative paths and started processes begin. Raises 76 (68 for a drive that is not
+    /// there).
+    virtual void changeDrive(const std::string& drive) = 0;
+    virtual void changeFolder(const std::string& path) = 0;
+};

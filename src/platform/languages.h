@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+/// Resource libraries, one for each translated language, and the user's own choice.
+class Languages {
+public:
+    virtual ~Languages() = default;
+
+    /// The language identifier (LCID) of the user, such as 1033.
+    virtual std::int32_t userDefaultLanguage() const = 0;
+
+    /// Loads a library as data. A handle, or 0 when it does not exist or does not load.
+    virtual std::int32_t loadLibrary(const std::string& path) = 0;
+
+    virtual void freeLibrary(std::int32_t handle) = 0;
+
+    /// A library's text; nothing when the handle is 0 or the library has no such id.
+    virtual std::optional<std::string> text(std::int32_t handle, int id) const = 0;
+};

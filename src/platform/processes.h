@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+enum class WindowStyle { hidden, normal };
+
+/// Other programs.
+class Processes {
+public:
+    virtual ~Processes() = default;
+
+    /// Starts a command line, split by the platform's quoting rules, in the current folder; a
+    /// program name without an ending also finds `NAME.exe`. Gives the process id. Raises 53
+    /// (program not found), 5 (it does not start), 70.
+    virtual std::int32_t start(const std::string& commandLine, WindowStyle window) = 0;
+
+    /// Waits for a process, -1 for as long as it takes. True when the wait ended or timed out,
+    /// false for a process that is not there.
+    virtual bool wait(std::int32_t processId, std::int32_t milliseconds) = 0;
+};
