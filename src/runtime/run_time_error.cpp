@@ -48,6 +48,8 @@ std::string standardErrorText(int number)
         return "Object variable or With block variable not set";
     case invalidNull:
         return "Invalid use of Null";
+    case invalidFileFormat:
+        return "Invalid file format";
     case invalidPropertyValue:
         return "Invalid property value";
     case objectRequired:

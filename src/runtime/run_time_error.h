@@ -23,6 +23,7 @@ constexpr int pathFileAccess = 75;
 constexpr int pathNotFound = 76;
 constexpr int objectVariableNotSet = 91;
 constexpr int invalidNull = 94;
+constexpr int invalidFileFormat = 321;
 constexpr int invalidPropertyValue = 380;
 constexpr int objectRequired = 424;
 constexpr int cannotCreateObject = 429;

@@ -1,0 +1,141 @@
+#include "backends/portable/language_catalogue.h"
+
+#include <charconv>
+#include <cstddef>
+#include <system_error>
+#include <utility>
+
+#include "runtime/run_time_error.h"
+
+namespace {
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+constexpr int largestId = 65535;
+
+[[noreturn]] void fail(int lineNumber, const std::string& what)
+{
+    throw RunTimeError(runTimeErrors::invalidFileFormat, "Line " + std::to_string(lineNumber) +
+                                                             " of the language catalogue: " + what);
+}
+
+std::string_view trimmed(std::string_view text)
+{
+    const auto first = text.find_first_not_of(" \t");
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+/// Bytes of a character of more than one byte that begins with `lead`; 0 when none does.
+std::size_t lengthAfter(unsigned lead)
+{
+    if (lead < 0xC2) return 0;
+    if (lead < 0xE0) return 2;
+    if (lead < 0xF0) return 3;
+    return lead < 0xF5 ? 4 : 0;
+}
+
+/// Bytes of the UTF-8 character that `text` begins with; 0 when it begins with none. Overlong
+/// forms, surrogates and what lies past U+10FFFF are no characters.
+std::size_t characterLength(std::string_view text)
+{
+    const auto byte = [&](std::size_t place) { return static_cast<unsigned char>(text[place]); };
+    const unsigned lead = byte(0);
+    if (lead < 0x80) return 1;
+    const std::size_t length = lengthAfter(lead);
+    if (length == 0 || text.size() < length) return 0;
+    for (std::size_t place = 1; place < length; ++place) {
+        if ((byte(place) & 0xC0U) != 0x80) return 0;
+    }
+    const unsigned second = byte(1);
+    const bool impossible = (lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F) ||
+                            (lead == 0xF0 && second < 0x90) || (lead == 0xF4 && second > 0x8F);
+    return impossible ? 0 : length;
+}
+
+void checkCharacters(std::string_view line, int lineNumber)
+{
+    while (!line.empty()) {
+        const std::size_t length = characterLength(line);
+        if (length == 0) fail(lineNumber, "not UTF-8");
+        const auto lead = static_cast<unsigned char>(line.front());
+        if ((lead < 0x20 && lead != '\t') || lead == 0x7F) fail(lineNumber, "a control character");
+        line.remove_prefix(length);
+    }
+}
+
+int parsedId(std::string_view text, int lineNumber)
+{
+    int id = 0;
+    const char* end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, id);
+    if (error != std::errc{} || stop != end || id < 1 || id > largestId) {
+        fail(lineNumber, "the id is no number from 1 to " + std::to_string(largestId));
+    }
+    return id;
+}
+
+std::string unescaped(std::string_view text, int lineNumber)
+{
+    std::string result;
+    result.reserve(text.size());
+    for (std::size_t place = 0; place < text.size(); ++place) {
+        if (text[place] != '\\') {
+            result += text[place];
+            continue;
+        }
+        ++place;
+        switch (place < text.size() ? text[place] : '\0') {
+        case 's':
+            result += ' ';
+            break;
+        case 'n':
+            result += '\n';
+            break;
+        case 'r':
+            result += '\r';
+            break;
+        case 't':
+            result += '\t';
+            break;
+        case '\\':
+            result += '\\';
+            break;
+        default:
+            fail(lineNumber, "an unknown escape");
+        }
+    }
+    return result;
+}
+
+void parseLine(LanguageCatalogue& catalogue, std::string_view line, int lineNumber)
+{
+    checkCharacters(line, lineNumber);
+    line = trimmed(line);
+    if (line.empty() || line.front() == '#') return;
+
+    const auto equals = line.find('=');
+    if (equals == std::string_view::npos) fail(lineNumber, "no \"=\"");
+    const int id = parsedId(trimmed(line.substr(0, equals)), lineNumber);
+    auto text = unescaped(trimmed(line.substr(equals + 1)), lineNumber);
+    if (text.empty()) fail(lineNumber, "an empty text");
+    if (!catalogue.emplace(id, std::move(text)).second) {
+        fail(lineNumber, "a second text for " + std::to_string(id));
+    }
+}
+
+} // namespace
+
+LanguageCatalogue parseLanguageCatalogue(std::string_view bytes)
+{
+    LanguageCatalogue catalogue;
+    if (bytes.substr(0, byteOrderMark.size()) == byteOrderMark) {
+        bytes.remove_prefix(byteOrderMark.size());
+    }
+    for (int lineNumber = 1; !bytes.empty(); ++lineNumber) {
+        auto line = bytes.substr(0, bytes.find('\n'));
+        bytes.remove_prefix(line.size() < bytes.size() ? line.size() + 1 : line.size());
+        if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+        parseLine(catalogue, line, lineNumber);
+    }
+    return catalogue;
+}
