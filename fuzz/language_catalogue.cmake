@@ -1,3 +1,1 @@
-add_executable(fuzz_language_catalogue fuzz_language_catalogue.cpp)
-target_link_libraries(fuzz_language_catalogue PRIVATE orvan_portable)
-target_link_options(fuzz_language_catalogue PRIVATE -fsanitize=fuzzer)
+orvan_fuzz(language_catalogue LINKS orvan_portable)
