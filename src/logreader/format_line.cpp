@@ -1,0 +1,28 @@
+#include "core/error_trap.h"
+#include "logreader/diagnostics.h"
+#include "platform/event_reporter.h"
+
+namespace {
+constexpr std::size_t shortestLogLine = 20;
+}
+
+std::string mdlDiagnostics::formatLineSafe(ToolContext& tool, std::string_view rawLine)
+{
+    std::string formatted;
+    formatLineSafe(tool, rawLine, formatted);
+    return formatted;
+}
+
+void mdlDiagnostics::formatLineSafe(ToolContext& tool, std::string_view rawLine,
+                                    std::string& formatted)
+{
+    ErrorTrap step{tool, "mdlDiagnostics", "formatLineSafe"};
+    formatted.clear();
+    if (rawLine.size() < shortestLogLine) return;
+
+    const std::string_view head = rawLine.substr(0, EventReporter::traceLineLimit);
+    const std::string_view tail = rawLine.substr(head.size());
+    step([&] { tool.platform.eventReporter.formatTraceLine(head, formatted); });
+    formatted += ' ';
+    formatted += tail;
+}
