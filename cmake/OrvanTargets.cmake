@@ -36,13 +36,17 @@ endfunction()
 
 # A test program: orvan_test(NAME SOURCES a_test.cpp ... LINKS orvan_x ...)
 #
-# Makes NAME_test, linked with GoogleTest, GoogleMock and tests/support, and registers it.
+# Makes NAME_test, linked with GoogleTest, GoogleMock and tests/support, and registers it. The tests
+# of runtime, which knows nothing of a tool, go without tests/support.
 function(orvan_test name)
   cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;LINKS" ${ARGN})
   add_executable(${name}_test ${arg_SOURCES})
   target_link_libraries(${name}_test PRIVATE
     orvan_options ${arg_LINKS} GTest::gmock GTest::gtest GTest::gtest_main)
   target_include_directories(${name}_test PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  if(TARGET orvan_test_support AND NOT name STREQUAL "runtime")
+    target_link_libraries(${name}_test PRIVATE orvan_test_support)
+  endif()
   add_test(NAME ${name} COMMAND ${name}_test)
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 120)

@@ -1,0 +1,36 @@
+#include "support/fake_languages.h"
+
+#include "support/fake_paths.h"
+
+#include <utility>
+
+FakeLanguages& FakeLanguages::with(const std::string& path, std::map<int, std::string> texts)
+{
+    libraries_[fakePaths::lower(path)] = std::move(texts);
+    return *this;
+}
+
+std::int32_t FakeLanguages::loadLibrary(const std::string& path)
+{
+    loads_.push_back(path);
+    const std::string key = fakePaths::lower(path);
+    if (libraries_.count(key) == 0) return 0;
+    open_[++lastHandle_] = key;
+    return lastHandle_;
+}
+
+void FakeLanguages::freeLibrary(std::int32_t handle)
+{
+    freed_.push_back(handle);
+    open_.erase(handle);
+}
+
+std::optional<std::string> FakeLanguages::text(std::int32_t handle, int id) const
+{
+    const auto library = open_.find(handle);
+    if (library == open_.end()) return std::nullopt;
+    const auto& texts = libraries_.at(library->second);
+    const auto text = texts.find(id);
+    if (text == texts.end()) return std::nullopt;
+    return text->second;
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/host_module.h"
+#include "platform/workstation.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// A workstation whose answers a test may change or take away.
+class FakeWorkstation final : public Workstation {
+public:
+    int platformNumber = 2;
+    std::optional<WorkstationDetails> machine =
+        WorkstationDetails{500, "ORVAN01", "KELMA", 5, 2, "", 1};
+    std::optional<LoggedOnUser> person = LoggedOnUser{"support", "KELMA", "", "ORVANDC"};
+
+    int platform() const override { return platformNumber; }
+    std::optional<WorkstationDetails> details() const override { return machine; }
+    std::optional<LoggedOnUser> user() const override { return person; }
+};
+
+/// The tool's module as a test wants it.
+class FakeHostModule final : public HostModule {
+public:
+    std::string folderPath = "C:\\OrvanDiagnostics";
+    int major = 4;
+    int minor = 2;
+    int build = 17;
+    std::string command = "mmc.exe OrvanDiagnostics.msc";
+    bool developmentHost = false;
+    std::vector<std::string> debugTexts; ///< what was sent to the debugger
+
+    std::string folder() const override { return folderPath; }
+    std::string name() const override { return "OrvanDiagnostics"; }
+    int majorVersion() const override { return major; }
+    int minorVersion() const override { return minor; }
+    int revision() const override { return build; }
+    std::string commandLine() const override { return command; }
+    bool isDevelopmentHost() const override { return developmentHost; }
+    void debugOutput(const std::string& text) override { debugTexts.push_back(text); }
+};
