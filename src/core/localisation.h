@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/font.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -7,19 +9,6 @@
 #include <vector>
 
 struct ToolContext;
-
-/// The font that a language's characters need; an empty name leaves the font alone.
-struct LanguageFont {
-    int charset = 1;
-    std::string_view name;
-};
-
-/// An object that shows text and may take a font. An object without fonts ignores it.
-class FontTarget {
-public:
-    virtual ~FontTarget() = default;
-    virtual void setFont(const LanguageFont& font) = 0;
-};
 
 /// The text of an id, from the language's library or else from the English table; the empty text
 /// for an id of neither. Raises nothing.

@@ -1,0 +1,18 @@
+#pragma once
+
+/// The forward button of a wizard page.
+namespace wizardButton {
+constexpr int nextEnabled = 0;
+constexpr int nextDisabled = 1;
+constexpr int finishEnabled = 2;
+constexpr int finishDisabled = 3;
+} // namespace wizardButton
+
+/// A wizard's sheet, as its pages see it.
+class PropertySheet {
+public:
+    virtual ~PropertySheet() = default;
+
+    /// Changes the buttons while the page is on show; `nextOrFinish` is one of `wizardButton`.
+    virtual void SetWizardButtons(bool enableBack, int nextOrFinish) = 0;
+};
