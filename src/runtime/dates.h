@@ -25,15 +25,18 @@ struct DateParts {
     int dayOfWeek = 1; ///< 1 for Sunday to 7
 };
 
+/// Raises 5 outside the years 100 to 9999, as all that takes a date does.
 DateParts partsOf(Date date);
 
 /// The date of parts within their ranges, years 100 to 9999. Raises 5 for others.
 Date dateOf(int year, int month, int day, int hour = 0, int minute = 0, int second = 0);
 
-/// The whole day and the time of day (on the zero date) of a moment.
+/// The whole day and the time of day (on the zero date) of a moment, to the nearest second.
 Date dayOf(Date date);
 Date timeOf(Date date);
 
+/// A moment later, or earlier for an amount below zero, to the nearest second: so what comes of
+/// whole seconds equals the date of its parts bit by bit.
 Date addSeconds(Date date, double seconds);
 Date addDays(Date date, double days);
 Date addHours(Date date, double hours);
@@ -44,6 +47,7 @@ long long wholeSeconds(Date date);
 /// General form: "10/8/2005 3:23:07 PM"; a zero date shows the time alone, a zero time the date
 /// alone; the zero moment shows "12:00:00 AM".
 std::string dateText(Date date);
+void appendDateText(std::string& text, Date date);
 
 std::string shortDate(Date date);  ///< "10/8/2005"
 std::string longDate(Date date);   ///< "Saturday, October 8, 2005"
@@ -57,6 +61,7 @@ std::string sortableDateTime(Date date); ///< "2005-10-08 15:23:07"
 
 /// The date that a text names, month first: every form above (but the file stamp) and
 /// "2005-10-08", "2005-10-08 15:23:07", "10/8/2005 15:23", "15:23", times with one or two digits,
-/// AM or PM in any case. A date alone has a zero time, a time alone a zero date.
+/// AM or PM and the names of months and days in any case, more blanks than one, and blanks at the
+/// ends. A date alone has a zero time, a time alone a zero date.
 /// Raises 13 for anything else.
 Date parseDate(std::string_view text);
