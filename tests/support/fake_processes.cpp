@@ -1,6 +1,20 @@
 #include "support/fake_processes.h"
 
 #include "runtime/run_time_error.h"
+#include "support/fake_paths.h"
+
+namespace {
+
+/// The program that a command line begins with, in lower case.
+std::string programOf(const std::string& commandLine)
+{
+    const bool quoted = !commandLine.empty() && commandLine.front() == '"';
+    const std::size_t start = quoted ? 1 : 0;
+    const std::size_t end = commandLine.find(quoted ? '"' : ' ', start);
+    return fakePaths::lower(commandLine.substr(start, end - start));
+}
+
+} // namespace
 
 FakeProcesses& FakeProcesses::onStart(std::function<void(const std::string& commandLine)> program)
 {
@@ -11,6 +25,12 @@ FakeProcesses& FakeProcesses::onStart(std::function<void(const std::string& comm
 FakeProcesses& FakeProcesses::failing(int number)
 {
     fault_ = number;
+    return *this;
+}
+
+FakeProcesses& FakeProcesses::missing(const std::string& program)
+{
+    missing_.insert(fakePaths::lower(program));
     return *this;
 }
 
@@ -25,6 +45,8 @@ std::int32_t FakeProcesses::start(const std::string& commandLine, WindowStyle wi
     commandLines_.push_back(commandLine);
     windows_.push_back(window);
     if (fault_ != 0) throw RunTimeError(fault_);
+    if (missing_.count(programOf(commandLine)) != 0)
+        throw RunTimeError(runTimeErrors::fileNotFound);
     if (program_) program_(commandLine);
     running_.insert(++lastId_);
     return lastId_;

@@ -17,6 +17,9 @@ public:
     /// From now on every start raises `number`; 0 ends that.
     FakeProcesses& failing(int number);
 
+    /// A command line that begins with this program, quoted or not, raises 53.
+    FakeProcesses& missing(const std::string& program);
+
     /// A process that a test pretends is running.
     FakeProcesses& running(std::int32_t processId);
 
@@ -34,6 +37,7 @@ public:
 private:
     std::function<void(const std::string&)> program_;
     int fault_ = 0;
+    std::set<std::string> missing_;
     std::int32_t lastId_ = 1000;
     std::set<std::int32_t> running_;
     std::vector<std::string> commandLines_;

@@ -1,7 +1,5 @@
 #include "support/test_tool.h"
 
-#include "runtime/run_time_error.h"
-
 #include <algorithm>
 
 namespace {
@@ -93,24 +91,4 @@ bool TestTool::logged(const std::string& text)
     return std::any_of(lines.begin(), lines.end(), [&](const LogLine& line) {
         return line.message.find(text) != std::string::npos;
     });
-}
-
-int errorOf(const std::function<void()>& statement)
-{
-    try {
-        statement();
-    } catch (const RunTimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
-
-std::string errorTextOf(const std::function<void()>& statement)
-{
-    try {
-        statement();
-    } catch (const RunTimeError& error) {
-        return error.description();
-    }
-    return "";
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/tool_context.h"
+#include "support/error_of.h"
 #include "support/fake_clock.h"
 #include "support/fake_desktop.h"
 #include "support/fake_event_log_exporter.h"
@@ -12,7 +13,6 @@
 #include "support/fake_registry.h"
 #include "support/fake_time_zone.h"
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -60,9 +60,3 @@ struct TestTool {
     /// Whether some line of the log holds `text`.
     bool logged(const std::string& text);
 };
-
-/// The number of the run-time error that `statement` raises; 0 for none.
-int errorOf(const std::function<void()>& statement);
-
-/// The description of that error; the empty text for none.
-std::string errorTextOf(const std::function<void()>& statement);
