@@ -47,8 +47,10 @@ struct ToolContext {
 
     std::shared_ptr<WSInfo> g_wsInfo; ///< first use, through `workstationInfo`
 
-    Dictionary<ScopeItem*> g_dictLogItems;     ///< scope item key to log node; stale nodes are null
-    Dictionary<ScopeItem*> g_dictProcessItems; ///< scope item key to opened process node
+    /// Scope item key to log node, and to opened process node. Never emptied: a node that has gone,
+    /// or was never there, is null.
+    Dictionary<std::weak_ptr<ScopeItem>> g_dictLogItems;
+    Dictionary<std::weak_ptr<ScopeItem>> g_dictProcessItems;
 
     LanguageState language;
 

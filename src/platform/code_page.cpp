@@ -1,0 +1,41 @@
+#include "platform/code_page.h"
+
+#include <algorithm>
+#include <cstddef>
+
+void CodePage::appendUtf8(std::string& target, std::string_view bytes) const
+{
+    const auto beyondAscii = [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; };
+    for (;;) {
+        const auto special = std::find_if(bytes.begin(), bytes.end(), beyondAscii);
+        const auto plain = static_cast<std::size_t>(special - bytes.begin());
+        target.append(bytes.substr(0, plain));
+        if (plain == bytes.size()) return;
+
+        const unsigned code = character(bytes[plain]);
+        if (code < 0x80) {
+            target.push_back(static_cast<char>(code));
+        } else if (code < 0x800) {
+            target.push_back(static_cast<char>(0xC0 | code >> 6));
+            target.push_back(static_cast<char>(0x80 | (code & 0x3F)));
+        } else {
+            target.push_back(static_cast<char>(0xE0 | code >> 12));
+            target.push_back(static_cast<char>(0x80 | (code >> 6 & 0x3F)));
+            target.push_back(static_cast<char>(0x80 | (code & 0x3F)));
+        }
+        bytes.remove_prefix(plain + 1);
+    }
+}
+
+CodePage windows1252()
+{
+    constexpr std::array<char16_t, 32> middle = {
+        0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+        0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+        0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+    CodePage::Table characters;
+    for (std::size_t code = 0; code < characters.size(); ++code)
+        characters[code] = static_cast<char16_t>(code);
+    std::copy(middle.begin(), middle.end(), characters.begin() + 0x80);
+    return CodePage(characters);
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+
+class ResultView;
+class ScopeItem;
+class View;
+
+/// Follows the console: a window does, and keeps itself like the model.
+///
+/// Calls come while the snap-in works; an observer shows what it is told and asks for nothing.
+class ConsoleObserver {
+public:
+    virtual ~ConsoleObserver() = default;
+
+    virtual void scopeItemAdded(ScopeItem& item) = 0;
+
+    /// Name, display name or kind.
+    virtual void scopeItemChanged(ScopeItem& item) = 0;
+
+    /// The item is out of the tree; told for what lay below it first. The object itself is gone
+    /// after the call.
+    virtual void scopeItemRemoved(ScopeItem& item) = 0;
+
+    /// `view` has another selected scope pane item. Its result view is told by `viewReset`.
+    virtual void selectionChanged(View& view) = 0;
+
+    /// A result view, new or shown again, begins to be filled. It has no rows, and headers may
+    /// change until `viewFilled`.
+    virtual void viewReset(ResultView& resultView) = 0;
+
+    /// All rows, columns and tasks are there, rows in their order on the screen.
+    virtual void viewFilled(ResultView& resultView) = 0;
+
+    /// To be seen at once, as long work goes on behind it.
+    virtual void statusBarChanged(const std::string& text) = 0;
+};
