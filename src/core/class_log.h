@@ -3,11 +3,13 @@
 #include "platform/platform.h"
 #include "runtime/dictionary.h"
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
 
+class RunTimeError;
 class TextWriter;
 
 /// The words that head a line of the tool's log.
@@ -22,8 +24,7 @@ constexpr std::int32_t verbose = 3;
 ///
 /// One file a run, in the folder LOGS beside the tool; making the object cleans out old files by
 /// the free space of the disk. The file itself is made by the first line written. A routine is
-/// named
-/// `[module]routine`.
+/// named `[module]routine`.
 class classLog {
 public:
     /// Raises what stands in the way of the LOGS folder.
@@ -34,20 +35,23 @@ public:
     const std::string& strLogFile() const { return strLogFile_; }
     void strLogFile(const std::string& path) { strLogFile_ = path; }
 
-    /// Writes one line, subject to `verbosity`. Raises nothing: what fails is logged where it can
-    /// be, and the line is lost.
+    /// Writes one line, subject to `verbosity`, and hands it to the system at once. Raises nothing:
+    /// what fails is logged where it can be, and the line is lost. A level without a word is such a
+    /// failure.
     void log(std::string_view message, std::int32_t level, std::string_view procName);
 
     /// Whether the development environment hosts the tool.
     bool DebugMode() const;
 
-    /// Logs the entry of a traced routine and indents what follows.
+    /// Logs the entry of a traced routine and indents what follows. Raises nothing: past 32,767
+    /// open calls of one name the failure is logged alone.
     void enterProc(std::string_view procName);
 
     /// Logs its exit with the seconds since the entry. Raises 6 past 32,767 open calls of one name.
     void exitProc(std::string_view procName);
 
-    /// Closes the file; the next line starts a new one. Raises 91 when no file is open.
+    /// Closes the file; the next line starts a new one. Raises 91 when no file is open, and what
+    /// stands in the way of the LOGS folder.
     void closeLog();
 
     /// One line for each entry; what fails is passed over.
@@ -57,10 +61,27 @@ private:
     friend class ClassLogTest;
 
     void openLogFile();
-    void writeBanner();
+    std::array<std::string, 3> bannerLines() const;
     void logToFile(std::string_view message, std::int32_t level, std::string_view procName);
+    std::string logLine(std::string_view message, std::int32_t level,
+                        std::string_view procName) const;
     std::string makeLogFileName();
     void checkSizeOfLogs();
+    void setNestingDepth(std::int32_t depth);
+
+    /// Runs a statement of the log's own and tells whether it succeeded. A failure is logged under
+    /// `procName`; in the development host the statement runs again, though not for ever.
+    template <typename Statement>
+    bool attempt(std::string_view procName, Statement&& statement);
+
+    /// Writes a line of text by the same rules. When the stream has gone (424), the file is opened
+    /// anew and the text follows its banner.
+    bool writeLine(const std::string& text);
+
+    /// The open stream. Raises 424 when there is none.
+    TextWriter& stream();
+
+    bool retriesAfter(const RunTimeError& error, std::string_view procName, int tries);
 
     Platform& platform_;
     std::int32_t verbosity_ = 2;

@@ -20,12 +20,26 @@ bool ErrorTrap::retriesAfter(const RunTimeError& error, int line)
     std::string text = errorText(error);
     if (kind_.tellsLine) text += " Line: " + numberText(std::int64_t{line});
     log(text, logLevel::error);
-    return tool_.g_log->DebugMode();
+    return tool_.g_log.exists() && tool_.g_log->DebugMode();
+}
+
+void ErrorTrap::enterProc()
+{
+    operator()([&] { tool_.g_log->enterProc(procName()); });
 }
 
 void ErrorTrap::exitProc()
 {
     operator()([&] { tool_.g_log->exitProc(procName()); });
+}
+
+void ErrorTrap::log(std::string_view message, std::int32_t level)
+{
+    try {
+        tool_.g_log->log(message, level, procName());
+    } catch (const RunTimeError&) {
+        // The log itself can't be made: a routine does its work without one.
+    }
 }
 
 std::string ErrorTrap::procName() const

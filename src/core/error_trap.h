@@ -36,7 +36,8 @@ struct ForcedExit {
 /// Carries a routine past a failed statement: one trap a routine, one step a statement.
 ///
 /// A run-time error is logged at level 2 under "[module]routine", and the next step runs; in the
-/// development host the same one runs again. Anything else thrown is our own fault and goes up.
+/// development host the same one runs again. A log that can't be made, for want of a folder, holds
+/// no routine up. Anything else thrown is our own fault and goes up.
 /// Making a trap allocates nothing, so that a routine of the hot path may have one.
 ///
 ///     ErrorTrap step{tool, "mdlTraces", "initMacroTraces", countedTrap};
@@ -87,18 +88,15 @@ public:
         specialCase_ = std::move(handler);
     }
 
-    /// Log lines of the routine's entry and exit.
-    void enterProc() { tool_.g_log->enterProc(procName()); }
+    /// Log lines of the routine's entry and exit; each is a step of its own.
+    void enterProc();
     void exitProc();
 
     /// "[module]routine".
     std::string procName() const;
 
-    /// A line of the routine in the tool's log.
-    void log(std::string_view message, std::int32_t level)
-    {
-        tool_.g_log->log(message, level, procName());
-    }
+    /// A line of the routine in the tool's log. It is lost where no log can be made.
+    void log(std::string_view message, std::int32_t level);
 
     int errors() const { return errors_; }
 
