@@ -5,6 +5,7 @@
 #include <system_error>
 #include <utility>
 
+#include "backends/portable/utf8.h"
 #include "runtime/run_time_error.h"
 
 namespace {
@@ -25,37 +26,10 @@ std::string_view trimmed(std::string_view text)
     return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
-/// Bytes of a character of more than one byte that begins with `lead`; 0 when none does.
-std::size_t lengthAfter(unsigned lead)
-{
-    if (lead < 0xC2) return 0;
-    if (lead < 0xE0) return 2;
-    if (lead < 0xF0) return 3;
-    return lead < 0xF5 ? 4 : 0;
-}
-
-/// Bytes of the UTF-8 character that `text` begins with; 0 when it begins with none. Overlong
-/// forms, surrogates and what lies past U+10FFFF are no characters.
-std::size_t characterLength(std::string_view text)
-{
-    const auto byte = [&](std::size_t place) { return static_cast<unsigned char>(text[place]); };
-    const unsigned lead = byte(0);
-    if (lead < 0x80) return 1;
-    const std::size_t length = lengthAfter(lead);
-    if (length == 0 || text.size() < length) return 0;
-    for (std::size_t place = 1; place < length; ++place) {
-        if ((byte(place) & 0xC0U) != 0x80) return 0;
-    }
-    const unsigned second = byte(1);
-    const bool impossible = (lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F) ||
-                            (lead == 0xF0 && second < 0x90) || (lead == 0xF4 && second > 0x8F);
-    return impossible ? 0 : length;
-}
-
 void checkCharacters(std::string_view line, int lineNumber)
 {
     while (!line.empty()) {
-        const std::size_t length = characterLength(line);
+        const std::size_t length = utf8CharacterLength(line);
         if (length == 0) fail(lineNumber, "not UTF-8");
         const auto lead = static_cast<unsigned char>(line.front());
         if ((lead < 0x20 && lead != '\t') || lead == 0x7F) fail(lineNumber, "a control character");

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string_view>
+#include <utility>
+
+/// Owner of an open file.
+class FileDescriptor {
+public:
+    FileDescriptor() = default;
+    explicit FileDescriptor(int descriptor) : descriptor_(descriptor) {}
+    ~FileDescriptor();
+
+    FileDescriptor(FileDescriptor&& other) noexcept
+        : descriptor_(std::exchange(other.descriptor_, -1))
+    {}
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept
+    {
+        std::swap(descriptor_, other.descriptor_);
+        return *this;
+    }
+
+    bool isOpen() const { return descriptor_ >= 0; }
+    int get() const { return descriptor_; }
+
+    /// Closes the file now, and gives the system's error number or 0.
+    int close();
+
+private:
+    int descriptor_ = -1;
+};
+
+/// Writes bytes, however many calls it takes. Gives how many of them were written: all of them, or
+/// fewer with the system's error number in `errno`.
+std::size_t writeBytes(int descriptor, std::string_view bytes);

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "backends/portable/posix_time_zone.h"
+#include "runtime/dates.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// The moment that a file's name carries as `_YYYYMMDD_HHMMSS` before its ending; nothing when it
+/// carries none, or one that is no date.
+std::optional<Date> stampOfName(std::string_view name);
+
+/// When a file of the machine came to be, local time: its name's stamp, else the file system's
+/// birth time, else `modified`.
+Date creationTime(const std::string& machinePath, std::string_view name, const PosixTimeZone& zone,
+                  Date modified);

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+/// Names in a folder of the machine, without "." and "..", sorted without regard to case. A name
+/// with a backslash, which no Windows path reaches, is left out. Raises 76, 70.
+std::vector<std::string> namesInFolder(const std::string& machinePath);
+
+/// The size of all files in a folder of the machine and below; links are not followed. Raises 76,
+/// 70.
+std::int64_t sizeOfFolder(const std::string& machinePath);
+
+/// Removes a folder of the machine with what it holds; links are removed, not followed. Raises 76,
+/// and 70 at the first file that is read-only: what came before it is gone.
+void removeWholeFolder(const std::string& machinePath);

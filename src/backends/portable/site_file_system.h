@@ -1,0 +1,50 @@
+#pragma once
+
+#include "backends/portable/posix_time_zone.h"
+#include "backends/portable/site_paths.h"
+#include "platform/file_system.h"
+
+#include <string>
+#include <string_view>
+#include <sys/stat.h>
+#include <vector>
+
+/// The files of a site, and the machine's own behind a leading `/`.
+///
+/// A file without its owner's leave to write is read-only, whoever runs the tool. Links out of a
+/// drive, and what is neither file nor folder, are in no listing.
+class SiteFileSystem final : public FileSystem {
+public:
+    /// `paths` keeps the current folder, which started programs share, and outlives this. File
+    /// times are local in `zone`.
+    SiteFileSystem(SitePaths& paths, PosixTimeZone zone);
+
+    bool fileExists(const std::string& path) const override;
+    bool folderExists(const std::string& path) const override;
+    FileInfo file(const std::string& path) const override;
+    std::int64_t folderSize(const std::string& path) const override;
+    std::vector<FileInfo> entries(const std::string& folder) const override;
+    std::vector<std::string> matching(const std::string& pattern) const override;
+    void createFolder(const std::string& path) override;
+    void removeFolder(const std::string& path) override;
+    void copyFile(const std::string& source, const std::string& target) override;
+    void deleteFile(const std::string& path) override;
+    void clearAttributes(const std::string& path) override;
+    std::unique_ptr<TextReader> openForReading(const std::string& path) const override;
+    std::unique_ptr<TextWriter> openForAppending(const std::string& path) override;
+    std::unique_ptr<TextWriter> createTextFile(const std::string& path) override;
+    std::string specialFolder(SpecialFolder folder) const override;
+    std::string longPathName(const std::string& path) const override;
+    std::string driveName(const std::string& path) const override;
+    DiskSpace diskSpace(const std::string& drive) const override;
+    void changeDrive(const std::string& drive) override;
+    void changeFolder(const std::string& path) override;
+
+private:
+    std::string existingFile(const std::string& path) const;
+    FileInfo describe(const std::string& machinePath, std::string name,
+                      const struct stat& facts) const;
+
+    SitePaths& paths_;
+    PosixTimeZone zone_;
+};

@@ -1,0 +1,187 @@
+#include "backends/portable/site_paths.h"
+
+#include "backends/portable/posix_errors.h"
+#include "backends/portable/utf8.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <dirent.h>
+#include <memory>
+#include <optional>
+#include <sys/stat.h>
+#include <utility>
+
+namespace {
+
+constexpr int deviceUnavailable = 68;
+
+bool isSeparator(char c)
+{
+    return c == '\\' || c == '/';
+}
+
+bool isLetter(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+char upper(char c)
+{
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
+}
+
+/// The name in a folder that differs from `wanted` in case alone.
+std::optional<std::string> nameIgnoringCase(const std::string& folder, const std::string& wanted)
+{
+    const std::unique_ptr<DIR, int (*)(DIR*)> listing(
+        ::opendir(folder.empty() ? "/" : folder.c_str()), ::closedir);
+    if (!listing) return {};
+    const auto folded = foldCase(wanted);
+    std::optional<std::string> found;
+    while (const dirent* entry = ::readdir(listing.get())) {
+        const std::string_view name = entry->d_name;
+        if ((!found || name < *found) && foldCase(name) == folded) found = name;
+    }
+    return found;
+}
+
+std::string realPath(const std::string& path)
+{
+    const std::unique_ptr<char, void (*)(void*)> real(::realpath(path.c_str(), nullptr), std::free);
+    return real ? std::string(real.get()) : std::string();
+}
+
+bool isWithin(const std::string& path, const std::string& folder)
+{
+    return path.compare(0, folder.size(), folder) == 0 &&
+           (path.size() == folder.size() || path[folder.size()] == '/');
+}
+
+/// What a link in a drive leads to.
+std::string followLink(const std::string& link, const std::string& drive)
+{
+    const auto real = realPath(link);
+    if (real.empty() || !isWithin(real, realPath(drive)))
+        throw RunTimeError(runTimeErrors::permissionDenied,
+                           "Permission denied: " + link + " leads out of the site");
+    return real;
+}
+
+bool isLink(const std::string& path, bool& exists)
+{
+    struct stat facts {};
+    exists = ::lstat(path.c_str(), &facts) == 0;
+    return exists && S_ISLNK(facts.st_mode);
+}
+
+} // namespace
+
+SitePaths::SitePaths(std::string siteFolder) : siteFolder_(std::move(siteFolder))
+{
+    while (siteFolder_.size() > 1 && siteFolder_.back() == '/') siteFolder_.pop_back();
+}
+
+std::string SitePaths::driveName(std::string_view path)
+{
+    if (path.size() < 2 || path[1] != ':' || !isLetter(path[0])) return {};
+    return std::string(path.substr(0, 2));
+}
+
+SitePaths::Location SitePaths::locate(std::string_view path) const
+{
+    if (path.empty() || path.find('\0') != std::string_view::npos)
+        throw RunTimeError(runTimeErrors::badFileNumber);
+    Location location{currentDrive_, {}};
+    bool whole = isSeparator(path.front());
+    if (path.front() == '/') {
+        location.drive = 0;
+    } else if (path.size() >= 2 && path[0] == '\\' && isSeparator(path[1])) {
+        throw RunTimeError(runTimeErrors::pathNotFound);
+    } else if (!driveName(path).empty()) {
+        location.drive = upper(path.front());
+        path.remove_prefix(2);
+        whole = !path.empty() && isSeparator(path.front());
+    }
+    if (const auto current = currentFolders_.find(location.drive);
+        !whole && current != currentFolders_.end())
+        location.names = current->second;
+
+    while (!path.empty()) {
+        std::size_t end = 0;
+        while (end < path.size() && !isSeparator(path[end])) ++end;
+        const auto name = path.substr(0, end);
+        path.remove_prefix(std::min(end + 1, path.size()));
+        if (name.empty() || name == ".") continue;
+        if (name != "..") {
+            location.names.emplace_back(name);
+        } else if (!location.names.empty()) {
+            location.names.pop_back();
+        }
+    }
+    return location;
+}
+
+std::string SitePaths::driveFolder(char drive) const
+{
+    if (drive == 0) return {};
+    return siteFolder_ + "/drive_" + static_cast<char>(drive + 32);
+}
+
+std::string SitePaths::machinePathOf(const Location& location) const
+{
+    const auto drive = driveFolder(location.drive);
+    std::string path = drive;
+    bool exists = true;
+    for (const auto& name : location.names) {
+        std::string next = path + "/" + name;
+        bool link = false;
+        if (exists) {
+            link = isLink(next, exists);
+            const auto other =
+                exists || errno != ENOENT ? std::nullopt : nameIgnoringCase(path, name);
+            if (other) {
+                next = path + "/" + *other;
+                link = isLink(next, exists);
+            }
+        }
+        path = link && location.drive != 0 ? followLink(next, drive) : next;
+    }
+    return path.empty() ? "/" : path;
+}
+
+std::string SitePaths::machinePath(std::string_view path) const
+{
+    return machinePathOf(locate(path));
+}
+
+bool SitePaths::isRoot(std::string_view path) const
+{
+    return locate(path).names.empty();
+}
+
+std::string SitePaths::currentFolder() const
+{
+    return machinePathOf(locate("."));
+}
+
+void SitePaths::changeDrive(std::string_view drive)
+{
+    if (drive.empty()) return;
+    const auto name = driveName(drive);
+    struct stat facts {};
+    if (name.empty() || ::stat(driveFolder(upper(name.front())).c_str(), &facts) != 0 ||
+        !S_ISDIR(facts.st_mode))
+        throw RunTimeError(deviceUnavailable, "Device unavailable");
+    currentDrive_ = upper(name.front());
+}
+
+void SitePaths::changeFolder(std::string_view path)
+{
+    auto location = locate(path);
+    struct stat facts {};
+    if (::stat(machinePathOf(location).c_str(), &facts) != 0 || !S_ISDIR(facts.st_mode))
+        throw RunTimeError(runTimeErrors::pathNotFound);
+    if (location.drive == 0) currentDrive_ = 0;
+    currentFolders_[location.drive] = std::move(location.names);
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Maps the Windows paths of a site to paths of the machine.
+///
+/// `C:\x` is `SITE/drive_c/x`; a path that begins with `/` is the machine's own. `\` and `/` both
+/// separate. A name that is not there as given is the one that differs in case alone, the first of
+/// them in order of bytes. `..` stops at the root of a drive, and a link that leads out of its
+/// drive, or nowhere, raises 70: no path of a drive reaches what is not in it.
+class SitePaths {
+public:
+    /// `siteFolder` is a path of the machine; the current folder is the root of C:.
+    explicit SitePaths(std::string siteFolder);
+
+    const std::string& siteFolder() const { return siteFolder_; }
+
+    /// Where a path lies on the machine, whether or not something is there.
+    /// Raises 52 for the empty path and one with a zero byte, 76 for a share, 70.
+    std::string machinePath(std::string_view path) const;
+
+    /// Whether a path is the root of a drive or of the machine. Raises as `machinePath`.
+    bool isRoot(std::string_view path) const;
+
+    /// The current folder, as a path of the machine.
+    std::string currentFolder() const;
+
+    /// Takes relative paths from the current folder of a drive such as "C:"; the empty text changes
+    /// nothing. Raises 68 for a drive that is not there.
+    void changeDrive(std::string_view drive);
+
+    /// Changes the current folder of the path's drive; a path of the machine's own also leaves the
+    /// drives. Raises 76 when there is no such folder, and as `machinePath`.
+    void changeFolder(std::string_view path);
+
+    /// "C:" of "C:\x"; the empty text when a path names no drive.
+    static std::string driveName(std::string_view path);
+
+private:
+    using Names = std::vector<std::string>;
+    struct Location {
+        char drive = 'C'; ///< 0 for the machine's own
+        Names names;
+    };
+
+    Location locate(std::string_view path) const;
+    std::string machinePathOf(const Location& location) const;
+    std::string driveFolder(char drive) const;
+
+    std::string siteFolder_;
+    char currentDrive_ = 'C';
+    std::map<char, Names> currentFolders_;
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// Which raw line form the server writes.
+enum class LogFields { basic, extended };
+
+/// What `site.ini` says of a site; what it leaves out holds the default, or nothing where the
+/// machine itself gives the value.
+struct SiteSettings {
+    std::optional<std::string> computer;
+    std::optional<std::string> user;
+    std::optional<std::string> timeZone; ///< a POSIX TZ text
+    int codePage = 1252;                 ///< of log texts
+    std::optional<std::int32_t> language;
+    std::string toolFolder = "C:\\OrvanDiagnostics"; ///< without a separator at its end
+    LogFields logFields = LogFields::basic;
+
+    friend bool operator==(const SiteSettings&, const SiteSettings&) = default;
+};
+
+/// Reads the text of a `site.ini`: UTF-8, lines ending either way, comments behind `;` or `#` at
+/// the start of a line, names without regard to case. A key with nothing behind its "=" counts as
+/// left out; sections other than `[site]` are passed over.
+/// Raises 321 with the line's number, as in "site.ini line 7: ...", for anything else: an unknown
+/// or second key, a value that is none, a line that is none.
+SiteSettings parseSiteSettings(std::string_view text);
+
+/// Reads the file; the defaults when there is none. Raises as `parseSiteSettings`, and 70, 57.
+SiteSettings readSiteSettings(const std::string& path);

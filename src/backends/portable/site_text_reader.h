@@ -1,0 +1,35 @@
+#pragma once
+
+#include "backends/portable/file_descriptor.h"
+#include "platform/text_stream.h"
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+
+/// Reads a file of the machine through one buffer, which only a long line enlarges. What another
+/// program appends or cuts off meanwhile is read as it is found.
+class SiteTextReader final : public TextReader {
+public:
+    /// Raises 53 when the file is missing, 70 for what is no file.
+    explicit SiteTextReader(const std::string& machinePath);
+
+    bool atEnd() override;
+    std::string_view readLine() override;
+    std::string readAll() override;
+    void close() override;
+
+private:
+    void requireOpen() const;
+    bool fill();
+    void makeRoom();
+    std::string_view takeLine(std::size_t length, std::size_t lineEnd);
+    [[noreturn]] void passOverLine();
+
+    FileDescriptor file_;
+    std::unique_ptr<char[]> buffer_;
+    std::size_t capacity_;
+    std::size_t start_ = 0; ///< of what was not handed out yet
+    std::size_t end_ = 0;   ///< of what was read
+};

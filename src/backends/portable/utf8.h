@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// Bytes of the UTF-8 character that `text` begins with; 0 when it begins with none. Overlong
+/// forms, surrogates and what lies past U+10FFFF are no characters; nor is the empty text.
+std::size_t utf8CharacterLength(std::string_view text);
+
+bool isUtf8(std::string_view text);
+
+/// `text` with U+FFFD for each byte that belongs to no character.
+std::string validUtf8(std::string_view text);
+
+/// The code point of a whole character, as `utf8CharacterLength` delimits it.
+char32_t utf8CodePoint(std::string_view character);
+
+void appendUtf8(std::string& text, char32_t codePoint);
+
+/// UTF-16 to UTF-8; U+FFFD for a lone surrogate, and for an odd byte at the end.
+std::string utf8OfUtf16(std::string_view bytes, bool bigEndian = false);
+
+/// UTF-8 to UTF-16, lowest byte first; U+FFFD for each byte that belongs to no character.
+std::string utf16LittleEndian(std::string_view text);
+
+/// `text` with every letter in the one case by which names are compared. A byte that belongs to no
+/// character stays as it is.
+std::string foldCase(std::string_view text);

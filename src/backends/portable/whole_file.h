@@ -1,0 +1,42 @@
+#pragma once
+
+#include "backends/portable/file_descriptor.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <sys/types.h>
+
+/// All of a file of the machine. Raises `missing` (53, 76 or another number) when it is not there,
+/// 70, 57, and 14 for more than `limit` bytes.
+std::string readWholeFile(const std::string& path, int missing, std::size_t limit = 1U << 30);
+
+/// A file in the making: written under a name of its own beside the target and put in its place
+/// when it is whole. Without `commit` it leaves no trace.
+class ReplacementFile {
+public:
+    /// Raises 76 when the folder is missing, 70, 61, 57.
+    ReplacementFile(std::string target, mode_t mode);
+    ~ReplacementFile();
+
+    ReplacementFile(const ReplacementFile&) = delete;
+    ReplacementFile& operator=(const ReplacementFile&) = delete;
+
+    int descriptor() const { return file_.get(); }
+
+    /// Raises 61, 57.
+    void write(std::string_view bytes);
+
+    /// Puts the file in the target's place, over what stands there; `synced`: safe on the disk
+    /// first. Raises 61, 57, 70.
+    void commit(bool synced);
+
+private:
+    std::string target_;
+    std::string temporary_;
+    FileDescriptor file_;
+};
+
+/// Copies a file of the machine whole, with its mode and its modified time, over what stands at
+/// `target`. Raises 53 for the source, 76 for the target's folder, 70, 61, 57.
+void copyWholeFile(const std::string& source, const std::string& target);

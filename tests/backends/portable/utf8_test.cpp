@@ -1,0 +1,58 @@
+#include "backends/portable/utf8.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(Utf8, TellsCharactersFromBytesThatAreNone)
+{
+    struct Case {
+        const char* because;
+        std::string text;
+        bool valid;
+    };
+    const Case cases[] = {
+        {"nothing is valid", "", true},
+        {"ASCII", "abc", true},
+        {"two, three and four bytes", "é参\xF0\x9F\x93\x81", true},
+        {"a lone continuation byte", "\x80", false},
+        {"a single-byte code page", "caf\xE9", false},
+        {"an overlong form", "\xC0\xAF", false},
+        {"a surrogate", "\xED\xA0\x80", false},
+        {"past the last code point", "\xF4\x90\x80\x80", false},
+        {"cut short", "\xE3\x81", false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        EXPECT_EQ(c.valid, isUtf8(c.text));
+        EXPECT_TRUE(isUtf8(validUtf8(c.text)));
+        EXPECT_EQ(c.valid, validUtf8(c.text) == c.text);
+    }
+}
+
+TEST(Utf8, GoesToUtf16AndBack)
+{
+    const std::string text = "a é 参 \xF0\x9F\x93\x81 \xEF\xBF\xBF";
+
+    EXPECT_EQ(text, utf8OfUtf16(utf16LittleEndian(text)));
+    EXPECT_EQ(std::string("\x3D\xD8\xC1\xDC", 4), utf16LittleEndian("\xF0\x9F\x93\x81"));
+    EXPECT_EQ("é", utf8OfUtf16(std::string("\x00\xE9", 2), true));
+}
+
+TEST(Utf8, PutsAReplacementForHalvesOfUtf16)
+{
+    const std::string mark = "\xEF\xBF\xBD";
+
+    EXPECT_EQ(mark + "a", utf8OfUtf16(std::string("\x00\xD8\x61\x00", 4)));
+    EXPECT_EQ(mark, utf8OfUtf16(std::string("\x00\xDC", 2)));
+    EXPECT_EQ("a" + mark, utf8OfUtf16(std::string("a\0b", 3)));
+}
+
+TEST(FoldCase, MakesNamesThatDifferInCaseAloneEqual)
+{
+    EXPECT_EQ(foldCase("Größe Ébène Ωmega"), foldCase("größe éBÈNE ωMEGA"));
+    EXPECT_NE(foldCase("a_"), foldCase("aA"));
+    EXPECT_EQ("\xE9\x41", foldCase("\xE9\x61")) << "a byte that is no character stays";
+}
+
+} // namespace
