@@ -4,53 +4,63 @@
 
 namespace {
 constexpr int indexOutOfBounds = 35600;
+constexpr int nodeWasRemoved = 35605;
+} // namespace
+
+TreeView& TreeNode::tree() const
+{
+    if (!tree_) throw RunTimeError(nodeWasRemoved, "This item's control has been deleted");
+    return *tree_;
 }
 
 void TreeNode::setText(std::string text)
 {
-    tree_.assign(text_, std::move(text));
+    tree().assign(text_, std::move(text));
 }
 
 void TreeNode::setKey(std::string key)
 {
     if (key == key_) return;
-    if (!key.empty() && !tree_.byKey_.emplace(key, this).second)
+    auto& byKey = tree().byKey_;
+    if (!key.empty() && !byKey.emplace(key, this).second)
         throw RunTimeError(runTimeErrors::keyNotUnique);
-    tree_.byKey_.erase(key_);
-    tree_.assign(key_, std::move(key));
+    byKey.erase(key_);
+    tree().assign(key_, std::move(key));
 }
 
 void TreeNode::setBold(bool bold)
 {
-    tree_.assign(bold_, bold);
+    tree().assign(bold_, bold);
 }
 
 void TreeNode::setExpanded(bool expanded)
 {
-    tree_.assign(expanded_, expanded);
+    tree().assign(expanded_, expanded);
 }
 
 void TreeNode::setChecked(bool checked)
 {
-    tree_.assign(checked_, checked);
+    tree().assign(checked_, checked);
 }
 
 TreeNode* TreeNode::next() const
 {
-    const auto& siblings = parent_ ? parent_->children_ : tree_.roots_;
+    if (!tree_) return nullptr;
+    const auto& siblings = parent_ ? parent_->children_ : tree_->roots_;
     return place_ + 1 < siblings.size() ? siblings[place_ + 1] : nullptr;
 }
 
 std::string TreeNode::fullPath() const
 {
+    tree();
     return parent_ ? parent_->fullPath() + "\\" + text_ : text_;
 }
 
 void TreeNode::ensureVisible()
 {
+    tree().nodeInSight_ = this;
     for (TreeNode* above = parent_; above; above = above->parent_) above->expanded_ = true;
-    tree_.nodeInSight_ = this;
-    tree_.notify();
+    tree().notify();
 }
 
 TreeNode& TreeView::add(std::string text, std::string key)
@@ -67,7 +77,7 @@ TreeNode& TreeView::insert(TreeNode* parent, std::string text, std::string key)
 {
     if (!key.empty() && byKey_.count(key) != 0) throw RunTimeError(runTimeErrors::keyNotUnique);
     auto& siblings = parent ? parent->children_ : roots_;
-    nodes_.push_back(std::unique_ptr<TreeNode>(new TreeNode(*this, parent, siblings.size())));
+    nodes_.push_back(std::shared_ptr<TreeNode>(new TreeNode(*this, parent, siblings.size())));
     TreeNode& node = *nodes_.back();
     siblings.push_back(&node);
     node.text_ = std::move(text);
@@ -77,19 +87,39 @@ TreeNode& TreeView::insert(TreeNode* parent, std::string text, std::string key)
     return node;
 }
 
+TreeView::~TreeView()
+{
+    letGoOfNodes();
+}
+
 void TreeView::clear()
 {
+    letGoOfNodes();
+    notify();
+}
+
+void TreeView::letGoOfNodes()
+{
+    for (const auto& node : nodes_) {
+        node->tree_ = nullptr;
+        node->parent_ = nullptr;
+        node->children_.clear();
+    }
     nodeInSight_ = nullptr;
     byKey_.clear();
     roots_.clear();
     nodes_.clear();
-    notify();
 }
 
 TreeNode& TreeView::item(int index) const
 {
+    return *hold(index);
+}
+
+std::shared_ptr<TreeNode> TreeView::hold(int index) const
+{
     if (index < 1 || index > count()) throw RunTimeError(indexOutOfBounds, "Index out of bounds");
-    return *nodes_[static_cast<std::size_t>(index - 1)];
+    return nodes_[static_cast<std::size_t>(index - 1)];
 }
 
 TreeNode& TreeView::item(std::string_view key) const

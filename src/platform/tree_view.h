@@ -12,6 +12,9 @@
 class TreeView;
 
 /// A node of a tree; lives until the tree is cleared.
+///
+/// Who holds one past that, as a run does whose page fills its tree anew, finds it without
+/// relatives: changing it, or asking for its path, raises 35605.
 class TreeNode {
 public:
     TreeNode(const TreeNode&) = delete;
@@ -52,10 +55,13 @@ public:
 private:
     friend class TreeView;
     TreeNode(TreeView& tree, TreeNode* parent, std::size_t place)
-        : tree_(tree), parent_(parent), place_(place)
+        : tree_(&tree), parent_(parent), place_(place)
     {}
 
-    TreeView& tree_;
+    /// Raises 35605 when the tree let the node go.
+    TreeView& tree() const;
+
+    TreeView* tree_;
     TreeNode* parent_;
     std::size_t place_; ///< among its siblings
     std::vector<TreeNode*> children_;
@@ -69,6 +75,8 @@ private:
 /// A tree of nodes, with a check box at each when the page asks for them.
 class TreeView final : public Control {
 public:
+    ~TreeView() override;
+
     /// The person ticked or cleared a node.
     std::function<void(TreeNode&)> onNodeCheck;
 
@@ -95,6 +103,9 @@ public:
     /// A node by the order of addition, counted from 1. Raises 35600 outside 1 to `count`.
     TreeNode& item(int index) const;
 
+    /// The same node to hold on to while the tree may be filled anew.
+    std::shared_ptr<TreeNode> hold(int index) const;
+
     /// A node by its key. Raises 35601 when there is none.
     TreeNode& item(std::string_view key) const;
 
@@ -114,8 +125,9 @@ public:
 private:
     friend class TreeNode;
     TreeNode& insert(TreeNode* parent, std::string text, std::string key);
+    void letGoOfNodes();
 
-    std::vector<std::unique_ptr<TreeNode>> nodes_;
+    std::vector<std::shared_ptr<TreeNode>> nodes_;
     std::vector<TreeNode*> roots_;
     std::unordered_map<std::string, TreeNode*> byKey_;
     TreeNode* nodeInSight_ = nullptr;

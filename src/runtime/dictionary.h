@@ -3,6 +3,7 @@
 #include "runtime/run_time_error.h"
 
 #include <cstddef>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -70,5 +71,5 @@ private:
     };
     std::unordered_map<std::string, std::size_t, Hash, std::equal_to<>> positions_;
     std::vector<std::string> keys_;
-    std::vector<Item> items_;
+    std::deque<Item> items_; ///< not a vector, whose truth values can not be referred to
 };

@@ -197,3 +197,34 @@ TEST(TreeView, TenThousandNodesKeepTheirOrder)
     }
     EXPECT_EQ(10'000, walked);
 }
+
+TEST(TreeView, ANodeHeldPastAClearingHasNoRelativesAndRefusesChanges)
+{
+    TreeView tree;
+    TreeNode& root = tree.add("root");
+    tree.addChild(root, "leaf");
+    tree.add("other");
+    const std::shared_ptr<TreeNode> held = tree.hold(2);
+    const std::shared_ptr<TreeNode> heldRoot = tree.hold(1);
+    tree.clear();
+
+    EXPECT_EQ("leaf", held->text());
+    EXPECT_EQ(nullptr, held->parent());
+    EXPECT_EQ(nullptr, heldRoot->next());
+    EXPECT_EQ(0, heldRoot->children());
+    EXPECT_EQ(35605, errorNumberOf([&] { held->setBold(true); }));
+    EXPECT_EQ(35605, errorNumberOf([&] { held->setKey("key"); }));
+    EXPECT_EQ(35605, errorNumberOf([&] { held->ensureVisible(); }));
+    EXPECT_EQ(35605, errorNumberOf([&] { held->fullPath(); }));
+}
+
+TEST(TreeView, ANodeMayOutliveItsTree)
+{
+    std::shared_ptr<TreeNode> held;
+    {
+        TreeView tree;
+        tree.add("a");
+        held = tree.hold(1);
+    }
+    EXPECT_EQ(35605, errorNumberOf([&] { held->setText("b"); }));
+}

@@ -85,3 +85,12 @@ TEST(Dictionary, TakesTheEmptyTextAsAKey)
 }
 
 } // namespace
+
+TEST(Dictionary, HoldsTruthValues)
+{
+    Dictionary<bool> ticks;
+    ticks.item("GA - Trace") = true;
+    ticks.item("GA - Trace") = false;
+    EXPECT_FALSE(ticks.item("GA - Trace"));
+    EXPECT_EQ(1U, ticks.count());
+}
