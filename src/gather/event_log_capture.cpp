@@ -1,0 +1,17 @@
+#include "core/error_trap.h"
+#include "gather/importers.h"
+#include "platform/event_log_exporter.h"
+#include "platform/progress_bar.h"
+
+void mdlLogs::processWindowsEventLogFile(ToolContext& tool, const std::string& logName,
+                                         const std::string& destination,
+                                         ProgressBar& progressCurrent, Label&, Date, Date)
+{
+    ErrorTrap step{tool, "mdlLogs", "processWindowsEventLogFile"};
+    const std::string target = destination + "\\" + logName + ".csv";
+
+    step.enterProc();
+    step([&] { progressCurrent.setVisible(false); });
+    step([&] { tool.platform.eventLogExporter.exportEventLog(logName, target, 0); });
+    step.exitProc();
+}

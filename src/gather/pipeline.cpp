@@ -1,0 +1,115 @@
+#include "core/error_trap.h"
+#include "core/localisation.h"
+#include "gather/importers.h"
+#include "gather/logs.h"
+#include "platform/file_system.h"
+#include "platform/label.h"
+#include "platform/progress_bar.h"
+#include "platform/tree_view.h"
+#include "runtime/text.h"
+
+#include <memory>
+#include <utility>
+
+namespace {
+
+/// The roots of the steps tree, which are no logs.
+constexpr int rootCount = 2;
+
+/// One run of the pipeline: what it was given, and its trap.
+struct Gather {
+    ToolContext& tool;
+    ErrorTrap& step;
+    TreeView& treeview;
+    Label& label;
+    ProgressBar& progressCurrent;
+    ProgressBar& progressOverall;
+    const std::string& destination;
+    Date dateStart;
+    Date dateEnd;
+
+    std::string processing(const std::string& what) const
+    {
+        return myLoadResString(tool, 1067) + " " + what;
+    }
+};
+
+void makeDestination(Gather& run)
+{
+    bool exists = false;
+    run.step([&] { exists = run.tool.platform.files.folderExists(run.destination); });
+    if (!exists) run.step([&] { run.tool.platform.files.createFolder(run.destination); });
+}
+
+void gatherServerLog(Gather& run, const std::string& fileName)
+{
+    run.step([&] { run.label.setCaption(run.processing(fileName + "...")); });
+    run.step([&] { run.label.refresh(); });
+    if (run.dateStart != run.dateEnd) return;
+    mdlLogs::processOrvanLogFile(run.tool, fileName, run.destination, run.progressCurrent,
+                                 run.label);
+}
+
+void gatherEventLog(Gather& run, const std::string& logName)
+{
+    run.step([&] {
+        run.label.setCaption(run.processing(myLoadResString(run.tool, 1126) + " " + logName + " " +
+                                            myLoadResString(run.tool, 1040)));
+    });
+    run.step([&] { run.label.refresh(); });
+    mdlLogs::processWindowsEventLogFile(run.tool, logName, run.destination, run.progressCurrent,
+                                        run.label, run.dateStart, run.dateEnd);
+}
+
+void gatherLeaf(Gather& run, TreeNode& leaf)
+{
+    std::string path;
+    run.step([&] { leaf.setBold(true); });
+    run.step([&] { leaf.ensureVisible(); });
+    run.step([&] { run.treeview.refresh(); });
+
+    run.step([&] { path = leaf.fullPath(); });
+    const std::string log = leaf.text();
+    if (!log.empty()) {
+        if (beginsWith(path, mdlLogs::orvanLogsBranch))
+            gatherServerLog(run, log);
+        else
+            gatherEventLog(run, log);
+    }
+
+    run.step([&] { leaf.setBold(false); });
+    run.step([&] { run.progressOverall.setValue(run.progressOverall.value() + 1); });
+}
+
+/// Walks by number, as the tree may be filled anew while the person's events are let in.
+void gatherLeaves(Gather& run)
+{
+    for (int index = 1; index <= run.treeview.count(); ++index) {
+        const std::shared_ptr<TreeNode> node = run.treeview.hold(index);
+        if (node->children() > 0) continue;
+        gatherLeaf(run, *node);
+        if (mdlLogs::cancelCurrentProcess(run.tool)) {
+            mdlLogs::cancelCurrentProcess(run.tool, false);
+            return;
+        }
+    }
+}
+
+} // namespace
+
+std::string mdlLogs::processLogs(ToolContext& tool, TreeView& treeview, Label& label,
+                                 ProgressBar& progressCurrent, ProgressBar& progressOverall,
+                                 std::string destination, Date dateStart, Date dateEnd)
+{
+    ErrorTrap step{tool, "mdlLogs", "processLogs"};
+    Gather run{tool,        step,      treeview, label, progressCurrent, progressOverall,
+               destination, dateStart, dateEnd};
+
+    step.enterProc();
+    makeDestination(run);
+    step([&] { progressOverall.setMaximum(static_cast<float>(treeview.count() - rootCount)); });
+    step([&] { progressOverall.setValue(0); });
+    gatherLeaves(run);
+    step.exitProc();
+    return destination;
+}
