@@ -1,0 +1,56 @@
+-- The rows of the sample server's directory database; schema.sql comes first.
+BEGIN;
+
+INSERT INTO tbl_ConfigurationValue (FullName, Value, Type) VALUES
+    ('System.LogMgr.Broadcast.CycleDiagTimeSet', '2026-11-18 00:00:04', 7),
+    ('System.LogMgr.Broadcast.DiagGridTimeSet', '2026-11-19 09:26:31', 7),
+    ('System.LogMgr.Broadcast.WritingEnabledTimeSet', '2026-03-02 11:05:47', 7),
+    ('System.LogMgr.MaxDiagnosticMegabytesSaved', 400, 3),
+    ('System.LogMgr.OutputPath', 'C:\KelmaOrvan\Logs', 8),
+    ('System.LogMgr.WritingEnabled', 1, 11),
+    ('System.Conversation.InterDigitTimeoutSeconds', 3.5, 4),
+    ('System.Conversation.MaxLogonAttempts', 3, 3),
+    ('System.Directory.LocationId', '{0B8A4D57-93C1-4F0E-8A6D-2C5E71F4B390}', 88),
+    ('System.Directory.ReplicationPartner', NULL, 1),
+    ('System.MailboxStore.MaxMessageSeconds', 300, 3),
+    ('System.MailboxStore.PrimaryServer', 'MAIL02', 8),
+    ('System.MsgWaiting.LastResynchronisation', '2026-11-20 02:00:00', 7),
+    ('System.MsgWaiting.RetryMinutes', 5, 3),
+    ('System.Notification.PagerPauseSeconds', 2.0, 4),
+    ('System.PhoneLink.SwitchName', 'PBX-A', 8),
+    ('System.Telephony.DialoutEnabled', 1, 11),
+    ('System.Telephony.PortCount', 24, 3);
+
+INSERT INTO tbl_LoggerDiagnosticGrid (Name, ObjectId, Flags, DefaultFlags) VALUES
+    ('AddressBook', '{3685FC2D-D1A5-48C5-A82D-C47080004533}', 1, 1),
+    ('AdminAudit', '{D966E3EB-E741-4E13-ABDB-676505A180ED}', 3, 3),
+    ('CallFlow', '{57426F9A-58DE-40AB-AE0D-EC27AB93C420}', 8388615, 3),
+    ('CallHandler', '{460D2B40-DA67-412D-A303-F0873C3222CC}', 3, 3),
+    ('Codec', '{ADD99888-9FAC-490C-A898-34446EAC96D2}', 1, 1),
+    ('Conversation', '{D444B25A-CE73-4854-A311-E00EDE55F4FB}', 3, 3),
+    ('DirReader', '{9FA83E11-8979-4C0D-A87B-518B7EEFE374}', 3, 3),
+    ('DirSync', '{64443E64-E190-4294-AF97-8282C79602E5}', 3, 3),
+    ('EventBridge', '{F8D55619-FB1F-4E61-A228-A4F432DFE95D}', 1, 1),
+    ('FaxGateway', '{0A8455F3-7AF6-4C3E-ADAE-937F7AB98CF4}', 1, 1),
+    ('GreetingStore', '{55061DA1-6C21-4C59-AA98-10FEAD63A77F}', 1, 1),
+    ('LampQueue', '{C9D35534-90BC-446E-A568-290825E8FDEA}', 3, 3),
+    ('LicenseControl', '{E58F8343-E3C0-493A-ADE6-5B32843B37AA}', 3, 3),
+    ('LineSignal', '{47A6F7AD-4BDB-4CF0-A74F-DF1EC5E317BF}', 1, 1),
+    ('LogManager', '{9CE22DB7-5F2F-4B7E-A1B7-39360E1EA924}', 3, 3),
+    ('MailboxQuota', '{4E0B7931-12D5-46C3-ABB4-7ECF588350B9}', 1, 1),
+    ('MailboxStore', '{5EB00ACF-2B03-4C25-A523-23708EF3B734}', 3, 3),
+    ('MediaStream', '{30E7935D-9BCB-43A1-A67C-9D47E454784D}', 3, 3),
+    ('MessageRelay', '{D06575E2-2006-4D31-A081-52A62AA1BADA}', 3, 3),
+    ('MsgWaiting', '{BDA7A596-E7FE-4A8C-A6C2-5D26C4E18AF5}', 3, 3),
+    ('NotifyDispatch', '{A5635F11-4F71-4104-AB33-00781A6D763A}', 3, 3),
+    ('NotifyMail', '{8E02CAD6-DDC7-4391-AE54-A72C2D5732CB}', 1, 1),
+    ('NotifyPager', '{FB4EF828-4716-456B-A88A-4CB5CC0251E8}', 1, 1),
+    ('NotifySchedule', '{4205CA68-C39B-448D-A81A-684666D5BE55}', 1, 1),
+    ('PhoneLink', '{69DE2C7C-81F3-4092-AD4E-E3E600F23DBB}', 7, 3),
+    ('PortControl', '{087AA1BF-C06E-4404-A8B1-154C3420EEDC}', -2147483645, 3),
+    ('Replication', '{EE25450B-4367-4EC6-AB48-A4189A1B37B5}', 3, 3),
+    ('ResourceMonitor', '{C0BAA4D2-1324-48D8-A6CF-0E8AE879B9DA}', 3, 3),
+    ('RuleEngine', '{21433596-A6F2-4AD7-A2A6-E985D1996FAC}', 1, 1),
+    ('TextToSpeech', '{027C5CC7-84D5-49B2-A4BF-3BD8228F73AF}', 1, 1);
+
+COMMIT;
