@@ -1,0 +1,3 @@
+add_executable(fuzz_directive_file fuzz_directive_file.cpp)
+target_link_libraries(fuzz_directive_file PRIVATE orvan_cabmaker)
+target_link_options(fuzz_directive_file PRIVATE -fsanitize=fuzzer)

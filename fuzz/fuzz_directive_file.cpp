@@ -1,0 +1,50 @@
+// Any bytes are a directive file or are refused with a line number; what is accepted is fit to use.
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "cabmaker/cabinet_layout.h"
+#include "cabmaker/directive_file.h"
+#include "cabmaker/names.h"
+#include "cabmaker/site_paths.h"
+#include "runtime/run_time_error.h"
+
+namespace {
+
+void require(bool holds)
+{
+    if (!holds) std::abort();
+}
+
+void checkMember(const cabmaker::DirectiveMember& member, const cabmaker::SitePaths& paths)
+{
+    require(!member.name.empty() && member.name.size() <= cabmaker::formatLimits::nameBytes);
+    require(member.name.front() != '\\' && member.name.back() != '\\');
+    require(("\\" + member.name + "\\").find("\\..\\") == std::string::npos);
+    require(member.line > 0);
+    try {
+        const std::string path = paths.machinePath(member.source);
+        require(path.starts_with('/') && (path + "/").find("/../") == std::string::npos);
+    } catch (const RunTimeError&) {
+        // a drive or a form of path that isn't there
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static const cabmaker::SitePaths paths("", "/no-such-folder/work");
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    try {
+        const cabmaker::Directives directives = cabmaker::parseDirectives(text, "f.ddf");
+        require(!cabmaker::baseName(directives.cabinetName).empty());
+        for (const auto& member : directives.members) checkMember(member, paths);
+    } catch (const RunTimeError& error) {
+        require(error.number() == runTimeErrors::invalidCall);
+        require(error.description().starts_with("f.ddf:"));
+    }
+    return 0;
+}

@@ -1,0 +1,131 @@
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <filesystem>
+#include <new>
+#include <string>
+#include <string_view>
+#include <thread>
+
+#include "cabmaker/cabinet_maker.h"
+#include "runtime/run_time_error.h"
+
+namespace {
+
+constexpr int statusDone = 0;
+constexpr int statusFailed = 1;
+constexpr int statusUsage = 2;
+
+constexpr const char* usage = "usage: cabmaker /f FILE.DDF\n";
+
+constexpr const char* help =
+    "Packs the files that a directive file names into a cabinet.\n"
+    "\n"
+    "  /f FILE.DDF, -f FILE.DDF  the directive file\n"
+    "  --help                    shows this text\n"
+    "  --version                 shows the version\n"
+    "\n"
+    "A directive file has an item a line, in Windows-1252; names know no case:\n"
+    "\n"
+    "  .Option EXPLICIT\n"
+    "  .Set CabinetNameTemplate=..\\NAME.cab   relative to the output folder\n"
+    "  .Set Cabinet=on\n"
+    "  .Set Compress=on                       or off\n"
+    "  .Set MaxDiskSize=CDROM                 or bytes; 0 is no limit\n"
+    "  \"C:\\Temp\\FILE.csv\"                    a file to pack\n"
+    "  ; a comment\n"
+    "\n"
+    "Further variables: CabinetName1, CompressionType (MSZIP), DestinationDir,\n"
+    "DiskDirectory1 and DiskDirectoryTemplate (the output folder, disk1),\n"
+    "InfFileName (setup.inf), MaxCabinetSize, RptFileName (setup.rpt), SourceDir,\n"
+    "UniqueFiles (on).\n"
+    "\n"
+    "A path on a drive, such as C:\\x, is drive_c/x in the folder that the\n"
+    "environment variable ORVAN_SITE_DRIVES names; a path that begins with / is\n"
+    "the machine's own.\n"
+    "\n"
+    "Exit status: 0 done, 1 the cabinet could not be made, 2 wrong usage.\n";
+
+/// Holds back the signals that end a program until `check` can end the work in good order.
+class Interruption {
+public:
+    Interruption()
+    {
+        sigemptyset(&signals_);
+        for (const int number : {SIGHUP, SIGINT, SIGTERM}) sigaddset(&signals_, number);
+        pthread_sigmask(SIG_BLOCK, &signals_, nullptr);
+        std::signal(SIGXFSZ, SIG_IGN); // a file past the limit is then an error with a text
+    }
+
+    /// Raises an error once such a signal has come.
+    void check()
+    {
+        const timespec atOnce{};
+        const int number = sigtimedwait(&signals_, nullptr, &atOnce);
+        if (number < 0) return;
+        received_ = number;
+        throw RunTimeError(runTimeErrors::deviceIo, "interrupted");
+    }
+
+    /// Lets the signal that has come, if any, do what it would have done.
+    void deliver() const
+    {
+        if (received_ == 0) return;
+        std::raise(received_);
+        pthread_sigmask(SIG_UNBLOCK, &signals_, nullptr);
+    }
+
+private:
+    sigset_t signals_{};
+    int received_ = 0;
+};
+
+int makeCabinet(const std::string& directivePath, Interruption& interruption)
+{
+    const char* const drives = std::getenv("ORVAN_SITE_DRIVES");
+    const cabmaker::MadeCabinet made = cabmaker::makeCabinet(
+        directivePath, {.workingFolder = std::filesystem::current_path().string(),
+                        .drives = drives != nullptr ? drives : "",
+                        .threads = std::thread::hardware_concurrency(),
+                        .checkpoint = [&] { interruption.check(); }});
+    std::printf("%s: %zu files, %llu bytes packed into %llu\n", made.path.c_str(), made.members,
+                static_cast<unsigned long long>(made.plainBytes),
+                static_cast<unsigned long long>(made.bytes));
+    return statusDone;
+}
+
+int run(const std::string& directivePath)
+{
+    Interruption interruption;
+    std::string failure;
+    try {
+        return makeCabinet(directivePath, interruption);
+    } catch (const std::bad_alloc&) {
+        failure = "Out of memory";
+    } catch (const std::exception& error) {
+        failure = error.what();
+    }
+    std::fprintf(stderr, "cabmaker: %s\n", failure.c_str());
+    interruption.deliver();
+    return statusFailed;
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments)
+{
+    const std::string_view option = argumentCount > 1 ? arguments[1] : "";
+    if (argumentCount == 3 && (option == "/f" || option == "/F" || option == "-f"))
+        return run(arguments[2]);
+    if (argumentCount == 2 && (option == "--help" || option == "/?")) {
+        std::printf("%s\n%s", usage, help);
+        return statusDone;
+    }
+    if (argumentCount == 2 && option == "--version") {
+        std::printf("cabmaker %s\n", CABMAKER_VERSION);
+        return statusDone;
+    }
+    std::fputs(usage, stderr);
+    return statusUsage;
+}

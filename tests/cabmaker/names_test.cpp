@@ -1,0 +1,63 @@
+#include "cabmaker/names.h"
+
+#include <gtest/gtest.h>
+
+namespace cabmaker {
+
+TEST(Utf8FromWindows1252, DecodesEveryByteOfTheCodePage)
+{
+    struct Case {
+        const char* because;
+        const char* bytes;
+        const char* expected;
+    };
+    const Case cases[] = {
+        {"ASCII is the same", "Application.csv", "Application.csv"},
+        {"upper half letters take two bytes", "\xC4rger\xFF", "Ärgerÿ"},
+        {"the euro sign stands where Latin-1 has a control character", "\x80", "€"},
+        {"so do the dashes and quotes", "\x96\x97\x93\x94", "–—“”"},
+        {"a free byte keeps its number", "\x81", "\xC2\x81"},
+        {"the last of the special ones", "\x9F", "Ÿ"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        EXPECT_EQ(c.expected, utf8FromWindows1252(c.bytes));
+    }
+}
+
+TEST(FoldedName, BringsTheLettersOfTheCodePageToLowerCase)
+{
+    struct Case {
+        const char* because;
+        const char* name;
+        const char* expected;
+    };
+    const Case cases[] = {
+        {"ASCII letters", "ZMK.DDF", "zmk.ddf"},
+        {"accented letters", "ÀÖØÞ", "àöøþ"},
+        {"the multiplication sign is no letter", "×", "×"},
+        {"the sharp s has no other case here", "ß", "ß"},
+        {"letters that Latin-1 lacks", "ŠŒŽŸ", "šœžÿ"},
+        {"other scripts stay", "日本 Ω", "日本 Ω"},
+        {"a broken sequence stays", "\xC3", "\xC3"},
+        {"a lead byte without its follower stays",
+         "\xC3"
+         "A",
+         "\xC3"
+         "a"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        EXPECT_EQ(c.expected, foldedName(c.name));
+    }
+}
+
+TEST(BaseName, IsWhatStandsBehindTheLastSeparatorOfEitherKind)
+{
+    EXPECT_EQ("a.csv", baseName("C:\\Temp\\a.csv"));
+    EXPECT_EQ("a.csv", baseName("/tmp/x\\y/a.csv"));
+    EXPECT_EQ("a.csv", baseName("a.csv"));
+    EXPECT_EQ("", baseName("C:\\Temp\\"));
+}
+
+} // namespace cabmaker
