@@ -1,0 +1,3 @@
+# Makes the input of cabinet_benchmark.sh.
+add_executable(cabinet_benchmark_input cabinet_benchmark_input.cpp)
+target_link_libraries(cabinet_benchmark_input PRIVATE orvan_options)
