@@ -13,6 +13,7 @@ constexpr int fileNotFound = 3024;    ///< no such database file
 constexpr int diskFull = 3026;        ///< the disk or the quota holds no more
 constexpr int readOnly = 3027;        ///< the table is not one that rows may be added to
 constexpr int fileInUse = 3045;       ///< another writer has the database open
+constexpr int rowTooLarge = 3047;     ///< the row's texts together are more than a page holds
 constexpr int cannotOpen = 3051;      ///< the file may not be opened for writing
 constexpr int noSuchTable = 3078;     ///< no table of that name
 constexpr int fieldTooSmall = 3163;   ///< a text is longer than its column
@@ -64,7 +65,7 @@ public:
 
     /// Stores the row. On return it is in the file, even if the program is killed at once. A failed
     /// update stores nothing, leaves the rows before it whole, and the row is still being added.
-    /// Raises 3020, 3026, 3183, 3420.
+    /// Raises 3020, 3026, 3047, 3183, 3420.
     virtual void update() = 0;
 
     /// Lets the table go; a row that was begun is dropped. Raises 3420 when it is closed already.

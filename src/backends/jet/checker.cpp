@@ -1,0 +1,109 @@
+#include "backends/jet/reader.h"
+
+#include "backends/jet/errors.h"
+#include "runtime/run_time_error.h"
+
+#include <map>
+#include <set>
+
+namespace jet {
+
+namespace {
+
+/// Walks a file's tables and writes down what does not agree.
+class Checker {
+public:
+    explicit Checker(const Pages& pages) : pages_(pages)
+    {
+        const auto free = pages.usageMap({globalMapPage, 0});
+        free_.insert(free.begin(), free.end());
+    }
+
+    std::vector<std::string> check(const std::vector<TableDefinition>& tables)
+    {
+        for (const auto& table : tables) {
+            try {
+                checkTable(table);
+            } catch (const RunTimeError& error) {
+                report(table.name + ": " + error.description());
+            }
+        }
+        return std::move(problems_);
+    }
+
+private:
+    void report(const std::string& problem) { problems_.push_back(problem); }
+
+    void checkTable(const TableDefinition& table)
+    {
+        claim(table.page, table.name);
+        checkMaps(table.name, table.ownedPages, table.freePages, table.page);
+        for (const auto& column : table.columns) {
+            if (column.isLongValue() && column.ownedPages.page != 0)
+                checkMaps(table.name + "." + column.name, column.ownedPages, column.freePages,
+                          dataPage::longValueOwner);
+        }
+        std::uint32_t found = 0;
+        Rows rows(pages_, table);
+        for (; rows.next(); ++found) {
+            for (std::size_t column = 0; column < table.columns.size(); ++column) rows.text(column);
+        }
+        if (found != table.rowCount)
+            report(table.name + ": " + std::to_string(found) + " rows, counted as " +
+                   std::to_string(table.rowCount));
+    }
+
+    void checkMaps(const std::string& name, RowPointer owned, RowPointer free, std::uint32_t owner)
+    {
+        std::set<std::uint32_t> members;
+        for (const std::uint32_t page : pages_.usageMap(owned)) {
+            members.insert(page);
+            claim(page, name);
+            checkPage(page, pages_.dataOf(page, owner));
+        }
+        for (const std::uint32_t page : pages_.usageMap(free)) {
+            if (members.count(page) == 0)
+                report(name + ": page " + std::to_string(page) + " has room but no owner");
+        }
+    }
+
+    void claim(std::uint32_t page, const std::string& name)
+    {
+        const auto [place, first] = owners_.emplace(page, name);
+        if (!first)
+            report("page " + std::to_string(page) + " belongs to " + place->second + " and " +
+                   name);
+        if (free_.count(page) != 0)
+            report("page " + std::to_string(page) + " of " + name + " counts as free");
+    }
+
+    void checkPage(std::uint32_t number, const char* page)
+    {
+        const unsigned rows = rowsOn(page);
+        std::size_t lowest = pageSize;
+        for (unsigned row = 0; row < rows; ++row) {
+            const std::size_t start =
+                load16(page + dataPage::slots + 2 * std::size_t{row}) & dataPage::offsetMask;
+            if (start > lowest) report("page " + std::to_string(number) + ": rows overlap");
+            lowest = start;
+        }
+        const std::size_t used = dataPage::slots + 2 * std::size_t{rows};
+        if (rows > dataPage::mostRows || lowest < used ||
+            lowest - used != load16(page + dataPage::freeBytes))
+            report("page " + std::to_string(number) + ": free bytes or rows");
+    }
+
+    const Pages& pages_;
+    std::set<std::uint32_t> free_;
+    std::map<std::uint32_t, std::string> owners_;
+    std::vector<std::string> problems_;
+};
+
+} // namespace
+
+std::vector<std::string> Reader::problems() const
+{
+    return Checker(pages_).check(tables_);
+}
+
+} // namespace jet

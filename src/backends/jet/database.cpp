@@ -1,0 +1,41 @@
+#include "backends/jet/database.h"
+
+#include "backends/jet/catalog.h"
+#include "runtime/text.h"
+
+#include <algorithm>
+
+namespace jet {
+
+Database::Database(const std::string& path)
+    : file_(path), globalMap_(checked(file_)), tables_(readCatalog(file_.pages()))
+{
+    file_.dropPartialPage();
+    dropUnusedTail();
+}
+
+const TableDefinition* Database::find(std::string_view name) const
+{
+    const auto found = std::find_if(tables_.begin(), tables_.end(), [&](const auto& table) {
+        return equalIgnoringCase(table.name, name);
+    });
+    return found == tables_.end() ? nullptr : &*found;
+}
+
+PageFile& Database::checked(PageFile& file)
+{
+    checkHeader(file.pages());
+    return file;
+}
+
+void Database::dropUnusedTail()
+{
+    const auto isUnused = [&](std::uint32_t number) {
+        const char* page = file_.page(number);
+        return std::all_of(page, page + pageSize, [](char byte) { return byte == 0; }) &&
+               !globalMap_.isUsed(number);
+    };
+    while (file_.count() > 1 && isUnused(file_.count() - 1)) file_.giveBack(1);
+}
+
+} // namespace jet

@@ -1,0 +1,45 @@
+// Makes a blank database of a schema: jet_make_template SCHEMA DATABASE.
+
+#include "backends/jet/blank_database.h"
+#include "runtime/run_time_error.h"
+
+#include <cstdio>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+
+namespace {
+
+/// Writes beside the target and then renames, so that nobody sees half a file.
+bool writeFile(const std::string& path, const std::string& bytes)
+{
+    const std::string temporary = path + ".new";
+    std::ofstream file(temporary, std::ios::binary | std::ios::trunc);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    return file.good() && std::rename(temporary.c_str(), path.c_str()) == 0;
+}
+
+} // namespace
+
+int main(int count, char** arguments)
+{
+    if (count != 3) {
+        std::cerr << "usage: jet_make_template SCHEMA DATABASE\n";
+        return 2;
+    }
+    std::ifstream schema(arguments[1], std::ios::binary);
+    std::ostringstream text;
+    text << schema.rdbuf();
+    if (!schema) {
+        std::cerr << "jet_make_template: cannot read " << arguments[1] << "\n";
+        return 1;
+    }
+    try {
+        if (writeFile(arguments[2], jet::blankDatabase(jet::parseSchema(text.str())))) return 0;
+        std::cerr << "jet_make_template: cannot write " << arguments[2] << "\n";
+    } catch (const RunTimeError& error) {
+        std::cerr << "jet_make_template: " << arguments[1] << ": " << error.description() << "\n";
+    }
+    return 1;
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "backends/jet/format.h"
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace jet {
+
+/// The pages of a file that lies in memory. Every look at one checks that it is there.
+class Pages {
+public:
+    /// `image` stays alive while the pages are used; a part of a page at its end is not seen.
+    explicit Pages(std::string_view image)
+        : base_(image.data()), count_(static_cast<std::uint32_t>(image.size() / pageSize))
+    {}
+
+    std::uint32_t count() const { return count_; }
+
+    /// The 4096 bytes of a page. Raises 3343 when the file has no such page.
+    const char* at(std::uint32_t page) const;
+
+    /// The same for a page of a type and, for data pages, an owner. Raises 3343 for another.
+    const char* at(std::uint32_t page, PageType type) const;
+    const char* dataOf(std::uint32_t page, std::uint32_t owner) const;
+
+    /// The bytes of a row. Raises 3343 when the page has no such row.
+    std::string_view row(RowPointer at) const;
+
+    /// The pages in a usage map, ascending; those past the end of the file are left out.
+    std::vector<std::uint32_t> usageMap(RowPointer at) const;
+
+private:
+    const char* base_;
+    std::uint32_t count_;
+};
+
+/// How many rows a data page holds, those of a damaged page that can't be there left out.
+unsigned rowsOn(const char* page);
+
+/// The bytes of a row that is on the page; empty for one that was deleted or moved.
+std::string_view rowOn(const char* page, unsigned row);
+
+} // namespace jet

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "backends/jet/row_view.h"
+#include "backends/jet/table_definition.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace jet {
+
+/// The rows of a table, one after the other, in the order of their pages.
+///
+///     for (auto rows = reader.rows(table); rows.next();) use(rows.text(0));
+class Rows {
+public:
+    Rows(const Pages& pages, const TableDefinition& table);
+
+    /// Moves to the next row, at first to the first. False when there are no more. Raises 3343.
+    bool next();
+
+    /// Columns are counted from 0, in the table's order; the table says how many there are.
+    bool isNull(std::size_t column) const;
+
+    /// A value as UTF-8: texts as they are, numbers in decimal form, dates as days since 30
+    /// December 1899, booleans as 0 or 1, everything else as hexadecimal digits; Null as the empty
+    /// text. Raises 3343.
+    std::string text(std::size_t column) const;
+
+    /// The value of a column of whole numbers; 0 for Null and for other types. Raises 3343.
+    std::int64_t number(std::size_t column) const;
+
+private:
+    Pages pages_;
+    const TableDefinition& table_;
+    std::vector<std::uint32_t> numbers_; ///< of the table's pages
+    std::size_t nextPage_ = 0;
+    const char* page_ = nullptr;
+    unsigned nextRow_ = 0;
+    RowView row_;
+};
+
+/// A Jet 4 file that lies in memory, for looking at what it holds.
+///
+/// It makes no use of indexes and follows what the file says no further than the file goes: any
+/// bytes at all are either read or refused with 3343.
+class Reader {
+public:
+    /// `image` stays alive while the reader is used. Raises 3343.
+    explicit Reader(std::string_view image);
+
+    /// The tables that people made, in the order of the catalog.
+    const std::vector<TableDefinition>& tables() const { return tables_; }
+
+    /// A table by name, without regard to case; null for none.
+    const TableDefinition* find(std::string_view name) const;
+
+    /// `table` is one of this reader's. Raises 3343.
+    Rows rows(const TableDefinition& table) const { return Rows(pages_, table); }
+
+    /// What is wrong with the file beyond what reading would notice: pages that two things claim or
+    /// that count as free, rows that overlap, counts that differ. Sound files give an empty list.
+    std::vector<std::string> problems() const;
+
+private:
+    Pages pages_;
+    std::vector<TableDefinition> tables_;
+};
+
+} // namespace jet

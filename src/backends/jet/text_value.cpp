@@ -1,0 +1,213 @@
+#include "backends/jet/text_value.h"
+
+#include "backends/jet/format.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace jet {
+
+namespace {
+
+constexpr char16_t replacement = 0xFFFD;
+constexpr char16_t byteOrderMark = 0xFEFF;
+constexpr std::string_view compressedMark = "\xFF\xFE";
+
+/// Whether every byte is 0x01..0x7F; eight at a time, as this is asked of every text stored.
+bool isPlainAscii(std::string_view text)
+{
+    constexpr std::uint64_t ones = 0x0101'0101'0101'0101;
+    constexpr std::uint64_t highs = 0x8080'8080'8080'8080;
+    const char* at = text.data();
+    std::size_t left = text.size();
+    std::uint64_t found = 0;
+    for (; left >= 8; at += 8, left -= 8) {
+        std::uint64_t word;
+        std::memcpy(&word, at, sizeof word);
+        found |= (word | (word - ones)) & highs;
+    }
+    for (; left > 0; ++at, --left) {
+        if (*at <= 0) return false;
+    }
+    return found == 0;
+}
+
+bool isSurrogate(char32_t character)
+{
+    return character >= 0xD800 && character <= 0xDFFF;
+}
+
+char16_t storable(char16_t character)
+{
+    const bool fits = character != 0 && character != byteOrderMark && !isSurrogate(character);
+    return fits ? character : replacement;
+}
+
+/// One character of UTF-8 at `at`, which moves past it; U+FFFD for a byte that begins none.
+char32_t nextUtf8(std::string_view text, std::size_t& at)
+{
+    const auto first = static_cast<unsigned char>(text[at++]);
+    if (first < 0x80) return first;
+    const unsigned extra = first >= 0xF0 ? 3 : first >= 0xE0 ? 2 : 1;
+    if (first < 0xC2 || first > 0xF4) return replacement;
+    char32_t character = first & (0x3Fu >> extra);
+    for (unsigned count = 0; count < extra; ++count) {
+        if (at + count >= text.size()) return replacement;
+        const auto next = static_cast<unsigned char>(text[at + count]);
+        if ((next & 0xC0) != 0x80) return replacement;
+        character = character << 6 | (next & 0x3F);
+    }
+    constexpr char32_t least[] = {0, 0x80, 0x800, 0x10000};
+    if (character < least[extra] || character > 0x10FFFF || isSurrogate(character))
+        return replacement;
+    at += extra;
+    return character;
+}
+
+void appendUtf16(std::u16string& to, char32_t character)
+{
+    if (character < 0x10000) {
+        to.push_back(static_cast<char16_t>(character));
+        return;
+    }
+    to.push_back(static_cast<char16_t>(0xD7C0 + (character >> 10)));
+    to.push_back(static_cast<char16_t>(0xDC00 | (character & 0x3FF)));
+}
+
+void appendUtf8(std::string& to, char32_t character)
+{
+    const auto tail = [&](int shift) {
+        to.push_back(static_cast<char>(0x80 | (character >> shift & 0x3F)));
+    };
+    if (character < 0x80) {
+        to.push_back(static_cast<char>(character));
+    } else if (character < 0x800) {
+        to.push_back(static_cast<char>(0xC0 | character >> 6));
+        tail(0);
+    } else if (character < 0x10000) {
+        to.push_back(static_cast<char>(0xE0 | character >> 12));
+        tail(6);
+        tail(0);
+    } else {
+        to.push_back(static_cast<char>(0xF0 | character >> 18));
+        tail(12);
+        tail(6);
+        tail(0);
+    }
+}
+
+/// The characters of stored bytes. In the compressed form a zero byte switches between one and two
+/// bytes a character.
+std::u16string storedCharacters(std::string_view stored)
+{
+    std::u16string text;
+    const bool marked = stored.substr(0, compressedMark.size()) == compressedMark;
+    bool oneByte = marked;
+    for (std::size_t at = marked ? compressedMark.size() : 0; at < stored.size();) {
+        const auto low = static_cast<unsigned char>(stored[at++]);
+        if (marked && low == 0) {
+            oneByte = !oneByte;
+        } else if (oneByte) {
+            text.push_back(low);
+        } else if (at < stored.size()) {
+            const auto high = static_cast<unsigned char>(stored[at++]);
+            text.push_back(static_cast<char16_t>(high << 8 | low));
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+void TextValue::assign(std::string_view bytes, const CodePage& codePage)
+{
+    source_.assign(bytes);
+    ascii_ = isPlainAscii(bytes);
+    if (ascii_) return;
+    wide_.resize(bytes.size());
+    std::transform(bytes.begin(), bytes.end(), wide_.begin(),
+                   [&](char byte) { return storable(codePage.character(byte)); });
+    takeWide();
+}
+
+void TextValue::assignUtf8(std::string_view text)
+{
+    source_.assign(text);
+    ascii_ = isPlainAscii(text);
+    if (ascii_) return;
+    wide_.clear();
+    for (std::size_t at = 0; at < text.size();) {
+        const char32_t character = nextUtf8(text, at);
+        appendUtf16(wide_, character == 0 ? replacement : character);
+    }
+    wide_.erase(0, wide_.find_first_not_of(byteOrderMark));
+    takeWide();
+}
+
+void TextValue::clear()
+{
+    source_.clear();
+    ascii_ = true;
+}
+
+void TextValue::takeWide()
+{
+    latin_ = std::all_of(wide_.begin(), wide_.end(), [](char16_t unit) { return unit <= 0xFF; });
+}
+
+void TextValue::writeCompressed(char* to) const
+{
+    std::memcpy(to, compressedMark.data(), compressedMark.size());
+    to += compressedMark.size();
+    if (ascii_) {
+        std::memcpy(to, source_.data(), source_.size());
+    } else {
+        std::transform(wide_.begin(), wide_.end(), to,
+                       [](char16_t unit) { return static_cast<char>(unit); });
+    }
+}
+
+void TextValue::writePlain(char* to) const
+{
+    if (!ascii_) {
+        std::memcpy(to, wide_.data(), plainSize(wide_.size()));
+        return;
+    }
+    for (const char byte : source_) {
+        *to++ = byte;
+        *to++ = 0;
+    }
+}
+
+std::string decodeStoredText(std::string_view stored)
+{
+    const std::u16string units = storedCharacters(stored);
+    std::string text;
+    text.reserve(units.size());
+    for (std::size_t at = 0; at < units.size(); ++at) {
+        const char16_t unit = units[at];
+        if (!isSurrogate(unit)) {
+            appendUtf8(text, unit);
+            continue;
+        }
+        const char16_t next = at + 1 < units.size() ? units[at + 1] : u'\0';
+        if (unit < 0xDC00 && next >= 0xDC00 && next <= 0xDFFF) {
+            appendUtf8(text, 0x10000u + ((unit - 0xD800u) << 10) + (next - 0xDC00u));
+            ++at;
+        } else {
+            appendUtf8(text, replacement);
+        }
+    }
+    return text;
+}
+
+std::string encodeName(std::string_view name)
+{
+    TextValue value;
+    value.assignUtf8(name);
+    std::string stored(plainSize(value.characters()), '\0');
+    value.writePlain(stored.data());
+    return stored;
+}
+
+} // namespace jet

@@ -1,0 +1,67 @@
+#include "backends/jet/scratch_database.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <stdlib.h>
+
+std::string bytesOfFile(const std::filesystem::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    EXPECT_TRUE(file.good()) << path;
+    return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+std::vector<TextRow> rowsOf(const std::filesystem::path& path, const std::string& table)
+{
+    const std::string image = bytesOfFile(path);
+    const jet::Reader reader(image);
+    const jet::TableDefinition* found = reader.find(table);
+    if (found == nullptr) {
+        ADD_FAILURE() << "no table " << table;
+        return {};
+    }
+    std::vector<TextRow> texts;
+    for (auto rows = reader.rows(*found); rows.next();) {
+        TextRow& row = texts.emplace_back();
+        for (std::size_t column = 0; column < found->columns.size(); ++column) {
+            if (!rows.isNull(column)) row[found->columns[column].name] = rows.text(column);
+        }
+    }
+    return texts;
+}
+
+std::string problemsOf(const std::filesystem::path& path)
+{
+    const std::string image = bytesOfFile(path);
+    std::string lines;
+    for (const auto& problem : jet::Reader(image).problems()) lines += problem + "\n";
+    return lines;
+}
+
+jet::Schema traceSchema()
+{
+    return jet::parseSchema(bytesOfFile(ORVAN_TRACE_SCHEMA));
+}
+
+ScratchDatabase::ScratchDatabase() : ScratchDatabase(traceSchema()) {}
+
+ScratchDatabase::ScratchDatabase(const jet::Schema& schema)
+{
+    std::string folder = (std::filesystem::temp_directory_path() / "orvan_jet_XXXXXX").string();
+    if (mkdtemp(folder.data()) == nullptr) ADD_FAILURE() << "no scratch folder";
+    path_ = std::filesystem::path(folder) / "trace.mdb";
+    std::ofstream(path_, std::ios::binary) << jet::blankDatabase(schema);
+}
+
+ScratchDatabase::~ScratchDatabase()
+{
+    std::error_code ignored;
+    std::filesystem::remove_all(folder(), ignored);
+}
+
+jet::JetEngine machineEngine()
+{
+    return jet::JetEngine([](const std::string& path) { return path; });
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "backends/jet/blank_database.h"
+#include "backends/jet/jet_engine.h"
+#include "backends/jet/reader.h"
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+/// A row as texts by column name, without those that are Null.
+using TextRow = std::map<std::string, std::string>;
+
+/// The bytes of a file; an unreadable one is a failed test.
+std::string bytesOfFile(const std::filesystem::path& path);
+
+/// The rows of a table of a file, read back.
+std::vector<TextRow> rowsOf(const std::filesystem::path& path, const std::string& table);
+
+/// What the checker says of a file, one problem a line.
+std::string problemsOf(const std::filesystem::path& path);
+
+/// The schema that the tool's template is made of.
+jet::Schema traceSchema();
+
+/// A database file of a test's own, with the tables of a gather; it goes with the object.
+class ScratchDatabase {
+public:
+    ScratchDatabase();
+    explicit ScratchDatabase(const jet::Schema& schema);
+    ~ScratchDatabase();
+    ScratchDatabase(const ScratchDatabase&) = delete;
+    ScratchDatabase& operator=(const ScratchDatabase&) = delete;
+
+    const std::filesystem::path& path() const { return path_; }
+    std::filesystem::path folder() const { return path_.parent_path(); }
+
+    std::vector<TextRow> rows(const std::string& table) const { return rowsOf(path_, table); }
+
+private:
+    std::filesystem::path path_;
+};
+
+/// An engine that takes paths of this machine.
+jet::JetEngine machineEngine();
