@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+class OpenForm;
 class ScopeItem;
 class WSInfo;
 
@@ -20,7 +21,8 @@ struct LanguageState {
     std::int32_t g_hResourceLibrary = 0;   ///< 0 when no library is loaded
     std::int32_t g_lngCurrentLanguage = 0; ///< 0 when none is chosen yet
     std::vector<std::string>
-        g_astrLanguages; ///< codes of the libraries found; never empty once filled
+        g_astrLanguages;              ///< codes of the libraries found; never empty once filled
+    std::vector<OpenForm*> openForms; ///< in the order of their opening
 };
 
 /// The tool's whole state: every global variable and the services that the tool is given.

@@ -1,0 +1,119 @@
+#include "core/localisation.h"
+
+#include "core/error_trap.h"
+#include "core/registry_store.h"
+#include "core/string_table.h"
+#include "core/tool_context.h"
+#include "platform/desktop.h"
+#include "platform/file_system.h"
+#include "platform/host_module.h"
+#include "platform/languages.h"
+#include "runtime/numbers.h"
+#include "runtime/run_time_error.h"
+#include "runtime/text.h"
+
+#include <optional>
+
+namespace {
+
+constexpr std::string_view libraryPrefix = "ZMKbrandingres_";
+constexpr std::size_t codeLength = 3;
+
+/// Runs statements one by one and shows each failure to the person at the console.
+class ShowingTrap {
+public:
+    explicit ShowingTrap(ToolContext& tool) : tool_(tool) {}
+
+    template <std::invocable Statement>
+    void operator()(Statement&& statement)
+    {
+        try {
+            statement();
+        } catch (const RunTimeError& error) {
+            tool_.platform.desktop.messageBox("Error in InitalizeLanguages: " + error.description(),
+                                              tool_.platform.module.name(), MessageIcon::none);
+        }
+    }
+
+private:
+    ToolContext& tool_;
+};
+
+std::string libraryPath(ToolContext& tool)
+{
+    return tool.platform.module.folder() + "\\" + std::string(libraryPrefix) +
+           codeFromLanguageId(tool.language.g_lngCurrentLanguage) + ".dll";
+}
+
+/// The codes that the names of the libraries in a folder listing hold; one empty code for none, so
+/// that one library found and none found look alike.
+std::vector<std::string> codesOf(const std::vector<FileInfo>& entries)
+{
+    std::vector<std::string> codes;
+    for (const FileInfo& entry : entries) {
+        if (entry.folder) continue;
+        const std::string_view name = entry.name;
+        if (equalIgnoringCase(name.substr(0, libraryPrefix.size()), libraryPrefix))
+            codes.emplace_back(name.substr(libraryPrefix.size(), codeLength));
+    }
+    if (codes.empty()) codes.emplace_back();
+    return codes;
+}
+
+} // namespace
+
+std::string myLoadResString(ToolContext& tool, int id)
+{
+    ErrorTrap step{tool, "modLocalize", "myLoadResString"};
+    std::optional<std::string> text;
+
+    step([&] { text = tool.platform.languages.text(tool.language.g_hResourceLibrary, id); });
+    return text && !text->empty() ? *text : std::string(englishText(id));
+}
+
+void InitalizeLanguages(ToolContext& tool)
+{
+    ShowingTrap step{tool};
+    LanguageState& language = tool.language;
+    Languages& libraries = tool.platform.languages;
+    std::vector<FileInfo> entries;
+    bool keyExists = false;
+
+    if (language.g_lngCurrentLanguage == 0)
+        step([&] { language.g_lngCurrentLanguage = libraries.userDefaultLanguage(); });
+    if (language.g_hResourceLibrary > 0)
+        step([&] { libraries.freeLibrary(language.g_hResourceLibrary); });
+    language.g_hResourceLibrary = 0;
+    step([&] { language.g_hResourceLibrary = libraries.loadLibrary(libraryPath(tool)); });
+
+    step([&] { keyExists = registryKeyExists(tool, HKEY_LOCAL_MACHINE, toolKey); });
+    if (!keyExists) step([&] { createRegistryKey(tool, HKEY_LOCAL_MACHINE, toolKey); });
+    step([&] {
+        setRegistryValue(tool, HKEY_LOCAL_MACHINE, toolKey, "CurrentLocalizationLanguage", REG_SZ,
+                         numberText(std::int64_t{language.g_lngCurrentLanguage}));
+    });
+
+    step([&] { entries = tool.platform.files.entries(tool.platform.module.folder()); });
+    language.g_astrLanguages = codesOf(entries);
+    for (OpenForm* form : language.openForms)
+        step([&] { applyLanguageFontToAll(tool, form->controls()); });
+}
+
+void applyLanguageFont(ToolContext& tool, FontTarget& control)
+{
+    try {
+        control.setFont(fontOfLanguage(tool.language.g_lngCurrentLanguage));
+    } catch (const RunTimeError&) {
+        // Many objects have no font, or not this one.
+    }
+}
+
+void applyLanguageFontToAll(ToolContext& tool, const std::vector<FontTarget*>& controls)
+{
+    for (FontTarget* control : controls) applyLanguageFont(tool, *control);
+}
+
+std::string userLanguageCode(ToolContext& tool)
+{
+    return codeFromLanguageId(tool.platform.languages.userDefaultLanguage());
+}
