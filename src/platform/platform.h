@@ -1,7 +1,6 @@
 #pragma once
 
 class Clock;
-class DatabaseConnection;
 class Desktop;
 class EventLogExporter;
 class EventReporter;
@@ -12,7 +11,6 @@ class Processes;
 class Registry;
 class TimeZoneService;
 class Workstation;
-class XmlService;
 
 /// Every service that the tool is given. A host owns them and outlives the tool.
 struct Platform {
@@ -27,6 +25,4 @@ struct Platform {
     HostModule& module;
     Languages& languages;
     Desktop& desktop;
-    DatabaseConnection& connection;
-    XmlService& xml;
 };

@@ -50,8 +50,7 @@ std::vector<std::string> linesOf(const std::string& text)
 
 TestTool::TestTool()
     : platform{files,     registry,    clock,  timeZone,  eventReporter, eventLogExporter,
-               processes, workstation, module, languages, desktop,       database,
-               xml},
+               processes, workstation, module, languages, desktop},
       context(platform)
 {
     files.withFolder(module.folderPath);

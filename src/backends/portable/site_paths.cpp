@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <dirent.h>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <sys/stat.h>
@@ -77,7 +78,8 @@ bool isLink(const std::string& path, bool& exists)
 
 } // namespace
 
-SitePaths::SitePaths(std::string siteFolder) : siteFolder_(std::move(siteFolder))
+SitePaths::SitePaths(const std::string& siteFolder)
+    : siteFolder_(std::filesystem::absolute(siteFolder).string())
 {
     while (siteFolder_.size() > 1 && siteFolder_.back() == '/') siteFolder_.pop_back();
 }

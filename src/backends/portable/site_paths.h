@@ -14,8 +14,9 @@
 class SitePaths {
 public:
     /// `siteFolder` is a path of the machine; the current folder is the root of C:.
-    explicit SitePaths(std::string siteFolder);
+    explicit SitePaths(const std::string& siteFolder);
 
+    /// As a whole path, without a separator at its end.
     const std::string& siteFolder() const { return siteFolder_; }
 
     /// Where a path lies on the machine, whether or not something is there.

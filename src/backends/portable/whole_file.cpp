@@ -61,8 +61,13 @@ ssize_t copySome(int from, int to, int& way)
 
 std::string readWholeFile(const std::string& path, int missing, std::size_t limit)
 {
-    FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!file.isOpen()) throw posixError(errno, missing);
+    return readWholeFile(file, missing, limit);
+}
+
+std::string readWholeFile(const FileDescriptor& file, int missing, std::size_t limit)
+{
     struct stat facts {};
     std::string bytes;
     if (::fstat(file.get(), &facts) == 0 && facts.st_size > 0)
@@ -97,15 +102,11 @@ void ReplacementFile::write(std::string_view bytes)
 
 void ReplacementFile::commit(bool synced)
 {
-    if (synced && ::fsync(file_.get()) != 0) throw posixError(errno, runTimeErrors::deviceIo);
+    if (synced && ::fdatasync(file_.get()) != 0) throw posixError(errno, runTimeErrors::deviceIo);
     if (const int error = file_.close()) throw posixError(error, runTimeErrors::deviceIo);
     if (::rename(temporary_.c_str(), target_.c_str()) != 0)
         throw posixError(errno, runTimeErrors::pathNotFound);
     temporary_.clear();
-    if (!synced) return;
-    const FileDescriptor folder(
-        ::open(folderOf(target_).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (folder.isOpen()) ::fsync(folder.get());
 }
 
 void copyWholeFile(const std::string& source, const std::string& target)

@@ -11,6 +11,9 @@
 /// 70, 57, and 14 for more than `limit` bytes.
 std::string readWholeFile(const std::string& path, int missing, std::size_t limit = 1U << 30);
 
+/// All of an open file from where it stands. Raises as the other.
+std::string readWholeFile(const FileDescriptor& file, int missing, std::size_t limit = 1U << 30);
+
 /// A file in the making: written under a name of its own beside the target and put in its place
 /// when it is whole. Without `commit` it leaves no trace.
 class ReplacementFile {

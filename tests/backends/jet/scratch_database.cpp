@@ -1,7 +1,5 @@
 #include "backends/jet/scratch_database.h"
 
-#include "backends/jet/mapped_file.h"
-
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -17,8 +15,8 @@ std::string bytesOfFile(const std::filesystem::path& path)
 
 std::vector<TextRow> rowsOf(const std::filesystem::path& path, const std::string& table)
 {
-    const jet::MappedFile file(path.string());
-    const jet::Reader reader(file.bytes());
+    const std::string image = bytesOfFile(path);
+    const jet::Reader reader(image);
     const jet::TableDefinition* found = reader.find(table);
     if (found == nullptr) {
         ADD_FAILURE() << "no table " << table;
@@ -36,9 +34,9 @@ std::vector<TextRow> rowsOf(const std::filesystem::path& path, const std::string
 
 std::string problemsOf(const std::filesystem::path& path)
 {
-    const jet::MappedFile file(path.string());
+    const std::string image = bytesOfFile(path);
     std::string lines;
-    for (const auto& problem : jet::Reader(file.bytes()).problems()) lines += problem + "\n";
+    for (const auto& problem : jet::Reader(image).problems()) lines += problem + "\n";
     return lines;
 }
 

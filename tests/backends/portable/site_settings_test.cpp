@@ -1,5 +1,6 @@
 #include "backends/portable/site_settings.h"
 
+#include "runtime/run_time_error.h"
 #include "temporary_folder.h"
 
 #include <gmock/gmock.h>

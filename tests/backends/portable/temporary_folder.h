@@ -3,11 +3,10 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <iterator>
 #include <string>
 
-#include "runtime/run_time_error.h"
+#include "support/error_of.h"
 
 /// A folder of the machine for one test, gone with the object.
 class TemporaryFolder {
@@ -58,25 +57,3 @@ public:
 private:
     std::string path_;
 };
-
-/// The number of the run-time error that a call raises, 0 for none.
-inline int errorOf(const std::function<void()>& call)
-{
-    try {
-        call();
-        return 0;
-    } catch (const RunTimeError& error) {
-        return error.number();
-    }
-}
-
-/// The text of the run-time error that a call raises, the empty text for none.
-inline std::string errorTextOf(const std::function<void()>& call)
-{
-    try {
-        call();
-        return {};
-    } catch (const RunTimeError& error) {
-        return error.description();
-    }
-}

@@ -1,0 +1,1 @@
+orvan_fuzz(site_settings LINKS orvan_portable)

@@ -1,0 +1,64 @@
+#include "backends/portable/site.h"
+
+#include "backends/portable/posix_errors.h"
+#include "backends/portable/tool_folder.h"
+
+#include <cerrno>
+#include <sys/stat.h>
+#include <utility>
+
+namespace {
+
+/// The folder as given, once it is known to hold a site. Raises 76.
+const std::string& requireSite(const std::string& folder)
+{
+    if (!isSite(folder))
+        throw RunTimeError(runTimeErrors::pathNotFound,
+                           folder + " is not a site (no site.ini, registry.reg or drive_c)");
+    return folder;
+}
+
+PosixTimeZone zoneOf(const SiteSettings& settings)
+{
+    return settings.timeZone ? parsePosixTimeZone(*settings.timeZone) : machineTimeZone();
+}
+
+/// Makes a folder of C: that every server has. Nobody's leave to write is no error.
+void makeServerFolder(const std::string& path)
+{
+    if (::mkdir(path.c_str(), 0777) == 0 || errno == EEXIST || errno == EACCES || errno == EROFS)
+        return;
+    throw posixError(errno, runTimeErrors::pathNotFound);
+}
+
+} // namespace
+
+bool isSite(const std::string& folder)
+{
+    struct stat facts {};
+    for (const char* name : {"/site.ini", "/registry.reg"})
+        if (::stat((folder + name).c_str(), &facts) == 0 && S_ISREG(facts.st_mode)) return true;
+    return ::stat((folder + "/drive_c").c_str(), &facts) == 0 && S_ISDIR(facts.st_mode);
+}
+
+Site::Site(const std::string& folder, const std::string& installedData, HostFacts host)
+    : paths_(requireSite(folder)), settings_(readSiteSettings(paths_.siteFolder() + "/site.ini")),
+      zone_(zoneOf(settings_)), files_(paths_, zone_),
+      registry_(paths_.siteFolder() + "/registry.reg"), clock_(zone_), timeZone_(zone_),
+      workstation_(settings_),
+      eventReporter_(paths_.siteFolder() + "/eventlogs", workstation_.details()->computerName,
+                     settings_.logFields, clock_),
+      eventLogExporter_(paths_.siteFolder() + "/eventlogs", paths_), processes_(paths_),
+      module_(settings_.toolFolder, std::move(host)), languages_(settings_.language, paths_)
+{
+    registry_.keyExists(HKEY_LOCAL_MACHINE, ""); // a damaged registry shows here, before any change
+    makeServerFolder(paths_.siteFolder() + "/drive_c");
+    makeServerFolder(paths_.machinePath(files_.specialFolder(SpecialFolder::temporary)));
+    supplyToolFolder(paths_.machinePath(settings_.toolFolder), installedData);
+}
+
+Platform Site::platform(Desktop& desktop)
+{
+    return {files_,     registry_,    clock_,  timeZone_,  eventReporter_, eventLogExporter_,
+            processes_, workstation_, module_, languages_, desktop};
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "backends/portable/site_clock.h"
+#include "backends/portable/site_event_log_exporter.h"
+#include "backends/portable/site_event_reporter.h"
+#include "backends/portable/site_file_system.h"
+#include "backends/portable/site_host_module.h"
+#include "backends/portable/site_languages.h"
+#include "backends/portable/site_paths.h"
+#include "backends/portable/site_processes.h"
+#include "backends/portable/site_registry.h"
+#include "backends/portable/site_settings.h"
+#include "backends/portable/site_time_zone.h"
+#include "backends/portable/site_workstation.h"
+#include "platform/platform.h"
+
+#include <string>
+
+/// Whether a folder of the machine is a site: it holds `site.ini`, `registry.reg` or `drive_c`.
+bool isSite(const std::string& folder);
+
+/// A server in a folder: every platform service but the desktop, which is the host's.
+class Site {
+public:
+    /// Opens the site in a folder of the machine. What its tool folder lacks is supplied from
+    /// `installedData`, a folder of the machine; a place there that is empty or missing supplies
+    /// nothing.
+    /// Raises 76 for a folder that is no site, 321 for a damaged `site.ini` or `registry.reg`, and
+    /// 70, 61, 57.
+    Site(const std::string& folder, const std::string& installedData, HostFacts host);
+
+    Site(const Site&) = delete;
+    Site& operator=(const Site&) = delete;
+
+    /// The services, with the host's own desktop. They live as long as the site.
+    Platform platform(Desktop& desktop);
+
+    const std::string& folder() const { return paths_.siteFolder(); }
+    const SiteSettings& settings() const { return settings_; }
+    SitePaths& paths() { return paths_; }
+    SiteFileSystem& files() { return files_; }
+    SiteRegistry& registry() { return registry_; }
+
+private:
+    SitePaths paths_;
+    SiteSettings settings_;
+    PosixTimeZone zone_;
+    SiteFileSystem files_;
+    SiteRegistry registry_;
+    SiteClock clock_;
+    SiteTimeZone timeZone_;
+    SiteWorkstation workstation_;
+    SiteEventReporter eventReporter_;
+    SiteEventLogExporter eventLogExporter_;
+    SiteProcesses processes_;
+    SiteHostModule module_;
+    SiteLanguages languages_;
+};

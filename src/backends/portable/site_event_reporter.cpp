@@ -1,0 +1,65 @@
+#include "backends/portable/site_event_reporter.h"
+
+#include "backends/portable/file_descriptor.h"
+#include "backends/portable/posix_errors.h"
+#include "backends/portable/trace_line_format.h"
+#include "platform/clock.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <nlohmann/json.hpp>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+/// Whether a log's last line was cut short, so that the next event needs a line end before it.
+bool endsWithinALine(int log)
+{
+    struct stat facts {};
+    char last = '\n';
+    if (::fstat(log, &facts) != 0 || facts.st_size == 0) return false;
+    return ::pread(log, &last, 1, facts.st_size - 1) == 1 && last != '\n';
+}
+
+} // namespace
+
+SiteEventReporter::SiteEventReporter(std::string eventLogs, std::string computer, LogFields fields,
+                                     const Clock& clock)
+    : eventLogs_(std::move(eventLogs)), computer_(std::move(computer)), fields_(fields),
+      clock_(clock)
+{}
+
+std::int32_t SiteEventReporter::registerTool(const std::string&)
+{
+    return ++lastHandle_;
+}
+
+void SiteEventReporter::report(const std::string& source, std::int32_t, int type, std::int32_t id,
+                               const std::vector<std::string>& inserts)
+{
+    Json event;
+    event["time"] = sortableDateTime(clock_.now());
+    event["type"] = type;
+    event["source"] = source;
+    event["id"] = id;
+    event["computer"] = computer_;
+    event["inserts"] = inserts;
+    auto line = event.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
+
+    ::mkdir(eventLogs_.c_str(), 0777);
+    const auto path = eventLogs_ + "/Application.jsonl";
+    const FileDescriptor log(::open(path.c_str(), O_RDWR | O_CREAT | O_APPEND | O_CLOEXEC, 0666));
+    if (!log.isOpen()) throw posixError(errno, runTimeErrors::pathNotFound);
+    if (endsWithinALine(log.get())) line.insert(0, "\n");
+    if (writeBytes(log.get(), line) < line.size()) throw posixError(errno, runTimeErrors::deviceIo);
+}
+
+void SiteEventReporter::formatTraceLine(std::string_view rawLine, std::string& formatted)
+{
+    if (!appendFormattedTraceLine(rawLine, fields_, formatted))
+        throw RunTimeError(runTimeErrors::invalidCall);
+}

@@ -1,0 +1,210 @@
+#include "backends/portable/site.h"
+
+#include "backends/portable/tool_folder.h"
+#include "support/fake_desktop.h"
+#include "temporary_folder.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+HostFacts hostFacts()
+{
+    return {{2, 1, 23}, "orvandiag status", false, {}};
+}
+
+class SiteTest : public testing::Test {
+protected:
+    SiteTest()
+    {
+        data.write("ZMKXML/HTCalls.xml", "<macro/>");
+        data.write("ZMKXML/HTPorts.xml", "<macro/>");
+        data.write("blankWPNDB.mdb", "blank");
+        fs::permissions(data.write("cabmaker.exe", "#!/bin/sh\n"), fs::perms::owner_all);
+        data.write("ZMKbrandingres_FRA.txt", "1062 = D'accord\n");
+        data.write("help/index.html", "help");
+        data.write("sample/sample.sql", "not the tool's");
+    }
+
+    std::string openError(const std::string& path)
+    {
+        return errorTextOf([&] { Site(path, data.path(), hostFacts()); });
+    }
+
+    TemporaryFolder folder;
+    TemporaryFolder data;
+};
+
+TEST_F(SiteTest, AFolderWithAnyPartOfASiteIsOne)
+{
+    EXPECT_FALSE(isSite(folder.path()));
+    EXPECT_FALSE(isSite(folder / "none"));
+    for (const char* part : {"site.ini", "registry.reg", "drive_c/x"}) {
+        const TemporaryFolder other;
+        other.write(part, part == std::string("registry.reg")
+                              ? "Windows Registry Editor Version 5.00\n"
+                              : "");
+        EXPECT_TRUE(isSite(other.path())) << part;
+        EXPECT_EQ("", openError(other.path())) << part;
+        EXPECT_TRUE(other.exists("drive_c/OrvanDiagnostics/blankWPNDB.mdb")) << part;
+    }
+    folder.makeFolder("site.ini");
+    folder.write("drive_c");
+    EXPECT_FALSE(isSite(folder.path()));
+}
+
+TEST_F(SiteTest, AnotherFolderIsRefusedAndLeftAlone)
+{
+    EXPECT_EQ(folder.path() + " is not a site (no site.ini, registry.reg or drive_c)",
+              openError(folder.path()));
+    EXPECT_EQ(76, errorOf([&] { Site(folder / "none", data.path(), hostFacts()); }));
+    EXPECT_TRUE(fs::is_empty(folder.path()));
+}
+
+TEST_F(SiteTest, DamageIsRefusedBeforeAnythingIsChanged)
+{
+    folder.write("site.ini", "[site]\nnonsense\n");
+    EXPECT_EQ("site.ini line 2: neither a section nor \"key = value\"", openError(folder.path()));
+    EXPECT_FALSE(folder.exists("drive_c"));
+    folder.write("site.ini", "[site]\n");
+    folder.write("registry.reg", "Windows Registry Editor Version 5.00\nnonsense\n");
+    EXPECT_EQ("registry.reg line 2: neither a key nor a value", openError(folder.path()));
+    EXPECT_FALSE(folder.exists("drive_c"));
+}
+
+TEST_F(SiteTest, SuppliesTheToolFolder)
+{
+    folder.write("site.ini", "[site]\ntoolFolder = C:\\Program Files\\Orvan\\Diag\n");
+    Site site(folder.path(), data.path(), hostFacts());
+
+    const std::string tool = "drive_c/Program Files/Orvan/Diag/";
+    EXPECT_EQ("<macro/>", folder.read(tool + "ZMKXML/HTCalls.xml"));
+    EXPECT_EQ("blank", folder.read(tool + "blankWPNDB.mdb"));
+    EXPECT_EQ("help", folder.read(tool + "help/index.html"));
+    EXPECT_TRUE(folder.exists(tool + "ZMKbrandingres_FRA.txt"));
+    EXPECT_EQ(fs::perms::owner_all, fs::status(folder / (tool + "cabmaker.exe")).permissions());
+    EXPECT_FALSE(folder.exists(tool + "sample")) << "what the tool does not look for stays behind";
+    EXPECT_EQ(5, std::distance(fs::directory_iterator(folder / tool), {}));
+    EXPECT_TRUE(site.files().folderExists("C:\\Temp"));
+}
+
+TEST_F(SiteTest, LeavesAloneWhatTheToolFolderHas)
+{
+    folder.write("drive_c/ORVANDIAGNOSTICS/zmkxml/HTOwn.xml", "own");
+    folder.write("drive_c/ORVANDIAGNOSTICS/BLANKWPNDB.MDB", "own");
+    Site(folder.path(), data.path(), hostFacts());
+    Site(folder.path(), data.path(), hostFacts());
+
+    const std::string tool = "drive_c/ORVANDIAGNOSTICS/";
+    EXPECT_FALSE(folder.exists("drive_c/OrvanDiagnostics"));
+    EXPECT_FALSE(folder.exists(tool + "ZMKXML"));
+    EXPECT_FALSE(folder.exists(tool + "zmkxml/HTCalls.xml"));
+    EXPECT_EQ("own", folder.read(tool + "BLANKWPNDB.MDB"));
+    EXPECT_TRUE(folder.exists(tool + "cabmaker.exe"));
+}
+
+TEST_F(SiteTest, OpensWithoutInstalledData)
+{
+    folder.makeFolder("drive_c");
+
+    EXPECT_EQ(0, errorOf([&] { Site(folder.path(), "", hostFacts()); }));
+    EXPECT_EQ(0, errorOf([&] { Site(folder.path(), data / "none", hostFacts()); }));
+    EXPECT_TRUE(folder.exists("drive_c/OrvanDiagnostics"));
+}
+
+TEST_F(SiteTest, ATailoredToolFolderOfTheMachineServesToo)
+{
+    folder.write("site.ini", "[site]\ntoolFolder = " + (folder / "tools") + "\n");
+    Site site(folder.path(), data.path(), hostFacts());
+
+    EXPECT_TRUE(folder.exists("tools/blankWPNDB.mdb"));
+}
+
+TEST_F(SiteTest, GivesItsSettingsToItsServices)
+{
+    folder.write("site.ini", "[site]\ncomputer = VOICE01\nuser = maria\ntimeZone = IST-5:30\n"
+                             "language = 1041\nlogFields = extended\n");
+    Site site(folder.path(), data.path(), hostFacts());
+    FakeDesktop desktop;
+    const auto platform = site.platform(desktop);
+
+    EXPECT_EQ("VOICE01", platform.workstation.details()->computerName);
+    EXPECT_EQ("maria", platform.workstation.user()->userName);
+    EXPECT_EQ(1041, platform.languages.userDefaultLanguage());
+    TimeZoneInformation zone;
+    EXPECT_EQ(TimeZoneState::unknown, platform.timeZone.read(zone));
+    EXPECT_EQ(-330, zone.bias);
+    std::string line;
+    platform.eventReporter.formatTraceLine("15:23:07:123,S,1,2,3,id,X,0,a", line);
+    EXPECT_EQ("15:23:07:123 (S,1,X,0) a", line);
+    platform.eventReporter.report("S", 1, 0, 1, {"a"});
+    EXPECT_NE(std::string::npos,
+              folder.read("eventlogs/Application.jsonl").find("\"computer\":\"VOICE01\""));
+    EXPECT_EQ("C:\\OrvanDiagnostics", platform.module.folder());
+    EXPECT_EQ(2, platform.module.majorVersion());
+    EXPECT_EQ(1, platform.module.minorVersion());
+    EXPECT_EQ(23, platform.module.revision());
+    EXPECT_EQ("orvandiag status", platform.module.commandLine());
+    EXPECT_EQ(&desktop, &platform.desktop);
+}
+
+TEST_F(SiteTest, FallsBackToTheMachinesOwnNames)
+{
+    folder.makeFolder("drive_c");
+    Site site(folder.path(), data.path(), hostFacts());
+    FakeDesktop desktop;
+    const auto platform = site.platform(desktop);
+
+    EXPECT_EQ(machineName(), platform.workstation.details()->computerName);
+    EXPECT_EQ(loginName(), platform.workstation.user()->userName);
+    EXPECT_NE("", machineName());
+    EXPECT_NE("", loginName());
+    EXPECT_EQ(2, platform.workstation.platform());
+}
+
+TEST_F(SiteTest, ItsServicesShareTheCurrentFolder)
+{
+    folder.write("drive_c/Result/x");
+    const auto program = folder.write("drive_c/Result/run.exe", "#!/bin/sh\necho > made\n");
+    fs::permissions(program, fs::perms::owner_all);
+    Site site(folder.path(), data.path(), hostFacts());
+    FakeDesktop desktop;
+    const auto platform = site.platform(desktop);
+
+    platform.files.changeDrive("C:");
+    platform.files.changeFolder("C:\\Result");
+    platform.processes.wait(platform.processes.start("run", WindowStyle::hidden), -1);
+
+    EXPECT_TRUE(folder.exists("drive_c/Result/made"));
+}
+
+TEST_F(SiteTest, AFolderNamedFromHereIsFoundFromAnywhere)
+{
+    folder.makeFolder("drive_c");
+    const auto before = fs::current_path();
+    fs::current_path(fs::path(folder.path()).parent_path());
+    Site site(fs::path(folder.path()).filename().string() + "/", data.path(), hostFacts());
+    fs::current_path(before);
+
+    EXPECT_EQ(folder.path(), site.folder());
+    EXPECT_TRUE(site.files().folderExists("C:\\"));
+}
+
+TEST_F(SiteTest, SendsDebugOutputToTheListenerIfThereIsOne)
+{
+    std::string heard;
+    SiteHostModule listened("C:\\x", {{}, "", true, [&](std::string_view text) { heard = text; }});
+    SiteHostModule alone("C:\\x", hostFacts());
+
+    listened.debugOutput("text");
+    alone.debugOutput("text");
+
+    EXPECT_EQ("text", heard);
+    EXPECT_TRUE(listened.isDevelopmentHost());
+    EXPECT_FALSE(alone.isDevelopmentHost());
+    EXPECT_EQ("OrvanDiagnostics", alone.name());
+}
+
+} // namespace
