@@ -1,0 +1,21 @@
+#include "server/server_identity.h"
+
+#include "core/error_trap.h"
+#include "core/registry_store.h"
+
+ServerVersion mdlOrvan::getVersion(ToolContext& tool)
+{
+    ErrorTrap step{tool, "mdlOrvan", "getVersion", countedTrap};
+    ServerVersion found;
+    const std::string key = std::string(baseKey) + "\\";
+    step.body([&] {
+        step.enterProc();
+        step([&] { found.major = getRegistryNumber(tool, key, "MajorVersion"); });
+        step([&] { found.minor = getRegistryNumber(tool, key, "MinorVersion"); });
+        step([&] { found.release = getRegistryNumber(tool, key, "ReleaseVersion"); });
+        step([&] { found.build = getRegistryNumber(tool, key, "BuildVersion"); });
+        step([&] { found.version = getRegistryText(tool, key, "Version"); });
+        step.exitProc();
+    });
+    return found;
+}
