@@ -1,0 +1,207 @@
+#include "core/error_trap.h"
+#include "core/localisation.h"
+#include "core/utility.h"
+#include "logreader/diagnostics.h"
+#include "platform/desktop.h"
+#include "platform/file_system.h"
+#include "platform/view.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "shell/required_object.h"
+#include "shell/snapin_routines.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace {
+
+constexpr std::int64_t largestShownLog = 2'500'000;
+constexpr int columnCount = 7;
+constexpr int extendedColumnCount = 10;
+constexpr int linesBetweenReports = 1000;
+constexpr int keptWidth = 0; ///< in a header's row: the width stays as it is
+
+struct Header {
+    int position;
+    int text;
+    int width;
+};
+
+constexpr Header commonHeaders[] = {{2, 1098, keptWidth},
+                                    {3, 1082, keptWidth},
+                                    {4, 1104, keptWidth},
+                                    {5, 1022, keptWidth},
+                                    {6, 1050, keptWidth}};
+constexpr Header basicHeaders[] = {{7, 1103, 400}};
+constexpr Header extendedHeaders[] = {
+    {7, 1146, 40}, {8, 1147, 30}, {9, 1145, 100}, {10, 1103, 400}};
+
+void makeColumns(ErrorTrap& step, bool extended, ResultView& resultView)
+{
+    int present = 0;
+    int missing = 0;
+    step([&] { present = resultView.list().columnCount(); });
+    if (present == 0) {
+        missing = extended ? extendedColumnCount : columnCount;
+    } else if (extended && present != extendedColumnCount) {
+        missing = extendedColumnCount - columnCount;
+    }
+    for (int added = 0; added < missing; ++added) step([&] { resultView.list().addColumn(); });
+}
+
+template <std::size_t Count>
+void setHeaders(ErrorTrap& step, ToolContext& tool, ResultView& resultView,
+                const Header (&headers)[Count])
+{
+    for (const Header& header : headers) {
+        step([&] {
+            resultView.list().column(header.position).text = myLoadResString(tool, header.text);
+        });
+        if (header.width == keptWidth) continue;
+        step([&] { resultView.list().column(header.position).width = header.width; });
+    }
+}
+
+/// The key itself when it names a file, as an opened log's does, or else a file of the log folder.
+std::string logPath(ErrorTrap& step, ToolContext& tool, ResultView& resultView)
+{
+    std::string key;
+    bool isPath = false;
+    step([&] { key = resultView.scopePaneItem().key(); });
+    step([&] { isPath = tool.platform.files.fileExists(key); });
+    return isPath ? key : tool.g_strLogFolder + "\\" + key;
+}
+
+void sayNotFound(ErrorTrap& step, ToolContext& tool, const std::string& path)
+{
+    step([&] {
+        tool.platform.desktop.messageBox(myLoadResString(tool, 1053) + path +
+                                             myLoadResString(tool, 1003),
+                                         myLoadResString(tool, 1054), MessageIcon::critical);
+    });
+}
+
+void sayTooLarge(ErrorTrap& step, ToolContext& tool, const std::string& path)
+{
+    step([&] {
+        std::string text = path + myLoadResString(tool, 1004);
+        text.append(lineBreak).append(myLoadResString(tool, 1065));
+        text.append(lineBreak).append(myLoadResString(tool, 1128));
+        tool.platform.desktop.messageBox(text, myLoadResString(tool, 1055), MessageIcon::critical);
+    });
+}
+
+/// Reads a log into rows. What a line needs is kept from line to line, so that a line costs no
+/// allocation but for the list's own growth.
+class RowReader {
+public:
+    RowReader(ErrorTrap& step, ToolContext& tool, ResultView& resultView, View& view,
+              std::int64_t fileSize)
+        : step_(step), tool_(tool), resultView_(resultView), view_(view), fileSize_(fileSize)
+    {}
+
+    /// A read that fails ends the log: a device that has failed would fail for ever.
+    void readAll(TextReader* reader)
+    {
+        for (;;) {
+            bool read = false;
+            step_([&] {
+                if (required(reader).atEnd()) return;
+                line_.assign(reader->readLine());
+                read = true;
+            });
+            if (!read) return;
+            if (!line_.empty()) addLine();
+        }
+    }
+
+private:
+    void addLine()
+    {
+        step_([&] { mdlDiagnostics::formatLineSafe(tool_, line_, formatted_); });
+        charactersRead_ += static_cast<std::int64_t>(line_.size());
+        if (lineNumber_ == 1 || lineNumber_ % linesBetweenReports == 0) reportProgress();
+        step_([&] { mdlDiagnostics::parseDiagnostic(tool_, formatted_, line_, false, record_); });
+        step_([&] { number_ = padNumber(lineNumber_, 6); });
+        addRow();
+        ++lineNumber_;
+    }
+
+    void addRow()
+    {
+        std::optional<ListItem> row;
+        step_([&] { row = resultView_.list().addItem(lineNumber_, formatted_); });
+        int column = 0;
+        const auto add = [&](std::string_view text) {
+            ++column;
+            step_([&] { required(row ? &*row : nullptr).addSubItem(column, text); });
+        };
+        add(number_);
+        add(record_.timeStamp);
+        add(record_.source);
+        add(numberText(std::int64_t{record_.traceNumber}));
+        add(record_.component);
+        add(numberText(std::int64_t{record_.traceLevel}));
+        if (tool_.g_bExtendedLogFields) {
+            add(record_.thread);
+            add(record_.port);
+            add(record_.callId);
+        }
+        add(record_.trace);
+    }
+
+    void reportProgress()
+    {
+        step_([&] {
+            view_.statusBarText(myLoadResString(tool_, 1044) + " " +
+                                numberText(fileSize_ - charactersRead_) + " " +
+                                myLoadResString(tool_, 1010));
+        });
+    }
+
+    ErrorTrap& step_;
+    ToolContext& tool_;
+    ResultView& resultView_;
+    View& view_;
+    std::int64_t fileSize_;
+    std::int64_t charactersRead_ = 0;
+    std::int32_t lineNumber_ = 1;
+    std::string line_;
+    std::string formatted_;
+    std::string number_;
+    DiagnosticLine record_;
+};
+
+} // namespace
+
+void mdlSnapIn::populateListViewDiagLog(ToolContext& tool, ResultView& resultView, View& view)
+{
+    ErrorTrap step{tool, "mdlSnapIn", "populateListViewDiagLog"};
+    FileSystem& files = tool.platform.files;
+    bool exists = false;
+    std::int64_t size = 0;
+    std::unique_ptr<TextReader> reader;
+
+    step.enterProc();
+    step([&] { view.statusBarText(myLoadResString(tool, 1044)); });
+    makeColumns(step, tool.g_bExtendedLogFields, resultView);
+    setHeaders(step, tool, resultView, commonHeaders);
+    if (tool.g_bExtendedLogFields) {
+        setHeaders(step, tool, resultView, extendedHeaders);
+    } else {
+        setHeaders(step, tool, resultView, basicHeaders);
+    }
+
+    const std::string path = logPath(step, tool, resultView);
+    step([&] { exists = files.fileExists(path); });
+    if (!exists) return sayNotFound(step, tool, path);
+    step([&] { size = files.file(path).size; });
+    if (size > largestShownLog) return sayTooLarge(step, tool, path);
+
+    step([&] { reader = files.openForReading(path); });
+    RowReader(step, tool, resultView, view, size).readAll(reader.get());
+    step([&] { required(reader.get()).close(); });
+    step([&] { view.statusBarText(myLoadResString(tool, 1043)); });
+    step.exitProc();
+}

@@ -1,0 +1,70 @@
+#include "core/error_trap.h"
+#include "core/localisation.h"
+#include "logreader/diagnostics.h"
+#include "platform/file_system.h"
+#include "platform/result_view.h"
+#include "runtime/integer16.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "shell/required_object.h"
+#include "shell/snapin_routines.h"
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace {
+
+void addLogRow(ErrorTrap& step, ToolContext& tool, ResultView& resultView,
+               const std::string& process, const std::string& name, Integer16& rowIndex)
+{
+    std::optional<FileInfo> file;
+    std::optional<ListItem> added;
+    const auto row = [&]() -> ListItem& { return required(added ? &*added : nullptr); };
+    std::string mark;
+
+    step([&] { file = tool.platform.files.file(tool.g_strLogFolder + "\\" + name); });
+    step([&] { added = resultView.list().addItem(rowIndex, name); });
+    step([&] { row().addSubItem(1, ""); });
+    step([&] {
+        if (mdlDiagnostics::getCurrentDiagnosticFile(tool, process) == name) mark = "x";
+    });
+    step([&] { row().addSubItem(2, mark); });
+    step([&] { row().addSubItem(3, name); });
+    step([&] {
+        row().addSubItem(4, dateText(mdlDiagnostics::parseDateFromFileName(tool, process, name)));
+    });
+    step([&] {
+        const FileInfo& facts = required(file ? &*file : nullptr);
+        row().addSubItem(5, numberTextWithLeadingBlank(facts.size));
+    });
+    step([&] { ++rowIndex; });
+}
+
+} // namespace
+
+void mdlSnapIn::populateListViewAllLogs(ToolContext& tool, ResultView& resultView)
+{
+    constexpr std::pair<int, int> headers[] = {{2, 1029}, {3, 1042}, {4, 1097}, {5, 1080}};
+    ErrorTrap step{tool, "mdlSnapIn", "populateListViewAllLogs"};
+    std::string process;
+    std::vector<std::string> names;
+    Integer16 rowIndex = 1;
+
+    step.enterProc();
+    for (const auto& header : headers) {
+        step([&] {
+            resultView.list().column(header.first).text = myLoadResString(tool, header.second);
+        });
+    }
+    step([&] { process = resultView.scopePaneItem().name(); });
+    step([&] {
+        names = tool.platform.files.matching(tool.g_strLogFolder + "\\diag_" + process + "_*.txt");
+    });
+    for (const auto& name : names) {
+        if (lowerCase(name).find("fmtd") != std::string::npos) continue;
+        addLogRow(step, tool, resultView, process, name, rowIndex);
+    }
+    step.exitProc();
+}

@@ -1,0 +1,120 @@
+#include "core/error_trap.h"
+#include "core/registry_store.h"
+#include "logreader/diagnostics.h"
+#include "platform/clock.h"
+#include "platform/file_system.h"
+#include "platform/scope_tree.h"
+#include "runtime/integer16.h"
+#include "runtime/text.h"
+#include "shell/required_object.h"
+#include "shell/snapin_routines.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int logManagerDelay = 500; ///< milliseconds
+constexpr std::size_t firstRoom = 50;
+constexpr std::size_t furtherRoom = 25;
+
+/// Takes out the nodes whose key begins with the process's log name, last node first.
+void removeLogNodes(ErrorTrap& step, ScopeTree& scopeItems, const std::string& process)
+{
+    const std::string prefix = lowerCase("diag_" + process);
+    for (int position = scopeItems.count(); position >= 1; --position) {
+        std::string key;
+        step([&] { key = scopeItems.item(position).key(); });
+        if (!beginsWith(lowerCase(key), prefix)) continue;
+        step([&] { scopeItems.remove(key); });
+    }
+}
+
+void addLogNode(ErrorTrap& step, ToolContext& tool, ScopeTree& scopeItems, ScopeItem& processNode,
+                const std::string& fileName, const std::string& displayName)
+{
+    ScopeItem* node = nullptr;
+    step([&] { node = &scopeItems.addChild("nodeLogs", fileName, processNode); });
+    step([&] { required(node).name(fileName); });
+    step([&] { required(node).displayName(displayName); });
+    step([&] { required(node).kind(mdlSnapIn::kindLogFile); });
+    step([&] { tool.g_dictLogItems.item(required(node).key()) = node->weak_from_this(); });
+}
+
+/// Names from index 1 on, as the folder search gives them, without formatted copies and the log in
+/// use. The position is a 16-bit one: past its range the last place is written again and again.
+struct LogNames {
+    std::vector<std::string> names = std::vector<std::string>(firstRoom + 1);
+    Integer16 position = 1; ///< of the next name
+};
+
+void collectOtherLogs(ErrorTrap& step, ToolContext& tool, const std::string& process,
+                      const std::string& pattern, LogNames& logs)
+{
+    std::vector<std::string> found;
+    step([&] { found = tool.platform.files.matching(pattern); });
+    for (const auto& name : found) {
+        bool current = false;
+        step([&] { current = name == mdlDiagnostics::getCurrentDiagnosticFile(tool, process); });
+        if (current || lowerCase(name).find("fmtd") != std::string::npos) continue;
+        step([&] { logs.names.at(static_cast<std::size_t>(logs.position.value())) = name; });
+        step([&] { ++logs.position; });
+        if (static_cast<std::size_t>(logs.position.value()) + 1 == logs.names.size()) {
+            step([&] { logs.names.resize(logs.names.size() + furtherRoom); });
+        }
+    }
+}
+
+} // namespace
+
+void mdlSnapIn::populateScopeProcesses(ToolContext& tool, ScopeTree& scopeItems,
+                                       ScopeItem& parentNode)
+{
+    ErrorTrap step{tool, "mdlSnapIn", "populateScopeProcesses"};
+    KeyNames names;
+    int first = 0;
+    int last = -1;
+
+    step.enterProc();
+    step([&] {
+        names =
+            enumRegistryKeys(tool, HKEY_LOCAL_MACHINE, std::string(logManagerKey) + "\\Process");
+    });
+    step([&] {
+        first = names.lowerBound();
+        last = names.upperBound();
+    });
+    for (int index = first; index <= last; ++index) {
+        ScopeItem* node = nullptr;
+        step([&] { node = &scopeItems.addChild("nodeProcesses", names.at(index), parentNode); });
+        step([&] { required(node).name(names.at(index)); });
+        step([&] { required(node).displayName(names.at(index)); });
+        step([&] { required(node).kind(kindLogProcess); });
+    }
+    step.exitProc();
+}
+
+void mdlSnapIn::populateScopeAllLogs(ToolContext& tool, ScopeTree& scopeItems,
+                                     ScopeItem& processNode)
+{
+    ErrorTrap step{tool, "mdlSnapIn", "populateScopeAllLogs"};
+    std::string current;
+    LogNames logs;
+
+    step.enterProc();
+    const std::string process = processNode.displayName();
+    const std::string pattern = tool.g_strLogFolder + "\\diag_" + process + "_*.txt";
+    removeLogNodes(step, scopeItems, process);
+    step([&] { tool.platform.clock.sleep(logManagerDelay); });
+    step([&] { current = mdlDiagnostics::getCurrentDiagnosticFile(tool, process); });
+    if (!current.empty()) {
+        addLogNode(step, tool, scopeItems, processNode, current, "Current- " + current);
+    }
+    collectOtherLogs(step, tool, process, pattern, logs);
+    for (auto index = static_cast<std::size_t>(logs.position.value()) - 1; index >= 1; --index) {
+        const std::string& name = logs.names[index];
+        addLogNode(step, tool, scopeItems, processNode, name, name);
+    }
+    step.exitProc();
+}

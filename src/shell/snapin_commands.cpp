@@ -1,0 +1,152 @@
+#include "core/error_trap.h"
+#include "core/localisation.h"
+#include "core/signals.h"
+#include "core/utility.h"
+#include "shell/required_object.h"
+#include "shell/snapin_orvan_diagnostics.h"
+#include "shell/snapin_routines.h"
+
+namespace {
+
+constexpr const char* moduleName = "snapinOrvanDiagnostics";
+
+struct MenuItemTexts {
+    const char* name;
+    int caption;
+    int statusBarText;
+};
+
+constexpr MenuItemTexts taskMenuTexts[] = {
+    {"mnuConfigureMacroTrace", 1024, 1110}, {"mnuConfigureMicroTraces", 1026, 1109},
+    {"mnuDisableAllTraces", 1036, 1114},    {"mnuStartNewLogFiles", 1083, 1113},
+    {"mnuGatherLogFiles", 1045, 1112},      {"mnuConfigureLogSettings", 1023, 1111},
+};
+
+} // namespace
+
+void snapinOrvanDiagnostics::Views_AddTaskMenuItems(View&, ScopeItem&, ContextMenu& menu)
+{
+    ErrorTrap step{tool_, moduleName, "Views_AddTaskMenuItems"};
+
+    step.enterProc();
+    for (const MenuItemTexts& texts : taskMenuTexts) {
+        step([&] {
+            console_.menu("mnuTask").item(texts.name).caption =
+                myLoadResString(tool_, texts.caption);
+        });
+        step([&] {
+            console_.menu("mnuTask").item(texts.name).statusBarText =
+                myLoadResString(tool_, texts.statusBarText);
+        });
+    }
+    step([&] { menu.add(console_.menu("mnuTask")); });
+    step.exitProc();
+}
+
+void snapinOrvanDiagnostics::Views_AddTopMenuItems(View&, ScopeItem&, ContextMenu& menu)
+{
+    ErrorTrap step{tool_, moduleName, "Views_AddTopMenuItems"};
+
+    step.enterProc();
+    step([&] { menu.add(console_.menu("mnuMain")); });
+    step.exitProc();
+}
+
+void snapinOrvanDiagnostics::Views_AddViewMenuItems(View&, ScopeItem&, ContextMenu&)
+{
+    ErrorTrap step{tool_, moduleName, "Views_AddViewMenuItems"};
+
+    step.enterProc();
+    step.exitProc();
+}
+
+void snapinOrvanDiagnostics::MenuItem_Click(const MenuItem& item)
+{
+    if (item.name == "mnuStartNewLogFiles") return mnuStartNewLogFiles_Click();
+    if (item.name == "mnuOpenLogFile") return mnuOpenLogFile_click();
+}
+
+void snapinOrvanDiagnostics::ResultViews_TaskClick(ResultView&, Task& task)
+{
+    ErrorTrap step{tool_, moduleName, "ResultViews_TaskClick"};
+
+    step.enterProc();
+    if (task.key == "4") {
+        step([&] { signalCycleDiagFiles(tool_); });
+        step([&] { console_.currentView().statusBarText(myLoadResString(tool_, 1058)); });
+        step([&] { refreshScopeItems(); });
+    }
+    step.exitProc();
+}
+
+void snapinOrvanDiagnostics::mnuStartNewLogFiles_Click()
+{
+    ErrorTrap step{tool_, moduleName, "mnuStartNewLogFiles_Click"};
+
+    step.enterProc();
+    step([&] { signalCycleDiagFiles(tool_); });
+    leaveShownLogs(step);
+    step([&] { console_.currentView().statusBarText(myLoadResString(tool_, 1058)); });
+    step([&] { refreshScopeItems(); });
+    step.exitProc();
+}
+
+/// Builds the list of logs anew, or goes from the lines of a log to the view's second node.
+void snapinOrvanDiagnostics::leaveShownLogs(ErrorTrap& step)
+{
+    View& view = console_.currentView();
+    std::string shown;
+    const auto readShown = [&] {
+        shown = view.selectedScopePaneItem().resultView().displayString();
+    };
+    const auto renewSelected = [&] {
+        mdlSnapIn::populateScopeAllLogs(tool_, console_.scopeItems(), console_.currentScopeItem());
+    };
+
+    step(readShown);
+    if (shown == "listviewAllLogs") {
+        step([&] { view.select(view.selectedScopePaneItem().scopeItem()); });
+        step(renewSelected);
+    }
+    step(readShown);
+    if (shown == "listviewDiagLog") {
+        step([&] { view.select(view.scopePaneItem(2).scopeItem()); });
+        step(renewSelected);
+    }
+}
+
+void snapinOrvanDiagnostics::mnuOpenLogFile_click()
+{
+    ErrorTrap step{tool_, moduleName, "mnuOpenLogFile_click"};
+    ScopeTree& scopeItems = console_.scopeItems();
+    View& view = console_.currentView();
+    std::string path;
+    ScopeItem* opened = nullptr;
+    const auto savedLogs = [&]() -> ScopeItem& { return required(m_SavedLogsItem.lock().get()); };
+    step.specialCase([&](const RunTimeError& error) {
+        if (error.number() != runTimeErrors::scopeItemExists) return Resume::asUsual;
+        scopeItems.remove(path);
+        return Resume::retry;
+    });
+
+    step.enterProc();
+    step([&] { path = selectLogFile(tool_); });
+    if (path.empty()) return step.exitProc();
+    m_strSavedLogFile = path;
+    if (m_SavedLogsItem.expired()) {
+        step([&] {
+            m_SavedLogsItem = scopeItems.addChild("nodeProcesses", "SavedLog", scopeItems.item(1))
+                                  .weak_from_this();
+        });
+        step([&] { savedLogs().name("SavedLog"); });
+        step([&] { savedLogs().displayName(myLoadResString(tool_, 1070)); });
+        step([&] { savedLogs().kind(mdlSnapIn::kindLogProcess); });
+    }
+    step([&] { view.select(savedLogs()); });
+    step([&] { opened = &scopeItems.addChild("nodeLogs", path, console_.currentScopeItem()); });
+    step([&] { required(opened).name(path); });
+    step([&] { required(opened).displayName(path); });
+    step([&] { required(opened).kind(mdlSnapIn::kindLogFile); });
+    step([&] { view.select(required(opened)); });
+    step.exitProc();
+}

@@ -1,0 +1,119 @@
+#include "shell/snapin_definition.h"
+
+namespace {
+
+ListViewDefinition diagLogView()
+{
+    ListViewDefinition view;
+    view.name = "listviewDiagLog";
+    view.display = ListDisplay::report;
+    view.sort = {true, 1, true};
+    view.text = ListText::serverCodePage;
+    view.columns = {{"keyNumber", "#", 50},
+                    {"keyTimeStamp", "Timestamp*", 150},
+                    {"keySource", "Source*", 100},
+                    {"keyTraceNo", "Trace No.*", 50},
+                    {"keyComponent", "Component*", 80},
+                    {"keyLevel", "Level*", 30},
+                    {"keyTrace", "Trace*", 400}};
+    return view;
+}
+
+ListViewDefinition allLogsView()
+{
+    ListViewDefinition view;
+    view.name = "listviewAllLogs";
+    view.display = ListDisplay::report;
+    view.sort = {true, 3, false};
+    view.columns = {{"", " ", 25},
+                    {"", "Current*", 75},
+                    {"keyFileName", "File Name*", 200},
+                    {"keyTimestamp", "Time Stamp*", 175},
+                    {"keySize", "Size (Bytes)*", automaticWidth}};
+    return view;
+}
+
+ListViewDefinition allProcessesView()
+{
+    ListViewDefinition view;
+    view.name = "listviewAllProcesses";
+    view.columns = {{"keyProcess", "Process*", automaticWidth}};
+    return view;
+}
+
+TaskPadDefinition defaultTaskPad()
+{
+    TaskPadDefinition pad;
+    pad.name = "taskpadDefault";
+    pad.title = "Kelma Orvan Diagnostic Tasks*";
+    pad.description = "Common diagnostics tasks for Kelma Orvan*";
+    pad.background = "#2/bitmapRestart";
+    pad.symbolFontFile = "res://mmc.exe/glyph100.eot";
+    pad.tasks = {
+        {"1", "Configure Macro Traces*", "GLYPH 100", 'M',
+         "Use this task to configure the macro traces*"},
+        {"2", "Configure Micro Traces*", "GLYPH 100", 'M',
+         "Use this task to configure individual component traces and levels.*"},
+        {"3", "Disable All Traces*", "glyph 100", '$',
+         "Use this task to have Orvan disable all traces that are not normally enabled.*"},
+        {"4", "Start New Log Files*", "GLYPH 100", '1',
+         "Use this task to have Orvan close the current log files and start new ones.*"},
+        {"5", "Gather Log Files*", "glyph 100", '2',
+         "Use this task to easily gather all necessary log files for diagnosing problems.*"},
+        {"6", "Configure Log Settings*", "glyph 100", '4', "Use this to Configure Log Settings"},
+    };
+    return pad;
+}
+
+MenuDefinition taskMenu()
+{
+    return {"mnuTask",
+            "Orvan Diag Tasks",
+            {
+                {"mnuConfigureMacroTrace", "Enable Macro Trace*",
+                 "Allows one to enable a macro trace to help diagnose Orvan problems*"},
+                {"mnuConfigureMicroTraces", "Configure Micro Traces*",
+                 "Use this action to configure individual component traces and levels.*"},
+                {"mnuDisableAllTraces", "Disable All Traces*",
+                 "Use this action to have Orvan disable all traces that are not normally "
+                 "enabled.*"},
+                {"mnuStartNewLogFiles", "Start New Log Files*",
+                 "Causes Orvan to close current log files and start new ones.*"},
+                {"mnuGatherLogFiles", "Gather Log Files*",
+                 "Use this action to easily gather all necessary log files for diagnosing "
+                 "problems.*"},
+                {"mnuConfigureLogSettings", "Configure Log Settings*",
+                 "Use this action to configure various log settings*"},
+            }};
+}
+
+MenuDefinition mainMenu()
+{
+    return {"mnuMain",
+            "",
+            {{"mnuOpenLogFile", "Open Log File", ""},
+             {"mnuChangeLanguage", "Change Orvan Event Log Language", ""}}};
+}
+
+} // namespace
+
+SnapInDefinition snapinDefinition()
+{
+    SnapInDefinition definition;
+    definition.displayName = "Kelma Orvan Diagnostic Tool";
+    definition.description = "Kelma Orvan Diagnostic Tool MMC Snap-in";
+    definition.provider = "Kelma Systems, Inc.";
+    definition.version = "1.0";
+    definition.nodeTypes = {
+        {"snapinOrvanDiagnostics", "Kelma Orvan Diagnostic Tool", "taskpadDefault"},
+        {"Processes", "Processes*", "listviewAllProcesses"},
+        {"nodeProcesses", "nodeProcesses", "listviewAllLogs"},
+        {"nodeLogs", "nodeLogs", "listviewDiagLog"},
+    };
+    definition.automaticNodes = {{"Processes", "Processes"}};
+    definition.listViews = {diagLogView(), allLogsView(), allProcessesView()};
+    definition.taskPads = {defaultTaskPad()};
+    definition.menus = {taskMenu(), mainMenu()};
+    definition.toolbars = {"tbrViewer"};
+    return definition;
+}

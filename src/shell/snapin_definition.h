@@ -1,0 +1,8 @@
+#pragma once
+
+#include "platform/snap_in_definition.h"
+
+/// What the snap-in declares to the console: its nodes, views, menus and task pad.
+///
+/// A text that ends in "*" is a placeholder until the code replaces it.
+SnapInDefinition snapinDefinition();

@@ -1,0 +1,71 @@
+#include "core/error_trap.h"
+#include "core/localisation.h"
+#include "core/utility.h"
+#include "platform/host_module.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "server/server_identity.h"
+#include "shell/initialize.h"
+#include "shell/server_events.h"
+#include "shell/snapin_orvan_diagnostics.h"
+
+namespace {
+
+/// " 4.3 Build 10".
+std::string versionText(const HostModule& module)
+{
+    return numberTextWithLeadingBlank(module.majorVersion()) + "." +
+           numberText(std::int64_t{module.minorVersion()}) + " Build" +
+           numberTextWithLeadingBlank(module.revision());
+}
+
+std::string descriptionText(ToolContext& tool)
+{
+    std::string text = myLoadResString(tool, 1016);
+    text.append(lineBreak).append(myLoadResString(tool, 1028));
+    text.append(lineBreak).append(myLoadResString(tool, 1108));
+    return text;
+}
+
+/// Each part is compared by itself, so that a server 3.0 is taken for one without the fields.
+bool logsExtendedFields(const ServerVersion& server)
+{
+    return server.major >= 2 && server.minor >= 1 && server.release >= 0 && server.build >= 0;
+}
+
+} // namespace
+
+snapinOrvanDiagnostics::snapinOrvanDiagnostics(ToolContext& tool, Console& console)
+    : tool_(tool), console_(console)
+{}
+
+void snapinOrvanDiagnostics::SnapIn_Initialize()
+{
+    ErrorTrap step{tool_, "snapinOrvanDiagnostics", "SnapIn_Initialize"};
+    ServerVersion server;
+
+    step.enterProc();
+    step([&] { InitalizeLanguages(tool_); });
+    step([&] { console_.displayName(myLoadResString(tool_, 1015)); });
+    step([&] { console_.identity().provider = myLoadResString(tool_, 1013); });
+    step([&] { console_.identity().description = descriptionText(tool_); });
+    step([&] { console_.identity().version = versionText(tool_.platform.module); });
+    step([&] { server = mdlOrvan::getVersion(tool_); });
+    if (logsExtendedFields(server)) tool_.g_bExtendedLogFields = true;
+    step.exitProc();
+}
+
+void snapinOrvanDiagnostics::SnapIn_Load()
+{
+    ErrorTrap step{tool_, "snapinOrvanDiagnostics", "SnapIn_Load"};
+
+    step.enterProc();
+    step([&] { mdlInitialize::initGlobalVariables(tool_); });
+    step([&] { reportServerEvent(tool_, serverEvents::success, serverEvents::loaded, {}); });
+    step.exitProc();
+}
+
+void snapinOrvanDiagnostics::SnapIn_Unload()
+{
+    reportServerEvent(tool_, serverEvents::success, serverEvents::unloaded, {});
+}

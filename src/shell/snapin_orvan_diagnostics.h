@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/console.h"
+
+#include <memory>
+#include <string>
+
+class ErrorTrap;
+struct ToolContext;
+
+/// The snap-in: what the tool does when the console calls.
+///
+/// The console is the one that loads it. No handler raises but `SnapIn_Unload`, and
+/// `mnuOpenLogFile_click` where a key stands in its way that is not the opened log's.
+class snapinOrvanDiagnostics final : public SnapInEvents {
+public:
+    snapinOrvanDiagnostics(ToolContext& tool, Console& console);
+
+    void SnapIn_Initialize() override;
+    void SnapIn_Load() override;
+    void SnapIn_Unload() override;
+
+    void ScopeItems_Expand(ScopeItem& item) override;
+
+    void ResultViews_Initialize(ResultView& resultView) override;
+    void ResultViews_ListItemDblClick(ResultView& resultView, ListItem item,
+                                      bool& doDefault) override;
+    void ResultViews_TaskClick(ResultView& resultView, Task& task) override;
+
+    void Views_AddTaskMenuItems(View& view, ScopeItem& selection, ContextMenu& menu) override;
+    void Views_AddTopMenuItems(View& view, ScopeItem& selection, ContextMenu& menu) override;
+    void Views_AddViewMenuItems(View& view, ScopeItem& selection, ContextMenu& menu) override;
+    void MenuItem_Click(const MenuItem& item) override;
+    void Views_QueryPagesFor(View& view, ScopeItem& selection, bool& answer) override;
+    void Views_Select(View& view, ScopeItem& selection, bool selected,
+                      ConsoleVerbs& verbs) override;
+    void Views_Refresh(View& view, ScopeItem& selection) override;
+
+    void mnuStartNewLogFiles_Click();
+    void mnuOpenLogFile_click();
+
+    /// Renews the log nodes of every process that was opened so far.
+    void refreshScopeItems();
+
+private:
+    void leaveShownLogs(ErrorTrap& step);
+
+    ToolContext& tool_;
+    Console& console_;
+    std::string m_strSavedLogFile;            ///< the last file opened by hand
+    std::weak_ptr<ScopeItem> m_SavedLogsItem; ///< empty until a file is opened by hand
+};

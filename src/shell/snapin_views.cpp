@@ -1,0 +1,106 @@
+#include "core/error_trap.h"
+#include "core/localisation.h"
+#include "shell/required_object.h"
+#include "shell/snapin_orvan_diagnostics.h"
+#include "shell/snapin_routines.h"
+
+#include <vector>
+
+namespace {
+constexpr const char* moduleName = "snapinOrvanDiagnostics";
+}
+
+void snapinOrvanDiagnostics::ScopeItems_Expand(ScopeItem& item)
+{
+    ErrorTrap step{tool_, moduleName, "ScopeItems_Expand"};
+    ScopeTree& scopeItems = console_.scopeItems();
+
+    step.enterProc();
+    if (item.kind() == mdlSnapIn::kindProcesses) {
+        bool placeholder = false;
+        step([&] { mdlSnapIn::populateScopeProcesses(tool_, scopeItems, item); });
+        step([&] { placeholder = scopeItems.item(2).displayName() == "Processes*"; });
+        if (placeholder) step([&] { scopeItems.item(2).displayName("Processes"); });
+    } else if (item.kind() == mdlSnapIn::kindLogProcess) {
+        step([&] { mdlSnapIn::populateScopeAllLogs(tool_, scopeItems, item); });
+        step([&] { tool_.g_dictProcessItems.item(item.key()) = item.weak_from_this(); });
+    }
+    step.exitProc();
+}
+
+void snapinOrvanDiagnostics::refreshScopeItems()
+{
+    ErrorTrap step{tool_, moduleName, "refreshScopeItems"};
+    std::vector<std::string> keys;
+
+    step.enterProc();
+    step([&] { keys = tool_.g_dictProcessItems.keys(); });
+    for (const auto& key : keys) {
+        step([&] {
+            const auto process = tool_.g_dictProcessItems.item(key).lock();
+            ScopeItems_Expand(required(process.get()));
+        });
+    }
+    step.exitProc();
+}
+
+void snapinOrvanDiagnostics::ResultViews_Initialize(ResultView& resultView)
+{
+    ErrorTrap step{tool_, moduleName, "ResultViews_Initialize"};
+    const std::string& shown = resultView.displayString();
+
+    step.enterProc();
+    if (shown == "taskpadDefault") {
+        step([&] { mdlSnapIn::populateTaskPadDefault(tool_, resultView); });
+    } else if (shown == "listviewAllLogs") {
+        step([&] { mdlSnapIn::populateListViewAllLogs(tool_, resultView); });
+    } else if (shown == "listviewDiagLog") {
+        step(
+            [&] { mdlSnapIn::populateListViewDiagLog(tool_, resultView, console_.currentView()); });
+    }
+    step.exitProc();
+}
+
+void snapinOrvanDiagnostics::ResultViews_ListItemDblClick(ResultView& resultView, ListItem item,
+                                                          bool&)
+{
+    ErrorTrap step{tool_, moduleName, "ResultViews_ListItemDblClick"};
+
+    step.enterProc();
+    if (resultView.displayString() == "listviewAllLogs") {
+        step([&] {
+            const auto log = tool_.g_dictLogItems.item(item.text()).lock();
+            console_.currentView().select(required(log.get()));
+        });
+    }
+    step.exitProc();
+}
+
+void snapinOrvanDiagnostics::Views_QueryPagesFor(View&, ScopeItem&, bool& answer)
+{
+    answer = true;
+}
+
+void snapinOrvanDiagnostics::Views_Select(View&, ScopeItem&, bool, ConsoleVerbs& verbs)
+{
+    ErrorTrap step{tool_, moduleName, "Views_Select"};
+
+    step.enterProc();
+    step([&] { verbs.verb(consoleVerb::refresh).enabled = true; });
+    step.exitProc();
+}
+
+void snapinOrvanDiagnostics::Views_Refresh(View&, ScopeItem&)
+{
+    ErrorTrap step{tool_, moduleName, "Views_Refresh"};
+    std::string displayString;
+    ResultViewType type = ResultViewType::list;
+    View& current = console_.currentView();
+
+    step.enterProc();
+    step([&] { displayString = current.selectedScopePaneItem().resultView().displayString(); });
+    step([&] { type = current.selectedScopePaneItem().resultView().type(); });
+    step([&] { current.display(displayString, type); });
+    step([&] { refreshScopeItems(); });
+    step.exitProc();
+}

@@ -1,0 +1,104 @@
+#include "shell/shell_fixture.h"
+
+#include <functional>
+
+namespace {
+
+struct AllFailing : ShellTest {
+    AllFailing()
+    {
+        withProcess("RoCsMgr");
+        withCurrentLog("RoCsMgr", "diag_RoCsMgr_20051008_152307.txt", "line");
+    }
+
+    void failEverything()
+    {
+        tool.files.failingAll(70);
+        tool.registry.closed("Software").closed("System");
+        tool.eventReporter.failing(429);
+        tool.eventLogExporter.failing(70);
+        tool.processes.failing(5);
+        tool.desktop.pickersFailing(5);
+        tool.workstation.machine.reset();
+        tool.workstation.person.reset();
+    }
+
+    void openFile()
+    {
+        tool.desktop.picks("C:\\Temp\\opened.txt");
+        console.clickMenuItem("mnuOpenLogFile");
+    }
+
+    /// Opens and shows each node that is there, and uses every command on each.
+    void useEverything()
+    {
+        const std::function<void()> commands[] = {
+            [&] { console.taskMenu(); },
+            [&] { console.topMenu(); },
+            [&] { console.viewMenu(); },
+            [&] { console.hasPropertyPages(); },
+            [&] { openFile(); },
+            [&] { console.clickMenuItem("mnuStartNewLogFiles"); },
+            [&] { snapIn.refreshScopeItems(); },
+            [&] { console.refresh(); },
+        };
+        Texts keys;
+        for (int position = 1; position <= console.scopeItems().count(); ++position)
+            keys.push_back(console.scopeItems().item(position).key());
+        for (const auto& key : keys) {
+            for (const auto& command : commands) {
+                ScopeItem* item = console.scopeItems().find(key);
+                if (!item) continue;
+                EXPECT_NO_THROW(view().select(*item));
+                EXPECT_NO_THROW(command());
+            }
+        }
+        EXPECT_NO_THROW(view().select(node("Static Node")));
+        for (const char* task : {"1", "2", "3", "4", "5", "6"})
+            EXPECT_NO_THROW(console.clickTask(task));
+    }
+};
+
+} // namespace
+
+TEST_F(AllFailing, StartUpAndEveryEventGoOnPastAllErrors)
+{
+    failEverything();
+
+    EXPECT_NO_THROW(load());
+    useEverything();
+
+    EXPECT_EQ("Static Node", selected());
+    EXPECT_EQ(429, errorOf([&] { console.unload(); }));
+}
+
+TEST_F(AllFailing, EveryEventGoesOnPastErrorsThatBeginAfterTheStart)
+{
+    load();
+    console.expand(processes());
+    console.expand(node("RoCsMgr"));
+    failEverything();
+
+    useEverything();
+
+    EXPECT_EQ("Static Node", selected());
+    EXPECT_EQ(429, errorOf([&] { console.unload(); }));
+}
+
+TEST_F(AllFailing, EveryEventGoesOnWhenOneServiceFails)
+{
+    const std::pair<const char*, std::function<void(ShellTest&)>> services[] = {
+        {"files", [](ShellTest& test) { test.tool.files.failingAll(57); }},
+        {"registry", [](ShellTest& test) { test.tool.registry.closed("Software"); }},
+        {"event reporter", [](ShellTest& test) { test.tool.eventReporter.failing(5); }},
+        {"desktop", [](ShellTest& test) { test.tool.desktop.pickersFailing(70); }},
+    };
+    load();
+    console.expand(processes());
+    for (const auto& [name, fail] : services) {
+        SCOPED_TRACE(name);
+        fail(*this);
+        useEverything();
+    }
+    EXPECT_EQ("Static Node", selected());
+}

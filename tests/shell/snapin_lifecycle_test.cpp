@@ -1,0 +1,212 @@
+#include "shell/shell_fixture.h"
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+using SnapInLifecycle = ShellTest;
+
+std::vector<std::int32_t> reportedIds(const TestTool& tool)
+{
+    std::vector<std::int32_t> ids;
+    for (const auto& report : tool.eventReporter.reports()) ids.push_back(report.id);
+    return ids;
+}
+
+} // namespace
+
+TEST_F(SnapInLifecycle, GivesTheConsoleItsIdentity)
+{
+    tool.module.major = 4;
+    tool.module.minor = 3;
+    tool.module.build = 10;
+
+    snapIn.SnapIn_Initialize();
+
+    EXPECT_EQ("Kelma Orvan Diagnostics", console.displayName());
+    EXPECT_EQ("Kelma Orvan Diagnostics", node("Static Node").displayName());
+    EXPECT_EQ("Kelma Systems, Inc.", console.identity().provider);
+    EXPECT_EQ("Kelma Orvan Diagnostics MMC Snap-in\r\n"
+              "Copyright \xC2\xA9 Kelma Systems, Inc.  All rights reserved.\r\n"
+              "Kelma, Orvan and Kelma Orvan are trademarks of Kelma Systems, Inc.",
+              console.identity().description);
+}
+
+TEST_F(SnapInLifecycle, ShowsItsVersionWithALeadingBlankAndSingleBlanksAroundBuild)
+{
+    struct Case {
+        const char* because;
+        int major;
+        int minor;
+        int revision;
+        const char* expected;
+    };
+    const Case cases[] = {
+        {"the leading blank keeps the place of a sign", 4, 3, 10, " 4.3 Build 10"},
+        {"zeros are written", 0, 0, 0, " 0.0 Build 0"},
+        {"more digits need no more blanks", 12, 10, 12345, " 12.10 Build 12345"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        tool.module.major = c.major;
+        tool.module.minor = c.minor;
+        tool.module.build = c.revision;
+
+        snapIn.SnapIn_Initialize();
+
+        EXPECT_EQ(c.expected, console.identity().version);
+    }
+}
+
+TEST_F(SnapInLifecycle, TakesEachPartOfTheServersVersionByItself)
+{
+    struct Case {
+        const char* because;
+        std::vector<int> version;
+        bool extended;
+    };
+    const Case cases[] = {
+        {"a server without values logs the short form", {}, false},
+        {"2.0 came before the fields", {2, 0, 0, 0}, false},
+        {"2.1 has them", {2, 1, 0, 0}, true},
+        {"a minor version of 0 counts against 3.0", {3, 0, 0, 0}, false},
+        {"a later minor version has them", {4, 1, 0, 0}, true},
+        {"1.9 came before", {1, 9, 9, 9}, false},
+        {"a negative release counts against it", {4, 1, -1, 0}, false},
+        {"so does a negative build", {4, 1, 0, -1}, false},
+    };
+    const char* const names[] = {"MajorVersion", "MinorVersion", "ReleaseVersion", "BuildVersion"};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        TestTool fresh;
+        Console itsConsole(definition);
+        snapinOrvanDiagnostics its(fresh.context, itsConsole);
+        for (std::size_t part = 0; part < c.version.size(); ++part)
+            fresh.registry.withNumber(baseKey, names[part], c.version[part]);
+
+        its.SnapIn_Initialize();
+
+        EXPECT_EQ(c.extended, fresh.context.g_bExtendedLogFields);
+    }
+}
+
+TEST_F(SnapInLifecycle, FillsTheGlobalContextOnLoading)
+{
+    tool.registry.withText(baseKey, "InstalledFolderPath", "C:\\Orvan\\");
+
+    snapIn.SnapIn_Load();
+
+    EXPECT_EQ("C:\\Orvan\\", tool.context.g_strInstalledFolder);
+    EXPECT_EQ("C:\\Logs", tool.context.g_strLogFolder);
+    EXPECT_EQ("C:\\OrvanDiagnostics\\ZMKXML", tool.context.g_strMacroTraceFolder);
+    EXPECT_EQ(1, tool.context.g_bitMasks[0]);
+    EXPECT_EQ(FakeEventReporter::toolHandle, tool.context.g_eventLogHandle);
+    EXPECT_FALSE(tool.context.g_bDebugMode);
+    EXPECT_NE(0, tool.context.g_timeZone.daylightDate.month) << "the time zone was read";
+    EXPECT_THAT(tool.failures(), IsEmpty());
+}
+
+TEST_F(SnapInLifecycle, SetsTheEventReporterUpBeforeItsFirstReport)
+{
+    snapIn.SnapIn_Load();
+
+    EXPECT_THAT(tool.eventReporter.calls(),
+                ElementsAre("startUp", "completeStartUp", "registerTool", "report", "report"));
+    EXPECT_EQ("OrvanDiagnostics", tool.eventReporter.registeredName());
+    EXPECT_THAT(tool.eventReporter.reports(),
+                ElementsAre(
+                    FakeEventReporter::Report{
+                        "OrvanDiagnosticTool_MC", FakeEventReporter::toolHandle, 0, 10001, {}},
+                    FakeEventReporter::Report{
+                        "OrvanDiagnosticTool_MC", FakeEventReporter::toolHandle, 0, 10002, {}}));
+}
+
+TEST_F(SnapInLifecycle, TakesTheDebugModeOnceAtStartUp)
+{
+    tool.module.developmentHost = true;
+    snapIn.SnapIn_Load();
+    tool.module.developmentHost = false;
+
+    EXPECT_TRUE(tool.context.g_bDebugMode);
+}
+
+TEST_F(SnapInLifecycle, LeavesTheFoldersEmptyWhenTheServerStoredNone)
+{
+    TestTool bare;
+    Console itsConsole(definition);
+    snapinOrvanDiagnostics its(bare.context, itsConsole);
+
+    its.SnapIn_Load();
+
+    EXPECT_EQ("", bare.context.g_strInstalledFolder);
+    EXPECT_EQ("", bare.context.g_strLogFolder);
+    EXPECT_THAT(reportedIds(bare), ElementsAre(10001, 10002));
+}
+
+TEST_F(SnapInLifecycle, GoesOnPastAnEventReporterThatTheServerLacks)
+{
+    tool.eventReporter.missing();
+
+    snapIn.SnapIn_Load();
+
+    EXPECT_THAT(tool.failures("[mdlInitialize]initGlobalVariables"),
+                testing::Each(testing::MatchesRegex(
+                    "Err\\.Number = 429 Err\\.Description = .* Line: [0-9]+")));
+    EXPECT_EQ(4u, tool.failures("[mdlInitialize]initGlobalVariables").size());
+    EXPECT_EQ(1u, tool.failures("[snapinOrvanDiagnostics]SnapIn_Load").size());
+    EXPECT_NE(0, tool.context.g_timeZone.daylightDate.month) << "later steps ran";
+}
+
+TEST_F(SnapInLifecycle, GoesOnWithTheOldFolderWhenTheSettingChanges)
+{
+    load();
+
+    tool.registry.withText(logManagerKey, "Output Path", "C:\\Elsewhere");
+    console.refresh();
+
+    EXPECT_EQ("C:\\Logs", tool.context.g_strLogFolder);
+}
+
+TEST_F(SnapInLifecycle, LogsItsRoutinesInTheirOrder)
+{
+    load();
+
+    Texts entered;
+    for (const auto& line : tool.logLines())
+        if (line.message.rfind("Entering ", 0) == 0) entered.push_back(line.message.substr(9));
+    const auto place = [&](const std::string& routine) {
+        return std::find(entered.begin(), entered.end(), routine + "_0") - entered.begin();
+    };
+    const auto missing = static_cast<std::ptrdiff_t>(entered.size());
+    const auto initialize = place("[snapinOrvanDiagnostics]SnapIn_Initialize");
+    const auto version = place("[mdlOrvan]getVersion");
+    const auto loaded = place("[snapinOrvanDiagnostics]SnapIn_Load");
+    const auto globals = place("[mdlInitialize]initGlobalVariables");
+    EXPECT_EQ(0, initialize) << "the first routine that logs makes the log";
+    EXPECT_LT(initialize, version);
+    EXPECT_LT(version, loaded);
+    EXPECT_LT(loaded, globals);
+    EXPECT_LT(globals, missing);
+}
+
+TEST_F(SnapInLifecycle, ReportsItsEndAndChangesNothingElse)
+{
+    load();
+    const auto written = tool.registry.written();
+
+    console.unload();
+
+    EXPECT_EQ(10003, reportedIds(tool).back());
+    EXPECT_EQ(written, tool.registry.written());
+}
+
+TEST_F(SnapInLifecycle, LetsAnErrorOfUnloadingReachTheConsole)
+{
+    load();
+    tool.eventReporter.failing(429);
+
+    EXPECT_EQ(429, errorOf([&] { console.unload(); }));
+}
