@@ -1,0 +1,3 @@
+add_executable(diag_log_view_benchmark diag_log_view_benchmark.cpp)
+target_link_libraries(diag_log_view_benchmark PRIVATE
+  orvan_shell orvan_test_support benchmark::benchmark benchmark::benchmark_main)
