@@ -12,7 +12,10 @@ namespace {
 Resume onErrorAtLine(ToolContext& tool, const std::string& line, const RunTimeError& error)
 {
     if (error.number() != runTimeErrors::invalidCall) return Resume::asUsual;
-    tool.g_log->log("Could not format: " + line, logLevel::warning, "processOrvanLogFile");
+    ErrorTrap step{tool, "mdlLogs", "processOrvanLogFile"};
+    step([&] {
+        tool.g_log->log("Could not format: " + line, logLevel::warning, "processOrvanLogFile");
+    });
     return Resume::next;
 }
 

@@ -2,7 +2,9 @@
 
 #include "platform/clock.h"
 
+#include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 /// A clock that stands still until a test moves it. Nothing waits; sleeps are remembered.
@@ -17,15 +19,27 @@ public:
     /// From now on `timer` gives `seconds` instead of what `now` means.
     FakeClock& timerAt(float seconds);
 
+    /// Runs in every sleep, as another program would.
+    FakeClock& onSleep(std::function<void()> event)
+    {
+        event_ = std::move(event);
+        return *this;
+    }
+
     /// Milliseconds of each sleep, oldest first.
     const std::vector<int>& sleeps() const { return sleeps_; }
 
     Date now() const override { return now_; }
     float timer() const override;
-    void sleep(int milliseconds) override { sleeps_.push_back(milliseconds); }
+    void sleep(int milliseconds) override
+    {
+        sleeps_.push_back(milliseconds);
+        if (event_) event_();
+    }
 
 private:
     Date now_ = initial;
     std::optional<float> timer_;
     std::vector<int> sleeps_;
+    std::function<void()> event_;
 };
