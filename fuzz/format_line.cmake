@@ -1,0 +1,1 @@
+orvan_fuzz(format_line LINKS orvan_logreader orvan_test_support)

@@ -1,0 +1,1 @@
+orvan_fuzz(parse_diagnostic LINKS orvan_logreader orvan_test_support)
