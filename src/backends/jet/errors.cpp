@@ -11,6 +11,16 @@ void raiseUnknownFormat(const std::string& what)
                        "Unrecognized database format (" + what + ").");
 }
 
+void raiseFileNotFound(const std::string& path)
+{
+    throw RunTimeError(traceDatabaseErrors::fileNotFound, "Couldn't find file '" + path + "'.");
+}
+
+void raiseCannotOpen(const std::string& path)
+{
+    throw RunTimeError(traceDatabaseErrors::cannotOpen, "Cannot open the file '" + path + "'.");
+}
+
 void raiseDiskFull()
 {
     throw RunTimeError(traceDatabaseErrors::diskFull, "Not enough space on disk.");

@@ -22,11 +22,6 @@ constexpr std::size_t mappedBytes = std::size_t{formatFilePages} * pageSize;
 constexpr std::uint32_t pagesPerRun = 64;
 constexpr std::uint32_t pagesKept = 2048;
 
-[[noreturn]] void raiseCannotOpen(const std::string& path)
-{
-    throw RunTimeError(traceDatabaseErrors::cannotOpen, "Cannot open the file '" + path + "'.");
-}
-
 /// The most pages that the process may give a file; writing past it would end the program.
 std::uint64_t pagesAllowed()
 {
@@ -56,15 +51,15 @@ PageFile::PageFile(const std::string& path)
 {
     file_ = open(path.c_str(), O_RDWR | O_CLOEXEC);
     if (file_ < 0) {
-        if (errno != ENOENT && errno != ENOTDIR) raiseCannotOpen(path);
-        throw RunTimeError(traceDatabaseErrors::fileNotFound, "Couldn't find file '" + path + "'.");
+        if (errno == ENOENT || errno == ENOTDIR) raiseFileNotFound(path);
+        raiseCannotOpen(path);
     }
     try {
         if (flock(file_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
             throw RunTimeError(traceDatabaseErrors::fileInUse,
                                "Couldn't use '" + path + "'; file already in use.");
         readSize();
-        map();
+        map(path);
     } catch (const RunTimeError&) {
         ::close(file_);
         throw;
@@ -90,11 +85,10 @@ void PageFile::readSize()
     count_ = extent_ = static_cast<std::uint32_t>(size / pageSize);
 }
 
-void PageFile::map()
+void PageFile::map(const std::string& path)
 {
     void* mapped = mmap(nullptr, mappedBytes, PROT_READ | PROT_WRITE, MAP_SHARED, file_, 0);
-    if (mapped == MAP_FAILED)
-        throw RunTimeError(traceDatabaseErrors::cannotOpen, "Cannot map the database file.");
+    if (mapped == MAP_FAILED) raiseCannotOpen(path);
     base_ = static_cast<char*>(mapped);
 }
 

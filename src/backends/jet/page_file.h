@@ -50,7 +50,7 @@ public:
 
 private:
     void readSize();
-    void map();
+    void map(const std::string& path);
     void extendTo(std::uint32_t pages);
     bool extendBy(std::uint64_t run);
 

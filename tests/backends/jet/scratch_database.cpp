@@ -1,5 +1,7 @@
 #include "backends/jet/scratch_database.h"
 
+#include "backends/jet/mapped_file.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -15,8 +17,8 @@ std::string bytesOfFile(const std::filesystem::path& path)
 
 std::vector<TextRow> rowsOf(const std::filesystem::path& path, const std::string& table)
 {
-    const std::string image = bytesOfFile(path);
-    const jet::Reader reader(image);
+    const jet::MappedFile file(path.string());
+    const jet::Reader reader(file.bytes());
     const jet::TableDefinition* found = reader.find(table);
     if (found == nullptr) {
         ADD_FAILURE() << "no table " << table;
@@ -34,9 +36,9 @@ std::vector<TextRow> rowsOf(const std::filesystem::path& path, const std::string
 
 std::string problemsOf(const std::filesystem::path& path)
 {
-    const std::string image = bytesOfFile(path);
+    const jet::MappedFile file(path.string());
     std::string lines;
-    for (const auto& problem : jet::Reader(image).problems()) lines += problem + "\n";
+    for (const auto& problem : jet::Reader(file.bytes()).problems()) lines += problem + "\n";
     return lines;
 }
 

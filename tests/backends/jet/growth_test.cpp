@@ -1,0 +1,215 @@
+#include "backends/jet/row_filler.h"
+#include "support/error_of.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sys/resource.h>
+
+namespace {
+
+std::uint64_t pagesOf(const std::filesystem::path& path)
+{
+    const auto size = std::filesystem::file_size(path);
+    EXPECT_EQ(0u, size % 4096);
+    return size / 4096;
+}
+
+TEST(Growth, EveryRowAndMapStaysRightPastTheEndOfTheInlineMaps)
+{
+    ScratchDatabase scratch;
+    auto engine = machineEngine();
+    constexpr std::size_t rows = 4000;
+    {
+        const auto database = engine.openDatabase(scratch.path().string());
+        const auto traces = database->openRecordset("tblTraces");
+        for (std::size_t row = 0; row < rows; ++row) addNumberedRow(*traces, row);
+    }
+    EXPECT_GT(pagesOf(scratch.path()), 512u);
+    EXPECT_EQ(rows, countNumberedRows(scratch.path()));
+    EXPECT_EQ("", problemsOf(scratch.path()));
+}
+
+TEST(Growth, ReopeningGoesOnWhereTheFileEnded)
+{
+    ScratchDatabase scratch;
+    auto engine = machineEngine();
+    std::size_t row = 0;
+    for (const std::size_t last : {1u, 2u, 40u, 300u, 301u, 1500u, 2600u}) {
+        const auto database = engine.openDatabase(scratch.path().string());
+        const auto traces = database->openRecordset("tblTraces");
+        while (row < last) addNumberedRow(*traces, row++);
+        traces->close();
+        database->close();
+        ASSERT_EQ(last, countNumberedRows(scratch.path()));
+        ASSERT_EQ("", problemsOf(scratch.path()));
+    }
+}
+
+TEST(Growth, AFileHasNoPageMoreThanItsRowsNeed)
+{
+    ScratchDatabase scratch;
+    const auto before = pagesOf(scratch.path());
+    auto engine = machineEngine();
+    const auto database = engine.openDatabase(scratch.path().string());
+    const auto filters = database->openRecordset("tblUniqueFilters");
+    EXPECT_EQ(before, pagesOf(scratch.path()));
+    filters->addNew();
+    filters->update();
+    database->close();
+    EXPECT_EQ(before + 1, pagesOf(scratch.path()));
+}
+
+TEST(Growth, APageTakes255RowsAndNoMore)
+{
+    ScratchDatabase scratch(jet::parseSchema("table tblSmall\ncolumn Level integer\n"));
+    auto engine = machineEngine();
+    const auto before = pagesOf(scratch.path());
+    const auto database = engine.openDatabase(scratch.path().string());
+    const auto rows = database->openRecordset("tblSmall");
+    for (int row = 0; row < 256; ++row) {
+        rows->addNew();
+        rows->field("Level").setNumber(row);
+        rows->update();
+    }
+    database->close();
+    EXPECT_EQ(before + 2, pagesOf(scratch.path()));
+    EXPECT_EQ(256u, scratch.rows("tblSmall").size());
+    EXPECT_EQ("", problemsOf(scratch.path()));
+}
+
+TEST(Growth, ARowLargerThanAPageHoldsRaises3047)
+{
+    std::string schema = "table tblWide\n";
+    for (int column = 0; column < 9; ++column)
+        schema += "column Text" + std::to_string(column) + " text 255\n";
+    ScratchDatabase scratch(jet::parseSchema(schema));
+    auto engine = machineEngine();
+    const auto database = engine.openDatabase(scratch.path().string());
+    const auto rows = database->openRecordset("tblWide");
+    std::string wide;
+    for (int count = 0; count < 255; ++count) wide += "\xD0\x96";
+    rows->addNew();
+    for (int column = 0; column < 9; ++column)
+        rows->field("Text" + std::to_string(column)).setUtf8(wide);
+    EXPECT_EQ(3047, errorOf([&] { rows->update(); }));
+    rows->field("Text0").setText("short");
+    rows->field("Text1").setText("short");
+    rows->update();
+    EXPECT_EQ(1u, scratch.rows("tblWide").size());
+}
+
+/// Lets files have so many bytes and no more, while the object lives.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(std::uint64_t bytes)
+    {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        rlimit limit = before_;
+        limit.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
+
+private:
+    rlimit before_{};
+};
+
+TEST(Growth, WhereTheDiskHoldsNoMoreTheUpdateRaises3026AndTheRowsBeforeStay)
+{
+    ScratchDatabase scratch;
+    auto engine = machineEngine();
+    const auto database = engine.openDatabase(scratch.path().string());
+    const auto traces = database->openRecordset("tblTraces");
+    std::size_t stored = 0;
+    {
+        const FileSizeLimit limit(100 * 4096 + 100);
+        while (errorOf([&] { addNumberedRow(*traces, stored); }) == 0) ++stored;
+        EXPECT_EQ(3026, errorOf([&] { traces->update(); })) << "the row is still being added";
+        EXPECT_EQ(stored, countNumberedRows(scratch.path()));
+        EXPECT_LE(std::filesystem::file_size(scratch.path()), 100u * 4096);
+    }
+    EXPECT_GT(stored, 50u);
+    traces->update();
+    EXPECT_EQ(stored + 1, countNumberedRows(scratch.path()));
+    database->close();
+    EXPECT_EQ("", problemsOf(scratch.path()));
+}
+
+TEST(Growth, ALongTextThatDoesNotFitLeavesTheFileAsItWas)
+{
+    ScratchDatabase scratch;
+    auto engine = machineEngine();
+    const auto database = engine.openDatabase(scratch.path().string());
+    const auto macros = database->openRecordset("tblMacroTraces");
+    macros->addNew();
+    macros->field("Data").setText(std::string(1'000'000, 'x'));
+    {
+        const FileSizeLimit limit(100 * 4096);
+        EXPECT_EQ(3026, errorOf([&] { macros->update(); }));
+    }
+    macros->field("Data").setText("short");
+    macros->update();
+    database->close();
+    EXPECT_EQ(1u, scratch.rows("tblMacroTraces").size());
+    EXPECT_EQ(24u, pagesOf(scratch.path())) << "one more, for the row";
+}
+
+/// Makes a file so many pages long without the disk space, as if other things lay there.
+void lengthenTo(const std::filesystem::path& path, std::uint64_t pages)
+{
+    std::filesystem::resize_file(path, pages * 4096);
+    std::fstream file(path, std::ios::binary | std::ios::in | std::ios::out);
+    file.seekp(static_cast<std::streamoff>(pages * 4096 - 1));
+    file.put('x');
+}
+
+TEST(Growth, TheDatabaseStopsAtTheLargestFileThatACabinetCarries)
+{
+    ScratchDatabase scratch;
+    lengthenTo(scratch.path(), 524'200);
+    auto engine = machineEngine();
+    const auto database = engine.openDatabase(scratch.path().string());
+    const auto macros = database->openRecordset("tblMacroTraces");
+    const std::string page(2000, 'x');
+    std::size_t stored = 0;
+    int error = 0;
+    while (error == 0 && stored < 1000) {
+        macros->addNew();
+        macros->field("Name").setNumber(static_cast<std::int32_t>(stored));
+        macros->field("Data").setText(page);
+        error = errorOf([&] { macros->update(); });
+        if (error == 0) ++stored;
+    }
+    EXPECT_EQ(3183, error);
+    database->close();
+    EXPECT_LE(std::filesystem::file_size(scratch.path()), 2'147'450'880u);
+    EXPECT_GT(std::filesystem::file_size(scratch.path()), 2'147'450'880u - 4 * 4096);
+    EXPECT_EQ(stored, scratch.rows("tblMacroTraces").size());
+    EXPECT_EQ("", problemsOf(scratch.path()));
+}
+
+TEST(Growth, AFileOfMoreThanTheFormatsSizeIsRefused)
+{
+    ScratchDatabase scratch;
+    std::filesystem::resize_file(scratch.path(), 524'289ull * 4096);
+    auto engine = machineEngine();
+    EXPECT_EQ(3343, errorOf([&] { engine.openDatabase(scratch.path().string()); }));
+}
+
+TEST(Growth, MapsOfMoreThanOneBitmapPageAreRight)
+{
+    ScratchDatabase scratch;
+    lengthenTo(scratch.path(), 32'700);
+    auto engine = machineEngine();
+    {
+        const auto database = engine.openDatabase(scratch.path().string());
+        const auto traces = database->openRecordset("tblTraces");
+        for (std::size_t row = 0; row < 1500; ++row) addNumberedRow(*traces, row);
+    }
+    EXPECT_GT(pagesOf(scratch.path()), 32'800u);
+    EXPECT_EQ(1500u, countNumberedRows(scratch.path()));
+    EXPECT_EQ("", problemsOf(scratch.path()));
+}
+
+} // namespace
