@@ -1,0 +1,1 @@
+orvan_fuzz(jet_reader LINKS orvan_jet)

@@ -1,0 +1,1 @@
+orvan_fuzz(jet_writer LINKS orvan_jet)
