@@ -2,9 +2,9 @@
 BEGIN;
 
 INSERT INTO tbl_ConfigurationValue (FullName, Value, Type) VALUES
-    ('System.LogMgr.Broadcast.CycleDiagTimeSet', '2026-11-18 00:00:04', 7),
-    ('System.LogMgr.Broadcast.DiagGridTimeSet', '2026-11-19 09:26:31', 7),
-    ('System.LogMgr.Broadcast.WritingEnabledTimeSet', '2026-03-02 11:05:47', 7),
+    ('System.LogMgr.Broadcast.CycleDiagTimeSet', '2025-02-19 14:31:08', 7),
+    ('System.LogMgr.Broadcast.DiagGridTimeSet', '2025-02-19 09:26:31', 7),
+    ('System.LogMgr.Broadcast.WritingEnabledTimeSet', '2024-10-02 11:05:47', 7),
     ('System.LogMgr.MaxDiagnosticMegabytesSaved', 400, 3),
     ('System.LogMgr.OutputPath', 'C:\KelmaOrvan\Logs', 8),
     ('System.LogMgr.WritingEnabled', 1, 11),
@@ -14,7 +14,7 @@ INSERT INTO tbl_ConfigurationValue (FullName, Value, Type) VALUES
     ('System.Directory.ReplicationPartner', NULL, 1),
     ('System.MailboxStore.MaxMessageSeconds', 300, 3),
     ('System.MailboxStore.PrimaryServer', 'MAIL02', 8),
-    ('System.MsgWaiting.LastResynchronisation', '2026-11-20 02:00:00', 7),
+    ('System.MsgWaiting.LastResynchronisation', '2025-02-20 02:00:00', 7),
     ('System.MsgWaiting.RetryMinutes', 5, 3),
     ('System.Notification.PagerPauseSeconds', 2.0, 4),
     ('System.PhoneLink.SwitchName', 'PBX-A', 8),

@@ -1,0 +1,60 @@
+#include "backends/portable/sample/output_file.h"
+
+#include "runtime/run_time_error.h"
+
+#include <fcntl.h>
+#include <iterator>
+#include <sys/stat.h>
+
+namespace sample {
+
+namespace fs = std::filesystem;
+
+OutputFile::OutputFile(fs::path path) : path_(std::move(path)), buffer_(std::size_t{1} << 16)
+{
+    stream_.rdbuf()->pubsetbuf(buffer_.data(), static_cast<std::streamsize>(buffer_.size()));
+    stream_.open(path_, std::ios::binary);
+    if (!stream_)
+        throw RunTimeError(runTimeErrors::deviceIo, "cannot make the file " + path_.string());
+}
+
+void OutputFile::write(std::string_view bytes)
+{
+    stream_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+}
+
+void OutputFile::close(Moment modified)
+{
+    stream_.close();
+    if (!stream_)
+        throw RunTimeError(runTimeErrors::diskFull, "cannot write the file " + path_.string());
+    setModified(path_, modified);
+}
+
+void writeFile(const fs::path& path, std::string_view bytes, Moment modified)
+{
+    std::error_code failure;
+    fs::create_directories(path.parent_path(), failure);
+    OutputFile file(path);
+    file.write(bytes);
+    file.close(modified);
+}
+
+std::string readFile(const fs::path& path)
+{
+    std::ifstream stream(path, std::ios::binary);
+    if (!stream || fs::is_directory(path))
+        throw RunTimeError(runTimeErrors::fileNotFound,
+                           "the installed data lack the file " + path.string());
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+void setModified(const fs::path& path, Moment modified)
+{
+    timespec times[2] = {};
+    times[0].tv_sec = times[1].tv_sec = static_cast<time_t>(unixSeconds(modified));
+    if (::utimensat(AT_FDCWD, path.c_str(), times, 0) != 0)
+        throw RunTimeError(runTimeErrors::deviceIo, "cannot date " + path.string());
+}
+
+} // namespace sample

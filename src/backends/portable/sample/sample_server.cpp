@@ -1,0 +1,117 @@
+#include "backends/portable/sample/sample_server.h"
+
+#include "backends/portable/sample/event_logs.h"
+#include "backends/portable/sample/log_writer.h"
+#include "backends/portable/sample/server_files.h"
+#include "backends/portable/sample/traffic.h"
+#include "runtime/run_time_error.h"
+
+#include <algorithm>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t fewestLines = 100;
+
+fs::path targetOf(const SampleOptions& options)
+{
+    fs::path target = fs::absolute(options.folder).lexically_normal();
+    if (!target.has_filename()) target = target.parent_path();
+    return target;
+}
+
+void refuseUnlessFree(const fs::path& target)
+{
+    std::error_code failure;
+    if (!fs::is_directory(target.parent_path(), failure))
+        throw RunTimeError(runTimeErrors::pathNotFound,
+                           "the folder " + target.parent_path().string() + " does not exist");
+    if (!fs::exists(fs::symlink_status(target, failure))) return;
+    if (!fs::is_directory(target, failure) || !fs::is_empty(target, failure) || failure)
+        throw RunTimeError(runTimeErrors::fileAlreadyExists,
+                           target.string() + " is already there; choose another folder");
+}
+
+/// The folder that the sample is made in. Unless it was kept, it goes again.
+class PartialFolder {
+public:
+    explicit PartialFolder(const fs::path& target) : path_(target.string() + ".partial")
+    {
+        std::error_code failure;
+        if (!fs::create_directory(path_, failure))
+            throw RunTimeError(failure ? runTimeErrors::pathFileAccess
+                                       : runTimeErrors::fileAlreadyExists,
+                               failure ? "cannot make the folder " + path_.string()
+                                       : path_.string() + " is in the way; remove it first");
+    }
+    ~PartialFolder()
+    {
+        std::error_code ignored;
+        if (!path_.empty()) fs::remove_all(path_, ignored);
+    }
+    PartialFolder(const PartialFolder&) = delete;
+    PartialFolder& operator=(const PartialFolder&) = delete;
+
+    const fs::path& path() const { return path_; }
+
+    void keepAs(const fs::path& target)
+    {
+        std::error_code failure;
+        fs::rename(path_, target, failure);
+        if (failure)
+            throw RunTimeError(runTimeErrors::pathFileAccess,
+                               "cannot move the finished sample to " + target.string());
+        path_.clear();
+    }
+
+private:
+    fs::path path_;
+};
+
+void writeLogs(const fs::path& folder, const std::vector<sample::LogPeriod>& plan,
+               const SampleOptions& options, sample::Random& random)
+{
+    fs::create_directories(folder);
+    sample::LogWriter writer(folder, plan, options.logFields == LogFields::extended);
+    sample::Traffic traffic(random, plan, std::max(options.lines, fewestLines),
+                            [&](const sample::LogLine& line) { writer.write(line); });
+    traffic.run();
+    writer.close();
+}
+
+void dateFolders(const fs::path& site)
+{
+    for (const auto& entry : fs::recursive_directory_iterator(site))
+        if (entry.is_directory()) sample::setModified(entry.path(), sample::coverageEnd);
+    sample::setModified(site, sample::coverageEnd);
+}
+
+void fill(const fs::path& site, const SampleOptions& options)
+{
+    sample::ServerIdentity identity;
+    identity.logFields = options.logFields;
+    sample::Random random(options.seed);
+    const auto plan = sample::drawLogPlan(random);
+
+    sample::writeServerFiles(site, options.dataFolder, identity, plan);
+    sample::writeDirectoryDatabase(site, options.dataFolder);
+    sample::writeEventLogs(site / "eventlogs", identity.computer, random);
+    writeLogs(sample::logFolder(site), plan, options, random);
+    dateFolders(site);
+}
+
+} // namespace
+
+void makeSampleServer(const SampleOptions& options)
+{
+    try {
+        const fs::path target = targetOf(options);
+        refuseUnlessFree(target);
+        PartialFolder partial(target);
+        fill(partial.path(), options);
+        partial.keepAs(target);
+    } catch (const fs::filesystem_error& error) {
+        throw RunTimeError(runTimeErrors::deviceIo, error.what());
+    }
+}
