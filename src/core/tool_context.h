@@ -12,9 +12,11 @@
 #include <string>
 #include <vector>
 
+class DatabaseConnection;
 class OpenForm;
 class ScopeItem;
 class WSInfo;
+class XmlDocument;
 
 /// What the interface language module remembers.
 struct LanguageState {
@@ -46,6 +48,11 @@ struct ToolContext {
     TimeZoneInformation g_timeZone;
     std::array<std::int32_t, 32>
         g_bitMasks{}; ///< entry n is 2 to the power n; entry 31 is negative
+
+    DatabaseConnection& g_connection; ///< opened at start-up and never closed by the tool
+
+    std::shared_ptr<XmlDocument> g_domMacroTraces;     ///< all definitions; null until built
+    std::shared_ptr<XmlDocument> g_domDiagnosticGrids; ///< first use, by `openDiagGrids`
 
     std::shared_ptr<WSInfo> g_wsInfo; ///< first use, through `workstationInfo`
 

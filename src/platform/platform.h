@@ -1,6 +1,7 @@
 #pragma once
 
 class Clock;
+class DatabaseConnection;
 class Desktop;
 class EventLogExporter;
 class EventReporter;
@@ -11,6 +12,7 @@ class Processes;
 class Registry;
 class TimeZoneService;
 class Workstation;
+class XmlService;
 
 /// Every service that the tool is given. A host owns them and outlives the tool.
 struct Platform {
@@ -25,4 +27,6 @@ struct Platform {
     HostModule& module;
     Languages& languages;
     Desktop& desktop;
+    DatabaseConnection& connection;
+    XmlService& xml;
 };

@@ -69,8 +69,8 @@ int daysInMonth(int year, int month)
 
 // Years are counted from 1 March, so that the leap day is a year's last day and the months before
 // any one have the same length in every year. An era is 400 years.
-constexpr long long daysPerEra = 146097;
-constexpr long long eraStartToZeroDate = 693899; ///< 1 March 0 to 30 December 1899
+constexpr int daysPerEra = 146097;
+constexpr int eraStartToZeroDate = 693899; ///< 1 March 0 to 30 December 1899
 
 long long dayNumber(int year, int month, int day)
 {

@@ -62,6 +62,13 @@ std::string standardErrorText(int number)
         return "Element not found";
     case keyNotUnique:
         return "Key is not unique in collection";
+    case 3021:
+        return "Either BOF or EOF is True, or the current record has been deleted. Requested "
+               "operation requires a current record.";
+    case 3704:
+        return "Operation is not allowed when the object is closed.";
+    case 3705:
+        return "Operation is not allowed when the object is open.";
     case connectionClosed:
         return "The connection cannot be used to perform this operation. It is either closed or "
                "invalid in this context.";

@@ -1,6 +1,6 @@
 #include "runtime/dates.h"
 
-#include "runtime/error_of.h"
+#include "support/error_of.h"
 
 #include <gtest/gtest.h>
 #include <random>
@@ -124,10 +124,10 @@ TEST(ParseDate, RaisesTypeMismatchForAnythingElse)
     };
     for (const char* const text : texts) {
         SCOPED_TRACE(text);
-        EXPECT_EQ(13, errorNumberOf([&] { parseDate(text); }));
+        EXPECT_EQ(13, errorOf([&] { parseDate(text); }));
     }
-    EXPECT_EQ(13, errorNumberOf([] { parseDate(std::string_view("15:23\0", 6)); }));
-    EXPECT_EQ(13, errorNumberOf([] { parseDate(std::string(100000, '1')); }));
+    EXPECT_EQ(13, errorOf([] { parseDate(std::string_view("15:23\0", 6)); }));
+    EXPECT_EQ(13, errorOf([] { parseDate(std::string(100000, '1')); }));
 }
 
 TEST(ParseDate, TakesBackWhatEachTextShows)
@@ -160,7 +160,7 @@ TEST(ParseDate, RaisesNothingButTypeMismatchForGarbage)
     for (int round = 0; round < 100000; ++round) {
         std::string text;
         for (std::size_t left = length(random); left > 0; --left) text += characters[pick(random)];
-        const int error = errorNumberOf([&] { parseDate(text); });
+        const int error = errorOf([&] { parseDate(text); });
         ASSERT_TRUE(error == 0 || error == 13) << text;
         refused += error == 13;
     }

@@ -1,6 +1,6 @@
 #include "runtime/dates.h"
 
-#include "runtime/error_of.h"
+#include "support/error_of.h"
 
 #include <gtest/gtest.h>
 #include <limits>
@@ -55,9 +55,9 @@ TEST(PartsOf, RaisesInvalidCallOutsideTheCalendar)
          {-657435.0, 2958466.0, 1e300, -1e300, std::numeric_limits<double>::infinity(),
           std::numeric_limits<double>::quiet_NaN()}) {
         SCOPED_TRACE(days);
-        EXPECT_EQ(5, errorNumberOf([&] { partsOf(Date{days}); }));
+        EXPECT_EQ(5, errorOf([&] { partsOf(Date{days}); }));
     }
-    EXPECT_EQ(5, errorNumberOf([] { partsOf(Date{2958465 + 86399.9 * second}); }))
+    EXPECT_EQ(5, errorOf([] { partsOf(Date{2958465 + 86399.9 * second}); }))
         << "the last half second belongs to a day that is none";
 }
 
@@ -109,10 +109,9 @@ TEST(DateOf, RaisesInvalidCallForPartsOutOfTheirRanges)
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.because);
-        EXPECT_EQ(
-            5, errorNumberOf([&] { dateOf(c.year, c.month, c.day, c.hour, c.minute, c.second); }));
+        EXPECT_EQ(5, errorOf([&] { dateOf(c.year, c.month, c.day, c.hour, c.minute, c.second); }));
     }
-    EXPECT_EQ(0, errorNumberOf([] { dateOf(2000, 2, 29); }));
+    EXPECT_EQ(0, errorOf([] { dateOf(2000, 2, 29); }));
     EXPECT_EQ(-1.25, dateOf(1899, 12, 29, 6).days);
 }
 
@@ -158,11 +157,10 @@ TEST(AddSeconds, GivesTheDateOfTheResultingPartsBitByBit)
 
 TEST(AddSeconds, RaisesInvalidCallOutsideTheCalendar)
 {
-    EXPECT_EQ(5, errorNumberOf([] { addSeconds(dateOf(9999, 12, 31, 23, 59, 59), 1); }));
-    EXPECT_EQ(5, errorNumberOf([] { addDays(dateOf(100, 1, 1), -1); }));
-    EXPECT_EQ(5, errorNumberOf([] { addDays(Date{0}, 1e300); }));
-    EXPECT_EQ(5,
-              errorNumberOf([] { addSeconds(Date{0}, std::numeric_limits<double>::quiet_NaN()); }));
+    EXPECT_EQ(5, errorOf([] { addSeconds(dateOf(9999, 12, 31, 23, 59, 59), 1); }));
+    EXPECT_EQ(5, errorOf([] { addDays(dateOf(100, 1, 1), -1); }));
+    EXPECT_EQ(5, errorOf([] { addDays(Date{0}, 1e300); }));
+    EXPECT_EQ(5, errorOf([] { addSeconds(Date{0}, std::numeric_limits<double>::quiet_NaN()); }));
 }
 
 TEST(WholeSeconds, CountOnOneLineThroughZero)

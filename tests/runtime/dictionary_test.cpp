@@ -1,6 +1,6 @@
 #include "runtime/dictionary.h"
 
-#include "runtime/error_of.h"
+#include "support/error_of.h"
 
 #include <gtest/gtest.h>
 
@@ -24,7 +24,7 @@ TEST(Dictionary, RefusesAKeyTwiceAndKeepsTheFirstItem)
 {
     Dictionary<int> dictionary;
     dictionary.add("key", 1);
-    EXPECT_EQ(457, errorNumberOf([&] { dictionary.add("key", 2); }));
+    EXPECT_EQ(457, errorOf([&] { dictionary.add("key", 2); }));
     EXPECT_EQ(1, dictionary.item("key"));
     EXPECT_EQ(1u, dictionary.count());
 }
@@ -71,7 +71,7 @@ TEST(Dictionary, RaisesElementNotFoundForTheRemovalOfAMissingKey)
 {
     Dictionary<int> dictionary;
     dictionary.add("a", 1);
-    EXPECT_EQ(32811, errorNumberOf([&] { dictionary.remove("A"); }));
+    EXPECT_EQ(32811, errorOf([&] { dictionary.remove("A"); }));
     EXPECT_EQ(1u, dictionary.count());
 }
 

@@ -1,6 +1,6 @@
 #include "runtime/integer16.h"
 
-#include "runtime/error_of.h"
+#include "support/error_of.h"
 
 #include <climits>
 #include <gtest/gtest.h>
@@ -27,7 +27,7 @@ TEST(Integer16, TakesWhatSixteenBitsHoldAndRaisesOverflowForOthers)
     for (const auto& c : cases) {
         SCOPED_TRACE(c.because);
         int held = c.value;
-        EXPECT_EQ(c.error, errorNumberOf([&] { held = Integer16(c.value).value(); }));
+        EXPECT_EQ(c.error, errorOf([&] { held = Integer16(c.value).value(); }));
         EXPECT_EQ(c.value, held);
     }
 }
@@ -35,15 +35,15 @@ TEST(Integer16, TakesWhatSixteenBitsHoldAndRaisesOverflowForOthers)
 TEST(Integer16, KeepsItsValueWhenCountingPastItsEnds)
 {
     Integer16 high(32767);
-    EXPECT_EQ(6, errorNumberOf([&] { ++high; }));
+    EXPECT_EQ(6, errorOf([&] { ++high; }));
     EXPECT_EQ(32767, high.value());
-    EXPECT_EQ(6, errorNumberOf([&] { high += INT_MAX; }));
+    EXPECT_EQ(6, errorOf([&] { high += INT_MAX; }));
     EXPECT_EQ(32767, high.value());
 
     Integer16 low(-32768);
-    EXPECT_EQ(6, errorNumberOf([&] { --low; }));
+    EXPECT_EQ(6, errorOf([&] { --low; }));
     EXPECT_EQ(-32768, low.value());
-    EXPECT_EQ(6, errorNumberOf([&] { low -= INT_MAX; }));
+    EXPECT_EQ(6, errorOf([&] { low -= INT_MAX; }));
     EXPECT_EQ(-32768, low.value());
 }
 
@@ -59,10 +59,10 @@ TEST(Integer16, CountsUpAndDown)
 TEST(Multiply16, OverflowsWhereSixteenBitsEnd)
 {
     EXPECT_EQ(32400, multiply16(9, 3600).value());
-    EXPECT_EQ(6, errorNumberOf([] { multiply16(10, 3600); }));
+    EXPECT_EQ(6, errorOf([] { multiply16(10, 3600); }));
     EXPECT_EQ(-32768, multiply16(-8, 4096).value());
-    EXPECT_EQ(6, errorNumberOf([] { multiply16(8, 4096); }));
-    EXPECT_EQ(6, errorNumberOf([] { multiply16(-32768, -32768); }));
+    EXPECT_EQ(6, errorOf([] { multiply16(8, 4096); }));
+    EXPECT_EQ(6, errorOf([] { multiply16(-32768, -32768); }));
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "runtime/numbers.h"
 
-#include "runtime/error_of.h"
+#include "support/error_of.h"
 
 #include <gtest/gtest.h>
 #include <limits>
@@ -60,8 +60,8 @@ TEST(NumberText, OfASingleHasUpToSevenDigits)
 
 TEST(NumberText, RaisesOverflowForWhatIsNoNumber)
 {
-    EXPECT_EQ(6, errorNumberOf([] { numberText(std::numeric_limits<double>::infinity()); }));
-    EXPECT_EQ(6, errorNumberOf([] { numberText(std::numeric_limits<double>::quiet_NaN()); }));
+    EXPECT_EQ(6, errorOf([] { numberText(std::numeric_limits<double>::infinity()); }));
+    EXPECT_EQ(6, errorOf([] { numberText(std::numeric_limits<double>::quiet_NaN()); }));
 }
 
 TEST(NumberTextWithLeadingBlank, LeavesABlankForTheSign)

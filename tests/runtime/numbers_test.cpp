@@ -1,6 +1,6 @@
 #include "runtime/numbers.h"
 
-#include "runtime/error_of.h"
+#include "support/error_of.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -40,7 +40,7 @@ TEST(ToInteger16, RaisesOverflowPastSixteenBits)
     for (const double value :
          {32767.5, 40000.0, -32768.6, 1e300, infinity, -infinity, notANumber}) {
         SCOPED_TRACE(value);
-        EXPECT_EQ(6, errorNumberOf([&] { toInteger16(value); }));
+        EXPECT_EQ(6, errorOf([&] { toInteger16(value); }));
     }
 }
 
@@ -52,7 +52,7 @@ TEST(ToInteger32, RoundsHalvesToEvenAndRaisesOverflowPastThirtyTwoBits)
     EXPECT_EQ(100002, toInteger32(100001.5));
     for (const double value : {2147483647.5, -2147483648.6, 1e300, infinity, notANumber}) {
         SCOPED_TRACE(value);
-        EXPECT_EQ(6, errorNumberOf([&] { toInteger32(value); }));
+        EXPECT_EQ(6, errorOf([&] { toInteger32(value); }));
     }
 }
 
@@ -93,42 +93,15 @@ TEST(ToNumber, ReadsAWholeText)
 
 TEST(ToNumber, RaisesTypeMismatchForATextThatIsNoNumber)
 {
-    const char* const texts[] = {"",
-                                 "   ",
-                                 "abc",
-                                 "12abc",
-                                 "1 2",
-                                 "-",
-                                 "+",
-                                 ".",
-                                 "-.",
-                                 "1.2.3",
-                                 "1e",
-                                 "1e+",
-                                 "e5",
-                                 "--5",
-                                 "- 5",
-                                 "5-",
-                                 ",5",
-                                 "1.,",
-                                 "&H",
-                                 "&HG",
-                                 "&H-1",
-                                 "-&H1",
-                                 "1e5.",
-                                 "1e5e5",
-                                 "inf",
-                                 "nan",
-                                 "0x10",
-                                 "12\t",
-                                 "$5",
-                                 "\xFF"
-                                 "1",
-                                 "2005-10-8"};
+    const char* const texts[] = {"",     "   ",   "abc",      "12abc", "1 2", "-",    "+",
+                                 ".",    "-.",    "1.2.3",    "1e",    "1e+", "e5",   "--5",
+                                 "- 5",  "5-",    ",5",       "1.,",   "&H",  "&HG",  "&H-1",
+                                 "-&H1", "1e5.",  "1e5e5",    "inf",   "nan", "0x10", "12\t",
+                                 "$5",   "1\xFF", "2005-10-8"};
     for (const char* const text : texts) {
         SCOPED_TRACE(text);
-        EXPECT_EQ(13, errorNumberOf([&] { toNumber(text); }));
-        EXPECT_EQ(13, errorNumberOf([&] { toInteger32(std::string_view(text)); }));
+        EXPECT_EQ(13, errorOf([&] { toNumber(text); }));
+        EXPECT_EQ(13, errorOf([&] { toInteger32(std::string_view(text)); }));
         EXPECT_FALSE(isNumeric(text));
     }
     EXPECT_FALSE(isNumeric(std::string_view("5\0", 2)));
@@ -136,8 +109,8 @@ TEST(ToNumber, RaisesTypeMismatchForATextThatIsNoNumber)
 
 TEST(ToNumber, RaisesOverflowPastItsRange)
 {
-    EXPECT_EQ(6, errorNumberOf([] { toNumber("1e999"); }));
-    EXPECT_EQ(6, errorNumberOf([] { toNumber("&H100000000"); }));
+    EXPECT_EQ(6, errorOf([] { toNumber("1e999"); }));
+    EXPECT_EQ(6, errorOf([] { toNumber("&H100000000"); }));
 }
 
 TEST(ToInteger32, ReadsATextAsANumberAndRoundsHalvesToEven)
@@ -146,7 +119,7 @@ TEST(ToInteger32, ReadsATextAsANumberAndRoundsHalvesToEven)
     EXPECT_EQ(4, toInteger32(std::string_view("3.5")));
     EXPECT_EQ(-1, toInteger32(std::string_view("&HFFFFFFFF")));
     EXPECT_EQ(2147483647, toInteger32(std::string_view("2,147,483,647")));
-    EXPECT_EQ(6, errorNumberOf([] { toInteger32(std::string_view("2147483648")); }));
+    EXPECT_EQ(6, errorOf([] { toInteger32(std::string_view("2147483648")); }));
 }
 
 TEST(LeadingNumber, StopsAtTheFirstCharacterThatCannotBelongToIt)
@@ -204,11 +177,11 @@ TEST(LeadingNumber, StopsAtTheFirstCharacterThatCannotBelongToIt)
 
 TEST(LeadingNumber, RaisesOverflowPastTheRangeOfADouble)
 {
-    EXPECT_EQ(6, errorNumberOf([] { leadingNumber("1E999"); }));
-    EXPECT_EQ(6, errorNumberOf([] { leadingNumber("-1E309"); }));
-    EXPECT_EQ(6, errorNumberOf([] { leadingNumber("1E99999999999999999999"); }));
-    EXPECT_EQ(6, errorNumberOf([] { leadingNumber(std::string(400, '9')); }));
-    EXPECT_EQ(6, errorNumberOf([] { leadingNumber(std::string(400, '9') + "E-5"); }));
+    EXPECT_EQ(6, errorOf([] { leadingNumber("1E999"); }));
+    EXPECT_EQ(6, errorOf([] { leadingNumber("-1E309"); }));
+    EXPECT_EQ(6, errorOf([] { leadingNumber("1E99999999999999999999"); }));
+    EXPECT_EQ(6, errorOf([] { leadingNumber(std::string(400, '9')); }));
+    EXPECT_EQ(6, errorOf([] { leadingNumber(std::string(400, '9') + "E-5"); }));
     EXPECT_EQ(0, leadingNumber("0." + std::string(400, '0') + "1"));
     EXPECT_EQ(0, leadingNumber("0." + std::string(400, '0') + "1E5"));
     EXPECT_EQ(1e20, leadingNumber("100000000000000000000"));

@@ -1,6 +1,6 @@
 #include "runtime/text.h"
 
-#include "runtime/error_of.h"
+#include "support/error_of.h"
 
 #include <climits>
 #include <gtest/gtest.h>
@@ -38,11 +38,11 @@ TEST(Mid, TakesCharactersFromAPlaceCountedFromOne)
 
 TEST(Mid, RaisesInvalidCallForAStartBelowOneOrANegativeLength)
 {
-    EXPECT_EQ(5, errorNumberOf([] { mid("abc", 0, 1); }));
-    EXPECT_EQ(5, errorNumberOf([] { mid("abc", INT_MIN, 1); }));
-    EXPECT_EQ(5, errorNumberOf([] { mid("abc", 1, -1); }));
-    EXPECT_EQ(5, errorNumberOf([] { mid("abc", 9, -1); }));
-    EXPECT_EQ(5, errorNumberOf([] { mid("abc", 0); }));
+    EXPECT_EQ(5, errorOf([] { mid("abc", 0, 1); }));
+    EXPECT_EQ(5, errorOf([] { mid("abc", INT_MIN, 1); }));
+    EXPECT_EQ(5, errorOf([] { mid("abc", 1, -1); }));
+    EXPECT_EQ(5, errorOf([] { mid("abc", 9, -1); }));
+    EXPECT_EQ(5, errorOf([] { mid("abc", 0); }));
 }
 
 TEST(PositionOf, CountsFromOneAndGivesZeroForNone)
@@ -68,7 +68,7 @@ TEST(PositionOf, CountsFromOneAndGivesZeroForNone)
         SCOPED_TRACE(c.because);
         EXPECT_EQ(c.expected, positionOf(c.text, c.wanted, c.start));
     }
-    EXPECT_EQ(5, errorNumberOf([] { positionOf("abc", "a", 0); }));
+    EXPECT_EQ(5, errorOf([] { positionOf("abc", "a", 0); }));
 }
 
 TEST(ReplaceAll, ReplacesEveryOneOnceFromTheLeft)

@@ -50,7 +50,8 @@ std::vector<std::string> linesOf(const std::string& text)
 
 TestTool::TestTool()
     : platform{files,     registry,    clock,  timeZone,  eventReporter, eventLogExporter,
-               processes, workstation, module, languages, desktop},
+               processes, workstation, module, languages, desktop,       database,
+               xml},
       context(platform)
 {
     files.withFolder(module.folderPath);

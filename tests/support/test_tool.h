@@ -1,8 +1,10 @@
 #pragma once
 
+#include "backends/portable/pugi_xml.h"
 #include "core/tool_context.h"
 #include "support/error_of.h"
 #include "support/fake_clock.h"
+#include "support/fake_database.h"
 #include "support/fake_desktop.h"
 #include "support/fake_event_log_exporter.h"
 #include "support/fake_event_reporter.h"
@@ -47,6 +49,8 @@ struct TestTool {
     FakeHostModule module;
     FakeLanguages languages;
     FakeDesktop desktop;
+    FakeDatabase database;
+    PugiXml xml{files};
     Platform platform;
     ToolContext context;
 

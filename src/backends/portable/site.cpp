@@ -49,7 +49,8 @@ Site::Site(const std::string& folder, const std::string& installedData, HostFact
       eventReporter_(paths_.siteFolder() + "/eventlogs", workstation_.details()->computerName,
                      settings_.logFields, clock_),
       eventLogExporter_(paths_.siteFolder() + "/eventlogs", paths_), processes_(paths_),
-      module_(settings_.toolFolder, std::move(host)), languages_(settings_.language, paths_)
+      module_(settings_.toolFolder, std::move(host)), languages_(settings_.language, paths_),
+      database_(paths_.siteFolder() + "/OrvanDirDb.sqlite"), xml_(files_)
 {
     registry_.keyExists(HKEY_LOCAL_MACHINE, ""); // a damaged registry shows here, before any change
     makeServerFolder(paths_.siteFolder() + "/drive_c");
@@ -60,5 +61,6 @@ Site::Site(const std::string& folder, const std::string& installedData, HostFact
 Platform Site::platform(Desktop& desktop)
 {
     return {files_,     registry_,    clock_,  timeZone_,  eventReporter_, eventLogExporter_,
-            processes_, workstation_, module_, languages_, desktop};
+            processes_, workstation_, module_, languages_, desktop,        database_,
+            xml_};
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "backends/portable/pugi_xml.h"
 #include "backends/portable/site_clock.h"
+#include "backends/portable/site_database.h"
 #include "backends/portable/site_event_log_exporter.h"
 #include "backends/portable/site_event_reporter.h"
 #include "backends/portable/site_file_system.h"
@@ -55,4 +57,6 @@ private:
     SiteProcesses processes_;
     SiteHostModule module_;
     SiteLanguages languages_;
+    SiteDatabase database_;
+    PugiXml xml_;
 };

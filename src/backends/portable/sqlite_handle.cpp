@@ -1,0 +1,170 @@
+#include "backends/portable/sqlite_handle.h"
+
+#include "platform/database.h"
+#include "runtime/run_time_error.h"
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include <sqlite3.h>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr int busyMilliseconds = 10000;
+
+/// A query with its text literals taken out.
+struct Template {
+    std::string sql;
+    std::vector<std::string> literals;
+};
+
+/// Nothing for a query whose quotes do not match, or that has more in it than plain literals.
+std::optional<Template> templateOf(const std::string& sql)
+{
+    Template result;
+    for (std::size_t i = 0; i < sql.size(); ++i) {
+        if (sql[i] == '"' || sql[i] == '?' || sql[i] == '`' || sql[i] == '[') return std::nullopt;
+        if (sql.compare(i, 2, "--") == 0 || sql.compare(i, 2, "/*") == 0) return std::nullopt;
+        if (sql[i] != '\'') {
+            result.sql += sql[i];
+            continue;
+        }
+        std::string literal;
+        for (++i;; ++i) {
+            if (i >= sql.size()) return std::nullopt;
+            if (sql[i] == '\'') {
+                if (i + 1 >= sql.size() || sql[i + 1] != '\'') break;
+                ++i;
+            }
+            literal += sql[i];
+        }
+        result.sql += '?';
+        result.literals.push_back(std::move(literal));
+    }
+    return result;
+}
+
+unsigned long long inodeOf(const std::string& file)
+{
+    struct stat facts {};
+    return stat(file.c_str(), &facts) == 0 ? facts.st_ino : 0;
+}
+
+} // namespace
+
+SqliteStatement::SqliteStatement(sqlite3_stmt* statement, std::shared_ptr<void> owner)
+    : statement_(statement), owner_(std::move(owner))
+{}
+
+SqliteStatement::~SqliteStatement()
+{
+    release();
+}
+
+SqliteStatement::SqliteStatement(SqliteStatement&& other) noexcept
+    : statement_(std::exchange(other.statement_, nullptr)), owner_(std::move(other.owner_))
+{}
+
+SqliteStatement& SqliteStatement::operator=(SqliteStatement&& other) noexcept
+{
+    if (this != &other) {
+        release();
+        statement_ = std::exchange(other.statement_, nullptr);
+        owner_ = std::move(other.owner_);
+    }
+    return *this;
+}
+
+void SqliteStatement::release()
+{
+    if (!statement_) return;
+    sqlite3_reset(statement_);
+    sqlite3_clear_bindings(statement_);
+    statement_ = nullptr;
+    owner_.reset();
+}
+
+SqliteHandle::SqliteHandle(const std::string& file) : file_(file), inode_(inodeOf(file))
+{
+    if (inode_ == 0) throw RunTimeError(databaseErrors::unspecified, "Cannot open " + file);
+    const int result = sqlite3_open_v2(file.c_str(), &database_,
+                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    std::string failure;
+    if (result == SQLITE_OK) {
+        sqlite3_extended_result_codes(database_, 1);
+        sqlite3_busy_timeout(database_, busyMilliseconds);
+        char* text = nullptr;
+        if (sqlite3_exec(database_, "PRAGMA schema_version", nullptr, nullptr, &text) == SQLITE_OK)
+            return;
+        failure = text ? text : "";
+        sqlite3_free(text);
+    } else {
+        failure = database_ ? sqlite3_errmsg(database_) : "out of memory";
+    }
+    sqlite3_close(database_);
+    throw RunTimeError(databaseErrors::unspecified, "Cannot open " + file + ": " + failure);
+}
+
+SqliteHandle::~SqliteHandle()
+{
+    for (const auto& [sql, statement] : statements_) sqlite3_finalize(statement);
+    sqlite3_close_v2(database_);
+}
+
+SqliteStatement SqliteHandle::prepare(const std::string& sql)
+{
+    const auto shared = templateOf(sql);
+    if (!shared) return unshared(sql);
+    auto found = statements_.find(shared->sql);
+    if (found == statements_.end())
+        found = statements_.emplace(shared->sql, compile(shared->sql)).first;
+    else if (sqlite3_stmt_busy(found->second))
+        return unshared(sql);
+    int place = 0;
+    for (const auto& literal : shared->literals)
+        sqlite3_bind_text(found->second, ++place, literal.data(), static_cast<int>(literal.size()),
+                          SQLITE_TRANSIENT);
+    return SqliteStatement(found->second);
+}
+
+SqliteStatement SqliteHandle::unshared(const std::string& sql) const
+{
+    sqlite3_stmt* statement = compile(sql);
+    return SqliteStatement(statement, {statement, [](void* held) {
+                                           sqlite3_finalize(static_cast<sqlite3_stmt*>(held));
+                                       }});
+}
+
+sqlite3_stmt* SqliteHandle::compile(const std::string& sql) const
+{
+    sqlite3_stmt* statement = nullptr;
+    if (sqlite3_prepare_v2(database_, sql.c_str(), static_cast<int>(sql.size()), &statement,
+                           nullptr) != SQLITE_OK)
+        fail();
+    return statement;
+}
+
+void SqliteHandle::fail() const
+{
+    const std::string text = sqlite3_errmsg(database_);
+    switch (sqlite3_errcode(database_) & 0xff) {
+    case SQLITE_IOERR:
+    case SQLITE_CANTOPEN:
+    case SQLITE_NOTADB:
+    case SQLITE_CORRUPT:
+        throw RunTimeError(runTimeErrors::connectionClosed, text);
+    case SQLITE_NOMEM:
+        throw RunTimeError(runTimeErrors::outOfMemory);
+    default:
+        break;
+    }
+    if (text.rfind("no such table", 0) == 0) throw RunTimeError(databaseErrors::noSuchTable, text);
+    throw RunTimeError(databaseErrors::statementRefused, text);
+}
+
+bool SqliteHandle::fileIsThere() const
+{
+    return inodeOf(file_) == inode_;
+}

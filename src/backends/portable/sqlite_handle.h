@@ -1,0 +1,61 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <unordered_map>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+/// A compiled statement that is in use; it is reset when it is let go.
+class SqliteStatement {
+public:
+    SqliteStatement() = default;
+    explicit SqliteStatement(sqlite3_stmt* statement, std::shared_ptr<void> owner = nullptr);
+    ~SqliteStatement();
+    SqliteStatement(SqliteStatement&& other) noexcept;
+    SqliteStatement& operator=(SqliteStatement&& other) noexcept;
+
+    sqlite3_stmt* get() const { return statement_; }
+
+private:
+    void release();
+
+    sqlite3_stmt* statement_ = nullptr;
+    std::shared_ptr<void> owner_; ///< keeps a statement that is not kept for reuse
+};
+
+/// An open SQLite database and the statements compiled for it so far.
+///
+/// A query's text literals are bound as parameters, so that queries that differ in a name alone
+/// share one compiled statement.
+class SqliteHandle {
+public:
+    /// Raises -2147467259 for a file that is missing, is no database or may not be read.
+    explicit SqliteHandle(const std::string& file);
+    ~SqliteHandle();
+    SqliteHandle(const SqliteHandle&) = delete;
+    SqliteHandle& operator=(const SqliteHandle&) = delete;
+
+    /// A statement ready to step. Raises as DatabaseConnection::openRecordset.
+    SqliteStatement prepare(const std::string& sql);
+
+    /// The present failure as an error.
+    [[noreturn]] void fail() const;
+
+    /// Whether the file at the path is still the one that was opened.
+    bool fileIsThere() const;
+
+    sqlite3* get() const { return database_; }
+
+private:
+    sqlite3_stmt* compile(const std::string& sql) const;
+
+    /// A statement of its own, for a query that can't share one or whose shared one is in use.
+    SqliteStatement unshared(const std::string& sql) const;
+
+    std::string file_;
+    unsigned long long inode_ = 0;
+    sqlite3* database_ = nullptr;
+    std::unordered_map<std::string, sqlite3_stmt*> statements_;
+};
