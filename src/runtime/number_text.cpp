@@ -113,7 +113,8 @@ std::string plainText(double value, int precision)
     const int places = static_cast<int>(decimal.digits.size()) - decimal.point;
     if (decimal.point > precision || places > precision) return scientificText(decimal);
     std::string text = decimal.negative ? "-" : "";
-    text += wholePart(decimal);
+    const std::string whole = wholePart(decimal);
+    text += whole.empty() ? "0" : whole;
     if (places > 0) text.append(".").append(fraction(decimal));
     return text;
 }

@@ -30,7 +30,7 @@ double leadingNumber(std::string_view text);
 /// A whole number as plain decimal text: "-5", "0", "1033".
 std::string numberText(std::int64_t value);
 
-/// A number as plain text: up to 15 significant digits, no trailing zeros, ".5" for a half.
+/// A number as plain text: up to 15 significant digits, no trailing zeros, "0.5" for a half.
 std::string numberText(double value);
 
 /// A single-precision number as plain text: up to 7 significant digits.

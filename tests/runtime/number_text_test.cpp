@@ -27,16 +27,16 @@ TEST(NumberText, OfADoubleHasUpToFifteenDigits)
     const Case cases[] = {
         {"zero", 0, "0"},
         {"zero with a sign", -0.0, "0"},
-        {"a half", .5, ".5"},
-        {"a half below zero", -.5, "-.5"},
+        {"a half", .5, "0.5"},
+        {"a half below zero", -.5, "-0.5"},
         {"a whole number", 100, "100"},
         {"no trailing zeros", 12.50, "12.5"},
-        {"the nearest fifteen digits", 0.1 + 0.2, ".3"},
-        {"a third", 1.0 / 3, ".333333333333333"},
+        {"the nearest fifteen digits", 0.1 + 0.2, "0.3"},
+        {"a third", 1.0 / 3, "0.333333333333333"},
         {"the largest fixed number", 999999999999999, "999999999999999"},
         {"past fifteen digits", 1e15, "1E+15"},
         {"a huge number", -1.5e300, "-1.5E+300"},
-        {"a small number", .00001, ".00001"},
+        {"a small number", .00001, "0.00001"},
         {"more places than digits are shown", 1.0 / 30, "3.33333333333333E-02"},
         {"a tiny number", 2e-300, "2E-300"},
         {"rounded up to a power of ten", 0.99999999999999999, "1"},
@@ -52,7 +52,7 @@ TEST(NumberText, OfASingleHasUpToSevenDigits)
     EXPECT_EQ("55387.5", numberText(55387.5f));
     EXPECT_EQ("55387.13", numberText(55387.13f));
     EXPECT_EQ("86399.99", numberText(86399.99f));
-    EXPECT_EQ(".1", numberText(.1f));
+    EXPECT_EQ("0.1", numberText(.1f));
     EXPECT_EQ("0", numberText(0.0f));
     EXPECT_EQ("1.234568E+07", numberText(12345678.0f));
     EXPECT_EQ("9.765625E-04", numberText(0.0009765625f));
