@@ -1,5 +1,7 @@
 #include "backends/portable/sample_site.h"
 
+#include "backends/portable/trace_line_format.h"
+
 #include <algorithm>
 #include <ctime>
 #include <gmock/gmock.h>
@@ -248,17 +250,39 @@ TEST(SampleLogs, ComeWithDataFilesInUniversalTime)
     }
 }
 
-TEST(SampleLogs, HoldOneFormattedCopyWithALineForEachOfItsLog)
+TEST(SampleLogs, AreTakenByTheServersFormatterButForTheMalformedLines)
 {
-    const SampleSite site;
-    const std::string log = site.logs("diag_KoNotify_").front();
-    const std::string copy = log.substr(0, log.size() - 4) + "_fmtd.txt";
-    const auto raw = site.lines(log), formatted = site.lines(copy);
+    for (const LogFields fields : {LogFields::basic, LogFields::extended}) {
+        const SampleSite site(8000, 1, fields);
+        const bool extended = fields == LogFields::extended;
+        for (const auto& log : site.logs("diag_"))
+            for (const auto& line : site.lines(log)) {
+                std::string formatted;
+                EXPECT_EQ(parsed(line, extended).has_value(),
+                          appendFormattedTraceLine(std::string_view(line).substr(0, 510), fields,
+                                                   formatted))
+                    << line;
+            }
+    }
+}
 
-    ASSERT_EQ(raw.size(), formatted.size());
-    EXPECT_THAT(raw[0], testing::MatchesRegex("17:4.:..:...,Log,2402,LogManager,2,Log of .*"));
-    EXPECT_THAT(formatted[0],
-                testing::MatchesRegex("17:4.:..:... .Log,2402,LogManager,2. Log of .* "));
+TEST(SampleLogs, HoldACopyThatIsAsTheFormatterMakesIt)
+{
+    for (const LogFields fields : {LogFields::basic, LogFields::extended}) {
+        const SampleSite site(8000, 1, fields);
+        const std::string log = site.logs("diag_KoNotify_").front();
+        const auto raw = site.lines(log);
+        const auto copy = site.lines(log.substr(0, log.size() - 4) + "_fmtd.txt");
+        ASSERT_EQ(raw.size(), copy.size());
+        for (std::size_t index = 0; index < raw.size(); ++index) {
+            std::string formatted;
+            if (raw[index].size() >= 20) {
+                appendFormattedTraceLine(raw[index], fields, formatted);
+                formatted += ' ';
+            }
+            EXPECT_EQ(formatted, copy[index]);
+        }
+    }
 }
 
 } // namespace

@@ -32,6 +32,8 @@ public:
     std::string path(const std::string& name) const { return folder_ / ("site/" + name); }
     std::string read(const std::string& name) const { return folder_.read("site/" + name); }
 
+    bool exists(const std::string& name) const { return folder_.exists("site/" + name); }
+
     /// Names in the log folder that begin with `start`, sorted; formatted copies are left out.
     std::vector<std::string> logs(const std::string& start) const
     {

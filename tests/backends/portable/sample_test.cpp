@@ -2,6 +2,7 @@
 
 #include "backends/portable/sample/day_profile.h"
 #include "backends/portable/sample/random.h"
+#include "backends/portable/site.h"
 #include "support/error_of.h"
 
 #include <gmock/gmock.h>
@@ -139,6 +140,26 @@ TEST(SampleServer, DescribesItselfInItsSettingsFile)
     EXPECT_EQ("C:\\OrvanDiagnostics", settings.toolFolder);
     EXPECT_EQ(LogFields::basic, settings.logFields);
     EXPECT_EQ(LogFields::extended, readSiteSettings(extended.path("site.ini")).logFields);
+}
+
+TEST(SampleServer, OpensAsASiteWhoseRegistryNamesTheCurrentLogs)
+{
+    const SampleSite sample(100);
+    Site site(sample.path(""), ORVAN_DATA_OUTPUT, HostFacts{});
+    const std::string processes = "Software\\Kelma Systems\\Kelma Orvan\\RoLogMgr\\Process";
+
+    const auto names = site.registry().subkeys(HKEY_LOCAL_MACHINE, processes);
+    ASSERT_TRUE(names);
+    EXPECT_EQ(5U, names->size());
+    for (const auto& name : *names) {
+        SCOPED_TRACE(name);
+        const auto value =
+            site.registry().value(HKEY_LOCAL_MACHINE, processes + '\\' + name, "CurrentLogFile");
+        ASSERT_TRUE(value);
+        const std::string path(value->bytes.begin(), value->bytes.end() - 1);
+        EXPECT_TRUE(site.files().fileExists(path)) << path;
+    }
+    EXPECT_TRUE(sample.exists("drive_c/OrvanDiagnostics/cabmaker.exe"));
 }
 
 TEST(SampleServer, HasTheReleaseThatItsLogFieldsBelongTo)

@@ -7,6 +7,9 @@ namespace {
 /// Longer ids do not fit the field of the formatter's head, which puts them before the trace.
 constexpr std::size_t longestIdInHead = 31;
 
+/// What is shorter does not reach the formatter.
+constexpr std::size_t shortestLine = 20;
+
 void appendTime(std::string& text, const LogLine& line)
 {
     if (writesDates(line.process))
@@ -56,7 +59,10 @@ void appendRawLine(std::string& text, const LogLine& line, bool extended)
 
 void appendFormattedLine(std::string& text, const LogLine& line, bool extended)
 {
-    if (line.malformed) return;
+    if (line.malformed) {
+        if (line.trace.size() >= shortestLine) text += ' ';
+        return;
+    }
     appendTime(text, line);
     text += " (";
     appendSourceAndNumber(text, line);

@@ -26,8 +26,9 @@ struct LogLine {
 /// its lines (see `writesDates`) has it in the time.
 void appendRawLine(std::string& text, const LogLine& line, bool extended);
 
-/// Appends the formatted form, as the server's formatter makes it of the raw one; a malformed line
-/// stays empty. `extended` lines with a long call id have it at the head of the trace.
+/// Appends the formatted form, as a formatted copy holds it: with a blank behind it, which is all
+/// that is left of a malformed line. `extended` lines with a long call id have it at the head of
+/// the trace.
 void appendFormattedLine(std::string& text, const LogLine& line, bool extended);
 
 /// Appends the form of a data file, with a universal time stamp.
