@@ -1,5 +1,4 @@
-// Writes bytes as a trace database has them: pages of 4 KiB, taking turns between rows of short
-// texts and numbers and the long texts that those rows point at.
+// Writes a trace database as a gather does, with the traces of a made-up busy server.
 //
 //     cabinet_benchmark_input MEGABYTES FILE
 
@@ -7,119 +6,118 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
+#include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <random>
 #include <string>
 
+#include "backends/jet/blank_database.h"
+#include "backends/jet/jet_engine.h"
+
 namespace {
 
-constexpr std::size_t pageSize = 4096;
-constexpr std::size_t pageHeadSize = 14;
-
-const std::array<const char*, 6> processes = {"RoCallMgr", "RoLogMgr",  "RoMsgStore",
-                                              "RoNotify",  "RoDirSync", "RoDbProxy"};
-const std::array<const char*, 10> components = {
+constexpr std::array<const char*, 6> processes = {"RoCallMgr", "RoLogMgr",  "RoMsgStore",
+                                                  "RoNotify",  "RoDirSync", "RoDbProxy"};
+constexpr std::array<const char*, 10> components = {
     "CallControl", "MediaStream",  "Conversation", "Arbiter", "Routing",
     "Directory",   "MessageStore", "Notifier",     "Queue",   "Licence"};
-const std::array<const char*, 12> sentences = {"entering state ",
-                                               "leaving state ",
-                                               "event received, code ",
-                                               "port allocated: ",
-                                               "message submitted, size ",
-                                               "lookup finished, rows ",
-                                               "timer started, milliseconds ",
-                                               "retry number ",
-                                               "session opened for extension ",
-                                               "session closed, reason ",
-                                               "lock waited for ",
-                                               "buffer released at offset "};
+constexpr std::array<const char*, 12> sentences = {"entering state ",
+                                                   "leaving state ",
+                                                   "event received, code ",
+                                                   "port allocated: ",
+                                                   "message submitted, size ",
+                                                   "lookup finished, rows ",
+                                                   "timer started, milliseconds ",
+                                                   "retry number ",
+                                                   "session opened for extension ",
+                                                   "session closed, reason ",
+                                                   "lock waited for ",
+                                                   "buffer released at offset "};
 
-class TraceRows {
+/// Adds the rows of a busy server to a table, the same ones at each run.
+class Traces {
 public:
-    std::string shortRow()
+    explicit Traces(TraceRecordset& rows) : rows_(rows) {}
+
+    void add()
     {
         clock_ += pick(40);
         const std::string process = processes[pick(processes.size())];
-        component_ = components[pick(components.size())];
-        level_ = pick(20);
-        std::string row("\x0b\x00", 2);
-        row += number(1000 + pick(300), 4) + number(level_, 2) + number(0, 2);
-        row += number(longTexts_++, 4);
-        row += text(clockText()) + text(process) + text("Line" + std::to_string(pick(400)));
-        row += text(component_) + text(std::to_string(pick(96)));
-        row += text(component_ + "_" + process + "_" + std::to_string(level_));
-        for (int column = 11; column > 0; --column)
-            row += number(static_cast<std::uint32_t>(row.size()) - 9 * column, 2);
-        return row;
-    }
-
-    std::string longText()
-    {
-        std::string trace = "[Thread " + std::to_string(1000 + pick(60)) + "] C";
-        trace += component_ + "::Handle" + components[pick(components.size())] + "() ";
-        for (std::uint32_t parts = 1 + pick(3); parts > 0; --parts) {
-            trace += sentences[pick(sentences.size())];
-            trace += std::to_string(pick(pick(4) == 0 ? 1'000'000 : 200)) + "; ";
-        }
-        if (pick(3) == 0) trace += "call id " + identifier();
-        return text(trace);
+        const std::string source = std::to_string(5000 + pick(40));
+        const std::string component = components[pick(components.size())];
+        const std::uint32_t level = pick(20);
+        rows_.addNew();
+        rows_.field("Date").setText(clockText());
+        rows_.field("Process").setText(process);
+        rows_.field("Source").setText(source);
+        rows_.field("TraceNumber").setNumber(static_cast<std::int32_t>(1000 + pick(300)));
+        rows_.field("Component").setText(component);
+        rows_.field("TraceLevel").setNumber(static_cast<std::int32_t>(level));
+        rows_.field("Port").setText(std::to_string(pick(96)));
+        rows_.field("Trace").setText(trace(component));
+        rows_.field("CallId").setText(call());
+        rows_.field("Highlight").setNumber(0);
+        rows_.field("qrvIndex")
+            .setText(component + "_" + process + "_" + std::to_string(level) + "_" + source);
+        rows_.update();
     }
 
 private:
     std::uint32_t pick(std::size_t count) { return static_cast<std::uint32_t>(random_() % count); }
 
-    static std::string text(const std::string& characters) { return "\xff\xfe" + characters; }
-
-    static std::string number(std::uint32_t value, int bytes)
-    {
-        std::string result;
-        for (; bytes > 0; --bytes, value >>= 8) result += static_cast<char>(value);
-        return result;
-    }
-
     std::string clockText() const
     {
-        std::array<char, 40> result{};
-        std::snprintf(result.data(), result.size(), "10/8/2005 %02u:%02u:%02u:%03u",
+        std::array<char, 40> text{};
+        std::snprintf(text.data(), text.size(), "10/8/2005 %02u:%02u:%02u:%03u",
                       clock_ / 3'600'000 % 24, clock_ / 60'000 % 60, clock_ / 1000 % 60,
                       clock_ % 1000);
-        return result.data();
+        return text.data();
     }
 
-    std::string identifier()
+    // A call is traced many times before the next one takes its port.
+    std::string call()
     {
-        std::array<char, 20> result{};
-        std::snprintf(result.data(), result.size(), "%08X", static_cast<unsigned>(random_()));
-        return result.data();
+        std::uint32_t& number = calls_[pick(calls_.size())];
+        if (number == 0 || pick(50) == 0) number = static_cast<std::uint32_t>(random_());
+        std::array<char, 40> text{};
+        std::snprintf(text.data(), text.size(), "%08X%08X", number, number * 2654435761U);
+        return text.data();
     }
 
+    std::string trace(const std::string& component)
+    {
+        std::string text = "[Thread " + std::to_string(1000 + pick(60)) + "] C" + component;
+        text += std::string("::Handle") + components[pick(components.size())] + "() ";
+        for (std::uint32_t parts = 1 + pick(3); parts > 0; --parts) {
+            text += sentences[pick(sentences.size())];
+            text += std::to_string(pick(pick(4) == 0 ? 1'000'000 : 200)) + "; ";
+        }
+        return text;
+    }
+
+    TraceRecordset& rows_;
     std::mt19937 random_{20051008};
+    std::array<std::uint32_t, 96> calls_{};
     std::uint32_t clock_ = 0;
-    std::uint32_t level_ = 0;
-    std::uint32_t longTexts_ = 0;
-    std::string component_ = components[0];
 };
 
-// Rows fill a page from its end, and a table of their places grows from its head.
-template <typename NextRow>
-std::string page(const char* owner, NextRow&& nextRow)
+void makeDatabase(std::uintmax_t bytes, const std::string& path)
 {
-    std::string result(pageSize, '\0');
-    result[0] = 1;
-    result[1] = 1;
-    result.replace(4, 4, owner);
-    std::size_t rows = 0;
-    std::size_t end = pageSize;
-    for (std::string row = nextRow(); end > row.size() + pageHeadSize + 2 * (rows + 1);
-         row = nextRow()) {
-        end -= row.size();
-        result.replace(end, row.size(), row);
-        result[pageHeadSize + 2 * rows] = static_cast<char>(end);
-        result[pageHeadSize + 2 * rows + 1] = static_cast<char>(end >> 8);
-        ++rows;
-    }
-    result[12] = static_cast<char>(rows);
-    return result;
+    std::ifstream schema(ORVAN_TRACE_SCHEMA);
+    const std::string text(std::istreambuf_iterator<char>(schema), {});
+    std::ofstream(path, std::ios::binary) << jet::blankDatabase(jet::parseSchema(text));
+
+    jet::JetEngine engine([](const std::string& name) { return name; });
+    const auto database = engine.openDatabase(path);
+    const auto rows = database->openRecordset("tblTraces");
+    Traces traces(*rows);
+    constexpr int rowsBetweenLooks = 1000;
+    while (std::filesystem::file_size(path) < bytes)
+        for (int row = 0; row < rowsBetweenLooks; ++row) traces.add();
+    rows->close();
+    database->close();
 }
 
 } // namespace
@@ -130,12 +128,12 @@ int main(int argumentCount, char** arguments)
         std::fputs("usage: cabinet_benchmark_input MEGABYTES FILE\n", stderr);
         return 2;
     }
-    const long long pages = std::atoll(arguments[1]) * 1'000'000 / static_cast<int>(pageSize);
-    std::ofstream file(arguments[2], std::ios::binary);
-    TraceRows rows;
-    for (long long written = 0; written < pages && file; ++written)
-        file << (written % 2 == 0 ? page("Trac", [&] { return rows.shortRow(); })
-                                  : page("LVAL", [&] { return rows.longText(); }));
-    file.close();
-    return file ? 0 : 1;
+    try {
+        constexpr std::uintmax_t megabyte = 1'000'000;
+        makeDatabase(std::strtoull(arguments[1], nullptr, 10) * megabyte, arguments[2]);
+        return 0;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "cabinet_benchmark_input: %s\n", error.what());
+        return 1;
+    }
 }
