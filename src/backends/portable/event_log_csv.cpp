@@ -95,7 +95,7 @@ std::string_view sentenceOf(const Json& event)
 
 std::string messageOf(const Json& event)
 {
-    const std::string sentence(sentenceOf(event));
+    std::string sentence(sentenceOf(event));
     if (!sentence.empty() && sentence.back() == '.') return sentence;
     return sentence + joinedInserts(event);
 }

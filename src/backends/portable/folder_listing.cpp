@@ -40,6 +40,13 @@ struct stat factsOfLink(const std::string& path)
 
 } // namespace
 
+std::string pathIn(const std::string& folder, std::string_view name)
+{
+    std::string path;
+    path.reserve(folder.size() + 1 + name.size());
+    return path.append(folder).append(1, '/').append(name);
+}
+
 std::vector<std::string> namesInFolder(const std::string& machinePath)
 {
     std::vector<std::pair<std::string, std::string>> keyed;
@@ -56,7 +63,7 @@ std::int64_t sizeOfFolder(const std::string& machinePath)
 {
     std::int64_t size = 0;
     for (const auto& name : unsortedNames(machinePath)) {
-        const auto path = machinePath + "/" + name;
+        const auto path = pathIn(machinePath, name);
         struct stat facts {};
         if (::lstat(path.c_str(), &facts) != 0) continue; // gone since the listing
         if (S_ISREG(facts.st_mode)) size += facts.st_size;
@@ -68,7 +75,7 @@ std::int64_t sizeOfFolder(const std::string& machinePath)
 void removeWholeFolder(const std::string& machinePath)
 {
     for (const auto& name : unsortedNames(machinePath)) {
-        const auto path = machinePath + "/" + name;
+        const auto path = pathIn(machinePath, name);
         const auto facts = factsOfLink(path);
         if (S_ISDIR(facts.st_mode)) {
             removeWholeFolder(path);

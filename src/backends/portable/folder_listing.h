@@ -2,7 +2,11 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
+
+/// The path of a name in a folder of the machine.
+std::string pathIn(const std::string& folder, std::string_view name);
 
 /// Names in a folder of the machine, without "." and "..", sorted without regard to case. A name
 /// with a backslash, which no Windows path reaches, is left out. Raises 76, 70.

@@ -22,7 +22,7 @@ std::string fileOf(const std::string& eventLogs, const std::string& logName)
     const auto wanted = foldCase(logName + ".jsonl");
     if (::stat(eventLogs.c_str(), &facts) == 0 && S_ISDIR(facts.st_mode))
         for (const auto& name : namesInFolder(eventLogs))
-            if (foldCase(name) == wanted) return eventLogs + "/" + name;
+            if (foldCase(name) == wanted) return pathIn(eventLogs, name);
     throw RunTimeError(runTimeErrors::fileNotFound);
 }
 

@@ -103,10 +103,10 @@ std::vector<FileInfo> SiteFileSystem::entries(const std::string& folder) const
     std::vector<FileInfo> found;
     for (auto& name : namesInFolder(machineFolder)) {
         struct stat facts {};
-        auto path = machineFolder + "/" + name;
+        auto path = pathIn(machineFolder, name);
         if (::lstat(path.c_str(), &facts) != 0) continue; // gone since the listing
         if (S_ISLNK(facts.st_mode)) {
-            if (modeOf(paths_, folder + "\\" + name) == 0) continue;
+            if (modeOf(paths_, std::string(folder).append("\\").append(name)) == 0) continue;
             ::stat(path.c_str(), &facts);
         }
         if (S_ISREG(facts.st_mode) || S_ISDIR(facts.st_mode))
@@ -126,8 +126,9 @@ std::vector<std::string> SiteFileSystem::matching(const std::string& pattern) co
     for (auto& name : namesInFolder(machineFolder)) {
         if (!wanted.matches(name)) continue;
         struct stat facts {};
-        if (::lstat((machineFolder + "/" + name).c_str(), &facts) != 0) continue;
-        if (S_ISREG(facts.st_mode) || (S_ISLNK(facts.st_mode) && fileExists(folder + "\\" + name)))
+        if (::lstat(pathIn(machineFolder, name).c_str(), &facts) != 0) continue;
+        if (S_ISREG(facts.st_mode) ||
+            (S_ISLNK(facts.st_mode) && fileExists(std::string(folder).append("\\").append(name))))
             found.push_back(std::move(name));
     }
     return found;

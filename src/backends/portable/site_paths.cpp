@@ -1,5 +1,6 @@
 #include "backends/portable/site_paths.h"
 
+#include "backends/portable/folder_listing.h"
 #include "backends/portable/posix_errors.h"
 #include "backends/portable/utf8.h"
 
@@ -62,7 +63,7 @@ bool isWithin(const std::string& path, const std::string& folder)
 /// What a link in a drive leads to.
 std::string followLink(const std::string& link, const std::string& drive)
 {
-    const auto real = realPath(link);
+    auto real = realPath(link);
     if (real.empty() || !isWithin(real, realPath(drive)))
         throw RunTimeError(runTimeErrors::permissionDenied,
                            "Permission denied: " + link + " leads out of the site");
@@ -136,14 +137,14 @@ std::string SitePaths::machinePathOf(const Location& location) const
     std::string path = drive;
     bool exists = true;
     for (const auto& name : location.names) {
-        std::string next = path + "/" + name;
+        std::string next = pathIn(path, name);
         bool link = false;
         if (exists) {
             link = isLink(next, exists);
             const auto other =
                 exists || errno != ENOENT ? std::nullopt : nameIgnoringCase(path, name);
             if (other) {
-                next = path + "/" + *other;
+                next = pathIn(path, *other);
                 link = isLink(next, exists);
             }
         }

@@ -68,8 +68,8 @@ bool isDate(const SystemTime& time)
 std::int64_t secondsOf(const SystemTime& time)
 {
     const sys_days date = std::chrono::year(time.year) / time.month / time.day;
-    return date.time_since_epoch().count() * secondsADay + time.hour * 3600 + time.minute * 60 +
-           time.second;
+    return date.time_since_epoch().count() * secondsADay +
+           (time.hour * 3600 + time.minute * 60 + time.second);
 }
 
 SystemTime systemTimeOf(std::int64_t seconds)

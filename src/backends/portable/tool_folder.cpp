@@ -47,11 +47,11 @@ void copyFolder(const std::string& source, const std::string& target)
 {
     makeFolders(target);
     for (const auto& name : namesInFolder(source)) {
-        const auto from = source + "/" + name;
+        const auto from = pathIn(source, name);
         if (isFolder(from))
-            copyFolder(from, target + "/" + name);
+            copyFolder(from, pathIn(target, name));
         else
-            copyWholeFile(from, target + "/" + name);
+            copyWholeFile(from, pathIn(target, name));
     }
 }
 
@@ -86,7 +86,7 @@ void supplyToolFolder(const std::string& toolFolder, const std::string& installe
         if (!isFolder(installedData)) return;
         for (const auto& name : namesInFolder(installedData))
             if (isSupplied(name) && there.count(foldCase(name)) == 0)
-                supply(installedData + "/" + name, toolFolder + "/" + name);
+                supply(pathIn(installedData, name), pathIn(toolFolder, name));
     } catch (const RunTimeError& error) {
         if (error.number() != runTimeErrors::permissionDenied) throw;
     }
