@@ -64,7 +64,7 @@ std::vector<TableDefinition> readCatalog(const Pages& pages)
     for (const std::uint32_t number : pages.usageMap(catalog.ownedPages)) {
         const char* page = pages.dataOf(number, catalogPage);
         for (unsigned slot = 0; slot < rowsOn(page); ++slot) {
-            const std::string_view bytes = rowOn(page, slot);
+            const std::string_view bytes = pages.tableRow(page, slot);
             if (bytes.empty()) continue;
             const RowView row(catalog, bytes);
             if (numberIn(row.cell(columns.type)) != tableType) continue;

@@ -40,6 +40,7 @@ constexpr std::size_t rowCount = 0x0C;
 constexpr std::size_t slots = 0x0E;
 constexpr std::uint16_t offsetMask = 0x1FFF;
 constexpr std::uint16_t flagMask = 0xC000;
+constexpr std::uint16_t movedFlag = 0x4000; // alone: the row lies elsewhere
 constexpr unsigned mostRows = 255;
 constexpr std::size_t longestRow = 4060;
 constexpr std::uint32_t longValueOwner = 0x4C41564C; // "LVAL"
@@ -100,10 +101,11 @@ inline void store32(char* to, std::uint32_t value)
 }
 
 /// Everything written before this line is in the file before anything written after it: what a
-/// program leaves behind when it is killed between two lines has an order.
+/// program leaves behind when it is killed between two lines has an order. The processor keeps a
+/// thread's own stores in order; it is the compiler that is held back here.
 inline void inThisOrder()
 {
-    std::atomic_thread_fence(std::memory_order_seq_cst);
+    std::atomic_thread_fence(std::memory_order_release);
 }
 
 /// A row of a page, as four bytes in the file: the row, then the page.

@@ -8,8 +8,6 @@ namespace jet {
 
 namespace {
 
-constexpr std::size_t shortestCompressed = 3; // characters
-
 /// Whether rows may be added to a page: it is what its owner takes it for, and its slots make
 /// sense.
 bool takesRows(const char* page, std::uint32_t owner)
@@ -29,33 +27,6 @@ std::uint32_t piecesOf(std::size_t bytes)
 }
 
 } // namespace
-
-StoredForm formOfText(const TextValue& text, bool mayCompress)
-{
-    const std::size_t characters = text.characters();
-    StoredForm form;
-    form.compressed = mayCompress && characters >= shortestCompressed && text.compressible();
-    form.bytes = form.compressed ? compressedSize(characters) : plainSize(characters);
-    return form;
-}
-
-StoredForm formOfMemo(const TextValue& text, bool mayCompress)
-{
-    const std::size_t characters = text.characters();
-    StoredForm form = formOfText(text, mayCompress && characters <= longValue::longestCompressed);
-    if (plainSize(characters) > longValue::longestInline)
-        form.place = form.bytes <= longValue::longestRow ? StoredForm::Place::oneRow
-                                                         : StoredForm::Place::chain;
-    return form;
-}
-
-void writeText(char* to, const TextValue& text, bool compressed)
-{
-    if (compressed)
-        text.writeCompressed(to);
-    else
-        text.writePlain(to);
-}
 
 LongValueWriter::LongValueWriter(PageFile& file, GlobalMap& global, RowPointer owned,
                                  RowPointer free)

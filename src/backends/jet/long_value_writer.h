@@ -1,33 +1,12 @@
 #pragma once
 
 #include "backends/jet/data_page.h"
-#include "backends/jet/text_value.h"
+#include "backends/jet/stored_form.h"
 #include "backends/jet/usage_maps.h"
 
 #include <cstdint>
 
 namespace jet {
-
-/// How a text is stored in its column: which form, how many bytes of it, and where they lie.
-struct StoredForm {
-    enum class Place : unsigned char { inRow, oneRow, chain };
-
-    Place place = Place::inRow;
-    bool compressed = false;
-    std::size_t bytes = 0; ///< of the text
-
-    /// The bytes of a Memo's cell in the row.
-    std::size_t memoCellBytes() const
-    {
-        return longValue::head + (place == Place::inRow ? bytes : 0);
-    }
-};
-
-/// The form that the engine gives a text. `mayCompress` is the column's own word on it.
-StoredForm formOfText(const TextValue& text, bool mayCompress);
-StoredForm formOfMemo(const TextValue& text, bool mayCompress);
-
-void writeText(char* to, const TextValue& text, bool compressed);
 
 /// Stores the texts of one Memo column that are too long for its rows.
 class LongValueWriter {

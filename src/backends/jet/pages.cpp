@@ -63,6 +63,16 @@ std::string_view Pages::row(RowPointer pointer) const
     return sliceOf(page, pointer.row);
 }
 
+std::string_view Pages::tableRow(const char* page, unsigned slot) const
+{
+    const std::string_view bytes = sliceOf(page, slot);
+    const unsigned flags =
+        load16(page + dataPage::slots + 2 * std::size_t{slot}) & dataPage::flagMask;
+    if (flags == 0) return bytes;
+    if (flags != dataPage::movedFlag || bytes.size() < 4) return {};
+    return row(RowPointer::load(bytes.data()));
+}
+
 std::vector<std::uint32_t> Pages::usageMap(RowPointer pointer) const
 {
     const std::string_view map = row(pointer);
@@ -90,13 +100,6 @@ unsigned rowsOn(const char* page)
     constexpr std::size_t mostSlots = (pageSize - dataPage::slots) / 2;
     return static_cast<unsigned>(
         std::min<std::size_t>(load16(page + dataPage::rowCount), mostSlots));
-}
-
-std::string_view rowOn(const char* page, unsigned row)
-{
-    const bool plain =
-        (load16(page + dataPage::slots + 2 * std::size_t{row}) & dataPage::flagMask) == 0;
-    return plain ? sliceOf(page, row) : std::string_view{};
 }
 
 } // namespace jet

@@ -28,6 +28,11 @@ public:
     /// The bytes of a row. Raises 3343 when the page has no such row.
     std::string_view row(RowPointer at) const;
 
+    /// The bytes of a table's row in a slot of one of its pages. A row that outgrew its page lies
+    /// on another, to which the slot leads; a slot without a row of its own gives an empty text:
+    /// one that was deleted, or such a row where it lies now. Raises 3343.
+    std::string_view tableRow(const char* page, unsigned slot) const;
+
     /// The pages in a usage map, ascending; those past the end of the file are left out.
     std::vector<std::uint32_t> usageMap(RowPointer at) const;
 
@@ -38,8 +43,5 @@ private:
 
 /// How many rows a data page holds, those of a damaged page that can't be there left out.
 unsigned rowsOn(const char* page);
-
-/// The bytes of a row that is on the page; empty for one that was deleted or moved.
-std::string_view rowOn(const char* page, unsigned row);
 
 } // namespace jet

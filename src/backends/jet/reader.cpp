@@ -52,7 +52,7 @@ bool Rows::next()
             nextRow_ = 0;
         }
         while (nextRow_ < rowsOn(page_)) {
-            const std::string_view bytes = rowOn(page_, nextRow_++);
+            const std::string_view bytes = pages_.tableRow(page_, nextRow_++);
             if (bytes.empty()) continue;
             row_ = RowView(table_, bytes);
             return true;

@@ -182,7 +182,8 @@ void TableAppender::correctRowCount()
     std::uint32_t rows = 0;
     for (const std::uint32_t number : pages.usageMap(table_.ownedPages)) {
         const char* page = pages.dataOf(number, table_.page);
-        for (unsigned row = 0; row < rowsOn(page); ++row) rows += rowOn(page, row).empty() ? 0 : 1;
+        for (unsigned row = 0; row < rowsOn(page); ++row)
+            rows += pages.tableRow(page, row).empty() ? 0 : 1;
     }
     char* count = file_.page(table_.page) + tableDefinition::rowCount;
     if (load32(count) != rows) store32(count, rows);

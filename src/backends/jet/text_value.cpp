@@ -13,22 +13,25 @@ constexpr char16_t replacement = 0xFFFD;
 constexpr char16_t byteOrderMark = 0xFEFF;
 constexpr std::string_view compressedMark = "\xFF\xFE";
 
-/// Whether every byte is 0x01..0x7F; eight at a time, as this is asked of every text stored.
-bool isPlainAscii(std::string_view text)
+/// Bits that are set where one of eight bytes is no 0x01..0x7F.
+std::uint64_t otherBytes(const char* eight)
 {
     constexpr std::uint64_t ones = 0x0101'0101'0101'0101;
     constexpr std::uint64_t highs = 0x8080'8080'8080'8080;
-    const char* at = text.data();
-    std::size_t left = text.size();
-    std::uint64_t found = 0;
-    for (; left >= 8; at += 8, left -= 8) {
-        std::uint64_t word;
-        std::memcpy(&word, at, sizeof word);
-        found |= (word | (word - ones)) & highs;
-    }
-    for (; left > 0; ++at, --left) {
-        if (*at <= 0) return false;
-    }
+    std::uint64_t word;
+    std::memcpy(&word, eight, sizeof word);
+    return (word | (word - ones)) & highs;
+}
+
+/// Whether every byte is 0x01..0x7F; eight at a time, as this is asked of every text stored.
+bool isPlainAscii(std::string_view text)
+{
+    if (text.size() < 8)
+        return std::all_of(text.begin(), text.end(),
+                           [](char byte) { return static_cast<signed char>(byte) > 0; });
+    const char* last = text.data() + text.size() - 8; // may overlap the one before
+    std::uint64_t found = otherBytes(last);
+    for (const char* at = text.data(); at < last; at += 8) found |= otherBytes(at);
     return found == 0;
 }
 

@@ -1,6 +1,8 @@
 #include "backends/jet/scratch_database.h"
 #include "platform/trace_database_contract.h"
 
+#include <fstream>
+
 namespace {
 
 class JetMachine {
@@ -16,5 +18,131 @@ private:
 };
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Jet, TraceDatabaseContract, JetMachine);
+
+void writeFile(const std::filesystem::path& path, const std::string& bytes)
+{
+    std::ofstream(path, std::ios::binary | std::ios::trunc) << bytes;
+}
+
+TEST(JetEngine, RefusesWhatIsNoDatabaseAndLeavesItAsItIs)
+{
+    ScratchDatabase scratch;
+    auto engine = machineEngine();
+    const std::string sound = bytesOfFile(scratch.path());
+    std::string encrypted = sound;
+    encrypted[0x3E] ^= 1;
+    for (const std::string& bytes : {std::string(), std::string("text"), std::string(5000, '\0'),
+                                     std::string(9000, 'x'), sound.substr(0, 4096), encrypted}) {
+        writeFile(scratch.path(), bytes);
+        EXPECT_EQ(3343, errorOf([&] { engine.openDatabase(scratch.path().string()); }));
+        EXPECT_EQ(bytes, bytesOfFile(scratch.path()));
+    }
+    EXPECT_EQ(3051, errorOf([&] { engine.openDatabase(scratch.folder().string()); }));
+}
+
+TEST(JetEngine, FindsAFileWhereItsPathLeads)
+{
+    ScratchDatabase scratch;
+    jet::JetEngine engine([&](const std::string& path) {
+        EXPECT_EQ("C:\\Temp\\a.mdb", path);
+        return scratch.path().string();
+    });
+    engine.openDatabase("C:\\Temp\\a.mdb");
+}
+
+TEST(JetEngine, CutsOffAPartOfAPageAtTheEnd)
+{
+    ScratchDatabase scratch;
+    const std::string sound = bytesOfFile(scratch.path());
+    writeFile(scratch.path(), sound + std::string(1000, 'x'));
+    auto engine = machineEngine();
+    engine.openDatabase(scratch.path().string());
+    EXPECT_EQ(sound, bytesOfFile(scratch.path()));
+}
+
+TEST(JetEngine, OpeningAndClosingChangesNothing)
+{
+    ScratchDatabase scratch;
+    const std::string before = bytesOfFile(scratch.path());
+    auto engine = machineEngine();
+    {
+        const auto database = engine.openDatabase(scratch.path().string());
+        database->openRecordset("tblTraces")->addNew();
+    }
+    EXPECT_EQ(before, bytesOfFile(scratch.path()));
+}
+
+TEST(JetEngine, DecodesTextsFromTheServersCodePage)
+{
+    ScratchDatabase scratch;
+    CodePage::Table table{};
+    for (std::size_t byte = 0; byte < 128; ++byte) table[byte] = static_cast<char16_t>(byte);
+    table[0xC6] = u'\u0416';
+    struct Case {
+        CodePage codePage;
+        std::string bytes;
+        const char* stored;
+    };
+    const Case cases[] = {{windows1252(), "\x93quoted\x94 \xE9", "\u201Cquoted\u201D \u00E9"},
+                          {windows1252(), std::string("a\0b", 3), "a\uFFFDb"},
+                          {CodePage(table), "\xC6!", "\u0416!"}};
+    for (const auto& c : cases) {
+        jet::JetEngine engine([](const std::string& path) { return path; }, c.codePage);
+        const auto database = engine.openDatabase(scratch.path().string());
+        const auto filters = database->openRecordset("tblUniqueFilters");
+        filters->addNew();
+        filters->field("Process").setText(c.bytes);
+        EXPECT_EQ(c.bytes, filters->field("Process").text());
+        filters->update();
+        EXPECT_EQ(c.stored, scratch.rows("tblUniqueFilters").back().at("Process"));
+    }
+}
+
+TEST(JetEngine, ATableWithAColumnOfAnotherTypeIsReadOnly)
+{
+    ScratchDatabase scratch;
+    std::string image = bytesOfFile(scratch.path());
+    image[18 * 4096 + 0x3F] = 9; // the first column of tblMacroTraces becomes a binary one
+    writeFile(scratch.path(), image);
+    auto engine = machineEngine();
+    const auto database = engine.openDatabase(scratch.path().string());
+    EXPECT_EQ(3027, errorOf([&] { database->openRecordset("tblMacroTraces"); }));
+    EXPECT_EQ(0, errorOf([&] { database->openRecordset("tblTraces"); }));
+}
+
+TEST(JetEngine, ARowBeginsWithTheDefaultsThatAreValues)
+{
+    ScratchDatabase scratch(jet::parseSchema("table tblOne\n"
+                                             "column Word text 3 default \"new\"\n"
+                                             "column Long text 3 default \"longer\"\n"
+                                             "column Code text 9 default 42\n"
+                                             "column Count long default -7\n"
+                                             "column Level integer default 99999\n"
+                                             "column Moment text 9 default Now()\n"));
+    auto engine = machineEngine();
+    const auto database = engine.openDatabase(scratch.path().string());
+    const auto rows = database->openRecordset("tblOne");
+    rows->addNew();
+    rows->update();
+    const TextRow expected = {{"Word", "new"}, {"Code", "42"}, {"Count", "-7"}};
+    EXPECT_EQ(std::vector<TextRow>{expected}, scratch.rows("tblOne"));
+}
+
+TEST(JetEngine, TakesUtf8AndCountsItsCharacters)
+{
+    ScratchDatabase scratch;
+    auto engine = machineEngine();
+    const auto database = engine.openDatabase(scratch.path().string());
+    const auto filters = database->openRecordset("tblUniqueFilters");
+    std::string fifty;
+    for (int count = 0; count < 50; ++count) fifty += "\u0416";
+    filters->addNew();
+    TraceField& level = filters->field("TraceLevel"); // of 50 characters
+    level.setUtf8(fifty);
+    EXPECT_EQ(3163, errorOf([&] { level.setUtf8(fifty + "x"); }));
+    EXPECT_EQ(fifty, level.text());
+    filters->update();
+    EXPECT_EQ(fifty, scratch.rows("tblUniqueFilters").at(0).at("TraceLevel"));
+}
 
 } // namespace

@@ -1,0 +1,157 @@
+#include "backends/jet/row_filler.h"
+#include "support/error_of.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace {
+
+constexpr std::size_t pageSize = 4096;
+constexpr std::size_t firstDataPage = 23; // of the first table that rows are added to
+
+/// A file of three filters, as bytes that a test can damage.
+std::string threeFilters()
+{
+    ScratchDatabase scratch;
+    auto engine = machineEngine();
+    {
+        const auto database = engine.openDatabase(scratch.path().string());
+        const auto filters = database->openRecordset("tblUniqueFilters");
+        for (const char* process : {"first", "second", "third"}) {
+            filters->addNew();
+            filters->field("Process").setText(process);
+            filters->update();
+        }
+    }
+    return bytesOfFile(scratch.path());
+}
+
+std::vector<std::string> processesIn(const std::string& image)
+{
+    const jet::Reader reader(image);
+    const jet::TableDefinition& table = *reader.find("tblUniqueFilters");
+    std::vector<std::string> processes;
+    for (auto rows = reader.rows(table); rows.next();) processes.push_back(rows.text(1));
+    return processes;
+}
+
+/// The high byte of a row's slot, where its flags are.
+char& flagsOfRow(std::string& image, std::size_t row)
+{
+    return image[firstDataPage * pageSize + 0x0E + 2 * row + 1];
+}
+
+TEST(Reader, PassesOverADeletedRow)
+{
+    std::string image = threeFilters();
+    flagsOfRow(image, 1) |= '\xC0';
+    EXPECT_EQ((std::vector<std::string>{"first", "third"}), processesIn(image));
+}
+
+TEST(Reader, FollowsARowThatWasMovedAndShowsItOnce)
+{
+    std::string image = threeFilters();
+    const std::size_t slot = firstDataPage * pageSize + 0x0E;
+    const std::size_t start = static_cast<unsigned char>(image[slot]) |
+                              (static_cast<unsigned char>(image[slot + 1]) & 0x1F) << 8;
+    image.replace(firstDataPage * pageSize + start, 4,
+                  std::string("\2\x17\0\0", 4)); // row 2, page 23
+    flagsOfRow(image, 0) |= '\x40';
+    flagsOfRow(image, 2) |= '\x80';
+    EXPECT_EQ((std::vector<std::string>{"third", "second"}), processesIn(image));
+}
+
+TEST(Reader, GivesNumbersAsNumbers)
+{
+    ScratchDatabase scratch;
+    auto engine = machineEngine();
+    addNumberedRow(*engine.openDatabase(scratch.path().string())->openRecordset("tblTraces"), 7);
+    const std::string image = bytesOfFile(scratch.path());
+    const jet::Reader reader(image);
+    const jet::TableDefinition& table = *reader.find("TBLTRACES");
+    auto rows = reader.rows(table);
+    ASSERT_TRUE(rows.next());
+    const auto numberIn = [&](const char* column) {
+        return rows.number(static_cast<std::size_t>(table.find(column)));
+    };
+    EXPECT_EQ(-93, numberIn("TraceNumber"));
+    EXPECT_EQ(7, numberIn("TraceLevel"));
+    EXPECT_EQ(0, numberIn("Process")) << "a text is no number";
+    EXPECT_EQ(nullptr, reader.find("tblNone"));
+}
+
+TEST(Reader, RefusesWhatIsNoDatabase)
+{
+    std::string encrypted = threeFilters();
+    encrypted[0x3E] ^= 1;
+    std::string older = threeFilters();
+    older[0x14] = 0;
+    struct Case {
+        const char* because;
+        std::string bytes;
+    };
+    const Case cases[] = {
+        {"nothing", ""},
+        {"less than a page", threeFilters().substr(0, 4095)},
+        {"the header alone", threeFilters().substr(0, 4096)},
+        {"zeros", std::string(64 * pageSize, '\0')},
+        {"text", std::string(64 * pageSize, 'x')},
+        {"an older version of the format", older},
+        {"encrypted pages", encrypted},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        EXPECT_EQ(3343, errorOf([&] { jet::Reader reader(c.bytes); }));
+    }
+}
+
+TEST(Reader, ReadsOrRefusesAFileWithAnyBytesChanged)
+{
+    const std::string sound = threeFilters();
+    std::mt19937 random(3343);
+    for (int round = 0; round < 3000; ++round) {
+        std::string image = sound;
+        for (int change = 0; change < 4; ++change)
+            image[random() % image.size()] = static_cast<char>(random());
+        const int error = errorOf([&] {
+            const jet::Reader reader(image);
+            for (const auto& table : reader.tables()) {
+                for (auto rows = reader.rows(table); rows.next();) {
+                    for (std::size_t column = 0; column < table.columns.size(); ++column)
+                        rows.text(column);
+                }
+            }
+            reader.problems();
+        });
+        EXPECT_TRUE(error == 0 || error == 3343) << error;
+    }
+}
+
+TEST(Reader, TellsWhatIsWrongWithAFileThatCanBeRead)
+{
+    struct Case {
+        const char* because;
+        std::size_t page;
+        std::size_t at;
+        char value;
+        const char* problem;
+    };
+    const Case cases[] = {
+        {"the row count", 20, 0x10, 9, "3 rows, counted as 9"},
+        {"the free bytes", firstDataPage, 0x02, 0, "free bytes"},
+        {"a page of the table that counts as free", 1, pageSize - 69 + 5 + 2, '\x80',
+         "counts as free"},
+    };
+    EXPECT_TRUE(jet::Reader(threeFilters()).problems().empty());
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        std::string image = threeFilters();
+        image[c.page * pageSize + c.at] = c.value;
+        std::string problems;
+        for (const auto& problem : jet::Reader(image).problems()) problems += problem + "\n";
+        EXPECT_NE(std::string::npos, problems.find(c.problem)) << problems;
+    }
+}
+
+} // namespace
