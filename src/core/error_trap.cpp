@@ -9,7 +9,7 @@ constexpr int errorsAllowed = 10;
 bool ErrorTrap::retriesAfter(const RunTimeError& error, int line)
 {
     if (kind_.counted && ++errors_ > errorsAllowed) {
-        log(errorText(error), logLevel::error);
+        report(error, errorText(error));
         log("Error count exceeded, forcing exit from " + procName(), logLevel::error);
         throw ForcedExit{this};
     }
@@ -19,8 +19,14 @@ bool ErrorTrap::retriesAfter(const RunTimeError& error, int line)
     }
     std::string text = errorText(error);
     if (kind_.tellsLine) text += " Line: " + numberText(std::int64_t{line});
-    log(text, logLevel::error);
+    report(error, text);
     return tool_.g_log.exists() && tool_.g_log->DebugMode();
+}
+
+void ErrorTrap::report(const RunTimeError& error, std::string_view text)
+{
+    log(text, logLevel::error);
+    if (tool_.onTrappedError) tool_.onTrappedError(error, procName());
 }
 
 void ErrorTrap::enterProc()

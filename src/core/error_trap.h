@@ -104,6 +104,9 @@ private:
     /// Counts, logs, and tells whether the statement runs again. Throws ForcedExit.
     bool retriesAfter(const RunTimeError& error, int line);
 
+    /// Logs an error and tells whoever asked to hear of it.
+    void report(const RunTimeError& error, std::string_view text);
+
     ToolContext& tool_;
     std::string_view module_;
     std::string_view routine_;

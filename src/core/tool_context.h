@@ -8,12 +8,15 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class DatabaseConnection;
 class OpenForm;
+class RunTimeError;
 class ScopeItem;
 class WSInfo;
 class XmlDocument;
@@ -65,5 +68,9 @@ struct ToolContext {
 
     std::string g_strTraceDatabase;              ///< path of the latest trace database, or empty
     Dictionary<std::string> g_dictUniqueFilters; ///< never emptied
-    bool cancelRequested = false;                ///< asked and set by `cancelCurrentProcess`
+    /// Hears of each error that a routine's trap has logged, under the routine's "[module]name". A
+    /// host tells the person by it; empty when nobody asks.
+    std::function<void(const RunTimeError&, std::string_view procName)> onTrappedError;
+
+    bool cancelRequested = false; ///< asked and set by `cancelCurrentProcess`
 };

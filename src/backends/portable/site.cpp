@@ -1,5 +1,7 @@
 #include "backends/portable/site.h"
 
+#include "backends/portable/code_pages.h"
+
 #include "backends/portable/posix_errors.h"
 #include "backends/portable/tool_folder.h"
 
@@ -63,4 +65,9 @@ Platform Site::platform(Desktop& desktop)
     return {files_,     registry_,    clock_,  timeZone_,  eventReporter_, eventLogExporter_,
             processes_, workstation_, module_, languages_, desktop,        database_,
             xml_};
+}
+
+CodePage Site::codePage() const
+{
+    return codePageOf(settings_.codePage);
 }

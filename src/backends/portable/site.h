@@ -14,6 +14,7 @@
 #include "backends/portable/site_settings.h"
 #include "backends/portable/site_time_zone.h"
 #include "backends/portable/site_workstation.h"
+#include "platform/code_page.h"
 #include "platform/platform.h"
 
 #include <string>
@@ -39,6 +40,10 @@ public:
 
     const std::string& folder() const { return paths_.siteFolder(); }
     const SiteSettings& settings() const { return settings_; }
+
+    /// How the server's log texts are encoded.
+    CodePage codePage() const;
+
     SitePaths& paths() { return paths_; }
     SiteFileSystem& files() { return files_; }
     SiteRegistry& registry() { return registry_; }

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace CLI {
+class App;
+}
+class Output;
+
+/// What stands before the command on the command line.
+struct GlobalOptions {
+    std::string site; ///< folder of the site; never empty
+    bool json = false;
+    bool developmentHost = false;
+};
+
+/// The command could not do it: one clear line on standard error, exit status 1. The empty text is
+/// for a failure that a message box has told already.
+class CommandFailure : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The command line makes no sense: one line on standard error, exit status 2.
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// A command of orvandiag. It lives as long as the program, so that options can write into it.
+class Command {
+public:
+    virtual ~Command() = default;
+
+    virtual std::string name() const = 0;
+
+    /// One line for the list of commands.
+    virtual std::string summary() const = 0;
+
+    /// What `--help` of the command teaches below its options: how it behaves, with examples.
+    virtual std::string explanation() const { return {}; }
+
+    /// Adds the command's own options and arguments.
+    virtual void declare(CLI::App& app) = 0;
+
+    /// Does it. Raises CommandFailure, UsageError, RunTimeError.
+    virtual void run(const GlobalOptions& options, Output& output) = 0;
+};
+
+/// Every command, in the order of the help text.
+std::vector<std::unique_ptr<Command>> allCommands();

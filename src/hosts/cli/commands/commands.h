@@ -1,0 +1,13 @@
+#pragma once
+
+#include "hosts/cli/command.h"
+
+// One maker a command; each lives in the file of its name.
+std::unique_ptr<Command> makeAboutCommand();
+std::unique_ptr<Command> makeCycleCommand();
+std::unique_ptr<Command> makeGatherCommand();
+std::unique_ptr<Command> makeLogsCommand();
+std::unique_ptr<Command> makeReadCommand();
+std::unique_ptr<Command> makeSampleCommand();
+std::unique_ptr<Command> makeStatusCommand();
+std::unique_ptr<Command> makeTreeCommand();

@@ -1,0 +1,114 @@
+#include "core/registry_store.h"
+#include "gather/logs.h"
+#include "gather/trace_object.h"
+#include "hosts/cli/commands/commands.h"
+#include "hosts/cli/gather_run.h"
+#include "logreader/diagnostics.h"
+#include "platform/file_system.h"
+#include "runtime/text.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+
+constexpr const char* standardProcess = "KoCSMgr";
+constexpr const char* eventLogsKey = "System\\CurrentControlSet\\Services\\Eventlog";
+
+class GatherCommand final : public Command {
+public:
+    std::string name() const override { return "gather"; }
+
+    std::string summary() const override { return "Gather logs into a folder to send to support"; }
+
+    std::string explanation() const override
+    {
+        return "Without --to the logs go to a new folder in the server's temporary folder. Logs "
+               "are\n"
+               "copied in readable form, event logs as CSV. Ctrl-C cancels, and keeps what was "
+               "read.\n\n"
+               "  orvandiag gather standard --to ~/case-4711\n"
+               "  orvandiag gather logs --log diag_KoCSMgr_20250220_153011.txt --event-log System";
+    }
+
+    void declare(CLI::App& app) override
+    {
+        app.require_subcommand(1);
+        standard_ =
+            app.add_subcommand("standard", "The current " + std::string(standardProcess) +
+                                               " log and the Application and System events");
+        logs_ = app.add_subcommand("logs", "Logs chosen by name");
+        logs_->add_option("--log", orvanLogs_, "a log in the server's log folder")
+            ->type_name("NAME");
+        logs_->add_option("--event-log", windowsLogs_, "a Windows event log")->type_name("NAME");
+        for (CLI::App* mode : {standard_, logs_})
+            mode->add_option("--to", to_, "the folder to gather into")->type_name("DIR");
+    }
+
+    void run(const GlobalOptions& options, Output& output) override
+    {
+        if (logs_->parsed() && orvanLogs_.empty() && windowsLogs_.empty())
+            throw UsageError("gather logs needs a --log or an --event-log");
+        OpenTool tool(options);
+        classTraceObject job;
+        job.clearOrvanLogs();
+        job.clearWindowsLogs();
+        if (standard_->parsed())
+            fillStandard(tool, job);
+        else
+            fillSelected(tool, job);
+        job.m_LogDestinationDirectory =
+            to_.empty() ? mdlLogs::getLogFileDestinationDirectory(tool.context())
+                        : tool.toolPath(to_);
+        requireUsableDestination(tool, job.m_LogDestinationDirectory);
+        const GatherResult result = runGather(tool, job);
+        tool.close();
+        report(output, result);
+    }
+
+private:
+    static void fillStandard(OpenTool& tool, classTraceObject& job)
+    {
+        job.m_bStandardLogs = true;
+        job.addOrvanLog(mdlDiagnostics::getCurrentDiagnosticFile(tool.context(), standardProcess));
+        job.addWindowsLog("Application");
+        job.addWindowsLog("System");
+    }
+
+    void fillSelected(OpenTool& tool, classTraceObject& job) const
+    {
+        const auto& files = tool.context().platform.files;
+        for (const auto& log : orvanLogs_) {
+            if (log.find_first_of("/\\:") != std::string::npos ||
+                !files.fileExists(tool.context().g_strLogFolder + "\\" + log))
+                throw CommandFailure("no log " + log + " in " + tool.context().g_strLogFolder);
+            job.addOrvanLog(log);
+        }
+        for (const auto& log : windowsLogs_) job.addWindowsLog(eventLog(tool, log));
+    }
+
+    /// The event log's own spelling of its name. Raises CommandFailure for a log that is not there.
+    static std::string eventLog(OpenTool& tool, const std::string& name)
+    {
+        const KeyNames logs = enumRegistryKeys(tool.context(), HKEY_LOCAL_MACHINE, eventLogsKey);
+        try {
+            for (int index = logs.lowerBound(); index <= logs.upperBound(); ++index)
+                if (equalIgnoringCase(logs.at(index), name)) return logs.at(index);
+        } catch (const RunTimeError&) {
+            // No list of event logs at all.
+        }
+        throw CommandFailure("no Windows event log " + name + " on this server");
+    }
+
+    CLI::App* standard_ = nullptr;
+    CLI::App* logs_ = nullptr;
+    std::vector<std::string> orvanLogs_;
+    std::vector<std::string> windowsLogs_;
+    std::string to_;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeGatherCommand()
+{
+    return std::make_unique<GatherCommand>();
+}

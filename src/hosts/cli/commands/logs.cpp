@@ -1,0 +1,82 @@
+#include "hosts/cli/commands/commands.h"
+#include "hosts/cli/open_tool.h"
+#include "hosts/cli/output.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+
+struct LogFile {
+    bool current;
+    std::string fileName;
+    std::string timeStamp;
+    long long size;
+};
+
+/// A process's rows as the log list shows them.
+std::vector<LogFile> logFilesOf(OpenTool& tool, const std::string& process)
+{
+    for (ScopeItem* item : tool.processes().children()) {
+        if (!equalIgnoringCase(item->name(), process)) continue;
+        View& view = tool.console().currentView();
+        view.select(*item);
+        ListView& list = view.selectedScopePaneItem().resultView().list();
+        std::vector<LogFile> files;
+        for (int place = 1; place <= list.itemCount(); ++place) {
+            const ListItem row = list.shown(place);
+            files.push_back({row.subItem(2) == "x", std::string(row.subItem(3)),
+                             std::string(row.subItem(4)),
+                             static_cast<long long>(leadingNumber(row.subItem(5)))});
+        }
+        return files;
+    }
+    throw CommandFailure("no process " + process +
+                         " writes logs here; orvandiag status lists them");
+}
+
+class LogsCommand final : public Command {
+public:
+    std::string name() const override { return "logs"; }
+
+    std::string summary() const override { return "List the log files of a process, newest first"; }
+
+    void declare(CLI::App& app) override
+    {
+        app.add_option("PROCESS", process_, "the process, such as KoCSMgr")->required();
+    }
+
+    void run(const GlobalOptions& options, Output& output) override
+    {
+        OpenTool tool(options);
+        const auto files = logFilesOf(tool, process_);
+        tool.close();
+        if (output.json()) {
+            Json rows = Json::array();
+            for (const auto& file : files)
+                rows.push_back({{"current", file.current},
+                                {"fileName", file.fileName},
+                                {"timeStamp", file.timeStamp},
+                                {"size", file.size}});
+            output.value(rows);
+            return;
+        }
+        Table table({"Current", "File name", "Time stamp", "Bytes"});
+        table.alignRight(3);
+        for (const auto& file : files)
+            table.row(
+                {file.current ? "x" : "", file.fileName, file.timeStamp, groupedNumber(file.size)});
+        output.text(table.text());
+    }
+
+private:
+    std::string process_;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeLogsCommand()
+{
+    return std::make_unique<LogsCommand>();
+}

@@ -1,0 +1,145 @@
+#include "hosts/cli/commands/commands.h"
+#include "hosts/cli/open_tool.h"
+#include "hosts/cli/output.h"
+#include "platform/file_system.h"
+#include "runtime/numbers.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace {
+
+/// The log's columns by their place in the view.
+struct Columns {
+    const char* name; ///< in JSON
+    bool number;
+};
+
+constexpr Columns basicColumns[] = {{"number", true},      {"timeStamp", false}, {"source", false},
+                                    {"traceNumber", true}, {"component", false}, {"level", true},
+                                    {"trace", false}};
+constexpr Columns extendedColumns[] = {
+    {"number", true},     {"timeStamp", false}, {"source", false}, {"traceNumber", true},
+    {"component", false}, {"level", true},      {"thread", false}, {"port", false},
+    {"callId", false},    {"trace", false}};
+
+/// One JSON object a row. A log has tens of thousands of rows, so one text buffer serves for all.
+void printJson(Output& output, ListView& list, const CodePage& codePage)
+{
+    const Columns* columns = list.columnCount() == 10 ? extendedColumns : basicColumns;
+    std::string text;
+    std::string cell;
+    for (int place = 1; place <= list.itemCount(); ++place) {
+        const ListItem row = list.shown(place);
+        text.clear();
+        for (int column = 0; column < list.columnCount(); ++column) {
+            text.append(column == 0 ? "{\"" : ",\"").append(columns[column].name).append("\":");
+            const std::string_view bytes = row.subItem(column + 1);
+            if (columns[column].number) {
+                text += numberText(static_cast<std::int64_t>(leadingNumber(bytes)));
+                continue;
+            }
+            cell.clear();
+            codePage.appendUtf8(cell, bytes);
+            text += Json(cell).dump(-1, ' ', false, Json::error_handler_t::replace);
+        }
+        text += "}\n";
+        output.text(text);
+    }
+}
+
+void printColumns(Output& output, ListView& list, const CodePage& codePage)
+{
+    const int count = list.columnCount();
+    std::vector<std::size_t> widths;
+    for (const auto& header : list.columns()) widths.push_back(header.text.size());
+    for (int place = 1; place <= list.itemCount(); ++place)
+        for (int column = 1; column < count; ++column)
+            widths[static_cast<std::size_t>(column) - 1] =
+                std::max(widths[static_cast<std::size_t>(column) - 1],
+                         list.item(place).subItem(column).size());
+    std::string line;
+    const auto cell = [&](int column, std::string_view bytes, bool encoded) {
+        if (encoded)
+            codePage.appendUtf8(line, bytes);
+        else
+            line += bytes;
+        const std::size_t width = widths[static_cast<std::size_t>(column) - 1];
+        if (column < count) line.append(width > bytes.size() ? width - bytes.size() + 2 : 2, ' ');
+    };
+    for (int column = 1; column <= count; ++column) cell(column, list.column(column).text, false);
+    output.line(line);
+    for (int place = 1; place <= list.itemCount(); ++place) {
+        line.clear();
+        const ListItem row = list.shown(place);
+        for (int column = 1; column <= count; ++column) cell(column, row.subItem(column), true);
+        output.line(line);
+    }
+}
+
+class ReadCommand final : public Command {
+public:
+    std::string name() const override { return "read"; }
+
+    std::string summary() const override { return "Show the lines of a log as columns"; }
+
+    std::string explanation() const override
+    {
+        return "A bare name is looked for in the server's log folder, a path where it says. Raw "
+               "lines\n"
+               "are formatted on the way; the file is left as it is. Logs of more than 2,500,000\n"
+               "bytes are not shown: gather them, and read the formatted copy in an editor.\n\n"
+               "  orvandiag logs KoCSMgr\n"
+               "  orvandiag read diag_KoCSMgr_20250220_153011.txt | less -S\n"
+               "  orvandiag --json read ./old.txt | grep '\"level\":2'";
+    }
+
+    void declare(CLI::App& app) override
+    {
+        app.add_option("LOG", log_, "a log's name, or a path to one")->required();
+    }
+
+    void run(const GlobalOptions& options, Output& output) override
+    {
+        OpenTool tool(options);
+        std::string failure;
+        tool.context().onTrappedError = [&](const RunTimeError& error, std::string_view procName) {
+            if (failure.empty() && procName == "[mdlSnapIn]populateListViewDiagLog")
+                failure = log_ + " could not be read: " + error.description();
+        };
+        tool.desktop().answerPickers(location(tool));
+        tool.console().clickMenuItem("mnuOpenLogFile");
+        tool.context().onTrappedError = {};
+        if (!tool.desktop().failures().empty() || !failure.empty()) {
+            tool.close();
+            throw CommandFailure(failure);
+        }
+        ListView& list = tool.console().currentView().selectedScopePaneItem().resultView().list();
+        if (output.json())
+            printJson(output, list, tool.codePage());
+        else
+            printColumns(output, list, tool.codePage());
+        tool.close();
+    }
+
+private:
+    std::string location(OpenTool& tool) const
+    {
+        const bool bare = log_.find_first_of("/\\:") == std::string::npos;
+        const auto& files = tool.context().platform.files;
+        if (bare && files.fileExists(tool.context().g_strLogFolder + "\\" + log_)) return log_;
+        if (bare && !std::filesystem::exists(log_)) return log_;
+        return tool.toolPath(log_);
+    }
+
+    std::string log_;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeReadCommand()
+{
+    return std::make_unique<ReadCommand>();
+}

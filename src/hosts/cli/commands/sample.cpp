@@ -1,0 +1,69 @@
+#include "backends/portable/sample/sample_server.h"
+#include "hosts/cli/commands/commands.h"
+#include "hosts/cli/output.h"
+#include "hosts/cli/program.h"
+
+#include <CLI/CLI.hpp>
+
+#include <filesystem>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class SampleCommand final : public Command {
+public:
+    std::string name() const override { return "sample"; }
+
+    std::string summary() const override { return "Make a sample server to try things on"; }
+
+    std::string explanation() const override
+    {
+        return "The folder must be new or empty. The same seed makes the same server, byte for "
+               "byte:\n"
+               "five processes, three days of logs that end on 20 February 2025 at 17:42.\n\n"
+               "  orvandiag sample ~/orvan-sample\n"
+               "  orvandiag sample /tmp/big --lines 1000000 --fields extended";
+    }
+
+    void declare(CLI::App& app) override
+    {
+        app.add_option("DIR", folder_, "the folder to make")->required();
+        app.add_option("--lines", lines_, "lines of all diagnostic logs together")
+            ->capture_default_str()
+            ->check(CLI::Range(std::uint64_t{100}, std::uint64_t{1'000'000'000}));
+        app.add_option("--seed", seed_, "another seed makes another server")->capture_default_str();
+        app.add_option("--fields", fields_, "what a log line carries: basic or extended")
+            ->capture_default_str()
+            ->check(CLI::IsMember({"basic", "extended"}));
+    }
+
+    void run(const GlobalOptions&, Output& output) override
+    {
+        const fs::path folder = fs::absolute(folder_).lexically_normal();
+        SampleOptions options;
+        options.folder = folder.has_filename() ? folder.string() : folder.parent_path().string();
+        options.dataFolder = installedDataFolder();
+        options.lines = lines_;
+        options.seed = seed_;
+        options.logFields = fields_ == "extended" ? LogFields::extended : LogFields::basic;
+        makeSampleServer(options);
+        if (output.json())
+            output.value({{"site", options.folder}});
+        else
+            output.line("Made a sample server in " + options.folder);
+    }
+
+private:
+    std::string folder_;
+    std::uint64_t lines_ = SampleOptions{}.lines;
+    std::uint64_t seed_ = SampleOptions{}.seed;
+    std::string fields_ = "basic";
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeSampleCommand()
+{
+    return std::make_unique<SampleCommand>();
+}

@@ -1,0 +1,66 @@
+#include "core/registry_store.h"
+#include "hosts/cli/commands/commands.h"
+#include "hosts/cli/open_tool.h"
+#include "hosts/cli/output.h"
+#include "platform/database.h"
+#include "server/server_identity.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+
+class StatusCommand final : public Command {
+public:
+    std::string name() const override { return "status"; }
+
+    std::string summary() const override
+    {
+        return "Show the server's version, its database, log folder and processes";
+    }
+
+    void declare(CLI::App&) override {}
+
+    void run(const GlobalOptions& options, Output& output) override
+    {
+        OpenTool tool(options);
+        const ServerVersion version = mdlOrvan::getVersion(tool.context());
+        const bool connected = tool.context().g_connection.state() == 1;
+        std::vector<std::string> processes;
+        for (const ScopeItem* process : tool.processes().children())
+            processes.push_back(process->name());
+        tool.close();
+
+        if (output.json()) {
+            output.value({{"version",
+                           {{"major", version.major.value()},
+                            {"minor", version.minor.value()},
+                            {"release", version.release.value()},
+                            {"build", version.build.value()},
+                            {"text", version.version}}},
+                          {"connected", connected},
+                          {"logFolder", tool.context().g_strLogFolder},
+                          {"extendedFields", tool.context().g_bExtendedLogFields},
+                          {"processes", processes}});
+            return;
+        }
+        const auto part = [](const Integer16& number) { return std::to_string(number.value()); };
+        output.line("Server version   " + part(version.major) + "." + part(version.minor) + "." +
+                    part(version.release) + "." + part(version.build) +
+                    (version.version.empty() ? "" : "  (" + version.version + ")"));
+        output.line(std::string("Database         ") +
+                    (connected ? "connected" : "cannot connect: traces can't be changed"));
+        output.line("Log folder       " + tool.context().g_strLogFolder);
+        output.line(std::string("Log lines        ") + (tool.context().g_bExtendedLogFields
+                                                            ? "with thread, port and call id"
+                                                            : "basic"));
+        for (std::size_t i = 0; i < processes.size(); ++i)
+            output.line((i == 0 ? "Processes        " : "                 ") + processes[i]);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeStatusCommand()
+{
+    return std::make_unique<StatusCommand>();
+}

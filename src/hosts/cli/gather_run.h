@@ -1,0 +1,29 @@
+#pragma once
+
+#include "hosts/cli/open_tool.h"
+#include "hosts/cli/output.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+class classTraceObject;
+
+/// What a gather left, as paths of this machine.
+struct GatherResult {
+    std::string destination;
+    std::optional<std::string> database;
+    std::optional<std::string> cabinet;
+    std::vector<std::string> files;     ///< names in the destination, sorted
+    std::optional<std::string> failure; ///< why something is missing
+    bool cancelled = false;
+};
+
+/// Sees to it that a job can write to its destination. Raises CommandFailure, and changes nothing.
+void requireUsableDestination(OpenTool& tool, const std::string& destination);
+
+/// Runs a filled job with a progress bar on the terminal; Ctrl-C cancels it.
+GatherResult runGather(OpenTool& tool, classTraceObject& job);
+
+/// Prints the result, and raises CommandFailure when something is missing from it.
+void report(Output& output, const GatherResult& result);

@@ -1,0 +1,61 @@
+#include "hosts/cli/command.h"
+#include "hosts/cli/output.h"
+#include "hosts/cli/program.h"
+#include "runtime/run_time_error.h"
+
+#include <CLI/CLI.hpp>
+
+#include <csignal>
+#include <cstdio>
+#include <exception>
+
+namespace {
+
+int refuse(const std::string& text, int status)
+{
+    if (!text.empty()) std::fprintf(stderr, "orvandiag: %s\n", text.c_str());
+    return status;
+}
+
+int run(int argc, char** argv)
+{
+    GlobalOptions options;
+    auto commands = allCommands();
+    auto app = describeCommandLine(options, commands);
+    try {
+        app->parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        std::fputs(app->help().c_str(), stdout);
+        return 0;
+    } catch (const CLI::CallForVersion&) {
+        std::printf("%s\n", versionText().c_str());
+        return 0;
+    } catch (const CLI::ParseError& error) {
+        return refuse(std::string(error.what()) + " (see orvandiag --help)", 2);
+    }
+    Output output(options.json);
+    for (auto& command : commands)
+        if (app->got_subcommand(command->name())) command->run(options, output);
+    output.finish();
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // A closed pipe and a file size limit are errors of a write, not the end of the program.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+    try {
+        return run(argc, argv);
+    } catch (const UsageError& error) {
+        return refuse(std::string(error.what()) + " (see orvandiag --help)", 2);
+    } catch (const RunTimeError& error) {
+        return refuse(error.description(), 1);
+    } catch (const std::bad_alloc&) {
+        return refuse("out of memory", 1);
+    } catch (const std::exception& error) {
+        return refuse(error.what(), 1);
+    }
+}

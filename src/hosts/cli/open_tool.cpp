@@ -1,0 +1,66 @@
+#include "hosts/cli/open_tool.h"
+
+#include "hosts/cli/program.h"
+#include "shell/snapin_definition.h"
+
+#include <cctype>
+#include <filesystem>
+
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int processesPosition = 2;
+
+HostFacts hostFacts(const GlobalOptions& options)
+{
+    HostFacts facts;
+    facts.version = moduleVersion();
+    facts.commandLine = "orvandiag";
+    facts.developmentHost = options.developmentHost;
+    return facts;
+}
+
+/// The site's folder, once it is sure that the tool can keep its log and its registry there.
+const std::string& usableSite(const std::string& folder)
+{
+    if (!isSite(folder))
+        throw CommandFailure(folder +
+                             " is not a site (no site.ini, registry.reg or drive_c in it); " +
+                             "orvandiag sample makes one to try things on");
+    if (::access(folder.c_str(), W_OK) != 0)
+        throw CommandFailure("the site " + folder + " is read-only");
+    return folder;
+}
+
+} // namespace
+
+OpenTool::OpenTool(const GlobalOptions& options)
+    : site_(usableSite(options.site), installedDataFolder(), hostFacts(options)),
+      platform_(site_.platform(desktop_)), context_(platform_), definition_(snapinDefinition()),
+      console_(definition_), snapIn_(context_, console_), codePage_(site_.codePage())
+{
+    console_.load(snapIn_);
+}
+
+void OpenTool::close()
+{
+    console_.unload();
+}
+
+std::string OpenTool::toolPath(const std::string& typed) const
+{
+    const bool drive = typed.size() >= 2 && typed[1] == ':' &&
+                       std::isalpha(static_cast<unsigned char>(typed[0])) != 0;
+    if (drive || typed.empty()) return typed;
+    return fs::absolute(typed).lexically_normal().string();
+}
+
+ScopeItem& OpenTool::processes()
+{
+    ScopeItem& node = console_.scopeItems().item(processesPosition);
+    console_.expand(node);
+    return node;
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "backends/portable/site.h"
+#include "core/tool_context.h"
+#include "hosts/cli/command.h"
+#include "hosts/cli/terminal_desktop.h"
+#include "platform/code_page.h"
+#include "platform/console.h"
+#include "shell/snapin_orvan_diagnostics.h"
+
+#include <string>
+
+/// The tool at work on a site: from its loading to its unloading, with a terminal for a desktop.
+class OpenTool {
+public:
+    /// Opens the site, and loads the snap-in into a console. Raises CommandFailure for a folder
+    /// that is no site or may not be written to, RunTimeError for a damaged one.
+    explicit OpenTool(const GlobalOptions& options);
+
+    OpenTool(const OpenTool&) = delete;
+    OpenTool& operator=(const OpenTool&) = delete;
+
+    /// Unloads the snap-in. Raises what it raises.
+    void close();
+
+    Site& site() { return site_; }
+    ToolContext& context() { return context_; }
+    Console& console() { return console_; }
+    snapinOrvanDiagnostics& snapIn() { return snapIn_; }
+    TerminalDesktop& desktop() { return desktop_; }
+    const CodePage& codePage() const { return codePage_; }
+
+    /// Where a path of the tool lies on this machine.
+    std::string machinePath(const std::string& path) { return site_.paths().machinePath(path); }
+
+    /// A path as a person types it: a drive's path stays, another one is this machine's own.
+    std::string toolPath(const std::string& typed) const;
+
+    /// The open Processes node. Its processes' names are those of its children.
+    ScopeItem& processes();
+
+private:
+    Site site_;
+    TerminalDesktop desktop_;
+    Platform platform_;
+    ToolContext context_;
+    SnapInDefinition definition_;
+    Console console_;
+    snapinOrvanDiagnostics snapIn_;
+    CodePage codePage_;
+};

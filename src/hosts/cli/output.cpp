@@ -1,0 +1,87 @@
+#include "hosts/cli/output.h"
+
+#include "hosts/cli/command.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+namespace {
+
+/// Code points of a UTF-8 text: near enough to its width in a terminal.
+std::size_t width(std::string_view text)
+{
+    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
+        return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+    }));
+}
+
+} // namespace
+
+void Output::value(const Json& json)
+{
+    line(json.dump(-1, ' ', false, Json::error_handler_t::replace));
+}
+
+void Output::text(std::string_view text)
+{
+    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) failed_ = true;
+}
+
+void Output::line(std::string_view content)
+{
+    text(content);
+    text("\n");
+}
+
+void Output::finish()
+{
+    if (std::fflush(stdout) != 0) failed_ = true;
+    // A reader that has seen enough, such as head, is no failure.
+    if (failed_ && errno != EPIPE)
+        throw CommandFailure(std::string("cannot write the result: ") + std::strerror(errno));
+}
+
+Table::Table(std::vector<std::string> headers) : right_(headers.size(), false)
+{
+    rows_.push_back(std::move(headers));
+}
+
+void Table::row(std::vector<std::string> cells)
+{
+    cells.resize(right_.size());
+    rows_.push_back(std::move(cells));
+}
+
+void Table::alignRight(std::size_t column)
+{
+    right_[column] = true;
+}
+
+std::string Table::text() const
+{
+    if (rows_.size() == 1) return {};
+    std::vector<std::size_t> widths(right_.size(), 0);
+    for (const auto& row : rows_)
+        for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], width(row[i]));
+    std::string text;
+    for (const auto& row : rows_) {
+        std::string line;
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            const std::string blanks(widths[i] - width(row[i]), ' ');
+            if (i > 0) line += "  ";
+            line += right_[i] ? blanks + row[i] : row[i] + blanks;
+        }
+        line.erase(line.find_last_not_of(' ') + 1);
+        text += line + "\n";
+    }
+    return text;
+}
+
+std::string groupedNumber(long long number)
+{
+    std::string digits = std::to_string(number);
+    const std::size_t first = number < 0 ? 1 : 0;
+    for (std::size_t i = digits.size(); i > first + 3; i -= 3) digits.insert(i - 3, ",");
+    return digits;
+}

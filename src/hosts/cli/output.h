@@ -1,0 +1,55 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// JSON with its keys in the order in which they were set.
+using Json = nlohmann::ordered_json;
+
+/// Where results go: standard output, as text or as JSON.
+class Output {
+public:
+    explicit Output(bool json) : json_(json) {}
+
+    bool json() const { return json_; }
+
+    /// One JSON value and a line end.
+    void value(const Json& json);
+
+    /// Text as it is, without a line end of its own.
+    void text(std::string_view text);
+
+    void line(std::string_view text);
+
+    /// Hands everything to the system. Raises CommandFailure when standard output can't take it.
+    void finish();
+
+private:
+    bool json_;
+    bool failed_ = false;
+};
+
+/// Columns of text, padded to the width of their widest cell. Cells are UTF-8.
+class Table {
+public:
+    explicit Table(std::vector<std::string> headers);
+
+    void row(std::vector<std::string> cells);
+
+    /// Columns whose cells stand at the right.
+    void alignRight(std::size_t column);
+
+    /// With a line of headers when there is a row at all.
+    std::string text() const;
+
+private:
+    std::vector<std::vector<std::string>> rows_;
+    std::vector<bool> right_;
+};
+
+/// "1,234,567": a size for people.
+std::string groupedNumber(long long number);

@@ -1,0 +1,98 @@
+#include "hosts/cli/program.h"
+
+#include "hosts/cli/commands/commands.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string environment(const char* name)
+{
+    const char* value = std::getenv(name);
+    return value ? value : "";
+}
+
+constexpr const char* introduction =
+    "Diagnoses an Orvan voice-messaging server: turns its traces on and off, reads its logs, and\n"
+    "gathers them into one folder to send to support.\n\n"
+    "It works on a site: a server, or a copy of one, in a folder. Make one to try things on:\n\n"
+    "  orvandiag sample ~/orvan-sample\n"
+    "  export ORVAN_SITE=~/orvan-sample\n"
+    "  orvandiag status";
+
+constexpr const char* closing =
+    "Exit status: 0 done, 1 the command could not do it, 2 wrong usage. Results go to standard\n"
+    "output, messages to standard error. orvandiag COMMAND --help tells more of a command.";
+
+} // namespace
+
+std::unique_ptr<CLI::App> describeCommandLine(GlobalOptions& options,
+                                              const std::vector<std::unique_ptr<Command>>& commands)
+{
+    auto app = std::make_unique<CLI::App>(introduction, "orvandiag");
+    app->footer(closing);
+    options.site = defaultSite();
+    app->add_option("--site", options.site,
+                    "the site's folder; else $ORVAN_SITE, else the user's data folder")
+        ->type_name("DIR");
+    app->add_flag("--json", options.json, "print one JSON value instead of text");
+    app->add_flag("--development-host", options.developmentHost,
+                  "answer the tool's debug-mode test with true");
+    app->set_version_flag("--version", versionText());
+    app->require_subcommand(1);
+    app->fallthrough();
+    for (const auto& command : commands) {
+        CLI::App* sub = app->add_subcommand(command->name(), command->summary());
+        sub->footer(command->explanation());
+        command->declare(*sub);
+    }
+    return app;
+}
+
+ModuleVersion moduleVersion()
+{
+    return {ORVAN_VERSION_MAJOR, ORVAN_VERSION_MINOR, ORVAN_VERSION_PATCH};
+}
+
+std::string versionText()
+{
+    return "orvandiag " ORVAN_VERSION;
+}
+
+std::string defaultSite()
+{
+    if (const auto site = environment("ORVAN_SITE"); !site.empty()) return site;
+    fs::path data = environment("XDG_DATA_HOME");
+    if (data.empty()) data = fs::path(environment("HOME")) / ".local" / "share";
+    return (data / "orvandiag" / "site").string();
+}
+
+std::string installedDataFolder()
+{
+    std::error_code none;
+    const fs::path program = fs::read_symlink("/proc/self/exe", none);
+    if (none) return {};
+    const fs::path prefix = program.parent_path().parent_path();
+    for (const fs::path& folder : {prefix / "share" / "orvandiag", prefix / "data"})
+        if (fs::is_directory(folder, none)) return folder.string();
+    return {};
+}
+
+std::vector<std::unique_ptr<Command>> allCommands()
+{
+    std::vector<std::unique_ptr<Command>> commands;
+    commands.push_back(makeSampleCommand());
+    commands.push_back(makeStatusCommand());
+    commands.push_back(makeTreeCommand());
+    commands.push_back(makeLogsCommand());
+    commands.push_back(makeReadCommand());
+    commands.push_back(makeCycleCommand());
+    commands.push_back(makeGatherCommand());
+    commands.push_back(makeAboutCommand());
+    return commands;
+}

@@ -1,0 +1,51 @@
+#include "hosts/cli/progress_line.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+namespace {
+constexpr int barWidth = 24;
+constexpr auto redrawAfter = std::chrono::milliseconds(80);
+} // namespace
+
+ProgressLine::ProgressLine() : terminal_(isatty(STDERR_FILENO) == 1)
+{
+    winsize size{};
+    if (terminal_ && ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0)
+        width_ = size.ws_col;
+}
+
+ProgressLine::~ProgressLine()
+{
+    clear();
+}
+
+void ProgressLine::show(double done, const std::string& caption)
+{
+    if (!terminal_) return;
+    const auto now = std::chrono::steady_clock::now();
+    if (drawn_ && now - last_ < redrawAfter) return;
+    last_ = now;
+    drawn_ = true;
+    const double part = std::clamp(std::isfinite(done) ? done : 0.0, 0.0, 1.0);
+    const int filled = static_cast<int>(part * barWidth);
+    std::string line = "[" + std::string(static_cast<std::size_t>(filled), '#') +
+                       std::string(static_cast<std::size_t>(barWidth - filled), '.') + "] ";
+    const std::string percent = std::to_string(static_cast<int>(part * 100)) + "%";
+    line += std::string(4 - percent.size(), ' ') + percent + "  " + caption;
+    const auto room = static_cast<std::size_t>(std::max(width_ - 1, 1));
+    if (line.size() > room) line.resize(room);
+    std::fprintf(stderr, "\r\033[K%s", line.c_str());
+    std::fflush(stderr);
+}
+
+void ProgressLine::clear()
+{
+    if (!drawn_) return;
+    std::fputs("\r\033[K", stderr);
+    drawn_ = false;
+}

@@ -1,0 +1,32 @@
+#include "hosts/cli/terminal_desktop.h"
+
+#include "runtime/text.h"
+
+#include <cstdio>
+
+void TerminalDesktop::messageBox(const std::string& text, const std::string&, MessageIcon icon)
+{
+    if (beforeMessage_) beforeMessage_();
+    std::fprintf(stderr, "orvandiag: %s\n", replaceAll(text, lineBreak, "  ").c_str());
+    if (icon == MessageIcon::critical) failures_.push_back(text);
+}
+
+std::string TerminalDesktop::pickFolder(const std::string&)
+{
+    return answer_;
+}
+
+std::string TerminalDesktop::pickFile(const std::string&)
+{
+    return answer_;
+}
+
+void TerminalDesktop::pumpMessages()
+{
+    if (onPump_) onPump_();
+}
+
+int TerminalDesktop::showHelp(const std::string&, int)
+{
+    return 0;
+}

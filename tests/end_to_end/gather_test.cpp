@@ -1,0 +1,135 @@
+#include "end_to_end/sample_site.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+struct GatherCommand : SampleSite {};
+
+std::string formattedName(const std::string& log)
+{
+    return log.substr(0, log.find('.')) + "_fmtd" + log.substr(log.find('.'));
+}
+
+TEST_F(GatherCommand, StandardCopiesTheCurrentLogAndBothEventLogs)
+{
+    const std::string log = currentLog();
+    const Outcome gathered = runJson({"gather", "standard", "--to", target.string()});
+    ASSERT_EQ(0, gathered.status) << gathered.err;
+    const auto result = gathered.json();
+    EXPECT_EQ(target.string(), result["destination"]);
+    EXPECT_TRUE(result["database"].is_null());
+    EXPECT_TRUE(result["cabinet"].is_null());
+    EXPECT_THAT(result["files"], ElementsAre("Application.csv", "System.csv", formattedName(log)));
+    EXPECT_THAT(read(target / "Application.csv"),
+                testing::StartsWith("Time,Type,Source,Event ID,Computer,Message\r\n"));
+
+    const std::string raw = read(drive("KelmaOrvan/Logs/" + log));
+    const std::string copy = read(target / formattedName(log));
+    EXPECT_EQ(std::count(raw.begin(), raw.end(), '\n'), std::count(copy.begin(), copy.end(), '\n'));
+    const std::string firstTime = raw.substr(0, raw.find(','));
+    EXPECT_THAT(copy, testing::StartsWith(firstTime + " ("));
+}
+
+TEST_F(GatherCommand, MakesAFolderOfItsOwnWithoutADestination)
+{
+    const auto result = runJson({"gather", "standard"}).json();
+    const fs::path destination = result["destination"].get<std::string>();
+    EXPECT_TRUE(fs::is_directory(destination));
+    EXPECT_THAT(destination.filename().string(),
+                testing::MatchesRegex("LogsFrom[0-9]{8}_[0-9]{6}"));
+    EXPECT_EQ(drive("Temp"), destination.parent_path());
+}
+
+TEST_F(GatherCommand, TakesADestinationOnTheServersDrive)
+{
+    const auto result = runJson({"gather", "standard", "--to", "C:\\Case"}).json();
+    EXPECT_EQ(drive("Case").string(), result["destination"]);
+}
+
+TEST_F(GatherCommand, TakesLogsByName)
+{
+    const auto logs = runJson({"logs", "KoNotify"}).json();
+    const std::string log = logs[1]["fileName"];
+    const auto result = runJson({"gather", "logs", "--log", log, "--event-log", "security", "--to",
+                                 target.string()})
+                            .json();
+    EXPECT_THAT(result["files"], ElementsAre("Security.csv", formattedName(log)));
+}
+
+TEST_F(GatherCommand, CopiesALineThatIsNoneAsItCan)
+{
+    const std::string log = "diag_Odd_20250101_000000.txt";
+    write(drive("KelmaOrvan/Logs/" + log), "garbage without any structure at all\n"
+                                           "short\n"
+                                           "15:23:07:123,Conv,1,X,2,good\n");
+    const Outcome gathered = run({"gather", "logs", "--log", log, "--to", target.string()});
+    EXPECT_EQ(0, gathered.status) << gathered.err;
+    EXPECT_EQ(" \r\n\r\n15:23:07:123 (Conv,1,X,2) good \r\n", read(target / formattedName(log)));
+}
+
+TEST_F(GatherCommand, RunsUnderTheDevelopmentHostWithoutFormatting)
+{
+    const std::string log = currentLog();
+    const Outcome gathered =
+        run({"--development-host", "gather", "logs", "--log", log, "--to", target.string()});
+    ASSERT_EQ(0, gathered.status) << gathered.err;
+    const std::string raw = read(drive("KelmaOrvan/Logs/" + log));
+    const std::string copy = read(target / formattedName(log));
+    EXPECT_EQ(raw.substr(0, raw.find_first_of("\r\n")), copy.substr(0, copy.find_first_of("\r\n")));
+}
+
+TEST_F(GatherCommand, RefusesWhatItDoesNotKnowAndChangesNothing)
+{
+    write(folder / "file", "x");
+    const std::string before = fingerprint();
+    const struct {
+        const char* because;
+        std::vector<std::string> words;
+        int status;
+    } cases[] = {
+        {"an unknown log", {"gather", "logs", "--log", "diag_None_1.txt"}, 1},
+        {"a log outside the log folder", {"gather", "logs", "--log", "../site.ini"}, 1},
+        {"an unknown event log", {"gather", "logs", "--event-log", "Nothing"}, 1},
+        {"nothing to gather", {"gather", "logs"}, 2},
+        {"no mode", {"gather"}, 2},
+        {"a destination that is a file",
+         {"gather", "standard", "--to", (folder / "file").string()},
+         1},
+        {"a destination in a missing folder",
+         {"gather", "standard", "--to", (folder / "no/such/folder").string()},
+         1},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        const Outcome refused = run(c.words);
+        EXPECT_EQ(c.status, refused.status);
+        EXPECT_EQ(1, std::count(refused.err.begin(), refused.err.end(), '\n')) << refused.err;
+        EXPECT_EQ("", refused.out);
+    }
+    const std::string after = fingerprint();
+    EXPECT_EQ(before.size() > 0, after.size() > 0);
+    EXPECT_FALSE(fs::exists(folder / "no"));
+    EXPECT_EQ("x", read(folder / "file"));
+}
+
+TEST_F(GatherCommand, TellsOfAFullDisk)
+{
+    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
+    const std::string log = "diag_Long_20250101_000000.txt";
+    std::string content;
+    for (int i = 0; i < 20'000; ++i) content += "15:23:07:123,Conv,1,X,2,a line among many\n";
+    write(drive("KelmaOrvan/Logs/" + log), content);
+    const Outcome full =
+        runProgram({"bash", "-c",
+                    "ulimit -f 256; exec '" ORVANDIAG_PROGRAM "' --site '" + site.string() +
+                        "' gather logs --log " + log + " --to '" + target.string() + "'"});
+    EXPECT_EQ(1, full.status) << full.out << full.err;
+    EXPECT_EQ("orvandiag: not everything was gathered: Disk full\n", full.err);
+}
+
+} // namespace

@@ -1,0 +1,119 @@
+#include "end_to_end/sample_site.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::HasSubstr;
+
+struct ReadCommand : SampleSite {
+    std::vector<nlohmann::json> rows(const std::string& log)
+    {
+        std::vector<nlohmann::json> result;
+        const Outcome shown = runJson({"read", log});
+        EXPECT_EQ(0, shown.status) << shown.err;
+        std::istringstream lines(shown.out);
+        for (std::string line; std::getline(lines, line);)
+            result.push_back(nlohmann::json::parse(line));
+        return result;
+    }
+
+    std::string put(const std::string& content)
+    {
+        const auto file = folder / "a.txt";
+        write(file, content);
+        return file.string();
+    }
+};
+
+TEST_F(ReadCommand, ShowsEveryLineOfTheCurrentLogAsARow)
+{
+    const std::string log = currentLog();
+    const std::string raw = read(drive("KelmaOrvan/Logs/" + log));
+    std::size_t lines = 0;
+    std::istringstream stream(raw);
+    for (std::string line; std::getline(stream, line);) lines += line.size() > 1 ? 1 : 0;
+    const auto all = rows(log);
+    EXPECT_EQ(lines, all.size());
+    EXPECT_EQ(1, all[0]["number"]);
+    EXPECT_EQ(lines, all.back()["number"]);
+    const std::string firstTime = raw.substr(0, raw.find(','));
+    EXPECT_EQ(firstTime, all[0]["timeStamp"]);
+    EXPECT_FALSE(all[0].contains("callId"));
+}
+
+TEST_F(ReadCommand, TakesARawLineApart)
+{
+    const auto all = rows(put("15:23:07:123,Conv,1234,CallFlow,7,Call answered, at once\r\n\r\n"
+                              "2005-10-08 15:23:08,Conv,5,X,0,caf\xE9 \x80 \"q\"\\\n"
+                              "15:23:09:001 (Src,9,Comp,3) formatted already"));
+    ASSERT_EQ(3u, all.size()) << "the blank line is no row";
+    EXPECT_EQ("15:23:07:123", all[0]["timeStamp"]);
+    EXPECT_EQ("Conv", all[0]["source"]);
+    EXPECT_EQ(1234, all[0]["traceNumber"]);
+    EXPECT_EQ("CallFlow", all[0]["component"]);
+    EXPECT_EQ(7, all[0]["level"]);
+    EXPECT_EQ("Call answered, at once ", all[0]["trace"]);
+    EXPECT_EQ("2005-10-08 15:23:08", all[1]["timeStamp"]);
+    EXPECT_EQ("caf\u00e9 \u20ac \"q\"\\ ", all[1]["trace"]) << "decoded from the code page";
+    EXPECT_EQ(3, all[2]["number"]);
+    EXPECT_EQ("formatted already ", all[2]["trace"]);
+}
+
+TEST_F(ReadCommand, ShowsTheExtendedFieldsOfANewerServer)
+{
+    const auto other = (folder / "extended").string();
+    ASSERT_EQ(0, orvandiag({"sample", other, "--lines", "500", "--fields", "extended"}).status);
+    const std::string file = put(
+        "15:23:07:123,Conv,1234,77,12,00ff00ff00ff00ff00ff00ff00ff00ff,CallFlow,7,Call answered");
+    const auto row = orvandiag({"--json", "--site", other, "read", file}).json();
+    EXPECT_EQ("77", row["thread"]);
+    EXPECT_EQ("12", row["port"]);
+    EXPECT_EQ("00ff00ff00ff00ff00ff00ff00ff00ff", row["callId"]);
+    EXPECT_EQ("Call answered ", row["trace"]) << "without the long call id at its head";
+}
+
+TEST_F(ReadCommand, SurvivesWhateverAFileHolds)
+{
+    struct Case {
+        const char* because;
+        std::string content;
+    };
+    std::string garbage;
+    for (unsigned i = 0, state = 7; i < 200'000; ++i) {
+        state = state * 1664525 + 1013904223;
+        garbage += static_cast<char>(state >> 24);
+    }
+    const Case cases[] = {
+        {"nothing", ""},
+        {"only line ends", "\n\r\n\n"},
+        {"NUL bytes", std::string(100, '\0') + "\n" + std::string(30, '\0')},
+        {"binary garbage", garbage},
+        {"a line of two megabytes", "15:23:07:123,Conv,1,X,2," + std::string(2'000'000, 'x')},
+        {"no last line end", "15:23:07:123,Conv,1,X,2,end"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        const std::string file = put(c.content);
+        EXPECT_EQ(0, runJson({"read", file}).status);
+        const Outcome plain = run({"read", file});
+        EXPECT_EQ(0, plain.status) << plain.err;
+        EXPECT_EQ(c.content, read(file)) << "reading changes nothing";
+    }
+}
+
+TEST_F(ReadCommand, ShowsALogOfExactlyTheLimitAndRefusesAByteMore)
+{
+    std::string content;
+    while (content.size() < 2'500'000 - 200)
+        content += "15:23:07:123,Conv,1,X,2," + std::string(80, 'x') + "\n";
+    content += std::string(2'500'000 - content.size(), 'y');
+    EXPECT_EQ(0, run({"read", put(content)}).status);
+    const Outcome refused = run({"read", put(content + "z")});
+    EXPECT_EQ(1, refused.status);
+    EXPECT_THAT(refused.err, HasSubstr("is too large to display in the Orvan Diagnostic Tool."));
+    EXPECT_EQ(1, std::count(refused.err.begin(), refused.err.end(), '\n')) << refused.err;
+    EXPECT_EQ("", refused.out);
+}
+
+} // namespace
