@@ -6,7 +6,10 @@
 #include "core/utility.h"
 #include "platform/event_reporter.h"
 #include "platform/host_module.h"
+#include "server/configuration_database.h"
+#include "server/diagnostic_grid_catalogue.h"
 #include "shell/server_events.h"
+#include "traces/macro_trace_catalogue.h"
 
 void mdlInitialize::initGlobalVariables(ToolContext& tool)
 {
@@ -20,6 +23,7 @@ void mdlInitialize::initGlobalVariables(ToolContext& tool)
         step([&] { tool.g_strLogFolder = getRegistryText(tool, logManagerKey, "Output Path"); });
         step([&] { tool.g_strMacroTraceFolder = module.folder() + "\\ZMKXML"; });
         step([&] { initBitMasks(tool); });
+        mdlTraces::initMacroTraces(tool);
         step([&] { eventLog.startUp(); });
         step([&] { eventLog.completeStartUp(); });
         step([&] { tool.g_eventLogHandle = eventLog.registerTool(module.name()); });
@@ -29,6 +33,9 @@ void mdlInitialize::initGlobalVariables(ToolContext& tool)
         });
         step([&] { tool.g_bDebugMode = tool.g_log->DebugMode(); });
         step([&] { getTZBias(tool); });
+        if (!mdlOrvanDatabase::openOrvanDB(tool, tool.g_connection, "(local)"))
+            step.log("Cannot connect to database", logLevel::error);
+        mdlDiagnosticGrids::openDiagGrids(tool);
         step.exitProc();
     });
 }

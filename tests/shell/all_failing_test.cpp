@@ -19,6 +19,7 @@ struct AllFailing : ShellTest {
         tool.eventLogExporter.failing(70);
         tool.processes.failing(5);
         tool.desktop.pickersFailing(5);
+        tool.database.unreachable().breakConnection();
         tool.workstation.machine.reset();
         tool.workstation.person.reset();
     }

@@ -106,7 +106,48 @@ TEST_F(SnapInLifecycle, FillsTheGlobalContextOnLoading)
     EXPECT_EQ(FakeEventReporter::toolHandle, tool.context.g_eventLogHandle);
     EXPECT_FALSE(tool.context.g_bDebugMode);
     EXPECT_NE(0, tool.context.g_timeZone.daylightDate.month) << "the time zone was read";
+    EXPECT_EQ(1, tool.database.state());
+    EXPECT_NE(nullptr, tool.context.g_domMacroTraces->documentElement());
     EXPECT_THAT(tool.failures(), IsEmpty());
+}
+
+TEST_F(SnapInLifecycle, ReachesTheGridCatalogueAndItsReportWithTheDatabaseDown)
+{
+    tool.database.unreachable();
+    tool.registry.withText(baseKey, "InstalledFolderPath", "C:\\Orvan");
+    tool.files.with("C:\\Orvan\\GuiResources\\Resources\\ENU\\DiagnosticGrids_ENU.xml",
+                    "<DiagnosticGrids/>");
+
+    snapIn.SnapIn_Load();
+
+    EXPECT_THAT(tool.failures("[mdlInitialize]initGlobalVariables"),
+                ElementsAre("Cannot connect to database"));
+    EXPECT_NE(nullptr, tool.context.g_domDiagnosticGrids->documentElement());
+    EXPECT_THAT(reportedIds(tool), ElementsAre(10001, 10002));
+}
+
+TEST_F(SnapInLifecycle, TakesAnOpenConnectionForNone)
+{
+    tool.database.opened();
+
+    snapIn.SnapIn_Load();
+
+    EXPECT_TRUE(tool.logged("Cannot connect to database"));
+    EXPECT_EQ(1, tool.database.state());
+}
+
+TEST_F(SnapInLifecycle, BuildsTheMacroTracesBeforeItsReporterAndDatabaseAreThere)
+{
+    tool.files.with("C:\\OrvanDiagnostics\\ZMKXML\\HTa.xml", "<GA NAME='A'><TRACE NAME='T'/></GA>");
+    tool.registry.withNumber(std::string(toolKey) + "\\A\\T", "Enabled", 1);
+    tool.database.unreachable();
+    tool.eventReporter.missing();
+
+    snapIn.SnapIn_Load();
+
+    const auto trace = tool.context.g_domMacroTraces->selectSingleNode("HYBRIDTRACES/GA/TRACE");
+    ASSERT_NE(nullptr, trace);
+    EXPECT_EQ("1", trace->attribute("Enabled"));
 }
 
 TEST_F(SnapInLifecycle, SetsTheEventReporterUpBeforeItsFirstReport)
@@ -185,11 +226,17 @@ TEST_F(SnapInLifecycle, LogsItsRoutinesInTheirOrder)
     const auto version = place("[mdlOrvan]getVersion");
     const auto loaded = place("[snapinOrvanDiagnostics]SnapIn_Load");
     const auto globals = place("[mdlInitialize]initGlobalVariables");
+    const auto macroTraces = place("[mdlTraces]initMacroTraces");
+    const auto connection = place("[mdlOrvanDatabase]openOrvanDB");
+    const auto grids = place("[mdlDiagnosticGrids]openDiagGrids");
     EXPECT_EQ(0, initialize) << "the first routine that logs makes the log";
     EXPECT_LT(initialize, version);
     EXPECT_LT(version, loaded);
     EXPECT_LT(loaded, globals);
-    EXPECT_LT(globals, missing);
+    EXPECT_LT(globals, macroTraces);
+    EXPECT_LT(macroTraces, connection);
+    EXPECT_LT(connection, grids);
+    EXPECT_LT(grids, missing);
 }
 
 TEST_F(SnapInLifecycle, ReportsItsEndAndChangesNothingElse)

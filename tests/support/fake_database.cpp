@@ -81,6 +81,12 @@ FakeDatabase::Row selected(const FakeDatabase::Row& row, const std::string& list
     return result;
 }
 
+/// What a value sorts by; Null comes first.
+std::string sortKey(const Value& value)
+{
+    return isNull(value) ? std::string() : valueAsText(value);
+}
+
 } // namespace
 
 class FakeCommand final : public DatabaseCommand {
@@ -237,7 +243,7 @@ std::unique_ptr<DatabaseRecordset> FakeDatabase::openRecordset(const std::string
     std::vector<Row> source = view->second;
     if (parts[5].matched)
         std::stable_sort(source.begin(), source.end(), [&](const Row& left, const Row& right) {
-            return valueAsText(left.at(parts[5])) < valueAsText(right.at(parts[5]));
+            return sortKey(left.at(parts[5])) < sortKey(right.at(parts[5]));
         });
     std::vector<Row> rows;
     for (const auto& row : source)

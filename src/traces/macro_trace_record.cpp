@@ -1,0 +1,74 @@
+#include "traces/macro_trace_record.h"
+
+#include "core/error_trap.h"
+#include "core/registry_store.h"
+#include "core/utility.h"
+#include "platform/clock.h"
+#include "runtime/dates.h"
+#include "runtime/numbers.h"
+#include "traces/trace_events.h"
+
+namespace {
+
+constexpr std::string_view moduleName = "mdlTraces";
+
+std::string groupKey(const std::string& groupName)
+{
+    return std::string(toolKey) + "\\" + groupName;
+}
+
+std::string traceKey(const std::string& groupName, const std::string& traceName)
+{
+    return groupKey(groupName) + "\\" + traceName;
+}
+
+void ensureKey(ToolContext& tool, const std::string& path)
+{
+    if (!registryKeyExists(tool, HKEY_LOCAL_MACHINE, path))
+        createRegistryKey(tool, HKEY_LOCAL_MACHINE, path);
+}
+
+void writeEnabled(ToolContext& tool, const std::string& key, std::int32_t enabled)
+{
+    setRegistryValue(tool, HKEY_LOCAL_MACHINE, key, "Enabled", REG_DWORD, enabled);
+}
+
+} // namespace
+
+void mdlTraces::recordMacroTrace(ToolContext& tool, const std::string& groupName,
+                                 const std::string& traceName, bool enabled)
+{
+    ErrorTrap step{tool, moduleName, "recordMacroTrace"};
+    const std::string key = traceKey(groupName, traceName);
+    const std::vector<std::string> inserts = {groupName + " - " + traceName};
+
+    step([&] { ensureKey(tool, toolKey); });
+    step([&] { ensureKey(tool, groupKey(groupName)); });
+    step([&] { ensureKey(tool, key); });
+    if (enabled) {
+        step([&] { writeEnabled(tool, key, 1); });
+        step([&] {
+            reportServerEvent(tool, traceEvents::type, traceEvents::macroTraceOn, inserts);
+        });
+    } else {
+        step([&] { writeEnabled(tool, key, 0); });
+        step([&] {
+            reportServerEvent(tool, traceEvents::type, traceEvents::macroTraceOff, inserts);
+        });
+    }
+    step([&] {
+        setRegistryValue(tool, HKEY_LOCAL_MACHINE, key, "Date", REG_SZ,
+                         dateText(tool.platform.clock.now()));
+    });
+}
+
+std::int16_t mdlTraces::isenabledMacroTrace(ToolContext& tool, const std::string& groupName,
+                                            const std::string& traceName)
+{
+    ErrorTrap step{tool, moduleName, "isenabledMacroTrace"};
+    std::int16_t enabled = 0;
+    step([&] {
+        enabled = toInteger16(getRegistryNumber(tool, traceKey(groupName, traceName), "Enabled"));
+    });
+    return enabled;
+}
