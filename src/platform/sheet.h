@@ -8,11 +8,15 @@ constexpr int finishEnabled = 2;
 constexpr int finishDisabled = 3;
 } // namespace wizardButton
 
-/// A wizard's sheet, as its pages see it.
+/// A wizard's sheet, as its pages see it. A sheet that is closed ignores its pages.
 class PropertySheet {
 public:
     virtual ~PropertySheet() = default;
 
     /// Changes the buttons while the page is on show; `nextOrFinish` is one of `wizardButton`.
     virtual void SetWizardButtons(bool enableBack, int nextOrFinish) = 0;
+
+    /// Presses Next on whatever page is on show, as Alt and N would: nothing happens unless that
+    /// button is there and enabled. Raises what the page's handlers raise.
+    virtual void pressNext() {}
 };
