@@ -9,6 +9,25 @@
 
 using runTimeErrors::itemNotInCollection;
 
+namespace {
+
+bool beginsCharacter(char byte)
+{
+    return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
+}
+
+/// A UTF-8 text cut or filled with blanks to `size` characters.
+std::string fitted(const std::string& text, std::size_t size)
+{
+    std::size_t characters = 0;
+    std::size_t end = 0;
+    for (; end < text.size(); ++end)
+        if (beginsCharacter(text[end]) && ++characters > size) return text.substr(0, end);
+    return text + std::string(size - characters, ' ');
+}
+
+} // namespace
+
 void MemoryRecordset::append(const std::string& name, std::size_t size)
 {
     if (open_) throw RunTimeError(databaseErrors::alreadyOpen);
@@ -33,8 +52,7 @@ void MemoryRecordset::set(const std::string& name, const std::string& text)
     const std::size_t column = columnOf(name);
     if (added_.empty() && atEnd()) throw RunTimeError(databaseErrors::noCurrentRow);
     auto& row = added_.empty() ? rows_[position_] : added_;
-    row[column] = text;
-    row[column].resize(columns_[column].size, ' ');
+    row[column] = fitted(text, columns_[column].size);
 }
 
 void MemoryRecordset::update()

@@ -226,6 +226,20 @@ TEST_F(DiagnosticGrid, PadsBothColumnsOfTheListTo255Characters)
     EXPECT_EQ(std::string(255, 'x'), components.field("name")) << "more is cut";
 }
 
+TEST_F(DiagnosticGrid, CutsTheListsTextsBetweenCharacters)
+{
+    std::string name;
+    for (int number = 0; number < 300; ++number) name += "\xC3\xA9";
+    tool.database.withComponent(name, 0, 0).withComponent("\xC3\xA9t\xC3\xA9", 0, 0);
+
+    MemoryRecordset components = EnumComponents(tool.context);
+    components.moveFirst();
+
+    EXPECT_EQ("\xC3\xA9t\xC3\xA9" + std::string(252, ' '), components.field("name"));
+    components.moveNext();
+    EXPECT_EQ(name.substr(0, 2 * 255), components.field("name"));
+}
+
 TEST_F(DiagnosticGrid, ListsAnEmptyViewWithOneErrorAlongTheWay)
 {
     tool.database.withView("vw_LoggerDiagnosticGrid");
