@@ -105,13 +105,15 @@ private:
 
 } // namespace
 
-SiteDatabase::SiteDatabase(std::string file) : file_(std::move(file)) {}
+SiteDatabase::SiteDatabase(std::string file, int patience)
+    : file_(std::move(file)), patience_(patience)
+{}
 
 SiteDatabase::~SiteDatabase() = default;
 
 int SiteDatabase::state() const
 {
-    return handle_ && handle_->fileIsThere() ? 1 : 0;
+    return handle_ && handle_->isUsable() ? 1 : 0;
 }
 
 void SiteDatabase::open(const std::string&, const std::string&, const std::string&)
@@ -119,7 +121,7 @@ void SiteDatabase::open(const std::string&, const std::string&, const std::strin
     if (state() != 0) throw RunTimeError(databaseErrors::alreadyOpen);
     handle_.reset();
     errors_ = 1;
-    handle_ = std::make_shared<SqliteHandle>(file_);
+    handle_ = std::make_shared<SqliteHandle>(file_, patience_);
     errors_ = 0;
 }
 

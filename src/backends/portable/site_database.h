@@ -10,11 +10,14 @@ class SqliteHandle;
 /// The directory database of a site: an SQLite file.
 ///
 /// A stored procedure is a view of its name: its columns are the parameters, and inserting a row
-/// calls it. A file that has been removed or replaced is a broken connection.
+/// calls it. A file that has been removed, replaced or damaged is a broken connection.
 class SiteDatabase final : public DatabaseConnection {
 public:
+    /// Milliseconds that a statement waits while another program holds the database.
+    static constexpr int usualPatience = 10000;
+
     /// `file` is a path of this machine; it is opened by `open` alone.
-    explicit SiteDatabase(std::string file);
+    explicit SiteDatabase(std::string file, int patience = usualPatience);
     ~SiteDatabase() override;
 
     int state() const override;
@@ -30,6 +33,7 @@ public:
 
 private:
     std::string file_;
+    int patience_;
     std::shared_ptr<SqliteHandle> handle_;
     int errors_ = 0;
 };

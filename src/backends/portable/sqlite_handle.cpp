@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr int busyMilliseconds = 10000;
-
 /// A query with its text literals taken out.
 struct Template {
     std::string sql;
@@ -86,7 +84,8 @@ void SqliteStatement::release()
     owner_.reset();
 }
 
-SqliteHandle::SqliteHandle(const std::string& file) : file_(file), inode_(inodeOf(file))
+SqliteHandle::SqliteHandle(const std::string& file, int patience)
+    : file_(file), inode_(inodeOf(file))
 {
     if (inode_ == 0) throw RunTimeError(databaseErrors::unspecified, "Cannot open " + file);
     const int result = sqlite3_open_v2(file.c_str(), &database_,
@@ -94,7 +93,7 @@ SqliteHandle::SqliteHandle(const std::string& file) : file_(file), inode_(inodeO
     std::string failure;
     if (result == SQLITE_OK) {
         sqlite3_extended_result_codes(database_, 1);
-        sqlite3_busy_timeout(database_, busyMilliseconds);
+        sqlite3_busy_timeout(database_, patience);
         char* text = nullptr;
         if (sqlite3_exec(database_, "PRAGMA schema_version", nullptr, nullptr, &text) == SQLITE_OK)
             return;
@@ -154,6 +153,7 @@ void SqliteHandle::fail() const
     case SQLITE_CANTOPEN:
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
+        broken_ = true;
         throw RunTimeError(runTimeErrors::connectionClosed, text);
     case SQLITE_NOMEM:
         throw RunTimeError(runTimeErrors::outOfMemory);
@@ -164,7 +164,7 @@ void SqliteHandle::fail() const
     throw RunTimeError(databaseErrors::statementRefused, text);
 }
 
-bool SqliteHandle::fileIsThere() const
+bool SqliteHandle::isUsable() const
 {
-    return inodeOf(file_) == inode_;
+    return !broken_ && inodeOf(file_) == inode_;
 }

@@ -31,8 +31,9 @@ private:
 /// share one compiled statement.
 class SqliteHandle {
 public:
-    /// Raises -2147467259 for a file that is missing, is no database or may not be read.
-    explicit SqliteHandle(const std::string& file);
+    /// `patience` is how many milliseconds a statement waits for another program's lock. Raises
+    /// -2147467259 for a file that is missing, is no database or may not be read.
+    SqliteHandle(const std::string& file, int patience);
     ~SqliteHandle();
     SqliteHandle(const SqliteHandle&) = delete;
     SqliteHandle& operator=(const SqliteHandle&) = delete;
@@ -40,11 +41,11 @@ public:
     /// A statement ready to step. Raises as DatabaseConnection::openRecordset.
     SqliteStatement prepare(const std::string& sql);
 
-    /// The present failure as an error.
+    /// The present failure as an error. A file that can't be read any more breaks the connection.
     [[noreturn]] void fail() const;
 
-    /// Whether the file at the path is still the one that was opened.
-    bool fileIsThere() const;
+    /// Whether the file at the path is still the one that was opened, and could be read so far.
+    bool isUsable() const;
 
     sqlite3* get() const { return database_; }
 
@@ -57,5 +58,6 @@ private:
     std::string file_;
     unsigned long long inode_ = 0;
     sqlite3* database_ = nullptr;
+    mutable bool broken_ = false;
     std::unordered_map<std::string, sqlite3_stmt*> statements_;
 };

@@ -1,13 +1,19 @@
 #include "backends/portable/site_database.h"
 
+#include "backends/portable/sqlite_handle.h"
 #include "support/error_of.h"
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <thread>
 
 #include <sqlite3.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -182,6 +188,163 @@ TEST_F(SiteDatabaseTest, SeesAnotherProgramsChangeAtOnce)
     EXPECT_EQ(Value(5), flags("A"));
     execute(file, "UPDATE grid SET Flags = 6 WHERE Name = 'A'");
     EXPECT_EQ(Value(6), flags("A"));
+}
+
+/// Another program that holds the database for itself.
+struct Lock {
+    explicit Lock(const std::string& file)
+    {
+        sqlite3_open(file.c_str(), &other);
+        EXPECT_EQ(SQLITE_OK, sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr));
+    }
+    ~Lock()
+    {
+        sqlite3_exec(other, "ROLLBACK", nullptr, nullptr, nullptr);
+        sqlite3_close(other);
+    }
+    sqlite3* other = nullptr;
+};
+
+void setFlags(SiteDatabase& database, const std::string& objectId, std::int32_t word)
+{
+    auto command = database.createCommand();
+    command->setProcedure("csp_LoggerDiagnosticGridModify");
+    command->refreshParameters();
+    command->assign("@ObjectId", objectId);
+    command->assign("@Flags", word);
+    command->execute();
+}
+
+TEST_F(SiteDatabaseTest, RefusesAStatementWhenAnotherProgramHoldsTheDatabaseTooLong)
+{
+    SiteDatabase impatient{file, 30};
+    impatient.open("", "", "");
+    const auto read = [&] {
+        return impatient
+            .openRecordset("SELECT Flags FROM vw_LoggerDiagnosticGrid WHERE Name = 'A'",
+                           CursorKind::forwardOnly, LockKind::optimistic)
+            ->field("Flags");
+    };
+    {
+        const Lock lock(file);
+        EXPECT_EQ(databaseErrors::statementRefused, errorOf([&] { read(); }));
+        EXPECT_EQ("database is locked", errorTextOf([&] { setFlags(impatient, "1", 64); }));
+        EXPECT_EQ(1, impatient.state()) << "the connection stays open";
+
+        SiteDatabase second{file, 30};
+        EXPECT_EQ(databaseErrors::unspecified, errorOf([&] { second.open("", "", ""); }));
+    }
+    EXPECT_EQ(Value(5), read());
+    setFlags(impatient, "1", 64);
+    EXPECT_EQ(Value(64), read());
+}
+
+TEST_F(SiteDatabaseTest, WaitsForAnotherProgramThatLetsGoInTime)
+{
+    open();
+    auto lock = std::make_unique<Lock>(file);
+    std::thread release([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(60));
+        lock.reset();
+    });
+
+    EXPECT_NO_THROW(setFlags(database, "1", 64));
+
+    release.join();
+    EXPECT_EQ(Value(64), flags("A"));
+}
+
+TEST_F(SiteDatabaseTest, RefusesWritesToADatabaseThatMayOnlyBeRead)
+{
+    open();
+    sqlite3_exec(database.handle()->get(), "PRAGMA query_only = 1", nullptr, nullptr, nullptr);
+
+    EXPECT_EQ("attempt to write a readonly database",
+              errorTextOf([&] { setFlags(database, "1", 64); }));
+
+    EXPECT_EQ(1, database.state());
+    EXPECT_EQ(Value(5), flags("A"));
+}
+
+TEST_F(SiteDatabaseTest, OpensAnotherProgramsDatabaseAndRefusesWhatItLacks)
+{
+    fs::remove(file);
+    execute(file, "CREATE TABLE bookmarks(url TEXT);"
+                  "CREATE VIEW csp_LoggerDiagnosticGridModify AS SELECT NULL ObjectId, NULL Flags");
+    open();
+
+    EXPECT_EQ(databaseErrors::noSuchTable, errorOf([&] { flags("A"); }));
+    EXPECT_EQ(databaseErrors::statementRefused, errorOf([&] { setFlags(database, "1", 64); }))
+        << "a view alone is no procedure";
+    EXPECT_EQ(1, database.state());
+}
+
+TEST_F(SiteDatabaseTest, LacksEverythingInAnEmptyFile)
+{
+    std::ofstream(file, std::ios::trunc).close();
+    open();
+
+    EXPECT_EQ(databaseErrors::noSuchTable, errorOf([&] { flags("A"); }));
+    EXPECT_EQ(0u, fs::file_size(file)) << "nothing is written to it";
+}
+
+TEST_F(SiteDatabaseTest, IsABrokenConnectionWhenTheFileIsDamagedUntilItIsMended)
+{
+    open();
+    EXPECT_EQ(Value(5), flags("A"));
+    std::ifstream whole(file, std::ios::binary);
+    const std::string good(std::istreambuf_iterator<char>(whole), {});
+    std::ofstream(file, std::ios::binary | std::ios::in) << std::string(good.size(), 'x');
+
+    EXPECT_EQ(3709, errorOf([&] { flags("A"); }));
+    EXPECT_EQ(0, database.state());
+    EXPECT_EQ(databaseErrors::unspecified, errorOf([&] { open(); }));
+
+    std::ofstream(file, std::ios::binary | std::ios::in) << good;
+    open();
+    EXPECT_EQ(Value(5), flags("A"));
+}
+
+/// Writes words in turn to two components, for ever; an error ends the process.
+[[noreturn]] void writeUntilKilled(const std::string& file, int ready) noexcept
+{
+    SiteDatabase writer{file};
+    writer.open("", "", "");
+    for (std::int32_t word = 100;; ++word) {
+        setFlags(writer, "1", word);
+        if (word == 100 && write(ready, "r", 1) != 1) _exit(1);
+        setFlags(writer, "2", word);
+    }
+}
+
+TEST_F(SiteDatabaseTest, IsWholeAfterItsWriterWasKilled)
+{
+    open();
+    for (int round = 0; round < 12; ++round) {
+        SCOPED_TRACE(round);
+        int ready[2];
+        ASSERT_EQ(0, pipe(ready));
+        const pid_t child = fork();
+        if (child == 0) writeUntilKilled(file, ready[1]);
+        close(ready[1]);
+        char mark = 0;
+        ASSERT_EQ(1, read(ready[0], &mark, 1));
+        std::this_thread::sleep_for(std::chrono::microseconds(700 * round));
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        close(ready[0]);
+
+        auto check = database.openRecordset("SELECT integrity_check AS Flags FROM "
+                                            "pragma_integrity_check",
+                                            CursorKind::forwardOnly, LockKind::optimistic);
+        EXPECT_EQ(Value(std::string("ok")), check->field("Flags"));
+        check->close();
+        const std::int32_t first = valueAsInteger32(flags("A"));
+        const std::int32_t second = valueAsInteger32(flags("B"));
+        EXPECT_GE(first, 100);
+        EXPECT_TRUE(second == first || second == first - 1 || first == 100)
+            << first << " and " << second << ": each call is there whole or not at all";
+    }
 }
 
 } // namespace
