@@ -4,6 +4,7 @@
 #include "gather/importers.h"
 #include "gather/object_reference.h"
 #include "gather/packaging.h"
+#include "traces/macro_trace_catalogue.h"
 
 namespace {
 
@@ -37,6 +38,7 @@ void GatherDatabase::open(const std::string& destination)
     openTable(traces_, "tblTraces");
     openTable(macroTraces_, "tblMacroTraces");
     openTable(uniqueFilters_, "tblUniqueFilters");
+    step_([&] { mdlTraces::storeMacroTraceFiles(tool_, *macroTraces_); });
 }
 
 void GatherDatabase::openTable(std::unique_ptr<TraceRecordset>& table, std::string_view name)
