@@ -10,8 +10,7 @@ bool ErrorTrap::retriesAfter(const RunTimeError& error, int line)
 {
     if (kind_.counted && ++errors_ > errorsAllowed) {
         report(error, errorText(error));
-        const std::string exceeded = "Error count exceeded, forcing exit from " + procName();
-        report(RunTimeError(errorCountExceeded, exceeded), exceeded);
+        log("Error count exceeded, forcing exit from " + procName(), logLevel::error);
         throw ForcedExit{this};
     }
     if (specialCase_) {

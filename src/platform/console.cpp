@@ -138,6 +138,21 @@ bool Console::hasPropertyPages()
     return answer;
 }
 
+void Console::createPropertyPages(OpenSheet& sheet)
+{
+    snapIn().Views_CreatePropertyPages(view_, currentScopeItem(), sheet);
+}
+
+void Console::tellSheetShown(OpenSheet& sheet)
+{
+    tellAll([&](ConsoleObserver& observer) { observer.sheetShown(sheet); });
+}
+
+void Console::tellHandlerFailed(const RunTimeError& error)
+{
+    tellAll([&](ConsoleObserver& observer) { observer.handlerFailed(error); });
+}
+
 void Console::itemAdded(ScopeItem& item)
 {
     tellAll([&](ConsoleObserver& observer) { observer.scopeItemAdded(item); });

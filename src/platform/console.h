@@ -87,6 +87,7 @@ public:
     bool hasPropertyPages();
 
 private:
+    friend class PropertySheetProvider;
     friend class View;
 
     void itemAdded(ScopeItem& item) override;
@@ -98,6 +99,9 @@ private:
     const NodeTypeDefinition& nodeType(std::string_view typeName) const;
     std::pair<std::string, ResultViewType> defaultView(std::string_view typeName) const;
     void tellAll(const std::function<void(ConsoleObserver&)>& call);
+    void createPropertyPages(OpenSheet& sheet);
+    void tellSheetShown(OpenSheet& sheet);
+    void tellHandlerFailed(const RunTimeError& error);
     ContextMenu builtMenu(void (SnapInEvents::*event)(View&, ScopeItem&, ContextMenu&));
 
     const SnapInDefinition& definition_;

@@ -2,7 +2,9 @@
 
 #include <string>
 
+class OpenSheet;
 class ResultView;
+class RunTimeError;
 class ScopeItem;
 class View;
 
@@ -34,4 +36,11 @@ public:
 
     /// To be seen at once, as long work goes on behind it.
     virtual void statusBarChanged(const std::string& text) = 0;
+
+    /// A sheet is up, at the page that it was opened at. A host that shows sheets follows it from
+    /// here on; one that drives them by calls may do without.
+    virtual void sheetShown(OpenSheet& /*sheet*/) {}
+
+    /// A page of a sheet that is being shown raised an error: to be told to the person.
+    virtual void handlerFailed(const RunTimeError& /*error*/) {}
 };

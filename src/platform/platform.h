@@ -11,7 +11,6 @@ class Languages;
 class Processes;
 class Registry;
 class TimeZoneService;
-class TraceDatabaseEngine;
 class Workstation;
 class XmlService;
 
@@ -30,5 +29,4 @@ struct Platform {
     Desktop& desktop;
     DatabaseConnection& connection;
     XmlService& xml;
-    TraceDatabaseEngine& traceDatabases;
 };

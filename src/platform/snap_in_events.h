@@ -3,6 +3,7 @@
 class ConsoleVerbs;
 class ContextMenu;
 class ListItem;
+class OpenSheet;
 class ResultView;
 class ScopeItem;
 class View;
@@ -42,6 +43,10 @@ public:
 
     /// Whether the selection has property pages.
     virtual void Views_QueryPagesFor(View& view, ScopeItem& selection, bool& answer) = 0;
+
+    /// A sheet of the snap-in's making asks for its pages.
+    virtual void Views_CreatePropertyPages(View& view, ScopeItem& selection,
+                                           OpenSheet& propertySheet) = 0;
 
     /// The selection came, or (`selected` false) is going.
     virtual void Views_Select(View& view, ScopeItem& selection, bool selected,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/console_verbs.h"
+#include "platform/property_sheet_provider.h"
 #include "platform/result_view.h"
 
 #include <memory>
@@ -12,7 +13,7 @@ class Console;
 /// A window of the console: the selected node and what the right pane shows of it.
 class View {
 public:
-    explicit View(Console& console) : console_(console) {}
+    explicit View(Console& console) : console_(console), sheets_(console) {}
     View(const View&) = delete;
     View& operator=(const View&) = delete;
 
@@ -41,6 +42,8 @@ public:
     /// What the selection offers.
     ConsoleVerbs& verbs() { return verbs_; }
 
+    PropertySheetProvider& propertySheetProvider() { return sheets_; }
+
 private:
     friend class Console;
 
@@ -53,6 +56,7 @@ private:
     void forget(const ScopeItem& item);
 
     Console& console_;
+    PropertySheetProvider sheets_;
     std::vector<std::unique_ptr<ScopePaneItem>> panes_;
     std::vector<std::unique_ptr<ScopePaneItem>> retired_; ///< removed while a view was filled
     ScopePaneItem* selected_ = nullptr;

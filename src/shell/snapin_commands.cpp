@@ -6,6 +6,9 @@
 #include "shell/snapin_orvan_diagnostics.h"
 #include "shell/snapin_routines.h"
 
+#include <string_view>
+#include <utility>
+
 namespace {
 
 constexpr const char* moduleName = "snapinOrvanDiagnostics";
@@ -20,6 +23,19 @@ constexpr MenuItemTexts taskMenuTexts[] = {
     {"mnuConfigureMacroTrace", 1024, 1110}, {"mnuConfigureMicroTraces", 1026, 1109},
     {"mnuDisableAllTraces", 1036, 1114},    {"mnuStartNewLogFiles", 1083, 1113},
     {"mnuGatherLogFiles", 1045, 1112},      {"mnuConfigureLogSettings", 1023, 1111},
+};
+
+struct TaskRoutine {
+    const char* key;
+    void (snapinOrvanDiagnostics::*routine)();
+};
+
+constexpr TaskRoutine openingTasks[] = {
+    {"1", &snapinOrvanDiagnostics::startConfigureMacroTraceWizard},
+    {"2", &snapinOrvanDiagnostics::startConfigureMicroTracesWizard},
+    {"3", &snapinOrvanDiagnostics::startDisableAllTracesWizard},
+    {"5", &snapinOrvanDiagnostics::startGatherLogFilesWizard},
+    {"6", &snapinOrvanDiagnostics::displayConfigureLogSettingsPSheet},
 };
 
 } // namespace
@@ -62,8 +78,18 @@ void snapinOrvanDiagnostics::Views_AddViewMenuItems(View&, ScopeItem&, ContextMe
 
 void snapinOrvanDiagnostics::MenuItem_Click(const MenuItem& item)
 {
-    if (item.name == "mnuStartNewLogFiles") return mnuStartNewLogFiles_Click();
-    if (item.name == "mnuOpenLogFile") return mnuOpenLogFile_click();
+    static const std::pair<std::string_view, void (snapinOrvanDiagnostics::*)()> handlers[] = {
+        {"mnuConfigureMacroTrace", &snapinOrvanDiagnostics::mnuconfigureMacroTrace_Click},
+        {"mnuConfigureMicroTraces", &snapinOrvanDiagnostics::mnuConfigureMicroTraces_Click},
+        {"mnuDisableAllTraces", &snapinOrvanDiagnostics::mnuDisableAllTraces_Click},
+        {"mnuStartNewLogFiles", &snapinOrvanDiagnostics::mnuStartNewLogFiles_Click},
+        {"mnuGatherLogFiles", &snapinOrvanDiagnostics::mnuGatherLogFiles_Click},
+        {"mnuConfigureLogSettings", &snapinOrvanDiagnostics::mnuConfigureLogSettings_Click},
+        {"mnuChangeLanguage", &snapinOrvanDiagnostics::mnuChangeLanguage_Click},
+        {"mnuOpenLogFile", &snapinOrvanDiagnostics::mnuOpenLogFile_click},
+    };
+    for (const auto& [name, handler] : handlers)
+        if (item.name == name) return (this->*handler)();
 }
 
 void snapinOrvanDiagnostics::ResultViews_TaskClick(ResultView&, Task& task)
@@ -71,6 +97,8 @@ void snapinOrvanDiagnostics::ResultViews_TaskClick(ResultView&, Task& task)
     ErrorTrap step{tool_, moduleName, "ResultViews_TaskClick"};
 
     step.enterProc();
+    for (const TaskRoutine& opening : openingTasks)
+        if (task.key == opening.key) step([&] { (this->*opening.routine)(); });
     if (task.key == "4") {
         step([&] { signalCycleDiagFiles(tool_); });
         step([&] { console_.currentView().statusBarText(myLoadResString(tool_, 1058)); });

@@ -6,6 +6,7 @@
 #include <string>
 
 class ErrorTrap;
+class classTraceObject;
 struct ToolContext;
 
 /// The snap-in: what the tool does when the console calls.
@@ -32,10 +33,26 @@ public:
     void Views_AddViewMenuItems(View& view, ScopeItem& selection, ContextMenu& menu) override;
     void MenuItem_Click(const MenuItem& item) override;
     void Views_QueryPagesFor(View& view, ScopeItem& selection, bool& answer) override;
+    void Views_CreatePropertyPages(View& view, ScopeItem& selection,
+                                   OpenSheet& propertySheet) override;
     void Views_Select(View& view, ScopeItem& selection, bool selected,
                       ConsoleVerbs& verbs) override;
     void Views_Refresh(View& view, ScopeItem& selection) override;
 
+    /// Each opens its wizard or sheet at the first page and returns when it is up.
+    void startConfigureMacroTraceWizard();
+    void startConfigureMicroTracesWizard();
+    void startDisableAllTracesWizard();
+    void startGatherLogFilesWizard();
+    void displayConfigureLogSettingsPSheet();
+    void displayEventLogLanguagePSheet();
+
+    void mnuconfigureMacroTrace_Click();
+    void mnuConfigureMicroTraces_Click();
+    void mnuDisableAllTraces_Click();
+    void mnuGatherLogFiles_Click();
+    void mnuConfigureLogSettings_Click();
+    void mnuChangeLanguage_Click();
     void mnuStartNewLogFiles_Click();
     void mnuOpenLogFile_click();
 
@@ -43,10 +60,16 @@ public:
     void refreshScopeItems();
 
 private:
+    using OpeningRoutine = void (snapinOrvanDiagnostics::*)();
+
+    void openSheet(const char* routine, int kind);
+    void clickOpens(const char* handler, OpeningRoutine open);
     void leaveShownLogs(ErrorTrap& step);
 
     ToolContext& tool_;
     Console& console_;
+    std::shared_ptr<classTraceObject> m_TraceObject; ///< shared by all wizards; made on first use
+    int m_WizardKind = 0;                     ///< one of `mdlDefinitions`; 0 before the first sheet
     std::string m_strSavedLogFile;            ///< the last file opened by hand
     std::weak_ptr<ScopeItem> m_SavedLogsItem; ///< empty until a file is opened by hand
 };

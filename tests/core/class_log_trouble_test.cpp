@@ -39,10 +39,11 @@ protected:
 
     TestTool tool;
     WatchedClock clock;
-    Platform platform{tool.files,         tool.registry,         clock,          tool.timeZone,
-                      tool.eventReporter, tool.eventLogExporter, tool.processes, tool.workstation,
-                      tool.module,        tool.languages,        tool.desktop,   tool.database,
-                      tool.xml,           tool.traceDatabases};
+    Platform platform{tool.files,     tool.registry,      clock,
+                      tool.timeZone,  tool.eventReporter, tool.eventLogExporter,
+                      tool.processes, tool.workstation,   tool.module,
+                      tool.languages, tool.desktop,       tool.database,
+                      tool.xml};
     classLog log{platform};
 };
 

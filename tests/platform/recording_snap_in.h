@@ -12,6 +12,7 @@ struct RecordingSnapIn final : SnapInEvents, ConsoleObserver {
     std::function<void(ScopeItem&)> onExpand = [](ScopeItem&) {};
     std::function<void(ResultView&)> onInitialize = [](ResultView&) {};
     std::function<void()> onUnload = [] {};
+    std::function<void(OpenSheet&)> onCreatePages = [](OpenSheet&) {};
 
     /// What was heard since the last call.
     std::vector<std::string> taken()
@@ -51,6 +52,11 @@ struct RecordingSnapIn final : SnapInEvents, ConsoleObserver {
     void Views_AddViewMenuItems(View&, ScopeItem&, ContextMenu&) override {}
     void MenuItem_Click(const MenuItem& item) override { heard.push_back("menu " + item.name); }
     void Views_QueryPagesFor(View&, ScopeItem&, bool& answer) override { answer = true; }
+    void Views_CreatePropertyPages(View&, ScopeItem& selection, OpenSheet& sheet) override
+    {
+        heard.push_back("pages for " + selection.key());
+        onCreatePages(sheet);
+    }
     void Views_Select(View&, ScopeItem& selection, bool selected, ConsoleVerbs& verbs) override
     {
         heard.push_back((selected ? "select " : "deselect ") + selection.key());
@@ -74,6 +80,11 @@ struct RecordingSnapIn final : SnapInEvents, ConsoleObserver {
         heard.push_back("filled " + view.displayString());
     }
     void statusBarChanged(const std::string& text) override { heard.push_back("status " + text); }
+    void sheetShown(OpenSheet& sheet) override { heard.push_back("sheet " + sheet.title()); }
+    void handlerFailed(const RunTimeError& error) override
+    {
+        heard.push_back("failed " + std::to_string(error.number()));
+    }
 
     Console* console = nullptr;
     bool offersRefresh = true;

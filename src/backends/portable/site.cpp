@@ -60,11 +60,11 @@ Site::Site(const std::string& folder, const std::string& installedData, HostFact
     supplyToolFolder(paths_.machinePath(settings_.toolFolder), installedData);
 }
 
-Platform Site::platform(Desktop& desktop, TraceDatabaseEngine& traceDatabases)
+Platform Site::platform(Desktop& desktop)
 {
-    return {files_,     registry_,     clock_,  timeZone_,  eventReporter_, eventLogExporter_,
-            processes_, workstation_,  module_, languages_, desktop,        database_,
-            xml_,       traceDatabases};
+    return {files_,     registry_,    clock_,  timeZone_,  eventReporter_, eventLogExporter_,
+            processes_, workstation_, module_, languages_, desktop,        database_,
+            xml_};
 }
 
 CodePage Site::codePage() const

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "backends/jet/jet_engine.h"
 #include "backends/portable/site.h"
 #include "core/tool_context.h"
 #include "hosts/cli/command.h"
@@ -43,7 +42,6 @@ public:
 private:
     Site site_;
     TerminalDesktop desktop_;
-    jet::JetEngine traceDatabases_;
     Platform platform_;
     ToolContext context_;
     SnapInDefinition definition_;

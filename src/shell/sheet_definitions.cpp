@@ -1,0 +1,59 @@
+#include "shell/sheet_definitions.h"
+
+#include "shell/wizard_kinds.h"
+#include "wizards/macro_trace_wizard.h"
+#include "wizards/micro_trace_wizard.h"
+#include "wizards/reset_wizard.h"
+
+namespace {
+
+template <typename Page>
+std::unique_ptr<SheetPage> wizardPage(ToolContext& tool,
+                                      const std::shared_ptr<classTraceObject>& shared)
+{
+    return std::make_unique<Page>(tool, shared);
+}
+
+} // namespace
+
+const SheetDefinition* sheetDefinition(int kind)
+{
+    using namespace mdlDefinitions;
+    static const SheetDefinition sheets[] = {
+        {kindMacroTrace,
+         "MacroTrace",
+         SheetType::wizard,
+         1025,
+         {
+             wizardPage<ppgMacroTrace0Welcome>,
+             wizardPage<ppgMacroTrace1>,
+             wizardPage<ppgMacroTrace3Final>,
+         }},
+        {kindMicroTrace,
+         "MicroTrace",
+         SheetType::wizard,
+         1027,
+         {
+             wizardPage<ppgMicroTrace00Welcome>,
+             wizardPage<ppgMicroTrace01Step>,
+             wizardPage<ppgMicroTrace99Final>,
+         }},
+        {kindDisableAllTraces,
+         "DisableAllTraces",
+         SheetType::wizard,
+         1037,
+         {
+             wizardPage<ppgDisableAllTraces0>,
+         }},
+        {kindGatherLogFiles, "GatherLogFiles", SheetType::wizard, 1046, {}},
+        {kindLogSettings, "Logging", SheetType::propertySheet, 1052, {}},
+        {kindEventLogLanguage,
+         "Kelma Orvan Event Log Language",
+         SheetType::propertySheet,
+         1039,
+         {}},
+    };
+    for (const SheetDefinition& sheet : sheets)
+        if (sheet.kind == kind) return &sheet;
+    return nullptr;
+}
