@@ -10,7 +10,8 @@ bool ErrorTrap::retriesAfter(const RunTimeError& error, int line)
 {
     if (kind_.counted && ++errors_ > errorsAllowed) {
         report(error, errorText(error));
-        log("Error count exceeded, forcing exit from " + procName(), logLevel::error);
+        const std::string exceeded = "Error count exceeded, forcing exit from " + procName();
+        report(RunTimeError(errorCountExceeded, exceeded), exceeded);
         throw ForcedExit{this};
     }
     if (specialCase_) {

@@ -23,6 +23,9 @@ struct TrapKind {
     bool tellsLine = false; ///< the logged text ends in " Line: " and the statement's line
 };
 
+/// The number under which a host hears that a counted trap has left its routine.
+constexpr int errorCountExceeded = 0;
+
 constexpr TrapKind plainTrap{};
 constexpr TrapKind countedTrap{true, false};
 constexpr TrapKind countedTrapWithLine{true, true};

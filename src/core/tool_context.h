@@ -68,8 +68,9 @@ struct ToolContext {
 
     std::string g_strTraceDatabase;              ///< path of the latest trace database, or empty
     Dictionary<std::string> g_dictUniqueFilters; ///< never emptied
-    /// Hears of each error that a routine's trap has logged, under the routine's "[module]name". A
-    /// host tells the person by it; empty when nobody asks.
+    /// Hears of each error that a routine's trap has logged, under the routine's "[module]name",
+    /// and of `errorCountExceeded` when a routine was left. A host tells the person by it; empty
+    /// when nobody asks.
     std::function<void(const RunTimeError&, std::string_view procName)> onTrappedError;
 
     bool cancelRequested = false; ///< asked and set by `cancelCurrentProcess`

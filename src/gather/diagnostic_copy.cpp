@@ -1,25 +1,10 @@
 #include "core/error_trap.h"
 #include "gather/importers.h"
 #include "gather/log_reading.h"
+#include "gather/malformed_line.h"
 #include "gather/object_reference.h"
 #include "logreader/diagnostics.h"
 #include "platform/file_system.h"
-#include "runtime/run_time_error.h"
-
-namespace {
-
-/// Logs a line that is no log line in its own words; other errors go the common way.
-Resume onErrorAtLine(ToolContext& tool, const std::string& line, const RunTimeError& error)
-{
-    if (error.number() != runTimeErrors::invalidCall) return Resume::asUsual;
-    ErrorTrap step{tool, "mdlLogs", "processOrvanLogFile"};
-    step([&] {
-        tool.g_log->log("Could not format: " + line, logLevel::warning, "processOrvanLogFile");
-    });
-    return Resume::next;
-}
-
-} // namespace
 
 void mdlLogs::processOrvanLogFile(ToolContext& tool, const std::string& fileName,
                                   const std::string& destination, ProgressBar& progressCurrent,
@@ -29,7 +14,7 @@ void mdlLogs::processOrvanLogFile(ToolContext& tool, const std::string& fileName
     step.enterProc();
     LogReading reading(tool, step, progressCurrent, label);
     step.specialCase(
-        [&](const RunTimeError& error) { return onErrorAtLine(tool, reading.line(), error); });
+        [&](const RunTimeError& error) { return afterErrorAtLine(tool, reading.line(), error); });
 
     if (reading.open(fileName)) {
         std::string target;

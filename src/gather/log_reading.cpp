@@ -5,7 +5,6 @@
 #include "gather/object_reference.h"
 #include "platform/clock.h"
 #include "platform/desktop.h"
-#include "platform/file_system.h"
 #include "platform/label.h"
 #include "platform/progress_bar.h"
 #include "runtime/numbers.h"
@@ -52,11 +51,17 @@ bool LogReading::open(const std::string& fileName)
         });
         return false;
     }
-    step_([&] { size_ = tool_.platform.files.file(path).size; });
+    step_([&] { file_ = tool_.platform.files.file(path); });
     step_([&] { reader_ = tool_.platform.files.openForReading(path); });
-    step_([&] { progressCurrent_.setMaximum(static_cast<float>(size_)); });
+    step_([&] { progressCurrent_.setMaximum(static_cast<float>(size())); });
     step_([&] { progressCurrent_.setVisible(true); });
     return true;
+}
+
+const FileInfo& LogReading::file() const
+{
+    if (!file_) throw RunTimeError(runTimeErrors::objectVariableNotSet);
+    return *file_;
 }
 
 bool LogReading::nextLine()
@@ -89,7 +94,7 @@ void LogReading::showProgress()
     step_([&] { progressCurrent_.setValue(static_cast<float>(charactersRead_)); });
     step_([&] { progressCurrent_.refresh(); });
     step_([&] {
-        label_.setCaption(savedCaption_ + " " + numberText(size_ - charactersRead_) + " " +
+        label_.setCaption(savedCaption_ + " " + numberText(size() - charactersRead_) + " " +
                           myLoadResString(tool_, 1010));
     });
     step_([&] { label_.refresh(); });

@@ -1,14 +1,15 @@
 #pragma once
 
 #include "core/error_trap.h"
+#include "platform/file_system.h"
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 class Label;
 class ProgressBar;
-class TextReader;
 
 /// A server log that an importer reads line by line, with the progress it shows.
 ///
@@ -26,6 +27,9 @@ public:
     /// before it; a log that is not open, or a device that keeps failing, is at its end.
     bool nextLine();
 
+    /// The log's facts when it was opened. Raises 91 when they could not be had.
+    const FileInfo& file() const;
+
     /// The line without its line end.
     const std::string& line() const { return line_; }
 
@@ -38,15 +42,16 @@ public:
 
 private:
     void showProgress();
+    std::int64_t size() const { return file_ ? file_->size : 0; }
 
     ToolContext& tool_;
     ErrorTrap& step_;
     ProgressBar& progressCurrent_;
     Label& label_;
     std::string savedCaption_;
+    std::optional<FileInfo> file_;
     std::unique_ptr<TextReader> reader_;
     std::string line_;
-    std::int64_t size_ = 0;
     std::int32_t lineCount_ = 0;
     std::int32_t charactersRead_ = 0;
     int failuresInARow_ = 0;

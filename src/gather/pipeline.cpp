@@ -1,7 +1,9 @@
 #include "core/error_trap.h"
 #include "core/localisation.h"
+#include "gather/gather_database.h"
 #include "gather/importers.h"
 #include "gather/logs.h"
+#include "gather/packaging.h"
 #include "platform/file_system.h"
 #include "platform/label.h"
 #include "platform/progress_bar.h"
@@ -27,6 +29,10 @@ struct Gather {
     const std::string& destination;
     Date dateStart;
     Date dateEnd;
+    GatherDatabase database{tool, step};
+
+    /// Equal dates are no time frame.
+    bool fillsDatabase() const { return dateStart != dateEnd; }
 
     std::string processing(const std::string& what) const
     {
@@ -45,9 +51,16 @@ void gatherServerLog(Gather& run, const std::string& fileName)
 {
     run.step([&] { run.label.setCaption(run.processing(fileName + "...")); });
     run.step([&] { run.label.refresh(); });
-    if (run.dateStart != run.dateEnd) return;
-    mdlLogs::processOrvanLogFile(run.tool, fileName, run.destination, run.progressCurrent,
-                                 run.label);
+    if (!run.fillsDatabase()) {
+        mdlLogs::processOrvanLogFile(run.tool, fileName, run.destination, run.progressCurrent,
+                                     run.label);
+        return;
+    }
+    const bool isDiagnostic = lowerCase(fileName).find("diag") != std::string::npos;
+    const auto import =
+        isDiagnostic ? mdlLogs::processOrvanLogFileToDB : mdlLogs::processOrvanDataFileToDB;
+    import(run.tool, fileName, run.database.traces(), run.progressCurrent, run.label, run.dateStart,
+           run.dateEnd);
 }
 
 void gatherEventLog(Gather& run, const std::string& logName)
@@ -95,6 +108,13 @@ void gatherLeaves(Gather& run)
     }
 }
 
+void packResults(Gather& run)
+{
+    run.step([&] { run.label.setCaption(myLoadResString(run.tool, 1142)); });
+    mdlLogs::compressResults(run.tool, run.destination, run.tool.g_strTraceDatabase);
+    run.step([&] { run.label.setCaption(""); });
+}
+
 } // namespace
 
 std::string mdlLogs::processLogs(ToolContext& tool, TreeView& treeview, Label& label,
@@ -109,7 +129,12 @@ std::string mdlLogs::processLogs(ToolContext& tool, TreeView& treeview, Label& l
     makeDestination(run);
     step([&] { progressOverall.setMaximum(static_cast<float>(treeview.count() - rootCount)); });
     step([&] { progressOverall.setValue(0); });
+    if (run.fillsDatabase()) run.database.open(destination);
     gatherLeaves(run);
+    if (run.fillsDatabase()) {
+        run.database.finish();
+        packResults(run);
+    }
     step.exitProc();
     return destination;
 }

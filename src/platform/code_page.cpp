@@ -3,6 +3,33 @@
 #include <algorithm>
 #include <cstddef>
 
+namespace {
+
+constexpr char missing = '?';
+
+/// One character of UTF-8, taken off the front of a text; 0xFFFD for a byte that begins none.
+char32_t takeCharacter(std::string_view& text)
+{
+    constexpr char32_t replacement = 0xFFFD;
+    constexpr char32_t least[] = {0, 0x80, 0x800, 0x10000};
+    const auto first = static_cast<unsigned char>(text.front());
+    text.remove_prefix(1);
+    if (first < 0x80) return first;
+    if (first < 0xC0 || first >= 0xF8) return replacement;
+    const std::size_t tail = first < 0xE0 ? 1 : first < 0xF0 ? 2 : 3;
+    if (text.size() < tail) return replacement;
+    char32_t character = first & (0x3Fu >> tail);
+    for (const char byte : text.substr(0, tail)) {
+        if ((byte & 0xC0) != 0x80) return replacement;
+        character = character << 6 | (byte & 0x3Fu);
+    }
+    if (character < least[tail]) return replacement;
+    text.remove_prefix(tail);
+    return character;
+}
+
+} // namespace
+
 void CodePage::appendUtf8(std::string& target, std::string_view bytes) const
 {
     const auto beyondAscii = [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; };
@@ -25,6 +52,22 @@ void CodePage::appendUtf8(std::string& target, std::string_view bytes) const
         }
         bytes.remove_prefix(plain + 1);
     }
+}
+
+std::string CodePage::bytesOf(std::string_view utf8) const
+{
+    std::string bytes;
+    bytes.reserve(utf8.size());
+    while (!utf8.empty()) bytes.push_back(byteOf(takeCharacter(utf8)));
+    return bytes;
+}
+
+char CodePage::byteOf(char32_t character) const
+{
+    if (character < 0x80) return static_cast<char>(character);
+    const auto place = std::find(characters_.begin() + 0x80, characters_.end(), character);
+    if (place == characters_.end()) return missing;
+    return static_cast<char>(place - characters_.begin());
 }
 
 CodePage windows1252()

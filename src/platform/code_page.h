@@ -18,7 +18,14 @@ public:
     /// Appends the characters of `bytes` in UTF-8. Every byte has one.
     void appendUtf8(std::string& target, std::string_view bytes) const;
 
+    /// The bytes of a text in UTF-8, with "?" for each character that the code page lacks and for
+    /// each byte that is no UTF-8.
+    std::string bytesOf(std::string_view utf8) const;
+
 private:
+    /// The byte of a character; "?" when the code page lacks it.
+    char byteOf(char32_t character) const;
+
     Table characters_;
 };
 

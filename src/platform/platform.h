@@ -11,6 +11,7 @@ class Languages;
 class Processes;
 class Registry;
 class TimeZoneService;
+class TraceDatabaseEngine;
 class Workstation;
 class XmlService;
 
@@ -29,4 +30,5 @@ struct Platform {
     Desktop& desktop;
     DatabaseConnection& connection;
     XmlService& xml;
+    TraceDatabaseEngine& traceDatabases;
 };

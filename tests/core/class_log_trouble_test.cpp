@@ -39,11 +39,10 @@ protected:
 
     TestTool tool;
     WatchedClock clock;
-    Platform platform{tool.files,     tool.registry,      clock,
-                      tool.timeZone,  tool.eventReporter, tool.eventLogExporter,
-                      tool.processes, tool.workstation,   tool.module,
-                      tool.languages, tool.desktop,       tool.database,
-                      tool.xml};
+    Platform platform{tool.files,         tool.registry,         clock,          tool.timeZone,
+                      tool.eventReporter, tool.eventLogExporter, tool.processes, tool.workstation,
+                      tool.module,        tool.languages,        tool.desktop,   tool.database,
+                      tool.xml,           tool.traceDatabases};
     classLog log{platform};
 };
 

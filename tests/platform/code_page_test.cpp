@@ -40,3 +40,40 @@ TEST(CodePage, FollowsTheTableThatItWasGiven)
     EXPECT_EQ("A\xCE\x91", text);
     EXPECT_EQ(0x0391, greek.character('\xC1'));
 }
+
+TEST(CodePage, GivesTheBytesOfAText)
+{
+    struct Case {
+        const char* because;
+        std::string text;
+        std::string expected;
+    };
+    const Case cases[] = {
+        {"nothing stays nothing", "", ""},
+        {"ASCII stands for itself", "C:\\a b~", "C:\\a b~"},
+        {"a zero byte is a character", std::string("a\0b", 3), std::string("a\0b", 3)},
+        {"a letter of two bytes", "caf\xC3\xA9", "caf\xE9"},
+        {"a sign of three bytes", "\xE2\x82\xAC 5", "\x80 5"},
+        {"a control character of an unused byte", "\xC2\x81", "\x81"},
+        {"a letter that the code page lacks", "\xCE\x91x", "?x"},
+        {"a character of four bytes", "\xF0\x9F\x98\x80x", "?x"},
+        {"a byte that begins no character", "\x80x", "?x"},
+        {"a character cut short", "\xE2\x82", "??"},
+        {"a character that something else ends", "\xC3x", "?x"},
+        {"a longer form than needed", "\xC1\x81", "??"},
+        {"bytes that never stand in UTF-8", "\xFE\xFF", "??"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        EXPECT_EQ(c.expected, windows1252().bytesOf(c.text));
+    }
+}
+
+TEST(CodePage, GivesTheBytesOfEveryCharacterItHas)
+{
+    std::string all;
+    for (int code = 0; code < 256; ++code) all.push_back(static_cast<char>(code));
+    std::string utf8;
+    windows1252().appendUtf8(utf8, all);
+    EXPECT_EQ(all, windows1252().bytesOf(utf8));
+}

@@ -49,9 +49,9 @@ std::vector<std::string> linesOf(const std::string& text)
 } // namespace
 
 TestTool::TestTool()
-    : platform{files,     registry,    clock,  timeZone,  eventReporter, eventLogExporter,
-               processes, workstation, module, languages, desktop,       database,
-               xml},
+    : platform{files,     registry,      clock,  timeZone,  eventReporter, eventLogExporter,
+               processes, workstation,   module, languages, desktop,       database,
+               xml,       traceDatabases},
       context(platform)
 {
     files.withFolder(module.folderPath);

@@ -14,6 +14,7 @@
 #include "support/fake_processes.h"
 #include "support/fake_registry.h"
 #include "support/fake_time_zone.h"
+#include "support/fake_trace_database.h"
 
 #include <string>
 #include <vector>
@@ -51,6 +52,7 @@ struct TestTool {
     FakeDesktop desktop;
     FakeDatabase database;
     PugiXml xml{files};
+    FakeTraceDatabaseEngine traceDatabases;
     Platform platform;
     ToolContext context;
 

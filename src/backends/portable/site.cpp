@@ -60,11 +60,11 @@ Site::Site(const std::string& folder, const std::string& installedData, HostFact
     supplyToolFolder(paths_.machinePath(settings_.toolFolder), installedData);
 }
 
-Platform Site::platform(Desktop& desktop)
+Platform Site::platform(Desktop& desktop, TraceDatabaseEngine& traceDatabases)
 {
-    return {files_,     registry_,    clock_,  timeZone_,  eventReporter_, eventLogExporter_,
-            processes_, workstation_, module_, languages_, desktop,        database_,
-            xml_};
+    return {files_,     registry_,     clock_,  timeZone_,  eventReporter_, eventLogExporter_,
+            processes_, workstation_,  module_, languages_, desktop,        database_,
+            xml_,       traceDatabases};
 }
 
 CodePage Site::codePage() const

@@ -22,7 +22,8 @@
 /// Whether a folder of the machine is a site: it holds `site.ini`, `registry.reg` or `drive_c`.
 bool isSite(const std::string& folder);
 
-/// A server in a folder: every platform service but the desktop, which is the host's.
+/// A server in a folder: every platform service but the desktop, which is the host's, and the trace
+/// databases, which are another backend's.
 class Site {
 public:
     /// Opens the site in a folder of the machine. What its tool folder lacks is supplied from
@@ -35,8 +36,9 @@ public:
     Site(const Site&) = delete;
     Site& operator=(const Site&) = delete;
 
-    /// The services, with the host's own desktop. They live as long as the site.
-    Platform platform(Desktop& desktop);
+    /// The services, with the desktop and the trace databases that the host composes. They live as
+    /// long as the site.
+    Platform platform(Desktop& desktop, TraceDatabaseEngine& traceDatabases);
 
     const std::string& folder() const { return paths_.siteFolder(); }
     const SiteSettings& settings() const { return settings_; }

@@ -1,11 +1,14 @@
 #include "hosts/cli/gather_run.h"
 
+#include "core/error_trap.h"
 #include "gather/logs.h"
 #include "gather/trace_object.h"
 #include "hosts/cli/gather_progress.h"
 #include "hosts/cli/interrupt.h"
+#include "hosts/cli/row_counts.h"
 #include "platform/controls.h"
 #include "platform/file_system.h"
+#include "platform/trace_database.h"
 #include "runtime/text.h"
 
 #include <algorithm>
@@ -31,23 +34,70 @@ void addSteps(TreeView& steps, const std::string& root, const StringArray& logs)
     for (int index = 1; index <= logs.upperBound(); ++index) steps.addChild(node, logs.at(index));
 }
 
-/// An error that cost the person a result; malformed lines, which are copied as they can be, do
-/// not.
-bool costsAResult(const RunTimeError& error, std::string_view procName)
+/// What a line may raise that is malformed: it is copied or stored as it can be.
+bool isOfAMalformedLine(int error)
 {
-    return beginsWith(procName, "[mdlLogs]") && error.number() != runTimeErrors::invalidCall &&
-           error.number() != runTimeErrors::invalidPropertyValue;
+    switch (error) {
+    case runTimeErrors::invalidCall:
+    case runTimeErrors::typeMismatch:
+    case runTimeErrors::invalidPropertyValue:
+    case traceDatabaseErrors::fieldTooSmall:
+    case traceDatabaseErrors::zeroLength:
+        return true;
+    default:
+        return false;
+    }
 }
 
-void listFiles(GatherResult& result)
+/// An error that cost the person a result. Whether packing did, its cabinet tells.
+bool costsAResult(const RunTimeError& error, std::string_view procName)
 {
+    return beginsWith(procName, "[mdlLogs]") && procName != "[mdlLogs]compressResults" &&
+           !isOfAMalformedLine(error.number());
+}
+
+/// What went wrong, in words for the person. `current` is the log that is being gathered.
+std::string failureText(const RunTimeError& error, const std::string& current)
+{
+    if (error.number() != errorCountExceeded) return error.description();
+    return current + " has too many malformed lines, and was read no further than the eleventh";
+}
+
+/// The log that stands in bold, or the empty text.
+std::string currentLog(const TreeView& steps)
+{
+    for (int index = 1; index <= steps.count(); ++index)
+        if (steps.item(index).bold()) return steps.item(index).text();
+    return {};
+}
+
+std::vector<std::string> sortedNames(const fs::path& folder)
+{
+    std::vector<std::string> names;
     std::error_code none;
-    for (const auto& entry : fs::directory_iterator(result.destination, none)) {
-        const std::string name = entry.path().filename().string();
-        result.files.push_back(name);
-        if (entry.path().extension() == ".cab") result.cabinet = entry.path().string();
+    for (const auto& entry : fs::directory_iterator(folder, none))
+        names.push_back(entry.path().filename().string());
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+/// Finds what a database gather made; a part that is missing is a failure.
+void findResults(GatherResult& result, const std::string& database,
+                 const std::vector<std::string>& before)
+{
+    for (const auto& name : result.files) {
+        const bool made = !std::binary_search(before.begin(), before.end(), name);
+        if (made && fs::path(name).extension() == ".cab")
+            result.cabinet = result.destination + "/" + name;
     }
-    std::sort(result.files.begin(), result.files.end());
+    std::error_code none;
+    if (fs::exists(database, none)) {
+        result.database = database;
+        result.rows = rowsByProcess(database);
+    } else {
+        result.failure = "no trace database was made: " + result.failure.value_or("it has gone");
+    }
+    if (!result.cabinet && !result.failure) result.failure = "no cabinet was made";
 }
 
 } // namespace
@@ -75,12 +125,13 @@ GatherResult runGather(OpenTool& tool, classTraceObject& job)
 {
     GatherResult result;
     ToolContext& context = tool.context();
-    context.onTrappedError = [&](const RunTimeError& error, std::string_view procName) {
-        if (!result.failure && costsAResult(error, procName)) result.failure = error.description();
-    };
-    const std::string earlierDatabase = context.g_strTraceDatabase;
-
     GatherControls controls;
+    context.onTrappedError = [&](const RunTimeError& error, std::string_view procName) {
+        if (!result.failure && costsAResult(error, procName))
+            result.failure = failureText(error, currentLog(controls.steps));
+    };
+    const auto before = sortedNames(tool.machinePath(job.m_LogDestinationDirectory));
+
     addSteps(controls.steps, std::string(mdlLogs::orvanLogsBranch), job.getOrvanLogs());
     addSteps(controls.steps, "Windows Event Logs", job.getWindowsLogs());
     {
@@ -101,13 +152,27 @@ GatherResult runGather(OpenTool& tool, classTraceObject& job)
     context.onTrappedError = {};
 
     result.destination = tool.machinePath(job.m_LogDestinationDirectory);
-    if (context.g_strTraceDatabase != earlierDatabase)
-        result.database = tool.machinePath(context.g_strTraceDatabase);
-    listFiles(result);
+    result.files = sortedNames(result.destination);
+    if (job.m_bTimeFrameLogs)
+        findResults(result, tool.machinePath(context.g_strTraceDatabase), before);
     if (!result.failure && !tool.desktop().failures().empty())
         result.failure = "not all logs could be gathered";
     return result;
 }
+
+namespace {
+
+std::string rowSummary(const GatherResult& result)
+{
+    const std::string name = fs::path(*result.database).filename().string();
+    if (result.rows.empty()) return "No line lies in the time frame: " + name + " has no rows\n";
+    Table table({"Rows of " + name, ""});
+    table.alignRight(1);
+    for (const auto& [process, count] : result.rows) table.row({process, groupedNumber(count)});
+    return table.text();
+}
+
+} // namespace
 
 void report(Output& output, const GatherResult& result)
 {
@@ -122,6 +187,7 @@ void report(Output& output, const GatherResult& result)
     } else {
         output.line("Gathered into " + result.destination);
         for (const auto& file : result.files) output.line("  " + file);
+        if (result.database) output.text(rowSummary(result));
     }
     if (result.cancelled)
         throw CommandFailure("cancelled; what was read until then is kept in " +

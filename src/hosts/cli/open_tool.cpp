@@ -39,8 +39,11 @@ const std::string& usableSite(const std::string& folder)
 
 OpenTool::OpenTool(const GlobalOptions& options)
     : site_(usableSite(options.site), installedDataFolder(), hostFacts(options)),
-      platform_(site_.platform(desktop_)), context_(platform_), definition_(snapinDefinition()),
-      console_(definition_), snapIn_(context_, console_), codePage_(site_.codePage())
+      traceDatabases_([this](const std::string& path) { return machinePath(path); },
+                      site_.codePage()),
+      platform_(site_.platform(desktop_, traceDatabases_)), context_(platform_),
+      definition_(snapinDefinition()), console_(definition_), snapIn_(context_, console_),
+      codePage_(site_.codePage())
 {
     console_.load(snapIn_);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "backends/jet/jet_engine.h"
 #include "backends/portable/site.h"
 #include "core/tool_context.h"
 #include "hosts/cli/command.h"
@@ -42,6 +43,7 @@ public:
 private:
     Site site_;
     TerminalDesktop desktop_;
+    jet::JetEngine traceDatabases_;
     Platform platform_;
     ToolContext context_;
     SnapInDefinition definition_;

@@ -8,6 +8,7 @@
 #include "platform/registry_contract.h"
 #include "platform/time_zone_contract.h"
 #include "support/fake_desktop.h"
+#include "support/fake_trace_database.h"
 #include "temporary_folder.h"
 
 namespace {
@@ -62,10 +63,11 @@ public:
     }
 
 private:
-    Platform platform() { return site_->platform(desktop_); }
+    Platform platform() { return site_->platform(desktop_, traceDatabases_); }
 
     TemporaryFolder folder_;
     FakeDesktop desktop_;
+    FakeTraceDatabaseEngine traceDatabases_;
     std::unique_ptr<Site> site_;
 };
 

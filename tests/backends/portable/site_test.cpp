@@ -2,6 +2,7 @@
 
 #include "backends/portable/tool_folder.h"
 #include "support/fake_desktop.h"
+#include "support/fake_trace_database.h"
 #include "temporary_folder.h"
 
 #include <gmock/gmock.h>
@@ -128,7 +129,8 @@ TEST_F(SiteTest, GivesItsSettingsToItsServices)
                              "language = 1041\nlogFields = extended\n");
     Site site(folder.path(), data.path(), hostFacts());
     FakeDesktop desktop;
-    const auto platform = site.platform(desktop);
+    FakeTraceDatabaseEngine traceDatabases;
+    const auto platform = site.platform(desktop, traceDatabases);
 
     EXPECT_EQ("VOICE01", platform.workstation.details()->computerName);
     EXPECT_EQ("maria", platform.workstation.user()->userName);
@@ -155,7 +157,8 @@ TEST_F(SiteTest, FallsBackToTheMachinesOwnNames)
     folder.makeFolder("drive_c");
     Site site(folder.path(), data.path(), hostFacts());
     FakeDesktop desktop;
-    const auto platform = site.platform(desktop);
+    FakeTraceDatabaseEngine traceDatabases;
+    const auto platform = site.platform(desktop, traceDatabases);
 
     EXPECT_EQ(machineName(), platform.workstation.details()->computerName);
     EXPECT_EQ(loginName(), platform.workstation.user()->userName);
@@ -171,7 +174,8 @@ TEST_F(SiteTest, ItsServicesShareTheCurrentFolder)
     fs::permissions(program, fs::perms::owner_all);
     Site site(folder.path(), data.path(), hostFacts());
     FakeDesktop desktop;
-    const auto platform = site.platform(desktop);
+    FakeTraceDatabaseEngine traceDatabases;
+    const auto platform = site.platform(desktop, traceDatabases);
 
     platform.files.changeDrive("C:");
     platform.files.changeFolder("C:\\Result");

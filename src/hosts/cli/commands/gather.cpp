@@ -1,9 +1,12 @@
 #include "core/registry_store.h"
 #include "gather/logs.h"
+#include "gather/time_frame.h"
 #include "gather/trace_object.h"
 #include "hosts/cli/commands/commands.h"
+#include "hosts/cli/frame_arguments.h"
 #include "hosts/cli/gather_run.h"
 #include "logreader/diagnostics.h"
+#include "platform/clock.h"
 #include "platform/file_system.h"
 #include "runtime/text.h"
 
@@ -24,10 +27,13 @@ public:
     {
         return "Without --to the logs go to a new folder in the server's temporary folder. Logs "
                "are\n"
-               "copied in readable form, event logs as CSV. Ctrl-C cancels, and keeps what was "
-               "read.\n\n"
+               "copied in readable form, event logs as CSV. A time frame's lines go into a trace\n"
+               "database, which is packed into a cabinet together with the event logs. Ctrl-C "
+               "cancels,\n"
+               "and keeps what was read.\n\n"
                "  orvandiag gather standard --to ~/case-4711\n"
-               "  orvandiag gather logs --log diag_KoCSMgr_20250220_153011.txt --event-log System";
+               "  orvandiag gather logs --log diag_KoCSMgr_20250220_153011.txt --event-log System\n"
+               "  orvandiag gather frame --from \"2025-02-20 16:42\" --hours 1 --to ~/case-4711";
     }
 
     void declare(CLI::App& app) override
@@ -40,7 +46,16 @@ public:
         logs_->add_option("--log", orvanLogs_, "a log in the server's log folder")
             ->type_name("NAME");
         logs_->add_option("--event-log", windowsLogs_, "a Windows event log")->type_name("NAME");
-        for (CLI::App* mode : {standard_, logs_})
+        frame_ = app.add_subcommand("frame", "The lines of a time frame, as a trace database");
+        frame_->add_option("--from", from_, "when the frame starts")
+            ->type_name("\"YYYY-MM-DD HH:MM\"")
+            ->required();
+        frame_->add_option("--hours", hours_, "how long it is, 1 to 999")
+            ->type_name("N")
+            ->required();
+        frame_->add_flag("--no-application", noApplication_, "leave the Application events out");
+        frame_->add_flag("--no-system", noSystem_, "leave the System events out");
+        for (CLI::App* mode : {standard_, logs_, frame_})
             mode->add_option("--to", to_, "the folder to gather into")->type_name("DIR");
     }
 
@@ -48,11 +63,15 @@ public:
     {
         if (logs_->parsed() && orvanLogs_.empty() && windowsLogs_.empty())
             throw UsageError("gather logs needs a --log or an --event-log");
+        TimeFrameChoice choice;
+        if (frame_->parsed()) choice = frameChoice();
         OpenTool tool(options);
         classTraceObject job;
         job.clearOrvanLogs();
         job.clearWindowsLogs();
-        if (standard_->parsed())
+        if (frame_->parsed())
+            fillFrame(tool, choice, job);
+        else if (standard_->parsed())
             fillStandard(tool, job);
         else
             fillSelected(tool, job);
@@ -66,6 +85,23 @@ public:
     }
 
 private:
+    TimeFrameChoice frameChoice() const
+    {
+        const Date start = frameStart(from_);
+        return {start, start, frameDuration(hours_), !noApplication_, !noSystem_};
+    }
+
+    static void fillFrame(OpenTool& tool, const TimeFrameChoice& choice, classTraceObject& job)
+    {
+        if (choice.startDate > tool.context().platform.clock.now())
+            throw CommandFailure("the time frame starts in the future");
+        TimeFrame frame;
+        determineSelectedLogsFromTimeFrame(tool.context(), choice, frame, job);
+        job.m_bTimeFrameLogs = true;
+        job.m_dateStart = frame.start;
+        job.m_dateEnd = frame.end;
+    }
+
     static void fillStandard(OpenTool& tool, classTraceObject& job)
     {
         job.m_bStandardLogs = true;
@@ -101,8 +137,13 @@ private:
 
     CLI::App* standard_ = nullptr;
     CLI::App* logs_ = nullptr;
+    CLI::App* frame_ = nullptr;
     std::vector<std::string> orvanLogs_;
     std::vector<std::string> windowsLogs_;
+    std::string from_;
+    std::string hours_;
+    bool noApplication_ = false;
+    bool noSystem_ = false;
     std::string to_;
 };
 

@@ -1,0 +1,66 @@
+#include "gather/time_frame.h"
+
+#include "core/error_trap.h"
+#include "gather/trace_object.h"
+#include "platform/file_system.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+
+#include <optional>
+
+namespace {
+
+/// Adds the logs of a pattern that overlap a frame. A file that is gone by now has no part in it.
+void addLogs(ToolContext& tool, ErrorTrap& step, const std::string& pattern, const TimeFrame& frame,
+             classTraceObject& job)
+{
+    std::vector<std::string> names;
+    step([&] { names = tool.platform.files.matching(tool.g_strLogFolder + pattern); });
+    for (const std::string& name : names) {
+        if (lowerCase(name).find("fmtd") != std::string::npos) continue;
+        std::optional<FileInfo> file;
+        bool overlaps = false;
+        step([&] { file = tool.platform.files.file(tool.g_strLogFolder + "\\" + name); });
+        if (!file) continue;
+        step([&] { overlaps = fileOverlapsTimeFrame(*file, frame.start, frame.end); });
+        if (overlaps) step([&] { job.addOrvanLog(file->name); });
+    }
+}
+
+} // namespace
+
+void computeTimeFrame(const TimeFrameChoice& choice, TimeFrame& frame)
+{
+    frame.start = parseDate(shortDate(choice.startDate) + " " + longTime(choice.startTime));
+    frame.start = addSeconds(frame.start, -1.0 * partsOf(frame.start).second);
+    frame.end = addHours(frame.start, toNumber(choice.duration));
+}
+
+bool fileOverlapsTimeFrame(const FileInfo& file, Date start, Date end)
+{
+    const long long first = wholeSeconds(start);
+    const long long last = wholeSeconds(end);
+    const long long created = wholeSeconds(file.created);
+    const long long modified = wholeSeconds(file.modified);
+    if (first <= created && created <= last) return true;
+    if (first <= modified && modified <= last) return true;
+    return created <= first && modified >= last;
+}
+
+void determineSelectedLogsFromTimeFrame(ToolContext& tool, const TimeFrameChoice& choice,
+                                        TimeFrame& frame, classTraceObject& job)
+{
+    ErrorTrap step{tool, "ppgGatherLogs02Step", "determineSelectedLogsFromTimeFrame"};
+    step.enterProc();
+    step([&] { job.clearOrvanLogs(); });
+    step([&] { job.clearWindowsLogs(); });
+    step([&] { computeTimeFrame(choice, frame); });
+    step.log("Gathering logs with data between: " + dateText(frame.start) + " - " +
+                 dateText(frame.end),
+             logLevel::info);
+    addLogs(tool, step, "\\diag_*.txt", frame, job);
+    addLogs(tool, step, "\\data_*.txt", frame, job);
+    if (choice.applicationLog) step([&] { job.addWindowsLog("Application"); });
+    if (choice.systemLog) step([&] { job.addWindowsLog("System"); });
+    step.exitProc();
+}

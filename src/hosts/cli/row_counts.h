@@ -1,0 +1,9 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+/// How many rows "tblTraces" of a trace database, a file of this machine, has for each process,
+/// sorted by process. None for a file that can't be read.
+std::vector<std::pair<std::string, long long>> rowsByProcess(const std::string& database);

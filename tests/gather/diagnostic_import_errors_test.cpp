@@ -1,0 +1,186 @@
+#include "gather/import_tool.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+namespace {
+
+const std::string logName = "diag_RoCsMgr_20051008_093000.txt";
+const std::string path = "C:\\Logs\\" + logName;
+const std::string proc = "[mdlLogs]processOrvanLogFileToDB";
+const std::string exceeded = "Error count exceeded, forcing exit from " + proc;
+const Date morning = dateOf(2005, 10, 8, 9, 30, 0);
+using Texts = std::vector<std::string>;
+using testing::MatchesRegex;
+
+std::string lines(int count, const std::string& line)
+{
+    std::string text;
+    for (int number = 0; number < count; ++number) text += line + "\r\n";
+    return text;
+}
+
+} // namespace
+
+TEST(ProcessOrvanLogFileToDBErrors, AMalformedLineIsStillARow)
+{
+    ImportTool tool;
+    tool.withLog(logName, morning,
+                 {lineAt("10:00:00:000", "a"), "short", lineAt("10:00:01:000", "b")});
+    tool.importLog(logName);
+    EXPECT_EQ((Texts{"a ", " ", "b "}), tool.column("Trace"));
+    EXPECT_EQ((Texts{"10/8/2005 10:00:00:000", "10/8/2005 ", "10/8/2005 10:00:01:000"}),
+              tool.column("Date"))
+        << "its time is that of the line before";
+    EXPECT_EQ("_RoCsMgr_0_ ", tool.column("qrvIndex")[1]);
+    ASSERT_EQ(1U, tool.failures(proc).size());
+    EXPECT_THAT(tool.failures(proc)[0],
+                MatchesRegex("Err.Number = 13 Err.Description = Type mismatch Line: [0-9]+"));
+}
+
+TEST(ProcessOrvanLogFileToDBErrors, TheEleventhErrorEndsTheFileAtOnce)
+{
+    ImportTool tool;
+    tool.files.with(path, lines(1, lineAt("10:00:00:000")) + lines(20, "short"))
+        .created(path, morning);
+    tool.importLog(logName);
+    EXPECT_EQ(11U, tool.rows().size()) << "the line and ten that are malformed";
+    const Texts failures = tool.failures(proc);
+    ASSERT_EQ(12U, failures.size());
+    EXPECT_EQ(exceeded, failures.back());
+    EXPECT_EQ("Err.Number = 13 Err.Description = Type mismatch", failures[10]);
+    EXPECT_FALSE(tool.logged("Exiting " + proc)) << "there is no common ending";
+    EXPECT_NE("Processing", tool.label.caption());
+}
+
+TEST(ProcessOrvanLogFileToDBErrors, TenErrorsEndNothing)
+{
+    ImportTool tool;
+    tool.files
+        .with(path, lines(1, lineAt("10:00:00:000")) + lines(10, "short") +
+                        lines(1, lineAt("10:00:00:000")))
+        .created(path, morning);
+    tool.importLog(logName);
+    EXPECT_EQ(12U, tool.rows().size());
+    EXPECT_TRUE(tool.logged("Exiting " + proc));
+}
+
+TEST(ProcessOrvanLogFileToDBErrors, ALogWhoseEveryLineIsMalformedStopsAtItsEleventh)
+{
+    ImportTool tool;
+    tool.files.with(path, lines(100'000, "nothing that anybody could read")).created(path, morning);
+    tool.importLog(logName);
+    EXPECT_EQ(exceeded, tool.failures(proc).back());
+    EXPECT_EQ(11, tool.eventReporter.linesFormatted());
+    EXPECT_TRUE(tool.rows().empty()) << "the first time of day, midnight, is the next day's";
+}
+
+TEST(ProcessOrvanLogFileToDBErrors, ErrorsOfAllKindsCountTogetherAndInEachFileAnew)
+{
+    ImportTool tool;
+    tool.withLog(logName, morning, {lineAt("10:00:00:000"), "short", "short", "short", "short"});
+    tool.files.failingAfterLines(path, 4, 57);
+    tool.importLog(logName);
+    const Texts failures = tool.failures(proc);
+    ASSERT_EQ(12U, failures.size());
+    EXPECT_THAT(failures[3], testing::HasSubstr("Device I/O error"));
+    EXPECT_THAT(failures[4], testing::HasSubstr("Type mismatch"));
+    EXPECT_EQ(exceeded, failures.back());
+    EXPECT_FALSE(tool.logged("Exiting " + proc));
+
+    tool.files.mended(path);
+    const std::size_t rows = tool.rows().size();
+    tool.importLog(logName);
+    EXPECT_EQ(rows + 5, tool.rows().size());
+    EXPECT_TRUE(tool.logged("Exiting " + proc));
+}
+
+TEST(ProcessOrvanLogFileToDBErrors, Error5IsAWarningUnderTheFirstImportersNameAndCounts)
+{
+    ImportTool tool;
+    const std::string name = "diag_nothing.txt";
+    tool.withLog(name, morning, {lineAt("10:00:00:000")});
+    tool.importLog(name);
+    const auto log5 = tool.logLines();
+    EXPECT_EQ(1, std::count_if(log5.begin(), log5.end(), [](const LogLine& line) {
+                  return line.level == "Warning" && line.procName == "processOrvanLogFile" &&
+                         line.message.rfind("Could not format: ", 0) == 0;
+              }));
+    EXPECT_TRUE(tool.failures().empty());
+    EXPECT_EQ((Texts{""}), tool.column("Process")) << "the name has no second underline";
+}
+
+TEST(ProcessOrvanLogFileToDBErrors, TheEleventhError5ForcesTheExitTooButIsNoWarning)
+{
+    ImportTool tool;
+    tool.files.with(path, lines(30, lineAt("10:00:00:000"))).created(path, morning);
+    // Each row's update fails as an invalid call.
+    struct Refusing final : TraceRecordset {
+        explicit Refusing(TraceRecordset& inner) : recordset(inner) {}
+        TraceField& field(std::string_view name) override { return recordset.field(name); }
+        void addNew() override { recordset.addNew(); }
+        void update() override { throw RunTimeError(5); }
+        void close() override { recordset.close(); }
+        TraceRecordset& recordset;
+    } refusing(*tool.traces);
+    mdlLogs::processOrvanLogFileToDB(tool.context, logName, refusing, tool.current, tool.label,
+                                     tool.start, tool.end);
+    const auto all = tool.logLines();
+    EXPECT_EQ(10, std::count_if(all.begin(), all.end(), [](const LogLine& line) {
+                  return line.message == "Could not format: " + lineAt("10:00:00:000");
+              }));
+    EXPECT_EQ(
+        (Texts{"Err.Number = 5 Err.Description = Invalid procedure call or argument", exceeded}),
+        tool.failures(proc));
+}
+
+TEST(ProcessOrvanLogFileToDBErrors, AFieldThatRefusesItsValueLeavesItOutOfTheRow)
+{
+    ImportTool tool;
+    tool.context.g_bDebugMode = true;
+    tool.withLog(logName, morning,
+                 {"10:00:00:000 (" + std::string(300, 's') + ",1,CallFlow,7) long source"});
+    tool.importLog(logName);
+    EXPECT_EQ((Texts{"Null"}), tool.column("Source"));
+    EXPECT_EQ((Texts{"Null"}), tool.column("qrvIndex"));
+    EXPECT_EQ((Texts{"long source"}), tool.column("Trace"));
+    EXPECT_EQ(2U, tool.failures(proc).size());
+}
+
+TEST(ProcessOrvanLogFileToDBErrors, AFailedUpdateLosesThatRowAlone)
+{
+    ImportTool tool;
+    tool.traceDatabases.failing("update tblTraces", 2, 3026);
+    tool.withLog(
+        logName, morning,
+        {lineAt("10:00:00:000", "a"), lineAt("10:00:01:000", "b"), lineAt("10:00:02:000", "c")});
+    tool.importLog(logName);
+    EXPECT_EQ((Texts{"a ", "c "}), tool.column("Trace"));
+}
+
+TEST(ProcessOrvanLogFileToDBErrors, ALogThatShrankIsReadToTheEndThatItHas)
+{
+    ImportTool tool;
+    tool.files.withSize(path, 1'000'000).created(path, morning);
+    tool.files.openForAppending(path)->write(lines(3, lineAt("10:00:00:000")));
+    tool.importLog(logName);
+    EXPECT_EQ(3U, tool.rows().size());
+    EXPECT_EQ(1'000'000.0F, tool.current.value());
+    EXPECT_TRUE(tool.failures().empty());
+}
+
+TEST(ProcessOrvanLogFileToDBErrors, ALogThatGrowsIsReadToItsNewEnd)
+{
+    ImportTool tool;
+    tool.files.with(path, lines(3, lineAt("10:00:00:000"))).created(path, morning);
+    tool.desktop.onPump([&] {
+        if (tool.desktop.pumps() == 1)
+            tool.files.openForAppending(path)->write(lines(1'000, lineAt("10:00:00:000")));
+    });
+    tool.importLog(logName);
+    EXPECT_EQ(1'003U, tool.rows().size());
+    EXPECT_EQ("Processing", tool.label.caption());
+    ASSERT_EQ(1U, tool.failures(proc).size()) << "the bar has no room for what came later";
+    EXPECT_THAT(tool.failures(proc)[0], testing::HasSubstr("Invalid property value"));
+}
