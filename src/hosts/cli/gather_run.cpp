@@ -91,12 +91,10 @@ void findResults(GatherResult& result, const std::string& database,
             result.cabinet = result.destination + "/" + name;
     }
     std::error_code none;
-    if (fs::exists(database, none)) {
+    if (fs::exists(database, none))
         result.database = database;
-        result.rows = rowsByProcess(database);
-    } else {
+    else
         result.failure = "no trace database was made: " + result.failure.value_or("it has gone");
-    }
     if (!result.cabinet && !result.failure) result.failure = "no cabinet was made";
 }
 
@@ -162,13 +160,14 @@ GatherResult runGather(OpenTool& tool, classTraceObject& job)
 
 namespace {
 
-std::string rowSummary(const GatherResult& result)
+std::string rowSummary(const std::string& database)
 {
-    const std::string name = fs::path(*result.database).filename().string();
-    if (result.rows.empty()) return "No line lies in the time frame: " + name + " has no rows\n";
+    const std::string name = fs::path(database).filename().string();
+    const auto rows = rowsByProcess(database);
+    if (rows.empty()) return "No line lies in the time frame: " + name + " has no rows\n";
     Table table({"Rows of " + name, ""});
     table.alignRight(1);
-    for (const auto& [process, count] : result.rows) table.row({process, groupedNumber(count)});
+    for (const auto& [process, count] : rows) table.row({process, groupedNumber(count)});
     return table.text();
 }
 
@@ -187,7 +186,7 @@ void report(Output& output, const GatherResult& result)
     } else {
         output.line("Gathered into " + result.destination);
         for (const auto& file : result.files) output.line("  " + file);
-        if (result.database) output.text(rowSummary(result));
+        if (result.database) output.text(rowSummary(*result.database));
     }
     if (result.cancelled)
         throw CommandFailure("cancelled; what was read until then is kept in " +

@@ -5,7 +5,6 @@
 
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 class classTraceObject;
@@ -15,10 +14,7 @@ struct GatherResult {
     std::string destination;
     std::optional<std::string> database;
     std::optional<std::string> cabinet;
-    std::vector<std::string> files; ///< names in the destination, sorted
-
-    /// Rows of the database by process, sorted.
-    std::vector<std::pair<std::string, long long>> rows;
+    std::vector<std::string> files;     ///< names in the destination, sorted
     std::optional<std::string> failure; ///< why something is missing
     bool cancelled = false;
 };

@@ -1,0 +1,270 @@
+#include "backends/jet/outside_readers.h"
+#include "end_to_end/frame_model.h"
+#include "end_to_end/sample_site.h"
+
+#include <gmock/gmock.h>
+
+#include <random>
+
+#include <csignal>
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+struct FrameGather : SampleSite {
+    std::vector<std::string> gatherWords(const std::string& from, const std::string& hours,
+                                         const fs::path& to) const
+    {
+        return {"gather", "frame", "--from", from, "--hours", hours, "--to", to.string()};
+    }
+
+    Outcome gather(const std::string& from, const std::string& hours) const
+    {
+        return runJson(gatherWords(from, hours, target));
+    }
+
+    std::vector<TextRow> expected(LocalSecond start, int hours, bool extended = false) const
+    {
+        return expectedRows(drive("KelmaOrvan/Logs"), start, start + hours * 3'600LL, extended);
+    }
+
+    /// The one database in a folder, or an empty path.
+    static fs::path databaseIn(const fs::path& folder)
+    {
+        std::error_code none;
+        for (const auto& entry : fs::directory_iterator(folder, none))
+            if (entry.path().extension() == ".mdb") return entry.path();
+        return {};
+    }
+
+    /// Starts a gather into the target and kills it after a while.
+    void killGather(unsigned microseconds) const
+    {
+        std::vector<std::string> words = {ORVANDIAG_PROGRAM, "--site", site.string()};
+        for (const auto& word : gatherWords("2025-02-17 17:00", "100", target))
+            words.push_back(word);
+        const pid_t child = fork();
+        if (child == 0) {
+            const int nowhere = open("/dev/null", O_WRONLY);
+            dup2(nowhere, STDOUT_FILENO);
+            dup2(nowhere, STDERR_FILENO);
+            std::vector<char*> arguments;
+            for (auto& word : words) arguments.push_back(word.data());
+            arguments.push_back(nullptr);
+            execv(arguments[0], arguments.data());
+            _exit(127);
+        }
+        usleep(microseconds);
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+    }
+};
+
+TEST_F(FrameGather, HoldsExactlyTheLinesOfTheFrame)
+{
+    const Outcome gathered = gather("2025-02-19 08:00", "24");
+    ASSERT_EQ(0, gathered.status) << gathered.err;
+    const fs::path database = gathered.json()["database"].get<std::string>();
+    const auto rows = expected(localSecond(2025, 2, 19, 8, 0), 24);
+    ASSERT_GT(rows.size(), 100U);
+    EXPECT_EQ("", firstDifference(rows, rowsOf(database, "tblTraces")));
+    EXPECT_EQ("", firstDifference(rows, nodeRows(database, "tblTraces")));
+    EXPECT_EQ("", firstDifference(withoutEmptyTexts(rows), exportedRows(database, "tblTraces")));
+    EXPECT_EQ("", firstDifference(withoutEmptyTexts(rows),
+                                  withoutEmptyTexts(jsonRows(database, "tblTraces"))));
+    EXPECT_EQ("", problemsOf(database));
+}
+
+TEST_F(FrameGather, HoldsEveryLineOfAFrameOverSeveralMidnights)
+{
+    const Outcome gathered = gather("2025-02-17 17:00", "999");
+    ASSERT_EQ(0, gathered.status) << gathered.err;
+    const auto rows = expected(localSecond(2025, 2, 17, 17, 0), 999);
+    ASSERT_GT(rows.size(), 2'900U);
+    EXPECT_EQ("", firstDifference(rows, rowsOf(databaseIn(target), "tblTraces")));
+}
+
+TEST_F(FrameGather, TakesThreadPortAndCallIdFromExtendedLines)
+{
+    fs::remove_all(site);
+    ASSERT_EQ(0, orvandiag({"sample", site.string(), "--lines", "3000", "--fields", "extended",
+                            "--seed", "7"})
+                     .status);
+    const Outcome gathered = gather("2025-02-17 17:00", "100");
+    ASSERT_EQ(0, gathered.status) << gathered.err;
+    const auto rows = expected(localSecond(2025, 2, 17, 17, 0), 100, true);
+    EXPECT_EQ("", firstDifference(rows, rowsOf(databaseIn(target), "tblTraces")));
+}
+
+TEST_F(FrameGather, StoresTheFiltersAndTheMacroTracesOnce)
+{
+    ASSERT_EQ(0, gather("2025-02-19 08:00", "24").status);
+    const fs::path database = databaseIn(target);
+    std::set<std::string> combinations;
+    for (const auto& row : rowsOf(database, "tblTraces")) combinations.insert(row.at("qrvIndex"));
+    std::set<std::string> filters;
+    const auto filterRows = nodeRows(database, "tblUniqueFilters");
+    for (const auto& row : filterRows) filters.insert(row.at("qrvIndex"));
+    EXPECT_EQ(combinations, filters);
+    EXPECT_EQ(filters.size(), filterRows.size());
+
+    std::size_t definitions = 0;
+    for (const auto& row : nodeRows(database, "tblMacroTraces")) {
+        EXPECT_EQ(read(drive("OrvanDiagnostics/ZMKXML/" + row.at("Name"))), row.at("Data"));
+        ++definitions;
+    }
+    EXPECT_GT(definitions, 0U);
+}
+
+TEST_F(FrameGather, PacksTheDatabaseAndTheEventLogsAndCleansUp)
+{
+    const auto result = gather("2025-02-20 16:42", "1").json();
+    const fs::path database = result["database"].get<std::string>();
+    const fs::path cabinet = result["cabinet"].get<std::string>();
+    EXPECT_THAT(result["files"],
+                ElementsAre("Application.csv", "System.csv", cabinet.filename().string(),
+                            database.filename().string()));
+    const fs::path extracted = folder / "extracted";
+    ASSERT_EQ(0,
+              runProgram({"cabextract", "-q", "-d", extracted.string(), cabinet.string()}).status);
+    for (const std::string name : {"Application.csv", "System.csv"})
+        EXPECT_EQ(read(target / name), read(extracted / name));
+    EXPECT_EQ(read(database), read(extracted / database.filename()));
+}
+
+TEST_F(FrameGather, AFrameWithoutLinesGivesADatabaseOfMacroTraces)
+{
+    const Outcome gathered = run({"gather", "frame", "--from", "2001-01-01 00:00", "--hours", "1",
+                                  "--no-application", "--no-system", "--to", target.string()});
+    ASSERT_EQ(0, gathered.status) << gathered.err;
+    EXPECT_THAT(gathered.out, HasSubstr("No line lies in the time frame"));
+    EXPECT_TRUE(rowsOf(databaseIn(target), "tblTraces").empty());
+    EXPECT_FALSE(rowsOf(databaseIn(target), "tblMacroTraces").empty());
+    EXPECT_FALSE(fs::exists(target / "Application.csv"));
+}
+
+TEST_F(FrameGather, TellsHowManyRowsEachProcessHas)
+{
+    const Outcome gathered = run(gatherWords("2025-02-17 17:00", "100", target));
+    ASSERT_EQ(0, gathered.status) << gathered.err;
+    std::map<std::string, long long> counts;
+    for (const auto& row : rowsOf(databaseIn(target), "tblTraces")) ++counts[row.at("Process")];
+    ASSERT_EQ(5U, counts.size());
+    EXPECT_THAT(gathered.out, HasSubstr(target.string()));
+    for (const auto& [process, count] : counts)
+        EXPECT_THAT(gathered.out, testing::ContainsRegex(process + " +[0-9,]+\n")) << count;
+}
+
+TEST_F(FrameGather, RefusesWhatIsNoFrameAndChangesNothing)
+{
+    const struct {
+        const char* because;
+        const char* from;
+        const char* hours;
+        int status;
+    } cases[] = {
+        {"no hours", "2025-02-20 16:42", "0", 2},
+        {"more hours than there may be", "2025-02-20 16:42", "1000", 2},
+        {"half an hour", "2025-02-20 16:42", "0.5", 2},
+        {"a word for a number", "2025-02-20 16:42", "two", 2},
+        {"hours below zero", "2025-02-20 16:42", "-1", 2},
+        {"a date alone", "2025-02-20", "1", 2},
+        {"a day that is none", "2025-02-30 16:42", "1", 2},
+        {"no date", "yesterday", "1", 2},
+        {"a start in the future", "2999-01-01 00:00", "1", 1},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        const Outcome refused = gather(c.from, c.hours);
+        EXPECT_EQ(c.status, refused.status);
+        EXPECT_EQ(1, std::count(refused.err.begin(), refused.err.end(), '\n')) << refused.err;
+        EXPECT_EQ("", refused.out);
+        EXPECT_FALSE(fs::exists(target));
+    }
+}
+
+TEST_F(FrameGather, TellsOfWhatIsMissing)
+{
+    const struct {
+        const char* because;
+        const char* file;
+        const char* content; ///< null: a folder stands in its place
+        const char* message;
+        bool database;
+    } cases[] = {
+        {"a template that can't be copied", "blankWPNDB.mdb", nullptr, "no trace database was made",
+         false},
+        {"a template that is no database", "blankWPNDB.mdb", "not a database at all",
+         "not everything was gathered", true},
+        {"no cabinet maker", "cabmaker.exe", nullptr, "no cabinet was made", true},
+        {"a cabinet maker that fails", "cabmaker.exe", "#!/bin/sh\nexit 1\n", "no cabinet was made",
+         true},
+    };
+    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
+    const fs::path tools = drive("OrvanDiagnostics");
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        const fs::path file = tools / c.file;
+        const fs::path kept = folder / "kept";
+        fs::rename(file, kept);
+        if (c.content != nullptr)
+            write(file, c.content);
+        else
+            fs::create_directory(file);
+        if (c.content != nullptr) fs::permissions(file, fs::perms::owner_all);
+
+        const Outcome gathered = gather("2025-02-20 16:42", "1");
+        EXPECT_EQ(1, gathered.status);
+        EXPECT_THAT(gathered.err, HasSubstr(c.message));
+        EXPECT_EQ(c.database, !gathered.json()["database"].is_null());
+        EXPECT_TRUE(fs::exists(target / "Application.csv"));
+
+        fs::remove_all(target);
+        fs::remove_all(file);
+        fs::rename(kept, file);
+    }
+}
+
+TEST_F(FrameGather, TellsOfALogThatHasTooManyMalformedLines)
+{
+    std::string content = "15:23:07:123,Conv,1,CallFlow,2,good\n";
+    for (int line = 0; line < 20; ++line) content += "garbage without any structure at all\n";
+    write(drive("KelmaOrvan/Logs/diag_Odd_20250101_000000.txt"), content);
+    const Outcome gathered = run(gatherWords("2025-01-01 00:00", "24", target));
+    EXPECT_EQ(1, gathered.status);
+    EXPECT_THAT(gathered.err,
+                HasSubstr("diag_Odd_20250101_000000.txt has too many malformed lines"));
+    EXPECT_EQ(11U, rowsOf(databaseIn(target), "tblTraces").size());
+}
+
+TEST_F(FrameGather, AKilledOneLeavesADatabaseThatHoldsAnExactPrefix)
+{
+    fs::remove_all(site);
+    ASSERT_EQ(0, orvandiag({"sample", site.string(), "--lines", "20000"}).status);
+    const auto rows = expected(localSecond(2025, 2, 17, 17, 0), 100);
+    std::mt19937 random(4711);
+    int cutShort = 0;
+    for (int round = 0; round < 20; ++round) {
+        SCOPED_TRACE(round);
+        fs::remove_all(target);
+        killGather(10'000 + random() % 120'000);
+        const fs::path database = databaseIn(target);
+        if (database.empty()) continue;
+        const auto found = rowsOf(database, "tblTraces");
+        ASSERT_LE(found.size(), rows.size());
+        EXPECT_EQ("", firstDifference(
+                          {rows.begin(), rows.begin() + static_cast<std::ptrdiff_t>(found.size())},
+                          found));
+        if (!found.empty() && found.size() < rows.size()) ++cutShort;
+        EXPECT_EQ(found.size(), exportedRows(database, "tblTraces").size());
+    }
+    EXPECT_GT(cutShort, 0) << "some kill was to hit the adding of rows";
+}
+
+} // namespace
