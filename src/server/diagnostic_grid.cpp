@@ -96,8 +96,6 @@ MemoryRecordset mdlOrvanDatabase::EnumComponents(ToolContext& tool)
     ErrorTrap step{tool, moduleName, "EnumComponents", countedTrap};
     MemoryRecordset components;
     std::unique_ptr<DatabaseRecordset> rows;
-    std::string name;
-    std::string text;
 
     step.body([&] {
         step([&] { components.append("name", nameLength); });
@@ -113,6 +111,8 @@ MemoryRecordset mdlOrvanDatabase::EnumComponents(ToolContext& tool)
             bool more = false;
             step([&] { more = !required(rows).atEnd(); });
             if (!more) break;
+            std::string name;
+            std::string text;
             step([&] { components.addNew(); });
             step([&] { name = valueAsText(rows->field("Name")); });
             step([&] { components.set("name", name); });

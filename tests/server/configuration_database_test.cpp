@@ -392,3 +392,57 @@ TEST_F(ConfigurationDatabase, StampsAnEmptyAliasWhereNobodyIsLoggedOn)
 
     EXPECT_EQ(Value(std::string()), parametersWritten()["@AuditAlias"]);
 }
+
+TEST_F(ConfigurationDatabase, ReadsForwardOnlyWithAnOptimisticLock)
+{
+    tool.database.opened().withConfiguration("System.X", 7, 3);
+
+    read();
+
+    EXPECT_THAT(tool.database.cursors(),
+                ElementsAre(Pair(CursorKind::forwardOnly, LockKind::optimistic)));
+}
+
+TEST_F(ConfigurationDatabase, WritesAlsoWhereTheServerTakesNoAuditParameters)
+{
+    tool.database.opened().withProcedure("csp_ConfigurationModify", {"@FullName", "@ValueLong"});
+
+    write(9, 3);
+
+    EXPECT_THAT(parametersWritten(),
+                UnorderedElementsAre(Pair("@FullName", testing::_), Pair("@ValueLong", Value(9))));
+    EXPECT_THAT(tool.failures("[mdlOrvanDatabase]setAuditParameters"),
+                ElementsAre(testing::StartsWith("Err.Number = 3265 "),
+                            testing::StartsWith("Err.Number = 3265 ")));
+}
+
+TEST_F(ConfigurationDatabase, LeavesAWriteOnItsEleventhErrorInTheDevelopmentHost)
+{
+    struct Case {
+        const char* because;
+        std::vector<std::string> parameters;
+        const char* routine;
+    };
+    const Case cases[] = {
+        {"the server refuses each call",
+         {"@AuditAlias", "@AuditComponent", "@FullName", "@ValueLong"},
+         "SetConfigurationSetting"},
+        {"the audit stamp finds no place", {"@FullName", "@ValueLong"}, "setAuditParameters"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        TestTool fresh;
+        fresh.module.developmentHost = true;
+        fresh.database.opened().withProcedure(
+            "csp_ConfigurationModify", c.parameters,
+            [](const FakeDatabase::Call&) { throw RunTimeError(5); });
+
+        SetConfigurationSetting(fresh.context, "System.X", 9, 3);
+
+        EXPECT_EQ(11u, fresh.database.calls().size());
+        const std::string routine = std::string("[mdlOrvanDatabase]") + c.routine;
+        EXPECT_EQ(12u, fresh.failures(routine).size());
+        EXPECT_EQ("Error count exceeded, forcing exit from " + routine,
+                  fresh.failures(routine).back());
+    }
+}

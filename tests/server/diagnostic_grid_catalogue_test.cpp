@@ -87,6 +87,16 @@ TEST_F(DiagnosticGridCatalogue, FallsBackToEnglishForALanguageWithoutAFile)
     EXPECT_THAT(tool.failures(), IsEmpty());
 }
 
+TEST_F(DiagnosticGridCatalogue, DoesNotFallBackFromAMalformedFileOfTheUsersLanguage)
+{
+    tool.languages.userDefault = 1036;
+    withFile("FRA", "<DiagnosticGrids><DiagnosticGrid name='A' text='Un'");
+    open("<DiagnosticGrid name='A' text='One'/>");
+
+    EXPECT_EQ("A", text("A"));
+    EXPECT_THAT(tool.failures(), IsEmpty());
+}
+
 TEST_F(DiagnosticGridCatalogue, TakesAMissingOrMalformedFileForAnEmptyCatalogueInSilence)
 {
     struct Case {

@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <limits>
 
 using namespace mdlOrvanDatabase;
@@ -268,4 +269,71 @@ TEST_F(DiagnosticGrid, LeavesAListThatFailsOnElevenRowsWithWhatItHolds)
     EXPECT_EQ(10, components.recordCount());
     EXPECT_EQ("Error count exceeded, forcing exit from [mdlOrvanDatabase]EnumComponents",
               tool.failures().back());
+}
+
+TEST_F(DiagnosticGrid, ListsARowWithoutANameUnderNoOtherName)
+{
+    tool.database.withComponent("A", 0, 0).withRow("vw_LoggerDiagnosticGrid", {{"Name", Null{}}});
+    tool.database.withComponent("B", 0, 0);
+
+    EXPECT_THAT(listed("name"), testing::UnorderedElementsAre("A", "", "B"));
+    EXPECT_THAT(tool.failures(),
+                ElementsAre("Err.Number = 94 Err.Description = Invalid use of Null"));
+}
+
+TEST_F(DiagnosticGrid, ReadsForwardOnlyAndListsByAKeyset)
+{
+    tool.database.withComponent("A", 0, 0);
+
+    flags("A");
+    getComponentsObjectId(tool.context, "A");
+    EnumComponents(tool.context);
+
+    EXPECT_THAT(tool.database.cursors(),
+                ElementsAre(Pair(CursorKind::forwardOnly, LockKind::optimistic),
+                            Pair(CursorKind::forwardOnly, LockKind::optimistic),
+                            Pair(CursorKind::keyset, LockKind::optimistic)));
+}
+
+TEST_F(DiagnosticGrid, LeavesEachRoutineOnItsEleventhErrorInTheDevelopmentHost)
+{
+    struct Case {
+        const char* routine;
+        std::function<void(ToolContext&)> run;
+    };
+    const Case cases[] = {
+        {"getFlags", [](ToolContext& context) { EXPECT_EQ(0, getFlags(context, "A", 0)); }},
+        {"getComponentsObjectId",
+         [](ToolContext& context) { EXPECT_EQ("", getComponentsObjectId(context, "A")); }},
+        {"EnumComponents",
+         [](ToolContext& context) { EXPECT_EQ(0, EnumComponents(context).recordCount()); }},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.routine);
+        TestTool fresh;
+        fresh.module.developmentHost = true;
+
+        c.run(fresh.context);
+
+        EXPECT_EQ(11u, fresh.database.queries().size()) << "the closed connection's query";
+        EXPECT_EQ("Error count exceeded, forcing exit from [mdlOrvanDatabase]" +
+                      std::string(c.routine),
+                  fresh.failures().back());
+    }
+}
+
+TEST_F(DiagnosticGrid, LeavesAWriteOnItsEleventhRefusalInTheDevelopmentHost)
+{
+    tool.module.developmentHost = true;
+    tool.database.withComponent("A", 7, 3).withProcedure(
+        "csp_LoggerDiagnosticGridModify",
+        {"@AuditAlias", "@AuditComponent", "@Name", "@ObjectId", "@Flags"},
+        [](const FakeDatabase::Call&) { throw RunTimeError(-2147217900, "No."); });
+
+    SetFlags(tool.context, "A", 64);
+
+    EXPECT_EQ(11u, tool.database.calls().size());
+    EXPECT_EQ("Error count exceeded, forcing exit from [mdlOrvanDatabase]SetFlags",
+              tool.failures().back());
+    EXPECT_FALSE(tool.logged("Exiting [mdlOrvanDatabase]SetFlags_0"));
 }

@@ -1,3 +1,4 @@
+#include "shell/initialize.h"
 #include "shell/shell_fixture.h"
 
 #include <gmock/gmock.h>
@@ -199,6 +200,30 @@ TEST_F(SnapInLifecycle, GoesOnPastAnEventReporterThatTheServerLacks)
     EXPECT_EQ(4u, tool.failures("[mdlInitialize]initGlobalVariables").size());
     EXPECT_EQ(1u, tool.failures("[snapinOrvanDiagnostics]SnapIn_Load").size());
     EXPECT_NE(0, tool.context.g_timeZone.daylightDate.month) << "later steps ran";
+}
+
+TEST_F(SnapInLifecycle, SkipsTheRestOfStartUpOnItsEleventhError)
+{
+    tool.module.developmentHost = true;
+    tool.eventReporter.missing();
+    tool.registry.withText(baseKey, "InstalledFolderPath", "C:\\Orvan");
+
+    mdlInitialize::initGlobalVariables(tool.context);
+
+    const Texts failures = tool.failures("[mdlInitialize]initGlobalVariables");
+    ASSERT_EQ(12u, failures.size());
+    EXPECT_THAT(failures[9], testing::HasSubstr(" Line: "));
+    EXPECT_THAT(failures[10], testing::StartsWith("Err.Number = 429 "));
+    EXPECT_THAT(failures[10], testing::Not(testing::HasSubstr(" Line: ")));
+    EXPECT_EQ("Error count exceeded, forcing exit from [mdlInitialize]initGlobalVariables",
+              failures[11]);
+    EXPECT_EQ(1, tool.context.g_bitMasks[0]) << "what stands before the event reporter is done";
+    EXPECT_NE(nullptr, tool.context.g_domMacroTraces);
+    EXPECT_FALSE(tool.context.g_bDebugMode) << "what stands behind it is not";
+    EXPECT_EQ(0, tool.context.g_timeZone.daylightDate.month);
+    EXPECT_EQ(0, tool.database.state());
+    EXPECT_EQ(nullptr, tool.context.g_domDiagnosticGrids);
+    EXPECT_FALSE(tool.logged("Exiting [mdlInitialize]initGlobalVariables_0"));
 }
 
 TEST_F(SnapInLifecycle, GoesOnWithTheOldFolderWhenTheSettingChanges)

@@ -225,9 +225,10 @@ void FakeDatabase::open(const std::string& connectionString, const std::string&,
 }
 
 std::unique_ptr<DatabaseRecordset> FakeDatabase::openRecordset(const std::string& query,
-                                                               CursorKind cursor, LockKind)
+                                                               CursorKind cursor, LockKind lock)
 {
     queries_.push_back(query);
+    cursors_.emplace_back(cursor, lock);
     if (state_ == 0) throw RunTimeError(runTimeErrors::connectionClosed);
     for (const auto& [part, number] : failures_)
         if (query.find(part) != std::string::npos) throw RunTimeError(number);

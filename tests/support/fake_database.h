@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// A database in memory that keeps every promise of database.h.
@@ -51,6 +52,8 @@ public:
 
     const std::vector<Call>& calls() const { return calls_; }
     const std::vector<std::string>& queries() const { return queries_; }
+    /// How each of `queries` was opened.
+    const std::vector<std::pair<CursorKind, LockKind>>& cursors() const { return cursors_; }
     const std::vector<std::string>& connectionStrings() const { return connectionStrings_; }
     int openRecordsets() const { return *openRecordsets_; }
 
@@ -77,6 +80,7 @@ private:
     std::vector<std::pair<std::string, int>> failures_;
     std::vector<Call> calls_;
     std::vector<std::string> queries_;
+    std::vector<std::pair<CursorKind, LockKind>> cursors_;
     std::vector<std::string> connectionStrings_;
     std::shared_ptr<int> openRecordsets_ = std::make_shared<int>(0);
     int state_ = 0;

@@ -373,6 +373,37 @@ TEST_F(MacroTraceOperations, LeavesATraceOnItsEleventhBadLevelWithoutAWrite)
     EXPECT_EQ(1, signalsSent());
 }
 
+TEST_F(MacroTraceOperations, LeavesAnUntickedTraceOnItsEleventhBadLevelWithoutAWrite)
+{
+    tool.database.withComponent("A", 8, 0);
+    define(trace("T", diag("A", std::vector<std::string>(11, "32")) + diag("A", {"3"})));
+
+    disable("T");
+
+    EXPECT_THAT(wordsSet(), IsEmpty());
+    EXPECT_EQ(12u, disableFailures().size());
+    EXPECT_EQ("Error count exceeded, forcing exit from [mdlTraces]disableMacroTrace",
+              disableFailures().back());
+}
+
+TEST_F(MacroTraceOperations, EndsOnItsEleventhErrorWithoutDefaultsAndSignal)
+{
+    tool.database.withComponent("A", 0, 3);
+    std::vector<Choice> choices = {{true, "G"}};
+    for (char name = 'a'; name <= 'l'; ++name) choices.push_back({false, {name}, true});
+
+    configure(choices);
+
+    EXPECT_EQ(10u, events().size()) << "each failed look-up before is recorded all the same";
+    EXPECT_EQ(1, enabledRecord("G", "j"));
+    EXPECT_EQ(-1, enabledRecord("G", "k"));
+    EXPECT_EQ("Error count exceeded, forcing exit from [mdlTraces]configureMacroTrace",
+              tool.failures().back());
+    EXPECT_THAT(defaultsRestored(), IsEmpty());
+    EXPECT_EQ(0, signalsSent());
+    EXPECT_FALSE(tool.logged("Exiting [mdlTraces]configureMacroTrace_0"));
+}
+
 TEST_F(MacroTraceOperations, CarriesBit31BothWays)
 {
     tool.database.withComponent("A", 1, 0);

@@ -265,3 +265,20 @@ TEST_F(MicroTraces, RestoresDefaultsAndSignalsForAnEmptyTree)
     EXPECT_EQ(3, flags("A"));
     EXPECT_EQ(1, signalsSent());
 }
+
+TEST_F(MicroTraces, EndsTheWalkWhereItsCounterOverflows)
+{
+    tool.database.withComponent("A", 0, 0).withComponent("beyond", 8, 0);
+    TreeView tree;
+    TreeNode& root = tree.add("A (A)");
+    for (int number = 0; number < 32766; ++number) tree.addChild(root, "01  one");
+    tree.item(32767).setChecked(true);
+    tree.add("beyond (beyond)");
+    ASSERT_EQ(32768, tree.count());
+
+    mdlTraces::configureMicroTrace(tool.context, tree);
+
+    EXPECT_THAT(wordsSet(), ElementsAre("A=2")) << "what lies beyond is not touched";
+    EXPECT_THAT(ownFailures(), ElementsAre("Err.Number = 6 Err.Description = Overflow"));
+    EXPECT_EQ(1, signalsSent());
+}

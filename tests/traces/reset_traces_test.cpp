@@ -56,6 +56,8 @@ TEST_F(ResetTraces, WritesEveryComponentOnceInTheOrderOfTheirNamesAlsoWithoutACh
     EXPECT_THAT(tool.database.queries(),
                 ElementsAre("SELECT Name, ObjectId, DefaultFlags, Flags FROM "
                             "vw_LoggerDiagnosticGrid ORDER BY Name"));
+    EXPECT_THAT(tool.database.cursors(),
+                ElementsAre(Pair(CursorKind::keyset, LockKind::optimistic)));
     ASSERT_EQ(2u, tool.database.calls().size());
     EXPECT_THAT(tool.database.calls()[0].parameters,
                 UnorderedElementsAre(

@@ -105,5 +105,6 @@ bool SqliteRecordset::step()
     const int result = sqlite3_step(statement_.get());
     if (result == SQLITE_ROW) return true;
     if (result != SQLITE_DONE) handle_->fail();
+    statement_ = {}; // the next query of this text may use it from now on
     return false;
 }

@@ -140,6 +140,26 @@ TEST_F(SiteDatabaseTest, CountsAndKeepsTheRowsOfAKeysetWhileTheTableChanges)
     EXPECT_EQ(Value(64), flags("B"));
 }
 
+TEST_F(SiteDatabaseTest, KeepsARecordsetWhenAnotherOfItsQueryIsClosed)
+{
+    open();
+    const auto named = [&](const std::string& name) {
+        return database.openRecordset("SELECT Flags FROM vw_LoggerDiagnosticGrid WHERE Name = '" +
+                                          name + "'",
+                                      CursorKind::forwardOnly, LockKind::optimistic);
+    };
+    auto none = named("none");
+    auto walked = named("B");
+    walked->moveNext();
+    auto rows = named("A");
+
+    none->close();
+    walked->close();
+
+    EXPECT_TRUE(!rows->atEnd());
+    EXPECT_EQ(Value(5), rows->field("Flags"));
+}
+
 TEST_F(SiteDatabaseTest, CallsAProcedureWithTheAssignedParametersAlone)
 {
     open();
