@@ -1,0 +1,248 @@
+#include "hosts/desktop/console_pane.h"
+
+#include "hosts/desktop/list_table.h"
+#include "hosts/desktop/log_view.h"
+#include "hosts/desktop/scope_model.h"
+#include "hosts/desktop/task_pad_view.h"
+#include "platform/console.h"
+#include "runtime/run_time_error.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QSettings>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTreeView>
+
+namespace {
+
+constexpr const char* splitterKey = "window/splitter";
+
+/// The console is at work: the pointer says so, and further calls can see it.
+class AtWork {
+public:
+    explicit AtWork(int& calls) : calls_(calls)
+    {
+        ++calls_;
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+    ~AtWork()
+    {
+        QApplication::restoreOverrideCursor();
+        --calls_;
+    }
+    AtWork(const AtWork&) = delete;
+    AtWork& operator=(const AtWork&) = delete;
+
+private:
+    int& calls_;
+};
+
+} // namespace
+
+ConsolePane::ConsolePane(Console& console, const CodePage& codePage, const QString& site,
+                         QSettings& settings, QWidget* parent)
+    : QWidget(parent), console_(console), site_(site), settings_(settings), listModel_(codePage)
+{
+    scope_ = new ScopeModel(console_, this);
+    splitter_ = new QSplitter(this);
+    makeTree();
+    views_ = new QStackedWidget(splitter_);
+    log_ = new LogView(codePage, settings_, views_);
+    makeViews();
+    splitter_->addWidget(tree_);
+    splitter_->addWidget(views_);
+    splitter_->setStretchFactor(0, 0);
+    splitter_->setStretchFactor(1, 1);
+    splitter_->setChildrenCollapsible(false);
+    splitter_->setSizes({290, 890});
+    splitter_->restoreState(settings_.value(splitterKey).toByteArray());
+    connect(splitter_, &QSplitter::splitterMoved, this,
+            [this] { settings_.setValue(splitterKey, splitter_->saveState()); });
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(splitter_);
+    console_.addObserver(*this);
+}
+
+ConsolePane::~ConsolePane()
+{
+    console_.removeObserver(*this);
+    tree_->disconnect(this);
+    if (tree_->selectionModel()) tree_->selectionModel()->disconnect(this);
+}
+
+void ConsolePane::makeTree()
+{
+    tree_ = new QTreeView(splitter_);
+    tree_->setModel(scope_);
+    tree_->setHeaderHidden(true);
+    tree_->setUniformRowHeights(true);
+    tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    tree_->setContextMenuPolicy(Qt::CustomContextMenu);
+    tree_->setAccessibleName(tr("Server tree"));
+    tree_->setMinimumWidth(160);
+    tree_->setTextElideMode(Qt::ElideMiddle);
+    connect(tree_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &ConsolePane::treeCurrentChanged);
+    connect(tree_, &QTreeView::expanded, this, [this](const QModelIndex& index) {
+        if (busy()) return;
+        // Not from within the tree's own handling of a key or a click: nodes come and go.
+        QMetaObject::invokeMethod(
+            this,
+            [this, opened = QPersistentModelIndex(index)] {
+                ScopeItem* item = opened.isValid() ? scope_->itemAt(opened) : nullptr;
+                if (item && !item->expanded())
+                    perform([item](Console& console) { console.expand(*item); });
+            },
+            Qt::QueuedConnection);
+    });
+    connect(tree_, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& at) { emit treeMenuAsked(tree_->viewport()->mapToGlobal(at)); });
+}
+
+void ConsolePane::makeViews()
+{
+    nothing_ = new QWidget(views_);
+    taskPad_ = new TaskPadView(views_);
+    children_ = new QTreeView(views_);
+    children_->setModel(scope_);
+    children_->setRootIsDecorated(false);
+    children_->setItemsExpandable(false);
+    children_->setHeaderHidden(true);
+    children_->setUniformRowHeights(true);
+    children_->setAccessibleName(tr("Processes"));
+    list_ = new ListTable(listModel_, settings_, views_);
+    list_->setAccessibleName(tr("Log files"));
+    for (QWidget* view :
+         std::initializer_list<QWidget*>{nothing_, taskPad_, children_, list_, log_})
+        views_->addWidget(view);
+
+    connect(taskPad_, &TaskPadView::taskClicked, this, [this](const QString& key) {
+        perform([&](Console& console) { console.clickTask(key.toStdString()); });
+    });
+    connect(children_, &QTreeView::activated, this, [this](const QModelIndex& index) {
+        if (ScopeItem* item = scope_->itemAt(index))
+            perform([item](Console& console) { console.currentView().select(*item); });
+    });
+    connect(list_, &ListTable::opened, this, [this](std::uint32_t place) {
+        perform([&](Console& console) { console.doubleClickRow(static_cast<int>(place)); });
+    });
+    connect(log_, &LogView::said, this, &ConsolePane::said);
+}
+
+void ConsolePane::perform(const std::function<void(Console&)>& call)
+{
+    if (busy()) return;
+    {
+        const AtWork atWork{calls_};
+        try {
+            call(console_);
+        } catch (const RunTimeError& error) {
+            emit failed(tr("That did not work: %1. Press F5 to renew what is shown, and try again.")
+                            .arg(QString::fromStdString(error.description())));
+        }
+        followSelection();
+    }
+    emit callDone();
+}
+
+bool ConsolePane::logShown() const
+{
+    return views_->currentWidget() == log_;
+}
+
+ListTable* ConsolePane::table() const
+{
+    if (logShown()) return &log_->table();
+    return views_->currentWidget() == list_ ? list_ : nullptr;
+}
+
+QString ConsolePane::selectedName() const
+{
+    const ScopeItem* item = scope_->itemAt(tree_->currentIndex());
+    return item ? QString::fromStdString(item->displayName()) : QString();
+}
+
+void ConsolePane::switchPane()
+{
+    if (!tree_->hasFocus()) return tree_->setFocus(Qt::ShortcutFocusReason);
+    QWidget* shown = views_->currentWidget();
+    if (shown == log_) shown = &log_->table();
+    if (shown == taskPad_) {
+        taskPad_->setFocus();
+        return void(shown->nextInFocusChain()->setFocus(Qt::ShortcutFocusReason));
+    }
+    shown->setFocus(Qt::ShortcutFocusReason);
+}
+
+void ConsolePane::treeCurrentChanged(const QModelIndex& current)
+{
+    if (busy() || !current.isValid()) return;
+    const bool waiting = pending_.isValid();
+    pending_ = current;
+    if (!waiting)
+        QMetaObject::invokeMethod(this, &ConsolePane::selectPending, Qt::QueuedConnection);
+}
+
+void ConsolePane::selectPending()
+{
+    ScopeItem* item = pending_.isValid() ? scope_->itemAt(pending_) : nullptr;
+    pending_ = QPersistentModelIndex();
+    if (item) perform([item](Console& console) { console.currentView().select(*item); });
+}
+
+/// Moves the tree's mark to the console's selection.
+void ConsolePane::followSelection()
+{
+    QModelIndex selected;
+    try {
+        selected = scope_->indexOf(console_.currentScopeItem());
+    } catch (const RunTimeError&) {
+        // Nothing is selected before the snap-in is loaded.
+    }
+    if (!selected.isValid() || selected == tree_->currentIndex()) return;
+    for (QModelIndex above = selected.parent(); above.isValid(); above = above.parent())
+        tree_->expand(above);
+    tree_->setCurrentIndex(selected);
+    tree_->scrollTo(selected);
+}
+
+void ConsolePane::selectionChanged(View&)
+{
+    followSelection();
+    tree_->expand(tree_->model()->index(0, 0));
+}
+
+void ConsolePane::viewReset(ResultView&)
+{
+    listModel_.leave();
+    log_->leave();
+}
+
+void ConsolePane::viewFilled(ResultView& resultView)
+{
+    if (resultView.type() == ResultViewType::taskPad) {
+        taskPad_->show(resultView.taskPad());
+        views_->setCurrentWidget(taskPad_);
+    } else if (resultView.displayString() == shownList::processes) {
+        // The console's list of processes has no rows of its own: it shows the nodes below.
+        children_->setRootIndex(scope_->indexOf(resultView.scopePaneItem().scopeItem()));
+        views_->setCurrentWidget(children_);
+    } else if (resultView.displayString() == shownList::logLines) {
+        const QString key = QString::fromStdString(resultView.scopePaneItem().key());
+        log_->show(resultView.list(), site_ + QLatin1Char('\n') + key);
+        views_->setCurrentWidget(log_);
+    } else {
+        listModel_.show(resultView.list());
+        list_->listShown();
+        views_->setCurrentWidget(list_);
+    }
+    emit viewChanged();
+}
+
+void ConsolePane::statusBarChanged(const std::string& text)
+{
+    emit statusText(QString::fromStdString(text));
+}

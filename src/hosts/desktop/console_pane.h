@@ -1,0 +1,90 @@
+#pragma once
+
+#include "hosts/desktop/list_model.h"
+#include "hosts/desktop/quiet_observer.h"
+#include "platform/code_page.h"
+
+#include <QPersistentModelIndex>
+#include <QWidget>
+
+#include <functional>
+
+class Console;
+class ListTable;
+class LogView;
+class QSettings;
+class QSplitter;
+class QStackedWidget;
+class QTreeView;
+class ScopeModel;
+class TaskPadView;
+
+/// The tree and the result view of one console: shows what the console tells and carries back what
+/// the person does.
+class ConsolePane final : public QWidget, private QuietObserver {
+    Q_OBJECT
+
+public:
+    /// `console` and `settings` outlive the pane. `site` names the server for bookmarks.
+    ConsolePane(Console& console, const CodePage& codePage, const QString& site,
+                QSettings& settings, QWidget* parent = nullptr);
+    ~ConsolePane() override;
+
+    /// Does something with the console, and shows afterwards what came of it. While the console is
+    /// at work a further call is dropped: it takes one event at a time. A run-time error becomes a
+    /// sentence.
+    void perform(const std::function<void(Console&)>& call);
+
+    bool busy() const { return calls_ > 0; }
+
+    QTreeView& tree() { return *tree_; }
+    TaskPadView& taskPad() { return *taskPad_; }
+    LogView& log() { return *log_; }
+    bool logShown() const;
+
+    /// The table on show, of a log or of another list; null when another view is.
+    ListTable* table() const;
+
+    /// What the selected node is called, and the empty text before the first selection.
+    QString selectedName() const;
+
+    /// Moves the focus from the tree to the result view, or back.
+    void switchPane();
+
+signals:
+    /// The tool's text for the status bar; to be painted at once.
+    void statusText(const QString& text);
+    void said(const QString& sentence);
+    void failed(const QString& sentence);
+    void viewChanged();
+    void callDone();
+    void treeMenuAsked(const QPoint& globalPlace);
+
+private:
+    void selectionChanged(View& view) override;
+    void viewReset(ResultView& resultView) override;
+    void viewFilled(ResultView& resultView) override;
+    void statusBarChanged(const std::string& text) override;
+
+    void makeTree();
+    void makeViews();
+    void followSelection();
+    void treeCurrentChanged(const QModelIndex& current);
+    void selectPending();
+
+    Console& console_;
+    QString site_;
+    QSettings& settings_;
+    ScopeModel* scope_ = nullptr;
+    ListModel listModel_;
+    QSplitter* splitter_ = nullptr;
+    QTreeView* tree_ = nullptr;
+    QStackedWidget* views_ = nullptr;
+    QWidget* nothing_ = nullptr;
+    TaskPadView* taskPad_ = nullptr;
+    QTreeView* children_ = nullptr;
+    ListTable* list_ = nullptr;
+    LogView* log_ = nullptr;
+    QPersistentModelIndex pending_; ///< what the person selected and the console has not yet
+    int calls_ = 0;
+};

@@ -1,0 +1,104 @@
+#include "hosts/desktop/desktop_services.h"
+
+#include "hosts/desktop/help_window.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace {
+
+/// While the tool works the pointer is an hourglass; in front of a box it is an arrow.
+class ArrowPointer {
+public:
+    ArrowPointer() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
+    ~ArrowPointer() { QApplication::restoreOverrideCursor(); }
+    ArrowPointer(const ArrowPointer&) = delete;
+    ArrowPointer& operator=(const ArrowPointer&) = delete;
+};
+
+QMessageBox::Icon boxIcon(MessageIcon icon)
+{
+    switch (icon) {
+    case MessageIcon::information:
+        return QMessageBox::Information;
+    case MessageIcon::exclamation:
+        return QMessageBox::Warning;
+    case MessageIcon::critical:
+        return QMessageBox::Critical;
+    case MessageIcon::none:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+} // namespace
+
+DesktopServices::DesktopServices() = default;
+DesktopServices::~DesktopServices() = default;
+
+void DesktopServices::setWindow(QWidget* window)
+{
+    window_ = window;
+}
+
+void DesktopServices::setToolPath(std::function<std::string(const std::string&)> toolPath)
+{
+    toolPath_ = std::move(toolPath);
+}
+
+void DesktopServices::setManual(std::string folder)
+{
+    manual_ = std::move(folder);
+}
+
+QWidget* DesktopServices::owner() const
+{
+    QWidget* active = QApplication::activeModalWidget();
+    return active ? active : window_.data();
+}
+
+std::string DesktopServices::named(const QString& picked) const
+{
+    const std::string path = picked.toStdString();
+    return path.empty() || !toolPath_ ? path : toolPath_(path);
+}
+
+void DesktopServices::messageBox(const std::string& text, const std::string& title,
+                                 MessageIcon icon)
+{
+    const ArrowPointer arrow;
+    QMessageBox box(
+        boxIcon(icon), QString::fromStdString(title),
+        QString::fromStdString(text).replace(QLatin1String("\r\n"), QLatin1String("\n")),
+        QMessageBox::Ok, owner());
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+std::string DesktopServices::pickFolder(const std::string& title)
+{
+    const ArrowPointer arrow;
+    return named(QFileDialog::getExistingDirectory(owner(), QString::fromStdString(title)));
+}
+
+std::string DesktopServices::pickFile(const std::string& title)
+{
+    const ArrowPointer arrow;
+    return named(QFileDialog::getOpenFileName(
+        owner(), QString::fromStdString(title), {},
+        QFileDialog::tr("Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)")));
+}
+
+void DesktopServices::pumpMessages()
+{
+    QCoreApplication::processEvents();
+}
+
+int DesktopServices::showHelp(const std::string&, int topic)
+{
+    if (!help_) help_ = std::make_unique<HelpWindow>();
+    if (!help_->open(QString::fromStdString(manual_), topic)) return 0;
+    return static_cast<int>(help_->winId());
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QWidget>
+
+class ListModel;
+class QLabel;
+class QPlainTextEdit;
+
+/// All of one log line: its fields in a line, and the trace in as many as it takes.
+class DetailsPane final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit DetailsPane(QWidget* parent = nullptr);
+
+    /// Shows a row; nothing for a row that is not there.
+    void show(const ListModel& rows, int row);
+
+    void setTextFont(const QFont& font);
+
+private:
+    QLabel* fields_ = nullptr;
+    QPlainTextEdit* trace_ = nullptr;
+};

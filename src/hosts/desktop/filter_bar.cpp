@@ -1,0 +1,138 @@
+#include "hosts/desktop/filter_bar.h"
+
+#include "hosts/desktop/filter_button.h"
+#include "hosts/desktop/icons.h"
+#include "hosts/desktop/log_columns.h"
+#include "platform/list_view.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+
+#include <algorithm>
+
+namespace {
+constexpr int typingPause = 120; ///< milliseconds
+}
+
+FilterBar::FilterBar(QWidget* parent)
+    : QWidget(parent), text_(new QLineEdit(this)),
+      excludeText_(new QCheckBox(tr("hide matc&hes"), this)), counts_(new QLabel(this))
+{
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(6, 4, 6, 4);
+    for (auto& button : buttons_) {
+        button = new FilterButton(this);
+        row->addWidget(button);
+        connect(button, &FilterButton::changed, this, &FilterBar::changed);
+    }
+    text_->setPlaceholderText(tr("Only rows with this text"));
+    text_->setClearButtonEnabled(true);
+    text_->setAccessibleName(tr("Filter by text"));
+    excludeText_->setToolTip(tr("Hide the rows with the text instead of showing them"));
+    row->addWidget(text_, 1);
+    row->addWidget(excludeText_);
+    row->addWidget(counts_);
+    auto* all = new QToolButton(this);
+    all->setText(tr("Show all"));
+    all->setToolTip(tr("Show every row again (Ctrl+Shift+A)"));
+    all->setAutoRaise(true);
+    all->setFocusPolicy(Qt::TabFocus);
+    row->addWidget(all);
+    auto* close = new QToolButton(this);
+    close->setIcon(toolIcon(QStringLiteral("close")));
+    close->setToolTip(tr("Close the filter bar and show every row (Esc)"));
+    close->setAccessibleName(close->toolTip());
+    close->setAutoRaise(true);
+    close->setFocusPolicy(Qt::TabFocus);
+    row->addWidget(close);
+
+    typing_.setSingleShot(true);
+    typing_.setInterval(typingPause);
+    connect(&typing_, &QTimer::timeout, this, &FilterBar::changed);
+    connect(text_, &QLineEdit::textChanged, &typing_, qOverload<>(&QTimer::start));
+    connect(text_, &QLineEdit::returnPressed, this, &FilterBar::changed);
+    connect(excludeText_, &QCheckBox::toggled, this, &FilterBar::changed);
+    connect(all, &QToolButton::clicked, this, &FilterBar::reset);
+    connect(close, &QToolButton::clicked, this, &FilterBar::closed);
+}
+
+void FilterBar::offer(ListView& list, const TextDecoder& decoder)
+{
+    const LogColumns columns = LogColumns::of(list);
+    const std::array<int, 3> offered = {columns.component, columns.source, columns.level};
+    for (std::size_t place = 0; place < offered.size(); ++place) {
+        const int column = offered[place];
+        if (column > list.columnCount()) continue;
+        auto values = valuesOf(list, column);
+        if (column == columns.level) {
+            std::sort(values.begin(), values.end(), [](const auto& left, const auto& right) {
+                return QString::fromStdString(left.text).toInt() <
+                       QString::fromStdString(right.text).toInt();
+            });
+        }
+        buttons_[place]->offer(QString::fromStdString(list.column(column).text), column, values,
+                               decoder);
+    }
+    const QSignalBlocker quietText(text_);
+    const QSignalBlocker quietExclude(excludeText_);
+    text_->clear();
+    excludeText_->setChecked(false);
+    typing_.stop();
+}
+
+LogFilter FilterBar::filter(const CodePage& codePage) const
+{
+    LogFilter filter;
+    for (const auto* button : buttons_) filter.columns.push_back(button->condition());
+    filter.text = TextMatcher(codePage, text_->text().toStdU16String());
+    filter.excludeText = excludeText_->isChecked();
+    return filter;
+}
+
+bool FilterBar::offersColumn(int column) const
+{
+    return std::any_of(buttons_.begin(), buttons_.end(),
+                       [&](const auto* button) { return button->column() == column; });
+}
+
+void FilterBar::tick(int column, const std::string& value, bool exclude)
+{
+    for (auto* button : buttons_)
+        if (button->column() == column) button->tick(value, exclude);
+}
+
+void FilterBar::reset()
+{
+    for (auto* button : buttons_) button->reset();
+    const QSignalBlocker quietText(text_);
+    const QSignalBlocker quietExclude(excludeText_);
+    text_->clear();
+    excludeText_->setChecked(false);
+    typing_.stop();
+    emit changed();
+}
+
+void FilterBar::startText()
+{
+    show();
+    text_->setFocus(Qt::ShortcutFocusReason);
+    text_->selectAll();
+}
+
+void FilterBar::showCounts(int shown, int all)
+{
+    const QLocale locale;
+    counts_->setText(shown == all
+                         ? tr("%1 rows").arg(locale.toString(all))
+                         : tr("%1 of %2 rows").arg(locale.toString(shown), locale.toString(all)));
+}
+
+void FilterBar::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape) return emit closed();
+    QWidget::keyPressEvent(event);
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "hosts/desktop/log_filter.h"
+#include "hosts/desktop/text_decoder.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <array>
+
+class FilterButton;
+class ListView;
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+
+/// The line in which a person says which rows of a log are on show.
+class FilterBar final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit FilterBar(QWidget* parent = nullptr);
+
+    /// Offers the values of a list; nothing is filtered then. The text in the field is dropped.
+    void offer(ListView& list, const TextDecoder& decoder);
+
+    LogFilter filter(const CodePage& codePage) const;
+
+    /// Adds a value of a column to those that are shown, or hidden. A column without a button is
+    /// passed over.
+    void tick(int column, const std::string& value, bool exclude);
+
+    /// Whether the bar has a button for a column.
+    bool offersColumn(int column) const;
+
+    /// Lets every row pass.
+    void reset();
+    void startText();
+
+    void showCounts(int shown, int all);
+
+signals:
+    void changed();
+    void closed();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    std::array<FilterButton*, 3> buttons_{}; ///< component, source, level
+    QLineEdit* text_ = nullptr;
+    QCheckBox* excludeText_ = nullptr;
+    QLabel* counts_ = nullptr;
+    QTimer typing_; ///< runs while the person types on
+};

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "hosts/desktop/log_filter.h"
+#include "hosts/desktop/text_decoder.h"
+
+#include <QToolButton>
+
+class QCheckBox;
+class QListWidget;
+
+/// Opens a list of a column's values, to show or to hide those that are ticked.
+class FilterButton final : public QToolButton {
+    Q_OBJECT
+
+public:
+    explicit FilterButton(QWidget* parent = nullptr);
+
+    /// Offers the values of a column, none of them ticked. `title` is the column's header.
+    void offer(const QString& title, int column, const std::vector<ColumnValue>& values,
+               const TextDecoder& decoder);
+
+    int column() const { return column_; }
+    ColumnCondition condition() const;
+
+    /// Ticks a value beside those that are; turns to showing or to hiding.
+    void tick(const std::string& value, bool exclude);
+
+    /// Unticks all.
+    void reset();
+
+signals:
+    void changed();
+
+private:
+    void updateText();
+
+    QString title_;
+    int column_ = 0;
+    std::vector<std::string> values_;
+    QListWidget* list_ = nullptr;
+    QCheckBox* exclude_ = nullptr;
+    bool filling_ = false;
+};

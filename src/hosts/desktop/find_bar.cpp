@@ -1,0 +1,112 @@
+#include "hosts/desktop/find_bar.h"
+
+#include "hosts/desktop/icons.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QToolButton>
+
+namespace {
+
+QToolButton* button(QWidget* parent, const char* icon, const QString& text)
+{
+    auto* made = new QToolButton(parent);
+    made->setIcon(toolIcon(QString::fromLatin1(icon)));
+    made->setAutoRaise(true);
+    made->setToolTip(text);
+    made->setAccessibleName(text);
+    made->setFocusPolicy(Qt::TabFocus);
+    return made;
+}
+
+} // namespace
+
+FindBar::FindBar(QWidget* parent)
+    : QWidget(parent), text_(new QLineEdit(this)), time_(new QLineEdit(this)),
+      count_(new QLabel(this))
+{
+    auto* findLabel = new QLabel(tr("&Find:"), this);
+    findLabel->setBuddy(text_);
+    auto* timeLabel = new QLabel(tr("Go to &time:"), this);
+    timeLabel->setBuddy(time_);
+    text_->setPlaceholderText(tr("Text in any column"));
+    text_->setClearButtonEnabled(true);
+    text_->setAccessibleName(tr("Text to find"));
+    time_->setPlaceholderText(tr("such as 15:23:07"));
+    time_->setAccessibleName(tr("Time to go to"));
+    time_->setMaximumWidth(fontMetrics().averageCharWidth() * 22);
+    count_->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
+    count_->setAccessibleName(tr("Hits"));
+    auto* previousButton = button(this, "previous", tr("Find previous (Shift+F3)"));
+    auto* nextButton = button(this, "next", tr("Find next (F3)"));
+    auto* closeButton = button(this, "close", tr("Close the find bar (Esc)"));
+
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(6, 4, 6, 4);
+    row->addWidget(findLabel);
+    row->addWidget(text_, 1);
+    row->addWidget(previousButton);
+    row->addWidget(nextButton);
+    row->addWidget(count_);
+    row->addSpacing(12);
+    row->addWidget(timeLabel);
+    row->addWidget(time_);
+    row->addWidget(closeButton);
+
+    connect(text_, &QLineEdit::textChanged, this, &FindBar::textChanged);
+    connect(time_, &QLineEdit::returnPressed, this, [this] { emit timeAsked(time_->text()); });
+    connect(previousButton, &QToolButton::clicked, this, &FindBar::previous);
+    connect(nextButton, &QToolButton::clicked, this, &FindBar::next);
+    connect(closeButton, &QToolButton::clicked, this, &FindBar::closed);
+}
+
+void FindBar::startFind()
+{
+    show();
+    text_->setFocus(Qt::ShortcutFocusReason);
+    text_->selectAll();
+}
+
+void FindBar::startGoToTime()
+{
+    show();
+    time_->setFocus(Qt::ShortcutFocusReason);
+    time_->selectAll();
+}
+
+QString FindBar::text() const
+{
+    return text_->text();
+}
+
+void FindBar::showHits(int current, int count)
+{
+    if (text_->text().isEmpty()) return count_->clear();
+    const QLocale locale;
+    if (count == 0) return count_->setText(tr("No hits"));
+    count_->setText(current > 0
+                        ? tr("%1 of %2").arg(locale.toString(current), locale.toString(count))
+                        : tr("%1 hits").arg(locale.toString(count)));
+}
+
+void FindBar::say(const QString& sentence)
+{
+    count_->setText(sentence);
+}
+
+void FindBar::keyPressEvent(QKeyEvent* event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && text_->hasFocus()) {
+        if (event->modifiers() & Qt::ShiftModifier)
+            emit previous();
+        else
+            emit next();
+        return;
+    }
+    if (event->key() == Qt::Key_Escape) return emit closed();
+    QWidget::keyPressEvent(event);
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+
+/// The line in which a person looks for a text, or goes to a time.
+class FindBar final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit FindBar(QWidget* parent = nullptr);
+
+    /// Puts the cursor into the field of the text, or of the time.
+    void startFind();
+    void startGoToTime();
+
+    QString text() const;
+
+    /// Shows which hit of how many is the current one: 0 where the current row is none.
+    void showHits(int current, int count);
+
+    /// Says a sentence in the place of the count.
+    void say(const QString& sentence);
+
+signals:
+    void textChanged(const QString& text);
+    void next();
+    void previous();
+    void timeAsked(const QString& time);
+    void closed();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QLineEdit* text_ = nullptr;
+    QLineEdit* time_ = nullptr;
+    QLabel* count_ = nullptr;
+};

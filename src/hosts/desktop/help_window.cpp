@@ -1,0 +1,83 @@
+#include "hosts/desktop/help_window.h"
+
+#include "hosts/desktop/icons.h"
+
+#include <QAction>
+#include <QFile>
+#include <QFileInfo>
+#include <QTextBrowser>
+#include <QToolBar>
+
+namespace {
+
+/// The page of a topic by the manual's list "number page"; the first one for a topic not listed.
+QString pageOf(const QString& folder, int topic)
+{
+    QFile topics(folder + QStringLiteral("/topics.txt"));
+    QString first;
+    if (!topics.open(QIODevice::ReadOnly | QIODevice::Text)) return first;
+    while (!topics.atEnd()) {
+        const QString line = QString::fromUtf8(topics.readLine()).trimmed();
+        if (line.isEmpty() || line.startsWith(QLatin1Char('#'))) continue;
+        const QString page = line.section(QLatin1Char(' '), 1).trimmed();
+        if (first.isEmpty()) first = page;
+        if (line.section(QLatin1Char(' '), 0, 0).toInt() == topic) return page;
+    }
+    return first;
+}
+
+} // namespace
+
+HelpWindow::HelpWindow(QWidget* parent)
+    : QMainWindow(parent, Qt::Window), pages_(new QTextBrowser(this))
+{
+    setWindowTitle(tr("Help - Orvan Diagnostic Tool"));
+    setWindowIcon(toolIcon(QStringLiteral("console")));
+    pages_->setOpenExternalLinks(false);
+    pages_->setAccessibleName(tr("Manual"));
+    pages_->document()->setDocumentMargin(24);
+    setCentralWidget(pages_);
+
+    auto* bar = addToolBar(tr("Help"));
+    bar->setMovable(false);
+    const auto add = [&](const char* icon, const QString& text, const QKeySequence& key,
+                         auto slot) {
+        auto* action = bar->addAction(toolIcon(QString::fromLatin1(icon)), text, pages_, slot);
+        action->setShortcut(key);
+        action->setToolTip(text +
+                           QStringLiteral(" (%1)").arg(key.toString(QKeySequence::NativeText)));
+        return action;
+    };
+    auto* back =
+        add("back", tr("Back"), QKeySequence(Qt::ALT | Qt::Key_Left), &QTextBrowser::backward);
+    auto* forward = add("forward", tr("Forward"), QKeySequence(Qt::ALT | Qt::Key_Right),
+                        &QTextBrowser::forward);
+    add("console", tr("Contents"), QKeySequence(Qt::ALT | Qt::Key_Home), &QTextBrowser::home);
+    back->setEnabled(false);
+    forward->setEnabled(false);
+    connect(pages_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+    connect(pages_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+    auto* close = new QAction(tr("Close"), this);
+    close->setShortcut(Qt::Key_Escape);
+    connect(close, &QAction::triggered, this, &QWidget::close);
+    addAction(close);
+    resize(860, 680);
+}
+
+bool HelpWindow::open(const QString& folder, int topic)
+{
+    const QString page = pageOf(folder, topic);
+    const QString file = folder + QLatin1Char('/') + page;
+    if (page.isEmpty() || !QFileInfo::exists(file)) return false;
+    pages_->setSearchPaths({folder});
+    pages_->setSource(QUrl::fromLocalFile(file));
+    show();
+    raise();
+    activateWindow();
+    return true;
+}
+
+QString HelpWindow::shownPage() const
+{
+    return pages_->source().fileName();
+}

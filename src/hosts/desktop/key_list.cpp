@@ -1,0 +1,74 @@
+#include "hosts/desktop/key_list.h"
+
+#include <QAction>
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+QString plain(QString text)
+{
+    return text.remove(QLatin1Char('&'));
+}
+
+void addMenu(QTreeWidget& list, const QString& title, const QMenu& menu)
+{
+    auto* group = new QTreeWidgetItem(&list, {title});
+    group->setFirstColumnSpanned(true);
+    QFont bold = list.font();
+    bold.setBold(true);
+    group->setFont(0, bold);
+    for (const QAction* action : menu.actions()) {
+        if (action->isSeparator()) continue;
+        if (action->menu()) {
+            for (const QAction* inner : action->menu()->actions())
+                if (!inner->shortcut().isEmpty())
+                    new QTreeWidgetItem(
+                        group,
+                        {plain(action->text()) + QStringLiteral(": ") + plain(inner->text()),
+                         inner->shortcut().toString(QKeySequence::NativeText), inner->statusTip()});
+            continue;
+        }
+        new QTreeWidgetItem(group, {plain(action->text()),
+                                    action->shortcut().toString(QKeySequence::NativeText),
+                                    action->statusTip()});
+    }
+    group->setExpanded(true);
+}
+
+} // namespace
+
+KeyList::KeyList(QMainWindow& window, QWidget* parent) : QDialog(parent)
+{
+    setWindowTitle(tr("Keys"));
+    auto* list = new QTreeWidget(this);
+    list->setHeaderLabels({tr("Command"), tr("Key"), tr("What it does")});
+    list->setAccessibleName(tr("Keys"));
+    list->setSelectionMode(QAbstractItemView::SingleSelection);
+    for (const QAction* menu : window.menuBar()->actions())
+        if (menu->menu()) addMenu(*list, plain(menu->text()), *menu->menu());
+    auto* inLists = new QTreeWidgetItem(list, {tr("In lists and pages")});
+    const auto add = [&](const QString& what, const QString& key, const QString& does) {
+        new QTreeWidgetItem(inLists, {what, key, does});
+    };
+    add(tr("Open"), tr("Enter"), tr("Opens the log or the node of the current row"));
+    add(tr("Open or close a node"), tr("Right, Left"), tr("In a tree"));
+    add(tr("Tick"), tr("Space"), tr("Ticks or clears the current node of a page's tree"));
+    add(tr("First and last row"), tr("Home, End"), tr("In a list"));
+    add(tr("Close find or filter"), tr("Esc"), tr("Closes the bar in which the cursor is"));
+    inLists->setExpanded(true);
+    list->header()->setStretchLastSection(true);
+    list->resizeColumnToContents(0);
+    list->resizeColumnToContents(1);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(list, 1);
+    column->addWidget(buttons);
+    resize(760, 620);
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QDialog>
+
+class QMainWindow;
+
+/// Every command with its key, in the order of the menus.
+class KeyList final : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit KeyList(QMainWindow& window, QWidget* parent = nullptr);
+};

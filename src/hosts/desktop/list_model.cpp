@@ -1,0 +1,130 @@
+#include "hosts/desktop/list_model.h"
+
+#include "hosts/desktop/sort_key.h"
+#include "platform/list_view.h"
+
+#include <algorithm>
+
+ListModel::ListModel(const CodePage& codePage, QObject* parent)
+    : QAbstractTableModel(parent), codePage_(codePage), decoder_(codePage, ListText::utf8)
+{}
+
+void ListModel::show(ListView& list)
+{
+    beginResetModel();
+    list_ = &list;
+    decoder_ = TextDecoder(codePage_, list.definition().text);
+    filter_ = {};
+    sortColumn_ = -1;
+    arrange();
+    endResetModel();
+    emit rowsChanged();
+}
+
+void ListModel::leave()
+{
+    if (!list_) return;
+    beginResetModel();
+    list_ = nullptr;
+    places_.clear();
+    endResetModel();
+    emit rowsChanged();
+}
+
+void ListModel::filter(LogFilter filter)
+{
+    beginResetModel();
+    filter_ = std::move(filter);
+    arrange();
+    endResetModel();
+    emit rowsChanged();
+}
+
+void ListModel::sort(int column, Qt::SortOrder order)
+{
+    if (column == sortColumn_ && order == sortOrder_) return;
+    beginResetModel();
+    sortColumn_ = column;
+    sortOrder_ = order;
+    arrange();
+    endResetModel();
+    emit rowsChanged();
+}
+
+void ListModel::arrange()
+{
+    places_.clear();
+    if (!list_) return;
+    places_ = filter_.places(*list_);
+    if (sortColumn_ < 0) return;
+
+    // One key a row, made once: making them in each comparison would parse every cell many times.
+    std::vector<SortKey> keys(static_cast<std::size_t>(list_->itemCount()) + 1);
+    for (const auto place : places_)
+        keys[place] = sortKeyOf(list_->shown(static_cast<int>(place)).subItem(sortColumn_ + 1));
+    const bool ascending = sortOrder_ == Qt::AscendingOrder;
+    std::stable_sort(places_.begin(), places_.end(), [&](std::uint32_t left, std::uint32_t right) {
+        return ascending ? keys[left] < keys[right] : keys[right] < keys[left];
+    });
+}
+
+int ListModel::rowOfPlace(std::uint32_t place) const
+{
+    const bool inOrder = sortColumn_ < 0;
+    const auto found = inOrder ? std::lower_bound(places_.begin(), places_.end(), place)
+                               : std::find(places_.begin(), places_.end(), place);
+    if (found == places_.end() || *found != place) return -1;
+    return static_cast<int>(found - places_.begin());
+}
+
+std::uint32_t ListModel::placeOfRow(int row) const
+{
+    if (row < 0 || row >= rowCount()) return 0;
+    return places_[static_cast<std::size_t>(row)];
+}
+
+std::string_view ListModel::bytes(int row, int column) const
+{
+    const auto place = placeOfRow(row);
+    if (place == 0) return {};
+    return list_->shown(static_cast<int>(place)).subItem(column);
+}
+
+QString ListModel::text(int row, int column) const
+{
+    return decoder_.text(bytes(row, column));
+}
+
+QString ListModel::rowText(int row) const
+{
+    const auto place = placeOfRow(row);
+    if (place == 0) return {};
+    return decoder_.text(list_->shown(static_cast<int>(place)).text());
+}
+
+int ListModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(places_.size());
+}
+
+int ListModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() || !list_ ? 0 : list_->columnCount();
+}
+
+QVariant ListModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid()) return {};
+    if (role == Qt::DisplayRole) return text(index.row(), index.column() + 1);
+    return decoration ? decoration(index.row(), index.column() + 1, role) : QVariant();
+}
+
+QVariant ListModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (!list_ || orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+        return {};
+    if (role == Qt::DisplayRole)
+        return QString::fromStdString(list_->columns()[static_cast<std::size_t>(section)].text);
+    if (role == Qt::TextAlignmentRole) return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+    return {};
+}

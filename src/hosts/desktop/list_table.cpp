@@ -1,0 +1,180 @@
+#include "hosts/desktop/list_table.h"
+
+#include "hosts/desktop/list_model.h"
+#include "platform/list_view.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QSettings>
+
+#include <algorithm>
+
+namespace {
+
+/// The console's widths are generous: a character of the table's font for so many units.
+constexpr int unitsPerCharacter = 10;
+constexpr int automaticCharacters = 24;
+constexpr int cellMargin = 14;
+constexpr int symbolRoom = 20;   ///< for a mark or a sign before the text of a log's cell
+constexpr int headerMargin = 28; ///< room for the sort mark
+
+QString csvField(QString text)
+{
+    if (!text.contains(QLatin1Char(',')) && !text.contains(QLatin1Char('"')) &&
+        !text.contains(QLatin1Char('\n')) && !text.contains(QLatin1Char('\r')))
+        return text;
+    return QLatin1Char('"') + text.replace(QLatin1String("\""), QLatin1String("\"\"")) +
+           QLatin1Char('"');
+}
+
+} // namespace
+
+ListTable::ListTable(ListModel& model, QSettings& settings, QWidget* parent)
+    : QTableView(parent), rows_(model), settings_(settings)
+{
+    setModel(&rows_);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setFont(QApplication::font());
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setSortIndicatorClearable(true);
+    horizontalHeader()->setMinimumSectionSize(24);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, &ListTable::rememberWidths);
+    connect(this, &QTableView::doubleClicked, this,
+            [this](const QModelIndex& index) { emit opened(rows_.placeOfRow(index.row())); });
+}
+
+QString ListTable::widthsKey() const
+{
+    const ListView* list = rows_.list();
+    return QStringLiteral("widths/%1-%2")
+        .arg(QString::fromStdString(list->definition().name))
+        .arg(list->columnCount());
+}
+
+void ListTable::listShown()
+{
+    const ListView* list = rows_.list();
+    if (!list) return;
+    arranging_ = true;
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    const QVariantList remembered = settings_.value(widthsKey()).toList();
+    const QFontMetrics header = horizontalHeader()->fontMetrics();
+    for (int column = 0; column < list->columnCount(); ++column) {
+        const auto& declared = list->columns()[static_cast<std::size_t>(column)];
+        const int characters = declared.width == automaticWidth
+                                   ? automaticCharacters
+                                   : declared.width / unitsPerCharacter;
+        const bool symbols = list->definition().text == ListText::serverCodePage;
+        const int width = std::max(characters * fontMetrics().averageCharWidth() + cellMargin +
+                                       (symbols && column == 0 ? symbolRoom : 0),
+                                   header.horizontalAdvance(QString::fromStdString(declared.text)) +
+                                       headerMargin);
+        // The last one takes what is left.
+        if (column + 1 == list->columnCount()) continue;
+        setColumnWidth(column, remembered.size() == list->columnCount() ? remembered[column].toInt()
+                                                                        : width);
+    }
+
+    // The console has sorted the rows itself: the mark says how, and a click sorts otherwise.
+    const ListSort& sort = list->definition().sort;
+    setSortingEnabled(false);
+    horizontalHeader()->setSortIndicatorShown(true);
+    horizontalHeader()->setSortIndicator(sort.onLoad ? sort.column - 1 : -1,
+                                         sort.ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
+    horizontalHeader()->setSectionsClickable(true);
+    connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, &rows_, &ListModel::sort,
+            Qt::UniqueConnection);
+    arranging_ = false;
+}
+
+void ListTable::rememberWidths()
+{
+    if (arranging_ || !rows_.list()) return;
+    QVariantList widths;
+    for (int column = 0; column < rows_.columnCount(); ++column) widths << columnWidth(column);
+    settings_.setValue(widthsKey(), widths);
+}
+
+std::vector<int> ListTable::selectedRowNumbers() const
+{
+    std::vector<int> numbers;
+    for (const auto& range : selectionModel()->selection())
+        for (int row = range.top(); row <= range.bottom(); ++row) numbers.push_back(row);
+    std::sort(numbers.begin(), numbers.end());
+    return numbers;
+}
+
+int ListTable::copyAsText() const
+{
+    const auto numbers = selectedRowNumbers();
+    if (numbers.empty()) return 0;
+    QString text;
+    for (const int row : numbers) text += rows_.rowText(row).trimmed() + QLatin1Char('\n');
+    QGuiApplication::clipboard()->setText(text);
+    return static_cast<int>(numbers.size());
+}
+
+int ListTable::copyAsCsv() const
+{
+    const auto numbers = selectedRowNumbers();
+    if (numbers.empty()) return 0;
+    QString text;
+    const auto addLine = [&](const auto& cell) {
+        for (int column = 0; column < rows_.columnCount(); ++column) {
+            if (column > 0) text += QLatin1Char(',');
+            text += csvField(cell(column));
+        }
+        text += QLatin1String("\r\n");
+    };
+    addLine([&](int column) {
+        return rows_.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    });
+    for (const int row : numbers) addLine([&](int column) { return rows_.text(row, column + 1); });
+    QGuiApplication::clipboard()->setText(text);
+    return static_cast<int>(numbers.size());
+}
+
+void ListTable::goTo(int row)
+{
+    if (row < 0 || row >= rows_.rowCount()) return;
+    const int column = std::max(0, currentIndex().column());
+    setCurrentIndex(rows_.index(row, column));
+    scrollTo(currentIndex(), PositionAtCenter);
+}
+
+std::uint32_t ListTable::currentPlace() const
+{
+    return currentIndex().isValid() ? rows_.placeOfRow(currentIndex().row()) : 0;
+}
+
+void ListTable::keyPressEvent(QKeyEvent* event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && currentPlace() != 0) {
+        emit opened(currentPlace());
+        return;
+    }
+    // Home and End go to the first and the last row: a log is read by lines, not by cells.
+    if (event->key() == Qt::Key_Home && event->modifiers() == Qt::NoModifier) return goTo(0);
+    if (event->key() == Qt::Key_End && event->modifiers() == Qt::NoModifier)
+        return goTo(rows_.rowCount() - 1);
+    QTableView::keyPressEvent(event);
+}
+
+void ListTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (current.row() != previous.row()) emit currentRowChanged(current.row());
+}

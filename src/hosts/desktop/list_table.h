@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QTableView>
+
+#include <cstdint>
+
+class ListModel;
+class QSettings;
+
+/// A table over a list of the console: sorted by a click on a header, with widths that are
+/// remembered for each view.
+class ListTable final : public QTableView {
+    Q_OBJECT
+
+public:
+    /// Both outlive the table.
+    ListTable(ListModel& model, QSettings& settings, QWidget* parent = nullptr);
+
+    /// Takes the widths and the sort mark of the list that the model shows.
+    void listShown();
+
+    /// Puts the selected rows, in their order on the screen, on the clipboard: one line each, or as
+    /// CSV with the headers before them. Gives the number of rows.
+    int copyAsText() const;
+    int copyAsCsv() const;
+
+    /// Makes a row the current one and selects it alone.
+    void goTo(int row);
+
+    /// The place, from 1, of the current row in the console's list; 0 when there is none.
+    std::uint32_t currentPlace() const;
+
+signals:
+    /// The person opens a row, by a double click or the Enter key.
+    void opened(std::uint32_t place);
+    void currentRowChanged(int row);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+private:
+    QString widthsKey() const;
+    void rememberWidths();
+    std::vector<int> selectedRowNumbers() const;
+
+    ListModel& rows_;
+    QSettings& settings_;
+    bool arranging_ = false;
+};

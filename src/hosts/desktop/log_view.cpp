@@ -1,0 +1,319 @@
+#include "hosts/desktop/log_view.h"
+
+#include "hosts/desktop/details_pane.h"
+#include "hosts/desktop/filter_bar.h"
+#include "hosts/desktop/find_bar.h"
+#include "hosts/desktop/icons.h"
+#include "hosts/desktop/list_table.h"
+#include "hosts/desktop/log_delegate.h"
+#include "hosts/desktop/theme.h"
+#include "hosts/desktop/time_search.h"
+#include "platform/list_view.h"
+
+#include <QMenu>
+#include <QSettings>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr const char* detailsKey = "window/details";
+constexpr const char* splitterKey = "window/logSplitter";
+constexpr int errorLevel = 0;
+constexpr int warningLevel = 1;
+
+} // namespace
+
+LogView::LogView(const CodePage& codePage, QSettings& settings, QWidget* parent)
+    : QWidget(parent), codePage_(codePage), settings_(settings), model_(codePage)
+{
+    filterBar_ = new FilterBar(this);
+    findBar_ = new FindBar(this);
+    splitter_ = new QSplitter(Qt::Vertical, this);
+    table_ = new ListTable(model_, settings_, splitter_);
+    table_->setFont(theme::traceFont());
+    table_->setAccessibleName(tr("Log lines"));
+    table_->setContextMenuPolicy(Qt::CustomContextMenu);
+    delegate_ = new LogDelegate(table_);
+    table_->setItemDelegate(delegate_);
+    details_ = new DetailsPane(splitter_);
+    splitter_->addWidget(table_);
+    splitter_->addWidget(details_);
+    splitter_->setStretchFactor(0, 4);
+    splitter_->setStretchFactor(1, 1);
+    splitter_->setChildrenCollapsible(false);
+    splitter_->setSizes({540, 130});
+    splitter_->restoreState(settings_.value(splitterKey).toByteArray());
+    details_->setVisible(settings_.value(detailsKey, true).toBool());
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(filterBar_);
+    column->addWidget(splitter_, 1);
+    column->addWidget(findBar_);
+    filterBar_->hide();
+    findBar_->hide();
+
+    model_.decoration = [this](int row, int at, int role) { return decoration(row, at, role); };
+    connect(&model_, &ListModel::rowsChanged, this, &LogView::rowsChanged);
+    connect(splitter_, &QSplitter::splitterMoved, this,
+            [this] { settings_.setValue(splitterKey, splitter_->saveState()); });
+    connect(table_, &ListTable::currentRowChanged, this, [this](int row) {
+        details_->show(model_, row);
+        showHitCount();
+    });
+    connect(table_, &QWidget::customContextMenuRequested, this, &LogView::offerRowMenu);
+    connect(filterBar_, &FilterBar::changed, this, &LogView::filterChanged);
+    connect(filterBar_, &FilterBar::closed, this, [this] {
+        filterBar_->hide();
+        showAll();
+        table_->setFocus();
+    });
+    connect(findBar_, &FindBar::closed, this, [this] {
+        findBar_->hide();
+        delegate_->mark({});
+        table_->viewport()->update();
+        table_->setFocus();
+    });
+    connect(findBar_, &FindBar::textChanged, this, [this](const QString& text) {
+        delegate_->mark(text);
+        findHits();
+        if (!hits_.empty() &&
+            !std::binary_search(hits_.begin(), hits_.end(), table_->currentIndex().row()))
+            findNext();
+        table_->viewport()->update();
+    });
+    connect(findBar_, &FindBar::next, this, &LogView::findNext);
+    connect(findBar_, &FindBar::previous, this, &LogView::findPrevious);
+    connect(findBar_, &FindBar::timeAsked, this, &LogView::goToTime);
+}
+
+void LogView::show(ListView& list, const QString& log)
+{
+    bookmarks_.reset();
+    columns_ = LogColumns::of(list);
+    model_.show(list);
+    filterBar_->offer(list, model_.decoder());
+    table_->listShown();
+    const auto timeOfLine = [&](int line) {
+        // Line n is the n-th row, unless rows came in another order than their numbers.
+        const int row = line - 1;
+        return lineOfRow(row) == line ? model_.text(row, columns_.timeStamp) : QString();
+    };
+    bookmarks_.emplace(settings_, log, timeOfLine);
+    if (model_.rowCount() > 0) table_->setCurrentIndex(model_.index(0, 0));
+    details_->show(model_, table_->currentIndex().row());
+}
+
+void LogView::leave()
+{
+    bookmarks_.reset();
+    model_.leave();
+    details_->show(model_, -1);
+}
+
+int LogView::lineOfRow(int row) const
+{
+    return model_.text(row, columns_.number).toInt();
+}
+
+QVariant LogView::decoration(int row, int column, int role) const
+{
+    if (role == Qt::DecorationRole) {
+        const bool marked = column == columns_.number && bookmarks_ && bookmarks_->count() > 0 &&
+                            bookmarks_->has(lineOfRow(row));
+        if (marked) return toolIcon(QStringLiteral("bookmark"));
+    }
+    const bool level = role == Qt::DecorationRole && column == columns_.level;
+    if (role != Qt::BackgroundRole && !level) return {};
+    // A line that could not be read has no component, and its level means nothing.
+    if (model_.bytes(row, columns_.component).empty()) return {};
+    const QString text = model_.text(row, columns_.level);
+    if (text == QString::number(errorLevel))
+        return level ? QVariant(toolIcon(QStringLiteral("level-error")))
+                     : QVariant(theme::errorTint(palette()));
+    if (text == QString::number(warningLevel))
+        return level ? QVariant(toolIcon(QStringLiteral("level-warning")))
+                     : QVariant(theme::warningTint(palette()));
+    return {};
+}
+
+void LogView::startFind()
+{
+    findBar_->startFind();
+    delegate_->mark(findBar_->text());
+    findHits();
+}
+
+void LogView::startGoToTime()
+{
+    findBar_->startGoToTime();
+}
+
+void LogView::findHits()
+{
+    hits_.clear();
+    const TextMatcher matcher(codePage_, findBar_->text().toStdU16String());
+    if (model_.list() && !matcher.empty())
+        for (int row = 0; row < model_.rowCount(); ++row)
+            if (rowHolds(*model_.list(), model_.placeOfRow(row), matcher)) hits_.push_back(row);
+    showHitCount();
+}
+
+void LogView::showHitCount()
+{
+    const int row = table_->currentIndex().row();
+    const auto found = std::lower_bound(hits_.begin(), hits_.end(), row);
+    const bool current = found != hits_.end() && *found == row;
+    findBar_->showHits(current ? static_cast<int>(found - hits_.begin()) + 1 : 0,
+                       static_cast<int>(hits_.size()));
+}
+
+void LogView::findFrom(int direction)
+{
+    if (findBar_->text().isEmpty()) return startFind();
+    if (hits_.empty()) return emit said(tr("\"%1\" is not in these lines.").arg(findBar_->text()));
+    const int row = table_->currentIndex().row();
+    bool wrapped = false;
+    auto at = hits_.begin();
+    if (direction > 0) {
+        at = std::upper_bound(hits_.begin(), hits_.end(), row);
+        wrapped = at == hits_.end();
+        if (wrapped) at = hits_.begin();
+    } else {
+        at = std::lower_bound(hits_.begin(), hits_.end(), row);
+        wrapped = at == hits_.begin();
+        at = wrapped ? std::prev(hits_.end()) : std::prev(at);
+    }
+    table_->goTo(*at);
+    if (wrapped)
+        emit said(direction > 0 ? tr("Went on from the top.") : tr("Went on from the end."));
+}
+
+void LogView::goToTime(const QString& time)
+{
+    const auto wanted = typedTime(time.toStdString());
+    if (!wanted) return findBar_->say(tr("Type a time such as 15:23"));
+    const int row = rowAtTime(model_, columns_.timeStamp, *wanted, table_->currentIndex().row());
+    if (row < 0) return findBar_->say(tr("No line at %1 or later").arg(time));
+    table_->goTo(row);
+    findBar_->say(tr("Line %1").arg(lineOfRow(row)));
+}
+
+void LogView::startFilter()
+{
+    filterBar_->startText();
+}
+
+void LogView::showAll()
+{
+    filterBar_->reset();
+}
+
+void LogView::closeBars()
+{
+    if (findBar_->isVisible())
+        emit findBar_->closed();
+    else if (filterBar_->isVisible())
+        emit filterBar_->closed();
+}
+
+void LogView::filterChanged()
+{
+    if (!model_.list()) return;
+    const auto place = table_->currentPlace();
+    model_.filter(filterBar_->filter(codePage_));
+    const int row = model_.rowOfPlace(place);
+    if (row >= 0)
+        table_->goTo(row);
+    else if (model_.rowCount() > 0)
+        table_->goTo(0);
+    details_->show(model_, table_->currentIndex().row());
+}
+
+void LogView::rowsChanged()
+{
+    filterBar_->showCounts(model_.rowCount(), model_.list() ? model_.list()->itemCount() : 0);
+    findHits();
+}
+
+void LogView::toggleBookmark()
+{
+    const int row = table_->currentIndex().row();
+    if (!bookmarks_ || row < 0) return;
+    const int line = lineOfRow(row);
+    bookmarks_->toggle(line, model_.text(row, columns_.timeStamp));
+    table_->viewport()->update();
+    emit said(bookmarks_->has(line) ? tr("Line %1 is marked.").arg(line)
+                                    : tr("Line %1 is not marked any more.").arg(line));
+}
+
+void LogView::goToBookmark(int direction)
+{
+    if (!bookmarks_ || bookmarks_->count() == 0)
+        return emit said(tr("No line of this log is marked. Ctrl+B marks one."));
+    const int count = model_.rowCount();
+    const int current = table_->currentIndex().row();
+    for (int step = 1; step <= count; ++step) {
+        const int row = ((current + direction * step) % count + count) % count;
+        if (bookmarks_->has(lineOfRow(row))) return table_->goTo(row);
+    }
+    emit said(tr("The marked lines are hidden by the filter."));
+}
+
+void LogView::clearBookmarks()
+{
+    if (!bookmarks_) return;
+    bookmarks_->clear();
+    table_->viewport()->update();
+    emit said(tr("No line of this log is marked any more."));
+}
+
+bool LogView::detailsShown() const
+{
+    return !details_->isHidden();
+}
+
+void LogView::showDetails(bool shown)
+{
+    details_->setVisible(shown);
+    settings_.setValue(detailsKey, shown);
+}
+
+void LogView::setTextFont(const QFont& font)
+{
+    table_->setFont(font);
+    details_->setTextFont(font);
+    table_->listShown();
+}
+
+void LogView::offerRowMenu(const QPoint& at)
+{
+    const QModelIndex index = table_->indexAt(at);
+    if (!index.isValid()) return;
+    const int column = index.column() + 1;
+    QMenu menu(this);
+    if (filterBar_->offersColumn(column)) {
+        const std::string value(model_.bytes(index.row(), column));
+        const QString header =
+            model_.headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString();
+        const QString shown = model_.text(index.row(), column);
+        const auto offer = [&](const QString& text, bool exclude) {
+            menu.addAction(text, this, [this, column, value, exclude] {
+                filterBar_->setVisible(true);
+                filterBar_->tick(column, value, exclude);
+            });
+        };
+        offer(tr("&Show only %1 %2").arg(header, shown), false);
+        offer(tr("&Hide %1 %2").arg(header, shown), true);
+        menu.addSeparator();
+    }
+    menu.addAction(toolIcon(QStringLiteral("bookmark")), tr("&Bookmark"), this,
+                   &LogView::toggleBookmark);
+    menu.addAction(tr("&Copy"), this, [this] { table_->copyAsText(); });
+    menu.addAction(tr("Copy as CS&V"), this, [this] { table_->copyAsCsv(); });
+    menu.exec(table_->viewport()->mapToGlobal(at));
+}

@@ -1,0 +1,340 @@
+#include "hosts/desktop/main_window.h"
+
+#include "hosts/desktop/about_dialog.h"
+#include "hosts/desktop/console_pane.h"
+#include "hosts/desktop/icons.h"
+#include "hosts/desktop/key_list.h"
+#include "hosts/desktop/list_table.h"
+#include "hosts/desktop/log_view.h"
+#include "hosts/desktop/notice_bar.h"
+#include "hosts/desktop/open_tool.h"
+#include "hosts/desktop/theme.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenu>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr const char* geometryKey = "window/geometry";
+constexpr const char* stateKey = "window/state";
+constexpr const char* themeKey = "window/theme";
+constexpr const char* textSizeKey = "window/textSize";
+constexpr int sayMilliseconds = 6000;
+constexpr int smallestText = 6;
+constexpr int largestText = 40;
+
+} // namespace
+
+MainWindow::MainWindow(QSettings& settings) : settings_(settings)
+{
+    setWindowIcon(toolIcon(QStringLiteral("console")));
+    auto* body = new QWidget(this);
+    notice_ = new NoticeBar(body);
+    centre_ = new QStackedWidget(body);
+    auto* empty = new QLabel(
+        tr("No site is open.\n\nOpen one with Ctrl+Shift+O, or make a sample server with "
+           "Ctrl+Shift+N."),
+        centre_);
+    empty->setAlignment(Qt::AlignCenter);
+    centre_->addWidget(empty);
+    auto* column = new QVBoxLayout(body);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(notice_);
+    column->addWidget(centre_, 1);
+    setCentralWidget(body);
+
+    makeActions();
+    makeMenus();
+    makeToolBar();
+    makeStatusBar();
+    resize(1180, 760);
+    restoreGeometry(settings_.value(geometryKey).toByteArray());
+    restoreState(settings_.value(stateKey).toByteArray());
+    updateActions();
+    updateTitle();
+}
+
+MainWindow::~MainWindow()
+{
+    setTool(nullptr);
+}
+
+void MainWindow::makeStatusBar()
+{
+    status_ = new QLabel(this);
+    status_->setAccessibleName(tr("Status"));
+    siteName_ = new QLabel(this);
+    siteName_->setForegroundRole(QPalette::PlaceholderText);
+    statusBar()->addWidget(status_, 1);
+    statusBar()->addPermanentWidget(siteName_);
+}
+
+void MainWindow::setTool(OpenTool* tool)
+{
+    delete pane_;
+    pane_ = nullptr;
+    tool_ = tool;
+    status_->clear();
+    siteName_->clear();
+    notice_->hide();
+    if (tool_) {
+        const QString site = QString::fromStdString(tool_->site().folder());
+        siteName_->setText(
+            QString(site).replace(QDir::homePath() + QLatin1Char('/'), QStringLiteral("~/")));
+        siteName_->setToolTip(tr("The site on show: %1").arg(site));
+        pane_ =
+            new ConsolePane(tool_->console(), tool_->site().codePage(), site, settings_, centre_);
+        centre_->addWidget(pane_);
+        centre_->setCurrentWidget(pane_);
+        connectPane();
+        changeTextSize(0);
+        pane_->perform([this](Console&) { tool_->load(); });
+        rebuildConsoleItems();
+        sayLanguage();
+        if (!tool_->writable())
+            showProblem(tr("This site is read-only: logs can be read, but traces and settings "
+                           "cannot be changed. Make its folder writable, or open a copy."));
+        pane_->tree().setFocus();
+    }
+    updateActions();
+    updateTitle();
+}
+
+void MainWindow::connectPane()
+{
+    connect(pane_, &ConsolePane::statusText, this, [this](const QString& text) {
+        statusBar()->clearMessage();
+        status_->setText(text);
+        // The tool is at work and no event will paint it.
+        status_->repaint();
+    });
+    connect(pane_, &ConsolePane::said, this, [this](const QString& sentence) {
+        statusBar()->showMessage(sentence, sayMilliseconds);
+    });
+    connect(pane_, &ConsolePane::failed, this, &MainWindow::showProblem);
+    connect(pane_, &ConsolePane::viewChanged, this, [this] {
+        updateActions();
+        updateTitle();
+    });
+    connect(pane_, &ConsolePane::callDone, this, &MainWindow::checkSite);
+    connect(pane_, &ConsolePane::treeMenuAsked, this, [this](const QPoint& at) {
+        rebuildConsoleItems();
+        menus_[CommandMenu::action]->popup(at);
+    });
+}
+
+void MainWindow::checkSite()
+{
+    if (!tool_ || tool_->present()) return;
+    showProblem(tr("The site %1 is no longer there. Put the folder back and press F5, or open "
+                   "another site with Ctrl+Shift+O.")
+                    .arg(QString::fromStdString(tool_->site().folder())));
+}
+
+/// A language other than English without its texts: the tool goes on in English.
+void MainWindow::sayLanguage()
+{
+    constexpr int english = 9; ///< the primary language in the low bits of an identifier
+    constexpr int primaryLanguage = 0x3ff;
+    const auto& language = tool_->context().language;
+    if (language.g_hResourceLibrary != 0 || language.g_lngCurrentLanguage == 0) return;
+    if ((language.g_lngCurrentLanguage & primaryLanguage) == english) return;
+    showProblem(tr("There is no catalogue for your language (%1) beside the tool, so its texts "
+                   "are in English. Choose another language in the about box (Ctrl+F1).")
+                    .arg(language.g_lngCurrentLanguage));
+}
+
+void MainWindow::showProblem(const QString& sentence)
+{
+    notice_->say(sentence);
+}
+
+QString MainWindow::problem() const
+{
+    return notice_->sentence();
+}
+
+QString MainWindow::statusText() const
+{
+    return status_->text();
+}
+
+void MainWindow::updateTitle()
+{
+    const QString tool = tr("Orvan Diagnostic Tool");
+    const QString node = pane_ ? pane_->selectedName() : QString();
+    setWindowTitle(node.isEmpty() ? tool : QStringLiteral("%1 - %2").arg(node, tool));
+}
+
+bool MainWindow::showNode(const std::string& key)
+{
+    if (!pane_) return false;
+    bool shown = false;
+    pane_->perform([&](Console& console) {
+        ScopeTree& tree = console.scopeItems();
+        // A log's node comes with its process's first opening.
+        for (int position = 1; !tree.find(key) && position <= tree.count(); ++position)
+            console.expand(tree.item(position));
+        ScopeItem* item = tree.find(key);
+        shown = item != nullptr;
+        if (item) console.currentView().select(*item);
+    });
+    return shown;
+}
+
+void MainWindow::run(Command command)
+{
+    switch (command) {
+    case Command::openSite:
+        return pickSite();
+    case Command::makeSample:
+        return pickSampleFolder();
+    case Command::quit:
+        close();
+        return;
+    case Command::help:
+        emit helpAsked(0);
+        return;
+    case Command::keys:
+        return showKeys();
+    case Command::about:
+        return showAbout();
+    case Command::systemTheme:
+    case Command::lightTheme:
+    case Command::darkTheme:
+        return chooseTheme(command);
+    default:
+        break;
+    }
+    if (!pane_) return;
+    switch (command) {
+    case Command::refresh:
+        return pane_->perform([](Console& console) { console.refresh(); });
+    case Command::switchPane:
+        return pane_->switchPane();
+    case Command::largerText:
+        return changeTextSize(1);
+    case Command::smallerText:
+        return changeTextSize(-1);
+    case Command::normalText:
+        settings_.remove(textSizeKey);
+        return changeTextSize(0);
+    case Command::copy:
+    case Command::copyCsv:
+    case Command::selectAll:
+        return runInTable(command);
+    default:
+        return runInLog(command);
+    }
+}
+
+void MainWindow::runInTable(Command command)
+{
+    ListTable* table = pane_->table();
+    if (!table) return;
+    if (command == Command::selectAll) return table->selectAll();
+    const int rows = command == Command::copy ? table->copyAsText() : table->copyAsCsv();
+    statusBar()->showMessage(rows == 1 ? tr("1 row copied.") : tr("%1 rows copied.").arg(rows),
+                             sayMilliseconds);
+}
+
+void MainWindow::runInLog(Command command)
+{
+    if (!pane_->logShown()) return;
+    LogView& log = pane_->log();
+    switch (command) {
+    case Command::find:
+        return log.startFind();
+    case Command::findNext:
+        return log.findNext();
+    case Command::findPrevious:
+        return log.findPrevious();
+    case Command::goToTime:
+        return log.startGoToTime();
+    case Command::filter:
+        return log.startFilter();
+    case Command::showAll:
+        return log.showAll();
+    case Command::toggleBookmark:
+        return log.toggleBookmark();
+    case Command::nextBookmark:
+        return log.nextBookmark();
+    case Command::previousBookmark:
+        return log.previousBookmark();
+    case Command::clearBookmarks:
+        return log.clearBookmarks();
+    case Command::details:
+        return log.showDetails(!log.detailsShown());
+    default:
+        return;
+    }
+}
+
+void MainWindow::chooseTheme(Command command)
+{
+    const auto scheme = command == Command::lightTheme  ? theme::Scheme::light
+                        : command == Command::darkTheme ? theme::Scheme::dark
+                                                        : theme::Scheme::system;
+    settings_.setValue(themeKey, theme::nameOf(scheme));
+    theme::apply(scheme);
+    updateActions();
+}
+
+void MainWindow::changeTextSize(int step)
+{
+    if (!pane_) return;
+    QFont font = theme::traceFont();
+    const int usual = font.pointSize();
+    const int size =
+        std::clamp(settings_.value(textSizeKey, usual).toInt() + step, smallestText, largestText);
+    if (step != 0) settings_.setValue(textSizeKey, size);
+    font.setPointSize(size);
+    pane_->log().setTextFont(font);
+}
+
+void MainWindow::pickSite()
+{
+    const QString folder = QFileDialog::getExistingDirectory(
+        this, tr("Open Site: the folder of a server, with site.ini, registry.reg or drive_c"));
+    if (!folder.isEmpty()) emit siteAsked(folder);
+}
+
+void MainWindow::pickSampleFolder()
+{
+    const QString folder = QFileDialog::getSaveFileName(
+        this, tr("Make Sample Server in a New Folder"), QDir::homePath() + tr("/orvan-sample"), {},
+        nullptr, QFileDialog::ShowDirsOnly);
+    if (!folder.isEmpty()) emit sampleAsked(folder);
+}
+
+void MainWindow::showKeys()
+{
+    KeyList keys(*this, this);
+    keys.exec();
+}
+
+void MainWindow::showAbout()
+{
+    if (!tool_) return;
+    AboutDialog about(tool_->console().identity(), this);
+    about.exec();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    settings_.setValue(geometryKey, saveGeometry());
+    settings_.setValue(stateKey, saveState());
+    QMainWindow::closeEvent(event);
+}

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "hosts/desktop/commands.h"
+
+#include <QMainWindow>
+
+#include <map>
+#include <string>
+
+class ConsolePane;
+class NoticeBar;
+class OpenTool;
+class QLabel;
+class QMenu;
+class QSettings;
+class QStackedWidget;
+class QToolBar;
+
+/// The console's window: menus, tool bar, panes and status bar, over the tool that is open.
+class MainWindow final : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// `settings` outlives the window, which opens without a tool.
+    explicit MainWindow(QSettings& settings);
+    ~MainWindow() override;
+
+    /// Shows a tool, loading it, in the place of the one before. `tool` outlives the window or the
+    /// next call; null shows none.
+    void setTool(OpenTool* tool);
+
+    /// Says in a sentence what went wrong and what to do about it.
+    void showProblem(const QString& sentence);
+    QString problem() const;
+
+    /// Null while no tool is open.
+    ConsolePane* pane() { return pane_; }
+    QString statusText() const;
+
+    QAction& action(Command command) { return *actions_.at(command); }
+
+    /// The action of a menu item that the tool declares; null for one that is not offered.
+    QAction* consoleAction(const std::string& name);
+
+    /// Opens the node of a key, below those that must be opened for it; false when there is none.
+    bool showNode(const std::string& key);
+
+    void run(Command command);
+
+signals:
+    void siteAsked(const QString& folder);
+    void sampleAsked(const QString& folder);
+    void helpAsked(int topic);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void makeActions();
+    void makeMenus();
+    void makeToolBar();
+    void makeStatusBar();
+    void connectPane();
+    void rebuildConsoleItems();
+    void rebuildRecentSites();
+    void updateActions();
+    void updateTitle();
+    void checkSite();
+    void sayLanguage();
+    void runInLog(Command command);
+    void runInTable(Command command);
+    void chooseTheme(Command command);
+    void changeTextSize(int step);
+    void pickSite();
+    void pickSampleFolder();
+    void showKeys();
+    void showAbout();
+
+    QSettings& settings_;
+    OpenTool* tool_ = nullptr;
+    ConsolePane* pane_ = nullptr;
+    NoticeBar* notice_ = nullptr;
+    QStackedWidget* centre_ = nullptr;
+    QLabel* status_ = nullptr;
+    QLabel* siteName_ = nullptr;
+    QToolBar* toolBar_ = nullptr;
+    std::map<CommandMenu, QMenu*> menus_;
+    QMenu* recent_ = nullptr;
+    std::map<Command, QAction*> actions_;
+    std::map<std::string, QAction*> consoleActions_;
+};

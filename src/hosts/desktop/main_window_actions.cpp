@@ -1,0 +1,176 @@
+#include "hosts/desktop/console_pane.h"
+#include "hosts/desktop/icons.h"
+#include "hosts/desktop/list_table.h"
+#include "hosts/desktop/log_view.h"
+#include "hosts/desktop/main_window.h"
+#include "hosts/desktop/mnemonics.h"
+#include "hosts/desktop/open_tool.h"
+#include "hosts/desktop/recent_sites.h"
+#include "hosts/desktop/theme.h"
+
+#include <QActionGroup>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSettings>
+#include <QToolBar>
+
+#include <set>
+
+namespace {
+
+/// Commands that need a log on show, and those that need any table of rows.
+const std::set<Command> logCommands = {
+    Command::find,           Command::findNext,     Command::findPrevious,
+    Command::goToTime,       Command::filter,       Command::showAll,
+    Command::toggleBookmark, Command::nextBookmark, Command::previousBookmark,
+    Command::clearBookmarks, Command::details,      Command::largerText,
+    Command::smallerText,    Command::normalText};
+const std::set<Command> tableCommands = {Command::copy, Command::copyCsv, Command::selectAll};
+
+QString toolTipOf(const QAction& action)
+{
+    const QString text = QString(action.text()).remove(QLatin1Char('&'));
+    const QString key = action.shortcut().toString(QKeySequence::NativeText);
+    return key.isEmpty() ? text : QStringLiteral("%1 (%2)").arg(text, key);
+}
+
+} // namespace
+
+void MainWindow::makeActions()
+{
+    auto* themes = new QActionGroup(this);
+    for (const auto& info : commandInfos()) {
+        auto* made = new QAction(tr(info.text), this);
+        made->setShortcut(QKeySequence::fromString(QString::fromLatin1(info.key)));
+        made->setStatusTip(tr(info.statusText));
+        made->setToolTip(toolTipOf(*made));
+        if (*info.icon != '\0') made->setIcon(toolIcon(QString::fromLatin1(info.icon)));
+        if (info.menu == CommandMenu::theme) {
+            made->setCheckable(true);
+            themes->addAction(made);
+        }
+        connect(made, &QAction::triggered, this, [this, command = info.command] { run(command); });
+        addAction(made);
+        actions_[info.command] = made;
+    }
+    actions_[Command::details]->setCheckable(true);
+    // The plus has a key of its own on few keyboards only.
+    actions_[Command::largerText]->setShortcuts(
+        {QKeySequence(QStringLiteral("Ctrl++")), QKeySequence(QStringLiteral("Ctrl+="))});
+}
+
+void MainWindow::makeMenus()
+{
+    menus_[CommandMenu::file] = menuBar()->addMenu(tr("&File"));
+    menus_[CommandMenu::action] = menuBar()->addMenu(tr("&Action"));
+    menus_[CommandMenu::edit] = menuBar()->addMenu(tr("&Edit"));
+    menus_[CommandMenu::view] = menuBar()->addMenu(tr("&View"));
+    menus_[CommandMenu::help] = menuBar()->addMenu(tr("&Help"));
+    menus_[CommandMenu::theme] = new QMenu(tr("&Theme"), this);
+    for (const auto& info : commandInfos()) {
+        QMenu* menu = menus_[info.menu];
+        if (info.startsGroup) menu->addSeparator();
+        menu->addAction(actions_[info.command]);
+    }
+    menus_[CommandMenu::view]->addMenu(menus_[CommandMenu::theme]);
+    recent_ = new QMenu(tr("&Recent Sites"), this);
+    menus_[CommandMenu::file]->insertMenu(actions_[Command::makeSample], recent_);
+    connect(recent_, &QMenu::aboutToShow, this, &MainWindow::rebuildRecentSites);
+    connect(menus_[CommandMenu::action], &QMenu::aboutToShow, this,
+            &MainWindow::rebuildConsoleItems);
+    rebuildRecentSites();
+}
+
+void MainWindow::makeToolBar()
+{
+    toolBar_ = addToolBar(tr("Tool Bar"));
+    toolBar_->setObjectName(QStringLiteral("toolBar"));
+    toolBar_->setMovable(false);
+    toolBar_->setIconSize(QSize(22, 22));
+    toolBar_->toggleViewAction()->setText(tr("Tool &Bar"));
+    menus_[CommandMenu::view]->insertAction(actions_[Command::largerText],
+                                            toolBar_->toggleViewAction());
+}
+
+void MainWindow::rebuildRecentSites()
+{
+    recent_->clear();
+    int number = 0;
+    for (const QString& folder : recentSites(settings_)) {
+        ++number;
+        recent_->addAction(QStringLiteral("&%1  %2").arg(number).arg(folder), this,
+                           [this, folder] { emit siteAsked(folder); });
+    }
+    recent_->menuAction()->setEnabled(number > 0);
+}
+
+/// The tool's own items, as it declares them for the present selection: task menu, then top menu.
+void MainWindow::rebuildConsoleItems()
+{
+    if (!tool_ || !pane_ || pane_->busy()) return;
+    std::vector<MenuItem> items;
+    std::size_t tasks = 0;
+    pane_->perform([&](Console& console) {
+        const ContextMenu taskMenu = console.taskMenu();
+        const ContextMenu topMenu = console.topMenu();
+        items = taskMenu.entries();
+        tasks = items.size();
+        items.insert(items.end(), topMenu.entries().begin(), topMenu.entries().end());
+    });
+    QStringList captions{actions_[Command::refresh]->text()};
+    for (const auto& item : items) captions << QString::fromStdString(item.caption);
+    captions = withMnemonics(captions);
+
+    QMenu* menu = menus_[CommandMenu::action];
+    const bool firstTime = consoleActions_.empty();
+    for (std::size_t place = 0; place < items.size(); ++place) {
+        const MenuItem& item = items[place];
+        QAction*& made = consoleActions_[item.name];
+        if (!made) {
+            made = new QAction(this);
+            made->setShortcut(keyOfConsoleItem(item.name));
+            made->setIcon(toolIcon(iconOfConsoleItem(item.name)));
+            connect(made, &QAction::triggered, this, [this, name = item.name] {
+                if (pane_) pane_->perform([&](Console& console) { console.clickMenuItem(name); });
+            });
+            if (place == tasks)
+                menu->insertSeparator(menu->actions().value(menu->actions().size() - 2));
+            menu->insertAction(menu->actions().value(menu->actions().size() - 2), made);
+        }
+        made->setText(captions[static_cast<qsizetype>(place) + 1]);
+        made->setStatusTip(QString::fromStdString(item.statusBarText));
+        made->setToolTip(toolTipOf(*made));
+        made->setVisible(item.visible);
+        made->setEnabled(item.enabled);
+        if (firstTime) toolBar_->addAction(made);
+        if (firstTime && place + 1 == tasks) toolBar_->addSeparator();
+    }
+    if (!firstTime) return;
+    toolBar_->addSeparator();
+    for (const Command command :
+         {Command::refresh, Command::find, Command::filter, Command::toggleBookmark, Command::help})
+        toolBar_->addAction(actions_[command]);
+}
+
+QAction* MainWindow::consoleAction(const std::string& name)
+{
+    const auto found = consoleActions_.find(name);
+    return found == consoleActions_.end() ? nullptr : found->second;
+}
+
+void MainWindow::updateActions()
+{
+    const bool log = pane_ && pane_->logShown();
+    const bool table = pane_ && pane_->table();
+    for (const auto& [command, made] : actions_) {
+        if (logCommands.count(command) != 0) made->setEnabled(log);
+        if (tableCommands.count(command) != 0) made->setEnabled(table);
+    }
+    actions_[Command::refresh]->setEnabled(pane_ != nullptr);
+    actions_[Command::switchPane]->setEnabled(pane_ != nullptr);
+    actions_[Command::details]->setChecked(pane_ && pane_->log().detailsShown());
+    const auto scheme = theme::schemeOf(settings_.value(QStringLiteral("window/theme")).toString());
+    actions_[Command::systemTheme]->setChecked(scheme == theme::Scheme::system);
+    actions_[Command::lightTheme]->setChecked(scheme == theme::Scheme::light);
+    actions_[Command::darkTheme]->setChecked(scheme == theme::Scheme::dark);
+}

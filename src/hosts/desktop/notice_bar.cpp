@@ -1,0 +1,51 @@
+#include "hosts/desktop/notice_bar.h"
+
+#include "hosts/desktop/icons.h"
+#include "hosts/desktop/theme.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QToolButton>
+
+NoticeBar::NoticeBar(QWidget* parent) : QWidget(parent), text_(new QLabel(this))
+{
+    auto* symbol = new QLabel(this);
+    symbol->setPixmap(toolIcon(QStringLiteral("level-warning")).pixmap(18, 18));
+    text_->setWordWrap(true);
+    text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* close = new QToolButton(this);
+    close->setIcon(toolIcon(QStringLiteral("close")));
+    close->setAutoRaise(true);
+    close->setToolTip(tr("Close this notice"));
+    close->setAccessibleName(close->toolTip());
+    close->setFocusPolicy(Qt::TabFocus);
+    connect(close, &QToolButton::clicked, this, &QWidget::hide);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(12, 6, 8, 6);
+    row->setSpacing(10);
+    row->addWidget(symbol);
+    row->addWidget(text_, 1);
+    row->addWidget(close);
+    hide();
+}
+
+void NoticeBar::say(const QString& sentence)
+{
+    text_->setText(sentence);
+    setAccessibleName(sentence);
+    setVisible(!sentence.isEmpty());
+}
+
+QString NoticeBar::sentence() const
+{
+    return isHidden() ? QString() : text_->text();
+}
+
+void NoticeBar::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), theme::noticeTint(palette()));
+    painter.setPen(theme::outline(palette()));
+    painter.drawLine(rect().bottomLeft(), rect().bottomRight());
+}

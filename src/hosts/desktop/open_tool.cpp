@@ -1,0 +1,52 @@
+#include "hosts/desktop/open_tool.h"
+
+#include "shell/snapin_definition.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include <unistd.h>
+
+OpenTool::OpenTool(const std::string& folder, const std::string& installedData, HostFacts facts,
+                   Desktop& desktop)
+    : site_(folder, installedData, std::move(facts)),
+      traceDatabases_([this](const std::string& path) { return site_.paths().machinePath(path); },
+                      site_.codePage()),
+      platform_(site_.platform(desktop, traceDatabases_)), context_(platform_),
+      definition_(snapinDefinition()), console_(definition_), snapIn_(context_, console_)
+{}
+
+void OpenTool::load()
+{
+    loaded_ = true;
+    console_.load(snapIn_);
+}
+
+void OpenTool::close()
+{
+    if (!loaded_) return;
+    loaded_ = false;
+    console_.unload();
+}
+
+bool OpenTool::writable() const
+{
+    return ::access(site_.folder().c_str(), W_OK) == 0;
+}
+
+bool OpenTool::present() const
+{
+    return isSite(site_.folder());
+}
+
+std::string OpenTool::toolPath(const std::string& machinePath) const
+{
+    const std::string drives = site_.folder() + "/drive_";
+    if (machinePath.compare(0, drives.size(), drives) != 0) return machinePath;
+    std::string inside = machinePath.substr(drives.size());
+    if (inside.empty() || (inside.size() > 1 && inside[1] != '/')) return machinePath;
+    std::replace(inside.begin(), inside.end(), '/', '\\');
+    const char letter = static_cast<char>(std::toupper(static_cast<unsigned char>(inside[0])));
+    const std::string below = inside.size() > 1 ? inside.substr(1) : "\\";
+    return std::string(1, letter) + ":" + below;
+}

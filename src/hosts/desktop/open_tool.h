@@ -1,0 +1,52 @@
+#pragma once
+
+#include "backends/jet/jet_engine.h"
+#include "backends/portable/site.h"
+#include "core/tool_context.h"
+#include "platform/console.h"
+#include "shell/snapin_orvan_diagnostics.h"
+
+#include <string>
+
+class Desktop;
+
+/// The tool on a site: from its loading to its unloading.
+class OpenTool {
+public:
+    /// Opens a site; `desktop` outlives the tool. Raises what `Site` raises. The console is there,
+    /// for a window to observe, and the snap-in is not loaded yet.
+    OpenTool(const std::string& folder, const std::string& installedData, HostFacts facts,
+             Desktop& desktop);
+    OpenTool(const OpenTool&) = delete;
+    OpenTool& operator=(const OpenTool&) = delete;
+
+    void load();
+
+    /// Unloads the snap-in, once. Raises what it raises.
+    void close();
+
+    Site& site() { return site_; }
+    ToolContext& context() { return context_; }
+    Console& console() { return console_; }
+    snapinOrvanDiagnostics& snapIn() { return snapIn_; }
+
+    /// Whether the site can be written to.
+    bool writable() const;
+
+    /// Whether the site's folder still is one.
+    bool present() const;
+
+    /// A file that the person picked, as the tool names it: a file of the site's drive by its
+    /// drive, another one by its path on the machine.
+    std::string toolPath(const std::string& machinePath) const;
+
+private:
+    Site site_;
+    jet::JetEngine traceDatabases_;
+    Platform platform_;
+    ToolContext context_;
+    SnapInDefinition definition_;
+    Console console_;
+    snapinOrvanDiagnostics snapIn_;
+    bool loaded_ = false;
+};

@@ -1,0 +1,35 @@
+#include "hosts/desktop/places.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string environment(const char* name)
+{
+    const char* value = std::getenv(name);
+    return value ? value : "";
+}
+
+} // namespace
+
+std::string places::defaultSite()
+{
+    if (const auto site = environment("ORVAN_SITE"); !site.empty()) return site;
+    fs::path data = environment("XDG_DATA_HOME");
+    if (data.empty()) data = fs::path(environment("HOME")) / ".local" / "share";
+    return (data / "orvandiag" / "site").string();
+}
+
+std::string places::installedData()
+{
+    std::error_code none;
+    const fs::path program = fs::read_symlink("/proc/self/exe", none);
+    if (none) return {};
+    const fs::path prefix = program.parent_path().parent_path();
+    for (const fs::path& folder : {prefix / "share" / "orvandiag", prefix / "data"})
+        if (fs::is_directory(folder, none)) return folder.string();
+    return {};
+}

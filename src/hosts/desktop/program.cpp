@@ -1,0 +1,107 @@
+#include "hosts/desktop/program.h"
+
+#include "backends/portable/sample/sample_server.h"
+#include "hosts/desktop/recent_sites.h"
+#include "runtime/run_time_error.h"
+
+#include <QObject>
+
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+QString notOpened(const std::string& folder, const std::string& why)
+{
+    return QObject::tr("The site %1 could not be opened: %2. Choose another one with Ctrl+Shift+O.")
+        .arg(QString::fromStdString(folder), QString::fromStdString(why));
+}
+
+} // namespace
+
+Program::Program(QSettings& settings, std::string installedData, HostFacts facts)
+    : settings_(settings), installedData_(std::move(installedData)), facts_(std::move(facts)),
+      window_(settings)
+{
+    desktop_.setWindow(&window_);
+    desktop_.setManual(installedData_ + "/help");
+    desktop_.setToolPath(
+        [this](const std::string& path) { return tool_ ? tool_->toolPath(path) : path; });
+    QObject::connect(&window_, &MainWindow::siteAsked,
+                     [this](const QString& folder) { openSite(folder.toStdString()); });
+    QObject::connect(&window_, &MainWindow::sampleAsked,
+                     [this](const QString& folder) { openSample(folder.toStdString()); });
+    QObject::connect(&window_, &MainWindow::helpAsked, [this](int topic) {
+        if (desktop_.showHelp({}, topic) == 0)
+            window_.showProblem(
+                QObject::tr("The manual is not beside the tool. Install it again to read it."));
+    });
+}
+
+Program::~Program()
+{
+    window_.setTool(nullptr);
+}
+
+void Program::openSite(const std::string& folder)
+{
+    std::unique_ptr<OpenTool> opened;
+    try {
+        if (!isSite(folder))
+            return window_.showProblem(
+                notOpened(folder, "it has no site.ini, registry.reg or drive_c in it"));
+        opened = std::make_unique<OpenTool>(folder, installedData_, facts_, desktop_);
+    } catch (const RunTimeError& error) {
+        return window_.showProblem(notOpened(folder, error.description()));
+    }
+    close();
+    tool_ = std::move(opened);
+    rememberSite(settings_, QString::fromStdString(tool_->site().folder()));
+    window_.setTool(tool_.get());
+}
+
+void Program::openSample(const std::string& folder)
+{
+    try {
+        fs::create_directories(fs::path(folder).parent_path());
+        SampleOptions options;
+        options.folder = folder;
+        options.dataFolder = installedData_;
+        makeSampleServer(options);
+    } catch (const RunTimeError& error) {
+        return window_.showProblem(
+            QObject::tr("No sample server could be made in %1: %2. Choose a new folder.")
+                .arg(QString::fromStdString(folder), QString::fromStdString(error.description())));
+    } catch (const fs::filesystem_error& error) {
+        return window_.showProblem(
+            QObject::tr("No sample server could be made in %1: %2. Choose another folder.")
+                .arg(QString::fromStdString(folder),
+                     QString::fromStdString(error.code().message())));
+    }
+    openSite(folder);
+}
+
+void Program::openDefault(const std::string& folder)
+{
+    std::error_code none;
+    const bool missing = !fs::exists(folder, none) || fs::is_empty(folder, none);
+    if (missing)
+        openSample(folder);
+    else
+        openSite(folder);
+}
+
+void Program::close()
+{
+    window_.setTool(nullptr);
+    if (!tool_) return;
+    const std::unique_ptr<OpenTool> leaving = std::move(tool_);
+    try {
+        leaving->close();
+    } catch (const RunTimeError& error) {
+        window_.showProblem(QObject::tr("The site was not closed cleanly: %1. The language of its "
+                                        "event log may not be the first one; open it again.")
+                                .arg(QString::fromStdString(error.description())));
+    }
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "backends/portable/site_host_module.h"
+#include "hosts/desktop/desktop_services.h"
+#include "hosts/desktop/main_window.h"
+#include "hosts/desktop/open_tool.h"
+
+#include <memory>
+#include <string>
+
+class QSettings;
+
+/// The window, and the tool on the site that is open in it.
+class Program {
+public:
+    /// `settings` outlives the program. `installedData` is what ships with the tool.
+    Program(QSettings& settings, std::string installedData, HostFacts facts);
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    /// Opens a site in the place of the one before. A site that can't be opened leaves what was
+    /// open, and the window says why.
+    void openSite(const std::string& folder);
+
+    /// Makes a sample server in a folder, with the folders above it, and opens it.
+    void openSample(const std::string& folder);
+
+    /// Opens the site at the default place, which is made as a sample server if it is not there.
+    void openDefault(const std::string& folder);
+
+    /// Lets the tool go.
+    void close();
+
+    MainWindow& window() { return window_; }
+    OpenTool* tool() { return tool_.get(); }
+    DesktopServices& desktop() { return desktop_; }
+
+private:
+    QSettings& settings_;
+    std::string installedData_;
+    HostFacts facts_;
+    DesktopServices desktop_;
+    std::unique_ptr<OpenTool> tool_;
+    MainWindow window_;
+};

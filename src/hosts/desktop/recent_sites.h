@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QStringList>
+
+class QSettings;
+
+/// Folders of the sites that were opened, the latest first.
+QStringList recentSites(const QSettings& settings);
+
+/// Puts a folder first; the list keeps eight.
+void rememberSite(QSettings& settings, const QString& folder);

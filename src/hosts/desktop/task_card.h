@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QAbstractButton>
+
+/// A button with a symbol, a title and a sentence that tells what it does.
+class TaskCard final : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    TaskCard(const QIcon& symbol, const QString& title, const QString& help,
+             QWidget* parent = nullptr);
+
+    QSize sizeHint() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QFont titleFont() const;
+    int textLeft() const;
+    int textHeight(int width) const;
+
+    QString help_;
+};

@@ -1,0 +1,375 @@
+#include "hosts/desktop/main_window.h"
+
+#include "hosts/desktop/list_table.h"
+#include "hosts/desktop/log_view.h"
+#include "hosts/desktop/program.h"
+#include "hosts/desktop/recent_sites.h"
+#include "hosts/desktop/task_pad_view.h"
+#include "hosts/desktop/test_window.h"
+#include "hosts/desktop/theme.h"
+#include "platform/console.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QClipboard>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+#include <QToolBar>
+#include <QTreeView>
+
+#include <gmock/gmock.h>
+
+#include <set>
+
+namespace {
+
+using testing::HasSubstr;
+
+constexpr const char* consoleItems[] = {"mnuConfigureMacroTrace", "mnuConfigureMicroTraces",
+                                        "mnuDisableAllTraces",    "mnuStartNewLogFiles",
+                                        "mnuGatherLogFiles",      "mnuConfigureLogSettings",
+                                        "mnuOpenLogFile",         "mnuChangeLanguage"};
+
+/// All actions of the menus, those of menus inside menus too.
+QList<QAction*> menuActions(const QList<QAction*>& actions)
+{
+    QList<QAction*> all;
+    for (QAction* action : actions) {
+        if (action->isSeparator()) continue;
+        if (action->menu())
+            all << menuActions(action->menu()->actions());
+        else
+            all << action;
+    }
+    return all;
+}
+
+QString signalTime(TestWindow& shown)
+{
+    return QString::fromStdString(shown.server.folder().read("site/registry.reg"))
+        .section("\"Cycle Diag File Time Set\"=", 1)
+        .section('\n', 0, 0);
+}
+
+TEST(MainWindow, OpensOnTheTaskPadWithSixTasks)
+{
+    TestWindow shown;
+    const auto cards = shown.pane().taskPad().findChildren<QAbstractButton*>();
+    ASSERT_EQ(6, cards.size());
+    EXPECT_EQ(QStringLiteral("Configure Macro Traces"), cards[0]->text());
+    EXPECT_TRUE(cards[0]->isVisible());
+    EXPECT_FALSE(cards[0]->accessibleDescription().isEmpty());
+    EXPECT_EQ(QStringLiteral("Kelma Orvan Diagnostics - Orvan Diagnostic Tool"),
+              shown.window->windowTitle());
+}
+
+TEST(MainWindow, EveryCommandHasAMenuEntryAndAKeyOfItsOwn)
+{
+    TestWindow shown;
+    const auto inMenus = menuActions(shown.window->menuBar()->actions());
+    std::set<std::string> keys;
+    const auto check = [&](QAction* action, const std::string& name) {
+        SCOPED_TRACE(name);
+        ASSERT_NE(nullptr, action);
+        EXPECT_TRUE(inMenus.contains(action));
+        ASSERT_FALSE(action->shortcut().isEmpty());
+        EXPECT_TRUE(keys.insert(action->shortcut().toString().toStdString()).second)
+            << "used twice";
+        EXPECT_FALSE(action->text().isEmpty());
+    };
+    for (const auto& info : commandInfos()) check(&shown.window->action(info.command), info.text);
+    for (const char* name : consoleItems) check(shown.window->consoleAction(name), name);
+}
+
+TEST(MainWindow, TheLettersOfAMenuAreUnique)
+{
+    TestWindow shown;
+    QList<QMenu*> menus = shown.window->findChildren<QMenu*>();
+    QList<QAction*> bar = shown.window->menuBar()->actions();
+    const auto check = [](const QString& where, const QList<QAction*>& actions) {
+        std::set<QChar> letters;
+        for (const QAction* action : actions) {
+            const auto at = action->text().indexOf('&');
+            if (action->isSeparator() || at < 0) continue;
+            EXPECT_TRUE(letters.insert(action->text()[at + 1].toLower()).second)
+                << where.toStdString() << ": " << action->text().toStdString();
+        }
+    };
+    check("menu bar", bar);
+    for (const QMenu* menu : menus) check(menu->title(), menu->actions());
+}
+
+TEST(MainWindow, MenuTextsAreThoseOfTheTool)
+{
+    TestWindow shown;
+    const auto text = [&](const char* name) {
+        return QString(shown.window->consoleAction(name)->text()).remove('&');
+    };
+    EXPECT_EQ(QStringLiteral("Configure Macro Traces"), text("mnuConfigureMacroTrace"));
+    EXPECT_EQ(QStringLiteral("Reset to Default Traces"), text("mnuDisableAllTraces"));
+    EXPECT_EQ(QStringLiteral("Open Log File"), text("mnuOpenLogFile"));
+    EXPECT_EQ(QStringLiteral("Use this action to have Orvan close current log files and start "
+                             "new ones."),
+              shown.window->consoleAction("mnuStartNewLogFiles")->statusTip());
+}
+
+TEST(MainWindow, StartsNewLogFilesByTheCardTheMenuAndTheKey)
+{
+    TestWindow shown;
+    const QString before = signalTime(shown);
+    auto* card = shown.pane().taskPad().findChild<QAbstractButton*>("task-4");
+    ASSERT_NE(nullptr, card);
+    card->setFocus();
+    QTest::keyClick(card, Qt::Key_Return);
+    EXPECT_EQ(QStringLiteral("New log files started."), shown.window->statusText());
+    const QString byCard = signalTime(shown);
+    EXPECT_NE(before, byCard);
+
+    shown.window->consoleAction("mnuStartNewLogFiles")->trigger();
+    EXPECT_EQ(QStringLiteral("New log files started."), shown.window->statusText());
+    EXPECT_EQ(QKeySequence("Ctrl+4"),
+              shown.window->consoleAction("mnuStartNewLogFiles")->shortcut());
+}
+
+TEST(MainWindow, OpensALogFileThatThePersonPicks)
+{
+    TestWindow shown;
+    const std::string path = "C:\\KelmaOrvan\\Logs\\" + shown.server.currentLog("KoNotify");
+    shown.desktop.picks(path);
+    shown.window->consoleAction("mnuOpenLogFile")->trigger();
+    EXPECT_TRUE(shown.pane().logShown());
+    EXPECT_EQ(QString::fromStdString(path), shown.pane().selectedName());
+    EXPECT_EQ(QStringLiteral("Format Completed."), shown.window->statusText());
+    EXPECT_GT(shown.log().model().rowCount(), 10);
+
+    shown.window->consoleAction("mnuOpenLogFile")->trigger();
+    EXPECT_EQ(QString::fromStdString(path), shown.pane().selectedName()) << "a cancelled picker";
+}
+
+TEST(MainWindow, OpensALogByEnterInTheListOfLogs)
+{
+    TestWindow shown;
+    shown.showLog("KoCSMgr");
+    shown.window->showNode("KoCSMgr");
+    ListTable& table = *shown.pane().table();
+    table.goTo(1);
+    QTest::keyClick(&table, Qt::Key_Return);
+    settle();
+    EXPECT_TRUE(shown.pane().logShown());
+    EXPECT_NE(QString::fromStdString(shown.server.currentLog("KoCSMgr")),
+              shown.pane().selectedName());
+}
+
+TEST(MainWindow, ShowsTheProcessesBelowTheirNode)
+{
+    TestWindow shown;
+    shown.window->showNode("Processes");
+    QTreeView* list = nullptr;
+    for (auto* view : shown.pane().findChildren<QTreeView*>())
+        if (view->accessibleName() == "Processes") list = view;
+    ASSERT_NE(nullptr, list);
+    EXPECT_TRUE(list->isVisible());
+    ASSERT_EQ(5, list->model()->rowCount(list->rootIndex()));
+    emit list->activated(list->model()->index(0, 0, list->rootIndex()));
+    EXPECT_EQ("KoCSMgr", shown.console().currentScopeItem().key());
+}
+
+TEST(MainWindow, CommandsOfALogAreOfferedOnALogAlone)
+{
+    TestWindow shown;
+    EXPECT_FALSE(shown.window->action(Command::find).isEnabled());
+    EXPECT_FALSE(shown.window->action(Command::copy).isEnabled());
+    shown.showLog("KoCSMgr");
+    EXPECT_TRUE(shown.window->action(Command::find).isEnabled());
+    EXPECT_TRUE(shown.window->action(Command::copy).isEnabled());
+    shown.window->showNode("KoCSMgr");
+    EXPECT_FALSE(shown.window->action(Command::find).isEnabled());
+    EXPECT_TRUE(shown.window->action(Command::copy).isEnabled());
+}
+
+TEST(MainWindow, CopiesTheSelectedLines)
+{
+    TestWindow shown;
+    shown.showLog("KoCSMgr");
+    shown.log().table().goTo(2);
+    shown.window->action(Command::copy).trigger();
+    EXPECT_EQ(shown.log().model().rowText(2).trimmed() + '\n',
+              QGuiApplication::clipboard()->text());
+    shown.window->action(Command::selectAll).trigger();
+    shown.window->action(Command::copyCsv).trigger();
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(
+        "#,Timestamp,Source,Trace No.,Component,Level,Trace\r\n000001,"));
+}
+
+TEST(MainWindow, GoesFromTheTreeToTheViewAndBack)
+{
+    TestWindow shown;
+    shown.showLog("KoCSMgr");
+    shown.window->activateWindow();
+    shown.pane().tree().setFocus();
+    shown.window->action(Command::switchPane).trigger();
+    EXPECT_EQ(&shown.log().table(), shown.window->focusWidget());
+    shown.window->action(Command::switchPane).trigger();
+    EXPECT_EQ(&shown.pane().tree(), shown.window->focusWidget());
+}
+
+TEST(MainWindow, ChangesTheThemeAndTheSizeOfTraces)
+{
+    TestWindow shown;
+    shown.showLog("KoCSMgr");
+    shown.window->action(Command::darkTheme).trigger();
+    EXPECT_TRUE(theme::isDark(QApplication::palette()));
+    EXPECT_EQ(QStringLiteral("dark"), shown.settings.value("window/theme").toString());
+    shown.window->action(Command::lightTheme).trigger();
+    EXPECT_FALSE(theme::isDark(QApplication::palette()));
+
+    const int usual = shown.log().table().font().pointSize();
+    const int row = shown.log().table().rowHeight(0);
+    for (int step = 0; step < 4; ++step) shown.window->action(Command::largerText).trigger();
+    EXPECT_EQ(usual + 4, shown.log().table().font().pointSize());
+    EXPECT_GT(shown.log().table().rowHeight(0), row);
+    shown.window->action(Command::smallerText).trigger();
+    EXPECT_EQ(usual + 3, shown.log().table().font().pointSize());
+    shown.window->action(Command::normalText).trigger();
+    EXPECT_EQ(usual, shown.log().table().font().pointSize());
+}
+
+TEST(MainWindow, SaysThatTheSiteHasGoneAndStays)
+{
+    TestWindow shown;
+    std::filesystem::rename(shown.server.site(), shown.server.folder() / "elsewhere");
+    shown.window->action(Command::refresh).trigger();
+    EXPECT_THAT(shown.window->problem().toStdString(), HasSubstr("no longer there"));
+    std::filesystem::rename(shown.server.folder() / "elsewhere", shown.server.site());
+}
+
+TEST(MainWindow, SaysThatALanguageHasNoCatalogue)
+{
+    TestWindow shown;
+    shown.window->setTool(nullptr);
+    shown.tool->close();
+    shown.tool.reset();
+    std::filesystem::remove(shown.server.site() +
+                            "/drive_c/OrvanDiagnostics/ZMKbrandingres_FRA.txt");
+    std::ofstream(shown.server.site() + "/site.ini", std::ios::trunc) << "[site]\nlanguage=1036\n";
+    // No data beside the tool to supply the catalogue from.
+    shown.tool = std::make_unique<OpenTool>(shown.server.site(), "", HostFacts{}, shown.desktop);
+    shown.window->setTool(shown.tool.get());
+    EXPECT_THAT(shown.window->problem().toStdString(), HasSubstr("no catalogue"));
+    EXPECT_EQ(6, shown.pane().taskPad().findChildren<QAbstractButton*>().size());
+}
+
+TEST(MainWindow, CutsNoTextAtEightHundredBySixHundred)
+{
+    TestWindow shown;
+    shown.window->resize(800, 600);
+    shown.showLog("KoCSMgr");
+    shown.window->action(Command::filter).trigger();
+    shown.window->action(Command::find).trigger();
+    settle();
+    EXPECT_EQ(QSize(800, 600), shown.window->size());
+    const auto check = [&] {
+        for (auto* widget : shown.window->findChildren<QWidget*>()) {
+            const bool text =
+                qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget);
+            if (!text || !widget->isVisible()) continue;
+            if (widget->accessibleName() == QLatin1String("Status")) continue;
+            const auto* label = qobject_cast<QLabel*>(widget);
+            if (label && label->wordWrap()) {
+                EXPECT_GE(widget->height(), label->heightForWidth(widget->width()))
+                    << label->text().toStdString();
+                continue;
+            }
+            EXPECT_GE(widget->width(), widget->minimumSizeHint().width())
+                << widget->metaObject()->className() << ' '
+                << widget->accessibleName().toStdString();
+            EXPECT_GE(widget->height(), widget->minimumSizeHint().height())
+                << widget->metaObject()->className();
+        }
+    };
+    check();
+    shown.window->showNode("Static Node");
+    settle();
+    check();
+}
+
+struct TestProgram {
+    TestProgram()
+        : settings((testApplication(), QString::fromStdString(folder / "s.ini")),
+                   QSettings::IniFormat)
+    {
+        program.window().show();
+    }
+
+    TemporaryFolder folder;
+    QSettings settings;
+    Program program{settings, ORVAN_DATA_OUTPUT, HostFacts{}};
+};
+
+TEST(Program, MakesASampleServerWhereNoSiteIs)
+{
+    TestProgram test;
+    test.program.openDefault(test.folder / "data/orvandiag/site");
+    EXPECT_TRUE(test.program.window().problem().isEmpty())
+        << test.program.window().problem().toStdString();
+    ASSERT_NE(nullptr, test.program.tool());
+    EXPECT_TRUE(test.program.tool()->present());
+    EXPECT_EQ(QStringList{QString::fromStdString(test.folder / "data/orvandiag/site")},
+              recentSites(test.settings));
+}
+
+TEST(Program, SaysInASentenceWhyASiteDoesNotOpenAndKeepsTheOneThatIs)
+{
+    TestProgram test;
+    test.program.openDefault(test.folder / "site");
+    const OpenTool* open = test.program.tool();
+
+    test.program.openSite(test.folder.makeFolder("empty"));
+    EXPECT_THAT(test.program.window().problem().toStdString(), HasSubstr("no site.ini"));
+    test.folder.write("damaged/site.ini", "[site]\nwhat=this\n");
+    test.program.openSite(test.folder / "damaged");
+    EXPECT_THAT(test.program.window().problem().toStdString(), HasSubstr("site.ini line 2"));
+    test.folder.write("file", "");
+    test.program.openSample(test.folder / "file/below");
+    EXPECT_THAT(test.program.window().problem().toStdString(), HasSubstr("No sample server"));
+
+    EXPECT_EQ(open, test.program.tool());
+    EXPECT_NE(nullptr, test.program.window().pane());
+}
+
+TEST(Program, OpensOneSiteAfterTheOther)
+{
+    TestProgram test;
+    test.program.openSample(test.folder / "one");
+    test.program.openSample(test.folder / "two");
+    EXPECT_EQ(test.folder / "two", test.program.tool()->site().folder());
+    EXPECT_EQ(2, recentSites(test.settings).size());
+    emit test.program.window().siteAsked(QString::fromStdString(test.folder / "one"));
+    EXPECT_EQ(test.folder / "one", test.program.tool()->site().folder());
+    test.program.close();
+    EXPECT_EQ(nullptr, test.program.tool());
+    EXPECT_EQ(nullptr, test.program.window().pane());
+}
+
+TEST(OpenTool, NamesAPickedFileByItsDriveInsideTheSite)
+{
+    TestWindow shown;
+    const std::string site = shown.server.site();
+    EXPECT_EQ("C:\\KelmaOrvan\\Logs", shown.tool->toolPath(shown.server.logs()));
+    EXPECT_EQ("C:\\", shown.tool->toolPath(site + "/drive_c"));
+    EXPECT_EQ("/tmp/other.txt", shown.tool->toolPath("/tmp/other.txt"));
+    EXPECT_EQ(site + "/drive_copy/x", shown.tool->toolPath(site + "/drive_copy/x"));
+}
+
+TEST(Help, ShowsThePageOfATopicAndSaysWhenThereIsNoManual)
+{
+    TestProgram test;
+    EXPECT_NE(0, test.program.desktop().showHelp("", 320));
+    test.program.desktop().setManual(test.folder / "none");
+    emit test.program.window().helpAsked(0);
+    EXPECT_THAT(test.program.window().problem().toStdString(), HasSubstr("manual"));
+}
+
+} // namespace

@@ -1,0 +1,109 @@
+#include "hosts/desktop/test_window.h"
+
+#include "hosts/desktop/theme.h"
+#include "platform/console.h"
+
+#include <cstdio>
+#include <stdexcept>
+
+namespace {
+
+/// All that Qt says but for what the offscreen platform says of itself at each window.
+void passOn(QtMsgType, const QMessageLogContext&, const QString& text)
+{
+    if (!text.startsWith(QLatin1String("This plugin does not support")))
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+} // namespace
+
+QApplication& testApplication()
+{
+    static int count = 1;
+    static char name[] = "desktop_test";
+    static char* arguments[] = {name, nullptr};
+    static const bool display = qputenv("QT_QPA_PLATFORM", "offscreen");
+    Q_UNUSED(display)
+    static const auto messages = qInstallMessageHandler(passOn);
+    Q_UNUSED(messages)
+    // Never destroyed: Qt's own statics are gone when those of a program go.
+    static QApplication* const application = new QApplication(count, arguments);
+    static const bool themed = (theme::apply(theme::Scheme::light), true);
+    Q_UNUSED(themed)
+    return *application;
+}
+
+void settle()
+{
+    // An event may post another one.
+    for (int round = 0; round < 5; ++round) QCoreApplication::processEvents();
+}
+
+TestServer::TestServer(std::size_t lines, LogFields fields)
+{
+    SampleOptions options;
+    options.folder = site();
+    options.dataFolder = ORVAN_DATA_OUTPUT;
+    options.lines = lines;
+    options.logFields = fields;
+    makeSampleServer(options);
+}
+
+std::string TestServer::currentLog(const std::string& process) const
+{
+    std::string latest;
+    for (const auto& entry : std::filesystem::directory_iterator(logs())) {
+        const std::string name = entry.path().filename().string();
+        const bool ofProcess = name.rfind("diag_" + process + "_", 0) == 0;
+        if (ofProcess && name.find("_fmtd") == std::string::npos) latest = std::max(latest, name);
+    }
+    if (latest.empty()) throw std::runtime_error("the sample has no log of " + process);
+    return latest;
+}
+
+TestWindow::TestWindow(std::size_t lines, LogFields fields)
+    : server((testApplication(), lines), fields),
+      settings(QString::fromStdString(server.folder() / "console.ini"), QSettings::IniFormat)
+{
+    open();
+}
+
+TestWindow::~TestWindow()
+{
+    window.reset();
+    if (tool) tool->close();
+}
+
+void TestWindow::open()
+{
+    tool = std::make_unique<OpenTool>(server.site(), ORVAN_DATA_OUTPUT, HostFacts{}, desktop);
+    window = std::make_unique<MainWindow>(settings);
+    window->show();
+    window->setTool(tool.get());
+    settle();
+}
+
+void TestWindow::reopen()
+{
+    window.reset();
+    tool->close();
+    tool.reset();
+    open();
+}
+
+LogView& TestWindow::log()
+{
+    return pane().log();
+}
+
+ListView& TestWindow::shownList()
+{
+    return console().currentView().selectedScopePaneItem().resultView().list();
+}
+
+void TestWindow::showLog(const std::string& process)
+{
+    if (!window->showNode(server.currentLog(process)))
+        throw std::runtime_error("no node for the log of " + process);
+    settle();
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "backends/portable/sample/sample_server.h"
+#include "backends/portable/temporary_folder.h"
+#include "hosts/desktop/console_pane.h"
+#include "hosts/desktop/main_window.h"
+#include "hosts/desktop/open_tool.h"
+#include "support/fake_desktop.h"
+
+#include <QApplication>
+#include <QSettings>
+
+#include <cstddef>
+#include <memory>
+#include <string>
+
+/// The one application of a test program, on a display that nobody sees.
+QApplication& testApplication();
+
+/// Handles events until none is left.
+void settle();
+
+/// A sample server in a folder of its own.
+class TestServer {
+public:
+    explicit TestServer(std::size_t lines = 4000, LogFields fields = LogFields::basic);
+
+    std::string site() const { return folder_ / "site"; }
+    std::string logs() const { return site() + "/drive_c/KelmaOrvan/Logs"; }
+
+    /// The name of the log that a process writes to at the end of the sample's days.
+    std::string currentLog(const std::string& process) const;
+
+    const TemporaryFolder& folder() const { return folder_; }
+
+private:
+    TemporaryFolder folder_;
+};
+
+/// A window on a sample server, with a scripted person in the place of boxes and pickers.
+struct TestWindow {
+    explicit TestWindow(std::size_t lines = 4000, LogFields fields = LogFields::basic);
+    ~TestWindow();
+
+    ConsolePane& pane() { return *window->pane(); }
+    LogView& log();
+    Console& console() { return tool->console(); }
+    ListView& shownList();
+
+    /// Shows the current log of a process.
+    void showLog(const std::string& process);
+
+    /// Lets the window go and makes another one on the same site and settings.
+    void reopen();
+
+    TestServer server;
+    QSettings settings;
+    FakeDesktop desktop;
+    std::unique_ptr<OpenTool> tool;
+    std::unique_ptr<MainWindow> window;
+
+private:
+    void open();
+};
