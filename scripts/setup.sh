@@ -3,7 +3,7 @@
 # Packages for building and running; the tests need some readers more.
 build_packages=(
   ccache cmake g++ libbenchmark-dev libcli11-dev libgmock-dev libgtest-dev libpugixml-dev
-  libqt6svg6-dev libsqlite3-dev ninja-build nlohmann-json3-dev qt6-base-dev zlib1g-dev
+  qt6-svg-dev libsqlite3-dev ninja-build nlohmann-json3-dev qt6-base-dev zlib1g-dev
 )
 test_packages=(
   cabextract clang clang-format gcab libclang-rt-14-dev librapidcheck-dev mawk mdbtools p7zip-full

@@ -92,6 +92,10 @@ std::vector<std::unique_ptr<Command>> allCommands()
     commands.push_back(makeLogsCommand());
     commands.push_back(makeReadCommand());
     commands.push_back(makeCycleCommand());
+    commands.push_back(makeMacroCommand());
+    commands.push_back(makeMicroCommand());
+    commands.push_back(makeResetCommand());
+    commands.push_back(makeFlagsCommand());
     commands.push_back(makeGatherCommand());
     commands.push_back(makeAboutCommand());
     return commands;

@@ -1,0 +1,140 @@
+#include "hosts/cli/commands/commands.h"
+#include "hosts/cli/open_tool.h"
+#include "hosts/cli/output.h"
+#include "hosts/cli/wizard_driver.h"
+#include "platform/controls.h"
+#include "platform/xml.h"
+#include "runtime/text.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+
+constexpr const char* taskKey = "1";
+
+struct MacroTrace {
+    std::string group;
+    std::string trace;
+    std::string description;
+    bool enabled;
+};
+
+std::vector<MacroTrace> shownMacroTraces(const XmlDocument& catalogue)
+{
+    std::vector<MacroTrace> traces;
+    for (const auto& group : catalogue.selectNodes("HYBRIDTRACES/GA")) {
+        if (group->attribute("DONTSHOW")) continue;
+        for (const auto& trace : group->selectNodes("TRACE")) {
+            const auto description = trace->selectSingleNode("DESCRIPTION");
+            traces.push_back(
+                {group->attribute("NAME").value_or(""), trace->attribute("NAME").value_or(""),
+                 description ? description->text() : "", trace->attribute("Enabled") == "1"});
+        }
+    }
+    return traces;
+}
+
+/// The macro trace of "GROUP - TRACE". Raises CommandFailure for one that the wizard does not show.
+TreeNode& macroTraceNode(const TreeView& tree, const std::string& wanted)
+{
+    for (const TreeNode* group : tree.roots())
+        for (TreeNode* trace = group->child(); trace; trace = trace->next())
+            if (group->text() + " - " + trace->text() == wanted) return *trace;
+    throw CommandFailure("no macro trace \"" + wanted + "\"; orvandiag macro lists them");
+}
+
+class MacroCommand final : public Command {
+public:
+    std::string name() const override { return "macro"; }
+
+    std::string summary() const override
+    {
+        return "List the macro traces, or turn them on and off";
+    }
+
+    std::string explanation() const override
+    {
+        return "A macro trace is a named bundle of trace levels. Turning one off flips its "
+               "levels;\n"
+               "levels that another enabled macro trace needs, and default levels, come back.\n\n"
+               "  orvandiag macro\n"
+               "  orvandiag macro set --on \"Message Waiting - Lamp not lit\"";
+    }
+
+    void declare(CLI::App& app) override
+    {
+        set_ = app.add_subcommand("set", "Turn macro traces on and off");
+        set_->add_option("--on", on_, "turn on, as in \"GROUP - TRACE\"")->type_name("NAME");
+        set_->add_option("--off", off_, "turn off")->type_name("NAME");
+    }
+
+    void run(const GlobalOptions& options, Output& output) override
+    {
+        if (set_->parsed() && on_.empty() && off_.empty())
+            throw UsageError("macro set needs an --on or an --off");
+        OpenTool tool(options);
+        if (set_->parsed())
+            set(tool, output);
+        else
+            list(tool, output);
+    }
+
+private:
+    static void list(OpenTool& tool, Output& output)
+    {
+        std::vector<MacroTrace> traces;
+        if (tool.context().g_domMacroTraces)
+            traces = shownMacroTraces(*tool.context().g_domMacroTraces);
+        tool.close();
+        if (output.json()) {
+            Json all = Json::array();
+            for (const auto& trace : traces)
+                all.push_back({{"group", trace.group},
+                               {"trace", trace.trace},
+                               {"description", trace.description},
+                               {"enabled", trace.enabled}});
+            output.value(all);
+            return;
+        }
+        Table table({"On", "Macro trace", "Description"});
+        for (const auto& trace : traces)
+            table.row({trace.enabled ? "x" : "", trace.group + " - " + trace.trace,
+                       std::string(trim(trace.description))});
+        output.text(table.text());
+    }
+
+    void set(OpenTool& tool, Output& output) const
+    {
+        std::string summary;
+        const TraceChange change(tool);
+        {
+            WizardDriver wizard(tool, taskKey);
+            wizard.next();
+            auto& tree = wizard.control<TreeView>("treeviewMacroTrace");
+            for (const auto* names : {&on_, &off_})
+                for (const auto& name : *names) macroTraceNode(tree, name);
+            for (const auto& name : off_) tree.checkByPerson(macroTraceNode(tree, name), false);
+            for (const auto& name : on_) tree.checkByPerson(macroTraceNode(tree, name), true);
+            wizard.next();
+            summary = wizard.control<Label>("lblSummary").caption();
+            wizard.finish();
+        }
+        tool.close();
+        change.requireSuccess();
+        if (output.json())
+            output.value({{"summary", summary}});
+        else
+            output.line(replaceAll(summary, lineBreak, "\n"));
+    }
+
+    CLI::App* set_ = nullptr;
+    std::vector<std::string> on_;
+    std::vector<std::string> off_;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeMacroCommand()
+{
+    return std::make_unique<MacroCommand>();
+}

@@ -1,0 +1,163 @@
+#include "hosts/cli/commands/commands.h"
+#include "hosts/cli/open_tool.h"
+#include "hosts/cli/output.h"
+#include "hosts/cli/wizard_driver.h"
+#include "platform/controls.h"
+#include "platform/database.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "server/diagnostic_grid_catalogue.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+
+constexpr const char* taskKey = "2";
+constexpr const char* treeName = "treeviewMicroTraces";
+constexpr std::size_t levelTextStart = 4; ///< behind two digits and two blanks
+
+int levelOf(const TreeNode& node)
+{
+    return static_cast<int>(leadingNumber(node.text()));
+}
+
+std::string levelText(const TreeNode& node)
+{
+    return node.text().size() > levelTextStart ? node.text().substr(levelTextStart) : "";
+}
+
+/// Null for a component that the wizard does not show.
+TreeNode* componentNode(const TreeView& tree, const std::string& component)
+{
+    for (TreeNode* node : tree.roots())
+        if (node->key() == component) return node;
+    return nullptr;
+}
+
+/// The level of "COMPONENT:LEVEL". Raises CommandFailure for one that the wizard does not show,
+/// UsageError for a text of another form.
+TreeNode& levelNode(const TreeView& tree, const std::string& wanted)
+{
+    const auto colon = wanted.rfind(':');
+    const std::string digits = colon == std::string::npos ? "" : wanted.substr(colon + 1);
+    if (colon == 0 || digits.empty() || digits.size() > 2 ||
+        digits.find_first_not_of("0123456789") != std::string::npos)
+        throw UsageError("\"" + wanted + "\" is not of the form COMPONENT:LEVEL");
+    TreeNode* component = componentNode(tree, wanted.substr(0, colon));
+    if (!component)
+        throw CommandFailure("no component " + wanted.substr(0, colon) +
+                             " in the diagnostic grid; orvandiag micro lists them");
+    for (TreeNode* level = component->child(); level; level = level->next())
+        if (levelOf(*level) == std::stoi(digits)) return *level;
+    throw CommandFailure(component->key() + " has no level " + digits);
+}
+
+class MicroCommand final : public Command {
+public:
+    std::string name() const override { return "micro"; }
+
+    std::string summary() const override
+    {
+        return "List the trace levels of components, or turn levels on and off";
+    }
+
+    std::string explanation() const override
+    {
+        return "Levels that are reserved or not available are not listed, and come out off when "
+               "levels\n"
+               "are set, unless they are on by default.\n\n"
+               "  orvandiag micro CallFlow\n"
+               "  orvandiag micro set --on CallFlow:7 --off Conversation:3";
+    }
+
+    void declare(CLI::App& app) override
+    {
+        app.add_option("COMPONENT", component_, "one component instead of all");
+        set_ = app.add_subcommand("set", "Turn trace levels on and off");
+        set_->add_option("--on", on_, "turn on, as in CallFlow:7")->type_name("COMPONENT:LEVEL");
+        set_->add_option("--off", off_, "turn off")->type_name("COMPONENT:LEVEL");
+    }
+
+    void run(const GlobalOptions& options, Output& output) override
+    {
+        if (set_->parsed() && on_.empty() && off_.empty())
+            throw UsageError("micro set needs an --on or an --off");
+        OpenTool tool(options);
+        if (set_->parsed())
+            set(tool, output);
+        else
+            list(tool, output);
+    }
+
+private:
+    void list(OpenTool& tool, Output& output) const
+    {
+        if (tool.context().g_connection.state() != 1)
+            throw CommandFailure("cannot connect to the server's database");
+        Json all = Json::array();
+        std::string text;
+        {
+            WizardDriver wizard(tool, taskKey);
+            wizard.next();
+            const auto& tree = wizard.control<TreeView>(treeName);
+            if (!component_.empty() && !componentNode(tree, component_))
+                throw CommandFailure("no component " + component_ + " in the diagnostic grid");
+            for (const TreeNode* node : tree.roots()) {
+                if (!component_.empty() && node->key() != component_) continue;
+                Json levels = Json::array();
+                text += node->text() + "\n";
+                for (const TreeNode* level = node->child(); level; level = level->next()) {
+                    levels.push_back({{"level", levelOf(*level)},
+                                      {"text", levelText(*level)},
+                                      {"enabled", level->checked()}});
+                    text += (level->checked() ? "  x " : "    ") + level->text() + "\n";
+                }
+                all.push_back({{"component", node->key()},
+                               {"text", mdlDiagnosticGrids::GetDiagnosticLevelText(tool.context(),
+                                                                                   node->key())},
+                               {"levels", std::move(levels)}});
+            }
+        }
+        tool.close();
+        if (output.json())
+            output.value(all);
+        else
+            output.text(text);
+    }
+
+    void set(OpenTool& tool, Output& output) const
+    {
+        std::string summary;
+        const TraceChange change(tool);
+        {
+            WizardDriver wizard(tool, taskKey);
+            wizard.next();
+            auto& tree = wizard.control<TreeView>(treeName);
+            for (const auto* names : {&on_, &off_})
+                for (const auto& name : *names) levelNode(tree, name);
+            for (const auto& name : off_) tree.checkByPerson(levelNode(tree, name), false);
+            for (const auto& name : on_) tree.checkByPerson(levelNode(tree, name), true);
+            wizard.next();
+            summary = wizard.control<Label>("lblCompletionStatment").caption();
+            wizard.finish();
+        }
+        tool.close();
+        change.requireSuccess();
+        if (output.json())
+            output.value({{"summary", summary}});
+        else
+            output.line(summary);
+    }
+
+    CLI::App* set_ = nullptr;
+    std::string component_;
+    std::vector<std::string> on_;
+    std::vector<std::string> off_;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeMicroCommand()
+{
+    return std::make_unique<MicroCommand>();
+}

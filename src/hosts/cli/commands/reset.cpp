@@ -1,0 +1,52 @@
+#include "hosts/cli/commands/commands.h"
+#include "hosts/cli/open_tool.h"
+#include "hosts/cli/output.h"
+#include "hosts/cli/wizard_driver.h"
+#include "platform/controls.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+
+constexpr const char* taskKey = "3";
+
+class ResetCommand final : public Command {
+public:
+    std::string name() const override { return "reset"; }
+
+    std::string summary() const override { return "Put all traces back to the default"; }
+
+    std::string explanation() const override
+    {
+        return "Every level goes off but the ones that are on by default, and every macro trace "
+               "that was\n"
+               "ever switched is recorded as off.";
+    }
+
+    void declare(CLI::App&) override {}
+
+    void run(const GlobalOptions& options, Output& output) override
+    {
+        OpenTool tool(options);
+        const TraceChange change(tool);
+        {
+            WizardDriver wizard(tool, taskKey);
+            wizard.control<CheckBox>("chkDisableAllTraces").click();
+            wizard.finish();
+        }
+        tool.close();
+        change.requireSuccess();
+        const std::string summary = "All traces are back to the default.";
+        if (output.json())
+            output.value({{"summary", summary}});
+        else
+            output.line(summary);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeResetCommand()
+{
+    return std::make_unique<ResetCommand>();
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "hosts/cli/open_tool.h"
+#include "platform/wizard_sheet.h"
+
+#include <memory>
+#include <string>
+
+/// Drives a wizard as a person does, for a host that shows nothing.
+class WizardDriver {
+public:
+    /// Opens the wizard of a task of the task pad. Raises CommandFailure when none comes up.
+    WizardDriver(OpenTool& tool, const std::string& taskKey);
+
+    /// Leaves the wizard by Cancel when it is still open: nothing is applied.
+    ~WizardDriver();
+    WizardDriver(const WizardDriver&) = delete;
+    WizardDriver& operator=(const WizardDriver&) = delete;
+
+    WizardSheet& sheet() { return *sheet_; }
+
+    /// Presses Next, or Finish. Raises CommandFailure when the button is disabled.
+    void next();
+    void finish();
+
+    /// A control of the page on show. Raises CommandFailure for a name that it does not have.
+    template <typename Kind>
+    Kind& control(const std::string& name)
+    {
+        auto* found = dynamic_cast<Kind*>(sheet_->currentPage().control(name));
+        if (!found) missing(name);
+        return *found;
+    }
+
+private:
+    [[noreturn]] void missing(const std::string& name) const;
+
+    std::shared_ptr<OpenSheet> open_;
+    WizardSheet* sheet_ = nullptr;
+};
+
+/// Hears of what goes wrong while traces are changed, and lets nobody try without a database.
+class TraceChange {
+public:
+    /// Raises CommandFailure when the tool has no connection.
+    explicit TraceChange(OpenTool& tool);
+    ~TraceChange();
+    TraceChange(const TraceChange&) = delete;
+    TraceChange& operator=(const TraceChange&) = delete;
+
+    /// Raises CommandFailure when something did not work.
+    void requireSuccess() const;
+
+private:
+    OpenTool& tool_;
+    std::string failure_;
+};

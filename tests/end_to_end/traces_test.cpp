@@ -1,0 +1,188 @@
+#include "end_to_end/sample_site.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using nlohmann::json;
+using testing::HasSubstr;
+
+struct TraceCommands : SampleSite {
+    std::string sql(const std::string& statement) const
+    {
+        const Outcome shell =
+            runProgram({"sqlite3", (site / "OrvanDirDb.sqlite").string(), statement});
+        EXPECT_EQ(0, shell.status) << shell.err;
+        return shell.out.substr(0, shell.out.find_last_not_of('\n') + 1);
+    }
+
+    int flags(const std::string& component) const
+    {
+        return std::stoi(
+            sql("SELECT Flags FROM vw_LoggerDiagnosticGrid WHERE Name='" + component + "'"));
+    }
+
+    /// A macro trace that is off, as "GROUP - TRACE".
+    std::string macroTrace() const
+    {
+        for (const auto& trace : runJson({"macro"}).json())
+            if (!trace["enabled"])
+                return trace["group"].get<std::string>() + " - " +
+                       trace["trace"].get<std::string>();
+        ADD_FAILURE() << "no macro trace is off";
+        return {};
+    }
+
+    json shown(const std::string& macroTrace) const
+    {
+        for (const auto& trace : runJson({"macro"}).json())
+            if (trace["group"].get<std::string>() + " - " + trace["trace"].get<std::string>() ==
+                macroTrace)
+                return trace;
+        return {};
+    }
+};
+
+TEST_F(TraceCommands, StatusShowsTheConnection)
+{
+    EXPECT_TRUE(runJson({"status"}).json()["connected"]);
+}
+
+TEST_F(TraceCommands, FlagsShowsTheWordsAsStored)
+{
+    const auto all = runJson({"flags"}).json();
+    EXPECT_EQ(std::to_string(all.size()), sql("SELECT count(*) FROM vw_LoggerDiagnosticGrid"));
+    const std::string name = all[0]["name"];
+    EXPECT_EQ(flags(name), all[0]["flags"].get<int>());
+    const auto one = runJson({"flags", name}).json();
+    ASSERT_EQ(1u, one.size());
+    EXPECT_EQ(all[0], one[0]);
+    EXPECT_EQ(1, runJson({"flags", "NoSuchComponent"}).status);
+}
+
+TEST_F(TraceCommands, AMacroTraceGoesOnAndIsRememberedAndGoesOffAgain)
+{
+    const std::string trace = macroTrace();
+    const std::string before = sql("SELECT Name, Flags FROM vw_LoggerDiagnosticGrid ORDER BY Name");
+    const auto on = runJson({"macro", "set", "--on", trace}).json();
+    EXPECT_EQ("The following Macro Traces were enabled:\r\n        " + trace + "\r\n",
+              on["summary"]);
+    EXPECT_TRUE(shown(trace)["enabled"]);
+    EXPECT_NE(before, sql("SELECT Name, Flags FROM vw_LoggerDiagnosticGrid ORDER BY Name"));
+    const auto dash = trace.find(" - ");
+    const std::string key =
+        "OrvanDiagnostics\\" + trace.substr(0, dash) + "\\" + trace.substr(dash + 3) + "]";
+    const std::string registry = read(site / "registry.reg");
+    ASSERT_NE(std::string::npos, registry.find(key));
+    EXPECT_THAT(registry.substr(registry.find(key), 200), HasSubstr("\"Enabled\"=dword:00000001"));
+    EXPECT_THAT(registry, HasSubstr("\"Diagnostic Grid Time Set\"=hex:"));
+    EXPECT_THAT(read(site / "eventlogs/Application.jsonl"), HasSubstr("10004"));
+
+    const auto off = runJson({"macro", "set", "--off", trace}).json();
+    EXPECT_EQ("The following Macro Traces were disabled:\r\n        " + trace, off["summary"]);
+    EXPECT_FALSE(shown(trace)["enabled"]);
+    EXPECT_EQ(before, sql("SELECT Name, Flags FROM vw_LoggerDiagnosticGrid ORDER BY Name"));
+}
+
+TEST_F(TraceCommands, AMicroTraceIsOneBitOfAComponentsWord)
+{
+    const auto components = runJson({"micro"}).json();
+    ASSERT_GE(components.size(), 25u);
+    for (const auto& component : components) {
+        for (const auto& level : component["levels"]) {
+            if (level["enabled"] || level["level"] == 31) continue;
+            const std::string name = component["component"];
+            const int number = level["level"];
+            const std::string place = name + ":" + std::to_string(number);
+            ASSERT_EQ(0, run({"micro", "set", "--on", place}).status);
+            EXPECT_NE(0, flags(name) & 1 << number);
+            const auto after = runJson({"micro", name}).json();
+            ASSERT_EQ(1u, after.size());
+            for (const auto& each : after[0]["levels"])
+                if (each["level"] == number) EXPECT_TRUE(each["enabled"]);
+            ASSERT_EQ(0, run({"micro", "set", "--off", place}).status);
+            EXPECT_EQ(0, flags(name) & 1 << number);
+            return;
+        }
+    }
+    FAIL() << "every level is on";
+}
+
+TEST_F(TraceCommands, ResetLeavesTheDefaultFlags)
+{
+    ASSERT_EQ(0, run({"macro", "set", "--on", macroTrace()}).status);
+    EXPECT_NE("0", sql("SELECT count(*) FROM vw_LoggerDiagnosticGrid WHERE Flags <> DefaultFlags"));
+    ASSERT_EQ(0, run({"reset"}).status);
+    EXPECT_EQ("0", sql("SELECT count(*) FROM vw_LoggerDiagnosticGrid WHERE Flags <> DefaultFlags"));
+    for (const auto& trace : runJson({"macro"}).json()) EXPECT_FALSE(trace["enabled"]);
+}
+
+TEST_F(TraceCommands, AnUnknownNameIsRefusedBeforeAnythingChanges)
+{
+    const std::string trace = macroTrace();
+    const std::string words = sql("SELECT * FROM vw_LoggerDiagnosticGrid ORDER BY Name");
+    const std::string component = runJson({"flags"}).json()[0]["name"];
+    const struct {
+        std::vector<std::string> arguments;
+        int status;
+    } cases[] = {
+        {{"macro", "set", "--on", trace, "--off", "Nothing - At all"}, 1},
+        {{"macro", "set"}, 2},
+        {{"micro", "set", "--on", component + ":0", "--on", "NoSuchComponent:0"}, 1},
+        {{"micro", "set", "--on", component + ":99"}, 1},
+        {{"micro", "set", "--on", component}, 2},
+        {{"micro", "set", "--on", component + ":x"}, 2},
+        {{"micro", "set"}, 2},
+        {{"micro", "NoSuchComponent"}, 1},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::PrintToString(c.arguments));
+        const Outcome refused = run(c.arguments);
+        EXPECT_EQ(c.status, refused.status) << refused.err;
+        EXPECT_EQ(1, std::count(refused.err.begin(), refused.err.end(), '\n')) << refused.err;
+        EXPECT_EQ("", refused.out);
+    }
+    EXPECT_EQ(words, sql("SELECT * FROM vw_LoggerDiagnosticGrid ORDER BY Name"));
+    EXPECT_FALSE(shown(trace)["enabled"]);
+}
+
+TEST_F(TraceCommands, WithoutADatabaseNothingCanBeChanged)
+{
+    const std::string trace = macroTrace();
+    const std::string component = runJson({"flags"}).json()[0]["name"];
+    const struct {
+        const char* because;
+        std::string content;
+    } cases[] = {{"another program's file", "GIF89a, and so on for a while"}, {"none at all", ""}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        fs::remove(site / "OrvanDirDb.sqlite");
+        if (!c.content.empty()) write(site / "OrvanDirDb.sqlite", c.content);
+        EXPECT_FALSE(runJson({"status"}).json()["connected"]);
+        const std::vector<std::vector<std::string>> commands = {
+            {"macro", "set", "--on", trace},
+            {"micro", "set", "--on", component + ":0"},
+            {"reset"},
+            {"flags"},
+            {"micro"},
+        };
+        for (const auto& words : commands) {
+            SCOPED_TRACE(words[0]);
+            const Outcome refused = run(words);
+            EXPECT_EQ(1, refused.status);
+            EXPECT_THAT(refused.err, HasSubstr("cannot connect to the server's database"));
+        }
+        EXPECT_EQ(0, run({"macro"}).status) << "the definitions need no database";
+    }
+}
+
+TEST_F(TraceCommands, ADatabaseThatRefusesIsToldOf)
+{
+    sql("DROP VIEW csp_LoggerDiagnosticGridModify");
+    const Outcome refused = run({"reset"});
+    EXPECT_EQ(1, refused.status);
+    EXPECT_THAT(refused.err, HasSubstr("csp_LoggerDiagnosticGridModify"));
+}
+
+} // namespace
