@@ -6,7 +6,7 @@
 WizardDriver::WizardDriver(OpenTool& tool, const std::string& taskKey)
 {
     tool.console().clickTask(taskKey);
-    open_ = tool.console().sheets().lastSheet();
+    open_ = tool.console().currentView().propertySheetProvider().lastSheet();
     sheet_ = open_ ? open_->wizard() : nullptr;
     if (!sheet_ || sheet_->closed()) throw CommandFailure("the wizard does not open");
 }
