@@ -1,6 +1,11 @@
 #include "shell/sheet_definitions.h"
 
 #include "shell/wizard_kinds.h"
+#include "wizards/gather_completion.h"
+#include "wizards/gather_log_selection.h"
+#include "wizards/gather_progress.h"
+#include "wizards/gather_time_frame.h"
+#include "wizards/gather_welcome.h"
 #include "wizards/macro_trace_wizard.h"
 #include "wizards/micro_trace_wizard.h"
 #include "wizards/reset_wizard.h"
@@ -45,7 +50,17 @@ const SheetDefinition* sheetDefinition(int kind)
          {
              wizardPage<ppgDisableAllTraces0>,
          }},
-        {kindGatherLogFiles, "GatherLogFiles", SheetType::wizard, 1046, {}},
+        {kindGatherLogFiles,
+         "GatherLogFiles",
+         SheetType::wizard,
+         1046,
+         {
+             wizardPage<ppgGatherLogs00Welcome>,
+             wizardPage<ppgGatherLogs01Step>,
+             wizardPage<ppgGatherLogs02Step>,
+             wizardPage<ppgGatherLogs03Step>,
+             wizardPage<ppgGatherLogs99Final>,
+         }},
         {kindLogSettings, "Logging", SheetType::propertySheet, 1052, {}},
         {kindEventLogLanguage,
          "Kelma Orvan Event Log Language",

@@ -1,3 +1,4 @@
+#include "wizards/gather_wizard_fixture.h"
 #include "wizards/macro_trace_wizard.h"
 #include "wizards/micro_trace_wizard.h"
 #include "wizards/reset_wizard.h"
@@ -61,6 +62,37 @@ TEST_F(AllFailing, TheMicroTraceWizardGoesOnPastAllErrors)
 TEST_F(AllFailing, TheResetWizardGoesOnPastAllErrors)
 {
     expectToGoOn<ppgDisableAllTraces0>();
+}
+
+TEST_F(AllFailing, TheGatherWizardGoesOnPastAllErrors)
+{
+    expectToGoOn<ppgGatherLogs00Welcome, ppgGatherLogs01Step, ppgGatherLogs02Step,
+                 ppgGatherLogs03Step, ppgGatherLogs99Final>();
+}
+
+TEST_F(AllFailing, AGatherRunGoesOnPastAllErrorsInEachWay)
+{
+    for (const int option :
+         {gatherOption::standard, gatherOption::byHand, gatherOption::timeFrame}) {
+        SCOPED_TRACE(option);
+        sheet = std::make_shared<WizardSheet>("Gather");
+        auto& options = add<ppgGatherLogs00Welcome>().optGatherLogs;
+        add<ppgGatherLogs01Step>();
+        add<ppgGatherLogs02Step>();
+        auto& progress = add<ppgGatherLogs03Step>();
+        add<ppgGatherLogs99Final>();
+        failEverything();
+        tool.processes.failing(53);
+        EXPECT_NO_THROW(sheet->show());
+        options.click(option);
+        EXPECT_NO_THROW(sheet->next());
+        while (sheet->currentPlace() < 4) {
+            sheet->SetWizardButtons(true, wizardButton::nextEnabled);
+            EXPECT_NO_THROW(sheet->next());
+        }
+        EXPECT_NO_THROW(sheet->tick(progress.tmrDelayStart));
+        EXPECT_EQ("ppgGatherLogs99Final", sheet->currentPage().name());
+    }
 }
 
 TEST_F(AllFailing, ErrorsThatBeginWithAFilledTreeAreGonePastToo)

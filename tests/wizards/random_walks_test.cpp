@@ -1,3 +1,4 @@
+#include "wizards/gather_wizard_fixture.h"
 #include "wizards/macro_trace_wizard.h"
 #include "wizards/micro_trace_wizard.h"
 #include "wizards/reset_wizard.h"
@@ -122,4 +123,65 @@ TEST_F(RandomWalks, OfTheResetWizard)
                dynamic_cast<const CheckBox&>(*page.control("chkDisableAllTraces")).checked();
     };
     walk(3, {"ppgDisableAllTraces0"});
+}
+
+namespace {
+
+/// Work of the gather wizard is what its runs capture and pack; only a timer begins one.
+struct GatherWalk : GatherWizardTest {
+    WalkedWizard walked;
+
+    GatherWalk()
+    {
+        withCurrentLog("KoCSMgr", "diag_KoCSMgr_20051008_120000.txt", rawLog(3));
+        withProcess("KoIdle");
+        withEventLog("Application");
+        withEventLog("System");
+        tool.files.with("C:\\OrvanDiagnostics\\blankWPNDB.mdb", "blank");
+        walked.make = [this] {
+            makeSheet();
+            return sheet;
+        };
+        walked.waitForChoice = {"ppgGatherLogs01Step", "ppgGatherLogs03Step"};
+        walked.workDone = [this] {
+            return static_cast<int>(tool.eventLogExporter.exports().size());
+        };
+        walked.works = [](const SheetPage&, Press) { return false; };
+        walked.check = [this](SheetPage& page) { check(page); };
+    }
+
+    void check(SheetPage& page)
+    {
+        EXPECT_FALSE(shared->m_bStandardLogs && shared->m_bTimeFrameLogs) << "one way at a time";
+        EXPECT_NE("", shared->m_LogDestinationDirectory);
+        EXPECT_EQ(7, selection->treeviewLogsToGather.count()) << "the tree is filled once";
+        EXPECT_LE(frame->dtpickerDate.value(), tool.clock.now()) << "no frame begins in the future";
+        if (page.name() == "ppgGatherLogs03Step") checkSteps();
+        if (page.name() == "ppgGatherLogs99Final") {
+            EXPECT_TRUE(tool.files.folderExists(shared->m_LogDestinationDirectory));
+            EXPECT_EQ(!tool.context.g_strTraceDatabase.empty(), last->cmdLaunchQRV.enabled());
+        }
+    }
+
+    /// The steps are the lists of the job, and a run that has not begun is about to.
+    void checkSteps()
+    {
+        std::vector<std::string> rows{"Orvan Logs"};
+        for (const auto& log : serverLogs()) rows.push_back("  " + log);
+        rows.push_back("Windows Event Logs");
+        for (const auto& log : eventLogs()) rows.push_back("  " + log);
+        EXPECT_EQ(rows, rowsOf(progress->treeviewSteps));
+        EXPECT_TRUE(progress->tmrDelayStart.running());
+    }
+};
+
+} // namespace
+
+TEST_F(GatherWalk, OfTheGatherWizard)
+{
+    WizardWalker walker(walked, 5);
+    walker.walk(3 * actions);
+    for (const char* page : {"ppgGatherLogs00Welcome", "ppgGatherLogs01Step", "ppgGatherLogs02Step",
+                             "ppgGatherLogs03Step", "ppgGatherLogs99Final"})
+        EXPECT_GT(walker.arrivals().count(page), 5u) << page << " is hardly ever reached";
 }

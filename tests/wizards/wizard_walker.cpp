@@ -1,6 +1,7 @@
 #include "wizards/wizard_walker.h"
 
 #include "platform/controls.h"
+#include "runtime/run_time_error.h"
 
 #include <gtest/gtest.h>
 
@@ -103,9 +104,26 @@ void WizardWalker::use(Control& control)
         options->click(below(options->count()));
     } else if (auto* button = dynamic_cast<Button*>(&control)) {
         button->click();
+    } else {
+        enter(control);
     }
     EXPECT_EQ(place, sheet_->currentPlace()) << "no control leaves the page";
     expectWork(0);
+}
+
+/// What a page makes of an entry that it can't use, it may raise to its host.
+void WizardWalker::enter(Control& control)
+try {
+    if (auto* text = dynamic_cast<TextBox*>(&control)) {
+        const char* const typed[] = {"", "0", "1", "24", "5x", "1000"};
+        text->setByPerson(typed[below(6)]);
+    } else if (auto* spin = dynamic_cast<SpinControl*>(&control)) {
+        below(2) == 0 ? spin->stepUp() : spin->stepDown();
+    } else if (auto* picker = dynamic_cast<DateTimePicker*>(&control)) {
+        picker->setByPerson(addHours(picker->value(), below(200) - 100));
+    }
+} catch (const RunTimeError&) {
+    trail_.back() += " in vain";
 }
 
 void WizardWalker::tickTimer()

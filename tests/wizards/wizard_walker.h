@@ -30,7 +30,7 @@ struct WalkedWizard {
 };
 
 /// Does what a person and a host could do, at random: presses what is enabled, ticks boxes and
-/// nodes, selects options, moves the pointer, lets timers tick, cancels and opens the wizard anew.
+/// nodes, selects options, fills fields, lets timers tick, cancels and opens the wizard anew.
 /// Fails the running test where something does not hold.
 class WizardWalker {
 public:
@@ -48,6 +48,7 @@ private:
     void act();
     void press(Press press);
     void use(Control& control);
+    void enter(Control& control);
     void tickTimer();
     void cancel();
     void expectArrival();
