@@ -42,11 +42,49 @@ TEST_F(BadInput, ADamagedSiteFileIsRefusedWithItsLine)
     expectOneLine(run({"status"}), 1, "site.ini line 3");
 }
 
-TEST_F(BadInput, AnUnknownProcessOrLogIsRefused)
+TEST_F(BadInput, AnUnknownProcessOrLogIsRefusedAndNothingChanges)
 {
-    expectOneLine(run({"logs", "KoNothing"}), 1, "KoNothing");
-    expectOneLine(run({"read", "diag_KoNothing_1.txt"}), 1, "can not be found");
-    expectOneLine(run({"read", "C:\\..\\..\\..\\etc\\passwd"}), 1, "can not be found");
+    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
+    const std::string before = fingerprint();
+    const struct {
+        const char* because;
+        std::vector<std::string> words;
+        const char* told;
+    } cases[] = {
+        {"no such process", {"logs", "KoNothing"}, "KoNothing"},
+        {"no process at all", {"logs", ""}, "no process \"\""},
+        {"a key below a process", {"logs", "KoCSMgr\\CurrentLogFile"}, "no process"},
+        {"no such log", {"read", "diag_KoNothing_1.txt"}, "can not be found"},
+        {"no log at all", {"read", ""}, "can not be found"},
+        {"the name of a node of the tree", {"read", "Static Node"}, "can not be found"},
+        {"a folder", {"read", "C:\\KelmaOrvan\\Logs"}, "can not be found"},
+        {"a device", {"read", "/dev/zero"}, "can not be found"},
+        {"above the drive", {"read", "C:\\..\\..\\..\\etc\\passwd"}, "can not be found"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        expectOneLine(run(c.words), 1, c.told);
+    }
+    EXPECT_EQ(before, fingerprint());
+}
+
+TEST_F(BadInput, ACommandThatFailsInItsWorkStillUnloadsTheTool)
+{
+    write(folder / "large.txt", std::string(2'500'001, 'x'));
+    expectOneLine(run({"read", (folder / "large.txt").string()}), 1, "is too large");
+    const std::string events = read(site / "eventlogs/Application.jsonl");
+    EXPECT_NE(std::string::npos, events.rfind("10003"));
+}
+
+TEST_F(BadInput, AResultThatCantBeWrittenIsAFailure)
+{
+    for (const std::string& command : {std::string("status"), "read " + currentLog()}) {
+        SCOPED_TRACE(command);
+        expectOneLine(runProgram({"bash", "-c",
+                                  "exec '" ORVANDIAG_PROGRAM "' --site '" + site.string() + "' " +
+                                      command + " >/dev/full"}),
+                      1, "cannot write the result");
+    }
 }
 
 TEST_F(BadInput, WrongUsageEndsWithTwo)

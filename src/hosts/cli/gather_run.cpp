@@ -178,6 +178,9 @@ void report(Output& output, const GatherResult& result)
     const auto orNull = [](const std::optional<std::string>& path) {
         return path ? Json(*path) : Json(nullptr);
     };
+    if (result.failure && !fs::is_directory(result.destination))
+        throw CommandFailure("the destination " + result.destination +
+                             " can't be made: " + *result.failure);
     if (output.json()) {
         output.value({{"destination", result.destination},
                       {"database", orNull(result.database)},

@@ -37,7 +37,7 @@ const std::string& usableSite(const std::string& folder)
 
 } // namespace
 
-OpenTool::OpenTool(const GlobalOptions& options)
+OpenTool::OpenTool(const GlobalOptions& options, const Check& check)
     : site_(usableSite(options.site), installedDataFolder(), hostFacts(options)),
       traceDatabases_([this](const std::string& path) { return machinePath(path); },
                       site_.codePage()),
@@ -45,11 +45,23 @@ OpenTool::OpenTool(const GlobalOptions& options)
       definition_(snapinDefinition()), console_(definition_), snapIn_(context_, console_),
       codePage_(site_.codePage())
 {
+    if (check) check(*this);
     console_.load(snapIn_);
+    loaded_ = true;
+}
+
+OpenTool::~OpenTool()
+{
+    try {
+        if (loaded_) close();
+    } catch (const RunTimeError&) {
+        // The failure that is on its way says why the command ends.
+    }
 }
 
 void OpenTool::close()
 {
+    loaded_ = false;
     console_.unload();
 }
 

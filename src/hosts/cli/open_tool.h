@@ -9,17 +9,26 @@
 #include "platform/console.h"
 #include "shell/snapin_orvan_diagnostics.h"
 
+#include <functional>
 #include <string>
 
 /// The tool at work on a site: from its loading to its unloading, with a terminal for a desktop.
 class OpenTool {
 public:
+    using Check = std::function<void(OpenTool&)>;
+
     /// Opens the site, and loads the snap-in into a console. Raises CommandFailure for a folder
     /// that is no site or may not be written to, RunTimeError for a damaged one.
-    explicit OpenTool(const GlobalOptions& options);
+    ///
+    /// `check` looks at the command's arguments on the open site, before the tool starts: what it
+    /// raises ends the command with nothing changed.
+    explicit OpenTool(const GlobalOptions& options, const Check& check = {});
 
     OpenTool(const OpenTool&) = delete;
     OpenTool& operator=(const OpenTool&) = delete;
+
+    /// Unloads the snap-in when a failure kept the command from `close`.
+    ~OpenTool();
 
     /// Unloads the snap-in. Raises what it raises.
     void close();
@@ -50,4 +59,5 @@ private:
     Console console_;
     snapinOrvanDiagnostics snapIn_;
     CodePage codePage_;
+    bool loaded_ = false;
 };

@@ -16,7 +16,20 @@ std::size_t width(std::string_view text)
     }));
 }
 
+bool standsForItselfInJson(char c)
+{
+    return c >= ' ' && c <= '~' && c != '"' && c != '\\';
+}
+
 } // namespace
+
+void appendJsonText(std::string& json, std::string_view text)
+{
+    if (std::all_of(text.begin(), text.end(), standsForItselfInJson))
+        json.append("\"").append(text).append("\"");
+    else
+        json += Json(text).dump(-1, ' ', false, Json::error_handler_t::replace);
+}
 
 void Output::value(const Json& json)
 {

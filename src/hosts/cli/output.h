@@ -10,6 +10,10 @@
 /// JSON with its keys in the order in which they were set.
 using Json = nlohmann::ordered_json;
 
+/// Adds a UTF-8 text as JSON writes it, in its quotes; a byte that is no UTF-8 becomes U+FFFD.
+/// Cheap for plain ASCII: a log has a hundred thousand texts and more.
+void appendJsonText(std::string& json, std::string_view text);
+
 /// Where results go: standard output, as text or as JSON.
 class Output {
 public:

@@ -1,3 +1,4 @@
+#include "core/registry_store.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
@@ -14,6 +15,12 @@ struct LogFile {
     std::string timeStamp;
     long long size;
 };
+
+CommandFailure noSuchProcess(const std::string& process)
+{
+    return CommandFailure("no process \"" + process +
+                          "\" writes logs here; orvandiag status lists them");
+}
 
 /// A process's rows as the log list shows them.
 std::vector<LogFile> logFilesOf(OpenTool& tool, const std::string& process)
@@ -32,8 +39,7 @@ std::vector<LogFile> logFilesOf(OpenTool& tool, const std::string& process)
         }
         return files;
     }
-    throw CommandFailure("no process " + process +
-                         " writes logs here; orvandiag status lists them");
+    throw noSuchProcess(process);
 }
 
 class LogsCommand final : public Command {
@@ -49,7 +55,7 @@ public:
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        OpenTool tool(options);
+        OpenTool tool(options, [this](OpenTool& opened) { requireProcess(opened); });
         const auto files = logFilesOf(tool, process_);
         tool.close();
         if (output.json()) {
@@ -71,6 +77,13 @@ public:
     }
 
 private:
+    void requireProcess(OpenTool& tool) const
+    {
+        const std::string key = std::string(logManagerKey) + "\\Process\\" + process_;
+        if (process_.empty() || !registryKeyExists(tool.context(), HKEY_LOCAL_MACHINE, key))
+            throw noSuchProcess(process_);
+    }
+
     std::string process_;
 };
 

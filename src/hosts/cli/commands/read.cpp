@@ -1,3 +1,4 @@
+#include "core/registry_store.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
@@ -7,7 +8,6 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <filesystem>
 
 namespace {
 
@@ -43,7 +43,7 @@ void printJson(Output& output, ListView& list, const CodePage& codePage)
             }
             cell.clear();
             codePage.appendUtf8(cell, bytes);
-            text += Json(cell).dump(-1, ' ', false, Json::error_handler_t::replace);
+            appendJsonText(text, cell);
         }
         text += "}\n";
         output.text(text);
@@ -103,19 +103,17 @@ public:
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        OpenTool tool(options);
+        std::string path;
+        OpenTool tool(options, [&](OpenTool& opened) { path = location(opened); });
         std::string failure;
         tool.context().onTrappedError = [&](const RunTimeError& error, std::string_view procName) {
             if (failure.empty() && procName == "[mdlSnapIn]populateListViewDiagLog")
                 failure = log_ + " could not be read: " + error.description();
         };
-        tool.desktop().answerPickers(location(tool));
+        tool.desktop().answerPickers(path);
         tool.console().clickMenuItem("mnuOpenLogFile");
         tool.context().onTrappedError = {};
-        if (!tool.desktop().failures().empty() || !failure.empty()) {
-            tool.close();
-            throw CommandFailure(failure);
-        }
+        if (!tool.desktop().failures().empty() || !failure.empty()) throw CommandFailure(failure);
         ListView& list = tool.console().currentView().selectedScopePaneItem().resultView().list();
         if (output.json())
             printJson(output, list, tool.codePage());
@@ -125,13 +123,19 @@ public:
     }
 
 private:
+    /// Where the log lies, as the tool knows it: a bare name in the log folder, or a path. Raises
+    /// CommandFailure for a log that is not there.
     std::string location(OpenTool& tool) const
     {
         const bool bare = log_.find_first_of("/\\:") == std::string::npos;
         const auto& files = tool.context().platform.files;
-        if (bare && files.fileExists(tool.context().g_strLogFolder + "\\" + log_)) return log_;
-        if (bare && !std::filesystem::exists(log_)) return log_;
-        return tool.toolPath(log_);
+        const std::string folder = getRegistryText(tool.context(), logManagerKey, "Output Path");
+        if (bare && !log_.empty() && files.fileExists(folder + "\\" + log_)) return log_;
+        std::string path = tool.toolPath(log_);
+        if (log_.empty() || !files.fileExists(path))
+            throw CommandFailure("the log \"" + log_ + "\" can not be found" +
+                                 (bare ? ", neither here nor in " + folder : ""));
+        return path;
     }
 
     std::string log_;
