@@ -7,11 +7,7 @@
 # Ends with 1 unless cabmaker's cabinet is the smaller one and is made in less time.
 set -eu
 
-programs=${ORVAN_PROGRAMS:-$(dirname "$0")/../build/release/bin}
-programs=$(cd "$programs" && pwd)
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-trap 'exit 1' INT TERM
+. "$(dirname "$0")/measure.sh"
 
 if [ $# -gt 0 ]; then
     cp "$1" "$work/input.mdb"
@@ -28,22 +24,9 @@ cat >directives.ddf <<'DIRECTIVES'
 "input.mdb"
 DIRECTIVES
 
-# milliseconds COMMAND...: how long one run takes
-milliseconds() {
-    begin=$(date +%s%N)
-    "$@" >/dev/null
-    echo $((($(date +%s%N) - begin) / 1000000))
-}
-
-# The two take turns, so that other work on the machine burdens both alike.
-theirTime=$(milliseconds gcab -c -z theirs.cab input.mdb)
-ourTime=$(milliseconds "$programs/cabmaker" /f directives.ddf)
-for _ in 2 3 4 5; do
-    took=$(milliseconds gcab -c -z theirs.cab input.mdb)
-    if [ "$took" -lt "$theirTime" ]; then theirTime=$took; fi
-    took=$(milliseconds "$programs/cabmaker" /f directives.ddf)
-    if [ "$took" -lt "$ourTime" ]; then ourTime=$took; fi
-done
+makeTheirs() { gcab -c -z theirs.cab input.mdb; }
+makeOurs() { "$programs/cabmaker" /f directives.ddf; }
+compare makeOurs makeTheirs
 theirSize=$(stat -c %s theirs.cab)
 ourSize=$(stat -c %s ours.cab)
 
@@ -51,6 +34,6 @@ cabextract -q -d extracted ours.cab
 cmp input.mdb extracted/input.mdb
 
 echo "input      $(stat -c %s input.mdb) bytes, $(nproc) processors"
-echo "gcab -z    $theirSize bytes in $theirTime ms"
-echo "cabmaker   $ourSize bytes in $ourTime ms"
-[ "$ourSize" -lt "$theirSize" ] && [ "$ourTime" -lt "$theirTime" ]
+echo "gcab -z    $theirSize bytes in $theirs ms"
+echo "cabmaker   $ourSize bytes in $ours ms"
+[ "$ourSize" -lt "$theirSize" ] && [ "$ours" -lt "$theirs" ]

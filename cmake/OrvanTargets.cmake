@@ -10,11 +10,11 @@ add_library(orvan_options INTERFACE)
 target_compile_features(orvan_options INTERFACE cxx_std_20)
 target_include_directories(orvan_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 target_compile_options(orvan_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Werror)
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  # When GCC 12 optimises, it takes `"text" + string` for an overlapping copy (its bug 105651), and
-  # an array of vectors that is given up half made for one that is read.
-  target_compile_options(orvan_options INTERFACE -Wno-restrict -Wno-maybe-uninitialized)
-endif()
+# When GCC 12 optimises, it takes `"text" + string` for an overlapping copy (its bug 105651), and an
+# array of vectors that is given up half made for one that is read.
+set(old_gcc $<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>)
+target_compile_options(orvan_options INTERFACE
+  $<${old_gcc}:-Wno-restrict> $<${old_gcc}:-Wno-maybe-uninitialized>)
 if(ORVAN_SANITIZE)
   target_compile_options(orvan_options INTERFACE
     -fsanitize=${ORVAN_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
