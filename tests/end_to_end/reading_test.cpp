@@ -60,6 +60,29 @@ TEST_F(ReadCommand, TakesARawLineApart)
     EXPECT_EQ("formatted already ", all[2]["trace"]);
 }
 
+TEST_F(ReadCommand, WritesEveryTextAsJsonReadsIt)
+{
+    const struct {
+        const char* because;
+        const char* trace;
+        const char* read;
+    } cases[] = {
+        {"quotes", R"(said "yes")", R"(said "yes" )"},
+        {"a path", R"(opened C:\logs\)", R"(opened C:\logs\ )"},
+        {"nothing but what is escaped", R"("\")", R"("\" )"},
+        {"a tab and a control character", "a\tb\x01 c", "a\tb\x01 c "},
+        {"a byte above ASCII", "caf\xE9 \"x\"", "caf\u00e9 \"x\" "},
+        {"no trace at all", "", " "},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        const auto all = rows(put(std::string("15:23:07:123,Conv,1234,CallFlow,7,") + c.trace));
+        ASSERT_EQ(1u, all.size());
+        EXPECT_EQ(c.read, all[0]["trace"]);
+        EXPECT_EQ(7, all[0]["level"]);
+    }
+}
+
 TEST_F(ReadCommand, ShowsTheExtendedFieldsOfANewerServer)
 {
     const auto other = (folder / "extended").string();

@@ -16,19 +16,33 @@ std::size_t width(std::string_view text)
     }));
 }
 
-bool standsForItselfInJson(char c)
+bool isPrintableAscii(char c)
 {
-    return c >= ' ' && c <= '~' && c != '"' && c != '\\';
+    return c >= ' ' && c <= '~';
+}
+
+bool isEscaped(char c)
+{
+    return c == '"' || c == '\\';
 }
 
 } // namespace
 
 void appendJsonText(std::string& json, std::string_view text)
 {
-    if (std::all_of(text.begin(), text.end(), standsForItselfInJson))
-        json.append("\"").append(text).append("\"");
-    else
+    if (!std::all_of(text.begin(), text.end(), isPrintableAscii)) {
         json += Json(text).dump(-1, ' ', false, Json::error_handler_t::replace);
+        return;
+    }
+    json += '"';
+    for (const auto* rest = text.begin(); rest != text.end();) {
+        const auto* const special = std::find_if(rest, text.end(), isEscaped);
+        json.append(rest, special);
+        if (special == text.end()) break;
+        json.append("\\").append(1, *special);
+        rest = special + 1;
+    }
+    json += '"';
 }
 
 void Output::value(const Json& json)

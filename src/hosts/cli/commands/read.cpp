@@ -8,6 +8,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <charconv>
 
 namespace {
 
@@ -25,6 +26,14 @@ constexpr Columns extendedColumns[] = {
     {"component", false}, {"level", true},      {"thread", false}, {"port", false},
     {"callId", false},    {"trace", false}};
 
+/// A number column's text, such as "000012", as its number; 0 for none.
+std::int64_t wholeNumber(std::string_view text)
+{
+    std::int64_t number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
 /// One JSON object a row. A log has tens of thousands of rows, so one text buffer serves for all.
 void printJson(Output& output, ListView& list, const CodePage& codePage)
 {
@@ -38,7 +47,7 @@ void printJson(Output& output, ListView& list, const CodePage& codePage)
             text.append(column == 0 ? "{\"" : ",\"").append(columns[column].name).append("\":");
             const std::string_view bytes = row.subItem(column + 1);
             if (columns[column].number) {
-                text += numberText(static_cast<std::int64_t>(leadingNumber(bytes)));
+                text += numberText(wholeNumber(bytes));
                 continue;
             }
             cell.clear();
