@@ -1,11 +1,11 @@
 #include "cabmaker/site_paths.h"
 
-#include <algorithm>
 #include <optional>
 #include <system_error>
 
 #include "cabmaker/names.h"
 #include "runtime/run_time_error.h"
+#include "runtime/windows_path.h"
 
 namespace cabmaker {
 
@@ -13,33 +13,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool isSeparator(char c)
-{
-    return c == '\\' || c == '/';
-}
-
-bool isLetter(char c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-
 [[noreturn]] void refuse(std::string_view path, const char* because)
 {
     throw RunTimeError(runTimeErrors::pathNotFound, std::string(path) + ": " + because);
-}
-
-void follow(std::vector<std::string>& names, std::string_view path)
-{
-    while (!path.empty()) {
-        const std::size_t end = std::min(path.find_first_of("\\/"), path.size());
-        const std::string_view name = path.substr(0, end);
-        path.remove_prefix(std::min(end + 1, path.size()));
-        if (name.empty() || name == ".") continue;
-        if (name != "..")
-            names.emplace_back(name);
-        else if (!names.empty())
-            names.pop_back();
-    }
 }
 
 // The name in `folder` that is `name` but for case; the first in order when there are several.
@@ -70,11 +46,11 @@ SitePaths::SitePaths(const std::string& drives, const std::string& workingFolder
         const std::string_view drive = std::string_view(relative).substr(0, relative.find('/'));
         if (drive.size() == 7 && foldedName(drive).starts_with("drive_")) {
             working_.top = drives_ / drive;
-            follow(working_.names, std::string_view(relative).substr(drive.size()));
+            followPath(working_.names, std::string_view(relative).substr(drive.size()));
             return;
         }
     }
-    follow(working_.names, working.string());
+    followPath(working_.names, working.string());
 }
 
 std::string SitePaths::machinePath(std::string_view path) const
@@ -98,12 +74,12 @@ std::string SitePaths::machinePath(std::string_view path) const
 SitePaths::Way SitePaths::wayOf(std::string_view path) const
 {
     Way way;
-    if (path.size() >= 2 && isLetter(path[0]) && path[1] == ':') {
-        if (path.size() > 2 && !isSeparator(path[2]))
+    if (beginsWithDrive(path)) {
+        if (path.size() > 2 && !isPathSeparator(path[2]))
             refuse(path, "a path on a drive begins at its top, as in C:\\");
         way.top = driveTop(path);
         path.remove_prefix(2);
-    } else if (path.size() >= 2 && path[0] == '\\' && isSeparator(path[1])) {
+    } else if (path.size() >= 2 && path[0] == '\\' && isPathSeparator(path[1])) {
         refuse(path, "there are no network folders here");
     } else if (!path.empty() && path[0] == '/') {
         way.top = "/";
@@ -112,7 +88,7 @@ SitePaths::Way SitePaths::wayOf(std::string_view path) const
     } else {
         way = working_;
     }
-    follow(way.names, path);
+    followPath(way.names, path);
     return way;
 }
 

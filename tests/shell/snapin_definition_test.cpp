@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <set>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -11,6 +13,16 @@ const ListViewDefinition& listView(const SnapInDefinition& definition, const std
 {
     return *std::find_if(definition.listViews.begin(), definition.listViews.end(),
                          [&](const auto& view) { return view.name == name; });
+}
+
+void expectColumns(const std::vector<ColumnDefinition>& expected, const ListViewDefinition& view)
+{
+    ASSERT_EQ(expected.size(), view.columns.size());
+    for (std::size_t column = 0; column < expected.size(); ++column) {
+        EXPECT_EQ(expected[column].key, view.columns[column].key);
+        EXPECT_EQ(expected[column].header, view.columns[column].header);
+        EXPECT_EQ(expected[column].width, view.columns[column].width);
+    }
 }
 
 } // namespace
@@ -57,7 +69,7 @@ TEST(SnapinDefinition, ShowsLogLinesAsBytesInTheOrderOfTheirNumber)
     EXPECT_TRUE(view.sort.ascending);
     EXPECT_EQ(1000, view.filterChangeTimeOut);
 
-    const ColumnDefinition expected[] = {
+    const std::vector<ColumnDefinition> expected = {
         {"keyNumber", "#", 50},
         {"keyTimeStamp", "Timestamp*", 150},
         {"keySource", "Source*", 100},
@@ -66,12 +78,7 @@ TEST(SnapinDefinition, ShowsLogLinesAsBytesInTheOrderOfTheirNumber)
         {"keyLevel", "Level*", 30},
         {"keyTrace", "Trace*", 400},
     };
-    ASSERT_EQ(std::size(expected), view.columns.size());
-    for (std::size_t column = 0; column < std::size(expected); ++column) {
-        EXPECT_EQ(expected[column].key, view.columns[column].key);
-        EXPECT_EQ(expected[column].header, view.columns[column].header);
-        EXPECT_EQ(expected[column].width, view.columns[column].width);
-    }
+    expectColumns(expected, view);
 }
 
 TEST(SnapinDefinition, ShowsTheNewestLogFileFirst)
@@ -85,19 +92,14 @@ TEST(SnapinDefinition, ShowsTheNewestLogFileFirst)
     EXPECT_EQ(3, view.sort.column);
     EXPECT_FALSE(view.sort.ascending);
 
-    const ColumnDefinition expected[] = {
+    const std::vector<ColumnDefinition> expected = {
         {"", " ", 25},
         {"", "Current*", 75},
         {"keyFileName", "File Name*", 200},
         {"keyTimestamp", "Time Stamp*", 175},
         {"keySize", "Size (Bytes)*", automaticWidth},
     };
-    ASSERT_EQ(std::size(expected), view.columns.size());
-    for (std::size_t column = 0; column < std::size(expected); ++column) {
-        EXPECT_EQ(expected[column].key, view.columns[column].key);
-        EXPECT_EQ(expected[column].header, view.columns[column].header);
-        EXPECT_EQ(expected[column].width, view.columns[column].width);
-    }
+    expectColumns(expected, view);
 }
 
 TEST(SnapinDefinition, ListsProcessesUnsorted)

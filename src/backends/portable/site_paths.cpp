@@ -3,8 +3,8 @@
 #include "backends/portable/folder_listing.h"
 #include "backends/portable/posix_errors.h"
 #include "backends/portable/utf8.h"
+#include "runtime/windows_path.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <dirent.h>
@@ -17,16 +17,6 @@
 namespace {
 
 constexpr int deviceUnavailable = 68;
-
-bool isSeparator(char c)
-{
-    return c == '\\' || c == '/';
-}
-
-bool isLetter(char c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
 
 char upper(char c)
 {
@@ -87,8 +77,7 @@ SitePaths::SitePaths(const std::string& siteFolder)
 
 std::string SitePaths::driveName(std::string_view path)
 {
-    if (path.size() < 2 || path[1] != ':' || !isLetter(path[0])) return {};
-    return std::string(path.substr(0, 2));
+    return beginsWithDrive(path) ? std::string(path.substr(0, 2)) : std::string();
 }
 
 SitePaths::Location SitePaths::locate(std::string_view path) const
@@ -96,32 +85,21 @@ SitePaths::Location SitePaths::locate(std::string_view path) const
     if (path.empty() || path.find('\0') != std::string_view::npos)
         throw RunTimeError(runTimeErrors::badFileNumber);
     Location location{currentDrive_, {}};
-    bool whole = isSeparator(path.front());
+    bool whole = isPathSeparator(path.front());
     if (path.front() == '/') {
         location.drive = 0;
-    } else if (path.size() >= 2 && path[0] == '\\' && isSeparator(path[1])) {
+    } else if (path.size() >= 2 && path[0] == '\\' && isPathSeparator(path[1])) {
         throw RunTimeError(runTimeErrors::pathNotFound);
-    } else if (!driveName(path).empty()) {
+    } else if (beginsWithDrive(path)) {
         location.drive = upper(path.front());
         path.remove_prefix(2);
-        whole = !path.empty() && isSeparator(path.front());
+        whole = !path.empty() && isPathSeparator(path.front());
     }
     if (const auto current = currentFolders_.find(location.drive);
         !whole && current != currentFolders_.end())
         location.names = current->second;
 
-    while (!path.empty()) {
-        std::size_t end = 0;
-        while (end < path.size() && !isSeparator(path[end])) ++end;
-        const auto name = path.substr(0, end);
-        path.remove_prefix(std::min(end + 1, path.size()));
-        if (name.empty() || name == ".") continue;
-        if (name != "..") {
-            location.names.emplace_back(name);
-        } else if (!location.names.empty()) {
-            location.names.pop_back();
-        }
-    }
+    followPath(location.names, path);
     return location;
 }
 
