@@ -85,6 +85,7 @@ TEST_F(GatherCommand, RunsUnderTheDevelopmentHostWithoutFormatting)
 
 TEST_F(GatherCommand, RefusesWhatItDoesNotKnowAndChangesNothing)
 {
+    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
     write(folder / "file", "x");
     const std::string before = fingerprint();
     const struct {
@@ -94,6 +95,7 @@ TEST_F(GatherCommand, RefusesWhatItDoesNotKnowAndChangesNothing)
     } cases[] = {
         {"an unknown log", {"gather", "logs", "--log", "diag_None_1.txt"}, 1},
         {"a log outside the log folder", {"gather", "logs", "--log", "../site.ini"}, 1},
+        {"a log without a name", {"gather", "logs", "--log", ""}, 1},
         {"an unknown event log", {"gather", "logs", "--event-log", "Nothing"}, 1},
         {"nothing to gather", {"gather", "logs"}, 2},
         {"no mode", {"gather"}, 2},
@@ -111,10 +113,18 @@ TEST_F(GatherCommand, RefusesWhatItDoesNotKnowAndChangesNothing)
         EXPECT_EQ(1, std::count(refused.err.begin(), refused.err.end(), '\n')) << refused.err;
         EXPECT_EQ("", refused.out);
     }
-    const std::string after = fingerprint();
-    EXPECT_EQ(before.size() > 0, after.size() > 0);
+    EXPECT_EQ(before, fingerprint());
     EXPECT_FALSE(fs::exists(folder / "no"));
     EXPECT_EQ("x", read(folder / "file"));
+}
+
+TEST_F(GatherCommand, ShowsNothingForADestinationThatTheSystemRefuses)
+{
+    const Outcome refused = run({"gather", "standard", "--to", "/proc/gathered"});
+    EXPECT_EQ(1, refused.status);
+    EXPECT_EQ("", refused.out);
+    EXPECT_THAT(refused.err, HasSubstr("can't be made"));
+    EXPECT_EQ(1, std::count(refused.err.begin(), refused.err.end(), '\n')) << refused.err;
 }
 
 TEST_F(GatherCommand, TellsOfAFullDisk)

@@ -65,7 +65,7 @@ public:
             throw UsageError("gather logs needs a --log or an --event-log");
         TimeFrameChoice choice;
         if (frame_->parsed()) choice = frameChoice();
-        OpenTool tool(options);
+        OpenTool tool(options, [&](OpenTool& opened) { requireSound(opened, choice); });
         classTraceObject job;
         job.clearOrvanLogs();
         job.clearWindowsLogs();
@@ -91,10 +91,24 @@ private:
         return {start, start, frameDuration(hours_), !noApplication_, !noSystem_};
     }
 
+    /// Raises CommandFailure for what the person asks for and this server does not have.
+    void requireSound(OpenTool& tool, const TimeFrameChoice& choice) const
+    {
+        const Platform& platform = tool.context().platform;
+        if (frame_->parsed() && choice.startDate > platform.clock.now())
+            throw CommandFailure("the time frame starts in the future");
+        const std::string folder = getRegistryText(tool.context(), logManagerKey, "Output Path");
+        for (const auto& log : orvanLogs_) {
+            if (log.empty() || log.find_first_of("/\\:") != std::string::npos ||
+                !platform.files.fileExists(folder + "\\" + log))
+                throw CommandFailure("no log \"" + log + "\" in " + folder);
+        }
+        for (const auto& log : windowsLogs_) eventLog(tool, log);
+        if (!to_.empty()) requireUsableDestination(tool, tool.toolPath(to_));
+    }
+
     static void fillFrame(OpenTool& tool, const TimeFrameChoice& choice, classTraceObject& job)
     {
-        if (choice.startDate > tool.context().platform.clock.now())
-            throw CommandFailure("the time frame starts in the future");
         TimeFrame frame;
         determineSelectedLogsFromTimeFrame(tool.context(), choice, frame, job);
         job.m_bTimeFrameLogs = true;
@@ -112,13 +126,7 @@ private:
 
     void fillSelected(OpenTool& tool, classTraceObject& job) const
     {
-        const auto& files = tool.context().platform.files;
-        for (const auto& log : orvanLogs_) {
-            if (log.find_first_of("/\\:") != std::string::npos ||
-                !files.fileExists(tool.context().g_strLogFolder + "\\" + log))
-                throw CommandFailure("no log " + log + " in " + tool.context().g_strLogFolder);
-            job.addOrvanLog(log);
-        }
+        for (const auto& log : orvanLogs_) job.addOrvanLog(log);
         for (const auto& log : windowsLogs_) job.addWindowsLog(eventLog(tool, log));
     }
 
@@ -132,7 +140,7 @@ private:
         } catch (const RunTimeError&) {
             // No list of event logs at all.
         }
-        throw CommandFailure("no Windows event log " + name + " on this server");
+        throw CommandFailure("no Windows event log \"" + name + "\" on this server");
     }
 
     CLI::App* standard_ = nullptr;
