@@ -4,6 +4,7 @@
 #include "gather/malformed_line.h"
 #include "gather/trace_row.h"
 #include "logreader/diagnostics.h"
+#include "platform/event_reporter.h"
 
 namespace {
 
@@ -14,6 +15,27 @@ void fillEmptyTexts(DiagnosticLine& record)
     if (record.trace.empty()) record.trace = " ";
 }
 
+/// Reads a line into its record, by its formatted form.
+void readRecord(ToolContext& tool, ErrorTrap& step, const std::string& line, std::string& formatted,
+                DiagnosticLine& record)
+{
+    if (!tool.g_bDebugMode)
+        step([&] { mdlDiagnostics::formatLineSafe(tool, line, formatted); });
+    else
+        step([&] { formatted = line; });
+    step([&] { mdlDiagnostics::parseDiagnostic(tool, formatted, line, true, record); });
+}
+
+/// The time of a line that would be formatted and parsed without fail, while the frame has not
+/// begun: of the many lines before a frame nothing else is needed. The empty text for any other.
+std::string_view timeOfLineBefore(const ToolContext& tool, const FrameReading& frame,
+                                  const std::string& line)
+{
+    constexpr std::size_t shortestFormatted = 20;
+    if (tool.g_bDebugMode || frame.hasBegun() || line.size() < shortestFormatted) return {};
+    return tool.platform.eventReporter.timeOfSoundLine(line);
+}
+
 /// Adds the lines of an open log that lie in the frame.
 void addLinesOfFrame(ToolContext& tool, ErrorTrap& step, LogReading& reading, FrameReading& frame,
                      const std::string& process, TraceRow& row)
@@ -21,14 +43,12 @@ void addLinesOfFrame(ToolContext& tool, ErrorTrap& step, LogReading& reading, Fr
     std::string formatted;
     DiagnosticLine record;
     while (reading.nextLine()) {
-        if (!tool.g_bDebugMode)
-            step([&] { mdlDiagnostics::formatLineSafe(tool, reading.line(), formatted); });
-        else
-            step([&] { formatted = reading.line(); });
-        step([&] {
-            mdlDiagnostics::parseDiagnostic(tool, formatted, reading.line(), true, record);
-        });
-        const FramePlace place = frame.place(record.timeStamp);
+        const std::string_view time = timeOfLineBefore(tool, frame, reading.line());
+        FramePlace place = FramePlace::outside;
+        if (!time.empty()) place = frame.place(time);
+        if (time.empty() || place == FramePlace::inside)
+            readRecord(tool, step, reading.line(), formatted, record);
+        if (time.empty()) place = frame.place(record.timeStamp);
         if (place == FramePlace::behind) return;
         if (place == FramePlace::inside) {
             const std::string& date = frame.rowDate(record.timeStamp);

@@ -22,6 +22,9 @@ public:
     /// Starts the carried date at the log's creation.
     void begin(const LogReading& reading);
 
+    /// Whether a line inside has been met.
+    bool hasBegun() const { return seenInRange_; }
+
     /// Carries the date on by a line's time stamp, and places its moment. Bounds are inside.
     FramePlace place(std::string_view timeStamp);
 

@@ -20,6 +20,40 @@ bool isTimeOfDay(Date time)
     return time.days >= 0 && time.days < 1;
 }
 
+bool isDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
+
+/// The seconds of "15:23:07"; -1 for a text of another form, or of a time that no day has.
+int secondsOfClock(std::string_view clock)
+{
+    const auto number = [&](std::size_t place) {
+        return isDigit(clock[place]) && isDigit(clock[place + 1])
+                   ? (clock[place] - '0') * 10 + clock[place + 1] - '0'
+                   : 60;
+    };
+    if (clock[2] != ':' || clock[5] != ':') return -1;
+    const int hour = number(0);
+    const int minute = number(3);
+    const int second = number(6);
+    return hour > 23 || minute > 59 || second > 59 ? -1 : hour * 3600 + minute * 60 + second;
+}
+
+/// The same of the two common stamps, "15:23:07:123" and "2005-10-08 15:23:07".
+int secondsOfStamp(std::string_view stamp)
+{
+    constexpr std::size_t dateWidth = 10;
+    constexpr std::size_t clockWidth = 8;
+    const auto isCommon = [&] {
+        return stamp[8] == ':' && isDigit(stamp[9]) && isDigit(stamp[10]) && isDigit(stamp[11]);
+    };
+    if (stamp.size() == timeStampWidth) return isCommon() ? secondsOfClock(stamp) : -1;
+    if (stamp.size() == dateWidth + 1 + clockWidth && stamp.find(' ', 2) == dateWidth)
+        return secondsOfClock(stamp.substr(dateWidth + 1));
+    return -1;
+}
+
 } // namespace
 
 void RowDates::startDay(Date created)
@@ -34,7 +68,9 @@ void RowDates::startTime(Date created)
 
 void RowDates::readTime(std::string_view timeStamp)
 {
-    time_ = parseTimeText(timeStamp);
+    constexpr double secondsPerDay = 86400;
+    const int seconds = secondsOfStamp(timeStamp);
+    time_ = seconds < 0 ? parseTimeText(timeStamp) : Date{seconds / secondsPerDay};
 }
 
 void RowDates::nextDay()

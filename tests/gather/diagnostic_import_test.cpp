@@ -1,5 +1,7 @@
 #include "gather/import_tool.h"
 
+#include "platform/event_reporter.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -254,4 +256,59 @@ TEST(ProcessOrvanLogFileToDB, LinesOutsideTheFrameHaveProgressPointsToo)
     EXPECT_EQ(3, tool.desktop.pumps());
     EXPECT_EQ(20U, tool.clock.sleeps().size());
     EXPECT_TRUE(tool.rows().empty());
+}
+
+TEST(ProcessOrvanLogFileToDB, LinesThatAreSurelySoundAreNotFormattedBeforeTheFrame)
+{
+    /// Sure of every line of 30 bytes and more, as the log's own lines below are.
+    struct SureReporter final : EventReporter {
+        explicit SureReporter(EventReporter& other) : inner(other) {}
+        void startUp() override { inner.startUp(); }
+        void completeStartUp() override { inner.completeStartUp(); }
+        std::int32_t registerTool(const std::string& name) override
+        {
+            return inner.registerTool(name);
+        }
+        void report(const std::string& source, std::int32_t handle, int type, std::int32_t id,
+                    const std::vector<std::string>& inserts) override
+        {
+            inner.report(source, handle, type, id, inserts);
+        }
+        void formatTraceLine(std::string_view line, std::string& formatted) override
+        {
+            inner.formatTraceLine(line, formatted);
+        }
+        std::string_view timeOfSoundLine(std::string_view line) const override
+        {
+            return line.size() < 30 ? std::string_view() : line.substr(0, 12);
+        }
+        EventReporter& inner;
+    };
+
+    const std::initializer_list<std::string> lines = {
+        lineAt("09:40:00:000", "before"), "garbage of some bytes",
+        lineAt("09:50:00:000", "before"), "short",
+        lineAt("10:00:00:000", "first"),  "garbage of some bytes",
+        lineAt("10:30:00:000", "last"),   lineAt("11:00:01:000", "behind")};
+    ImportTool plain;
+    ImportTool quick;
+    SureReporter sure(quick.eventReporter);
+    Platform platform{quick.files,  quick.registry,         quick.clock,     quick.timeZone,
+                      sure,         quick.eventLogExporter, quick.processes, quick.workstation,
+                      quick.module, quick.languages,        quick.desktop,   quick.database,
+                      quick.xml,    quick.traceDatabases};
+    ToolContext context(platform);
+    context.g_strLogFolder = "C:\\Logs";
+    for (ImportTool* tool : {&plain, &quick}) {
+        tool->start = dateOf(2005, 10, 8, 10, 0, 0);
+        tool->end = dateOf(2005, 10, 8, 11, 0, 0);
+        tool->withLog(log, morning, lines);
+    }
+    plain.importLog(log);
+    mdlLogs::processOrvanLogFileToDB(context, log, *quick.traces, quick.current, quick.label,
+                                     quick.start, quick.end);
+    EXPECT_EQ(plain.rows(), quick.rows());
+    EXPECT_EQ(3U, quick.rows().size());
+    EXPECT_EQ(plain.eventReporter.linesFormatted() - 2, quick.eventReporter.linesFormatted())
+        << "the two before the frame";
 }

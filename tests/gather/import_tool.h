@@ -10,11 +10,11 @@
 struct ImportTool : GatherTool {
     ImportTool()
     {
-        database = traceDatabases.openDatabase("C:\\Out\\trace.mdb");
-        traces = database->openRecordset("tblTraces");
+        traceDatabase = traceDatabases.openDatabase("C:\\Out\\trace.mdb");
+        traces = traceDatabase->openRecordset("tblTraces");
     }
 
-    std::unique_ptr<TraceDatabase> database;
+    std::unique_ptr<TraceDatabase> traceDatabase;
     std::unique_ptr<TraceRecordset> traces;
     Date start = dateOf(2005, 10, 8);
     Date end = dateOf(2005, 10, 8, 23, 59, 59);

@@ -1,5 +1,6 @@
 #include "gather/row_dates.h"
 
+#include "core/utility.h"
 #include "support/error_of.h"
 
 #include <gtest/gtest.h>
@@ -91,4 +92,45 @@ TEST(RowDates, TheLastDayOfTheCalendarHasNoNext)
 {
     RowDates dates = datesAt(dateOf(9999, 12, 31), "00:00:00:000");
     EXPECT_EQ(5, errorOf([&] { dates.nextDay(); }));
+}
+
+TEST(RowDates, ReadsEveryStampAsItsTextIsRead)
+{
+    const char* stamps[] = {
+        "15:23:07:123",
+        "00:00:00:000",
+        "23:59:59:999",
+        "24:00:00:000",
+        "23:60:00:000",
+        "23:59:60:000",
+        "1 :23:07:123",
+        "15:23:07 123",
+        "15:23:07:12x",
+        "15:23:0x:123",
+        "15:23:07.123",
+        "2005-10-08 15:23:07",
+        "2005-10-08 25:23:07",
+        "2005-10-08  5:23:07",
+        "2005-1 -08 15:23:07",
+        "20 5-10-08 15:23:07",
+        "99-99-9999 15:23:07",
+        "",
+        " ",
+        ":",
+        "15:23",
+        "15:23:07:1234",
+        "3:23:07 PM:12",
+        "0000-00-00 00:00:00",
+    };
+    for (const std::string stamp : stamps) {
+        SCOPED_TRACE(stamp);
+        Date expected;
+        const int error = errorOf([&] { expected = parseTimeText(stamp); });
+        RowDates dates;
+        dates.startDay(dateOf(2005, 10, 8));
+        EXPECT_EQ(error, errorOf([&] { dates.readTime(stamp); }));
+        if (error != 0 || expected.days < 0 || expected.days >= 1) continue;
+        dates.formMoment();
+        EXPECT_EQ(38'633 + expected.days, dates.moment().days);
+    }
 }

@@ -63,3 +63,8 @@ void SiteEventReporter::formatTraceLine(std::string_view rawLine, std::string& f
     if (!appendFormattedTraceLine(rawLine, fields_, formatted))
         throw RunTimeError(runTimeErrors::invalidCall);
 }
+
+std::string_view SiteEventReporter::timeOfSoundLine(std::string_view rawLine) const
+{
+    return timeOfSoundTraceLine(rawLine, fields_);
+}

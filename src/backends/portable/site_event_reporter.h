@@ -27,6 +27,7 @@ public:
                 const std::vector<std::string>& inserts) override;
 
     void formatTraceLine(std::string_view rawLine, std::string& formatted) override;
+    std::string_view timeOfSoundLine(std::string_view rawLine) const override;
 
 private:
     std::string eventLogs_;

@@ -95,7 +95,31 @@ bool takeRawFields(std::string_view& rest, LogFields form, RawFields& fields)
            isWholeNumber(fields.number) && isWholeNumber(fields.level);
 }
 
+/// Whether a text is one to `most` digits.
+bool isPlainNumber(std::string_view text, std::size_t most)
+{
+    if (text.empty() || text.size() > most) return false;
+    for (const char c : text)
+        if (!isDigit(c)) return false;
+    return true;
+}
+
 } // namespace
+
+std::string_view timeOfSoundTraceLine(std::string_view rawLine, LogFields fields)
+{
+    constexpr std::size_t digitsOf32Bits = 9;
+    constexpr std::size_t digitsOf16Bits = 4;
+    if (rawLine.size() > EventReporter::traceLineLimit) return {};
+    const std::size_t length = timeLength(rawLine);
+    if (length == 0) return {};
+    auto rest = rawLine.substr(length);
+    RawFields raw;
+    const bool sound = takeRawFields(rest, fields, raw) &&
+                       isPlainNumber(raw.number, digitsOf32Bits) &&
+                       isPlainNumber(raw.level, digitsOf16Bits);
+    return sound ? rawLine.substr(0, length) : std::string_view();
+}
 
 bool appendFormattedTraceLine(std::string_view rawLine, LogFields fields, std::string& formatted)
 {

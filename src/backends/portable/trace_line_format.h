@@ -13,3 +13,7 @@
 /// of more than 31 bytes stands at the head of the trace, followed by ": ".
 /// False for any other line, and for one of more than 510 bytes; `formatted` is then as before.
 bool appendFormattedTraceLine(std::string_view rawLine, LogFields fields, std::string& formatted);
+
+/// The time of a raw line that is formatted without fail and whose trace number has at most nine
+/// digits and its level at most four, both without blanks and signs; the empty text for any other.
+std::string_view timeOfSoundTraceLine(std::string_view rawLine, LogFields fields);

@@ -144,4 +144,55 @@ TEST(AppendFormattedTraceLine, AnswersAnyBytes)
     }
 }
 
+TEST(TimeOfSoundTraceLine, IsSureOfPlainLinesAlone)
+{
+    struct Case {
+        const char* because;
+        LogFields fields;
+        std::string line;
+        std::string time;
+    };
+    const Case cases[] = {
+        {"a basic line", LogFields::basic, "15:23:07:123,S,1,X,0,a", "15:23:07:123"},
+        {"a line with a date", LogFields::basic, "2005-10-08 15:23:07,S,1,X,0,a",
+         "2005-10-08 15:23:07"},
+        {"an extended line", LogFields::extended, "15:23:07:123,S,1,t,p,c,X,0,a", "15:23:07:123"},
+        {"the largest numbers", LogFields::basic, "15:23:07:123,S,999999999,X,9999,",
+         "15:23:07:123"},
+        {"a number that may be too large", LogFields::basic, "15:23:07:123,S,1000000000,X,0,a", ""},
+        {"a level that may be too large", LogFields::basic, "15:23:07:123,S,1,X,10000,a", ""},
+        {"a sign", LogFields::basic, "15:23:07:123,S,-1,X,0,a", ""},
+        {"a blank", LogFields::basic, "15:23:07:123,S,1,X, 0,a", ""},
+        {"no number", LogFields::basic, "15:23:07:123,S,,X,0,a", ""},
+        {"a formatted line", LogFields::basic, "15:23:07:123 (S,1,X,0) a", ""},
+        {"a basic line where lines are extended", LogFields::extended, "15:23:07:123,S,1,X,0,a",
+         ""},
+        {"no line at all", LogFields::basic, "garbage", ""},
+        {"a line past the limit", LogFields::basic, "15:23:07:123,S,1,X,0," + std::string(510, 'a'),
+         ""},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        EXPECT_EQ(c.time, timeOfSoundTraceLine(c.line, c.fields));
+    }
+}
+
+TEST(TimeOfSoundTraceLine, KeepsItsWordForAnyBytes)
+{
+    std::mt19937 random(4711);
+    const std::string plain = "15:23:07:123,Conv,1234,CallFlow,7,text";
+    const std::string bytes = "0123456789,:-+ ()x\xE9";
+    int sure = 0;
+    for (int round = 0; round < 50'000; ++round) {
+        std::string line = plain;
+        for (unsigned change = random() % 4; change > 0; --change)
+            line[random() % line.size()] = bytes[random() % bytes.size()];
+        const std::string time(timeOfSoundTraceLine(line, LogFields::basic));
+        if (time.empty()) continue;
+        ++sure;
+        EXPECT_EQ(0U, formatted(line).rfind(time + " (", 0)) << line;
+    }
+    EXPECT_GT(sure, 10'000);
+}
+
 } // namespace
