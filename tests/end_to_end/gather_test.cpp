@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <chrono>
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -63,7 +65,7 @@ TEST_F(GatherCommand, TakesLogsByName)
 
 TEST_F(GatherCommand, CopiesALineThatIsNoneAsItCan)
 {
-    const std::string log = "diag_Odd_20250101_000000.txt";
+    const std::string log = "diag_KoNotify_20250101_000000.txt";
     write(drive("KelmaOrvan/Logs/" + log), "garbage without any structure at all\n"
                                            "short\n"
                                            "15:23:07:123,Conv,1,X,2,good\n");
@@ -87,6 +89,7 @@ TEST_F(GatherCommand, RefusesWhatItDoesNotKnowAndChangesNothing)
 {
     ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
     write(folder / "file", "x");
+    write(drive("KelmaOrvan/Logs/diag_Gone_1.txt"), "15:23:07:123,Conv,1,X,2,good\n");
     const std::string before = fingerprint();
     const struct {
         const char* because;
@@ -94,6 +97,9 @@ TEST_F(GatherCommand, RefusesWhatItDoesNotKnowAndChangesNothing)
         int status;
     } cases[] = {
         {"an unknown log", {"gather", "logs", "--log", "diag_None_1.txt"}, 1},
+        {"a log of no process, which the wizard does not offer",
+         {"gather", "logs", "--log", "diag_Gone_1.txt"},
+         1},
         {"a log outside the log folder", {"gather", "logs", "--log", "../site.ini"}, 1},
         {"a log without a name", {"gather", "logs", "--log", ""}, 1},
         {"an unknown event log", {"gather", "logs", "--event-log", "Nothing"}, 1},
@@ -127,10 +133,70 @@ TEST_F(GatherCommand, ShowsNothingForADestinationThatTheSystemRefuses)
     EXPECT_EQ(1, std::count(refused.err.begin(), refused.err.end(), '\n')) << refused.err;
 }
 
+TEST_F(GatherCommand, TakesALogByItsNameInAnyCase)
+{
+    const std::string log = "diag_KoNotify_20250101_000000.txt";
+    write(drive("KelmaOrvan/Logs/" + log), "15:23:07:123,Conv,1,X,2,good\n");
+    const auto result = runJson({"gather", "logs", "--log", "DIAG_konotify_20250101_000000.TXT",
+                                 "--to", target.string()})
+                            .json();
+    EXPECT_THAT(result["files"], ElementsAre(formattedName(log)));
+}
+
+TEST_F(GatherCommand, AnInterruptIsTheWizardsCancelAndKeepsWhatWasRead)
+{
+    const std::string log = "diag_KoNotify_20250101_000000.txt";
+    std::string content;
+    for (int i = 0; i < 500'000; ++i) content += "15:23:07:123,Conv,1,X,2,a line among many\n";
+    write(drive("KelmaOrvan/Logs/" + log), content);
+    const std::string copy = (target / formattedName(log)).string();
+    const Outcome cancelled = runProgram(
+        {"bash", "-c",
+         "'" ORVANDIAG_PROGRAM "' --site '" + site.string() + "' gather logs --log " + log +
+             " --event-log System --to '" + target.string() + "' & gather=$!; until [ -e '" + copy +
+             "' ] || ! kill -0 $gather; do :; done; kill -TERM $gather; wait $gather"});
+    EXPECT_EQ(1, cancelled.status) << cancelled.out << cancelled.err;
+    EXPECT_EQ("orvandiag: cancelled; what was read until then is kept in " + target.string() + "\n",
+              cancelled.err);
+    EXPECT_LT(fs::file_size(copy), content.size());
+    EXPECT_FALSE(fs::exists(target / "System.csv"));
+}
+
+TEST_F(GatherCommand, ADryRunTellsWhatWouldBeTakenAndGathersNothing)
+{
+    const std::string log = currentLog();
+    const auto planned = runJson({"gather", "standard", "--dry-run", "--to", target.string()});
+    ASSERT_EQ(0, planned.status) << planned.err;
+    const auto plan = planned.json();
+    const auto size = fs::file_size(drive("KelmaOrvan/Logs/" + log));
+    EXPECT_EQ(target.string(), plan["destination"]);
+    ASSERT_EQ(1u, plan["logs"].size());
+    EXPECT_EQ(log, plan["logs"][0]["name"]);
+    EXPECT_EQ(size, plan["logs"][0]["size"]);
+    EXPECT_EQ(size, plan["size"]);
+    EXPECT_THAT(plan["eventLogs"], ElementsAre("Application", "System"));
+    EXPECT_GT(plan["freeSpace"], 0);
+    EXPECT_FALSE(fs::exists(target));
+}
+
+TEST_F(GatherCommand, ADryRunOfAFrameListsTheLogsThatTouchIt)
+{
+    write(drive("KelmaOrvan/Logs/diag_KoNotify_20010203_040506.txt"), "old\n");
+    fs::last_write_time(drive("KelmaOrvan/Logs/diag_KoNotify_20010203_040506.txt"),
+                        fs::file_time_type::clock::now() - std::chrono::hours(24 * 365 * 10));
+    const Outcome planned = run({"gather", "frame", "--from", "2001-02-03 04:00", "--hours", "1",
+                                 "--no-system", "--dry-run", "--to", target.string()});
+    ASSERT_EQ(0, planned.status) << planned.err;
+    EXPECT_THAT(planned.out, HasSubstr("diag_KoNotify_20010203_040506.txt"));
+    EXPECT_THAT(planned.out, HasSubstr("Application event log"));
+    EXPECT_THAT(planned.out, testing::Not(HasSubstr("System event log")));
+    EXPECT_FALSE(fs::exists(target));
+}
+
 TEST_F(GatherCommand, TellsOfAFullDisk)
 {
     ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
-    const std::string log = "diag_Long_20250101_000000.txt";
+    const std::string log = "diag_KoNotify_20250101_000000.txt";
     std::string content;
     for (int i = 0; i < 20'000; ++i) content += "15:23:07:123,Conv,1,X,2,a line among many\n";
     write(drive("KelmaOrvan/Logs/" + log), content);

@@ -54,6 +54,16 @@ const Opening openings[] = {
      "3",
      "startDisableAllTracesWizard",
      "mnuDisableAllTraces_Click"},
+    {5,
+     "GatherLogFiles",
+     SheetType::wizard,
+     "Gather Logs Wizard",
+     {"ppgGatherLogs00Welcome", "ppgGatherLogs01Step", "ppgGatherLogs02Step", "ppgGatherLogs03Step",
+      "ppgGatherLogs99Final"},
+     "mnuGatherLogFiles",
+     "5",
+     "startGatherLogFilesWizard",
+     "mnuGatherLogFiles_Click"},
 };
 
 struct SnapinSheets : ShellTest {

@@ -1,13 +1,10 @@
 #include "hosts/cli/gather_run.h"
 
 #include "core/error_trap.h"
-#include "gather/logs.h"
-#include "gather/trace_object.h"
 #include "hosts/cli/gather_progress.h"
+#include "hosts/cli/gather_wizard.h"
 #include "hosts/cli/interrupt.h"
 #include "hosts/cli/row_counts.h"
-#include "platform/controls.h"
-#include "platform/file_system.h"
 #include "platform/trace_database.h"
 #include "runtime/text.h"
 
@@ -19,20 +16,6 @@
 namespace fs = std::filesystem;
 
 namespace {
-
-/// The controls that a gather reports to, and the steps it walks.
-struct GatherControls {
-    TreeView steps;
-    Label step;
-    ProgressBar current;
-    ProgressBar overall;
-};
-
-void addSteps(TreeView& steps, const std::string& root, const StringArray& logs)
-{
-    TreeNode& node = steps.add(root);
-    for (int index = 1; index <= logs.upperBound(); ++index) steps.addChild(node, logs.at(index));
-}
 
 /// What a line may raise that is malformed: it is copied or stored as it can be.
 bool isOfAMalformedLine(int error)
@@ -98,6 +81,40 @@ void findResults(GatherResult& result, const std::string& database,
     if (!result.cabinet && !result.failure) result.failure = "no cabinet was made";
 }
 
+/// While it lives: shows a run's progress, takes Ctrl-C for its Cancel and notes what goes wrong.
+class RunWatch {
+public:
+    RunWatch(OpenTool& tool, GatherWizard& wizard, GatherResult& result)
+        : tool_(tool), progress_(wizard.currentStep(), wizard.current(), wizard.overall())
+    {
+        tool.context().onTrappedError = [&](const RunTimeError& error, std::string_view procName) {
+            if (!result.failure && costsAResult(error, procName))
+                result.failure = failureText(error, currentLog(wizard.steps()));
+        };
+        tool.desktop().beforeMessage([this] { progress_.clear(); });
+        tool.desktop().onPump([this, &wizard, &result] {
+            if (!interrupt_.made() || result.cancelled) return;
+            result.cancelled = true;
+            wizard.cancel();
+        });
+    }
+
+    ~RunWatch()
+    {
+        tool_.desktop().onPump({});
+        tool_.desktop().beforeMessage({});
+        tool_.context().onTrappedError = {};
+    }
+
+    RunWatch(const RunWatch&) = delete;
+    RunWatch& operator=(const RunWatch&) = delete;
+
+private:
+    OpenTool& tool_;
+    InterruptWish interrupt_;
+    GatherProgress progress_;
+};
+
 } // namespace
 
 void requireUsableDestination(OpenTool& tool, const std::string& destination)
@@ -119,40 +136,18 @@ void requireUsableDestination(OpenTool& tool, const std::string& destination)
                              " may not be written to");
 }
 
-GatherResult runGather(OpenTool& tool, classTraceObject& job)
+GatherResult runGather(OpenTool& tool, GatherWizard& wizard)
 {
     GatherResult result;
-    ToolContext& context = tool.context();
-    GatherControls controls;
-    context.onTrappedError = [&](const RunTimeError& error, std::string_view procName) {
-        if (!result.failure && costsAResult(error, procName))
-            result.failure = failureText(error, currentLog(controls.steps));
-    };
-    const auto before = sortedNames(tool.machinePath(job.m_LogDestinationDirectory));
-
-    addSteps(controls.steps, std::string(mdlLogs::orvanLogsBranch), job.getOrvanLogs());
-    addSteps(controls.steps, "Windows Event Logs", job.getWindowsLogs());
+    const auto before = sortedNames(tool.machinePath(wizard.destination()));
     {
-        const InterruptWish interrupt;
-        GatherProgress progress(controls.step, controls.current, controls.overall);
-        tool.desktop().beforeMessage([&] { progress.clear(); });
-        tool.desktop().onPump([&] {
-            if (!interrupt.made() || result.cancelled) return;
-            result.cancelled = true;
-            mdlLogs::cancelCurrentProcess(context, true);
-        });
-        job.m_LogDestinationDirectory = mdlLogs::processLogs(
-            context, controls.steps, controls.step, controls.current, controls.overall,
-            job.m_LogDestinationDirectory, job.m_dateStart, job.m_dateEnd);
-        tool.desktop().onPump({});
-        tool.desktop().beforeMessage({});
+        const RunWatch watch(tool, wizard, result);
+        wizard.run();
     }
-    context.onTrappedError = {};
-
-    result.destination = tool.machinePath(job.m_LogDestinationDirectory);
+    result.destination = tool.machinePath(wizard.destination());
     result.files = sortedNames(result.destination);
-    if (job.m_bTimeFrameLogs)
-        findResults(result, tool.machinePath(context.g_strTraceDatabase), before);
+    if (wizard.makesDatabase())
+        findResults(result, tool.machinePath(tool.context().g_strTraceDatabase), before);
     if (!result.failure && !tool.desktop().failures().empty())
         result.failure = "not all logs could be gathered";
     return result;

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-class classTraceObject;
+class GatherWizard;
 
 /// What a gather left, as paths of this machine.
 struct GatherResult {
@@ -19,11 +19,13 @@ struct GatherResult {
     bool cancelled = false;
 };
 
-/// Sees to it that a job can write to its destination. Raises CommandFailure, and changes nothing.
+/// Sees to it that a gather can write to its destination. Raises CommandFailure, and changes
+/// nothing.
 void requireUsableDestination(OpenTool& tool, const std::string& destination);
 
-/// Runs a filled job with a progress bar on the terminal; Ctrl-C cancels it.
-GatherResult runGather(OpenTool& tool, classTraceObject& job);
+/// Lets a wizard run, with a progress bar on the terminal; Ctrl-C is its Cancel. Raises
+/// CommandFailure when the wizard does not come to its end.
+GatherResult runGather(OpenTool& tool, GatherWizard& wizard);
 
 /// Prints the result, and raises CommandFailure when something is missing from it.
 void report(Output& output, const GatherResult& result);

@@ -1,16 +1,18 @@
 #include "core/registry_store.h"
-#include "gather/logs.h"
-#include "gather/time_frame.h"
-#include "gather/trace_object.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/frame_arguments.h"
+#include "hosts/cli/gather_preview.h"
 #include "hosts/cli/gather_run.h"
-#include "logreader/diagnostics.h"
+#include "hosts/cli/gather_wizard.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
 #include "runtime/text.h"
+#include "wizards/gather_welcome.h"
 
 #include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -30,7 +32,7 @@ public:
                "copied in readable form, event logs as CSV. A time frame's lines go into a trace\n"
                "database, which is packed into a cabinet together with the event logs. Ctrl-C "
                "cancels,\n"
-               "and keeps what was read.\n\n"
+               "and keeps what was read. --dry-run lists what would be taken.\n\n"
                "  orvandiag gather standard --to ~/case-4711\n"
                "  orvandiag gather logs --log diag_KoCSMgr_20250220_153011.txt --event-log System\n"
                "  orvandiag gather frame --from \"2025-02-20 16:42\" --hours 1 --to ~/case-4711";
@@ -55,36 +57,42 @@ public:
             ->required();
         frame_->add_flag("--no-application", noApplication_, "leave the Application events out");
         frame_->add_flag("--no-system", noSystem_, "leave the System events out");
-        for (CLI::App* mode : {standard_, logs_, frame_})
+        for (CLI::App* mode : {standard_, logs_, frame_}) {
             mode->add_option("--to", to_, "the folder to gather into")->type_name("DIR");
+            mode->add_flag("--dry-run", dryRun_, "tell what would be gathered, and gather nothing");
+        }
     }
 
     void run(const GlobalOptions& options, Output& output) override
     {
         if (logs_->parsed() && orvanLogs_.empty() && windowsLogs_.empty())
             throw UsageError("gather logs needs a --log or an --event-log");
-        TimeFrameChoice choice;
-        if (frame_->parsed()) choice = frameChoice();
-        OpenTool tool(options, [&](OpenTool& opened) { requireSound(opened, choice); });
-        classTraceObject job;
-        job.clearOrvanLogs();
-        job.clearWindowsLogs();
-        if (frame_->parsed())
-            fillFrame(tool, choice, job);
-        else if (standard_->parsed())
-            fillStandard(tool, job);
-        else
-            fillSelected(tool, job);
-        job.m_LogDestinationDirectory =
-            to_.empty() ? mdlLogs::getLogFileDestinationDirectory(tool.context())
-                        : tool.toolPath(to_);
-        requireUsableDestination(tool, job.m_LogDestinationDirectory);
-        const GatherResult result = runGather(tool, job);
+        GatherRequest request;
+        request.option = option();
+        request.logs = orvanLogs_;
+        request.eventLogs = windowsLogs_;
+        if (frame_->parsed()) request.frame = frameChoice();
+        OpenTool tool(options, [&](OpenTool& opened) { requireSound(opened, request.frame); });
+        if (!to_.empty()) request.destination = tool.toolPath(to_);
+        std::optional<GatherResult> result;
+        {
+            GatherWizard wizard(tool, request);
+            if (dryRun_)
+                preview(tool, wizard, output);
+            else
+                result = runGather(tool, wizard);
+        }
         tool.close();
-        report(output, result);
+        if (result) report(output, *result);
     }
 
 private:
+    int option() const
+    {
+        if (frame_->parsed()) return gatherOption::timeFrame;
+        return logs_->parsed() ? gatherOption::byHand : gatherOption::standard;
+    }
+
     TimeFrameChoice frameChoice() const
     {
         const Date start = frameStart(from_);
@@ -98,49 +106,37 @@ private:
         if (frame_->parsed() && choice.startDate > platform.clock.now())
             throw CommandFailure("the time frame starts in the future");
         const std::string folder = getRegistryText(tool.context(), logManagerKey, "Output Path");
-        for (const auto& log : orvanLogs_) {
-            if (log.empty() || log.find_first_of("/\\:") != std::string::npos ||
-                !platform.files.fileExists(folder + "\\" + log))
-                throw CommandFailure("no log \"" + log + "\" in " + folder);
-        }
-        for (const auto& log : windowsLogs_) eventLog(tool, log);
+        for (const auto& log : orvanLogs_) requireLog(tool, folder, log);
+        for (const auto& log : windowsLogs_)
+            if (!holds(subkeys(tool, eventLogsKey), log))
+                throw CommandFailure("no Windows event log \"" + log + "\" on this server");
         if (!to_.empty()) requireUsableDestination(tool, tool.toolPath(to_));
     }
 
-    static void fillFrame(OpenTool& tool, const TimeFrameChoice& choice, classTraceObject& job)
+    /// Raises CommandFailure for a file that is none of a process's logs, which are all that the
+    /// wizard offers.
+    static void requireLog(OpenTool& tool, const std::string& folder, const std::string& name)
     {
-        TimeFrame frame;
-        determineSelectedLogsFromTimeFrame(tool.context(), choice, frame, job);
-        job.m_bTimeFrameLogs = true;
-        job.m_dateStart = frame.start;
-        job.m_dateEnd = frame.end;
+        for (const std::string& process : subkeys(tool, std::string(logManagerKey) + "\\Process"))
+            if (holds(
+                    tool.context().platform.files.matching(folder + "\\diag_" + process + "_*.txt"),
+                    name))
+                return;
+        throw CommandFailure("no log \"" + name + "\" of a process in " + folder);
     }
 
-    static void fillStandard(OpenTool& tool, classTraceObject& job)
+    static std::vector<std::string> subkeys(OpenTool& tool, const std::string& path)
     {
-        job.m_bStandardLogs = true;
-        job.addOrvanLog(mdlDiagnostics::getCurrentDiagnosticFile(tool.context(), standardProcess));
-        job.addWindowsLog("Application");
-        job.addWindowsLog("System");
+        return tool.context()
+            .platform.registry.subkeys(HKEY_LOCAL_MACHINE, path)
+            .value_or(std::vector<std::string>{});
     }
 
-    void fillSelected(OpenTool& tool, classTraceObject& job) const
+    static bool holds(const std::vector<std::string>& names, const std::string& wanted)
     {
-        for (const auto& log : orvanLogs_) job.addOrvanLog(log);
-        for (const auto& log : windowsLogs_) job.addWindowsLog(eventLog(tool, log));
-    }
-
-    /// The event log's own spelling of its name. Raises CommandFailure for a log that is not there.
-    static std::string eventLog(OpenTool& tool, const std::string& name)
-    {
-        const KeyNames logs = enumRegistryKeys(tool.context(), HKEY_LOCAL_MACHINE, eventLogsKey);
-        try {
-            for (int index = logs.lowerBound(); index <= logs.upperBound(); ++index)
-                if (equalIgnoringCase(logs.at(index), name)) return logs.at(index);
-        } catch (const RunTimeError&) {
-            // No list of event logs at all.
-        }
-        throw CommandFailure("no Windows event log \"" + name + "\" on this server");
+        return std::any_of(names.begin(), names.end(), [&](const std::string& name) {
+            return equalIgnoringCase(name, wanted);
+        });
     }
 
     CLI::App* standard_ = nullptr;
@@ -153,6 +149,7 @@ private:
     bool noApplication_ = false;
     bool noSystem_ = false;
     std::string to_;
+    bool dryRun_ = false;
 };
 
 } // namespace

@@ -1,0 +1,106 @@
+#include "hosts/cli/gather_preview.h"
+
+#include "gather/logs.h"
+#include "hosts/cli/gather_wizard.h"
+#include "hosts/cli/output.h"
+#include "platform/file_system.h"
+#include "runtime/run_time_error.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct PlannedLog {
+    std::string name;
+    std::optional<std::int64_t> size; ///< bytes; none for a file that is not there
+};
+
+struct Plan {
+    std::vector<PlannedLog> logs;
+    std::vector<std::string> eventLogs;
+    std::int64_t size = 0; ///< of all logs; event logs have none before they are captured
+};
+
+std::optional<std::int64_t> sizeOf(OpenTool& tool, const std::string& log)
+{
+    try {
+        return tool.context().platform.files.file(tool.context().g_strLogFolder + "\\" + log).size;
+    } catch (const RunTimeError&) {
+        return {};
+    }
+}
+
+/// The steps of the progress page; one without a text stands for an empty list.
+Plan planOf(OpenTool& tool, const TreeView& steps)
+{
+    Plan plan;
+    for (const TreeNode* root : steps.roots()) {
+        const bool server = root->text() == mdlLogs::orvanLogsBranch;
+        for (const TreeNode* leaf = root->child(); leaf; leaf = leaf->next()) {
+            if (leaf->text().empty()) continue;
+            if (server)
+                plan.logs.push_back({leaf->text(), sizeOf(tool, leaf->text())});
+            else
+                plan.eventLogs.push_back(leaf->text());
+        }
+    }
+    for (const PlannedLog& log : plan.logs) plan.size += log.size.value_or(0);
+    return plan;
+}
+
+/// Bytes that this user may write below a folder, which need not be there yet.
+std::optional<std::int64_t> freeSpace(fs::path folder)
+{
+    std::error_code failed;
+    while (!fs::exists(folder, failed) && folder.has_relative_path()) folder = folder.parent_path();
+    const fs::space_info space = fs::space(folder, failed);
+    if (failed) return {};
+    return static_cast<std::int64_t>(space.available);
+}
+
+Json orNull(const std::optional<std::int64_t>& number)
+{
+    return number ? Json(*number) : Json(nullptr);
+}
+
+std::string bytes(const std::optional<std::int64_t>& number)
+{
+    return number ? groupedNumber(*number) : "?";
+}
+
+std::string table(const Plan& plan, const std::optional<std::int64_t>& room)
+{
+    Table rows({"Log", "Bytes"});
+    rows.alignRight(1);
+    for (const PlannedLog& log : plan.logs) rows.row({log.name, bytes(log.size)});
+    for (const std::string& log : plan.eventLogs) rows.row({log + " event log", ""});
+    rows.row({"All server logs", groupedNumber(plan.size)});
+    rows.row({"Free at the destination", bytes(room)});
+    return rows.text();
+}
+
+} // namespace
+
+void preview(OpenTool& tool, GatherWizard& wizard, Output& output)
+{
+    const Plan plan = planOf(tool, wizard.steps());
+    const std::string destination = tool.machinePath(wizard.destination());
+    const auto room = freeSpace(destination);
+    if (!output.json()) {
+        output.line("Would gather into " + destination);
+        output.text(table(plan, room));
+        return;
+    }
+    Json logs = Json::array();
+    for (const PlannedLog& log : plan.logs)
+        logs.push_back({{"name", log.name}, {"size", orNull(log.size)}});
+    output.value({{"destination", destination},
+                  {"logs", logs},
+                  {"eventLogs", plan.eventLogs},
+                  {"size", plan.size},
+                  {"freeSpace", orNull(room)}});
+}

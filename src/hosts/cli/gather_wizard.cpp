@@ -1,0 +1,108 @@
+#include "hosts/cli/gather_wizard.h"
+
+#include "hosts/cli/gather_run.h"
+#include "runtime/text.h"
+#include "wizards/gather_welcome.h"
+
+namespace {
+
+constexpr const char* taskKey = "5";
+constexpr const char* lastPageName = "ppgGatherLogs99Final";
+
+/// What a label shows below its caption.
+std::string belowCaption(const Label& label)
+{
+    const std::string& text = label.caption();
+    return text.substr(text.rfind(lineBreak) + lineBreak.size());
+}
+
+/// A child by its text in any case; null when there is none.
+TreeNode* childNamed(const TreeNode& parent, const std::string& text)
+{
+    for (TreeNode* node = parent.child(); node; node = node->next())
+        if (equalIgnoringCase(node->text(), text)) return node;
+    return nullptr;
+}
+
+/// A log file of some process, below the root of the server logs.
+TreeNode* logNamed(const TreeNode& root, const std::string& name)
+{
+    for (const TreeNode* process = root.child(); process; process = process->next())
+        if (TreeNode* log = childNamed(*process, name)) return log;
+    return nullptr;
+}
+
+void tickNode(TreeView& tree, TreeNode* node, const std::string& name)
+{
+    if (!node) throw CommandFailure("the wizard does not offer the log \"" + name + "\"");
+    tree.checkByPerson(*node, true);
+}
+
+void tickBox(CheckBox& box, bool ticked)
+{
+    if (box.checked() != ticked) box.click();
+}
+
+} // namespace
+
+GatherWizard::GatherWizard(OpenTool& tool, const GatherRequest& request)
+    : driver_(tool, taskKey), makesDatabase_(request.option == gatherOption::timeFrame)
+{
+    chooseDestination(tool, request.destination);
+    driver_.control<OptionButtonGroup>("optGatherLogs").click(request.option);
+    driver_.next();
+    if (request.option == gatherOption::byHand) tickLogs(request);
+    if (request.option == gatherOption::timeFrame) enterFrame(request.frame);
+    steps_ = &driver_.control<TreeView>("treeviewSteps");
+    currentStep_ = &driver_.control<Label>("lblCurrentProcess");
+    current_ = &driver_.control<ProgressBar>("progressbarCurrentProcess");
+    overall_ = &driver_.control<ProgressBar>("progressbarOverall");
+}
+
+void GatherWizard::chooseDestination(OpenTool& tool, const std::string& folder)
+{
+    if (!folder.empty()) {
+        tool.desktop().answerPickers(folder);
+        driver_.control<Button>("cmdChangeDestinationDirectory").click();
+        tool.desktop().answerPickers({});
+    }
+    destination_ = belowCaption(driver_.control<Label>("lblDestinationDirectory"));
+    requireUsableDestination(tool, destination_);
+}
+
+void GatherWizard::tickLogs(const GatherRequest& request)
+{
+    auto& tree = driver_.control<TreeView>("treeviewLogsToGather");
+    if (tree.roots().size() < 2) throw CommandFailure("the wizard offers no logs");
+    for (const auto& name : request.logs) tickNode(tree, logNamed(*tree.roots()[0], name), name);
+    for (const auto& name : request.eventLogs)
+        tickNode(tree, childNamed(*tree.roots()[1], name), name);
+    driver_.next();
+}
+
+void GatherWizard::enterFrame(const TimeFrameChoice& choice)
+{
+    auto& date = driver_.control<DateTimePicker>("dtpickerDate");
+    auto& time = driver_.control<DateTimePicker>("dtpickerTime");
+    auto& duration = driver_.control<TextBox>("txtDuration");
+    date.setByPerson(choice.startDate);
+    time.setByPerson(choice.startTime);
+    duration.setByPerson(choice.duration);
+    if (dayOf(date.value()) != dayOf(choice.startDate) ||
+        timeOf(time.value()) != timeOf(choice.startTime))
+        throw CommandFailure("the time frame starts in the future");
+    tickBox(driver_.control<CheckBox>("chkWindowsEventLogs_Application"), choice.applicationLog);
+    tickBox(driver_.control<CheckBox>("chkWindowsEventLogs_System"), choice.systemLog);
+    driver_.next();
+}
+
+void GatherWizard::run()
+{
+    WizardSheet& sheet = driver_.sheet();
+    sheet.tick(driver_.control<Timer>("tmrDelayStart"));
+    if (sheet.closed()) return;
+    if (sheet.currentPage().name() != lastPageName)
+        throw CommandFailure("the wizard did not come to its end");
+    destination_ = belowCaption(driver_.control<Label>("lblSummary"));
+    driver_.finish();
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "gather/time_frame.h"
+#include "hosts/cli/wizard_driver.h"
+#include "platform/controls.h"
+
+#include <string>
+#include <vector>
+
+/// What a person asks of the gather wizard.
+struct GatherRequest {
+    int option = 0;                     ///< one of `gatherOption`
+    std::vector<std::string> logs;      ///< of a selection by hand, in any case
+    std::vector<std::string> eventLogs; ///< the same
+    TimeFrameChoice frame;              ///< of a time frame
+    std::string destination;            ///< as the tool's path; empty for the wizard's own
+};
+
+/// The gather wizard at its progress page, about to run.
+class GatherWizard {
+public:
+    /// Answers the pages before. Raises CommandFailure for a destination that can't be written to,
+    /// and for what the pages don't offer.
+    GatherWizard(OpenTool& tool, const GatherRequest& request);
+
+    /// Where the results go, as the tool's path.
+    const std::string& destination() const { return destination_; }
+
+    /// The controls that the run reports to. They live as long as this.
+    TreeView& steps() { return *steps_; }
+    Label& currentStep() { return *currentStep_; }
+    ProgressBar& current() { return *current_; }
+    ProgressBar& overall() { return *overall_; }
+
+    /// Whether the run is to leave a trace database and a cabinet.
+    bool makesDatabase() const { return makesDatabase_; }
+
+    /// Lets the delay before the run pass at once, as there is nothing to paint, and returns when
+    /// the run has. Raises CommandFailure when the wizard did not go on by itself, but for a
+    /// cancel.
+    void run();
+
+    /// The person's cancel, during the run: the wizard closes, and the run ends at its next look.
+    void cancel() { driver_.sheet().cancel(); }
+
+private:
+    void chooseDestination(OpenTool& tool, const std::string& folder);
+    void tickLogs(const GatherRequest& request);
+    void enterFrame(const TimeFrameChoice& choice);
+
+    WizardDriver driver_;
+    std::string destination_;
+    bool makesDatabase_;
+    TreeView* steps_ = nullptr;
+    Label* currentStep_ = nullptr;
+    ProgressBar* current_ = nullptr;
+    ProgressBar* overall_ = nullptr;
+};
