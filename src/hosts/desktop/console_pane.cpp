@@ -3,6 +3,7 @@
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_view.h"
 #include "hosts/desktop/scope_model.h"
+#include "hosts/desktop/sheet_dialog.h"
 #include "hosts/desktop/task_pad_view.h"
 #include "platform/console.h"
 #include "runtime/run_time_error.h"
@@ -135,13 +136,14 @@ void ConsolePane::makeViews()
 void ConsolePane::perform(const std::function<void(Console&)>& call)
 {
     if (busy()) return;
+    if (sheetAtWork())
+        return emit said(tr("The tool is still finishing what was cancelled. One moment."));
     {
         const AtWork atWork{calls_};
         try {
             call(console_);
         } catch (const RunTimeError& error) {
-            emit failed(tr("That did not work: %1. Press F5 to renew what is shown, and try again.")
-                            .arg(QString::fromStdString(error.description())));
+            handlerFailed(error);
         }
         followSelection();
     }
@@ -245,4 +247,30 @@ void ConsolePane::viewFilled(ResultView& resultView)
 void ConsolePane::statusBarChanged(const std::string& text)
 {
     emit statusText(QString::fromStdString(text));
+}
+
+bool ConsolePane::sheetAtWork() const
+{
+    const auto shown = console_.currentView().propertySheetProvider().lastSheet();
+    return shown && shown->atWork();
+}
+
+SheetDialog* ConsolePane::sheet() const
+{
+    return sheet_ && sheet_->isVisible() ? sheet_.data() : nullptr;
+}
+
+void ConsolePane::sheetShown(OpenSheet& sheet)
+{
+    auto* dialog =
+        new SheetDialog(std::static_pointer_cast<OpenSheet>(sheet.shared_from_this()), this);
+    sheet_ = dialog;
+    connect(dialog, &SheetDialog::over, this, &ConsolePane::callDone);
+    if (!sheet.closed()) dialog->show();
+}
+
+void ConsolePane::handlerFailed(const RunTimeError& error)
+{
+    emit failed(tr("That did not work: %1. Press F5 to renew what is shown, and try again.")
+                    .arg(QString::fromStdString(error.description())));
 }

@@ -5,6 +5,7 @@
 #include "platform/code_page.h"
 
 #include <QPersistentModelIndex>
+#include <QPointer>
 #include <QWidget>
 
 #include <functional>
@@ -17,6 +18,7 @@ class QSplitter;
 class QStackedWidget;
 class QTreeView;
 class ScopeModel;
+class SheetDialog;
 class TaskPadView;
 
 /// The tree and the result view of one console: shows what the console tells and carries back what
@@ -36,6 +38,12 @@ public:
     void perform(const std::function<void(Console&)>& call);
 
     bool busy() const { return calls_ > 0; }
+
+    /// Whether a page of a sheet is at work, on show or closed already.
+    bool sheetAtWork() const;
+
+    /// The sheet on show; null for none.
+    SheetDialog* sheet() const;
 
     QTreeView& tree() { return *tree_; }
     TaskPadView& taskPad() { return *taskPad_; }
@@ -65,6 +73,8 @@ private:
     void viewReset(ResultView& resultView) override;
     void viewFilled(ResultView& resultView) override;
     void statusBarChanged(const std::string& text) override;
+    void sheetShown(OpenSheet& sheet) override;
+    void handlerFailed(const RunTimeError& error) override;
 
     void makeTree();
     void makeViews();
@@ -86,5 +96,6 @@ private:
     ListTable* list_ = nullptr;
     LogView* log_ = nullptr;
     QPersistentModelIndex pending_; ///< what the person selected and the console has not yet
+    QPointer<SheetDialog> sheet_;
     int calls_ = 0;
 };

@@ -3,9 +3,11 @@
 #include "hosts/desktop/screenshot.h"
 #include "hosts/desktop/theme.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QSettings>
+#include <QTimer>
 
 #include <cstdio>
 #include <cstdlib>
@@ -32,6 +34,7 @@ void sayWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&
 struct Options {
     QString site;
     QString node;
+    QString command;
     QString screenshot;
     QString size;
     QString theme;
@@ -51,6 +54,10 @@ Options optionsOf(const QApplication& application)
     const QCommandLineOption node(QStringLiteral("show"),
                                   QStringLiteral("Select the node of this name, such as a log."),
                                   QStringLiteral("NAME"));
+    const QCommandLineOption command(
+        QStringLiteral("command"),
+        QStringLiteral("Start with a command of the tool, such as mnuGatherLogFiles."),
+        QStringLiteral("NAME"));
     const QCommandLineOption scheme(QStringLiteral("theme"),
                                     QStringLiteral("Look: system, light or dark."),
                                     QStringLiteral("NAME"));
@@ -62,10 +69,11 @@ Options optionsOf(const QApplication& application)
     const QCommandLineOption development(
         QStringLiteral("development-host"),
         QStringLiteral("Answer the tool's debug-mode test with true."));
-    parser.addOptions({site, node, scheme, screenshot, size, development});
+    parser.addOptions({site, node, command, scheme, screenshot, size, development});
     parser.process(application);
-    return {parser.value(site), parser.value(node),   parser.value(screenshot),
-            parser.value(size), parser.value(scheme), parser.isSet(development)};
+    return {parser.value(site),       parser.value(node), parser.value(command),
+            parser.value(screenshot), parser.value(size), parser.value(scheme),
+            parser.isSet(development)};
 }
 
 HostFacts hostFacts(const Options& options)
@@ -92,6 +100,8 @@ int run(const QApplication& application)
         program.openSite(options.site.toStdString());
     if (!options.node.isEmpty() && !program.window().showNode(options.node.toStdString()))
         program.window().showProblem(QObject::tr("This site has no %1 to show.").arg(options.node));
+    if (QAction* action = program.window().consoleAction(options.command.toStdString()))
+        QTimer::singleShot(0, action, &QAction::trigger);
     if (!options.screenshot.isEmpty())
         takeScreenshot(program.window(), options.screenshot, options.size);
     const int result = QApplication::exec();

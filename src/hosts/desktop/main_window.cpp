@@ -8,6 +8,7 @@
 #include "hosts/desktop/log_view.h"
 #include "hosts/desktop/notice_bar.h"
 #include "hosts/desktop/open_tool.h"
+#include "hosts/desktop/sheet_dialog.h"
 #include "hosts/desktop/theme.h"
 
 #include <QApplication>
@@ -334,6 +335,13 @@ void MainWindow::showAbout()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    if (pane_ && pane_->sheetAtWork()) {
+        // The work below would go on with controls that have gone.
+        if (pane_->sheet()) pane_->sheet()->reject();
+        statusBar()->showMessage(tr("The gather is being ended. Close the window again in a "
+                                    "moment."));
+        return event->ignore();
+    }
     settings_.setValue(geometryKey, saveGeometry());
     settings_.setValue(stateKey, saveState());
     QMainWindow::closeEvent(event);

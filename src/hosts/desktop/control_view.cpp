@@ -1,0 +1,60 @@
+#include "hosts/desktop/control_view.h"
+
+ControlView::ControlView(Control& control, QWidget* widget, ActOnControl act)
+    : control_(control), widget_(widget), act_(std::move(act))
+{
+    control_.observe(this);
+}
+
+ControlView::~ControlView()
+{
+    control_.observe(nullptr);
+}
+
+void ControlView::showState()
+{
+    waiting_ = false;
+    if (!widget_ || rendering_) return;
+    rendering_ = true;
+    applyCommonState();
+    render();
+    rendering_ = false;
+    if (onShown) onShown();
+}
+
+void ControlView::applyCommonState()
+{
+    widget_->setVisible(control_.visible());
+    widget_->setEnabled(control_.enabled());
+    widget_->setToolTip(QString::fromStdString(control_.toolTip()));
+    const std::string& family = control_.font().name;
+    if (family.empty()) return;
+    QFont font = widget_->font();
+    font.setFamily(QString::fromStdString(family));
+    widget_->setFont(font);
+}
+
+void ControlView::act(const std::function<void()>& what)
+{
+    if (!rendering_ && act_) act_(what);
+}
+
+void ControlView::changed(Control&)
+{
+    noted();
+    if (waiting_) return;
+    waiting_ = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (waiting_) showState();
+        },
+        Qt::QueuedConnection);
+}
+
+void ControlView::refreshed(Control&)
+{
+    noted();
+    showState();
+    if (widget_) widget_->repaint();
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "hosts/desktop/control_view.h"
+#include "platform/sheet_page.h"
+
+#include <memory>
+
+/// The view of a control, with a widget of its kind; null for a timer, which is not seen.
+std::unique_ptr<ControlView> makeControlView(const PageControl& declared, QWidget* parent,
+                                             const ActOnControl& act);

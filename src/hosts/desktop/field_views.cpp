@@ -1,0 +1,183 @@
+#include "hosts/desktop/field_views.h"
+
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int deleteCode = 127; ///< the Delete key is no character, whatever Qt says
+constexpr int firstPrintable = 32;
+constexpr int backspaceCode = 8;
+
+/// The texts of a list, given anew only where they are other ones: a list of hundreds keeps its
+/// place so.
+template <typename Widget>
+void showItems(Widget& widget, const ListControl& model)
+{
+    bool same = widget.count() == model.count();
+    const auto shown = [&](int index) {
+        if constexpr (std::is_same_v<Widget, QComboBox>)
+            return widget.itemText(index);
+        else
+            return widget.item(index)->text();
+    };
+    for (int index = 0; same && index < model.count(); ++index)
+        same = shown(index) == QString::fromStdString(model.item(index));
+    if (same) return;
+    widget.clear();
+    for (const auto& item : model.items()) widget.addItem(QString::fromStdString(item));
+}
+
+} // namespace
+
+TextBoxView::TextBoxView(TextBox& box, QWidget* parent, const ActOnControl& act)
+    : ControlView(box, new QLineEdit(parent), act), model_(box),
+      edit_(static_cast<QLineEdit*>(widget()))
+{
+    edit_->installEventFilter(this);
+    connect(edit_, &QLineEdit::textEdited, this, [this](const QString& text) {
+        ControlView::act([&] { model_.setByPerson(text.toStdString()); });
+    });
+}
+
+bool TextBoxView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && model_.onKeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const QString text = key->text();
+        const int code = text.size() == 1 ? text[0].unicode() : 0;
+        const bool character =
+            (code >= firstPrintable && code != deleteCode) || code == backspaceCode;
+        if (character && !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier))) {
+            const int counts = model_.filterKey(code);
+            if (counts == 0) return true;
+            if (counts != code) {
+                edit_->insert(QChar(static_cast<char16_t>(counts)));
+                ControlView::act([&] { model_.setByPerson(edit_->text().toStdString()); });
+                return true;
+            }
+        }
+    }
+    return ControlView::eventFilter(watched, event);
+}
+
+void TextBoxView::render()
+{
+    edit_->setReadOnly(model_.readOnly());
+    const QString text = QString::fromStdString(model_.text());
+    if (text != edit_->text()) edit_->setText(text);
+}
+
+ComboBoxView::ComboBoxView(ComboBox& box, QWidget* parent, const ActOnControl& act)
+    : ControlView(box, new QComboBox(parent), act), model_(box),
+      combo_(static_cast<QComboBox*>(widget()))
+{
+    combo_->setEditable(true);
+    combo_->setInsertPolicy(QComboBox::NoInsert);
+    combo_->setCompleter(nullptr);
+    connect(combo_, &QComboBox::activated, this,
+            [this](int index) { ControlView::act([&] { model_.chooseByPerson(index); }); });
+    connect(combo_->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
+        ControlView::act([&] { model_.setByPerson(text.toStdString()); });
+    });
+}
+
+void ComboBoxView::render()
+{
+    showItems(*combo_, model_);
+    const QString text = QString::fromStdString(model_.text());
+    if (combo_->currentIndex() != model_.selectedIndex())
+        combo_->setCurrentIndex(model_.selectedIndex());
+    if (combo_->currentText() != text) combo_->setEditText(text);
+}
+
+ListBoxView::ListBoxView(ListBox& box, QWidget* parent, const ActOnControl& act)
+    : ControlView(box, new QListWidget(parent), act), model_(box),
+      list_(static_cast<QListWidget*>(widget()))
+{
+    connect(list_, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row >= 0) ControlView::act([&] { model_.chooseByPerson(row); });
+    });
+}
+
+void ListBoxView::render()
+{
+    showItems(*list_, model_);
+    list_->setCurrentRow(model_.selectedIndex());
+}
+
+PickerView::PickerView(DateTimePicker& picker, QWidget* parent, const ActOnControl& act)
+    : ControlView(picker, new QDateTimeEdit(parent), act), model_(picker),
+      edit_(static_cast<QDateTimeEdit*>(widget()))
+{
+    const bool date = model_.kind() == PickerKind::date;
+    edit_->setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+    edit_->setDisplayFormat(date ? QStringLiteral("M/d/yyyy") : QStringLiteral("h:mm:ss AP"));
+    edit_->setCalendarPopup(date);
+    edit_->setAccessibleName(date ? QObject::tr("Date") : QObject::tr("Time"));
+    connect(edit_, &QDateTimeEdit::dateTimeChanged, this, [this] {
+        if (!rendering()) ControlView::act([this] { model_.setByPerson(picked()); });
+    });
+}
+
+/// The part that the field shows, with the rest of the value as it was.
+Date PickerView::picked() const
+{
+    const DateParts held = partsOf(model_.value());
+    const QDate day = edit_->date();
+    const QTime time = edit_->time();
+    if (model_.kind() == PickerKind::date)
+        return dateOf(day.year(), day.month(), day.day(), held.hour, held.minute, held.second);
+    return dateOf(held.year, held.month, held.day, time.hour(), time.minute(), time.second());
+}
+
+void PickerView::render()
+{
+    const DateParts value = partsOf(model_.value());
+    const QDateTime shown(QDate(value.year, value.month, value.day),
+                          QTime(value.hour, value.minute, value.second));
+    if (shown != edit_->dateTime()) edit_->setDateTime(shown);
+}
+
+SpinView::SpinView(SpinControl& spin, QWidget* parent, const ActOnControl& act)
+    : ControlView(spin, new QWidget(parent), act), model_(spin)
+{
+    auto* column = new QVBoxLayout(widget());
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    const auto arrow = [&](Qt::ArrowType type, const QString& name, void (SpinControl::*step)()) {
+        auto* button = new QToolButton(widget());
+        button->setArrowType(type);
+        button->setAutoRepeat(true);
+        button->setAccessibleName(name);
+        button->setToolTip(name);
+        button->setFocusPolicy(Qt::TabFocus);
+        button->setFixedSize(button->fontMetrics().height() + 8,
+                             button->fontMetrics().height() / 2 + 6);
+        column->addWidget(button);
+        connect(button, &QToolButton::clicked, this,
+                [this, step] { ControlView::act([this, step] { (model_.*step)(); }); });
+        return button;
+    };
+    up_ = arrow(Qt::UpArrow, QObject::tr("More"), &SpinControl::stepUp);
+    down_ = arrow(Qt::DownArrow, QObject::tr("Less"), &SpinControl::stepDown);
+    widget()->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QWidget* SpinView::focusTarget() const
+{
+    return up_;
+}
+
+void SpinView::render()
+{
+    up_->setEnabled(model_.value() < model_.maximum());
+    down_->setEnabled(model_.value() > model_.minimum());
+}

@@ -1,0 +1,197 @@
+#include "hosts/desktop/page_widget.h"
+
+#include "hosts/desktop/control_widgets.h"
+#include "hosts/desktop/icons.h"
+#include "hosts/desktop/mnemonics.h"
+#include "hosts/desktop/text_views.h"
+#include "hosts/desktop/theme.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int pageMargin = 22;
+constexpr int bannerSymbol = 40;
+
+/// The band of a wizard page: the ground of lists, with a thin line below.
+class Banner final : public QFrame {
+public:
+    explicit Banner(QWidget* parent) : QFrame(parent)
+    {
+        setAutoFillBackground(true);
+        setBackgroundRole(QPalette::Base);
+    }
+};
+
+} // namespace
+
+PageWidget::PageWidget(SheetPage& page, bool banner, QStringList taken, const ActOnControl& act,
+                       QWidget* parent)
+    : QWidget(parent), page_(page), taken_(std::move(taken)), banner_(banner)
+{
+    for (const PageControl& declared : page_.controls()) {
+        views_.push_back(makeControlView(declared, this, act));
+        if (views_.back()) views_.back()->onShown = [this] { markLetters(); };
+    }
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->setSpacing(0);
+    if (banner_) addBanner();
+    column_ = new QVBoxLayout;
+    column_->setContentsMargins(pageMargin, 18, pageMargin, 18);
+    column_->setSpacing(12);
+    whole->addLayout(column_, 1);
+    addControls();
+    showState();
+}
+
+PageWidget::~PageWidget() = default;
+
+bool PageWidget::isBanner(std::size_t place) const
+{
+    const ControlRole role = page_.controls()[place].role;
+    return banner_ && (role == ControlRole::title || role == ControlRole::description);
+}
+
+void PageWidget::addBanner()
+{
+    auto* band = new Banner(this);
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(6);
+    for (std::size_t place = 0; place < views_.size(); ++place)
+        if (isBanner(place)) texts->addWidget(views_[place]->widget());
+    texts->addStretch(1);
+    auto* symbol = new QLabel(band);
+    symbol->setPixmap(toolIcon(QStringLiteral("console")).pixmap(bannerSymbol, bannerSymbol));
+    auto* row = new QHBoxLayout(band);
+    row->setContentsMargins(pageMargin, 16, pageMargin, 14);
+    row->setSpacing(18);
+    row->addLayout(texts, 1);
+    row->addWidget(symbol, 0, Qt::AlignTop);
+    layout()->addWidget(band);
+    auto* line = new QFrame(this);
+    line->setFrameShape(QFrame::HLine);
+    line->setForegroundRole(QPalette::Mid);
+    layout()->addWidget(line);
+}
+
+void PageWidget::addControls()
+{
+    const auto& controls = page_.controls();
+    QGridLayout* fields = nullptr;
+    bool filled = false;
+    for (std::size_t place = 0; place < controls.size(); ++place) {
+        if (!views_[place] || isBanner(place)) continue;
+        const ControlRole role = controls[place].role;
+        QWidget* widget = views_[place]->widget();
+        if (role == ControlRole::fieldLabel || role == ControlRole::field) {
+            if (!fields) {
+                fields = new QGridLayout;
+                fields->setHorizontalSpacing(12);
+                fields->setVerticalSpacing(10);
+                fields->setColumnStretch(1, 1);
+                column_->addLayout(fields);
+            }
+            addField(*fields, place);
+            continue;
+        }
+        fields = nullptr;
+        if (role == ControlRole::frame) {
+            addFramed(*column_, place);
+        } else if (role == ControlRole::mainTree || role == ControlRole::summary) {
+            column_->addWidget(widget, 1);
+            filled = true;
+        } else if (role == ControlRole::action) {
+            column_->addWidget(widget, 0, Qt::AlignLeft);
+        } else {
+            column_->addWidget(widget);
+        }
+    }
+    if (!filled) column_->addStretch(1);
+}
+
+/// A row of a caption and its fields; fields without a caption of their own stand beside the one
+/// before. Leaves `place` at the last control of the row.
+void PageWidget::addField(QGridLayout& grid, std::size_t& place)
+{
+    const auto& controls = page_.controls();
+    const int row = grid.rowCount();
+    auto* label = dynamic_cast<LabelView*>(views_[place].get());
+    auto* fields = new QHBoxLayout;
+    fields->setSpacing(8);
+    if (label && place + 1 < controls.size() && controls[place + 1].role == ControlRole::field) {
+        ++place;
+        label->setBuddy(views_[place]->focusTarget());
+        const QString name = QString::fromStdString(
+            static_cast<const Label*>(controls[place - 1].control)->caption());
+        views_[place]->focusTarget()->setAccessibleName(name);
+        grid.addWidget(label->widget(), row, 0, Qt::AlignLeft | Qt::AlignVCenter);
+        label = nullptr;
+    }
+    if (label) {
+        grid.addWidget(label->widget(), row, 0, 1, 2);
+        return;
+    }
+    fields->addWidget(views_[place]->widget());
+    const bool list = dynamic_cast<ListBox*>(controls[place].control) != nullptr;
+    while (place + 1 < controls.size() && controls[place + 1].role == ControlRole::field) {
+        ++place;
+        fields->addWidget(views_[place]->widget());
+    }
+    if (place + 1 < controls.size() && controls[place + 1].role == ControlRole::action) {
+        ++place;
+        fields->addWidget(views_[place]->widget());
+    }
+    grid.addLayout(fields, row, 1);
+    if (list) grid.setRowStretch(row, 1);
+}
+
+void PageWidget::addFramed(QBoxLayout& column, std::size_t& place)
+{
+    QWidget* box = views_[place]->widget();
+    column.addWidget(box);
+    if (place + 1 >= views_.size() || !views_[place + 1]) return;
+    ++place;
+    box->layout()->addWidget(views_[place]->widget());
+}
+
+void PageWidget::showState()
+{
+    for (const auto& view : views_)
+        if (view) view->showState();
+}
+
+/// Gives every caption a letter that no other one of the page or the sheet has.
+void PageWidget::markLetters()
+{
+    if (marking_) return;
+    marking_ = true;
+    QStringList captions = taken_;
+    for (const auto& view : views_)
+        if (view) captions << view->captions();
+    const QStringList marked = withMnemonics(captions);
+    qsizetype at = taken_.size();
+    for (const auto& view : views_) {
+        const qsizetype count = view ? view->captions().size() : 0;
+        if (count > 0) view->showCaptions(marked.mid(at, count));
+        at += count;
+    }
+    marking_ = false;
+}
+
+bool PageWidget::focusFirst()
+{
+    for (std::size_t place = 0; place < views_.size(); ++place) {
+        if (!views_[place] || isBanner(place)) continue;
+        QWidget* target = views_[place]->focusTarget();
+        const bool choice = target && target->isEnabled() && target->isVisibleTo(this) &&
+                            (target->focusPolicy() & Qt::TabFocus) &&
+                            page_.controls()[place].role != ControlRole::summary;
+        if (!choice) continue;
+        target->setFocus(Qt::TabFocusReason);
+        return true;
+    }
+    return false;
+}

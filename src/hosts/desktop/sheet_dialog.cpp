@@ -1,0 +1,205 @@
+#include "hosts/desktop/sheet_dialog.h"
+
+#include "hosts/desktop/notice_bar.h"
+#include "hosts/desktop/page_widget.h"
+#include "platform/plain_sheet.h"
+#include "platform/wizard_sheet.h"
+#include "runtime/run_time_error.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+const QStringList wizardCaptions = {QStringLiteral("< &Back"), QStringLiteral("&Next >"),
+                                    QStringLiteral("&Finish")};
+const QStringList plainCaptions = {QStringLiteral("&Apply")};
+
+} // namespace
+
+SheetDialog::SheetDialog(std::shared_ptr<OpenSheet> sheet, QWidget* parent)
+    : QDialog(parent), sheet_(std::move(sheet))
+{
+    setWindowModality(Qt::WindowModal);
+    notice_ = new NoticeBar(this);
+    tabs_ = new QTabBar(this);
+    pages_ = new QStackedWidget(this);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(notice_);
+    column->addWidget(tabs_);
+    column->addWidget(pages_, 1);
+    for (int place = 1; place <= sheet_->pageCount(); ++place)
+        tabs_->addTab(QString::fromStdString(sheet_->pageTitle(place)));
+    tabs_->setVisible(sheet_->plainSheet() && sheet_->pageCount() > 1);
+    makeButtons();
+    resize(sheet_->wizard() ? QSize(680, 520) : QSize(560, 400));
+    sheet_->observe(this);
+    connect(tabs_, &QTabBar::currentChanged, this, [this](int tab) {
+        if (sheet_->plainSheet() && tab + 1 != sheet_->currentPlace())
+            act([&] { sheet_->plainSheet()->selectPage(tab + 1); });
+    });
+    showPage();
+}
+
+SheetDialog::~SheetDialog()
+{
+    sheet_->observe(nullptr);
+    // Views look at controls of the pages, so they go first.
+    for (const auto& [place, page] : shown_) delete page;
+}
+
+void SheetDialog::makeButtons()
+{
+    auto* line = new QFrame(this);
+    line->setFrameShape(QFrame::HLine);
+    line->setForegroundRole(QPalette::Mid);
+    layout()->addWidget(line);
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(16, 12, 16, 14);
+    const auto add = [&](const QString& text, auto&& press) {
+        auto* made = new QPushButton(text, this);
+        made->setAutoDefault(false);
+        connect(made, &QPushButton::clicked, this, [this, press] { act(press); });
+        row->addWidget(made);
+        return made;
+    };
+    help_ = add(tr("Help"), [this] { sheet_->help(); });
+    row->addStretch(1);
+    if (WizardSheet* wizard = sheet_->wizard()) {
+        back_ = add(wizardCaptions[0], [wizard] { wizard->back(); });
+        next_ = add(wizardCaptions[1], [wizard] { wizard->next(); });
+        finish_ = add(wizardCaptions[2], [wizard] { wizard->finish(); });
+        row->addSpacing(12);
+    } else {
+        ok_ = add(tr("OK"), [this] { sheet_->plainSheet()->ok(); });
+    }
+    cancel_ = add(tr("Cancel"), [this] { sheet_->cancel(); });
+    if (sheet_->plainSheet()) {
+        apply_ = add(plainCaptions[0], [this] { sheet_->plainSheet()->apply(); });
+        ok_->setDefault(true);
+    }
+    static_cast<QVBoxLayout*>(layout())->addLayout(row);
+}
+
+void SheetDialog::act(const std::function<void()>& what)
+{
+    ++calls_;
+    try {
+        what();
+    } catch (const RunTimeError& error) {
+        notice_->say(tr("That did not work: %1. Try again, or press Cancel.")
+                         .arg(QString::fromStdString(error.description())));
+    }
+    --calls_;
+    showButtons();
+    runTimers();
+    if (gone_ && calls_ == 0) {
+        emit over();
+        deleteLater();
+    }
+}
+
+void SheetDialog::showPage()
+{
+    const int place = sheet_->currentPlace();
+    if (place == 0 || sheet_->closed()) return;
+    PageWidget*& page = shown_[place];
+    if (!page) {
+        const bool wizard = sheet_->wizard() != nullptr;
+        page = new PageWidget(
+            sheet_->page(place), wizard, wizard ? wizardCaptions : plainCaptions,
+            [this](const std::function<void()>& what) { act(what); }, pages_);
+        pages_->addWidget(page);
+    }
+    page->showState();
+    pages_->setCurrentWidget(page);
+    tabs_->setCurrentIndex(place - 1);
+    setWindowTitle(QString::fromStdString(sheet_->pageTitle(place)));
+    help_->setVisible(sheet_->hasHelpButton(place));
+    showButtons();
+    runTimers();
+    if (page->focusFirst()) return;
+    QPushButton* forward = finish_ && finish_->isVisibleTo(this) ? finish_ : next_;
+    if (forward) forward->setFocus(Qt::TabFocusReason);
+}
+
+void SheetDialog::showButtons()
+{
+    if (const WizardSheet* wizard = sheet_->wizard()) {
+        const WizardButtons& buttons = wizard->buttons();
+        const bool last = buttons.nextOrFinish == wizardButton::finishEnabled ||
+                          buttons.nextOrFinish == wizardButton::finishDisabled;
+        back_->setEnabled(wizard->canGoBack());
+        next_->setVisible(!last);
+        next_->setEnabled(wizard->canGoNext());
+        finish_->setVisible(last);
+        finish_->setEnabled(wizard->canFinish());
+        finish_->setText(buttons.finishText.empty() ? wizardCaptions[2]
+                                                    : QString::fromStdString(buttons.finishText));
+        (last ? finish_ : next_)->setDefault(true);
+    } else if (const PlainSheet* plain = sheet_->plainSheet()) {
+        apply_->setEnabled(plain->canApply());
+    }
+}
+
+/// Keeps a clock running for each timer of the page on show that runs.
+void SheetDialog::runTimers()
+{
+    const std::vector<Timer*> current = sheet_->timers();
+    for (auto& [timer, clock] : timers_)
+        if (std::find(current.begin(), current.end(), timer) == current.end()) clock->stop();
+    for (Timer* timer : current) {
+        QTimer*& clock = timers_[timer];
+        if (!clock) {
+            clock = new QTimer(this);
+            connect(clock, &QTimer::timeout, this,
+                    [this, timer] { act([&] { sheet_->tick(*timer); }); });
+        }
+        if (!timer->running())
+            clock->stop();
+        else if (!clock->isActive() || clock->interval() != timer->interval())
+            clock->start(timer->interval());
+    }
+}
+
+void SheetDialog::reject()
+{
+    act([this] { sheet_->cancel(); });
+}
+
+void SheetDialog::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    reject();
+}
+
+void SheetDialog::pageShown(OpenSheet&)
+{
+    showPage();
+}
+
+void SheetDialog::buttonsChanged(OpenSheet&)
+{
+    showButtons();
+    runTimers();
+}
+
+void SheetDialog::closed(OpenSheet&)
+{
+    if (gone_) return;
+    gone_ = true;
+    hide();
+    if (calls_ > 0) return;
+    emit over();
+    deleteLater();
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "platform/open_sheet.h"
+
+#include <QDialog>
+
+#include <functional>
+#include <map>
+#include <memory>
+
+class NoticeBar;
+class PageWidget;
+class QPushButton;
+class QStackedWidget;
+class QTabBar;
+class QTimer;
+
+/// Shows a sheet of the console: a wizard with its buttons, or a plain sheet with OK and Apply.
+///
+/// It goes by itself when the sheet is closed and no work of its pages is under way any more.
+class SheetDialog final : public QDialog, private SheetObserver {
+    Q_OBJECT
+
+public:
+    explicit SheetDialog(std::shared_ptr<OpenSheet> sheet, QWidget* parent = nullptr);
+    ~SheetDialog() override;
+
+    OpenSheet& sheet() { return *sheet_; }
+
+    /// Escape and the window's own cross: asks the pages, as Cancel does.
+    void reject() override;
+
+signals:
+    /// The sheet is closed and none of its pages is at work.
+    void over();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void pageShown(OpenSheet& sheet) override;
+    void buttonsChanged(OpenSheet& sheet) override;
+    void closed(OpenSheet& sheet) override;
+
+    void makeButtons();
+    void showPage();
+    void showButtons();
+    void act(const std::function<void()>& what);
+    void runTimers();
+
+    std::shared_ptr<OpenSheet> sheet_;
+    NoticeBar* notice_ = nullptr;
+    QTabBar* tabs_ = nullptr;
+    QStackedWidget* pages_ = nullptr;
+    std::map<int, PageWidget*> shown_; ///< by place
+    std::map<Timer*, QTimer*> timers_;
+    QPushButton* back_ = nullptr;
+    QPushButton* next_ = nullptr;
+    QPushButton* finish_ = nullptr;
+    QPushButton* ok_ = nullptr;
+    QPushButton* apply_ = nullptr;
+    QPushButton* cancel_ = nullptr;
+    QPushButton* help_ = nullptr;
+    int calls_ = 0;
+    bool gone_ = false;
+};
