@@ -8,13 +8,9 @@
 # import's time, a line outside the frame no more than a fifth of one inside, and memory stays
 # below 60 MB.
 set -eu
+. "$(dirname "$0")/measure.sh"
 
-programs=${ORVAN_PROGRAMS:-$(dirname "$0")/../build/release/bin}
-programs=$(cd "$programs" && pwd)
 lines=${1:-1000000}
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-trap 'exit 1' INT TERM
 cd "$work"
 
 "$programs/orvandiag" sample site --lines "$lines" >/dev/null
