@@ -2,9 +2,8 @@
 
 #include "core/error_trap.h"
 #include "core/registry_store.h"
+#include "core/showing_trap.h"
 #include "core/string_table.h"
-#include "core/tool_context.h"
-#include "platform/desktop.h"
 #include "platform/file_system.h"
 #include "platform/host_module.h"
 #include "platform/languages.h"
@@ -18,26 +17,6 @@ namespace {
 
 constexpr std::string_view libraryPrefix = "ZMKbrandingres_";
 constexpr std::size_t codeLength = 3;
-
-/// Runs statements one by one and shows each failure to the person at the console.
-class ShowingTrap {
-public:
-    explicit ShowingTrap(ToolContext& tool) : tool_(tool) {}
-
-    template <std::invocable Statement>
-    void operator()(Statement&& statement)
-    {
-        try {
-            statement();
-        } catch (const RunTimeError& error) {
-            tool_.platform.desktop.messageBox("Error in InitalizeLanguages: " + error.description(),
-                                              tool_.platform.module.name(), MessageIcon::none);
-        }
-    }
-
-private:
-    ToolContext& tool_;
-};
 
 std::string libraryPath(ToolContext& tool)
 {
@@ -73,7 +52,7 @@ std::string myLoadResString(ToolContext& tool, int id)
 
 void InitalizeLanguages(ToolContext& tool)
 {
-    ShowingTrap step{tool};
+    ShowingTrap step{tool, "Error in InitalizeLanguages: "};
     LanguageState& language = tool.language;
     Languages& libraries = tool.platform.languages;
     std::vector<FileInfo> entries;

@@ -65,6 +65,7 @@ struct ToolContext {
     Dictionary<std::weak_ptr<ScopeItem>> g_dictProcessItems;
 
     LanguageState language;
+    std::int32_t g_hwndHelp = 0; ///< the window that help was shown in last; 0 for none
 
     std::string g_strTraceDatabase;              ///< path of the latest trace database, or empty
     Dictionary<std::string> g_dictUniqueFilters; ///< never emptied

@@ -6,6 +6,7 @@
 #include "core/tool_context.h"
 #include "platform/desktop.h"
 #include "platform/event_reporter.h"
+#include "platform/host_module.h"
 #include "platform/processes.h"
 #include "runtime/numbers.h"
 #include "runtime/run_time_error.h"
@@ -106,6 +107,13 @@ void reportServerEvent(ToolContext& tool, int type, std::int32_t eventId,
                        const std::vector<std::string>& inserts)
 {
     tool.platform.eventReporter.report(eventSource, tool.g_eventLogHandle, type, eventId, inserts);
+}
+
+std::string moduleVersionText(const HostModule& module)
+{
+    return numberTextWithLeadingBlank(module.majorVersion()) + "." +
+           numberText(std::int64_t{module.minorVersion()}) + " Build" +
+           numberTextWithLeadingBlank(module.revision());
 }
 
 void initBitMasks(ToolContext& tool)

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+class HostModule;
 struct ToolContext;
 
 /// The folder, or the file or folder, that a person picked; the empty text for a cancel.
@@ -38,6 +39,9 @@ bool waitForProcess(ToolContext& tool, std::int32_t processId, std::int32_t mill
 /// Reports an event of this tool with the flat texts `inserts`. Raises what the reporter raises.
 void reportServerEvent(ToolContext& tool, int type, std::int32_t eventId,
                        const std::vector<std::string>& inserts);
+
+/// The tool's version as it is shown, with a blank for the sign in front: " 4.3 Build 10".
+std::string moduleVersionText(const HostModule& module);
 
 /// Fills `g_bitMasks`.
 void initBitMasks(ToolContext& tool);

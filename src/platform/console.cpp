@@ -124,6 +124,21 @@ void Console::doubleClickRow(int place)
     snapIn().ResultViews_ListItemDblClick(shown, shown.list().shown(place), doDefault);
 }
 
+void Console::helpOnSnapIn()
+{
+    snapIn().SnapIn_Help();
+}
+
+void Console::helpOnScopeItem()
+{
+    snapIn().ScopeItems_Help(currentScopeItem());
+}
+
+void Console::helpOnResultView()
+{
+    snapIn().ResultViews_Help(view_.selectedScopePaneItem().resultView());
+}
+
 void Console::refresh()
 {
     if (!view_.verbs().enabled(consoleVerb::refresh)) return;

@@ -80,6 +80,12 @@ public:
     /// 91.
     void doubleClickRow(int place);
 
+    /// The person asks for help: on the snap-in, on the selected node, on what is shown of it. The
+    /// last two raise 91 before the first selection.
+    void helpOnSnapIn();
+    void helpOnScopeItem();
+    void helpOnResultView();
+
     /// The refresh command; does nothing where the selection does not offer it.
     void refresh();
 

@@ -24,8 +24,15 @@ public:
     /// It is being let go. May raise any run-time error.
     virtual void SnapIn_Unload() = 0;
 
+    /// The person asks for help on the snap-in.
+    virtual void SnapIn_Help() = 0;
+
     /// A node is opened for the first time.
     virtual void ScopeItems_Expand(ScopeItem& item) = 0;
+
+    /// The person asks for help on a node, or on what a result view shows.
+    virtual void ScopeItems_Help(ScopeItem& item) = 0;
+    virtual void ResultViews_Help(ResultView& resultView) = 0;
 
     /// A result view is being shown: it has its columns or tasks and no rows.
     virtual void ResultViews_Initialize(ResultView& resultView) = 0;

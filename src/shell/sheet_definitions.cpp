@@ -1,5 +1,7 @@
 #include "shell/sheet_definitions.h"
 
+#include "settings/event_log_language_page.h"
+#include "settings/log_settings_page.h"
 #include "shell/wizard_kinds.h"
 #include "wizards/gather_completion.h"
 #include "wizards/gather_log_selection.h"
@@ -17,6 +19,12 @@ std::unique_ptr<SheetPage> wizardPage(ToolContext& tool,
                                       const std::shared_ptr<classTraceObject>& shared)
 {
     return std::make_unique<Page>(tool, shared);
+}
+
+template <typename Page>
+std::unique_ptr<SheetPage> plainPage(ToolContext& tool, const std::shared_ptr<classTraceObject>&)
+{
+    return std::make_unique<Page>(tool);
 }
 
 } // namespace
@@ -61,12 +69,16 @@ const SheetDefinition* sheetDefinition(int kind)
              wizardPage<ppgGatherLogs03Step>,
              wizardPage<ppgGatherLogs99Final>,
          }},
-        {kindLogSettings, "Logging", SheetType::propertySheet, 1052, {}},
+        {kindLogSettings,
+         "Logging",
+         SheetType::propertySheet,
+         1052,
+         {plainPage<ppgConfLogSettings>}},
         {kindEventLogLanguage,
          "Kelma Orvan Event Log Language",
          SheetType::propertySheet,
          1039,
-         {}},
+         {plainPage<ppgEventLogLanguage>}},
     };
     for (const SheetDefinition& sheet : sheets)
         if (sheet.kind == kind) return &sheet;

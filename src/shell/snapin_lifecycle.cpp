@@ -2,22 +2,16 @@
 #include "core/localisation.h"
 #include "core/utility.h"
 #include "platform/host_module.h"
-#include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "server/server_identity.h"
+#include "settings/about_box.h"
+#include "settings/event_log_language.h"
+#include "settings/help.h"
 #include "shell/initialize.h"
 #include "shell/server_events.h"
 #include "shell/snapin_orvan_diagnostics.h"
 
 namespace {
-
-/// " 4.3 Build 10".
-std::string versionText(const HostModule& module)
-{
-    return numberTextWithLeadingBlank(module.majorVersion()) + "." +
-           numberText(std::int64_t{module.minorVersion()}) + " Build" +
-           numberTextWithLeadingBlank(module.revision());
-}
 
 std::string descriptionText(ToolContext& tool)
 {
@@ -39,6 +33,8 @@ snapinOrvanDiagnostics::snapinOrvanDiagnostics(ToolContext& tool, Console& conso
     : tool_(tool), console_(console)
 {}
 
+snapinOrvanDiagnostics::~snapinOrvanDiagnostics() = default;
+
 void snapinOrvanDiagnostics::SnapIn_Initialize()
 {
     ErrorTrap step{tool_, "snapinOrvanDiagnostics", "SnapIn_Initialize"};
@@ -49,7 +45,8 @@ void snapinOrvanDiagnostics::SnapIn_Initialize()
     step([&] { console_.displayName(myLoadResString(tool_, 1015)); });
     step([&] { console_.identity().provider = myLoadResString(tool_, 1013); });
     step([&] { console_.identity().description = descriptionText(tool_); });
-    step([&] { console_.identity().version = versionText(tool_.platform.module); });
+    step([&] { console_.identity().helpFileName = mdlHTMLHelp::getHelpFileName(tool_); });
+    step([&] { console_.identity().version = moduleVersionText(tool_.platform.module); });
     step([&] { server = mdlOrvan::getVersion(tool_); });
     if (logsExtendedFields(server)) tool_.g_bExtendedLogFields = true;
     step.exitProc();
@@ -65,7 +62,11 @@ void snapinOrvanDiagnostics::SnapIn_Load()
     step.exitProc();
 }
 
+/// Has no trap: an error goes to the console.
 void snapinOrvanDiagnostics::SnapIn_Unload()
 {
+    const std::string language = mdlLanguage::originalLanguage(tool_);
+    if (!language.empty())
+        mdlLanguage::changeEventLogLanguage(tool_, language, mdlLanguage::getEventLogKeys(tool_));
     reportServerEvent(tool_, serverEvents::success, serverEvents::unloaded, {});
 }

@@ -7,6 +7,7 @@
 
 class ErrorTrap;
 class classTraceObject;
+class frmAbout;
 struct ToolContext;
 
 /// The snap-in: what the tool does when the console calls.
@@ -16,13 +17,21 @@ struct ToolContext;
 class snapinOrvanDiagnostics final : public SnapInEvents {
 public:
     snapinOrvanDiagnostics(ToolContext& tool, Console& console);
+    ~snapinOrvanDiagnostics() override;
 
     void SnapIn_Initialize() override;
     void SnapIn_Load() override;
     void SnapIn_Unload() override;
+    void SnapIn_Help() override;
+
+    /// The console's About command: shows the about box, always the same one. It stays until the
+    /// snap-in goes.
+    frmAbout& showAbout();
 
     void ScopeItems_Expand(ScopeItem& item) override;
+    void ScopeItems_Help(ScopeItem& item) override;
 
+    void ResultViews_Help(ResultView& resultView) override;
     void ResultViews_Initialize(ResultView& resultView) override;
     void ResultViews_ListItemDblClick(ResultView& resultView, ListItem item,
                                       bool& doDefault) override;
@@ -70,6 +79,7 @@ private:
     Console& console_;
     std::shared_ptr<classTraceObject> m_TraceObject; ///< shared by all wizards; made on first use
     int m_WizardKind = 0;                     ///< one of `mdlDefinitions`; 0 before the first sheet
+    std::unique_ptr<frmAbout> about_;         ///< made on first use
     std::string m_strSavedLogFile;            ///< the last file opened by hand
     std::weak_ptr<ScopeItem> m_SavedLogsItem; ///< empty until a file is opened by hand
 };

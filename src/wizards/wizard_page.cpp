@@ -5,7 +5,6 @@
 #include "runtime/run_time_error.h"
 
 #include <utility>
-#include <vector>
 
 WizardPage::WizardPage(ToolContext& tool, std::string name,
                        std::shared_ptr<classTraceObject> shared)
@@ -26,15 +25,12 @@ void WizardPage::applyFontToPage()
 
 void WizardPage::applyFontToControls()
 {
-    std::vector<FontTarget*> targets;
-    for (const PageControl& declared : controls()) targets.push_back(declared.control);
-    applyLanguageFontToAll(tool_, targets);
+    ::applyFontToControls(tool_, *this);
 }
 
 void WizardPage::setCaptions(std::initializer_list<CaptionText> captions)
 {
-    for (const CaptionText& caption : captions)
-        caption.control.setCaption(myLoadResString(tool_, caption.textId));
+    ::setCaptions(tool_, captions);
 }
 
 int WizardPage::nextButtonBeforeChoice() const

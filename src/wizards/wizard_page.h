@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/page_texts.h"
 #include "gather/trace_object.h"
 #include "platform/controls.h"
 #include "platform/pages.h"
@@ -11,12 +12,6 @@
 #include <string>
 
 struct ToolContext;
-
-/// A control and the id of the text that it shows.
-struct CaptionText {
-    CaptionedControl& control;
-    int textId;
-};
 
 /// What the pages of all wizards share: the tool, the wizard's shared object and the font step.
 class WizardPage : public SheetPage, public IWizardPage {

@@ -217,3 +217,16 @@ TEST(InitBitMasks, EntryNIsTwoToThePowerN)
         EXPECT_EQ(2 * tool.context.g_bitMasks[level - 1], tool.context.g_bitMasks[level]);
     EXPECT_EQ(std::numeric_limits<std::int32_t>::min(), tool.context.g_bitMasks[31]);
 }
+
+TEST(ModuleVersionText, HasALeadingBlankAndSingleBlanksAroundBuild)
+{
+    FakeHostModule module;
+    module.major = 2;
+    module.minor = 1;
+    module.build = 23;
+    EXPECT_EQ(" 2.1 Build 23", moduleVersionText(module));
+    module.major = 0;
+    module.minor = 0;
+    module.build = 0;
+    EXPECT_EQ(" 0.0 Build 0", moduleVersionText(module));
+}

@@ -294,6 +294,20 @@ TEST_F(ConsoleTest, BuildsAMenuForTheSelectionFromTheMenusAsTheyStand)
     EXPECT_EQ(35601, errorNumberOf([&] { console.menu("mnuNone"); }));
 }
 
+TEST_F(ConsoleTest, PassesOnThePersonsWishForHelp)
+{
+    EXPECT_EQ(91, errorNumberOf([&] { console.helpOnSnapIn(); })) << "nothing is loaded";
+    EXPECT_EQ(91, errorNumberOf([&] { console.helpOnResultView(); }));
+    load();
+    view().select(add("one", root()));
+    snapIn.heard.clear();
+
+    console.helpOnSnapIn();
+    console.helpOnScopeItem();
+    console.helpOnResultView();
+    EXPECT_EQ((Texts{"help", "help on one", "help on files"}), snapIn.taken());
+}
+
 TEST_F(ConsoleTest, PassesOnClicksOnWhatCanBeClicked)
 {
     load();

@@ -34,6 +34,12 @@ struct RecordingSnapIn final : SnapInEvents, ConsoleObserver {
         heard.push_back("expand " + item.key());
         onExpand(item);
     }
+    void SnapIn_Help() override { heard.push_back("help"); }
+    void ScopeItems_Help(ScopeItem& item) override { heard.push_back("help on " + item.key()); }
+    void ResultViews_Help(ResultView& view) override
+    {
+        heard.push_back("help on " + view.displayString());
+    }
     void ResultViews_Initialize(ResultView& view) override
     {
         heard.push_back("fill " + view.displayString() + " of " + view.scopePaneItem().key());

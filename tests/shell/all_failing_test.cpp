@@ -1,3 +1,4 @@
+#include "settings/about_box.h"
 #include "shell/shell_fixture.h"
 
 #include <functional>
@@ -41,6 +42,10 @@ struct AllFailing : ShellTest {
             [&] { openFile(); },
             [&] { console.clickMenuItem("mnuStartNewLogFiles"); },
             [&] { snapIn.refreshScopeItems(); },
+            [&] { console.helpOnSnapIn(); },
+            [&] { console.helpOnScopeItem(); },
+            [&] { console.helpOnResultView(); },
+            [&] { snapIn.showAbout().mnuLanguageList_Click(0); },
             [&] { console.refresh(); },
         };
         Texts keys;

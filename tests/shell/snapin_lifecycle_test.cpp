@@ -275,6 +275,49 @@ TEST_F(SnapInLifecycle, ReportsItsEndAndChangesNothingElse)
     EXPECT_EQ(written, tool.registry.written());
 }
 
+TEST_F(SnapInLifecycle, TellsTheConsoleItsHelpFile)
+{
+    tool.languages.userDefault = 1036;
+    tool.files.with("C:\\OrvanDiagnostics\\OrvanDiagnosticTool_FRA.chm");
+    snapIn.SnapIn_Initialize();
+    EXPECT_EQ("C:\\OrvanDiagnostics\\OrvanDiagnosticTool_FRA.chm", console.identity().helpFileName);
+}
+
+TEST_F(SnapInLifecycle, PutsTheFirstEventLogLanguageBackOnUnloading)
+{
+    const std::string sources = "System\\CurrentControlSet\\Services\\EventLog\\Application\\";
+    for (const char* name : {"EventMessageFile", "CategoryMessageFile"})
+        tool.registry.withText(sources + "Server", name, "C:\\Localize\\Messaging\\JPN\\x.dll")
+            .withText(sources + "Other", name, "C:\\Windows\\x.dll");
+    load();
+    tool.registry.withText(toolKey, "OriginalEventLogLanguage", "ENU");
+
+    console.unload();
+
+    for (const char* name : {"EventMessageFile", "CategoryMessageFile"}) {
+        EXPECT_EQ("C:\\Localize\\Messaging\\ENU\\x.dll",
+                  tool.registry.text(sources + "Server", name));
+        EXPECT_EQ("C:\\Windows\\x.dll", tool.registry.text(sources + "Other", name));
+    }
+    EXPECT_EQ("ENU", tool.registry.text(toolKey, "OriginalEventLogLanguage")) << "it stays";
+    EXPECT_EQ(10003, reportedIds(tool).back());
+}
+
+TEST_F(SnapInLifecycle, AnEmptyFirstEventLogLanguageChangesNothingOnUnloading)
+{
+    tool.registry.withText("System\\CurrentControlSet\\Services\\EventLog\\Application\\Server",
+                           "EventMessageFile", "C:\\Localize\\Messaging\\JPN\\x.dll");
+    load();
+    tool.registry.withText(toolKey, "OriginalEventLogLanguage", "");
+    const auto written = tool.registry.written();
+
+    console.unload();
+
+    EXPECT_EQ(written, tool.registry.written());
+    EXPECT_FALSE(tool.logged("Entering [mdlLanguage]"));
+    EXPECT_EQ(10003, reportedIds(tool).back());
+}
+
 TEST_F(SnapInLifecycle, LetsAnErrorOfUnloadingReachTheConsole)
 {
     load();

@@ -64,6 +64,24 @@ const Opening openings[] = {
      "5",
      "startGatherLogFilesWizard",
      "mnuGatherLogFiles_Click"},
+    {6,
+     "Logging",
+     SheetType::propertySheet,
+     "Log Settings",
+     {"ppgConfLogSettings"},
+     "mnuConfigureLogSettings",
+     "6",
+     "displayConfigureLogSettingsPSheet",
+     "mnuConfigureLogSettings_Click"},
+    {7,
+     "Kelma Orvan Event Log Language",
+     SheetType::propertySheet,
+     "Event Log Language",
+     {"ppgEventLogLanguage"},
+     "mnuChangeLanguage",
+     nullptr,
+     "displayEventLogLanguagePSheet",
+     "mnuChangeLanguage_Click"},
 };
 
 struct SnapinSheets : ShellTest {
@@ -110,6 +128,7 @@ TEST_F(SnapinSheets, EveryMenuItemOpensItsSheetAtTheFirstPage)
 TEST_F(SnapinSheets, TheTaskPadOpensTheSameSheets)
 {
     for (const auto& opening : openings) {
+        if (!opening.task) continue;
         SCOPED_TRACE(opening.title);
         console.clickTask(opening.task);
         expectOpened(opening);

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/label.h"
+#include "platform/sheet_page.h"
+
+#include <initializer_list>
+
+struct ToolContext;
+
+/// A control and the id of the text that it shows.
+struct CaptionText {
+    CaptionedControl& control;
+    int textId;
+};
+
+/// Sets captions, in order, to the texts of the current language. Raises nothing.
+void setCaptions(ToolContext& tool, std::initializer_list<CaptionText> captions);
+
+/// Gives the font of the current language to each control of a page, in the order of their
+/// declaration. Raises nothing.
+void applyFontToControls(ToolContext& tool, const SheetPage& page);

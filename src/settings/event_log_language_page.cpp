@@ -1,0 +1,79 @@
+#include "settings/event_log_language_page.h"
+
+#include "core/error_trap.h"
+#include "core/page_texts.h"
+#include "settings/event_log_language.h"
+
+namespace {
+
+constexpr const char* pageName = "ppgEventLogLanguage";
+
+/// Raises 9 when there is none.
+const std::string& firstOf(const std::vector<std::string>& names)
+{
+    if (names.empty()) throw RunTimeError(runTimeErrors::subscriptOutOfRange);
+    return names.front();
+}
+
+} // namespace
+
+ppgEventLogLanguage::ppgEventLogLanguage(ToolContext& tool) : SheetPage(pageName), tool_(tool)
+{
+    declare("lblDescription", ControlRole::description, lblDescription);
+    declare("lblOriginalLanguage", ControlRole::fieldLabel, lblOriginalLanguage);
+    declare("txtOriginalLanguage", ControlRole::field, txtOriginalLanguage);
+    declare("lblCurrentLanguage", ControlRole::fieldLabel, lblCurrentLanguage);
+    declare("txtCurrentLanguage", ControlRole::field, txtCurrentLanguage);
+    declare("lblAvailableLangs", ControlRole::fieldLabel, lblAvailableLangs);
+    declare("lstAvailableLangs", ControlRole::field, lstAvailableLangs);
+    txtOriginalLanguage.setReadOnly(true);
+    txtCurrentLanguage.setReadOnly(true);
+    lstAvailableLangs.onClick = [this] { Changed(true); };
+}
+
+void ppgEventLogLanguage::ppgEventLogLanguage_Auto_Init()
+{
+    setCaptions(tool_, {{lblOriginalLanguage, 1063},
+                        {lblCurrentLanguage, 1030},
+                        {lblAvailableLangs, 1008},
+                        {lblDescription, 1017}});
+}
+
+void ppgEventLogLanguage::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet&)
+{
+    ErrorTrap step{tool_, pageName, "IMMCPropertyPage_Initialize"};
+    std::vector<std::string> installed;
+    std::string messageFile;
+    std::string original;
+
+    step.enterProc();
+    applyFontToControls(tool_, *this);
+    ppgEventLogLanguage_Auto_Init();
+    step([&] { installed = mdlLanguage::installedLanguages(tool_); });
+    for (const std::string& language : installed) lstAvailableLangs.addItem(language);
+    if (m_colEventKeys.empty()) m_colEventKeys = mdlLanguage::getEventLogKeys(tool_);
+    step([&] { messageFile = mdlLanguage::eventMessageFile(tool_, firstOf(m_colEventKeys)); });
+    m_strCurrentLanguage = mdlLanguage::determineCurrentLanguage(tool_, messageFile);
+    step([&] { original = mdlLanguage::originalLanguage(tool_); });
+    if (original.empty()) original = m_strCurrentLanguage;
+    txtCurrentLanguage.setText(m_strCurrentLanguage);
+    txtOriginalLanguage.setText(original);
+    mdlLanguage::recordOriginalLanguage(tool_, original);
+    step.exitProc();
+}
+
+void ppgEventLogLanguage::PropertyPage_ApplyChanges()
+{
+    ErrorTrap step{tool_, pageName, "PropertyPage_ApplyChanges"};
+
+    step.enterProc();
+    if (appliedOnce_) {
+        appliedOnce_ = false;
+    } else {
+        mdlLanguage::changeEventLogLanguage(tool_, lstAvailableLangs.text(), m_colEventKeys);
+        txtCurrentLanguage.setText(lstAvailableLangs.text());
+        appliedOnce_ = true;
+        Changed(false);
+    }
+    step.exitProc();
+}
