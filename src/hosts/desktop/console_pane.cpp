@@ -2,6 +2,7 @@
 
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_view.h"
+#include "hosts/desktop/roomy_delegate.h"
 #include "hosts/desktop/scope_model.h"
 #include "hosts/desktop/sheet_dialog.h"
 #include "hosts/desktop/task_pad_view.h"
@@ -78,6 +79,7 @@ void ConsolePane::makeTree()
 {
     tree_ = new QTreeView(splitter_);
     tree_->setModel(scope_);
+    tree_->setItemDelegate(new RoomyDelegate(tree_));
     tree_->setHeaderHidden(true);
     tree_->setUniformRowHeights(true);
     tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -109,6 +111,7 @@ void ConsolePane::makeViews()
     taskPad_ = new TaskPadView(views_);
     children_ = new QTreeView(views_);
     children_->setModel(scope_);
+    children_->setItemDelegate(new RoomyDelegate(children_));
     children_->setRootIsDecorated(false);
     children_->setItemsExpandable(false);
     children_->setHeaderHidden(true);

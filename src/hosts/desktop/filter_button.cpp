@@ -1,5 +1,7 @@
 #include "hosts/desktop/filter_button.h"
 
+#include "hosts/desktop/roomy_delegate.h"
+
 #include <QCheckBox>
 #include <QListWidget>
 #include <QLocale>
@@ -19,6 +21,7 @@ FilterButton::FilterButton(QWidget* parent) : QToolButton(parent)
     auto* menu = new QMenu(this);
     auto* panel = new QWidget(menu);
     list_ = new QListWidget(panel);
+    list_->setItemDelegate(new RoomyDelegate(list_));
     exclude_ = new QCheckBox(tr("&Hide the ticked ones"), panel);
     auto* clear = new QPushButton(tr("&Untick all"), panel);
     auto* column = new QVBoxLayout(panel);

@@ -1,5 +1,7 @@
 #include "hosts/desktop/key_list.h"
 
+#include "hosts/desktop/roomy_delegate.h"
+
 #include <QAction>
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -49,6 +51,7 @@ KeyList::KeyList(QMainWindow& window, QWidget* parent) : QDialog(parent)
     auto* list = new QTreeWidget(this);
     list->setHeaderLabels({tr("Command"), tr("Key"), tr("What it does")});
     list->setAccessibleName(tr("Keys"));
+    list->setItemDelegate(new RoomyDelegate(list));
     list->setSelectionMode(QAbstractItemView::SingleSelection);
     for (const QAction* menu : window.menuBar()->actions())
         if (menu->menu()) addMenu(*list, plain(menu->text()), *menu->menu());
@@ -70,5 +73,5 @@ KeyList::KeyList(QMainWindow& window, QWidget* parent) : QDialog(parent)
     auto* column = new QVBoxLayout(this);
     column->addWidget(list, 1);
     column->addWidget(buttons);
-    resize(760, 620);
+    resize(860, 660);
 }

@@ -16,8 +16,11 @@ namespace {
 /// The console's widths are generous: a character of the table's font for so many units.
 constexpr int unitsPerCharacter = 10;
 constexpr int automaticCharacters = 24;
+constexpr int mostCharacters = 44;
+constexpr int sampledRows = 200; ///< at the top, for a first width
 constexpr int cellMargin = 14;
-constexpr int symbolRoom = 20;   ///< for a mark or a sign before the text of a log's cell
+constexpr int symbolSize = 14;
+constexpr int symbolRoom = 24;   ///< for a mark or a sign before the text of a log's cell
 constexpr int headerMargin = 28; ///< room for the sort mark
 
 QString csvField(QString text)
@@ -42,6 +45,7 @@ ListTable::ListTable(ListModel& model, QSettings& settings, QWidget* parent)
     setWordWrap(false);
     setTabKeyNavigation(false);
     setCornerButtonEnabled(false);
+    setIconSize({symbolSize, symbolSize});
     setHorizontalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -70,21 +74,11 @@ void ListTable::listShown()
     arranging_ = true;
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     const QVariantList remembered = settings_.value(widthsKey()).toList();
-    const QFontMetrics header = horizontalHeader()->fontMetrics();
     for (int column = 0; column < list->columnCount(); ++column) {
-        const auto& declared = list->columns()[static_cast<std::size_t>(column)];
-        const int characters = declared.width == automaticWidth
-                                   ? automaticCharacters
-                                   : declared.width / unitsPerCharacter;
-        const bool symbols = list->definition().text == ListText::serverCodePage;
-        const int width = std::max(characters * fontMetrics().averageCharWidth() + cellMargin +
-                                       (symbols && column == 0 ? symbolRoom : 0),
-                                   header.horizontalAdvance(QString::fromStdString(declared.text)) +
-                                       headerMargin);
         // The last one takes what is left.
         if (column + 1 == list->columnCount()) continue;
         setColumnWidth(column, remembered.size() == list->columnCount() ? remembered[column].toInt()
-                                                                        : width);
+                                                                        : firstWidth(column));
     }
 
     // The console has sorted the rows itself: the mark says how, and a click sorts otherwise.
@@ -97,6 +91,23 @@ void ListTable::listShown()
     connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, &rows_, &ListModel::sort,
             Qt::UniqueConnection);
     arranging_ = false;
+}
+
+/// What the console asks for and the rows at the top need. To look at all would take long.
+int ListTable::firstWidth(int column) const
+{
+    const ListView& list = *rows_.list();
+    const auto& declared = list.columns()[static_cast<std::size_t>(column)];
+    const QFontMetrics header = horizontalHeader()->fontMetrics();
+    const int character = fontMetrics().averageCharWidth();
+    int width = character * (declared.width == automaticWidth ? automaticCharacters
+                                                              : declared.width / unitsPerCharacter);
+    for (int row = 0; row < std::min(sampledRows, rows_.rowCount()); ++row)
+        width = std::max(width, fontMetrics().horizontalAdvance(rows_.text(row, column + 1)));
+    width = std::min(width, character * mostCharacters) + cellMargin;
+    if (list.definition().text == ListText::serverCodePage && column == 0) width += symbolRoom;
+    return std::max(width,
+                    header.horizontalAdvance(QString::fromStdString(declared.text)) + headerMargin);
 }
 
 void ListTable::rememberWidths()

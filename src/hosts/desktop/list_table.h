@@ -41,6 +41,7 @@ protected:
 
 private:
     QString widthsKey() const;
+    int firstWidth(int column) const;
     void rememberWidths();
     std::vector<int> selectedRowNumbers() const;
 

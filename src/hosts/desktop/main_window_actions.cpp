@@ -87,9 +87,12 @@ void MainWindow::makeToolBar()
     toolBar_->setObjectName(QStringLiteral("toolBar"));
     toolBar_->setMovable(false);
     toolBar_->setIconSize(QSize(22, 22));
-    toolBar_->toggleViewAction()->setText(tr("Tool &Bar"));
-    menus_[CommandMenu::view]->insertAction(actions_[Command::largerText],
-                                            toolBar_->toggleViewAction());
+    QAction* toggle = toolBar_->toggleViewAction();
+    toggle->setText(tr("Tool &Bar"));
+    toggle->setShortcut(QKeySequence(QStringLiteral("Ctrl+T")));
+    toggle->setStatusTip(tr("Show or hide the buttons below the menus"));
+    addAction(toggle);
+    menus_[CommandMenu::view]->insertAction(actions_[Command::largerText], toggle);
 }
 
 void MainWindow::rebuildRecentSites()

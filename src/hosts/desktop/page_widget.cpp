@@ -4,7 +4,7 @@
 #include "hosts/desktop/icons.h"
 #include "hosts/desktop/mnemonics.h"
 #include "hosts/desktop/text_views.h"
-#include "hosts/desktop/theme.h"
+#include "platform/controls.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -136,6 +136,12 @@ void PageWidget::addField(QGridLayout& grid, std::size_t& place)
     }
     fields->addWidget(views_[place]->widget());
     const bool list = dynamic_cast<ListBox*>(controls[place].control) != nullptr;
+    // A number with arrows and a picker are as wide as what they hold.
+    const bool counted = place + 1 < controls.size() &&
+                         dynamic_cast<SpinControl*>(controls[place + 1].control) != nullptr;
+    const bool narrow =
+        counted || dynamic_cast<DateTimePicker*>(controls[place].control) != nullptr;
+    if (counted) views_[place]->widget()->setMaximumWidth(fontMetrics().averageCharWidth() * 12);
     while (place + 1 < controls.size() && controls[place + 1].role == ControlRole::field) {
         ++place;
         fields->addWidget(views_[place]->widget());
@@ -144,6 +150,7 @@ void PageWidget::addField(QGridLayout& grid, std::size_t& place)
         ++place;
         fields->addWidget(views_[place]->widget());
     }
+    if (narrow) fields->addStretch(1);
     grid.addLayout(fields, row, 1);
     if (list) grid.setRowStretch(row, 1);
 }

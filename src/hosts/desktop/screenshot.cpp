@@ -1,6 +1,7 @@
 #include "hosts/desktop/screenshot.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QPixmap>
 #include <QTimer>
 #include <QWidget>

@@ -1,8 +1,9 @@
 #include "hosts/desktop/theme.h"
 
+#include "hosts/desktop/tool_style.h"
+
 #include <QApplication>
 #include <QFontDatabase>
-#include <QStyleFactory>
 
 namespace {
 
@@ -76,7 +77,7 @@ void apply(Scheme scheme)
     // The desktop's own palette, as the program found it before it set one.
     static const bool desktopIsDark = isDark(QApplication::palette());
     const bool dark = scheme == Scheme::dark || (scheme == Scheme::system && desktopIsDark);
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new ToolStyle);
     QApplication::setPalette(dark ? darkPalette() : lightPalette());
 }
 

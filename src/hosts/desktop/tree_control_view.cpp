@@ -1,5 +1,7 @@
 #include "hosts/desktop/tree_control_view.h"
 
+#include "hosts/desktop/roomy_delegate.h"
+
 #include <QMouseEvent>
 #include <QTreeView>
 
@@ -8,6 +10,7 @@ TreeControlView::TreeControlView(TreeView& tree, QWidget* parent, const ActOnCon
       tree_(static_cast<QTreeView*>(widget()))
 {
     tree_->setModel(&nodes_);
+    tree_->setItemDelegate(new RoomyDelegate(tree_));
     tree_->setHeaderHidden(true);
     tree_->setUniformRowHeights(true);
     tree_->setAccessibleName(QObject::tr("Choices"));
@@ -65,7 +68,9 @@ void TreeControlView::render()
     if (!wanted || wanted == inSight_) return;
     inSight_ = wanted;
     tree_->scrollTo(nodes_.indexOf(*wanted));
-    if (!tree_->currentIndex().isValid()) tree_->setCurrentIndex(nodes_.index(0, 0));
+    // A tree without ticks only tells, and has no row to begin at.
+    if (model_.checkBoxes() && !tree_->currentIndex().isValid())
+        tree_->setCurrentIndex(nodes_.index(0, 0));
 }
 
 void TreeControlView::showExpansion(const QModelIndex& parent)

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QProxyStyle>
+
+/// The window's style: check boxes and option buttons that can be told from their ground in light
+/// and dark alike.
+class ToolStyle final : public QProxyStyle {
+    Q_OBJECT
+
+public:
+    ToolStyle();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+};
