@@ -1,33 +1,114 @@
 #include "hosts/desktop/about_dialog.h"
 
+#include "hosts/desktop/choice_views.h"
 #include "hosts/desktop/icons.h"
+#include "hosts/desktop/text_views.h"
+#include "settings/about_box.h"
 
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QVBoxLayout>
 
-AboutDialog::AboutDialog(const SnapInIdentity& identity, QWidget* parent) : QDialog(parent)
+namespace {
+
+constexpr int symbolSize = 64;
+
+void actNow(const std::function<void()>& act)
 {
-    setWindowTitle(tr("About"));
+    act();
+}
+
+} // namespace
+
+AboutDialog::AboutDialog(frmAbout& about, QWidget* parent) : QDialog(parent), about_(about)
+{
     auto* symbol = new QLabel(this);
-    symbol->setPixmap(toolIcon(QStringLiteral("console")).pixmap(64, 64));
-    const auto label = [this](const std::string& text) {
-        auto* made = new QLabel(QString::fromStdString(text), this);
-        made->setTextFormat(Qt::PlainText);
-        made->setWordWrap(true);
-        made->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-        return made;
-    };
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    symbol->setPixmap(toolIcon(QStringLiteral("console")).pixmap(symbolSize, symbolSize));
+    QWidget* texts = textColumn();
+    language_ = new QPushButton(this);
+    language_->setAutoDefault(false);
+    language_->setIcon(toolIcon(QStringLiteral("language")));
+    connect(language_, &QPushButton::clicked, this, [this] { about_.lblChangeLanguage_Click(); });
+    views_.push_back(std::make_unique<ButtonView>(about_.cmdOK, this, actNow));
+    auto* ok = static_cast<QPushButton*>(views_.back()->widget());
+    ok->setDefault(true);
+
     auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(20, 20, 20, 16);
-    grid->setHorizontalSpacing(20);
-    grid->addWidget(symbol, 0, 0, 3, 1, Qt::AlignTop);
-    grid->addWidget(label(identity.description), 0, 1);
-    grid->addWidget(label("Version" + identity.version), 1, 1);
-    grid->addWidget(label(identity.provider), 2, 1);
-    grid->addWidget(buttons, 3, 0, 1, 2);
+    grid->setContentsMargins(22, 22, 22, 18);
+    grid->setHorizontalSpacing(22);
+    grid->setVerticalSpacing(18);
+    grid->addWidget(symbol, 0, 0, Qt::AlignTop);
+    grid->addWidget(texts, 0, 1, 1, 2);
+    grid->addWidget(language_, 1, 1, Qt::AlignLeft);
+    grid->addWidget(ok, 1, 2, Qt::AlignRight);
     grid->setColumnStretch(1, 1);
-    resize(460, sizeHint().height());
+
+    about_.onPopupMenu = [this] { popUpLanguages(); };
+    about_.onChanged = [this] { showForm(); };
+    showForm();
+    for (const auto& view : views_) view->showState();
+    setMinimumWidth(460);
+    ok->setFocus();
+}
+
+AboutDialog::~AboutDialog()
+{
+    about_.onPopupMenu = nullptr;
+    about_.onChanged = nullptr;
+}
+
+QWidget* AboutDialog::textColumn()
+{
+    auto* texts = new QWidget(this);
+    auto* column = new QVBoxLayout(texts);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(4);
+    const auto add = [&](Label& label, ControlRole role) {
+        views_.push_back(std::make_unique<LabelView>(label, role, texts, actNow));
+        return views_.back()->widget();
+    };
+    auto* version = new QHBoxLayout;
+    version->addWidget(add(about_.lblVersionTitle, ControlRole::fieldLabel));
+    version->addWidget(add(about_.lblVersion, ControlRole::fieldLabel), 1);
+    column->addLayout(version);
+    column->addSpacing(8);
+    for (Label* label : {&about_.lblCopyright, &about_.lblTrademark})
+        column->addWidget(add(*label, ControlRole::body));
+    column->addSpacing(8);
+    for (Label* label :
+         {&about_.lblKelmaAddress1, &about_.lblKelmaAddress2, &about_.lblKelmaAddress3})
+        column->addWidget(add(*label, ControlRole::body));
+    return texts;
+}
+
+void AboutDialog::popUpLanguages()
+{
+    QMenu menu(QString::fromStdString(about_.mnuSelectLanguage()), this);
+    menu.addSection(menu.title());
+    const auto& languages = about_.mnuLanguageList();
+    for (std::size_t index = 0; index < languages.size(); ++index)
+        menu.addAction(QString::fromStdString(languages[index].caption))
+            ->setData(static_cast<int>(index));
+    const QAction* chosen = menu.exec(language_->mapToGlobal(QPoint(0, language_->height())));
+    if (chosen) about_.mnuLanguageList_Click(chosen->data().toInt());
+}
+
+void AboutDialog::showForm()
+{
+    setWindowTitle(QString::fromStdString(about_.caption()));
+    language_->setText(QString::fromStdString(about_.lblChangeLanguage.caption()));
+    if (about_.mousePointer() == frmAbout::hourglass)
+        setCursor(Qt::WaitCursor);
+    else
+        unsetCursor();
+    for (const auto& view : views_)
+        if (!view->captions().isEmpty()) view->showCaptions(view->captions());
+    if (!about_.visible()) QDialog::accept();
+}
+
+void AboutDialog::reject()
+{
+    about_.cmdOK_Click();
 }

@@ -1,13 +1,31 @@
 #pragma once
 
-#include "platform/console.h"
-
 #include <QDialog>
 
-/// What the tool is: its version and who made it.
+#include <memory>
+#include <vector>
+
+class ControlView;
+class QPushButton;
+class frmAbout;
+
+/// The tool's about box, with the menu of its interface languages.
 class AboutDialog final : public QDialog {
     Q_OBJECT
 
 public:
-    explicit AboutDialog(const SnapInIdentity& identity, QWidget* parent = nullptr);
+    /// `about` is on show and outlives the dialog, which goes when the form is hidden.
+    explicit AboutDialog(frmAbout& about, QWidget* parent = nullptr);
+    ~AboutDialog() override;
+
+    void reject() override;
+
+private:
+    QWidget* textColumn();
+    void popUpLanguages();
+    void showForm();
+
+    frmAbout& about_;
+    std::vector<std::unique_ptr<ControlView>> views_;
+    QPushButton* language_ = nullptr;
 };

@@ -48,6 +48,11 @@ void DesktopServices::setToolPath(std::function<std::string(const std::string&)>
     toolPath_ = std::move(toolPath);
 }
 
+void DesktopServices::setManualMissing(std::function<void()> said)
+{
+    manualMissing_ = std::move(said);
+}
+
 void DesktopServices::setManual(std::string folder)
 {
     manual_ = std::move(folder);
@@ -99,6 +104,9 @@ void DesktopServices::pumpMessages()
 int DesktopServices::showHelp(const std::string&, int topic)
 {
     if (!help_) help_ = std::make_unique<HelpWindow>();
-    if (!help_->open(QString::fromStdString(manual_), topic)) return 0;
+    if (!help_->open(QString::fromStdString(manual_), topic)) {
+        if (manualMissing_) manualMissing_();
+        return 0;
+    }
     return static_cast<int>(help_->winId());
 }

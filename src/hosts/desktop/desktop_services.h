@@ -22,6 +22,9 @@ public:
     /// How the tool names a path of the machine; without one, by that path.
     void setToolPath(std::function<std::string(const std::string&)> toolPath);
 
+    /// Called when the manual is asked for and is not there.
+    void setManualMissing(std::function<void()> said);
+
     /// The folder of the manual, on the machine.
     void setManual(std::string folder);
 
@@ -37,6 +40,7 @@ private:
 
     QPointer<QWidget> window_;
     std::function<std::string(const std::string&)> toolPath_;
+    std::function<void()> manualMissing_;
     std::string manual_;
     std::unique_ptr<HelpWindow> help_;
 };

@@ -9,7 +9,9 @@
 #include "hosts/desktop/notice_bar.h"
 #include "hosts/desktop/open_tool.h"
 #include "hosts/desktop/sheet_dialog.h"
+#include "hosts/desktop/task_pad_view.h"
 #include "hosts/desktop/theme.h"
+#include "settings/about_box.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -206,8 +208,8 @@ void MainWindow::run(Command command)
         close();
         return;
     case Command::help:
-        emit helpAsked(0);
-        return;
+        if (!pane_) return void(emit helpAsked(0));
+        return pane_->perform([](Console& console) { console.helpOnSnapIn(); });
     case Command::keys:
         return showKeys();
     case Command::about:
@@ -329,8 +331,13 @@ void MainWindow::showKeys()
 void MainWindow::showAbout()
 {
     if (!tool_) return;
-    AboutDialog about(tool_->console().identity(), this);
+    frmAbout& form = tool_->snapIn().showAbout();
+    AboutDialog about(form, this);
     about.exec();
+    // The person may have chosen another language there.
+    rebuildConsoleItems();
+    if (pane_ && pane_->taskPad().isVisible())
+        pane_->perform([](Console& console) { console.refresh(); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -127,7 +127,9 @@ void PageWidget::addField(QGridLayout& grid, std::size_t& place)
         const QString name = QString::fromStdString(
             static_cast<const Label*>(controls[place - 1].control)->caption());
         views_[place]->focusTarget()->setAccessibleName(name);
-        grid.addWidget(label->widget(), row, 0, Qt::AlignLeft | Qt::AlignVCenter);
+        const bool tall = dynamic_cast<ListBox*>(controls[place].control) != nullptr;
+        grid.addWidget(label->widget(), row, 0,
+                       Qt::AlignLeft | (tall ? Qt::AlignTop : Qt::AlignVCenter));
         label = nullptr;
     }
     if (label) {

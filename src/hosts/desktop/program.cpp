@@ -32,10 +32,11 @@ Program::Program(QSettings& settings, std::string installedData, HostFacts facts
                      [this](const QString& folder) { openSite(folder.toStdString()); });
     QObject::connect(&window_, &MainWindow::sampleAsked,
                      [this](const QString& folder) { openSample(folder.toStdString()); });
-    QObject::connect(&window_, &MainWindow::helpAsked, [this](int topic) {
-        if (desktop_.showHelp({}, topic) == 0)
-            window_.showProblem(
-                QObject::tr("The manual is not beside the tool. Install it again to read it."));
+    QObject::connect(&window_, &MainWindow::helpAsked,
+                     [this](int topic) { desktop_.showHelp({}, topic); });
+    desktop_.setManualMissing([this] {
+        window_.showProblem(
+            QObject::tr("The manual is not beside the tool. Install it again to read it."));
     });
 }
 

@@ -42,13 +42,13 @@ SheetDialog::SheetDialog(std::shared_ptr<OpenSheet> sheet, QWidget* parent)
         tabs_->addTab(QString::fromStdString(sheet_->pageTitle(place)));
     tabs_->setVisible(sheet_->plainSheet() && sheet_->pageCount() > 1);
     makeButtons();
-    resize(sheet_->wizard() ? QSize(680, 520) : QSize(560, 400));
     sheet_->observe(this);
     connect(tabs_, &QTabBar::currentChanged, this, [this](int tab) {
         if (sheet_->plainSheet() && tab + 1 != sheet_->currentPlace())
             act([&] { sheet_->plainSheet()->selectPage(tab + 1); });
     });
     showPage();
+    resize(sheet_->wizard() ? QSize(680, 520) : QSize(560, 0).expandedTo(sizeHint()));
 }
 
 SheetDialog::~SheetDialog()

@@ -1,5 +1,6 @@
 #include "hosts/desktop/main_window.h"
 
+#include "hosts/desktop/about_dialog.h"
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_view.h"
 #include "hosts/desktop/program.h"
@@ -8,6 +9,7 @@
 #include "hosts/desktop/test_window.h"
 #include "hosts/desktop/theme.h"
 #include "platform/console.h"
+#include "settings/about_box.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -16,6 +18,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
+#include <QTimer>
 #include <QToolBar>
 #include <QTreeView>
 
@@ -361,6 +364,45 @@ TEST(OpenTool, NamesAPickedFileByItsDriveInsideTheSite)
     EXPECT_EQ("C:\\", shown.tool->toolPath(site + "/drive_c"));
     EXPECT_EQ("/tmp/other.txt", shown.tool->toolPath("/tmp/other.txt"));
     EXPECT_EQ(site + "/drive_copy/x", shown.tool->toolPath(site + "/drive_copy/x"));
+}
+
+TEST(AboutDialog, TellsTheVersionAndChangesTheLanguageOfMenusAndTasks)
+{
+    TestWindow shown;
+    frmAbout& form = shown.tool->snapIn().showAbout();
+    AboutDialog about(form);
+    about.show();
+    settle();
+    EXPECT_EQ(QStringLiteral("Orvan Diagnostic Tool"), about.windowTitle());
+    QStringList texts;
+    for (auto* label : about.findChildren<QLabel*>()) texts << label->text();
+    EXPECT_TRUE(texts.contains(QString::fromStdString(form.lblVersion.caption())));
+
+    ASSERT_GT(form.mnuLanguageList().size(), 3U);
+    int french = -1;
+    for (std::size_t index = 0; index < form.mnuLanguageList().size(); ++index)
+        if (form.mnuLanguageList()[index].tag == "1036") french = static_cast<int>(index);
+    ASSERT_GE(french, 0);
+    form.mnuLanguageList_Click(french);
+    settle();
+    EXPECT_NE(QStringLiteral("Orvan Diagnostic Tool"), about.windowTitle());
+
+    QTest::keyClick(&about, Qt::Key_Escape);
+    EXPECT_FALSE(form.visible());
+    EXPECT_FALSE(about.isVisible());
+    const QString before = shown.window->consoleAction("mnuGatherLogFiles")->text();
+    // The dialog of the command is modal; the form's own OK closes it.
+    QTimer::singleShot(0, [&] { form.cmdOK_Click(); });
+    shown.window->run(Command::about);
+    EXPECT_NE(before, shown.window->consoleAction("mnuGatherLogFiles")->text());
+}
+
+TEST(Help, TheKeyAsksTheToolWhichShowsItsManual)
+{
+    TestWindow shown;
+    shown.window->run(Command::help);
+    ASSERT_EQ(1U, shown.desktop.helpShown().size());
+    EXPECT_THAT(shown.desktop.helpShown()[0].file, HasSubstr("OrvanDiagnosticTool"));
 }
 
 TEST(Help, ShowsThePageOfATopicAndSaysWhenThereIsNoManual)

@@ -460,11 +460,15 @@ TEST(Wizards, EveryOneOpensByItsCardAndItsMenuEntryAndIsReadable)
         {"mnuConfigureMacroTrace", "task-1", "Configure Macro Traces Wizard"},
         {"mnuConfigureMicroTraces", "task-2", "Configure Micro Traces Wizard"},
         {"mnuDisableAllTraces", "task-3", "Reset to Default Traces Wizard"},
+        {"mnuGatherLogFiles", "task-5", "Gather Logs Wizard"},
+        {"mnuConfigureLogSettings", "task-6", "Log Settings"},
+        {"mnuChangeLanguage", nullptr, "Event Log Language"},
     };
     TestWindow window;
     for (const auto& c : cases) {
         SCOPED_TRACE(c.item);
         for (const bool byCard : {true, false}) {
+            if (byCard && !c.card) continue;
             if (byCard)
                 window.pane().findChild<QAbstractButton*>(c.card)->click();
             else
