@@ -1,3 +1,1 @@
-add_executable(fuzz_directive_file fuzz_directive_file.cpp)
-target_link_libraries(fuzz_directive_file PRIVATE orvan_cabmaker)
-target_link_options(fuzz_directive_file PRIVATE -fsanitize=fuzzer)
+orvan_fuzz(directive_file LINKS orvan_cabmaker)
