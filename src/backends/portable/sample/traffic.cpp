@@ -42,10 +42,14 @@ void Traffic::run()
 {
     DayProfile profile;
     const std::size_t before = added_;
+    Moment latest = coverageStart;
     while (added_ < lines_) {
         const Moment due = profile.momentAt(static_cast<std::int64_t>(added_ - before),
                                             static_cast<std::int64_t>(lines_ - before));
-        const Moment moment = std::max(due, coverageStart + minute) + random_.between(0, 999);
+        // What is released is written: nothing may happen before it any more.
+        const Moment moment =
+            std::max(latest, std::max(due, coverageStart + minute) + random_.between(0, 999));
+        latest = moment;
         if (moment > coverageEnd - minute) {
             fillUp(moment);
             break;
