@@ -163,7 +163,7 @@ SpinView::SpinView(SpinControl& spin, QWidget* parent, const ActOnControl& act)
                              button->fontMetrics().height() / 2 + 6);
         column->addWidget(button);
         connect(button, &QToolButton::clicked, this,
-                [this, step] { ControlView::act([this, step] { (model_.*step)(); }); });
+                [this, step, &arrows = model_] { ControlView::act([&] { (arrows.*step)(); }); });
         return button;
     };
     up_ = arrow(Qt::UpArrow, QObject::tr("More"), &SpinControl::stepUp);
