@@ -100,6 +100,15 @@ TEST_F(BadInput, WrongUsageEndsWithTwo)
         {"sample", "x", "--lines", "many"},
         {"sample", "x", "--lines", "0"},
         {"sample", "x", "--fields", "wide"},
+        {"settings", "--max-megabytes", "many"},
+        {"settings", "--max-megabytes", "0"},
+        {"settings", "--max-megabytes", "-5"},
+        {"settings", "--max-megabytes", "99999999999"},
+        {"event-language", "--keep"},
+        {"event-language", "FRA", "JPN"},
+        {"language", "FRA", "JPN"},
+        {"completion"},
+        {"completion", "fish"},
     };
     for (const auto& words : cases) {
         SCOPED_TRACE(testing::PrintToString(words));

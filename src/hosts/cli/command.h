@@ -43,6 +43,9 @@ public:
     /// What `--help` of the command teaches below its options: how it behaves, with examples.
     virtual std::string explanation() const { return {}; }
 
+    /// Whether the list of commands leaves it out.
+    virtual bool hidden() const { return false; }
+
     /// Adds the command's own options and arguments.
     virtual void declare(CLI::App& app) = 0;
 

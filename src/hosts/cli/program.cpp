@@ -25,9 +25,14 @@ constexpr const char* introduction =
     "  export ORVAN_SITE=~/orvan-sample\n"
     "  orvandiag status";
 
-constexpr const char* closing =
-    "Exit status: 0 done, 1 the command could not do it, 2 wrong usage. Results go to standard\n"
-    "output, messages to standard error. orvandiag COMMAND --help tells more of a command.";
+std::string closing()
+{
+    std::string text;
+    for (const auto& exit : exitStatuses)
+        text += (text.empty() ? "Exit status: " : ", ") + std::to_string(exit.status) + " " +
+                exit.meaning;
+    return text + ".\n" + outputNote;
+}
 
 } // namespace
 
@@ -35,7 +40,7 @@ std::unique_ptr<CLI::App> describeCommandLine(GlobalOptions& options,
                                               const std::vector<std::unique_ptr<Command>>& commands)
 {
     auto app = std::make_unique<CLI::App>(introduction, "orvandiag");
-    app->footer(closing);
+    app->footer(closing());
     options.site = defaultSite();
     app->add_option("--site", options.site,
                     "the site's folder; else $ORVAN_SITE, else the user's data folder")
@@ -48,6 +53,7 @@ std::unique_ptr<CLI::App> describeCommandLine(GlobalOptions& options,
     app->fallthrough();
     for (const auto& command : commands) {
         CLI::App* sub = app->add_subcommand(command->name(), command->summary());
+        if (command->hidden()) sub->group("");
         sub->footer(command->explanation());
         command->declare(*sub);
     }
@@ -97,6 +103,11 @@ std::vector<std::unique_ptr<Command>> allCommands()
     commands.push_back(makeResetCommand());
     commands.push_back(makeFlagsCommand());
     commands.push_back(makeGatherCommand());
+    commands.push_back(makeSettingsCommand());
+    commands.push_back(makeEventLanguageCommand());
+    commands.push_back(makeLanguageCommand());
     commands.push_back(makeAboutCommand());
+    commands.push_back(makeCompletionCommand());
+    commands.push_back(makeManCommand());
     return commands;
 }

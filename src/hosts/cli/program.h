@@ -7,6 +7,23 @@
 #include <string>
 #include <vector>
 
+/// What an exit status says.
+struct ExitStatus {
+    int status;
+    const char* meaning;
+};
+
+constexpr ExitStatus exitStatuses[] = {
+    {0, "done"},
+    {1, "the command could not do it"},
+    {2, "wrong usage"},
+};
+
+/// What the program is for, in one line; and where its output goes.
+constexpr const char* purpose = "diagnose an Orvan voice-messaging server";
+constexpr const char* outputNote = "Results go to standard output, messages to standard error.\n"
+                                   "orvandiag COMMAND --help tells more of a command.";
+
 /// The whole command line: global options and one subcommand for each command.
 ///
 /// Parsing it fills `options` and the commands, which must outlive it.

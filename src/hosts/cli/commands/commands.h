@@ -4,14 +4,19 @@
 
 // One maker a command; each lives in the file of its name.
 std::unique_ptr<Command> makeAboutCommand();
+std::unique_ptr<Command> makeCompletionCommand();
 std::unique_ptr<Command> makeCycleCommand();
+std::unique_ptr<Command> makeEventLanguageCommand();
 std::unique_ptr<Command> makeFlagsCommand();
 std::unique_ptr<Command> makeGatherCommand();
+std::unique_ptr<Command> makeLanguageCommand();
 std::unique_ptr<Command> makeLogsCommand();
 std::unique_ptr<Command> makeMacroCommand();
+std::unique_ptr<Command> makeManCommand();
 std::unique_ptr<Command> makeMicroCommand();
 std::unique_ptr<Command> makeReadCommand();
 std::unique_ptr<Command> makeResetCommand();
 std::unique_ptr<Command> makeSampleCommand();
+std::unique_ptr<Command> makeSettingsCommand();
 std::unique_ptr<Command> makeStatusCommand();
 std::unique_ptr<Command> makeTreeCommand();

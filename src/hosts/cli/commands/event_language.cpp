@@ -1,0 +1,121 @@
+#include "hosts/cli/commands/commands.h"
+#include "hosts/cli/output.h"
+#include "hosts/cli/sheet_driver.h"
+#include "platform/controls.h"
+#include "runtime/text.h"
+#include "settings/event_log_language.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+
+namespace {
+
+constexpr const char* menuItem = "mnuChangeLanguage";
+
+/// The installed language of that name in the folder's own spelling. Raises CommandFailure.
+std::string installedLanguage(OpenTool& tool, const std::string& wanted)
+{
+    std::vector<std::string> installed;
+    try {
+        installed = mdlLanguage::installedLanguages(tool.context());
+    } catch (const RunTimeError& error) {
+        throw CommandFailure("the installed languages can't be listed: " + error.description());
+    }
+    for (const std::string& language : installed)
+        if (equalIgnoringCase(language, wanted)) return language;
+    throw CommandFailure("no event log language " + wanted +
+                         "; orvandiag event-language lists those that are installed");
+}
+
+class EventLanguageCommand final : public Command {
+public:
+    std::string name() const override { return "event-language"; }
+
+    std::string summary() const override { return "Show the event log's language, or change it"; }
+
+    std::string explanation() const override
+    {
+        return "The server's messages in the Windows event log show in the language whose message "
+               "files\n"
+               "are registered. On exit the original language comes back, as it does when the "
+               "console is\n"
+               "closed. With --keep the new one stays: it becomes the language that comes back.\n\n"
+               "  orvandiag event-language\n"
+               "  orvandiag event-language FRA --keep";
+    }
+
+    void declare(CLI::App& app) override
+    {
+        app.add_option("CODE", code_, "a language that is installed, such as FRA");
+        app.add_flag("--keep", keep_, "leave the new language in force");
+    }
+
+    void run(const GlobalOptions& options, Output& output) override
+    {
+        if (keep_ && code_.empty()) throw UsageError("event-language --keep needs a language");
+        OpenTool tool(options);
+        const std::string language = code_.empty() ? "" : installedLanguage(tool, code_);
+        if (!language.empty() && mdlLanguage::getEventLogKeys(tool.context()).empty())
+            throw CommandFailure("no event source of the server is registered");
+        Shown shown;
+        {
+            SheetDriver sheet(tool, menuItem);
+            if (!language.empty()) change(tool, sheet, language);
+            shown = {sheet.control<TextBox>("txtOriginalLanguage").text(),
+                     sheet.control<TextBox>("txtCurrentLanguage").text(),
+                     sheet.control<ListBox>("lstAvailableLangs").items()};
+        }
+        if (keep_) mdlLanguage::recordOriginalLanguage(tool.context(), language);
+        tool.close();
+        report(output, shown);
+    }
+
+private:
+    struct Shown {
+        std::string original;
+        std::string current;
+        std::vector<std::string> available;
+    };
+
+    static void change(OpenTool& tool, SheetDriver& sheet, const std::string& language)
+    {
+        auto& list = sheet.control<ListBox>("lstAvailableLangs");
+        const auto place = std::find(list.items().begin(), list.items().end(), language);
+        list.chooseByPerson(static_cast<int>(place - list.items().begin()));
+        sheet.apply();
+        const auto sources = mdlLanguage::getEventLogKeys(tool.context());
+        for (const std::string& source : sources) {
+            const std::string file = mdlLanguage::eventMessageFile(tool.context(), source);
+            if (mdlLanguage::determineCurrentLanguage(tool.context(), file) != language)
+                throw CommandFailure("the event source " + source + " could not be changed");
+        }
+    }
+
+    void report(Output& output, const Shown& shown) const
+    {
+        if (output.json()) {
+            output.value({{"original", shown.original},
+                          {"current", shown.current},
+                          {"available", shown.available}});
+            return;
+        }
+        std::string available;
+        for (const std::string& language : shown.available)
+            available += (available.empty() ? "" : ", ") + language;
+        output.line("Original         " + shown.original);
+        output.line("Current          " + shown.current +
+                    (code_.empty() || keep_ ? "" : " (until now: the original is back)"));
+        output.line("Available        " + available);
+    }
+
+    std::string code_;
+    bool keep_ = false;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeEventLanguageCommand()
+{
+    return std::make_unique<EventLanguageCommand>();
+}

@@ -1,0 +1,89 @@
+#include "core/language_table.h"
+#include "hosts/cli/commands/commands.h"
+#include "hosts/cli/open_tool.h"
+#include "hosts/cli/output.h"
+#include "runtime/text.h"
+#include "settings/about_box.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+
+constexpr const char* english = "ENU";
+
+/// The codes of the languages that the about box offers, in the order of its menu. A single
+/// library is not offered: the box takes it for none.
+std::vector<std::string> offeredCodes(const ToolContext& tool)
+{
+    const auto& codes = tool.language.g_astrLanguages;
+    return codes.size() > 1 ? codes : std::vector<std::string>();
+}
+
+/// The place of a language in the about box's menu. Raises CommandFailure for one that it does not
+/// offer.
+int menuPlace(const ToolContext& tool, const std::string& wanted)
+{
+    const auto codes = offeredCodes(tool);
+    if (codes.empty() && equalIgnoringCase(wanted, english)) return 0;
+    for (std::size_t place = 0; place < codes.size(); ++place)
+        if (equalIgnoringCase(codes[place], wanted)) return static_cast<int>(place);
+    throw CommandFailure("no interface language " + wanted +
+                         "; orvandiag language lists those beside the tool");
+}
+
+class LanguageCommand final : public Command {
+public:
+    std::string name() const override { return "language"; }
+
+    std::string summary() const override
+    {
+        return "Show the interface languages, or choose one for this run";
+    }
+
+    std::string explanation() const override
+    {
+        return "A choice holds until the tool is closed, which for a command is at once: it shows "
+               "how the\n"
+               "tool calls itself in that language. Each run begins with the user's language; "
+               "give a site\n"
+               "another one for good by its number in site.ini, such as language = 1036.\n\n"
+               "  orvandiag language\n"
+               "  orvandiag language FRA";
+    }
+
+    void declare(CLI::App& app) override
+    {
+        app.add_option("CODE", code_, "a language whose texts lie beside the tool, such as FRA");
+    }
+
+    void run(const GlobalOptions& options, Output& output) override
+    {
+        OpenTool tool(options);
+        frmAbout& box = tool.snapIn().showAbout();
+        if (!code_.empty()) box.mnuLanguageList_Click(menuPlace(tool.context(), code_));
+        const std::int32_t current = tool.context().language.g_lngCurrentLanguage;
+        const auto available = offeredCodes(tool.context());
+        const std::string title = box.caption();
+        box.cmdOK.click();
+        tool.close();
+
+        if (output.json()) {
+            output.value({{"current", codeFromLanguageId(current)}, {"available", available}});
+            return;
+        }
+        output.line(languageName(current) + ": " + title);
+        Table table({"Code", "Language"});
+        for (const std::string& code : available) table.row({code, languageNameFromCode(code)});
+        output.text(table.text());
+    }
+
+private:
+    std::string code_;
+};
+
+} // namespace
+
+std::unique_ptr<Command> makeLanguageCommand()
+{
+    return std::make_unique<LanguageCommand>();
+}

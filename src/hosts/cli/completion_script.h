@@ -1,0 +1,8 @@
+#pragma once
+
+#include "hosts/cli/command_tree.h"
+
+#include <string>
+
+/// A script that completes the program's commands and options in bash, with nothing but bash.
+std::string bashCompletion(const DescribedCommand& program);

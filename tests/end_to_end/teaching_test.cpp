@@ -1,0 +1,150 @@
+#include "end_to_end/program.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+using Words = std::vector<std::string>;
+
+std::string contentOf(const std::filesystem::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    EXPECT_TRUE(file) << path;
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// The names of the commands that `--help` lists.
+Words commands()
+{
+    Words names;
+    std::istringstream help(orvandiag({"--help"}).out);
+    bool listed = false;
+    for (std::string line; std::getline(help, line);) {
+        if (line == "Subcommands:") {
+            listed = true;
+        } else if (line.empty()) {
+            listed = false;
+        } else if (listed && line[2] != ' ') {
+            names.push_back(line.substr(2, line.find(' ', 2) - 2));
+        }
+    }
+    EXPECT_GT(names.size(), 10u);
+    return names;
+}
+
+/// What bash offers for the last of the words on the line.
+Words completed(const Words& line)
+{
+    std::string script =
+        "source <(" + std::string(ORVANDIAG_PROGRAM) + " completion bash)\nCOMP_WORDS=(orvandiag";
+    for (const auto& word : line) script += " '" + word + "'";
+    script += ")\nCOMP_CWORD=" + std::to_string(line.size()) +
+              "\n_orvandiag\nprintf '%s\\n' \"${COMPREPLY[@]}\"\n";
+    const Outcome shell = runProgram({"bash", "--norc", "-c", script}, "/");
+    EXPECT_EQ(0, shell.status);
+    EXPECT_EQ("", shell.err);
+    Words offered;
+    std::istringstream lines(shell.out);
+    for (std::string word; std::getline(lines, word);)
+        if (!word.empty()) offered.push_back(word);
+    return offered;
+}
+
+TEST(BashCompletion, OffersEveryCommand)
+{
+    const Words offered = completed({""});
+    for (const auto& command : commands())
+        EXPECT_THAT(offered, testing::Contains(command)) << command;
+    EXPECT_THAT(offered, Not(testing::Contains("man")));
+}
+
+TEST(BashCompletion, FollowsTheCommandLine)
+{
+    struct Case {
+        const char* because;
+        Words line;
+        Words offered;
+    };
+    const Case cases[] = {
+        {"a command by its beginning", {"ga"}, {"gather"}},
+        {"its own commands", {"gather", "st"}, {"standard"}},
+        {"options of a command below", {"gather", "standard", "--t"}, {"--to"}},
+        {"options before the command are passed over", {"--site", "reset", "gath"}, {"gather"}},
+        {"global options stand behind a command too", {"status", "--js"}, {"--json"}},
+        {"a value of a few words", {"sample", "x", "--fields", "ex"}, {"extended"}},
+        {"a value that nobody knows", {"gather", "frame", "--hours", ""}, {}},
+        {"a folder", {"--site", "/us"}, {"/usr"}},
+        {"a folder as an argument", {"sample", "/us"}, {"/usr"}},
+        {"nothing begins so", {"xyz"}, {}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        EXPECT_EQ(c.offered, completed(c.line));
+    }
+}
+
+TEST(ManualPage, HasAPageOfTheTextsOfTheHelp)
+{
+    const Outcome page = orvandiag({"man"});
+    EXPECT_EQ(0, page.status);
+    EXPECT_THAT(page.out, StartsWith("'\\\" t\n.TH ORVANDIAG 1 "));
+    Words sections;
+    std::istringstream lines(page.out);
+    for (std::string line; std::getline(lines, line);)
+        if (line.rfind(".SH ", 0) == 0) sections.push_back(line.substr(4));
+    EXPECT_THAT(sections, ElementsAre("NAME", "SYNOPSIS", "DESCRIPTION", "OPTIONS", "COMMANDS",
+                                      "\"EXIT STATUS\"", "NOTES"));
+    EXPECT_THAT(page.out, HasSubstr("orvandiag \\- diagnose an Orvan voice\\-messaging server\n"));
+    EXPECT_THAT(page.out, HasSubstr(".TS\nl l.\n0\tdone\n1\tthe command could not do it\n"
+                                    "2\twrong usage\n.TE\n"));
+    EXPECT_THAT(page.out, HasSubstr("\\(aqD:\\eOrvanLogs\\(aq")) << "a backslash is a letter";
+}
+
+TEST(ManualPage, HasEveryCommandAndNoHiddenOne)
+{
+    const std::string page = orvandiag({"man"}).out;
+    for (const auto& command : commands()) {
+        std::string escaped = command;
+        if (const auto dash = escaped.find('-'); dash != std::string::npos)
+            escaped.insert(dash, "\\");
+        EXPECT_THAT(page, HasSubstr(".SS \"" + escaped)) << command;
+    }
+    EXPECT_THAT(page, Not(HasSubstr(".SS \"man")));
+    EXPECT_THAT(orvandiag({"--help"}).out, Not(HasSubstr("manual page")));
+}
+
+TEST(ManualPage, NoLineOfTextIsTakenForARequest)
+{
+    std::istringstream lines(orvandiag({"man"}).out);
+    const Words requests = {".TH", ".SH", ".SS", ".TP", ".PP", ".RS",
+                            ".RE", ".nf", ".fi", ".TS", ".TE"};
+    std::string line;
+    std::getline(lines, line);
+    while (std::getline(lines, line)) {
+        EXPECT_NE('\'', line.empty() ? ' ' : line[0]) << line;
+        if (line.empty() || line[0] != '.') continue;
+        EXPECT_THAT(requests, testing::Contains(line.substr(0, 3))) << line;
+    }
+}
+
+TEST(ManualPage, StandsWithTheCompletionWhereTheyAreInstalledFrom)
+{
+    const std::filesystem::path share = std::filesystem::path(ORVAN_BUILD_FOLDER) / "share";
+    EXPECT_EQ(orvandiag({"man"}).out, contentOf(share / "man/man1/orvandiag.1"));
+    EXPECT_EQ(orvandiag({"completion", "bash"}).out,
+              contentOf(share / "bash-completion/completions/orvandiag"));
+}
+
+} // namespace
