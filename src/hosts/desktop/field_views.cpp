@@ -93,8 +93,14 @@ void ComboBoxView::render()
 {
     showItems(*combo_, model_);
     const QString text = QString::fromStdString(model_.text());
-    if (combo_->currentIndex() != model_.selectedIndex())
+    if (combo_->currentIndex() != model_.selectedIndex()) {
+        // Another choice moves the cursor to the end, which a person who types may have elsewhere.
+        const bool shown = combo_->currentText() == text;
+        const int cursor = combo_->lineEdit()->cursorPosition();
         combo_->setCurrentIndex(model_.selectedIndex());
+        combo_->setEditText(text);
+        if (shown) combo_->lineEdit()->setCursorPosition(cursor);
+    }
     if (combo_->currentText() != text) combo_->setEditText(text);
 }
 
@@ -102,8 +108,12 @@ ListBoxView::ListBoxView(ListBox& box, QWidget* parent, const ActOnControl& act)
     : ControlView(box, new QListWidget(parent), act), model_(box),
       list_(static_cast<QListWidget*>(widget()))
 {
-    connect(list_, &QListWidget::currentRowChanged, this, [this](int row) {
-        if (row >= 0) ControlView::act([&] { model_.chooseByPerson(row); });
+    // Not by the current row, which the focus alone puts on the first one.
+    connect(list_, &QListWidget::itemSelectionChanged, this, [this] {
+        const auto chosen = list_->selectedItems();
+        if (chosen.isEmpty()) return showState();
+        const int row = list_->row(chosen.front());
+        ControlView::act([&] { model_.chooseByPerson(row); });
     });
 }
 

@@ -307,8 +307,18 @@ void MainWindow::changeTextSize(int step)
     pane_->log().setTextFont(font);
 }
 
+/// False while a page is at work: what it works on would go from below it.
+bool MainWindow::mayLeaveSite()
+{
+    if (!pane_ || !pane_->sheetAtWork()) return true;
+    statusBar()->showMessage(tr("The gather is being ended. Try again in a moment."),
+                             sayMilliseconds);
+    return false;
+}
+
 void MainWindow::pickSite()
 {
+    if (!mayLeaveSite()) return;
     const QString folder = QFileDialog::getExistingDirectory(
         this, tr("Open Site: the folder of a server, with site.ini, registry.reg or drive_c"));
     if (!folder.isEmpty()) emit siteAsked(folder);
@@ -316,6 +326,7 @@ void MainWindow::pickSite()
 
 void MainWindow::pickSampleFolder()
 {
+    if (!mayLeaveSite()) return;
     const QString folder = QFileDialog::getSaveFileName(
         this, tr("Make Sample Server in a New Folder"), QDir::homePath() + tr("/orvan-sample"), {},
         nullptr, QFileDialog::ShowDirsOnly);

@@ -71,6 +71,7 @@ private:
     void runInTable(Command command);
     void chooseTheme(Command command);
     void changeTextSize(int step);
+    bool mayLeaveSite();
     void pickSite();
     void pickSampleFolder();
     void showKeys();

@@ -101,8 +101,9 @@ void MainWindow::rebuildRecentSites()
     int number = 0;
     for (const QString& folder : recentSites(settings_)) {
         ++number;
-        recent_->addAction(QStringLiteral("&%1  %2").arg(number).arg(folder), this,
-                           [this, folder] { emit siteAsked(folder); });
+        recent_->addAction(QStringLiteral("&%1  %2").arg(number).arg(folder), this, [this, folder] {
+            if (mayLeaveSite()) emit siteAsked(folder);
+        });
     }
     recent_->menuAction()->setEnabled(number > 0);
 }

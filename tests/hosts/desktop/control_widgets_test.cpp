@@ -91,6 +91,61 @@ TEST(ControlWidgets, EveryKindShowsItsStateAndCarriesThePersonsActionsBack)
     EXPECT_EQ(QStringLiteral("Frame"), shown.only<QGroupBox>().title());
 }
 
+TEST(ControlWidgets, AListThatTakesTheFocusChoosesNothing)
+{
+    ShownSheet<WizardSheet> shown;
+    int clicks = 0;
+    shown.page().list.onClick = [&] { ++clicks; };
+    auto& list = shown.only<QListWidget>();
+
+    QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(&list, &focus);
+    settle();
+    EXPECT_EQ(-1, shown.page().list.selectedIndex());
+    EXPECT_TRUE(list.selectedItems().isEmpty());
+
+    QTest::keyClick(&list, Qt::Key_Down);
+    EXPECT_EQ(1, clicks) << "a key chooses";
+    settle();
+    ASSERT_EQ(1, list.selectedItems().size());
+    EXPECT_EQ(shown.page().list.text(), list.selectedItems().front()->text().toStdString());
+
+    const QPoint chosen = list.visualItemRect(list.selectedItems().front()).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, chosen);
+    EXPECT_EQ(1, list.selectedItems().size()) << "what is chosen stays on show";
+}
+
+TEST(ControlWidgets, AnEntryOfAListThatIsClickedIsChosenAndAPageMayTakeTheChoiceBack)
+{
+    ShownSheet<WizardSheet> shown;
+    auto& list = shown.only<QListWidget>();
+    const QPoint first = list.visualItemRect(list.item(0)).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, first);
+    EXPECT_EQ("ENU", shown.page().list.text());
+
+    shown.page().list.setSelectedIndex(-1);
+    settle();
+    EXPECT_TRUE(list.selectedItems().isEmpty());
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, first);
+    EXPECT_EQ("ENU", shown.page().list.text());
+}
+
+TEST(ControlWidgets, TypingInTheMiddleOfAChoiceStaysThere)
+{
+    ShownSheet<WizardSheet> shown;
+    shown.page().combo.setSelectedIndex(1);
+    settle();
+    auto* edit = shown.only<QComboBox>().lineEdit();
+    edit->setCursorPosition(1);
+    for (const auto key : {Qt::Key_X, Qt::Key_Y}) {
+        QTest::keyClick(edit, key);
+        settle();
+    }
+    EXPECT_EQ("txywo", shown.page().combo.text());
+    EXPECT_EQ(QStringLiteral("txywo"), edit->text());
+    EXPECT_EQ(3, edit->cursorPosition());
+}
+
 TEST(ControlWidgets, APickerKeepsTheOtherPartOfItsMoment)
 {
     ShownSheet<WizardSheet> shown;

@@ -9,6 +9,7 @@
 #include "hosts/desktop/test_window.h"
 #include "hosts/desktop/theme.h"
 #include "platform/console.h"
+#include "platform/wizard_sheet.h"
 #include "settings/about_box.h"
 
 #include <QAbstractButton>
@@ -296,6 +297,45 @@ TEST(MainWindow, CutsNoTextAtEightHundredBySixHundred)
     shown.window->showNode("Static Node");
     settle();
     check();
+}
+
+/// A standard gather at its progress page, with the run about to begin.
+WizardSheet& gatherAtItsStart(TestWindow& shown)
+{
+    shown.console().clickTask("5");
+    auto sheet = shown.console().currentView().propertySheetProvider().lastSheet();
+    sheet->wizard()->next();
+    return *sheet->wizard();
+}
+
+TEST(MainWindow, StaysWithItsSiteWhileACancelledGatherEnds)
+{
+    TestWindow shown;
+    rememberSite(shown.settings, QStringLiteral("/tmp/another"));
+    QAction* recent = nullptr;
+    for (auto* menu : shown.window->findChildren<QMenu*>())
+        if (menu->title().contains("Recent")) {
+            emit menu->aboutToShow();
+            recent = menu->actions().value(0);
+        }
+    ASSERT_NE(nullptr, recent);
+    QStringList asked;
+    QObject::connect(shown.window.get(), &MainWindow::siteAsked,
+                     [&](const QString& folder) { asked << folder; });
+
+    WizardSheet& wizard = gatherAtItsStart(shown);
+    int pumps = 0;
+    shown.desktop.onPump([&] {
+        if (++pumps > 1) return;
+        wizard.cancel();
+        recent->trigger();
+    });
+    wizard.tick(*wizard.timers().front());
+    EXPECT_GE(pumps, 1);
+    EXPECT_TRUE(asked.isEmpty()) << "the run would go on with a tool that has gone";
+
+    recent->trigger();
+    EXPECT_EQ(QStringList{QStringLiteral("/tmp/another")}, asked);
 }
 
 struct TestProgram {
