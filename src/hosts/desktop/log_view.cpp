@@ -6,23 +6,27 @@
 #include "hosts/desktop/icons.h"
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_delegate.h"
+#include "hosts/desktop/overview_strip.h"
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/time_search.h"
 #include "platform/list_view.h"
 
+#include <QHBoxLayout>
 #include <QMenu>
 #include <QSettings>
 #include <QSplitter>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <string_view>
 
 namespace {
 
 constexpr const char* detailsKey = "window/details";
 constexpr const char* splitterKey = "window/logSplitter";
-constexpr int errorLevel = 0;
-constexpr int warningLevel = 1;
+constexpr std::string_view errorLevel = "0";
+constexpr std::string_view warningLevel = "1";
+constexpr int longestTip = 160; ///< characters of a trace
 
 } // namespace
 
@@ -32,14 +36,8 @@ LogView::LogView(const CodePage& codePage, QSettings& settings, QWidget* parent)
     filterBar_ = new FilterBar(this);
     findBar_ = new FindBar(this);
     splitter_ = new QSplitter(Qt::Vertical, this);
-    table_ = new ListTable(model_, settings_, splitter_);
-    table_->setFont(theme::traceFont());
-    table_->setAccessibleName(tr("Log lines"));
-    table_->setContextMenuPolicy(Qt::CustomContextMenu);
-    delegate_ = new LogDelegate(table_);
-    table_->setItemDelegate(delegate_);
+    makeLines();
     details_ = new DetailsPane(splitter_);
-    splitter_->addWidget(table_);
     splitter_->addWidget(details_);
     splitter_->setStretchFactor(0, 4);
     splitter_->setStretchFactor(1, 1);
@@ -56,7 +54,31 @@ LogView::LogView(const CodePage& codePage, QSettings& settings, QWidget* parent)
     column->addWidget(findBar_);
     filterBar_->hide();
     findBar_->hide();
+    connectParts();
+}
 
+/// The table, with its overview beside it.
+void LogView::makeLines()
+{
+    table_ = new ListTable(model_, settings_, splitter_);
+    table_->setFont(theme::traceFont());
+    table_->setAccessibleName(tr("Log lines"));
+    table_->setContextMenuPolicy(Qt::CustomContextMenu);
+    delegate_ = new LogDelegate(table_);
+    table_->setItemDelegate(delegate_);
+    auto* lines = new QWidget(splitter_);
+    auto* row = new QHBoxLayout(lines);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    overview_ = new OverviewStrip(*table_, lines);
+    overview_->describe = [this](int at) { return describeRow(at); };
+    row->addWidget(table_, 1);
+    row->addWidget(overview_);
+    splitter_->addWidget(lines);
+}
+
+void LogView::connectParts()
+{
     model_.decoration = [this](int row, int at, int role) { return decoration(row, at, role); };
     connect(&model_, &ListModel::rowsChanged, this, &LogView::rowsChanged);
     connect(splitter_, &QSplitter::splitterMoved, this,
@@ -66,18 +88,14 @@ LogView::LogView(const CodePage& codePage, QSettings& settings, QWidget* parent)
         showHitCount();
     });
     connect(table_, &QWidget::customContextMenuRequested, this, &LogView::offerRowMenu);
+    connect(overview_, &OverviewStrip::rowAsked, table_, &ListTable::goTo);
     connect(filterBar_, &FilterBar::changed, this, &LogView::filterChanged);
     connect(filterBar_, &FilterBar::closed, this, [this] {
         filterBar_->hide();
         showAll();
         table_->setFocus();
     });
-    connect(findBar_, &FindBar::closed, this, [this] {
-        findBar_->hide();
-        delegate_->mark({});
-        table_->viewport()->update();
-        table_->setFocus();
-    });
+    connect(findBar_, &FindBar::closed, this, &LogView::endFind);
     connect(findBar_, &FindBar::textChanged, this, [this](const QString& text) {
         delegate_->mark(text);
         findHits();
@@ -104,6 +122,7 @@ void LogView::show(ListView& list, const QString& log)
         return lineOfRow(row) == line ? model_.text(row, columns_.timeStamp) : QString();
     };
     bookmarks_.emplace(settings_, log, timeOfLine);
+    showBookmarks();
     if (model_.rowCount() > 0) table_->setCurrentIndex(model_.index(0, 0));
     details_->show(model_, table_->currentIndex().row());
 }
@@ -129,16 +148,42 @@ QVariant LogView::decoration(int row, int column, int role) const
     }
     const bool level = role == Qt::DecorationRole && column == columns_.level;
     if (role != Qt::BackgroundRole && !level) return {};
-    // A line that could not be read has no component, and its level means nothing.
-    if (model_.bytes(row, columns_.component).empty()) return {};
-    const QString text = model_.text(row, columns_.level);
-    if (text == QString::number(errorLevel))
+    switch (severityOfRow(row)) {
+    case Severity::error:
         return level ? QVariant(toolIcon(QStringLiteral("level-error")))
                      : QVariant(theme::errorTint(palette()));
-    if (text == QString::number(warningLevel))
+    case Severity::warning:
         return level ? QVariant(toolIcon(QStringLiteral("level-warning")))
                      : QVariant(theme::warningTint(palette()));
+    case Severity::none:
+        break;
+    }
     return {};
+}
+
+LogView::Severity LogView::severityOfRow(int row) const
+{
+    // A line that could not be read has no component, and its level means nothing.
+    if (model_.bytes(row, columns_.component).empty()) return Severity::none;
+    const std::string_view level = model_.bytes(row, columns_.level);
+    if (level == errorLevel) return Severity::error;
+    return level == warningLevel ? Severity::warning : Severity::none;
+}
+
+QString LogView::describeRow(int row) const
+{
+    const QString trace = model_.text(row, columns_.trace).trimmed();
+    const std::vector<int>& found = overview_->rows(OverviewMark::hit);
+    QString kind;
+    if (bookmarks_ && bookmarks_->has(lineOfRow(row)))
+        kind = tr("Marked line %1: %2");
+    else if (std::binary_search(found.begin(), found.end(), row))
+        kind = tr("Hit in line %1: %2");
+    else if (severityOfRow(row) == Severity::error)
+        kind = tr("Error in line %1: %2");
+    else
+        kind = tr("Warning in line %1: %2");
+    return kind.arg(QString::number(lineOfRow(row)), trace.left(longestTip));
 }
 
 void LogView::startFind()
@@ -146,6 +191,15 @@ void LogView::startFind()
     findBar_->startFind();
     delegate_->mark(findBar_->text());
     findHits();
+}
+
+void LogView::endFind()
+{
+    findBar_->hide();
+    delegate_->mark({});
+    overview_->setRows(OverviewMark::hit, {});
+    table_->viewport()->update();
+    table_->setFocus();
 }
 
 void LogView::startGoToTime()
@@ -160,6 +214,7 @@ void LogView::findHits()
     if (model_.list() && !matcher.empty())
         for (int row = 0; row < model_.rowCount(); ++row)
             if (rowHolds(*model_.list(), model_.placeOfRow(row), matcher)) hits_.push_back(row);
+    overview_->setRows(OverviewMark::hit, findBar_->isVisibleTo(this) ? hits_ : std::vector<int>());
     showHitCount();
 }
 
@@ -237,7 +292,27 @@ void LogView::filterChanged()
 void LogView::rowsChanged()
 {
     filterBar_->showCounts(model_.rowCount(), model_.list() ? model_.list()->itemCount() : 0);
+    std::vector<int> errors;
+    std::vector<int> warnings;
+    for (int row = 0; row < model_.rowCount(); ++row) {
+        const Severity severity = severityOfRow(row);
+        if (severity == Severity::error) errors.push_back(row);
+        if (severity == Severity::warning) warnings.push_back(row);
+    }
+    overview_->setRowCount(model_.rowCount());
+    overview_->setRows(OverviewMark::error, std::move(errors));
+    overview_->setRows(OverviewMark::warning, std::move(warnings));
+    showBookmarks();
     findHits();
+}
+
+void LogView::showBookmarks()
+{
+    std::vector<int> marked;
+    if (bookmarks_ && bookmarks_->count() > 0)
+        for (int row = 0; row < model_.rowCount(); ++row)
+            if (bookmarks_->has(lineOfRow(row))) marked.push_back(row);
+    overview_->setRows(OverviewMark::bookmark, std::move(marked));
 }
 
 void LogView::toggleBookmark()
@@ -246,6 +321,7 @@ void LogView::toggleBookmark()
     if (!bookmarks_ || row < 0) return;
     const int line = lineOfRow(row);
     bookmarks_->toggle(line, model_.text(row, columns_.timeStamp));
+    showBookmarks();
     table_->viewport()->update();
     emit said(bookmarks_->has(line) ? tr("Line %1 is marked.").arg(line)
                                     : tr("Line %1 is not marked any more.").arg(line));
@@ -268,6 +344,7 @@ void LogView::clearBookmarks()
 {
     if (!bookmarks_) return;
     bookmarks_->clear();
+    showBookmarks();
     table_->viewport()->update();
     emit said(tr("No line of this log is marked any more."));
 }

@@ -14,6 +14,7 @@ class FilterBar;
 class FindBar;
 class ListTable;
 class LogDelegate;
+class OverviewStrip;
 class QSettings;
 class QSplitter;
 
@@ -33,6 +34,7 @@ public:
     ListTable& table() { return *table_; }
     FindBar& findBar() { return *findBar_; }
     FilterBar& filterBar() { return *filterBar_; }
+    OverviewStrip& overview() { return *overview_; }
 
     void startFind();
     void findNext() { findFrom(1); }
@@ -59,10 +61,18 @@ signals:
     void said(const QString& sentence);
 
 private:
+    enum class Severity { none, warning, error };
+
+    void makeLines();
+    void connectParts();
+    Severity severityOfRow(int row) const;
     QVariant decoration(int row, int column, int role) const;
     int lineOfRow(int row) const;
+    void endFind();
     void filterChanged();
     void rowsChanged();
+    void showBookmarks();
+    QString describeRow(int row) const;
     void findHits();
     void findFrom(int direction);
     void showHitCount();
@@ -77,6 +87,7 @@ private:
     std::vector<int> hits_; ///< rows with the text that is looked for, from the top
     ListTable* table_ = nullptr;
     LogDelegate* delegate_ = nullptr;
+    OverviewStrip* overview_ = nullptr;
     FindBar* findBar_ = nullptr;
     FilterBar* filterBar_ = nullptr;
     DetailsPane* details_ = nullptr;

@@ -106,6 +106,21 @@ QColor noticeTint(const QPalette& palette)
     return byTheme(palette, QColor(0xfff1cc), QColor(0x4a3d1c));
 }
 
+QColor errorMark(const QPalette& palette)
+{
+    return byTheme(palette, QColor(0xc4302b), QColor(0xf0807a));
+}
+
+QColor warningMark(const QPalette& palette)
+{
+    return byTheme(palette, QColor(0xb87400), QColor(0xdfae4d));
+}
+
+QColor hitMark(const QPalette& palette)
+{
+    return byTheme(palette, QColor(0x7446ad), QColor(0xbb9bee));
+}
+
 QColor outline(const QPalette& palette)
 {
     return byTheme(palette, QColor(0xd4dae0), QColor(0x3c444d));

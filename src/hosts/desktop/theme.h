@@ -27,6 +27,11 @@ QColor warningTint(const QPalette& palette);
 QColor hitTint(const QPalette& palette);
 QColor noticeTint(const QPalette& palette);
 
+/// The marks of a log's overview: rows of an error, of a warning, and with the text looked for.
+QColor errorMark(const QPalette& palette);
+QColor warningMark(const QPalette& palette);
+QColor hitMark(const QPalette& palette);
+
 /// A thin line, and text of less weight.
 QColor outline(const QPalette& palette);
 QColor quietText(const QPalette& palette);
