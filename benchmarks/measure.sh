@@ -27,6 +27,18 @@ compare() {
     done
 }
 
+# microseconds COMMAND...: like milliseconds, by the shell's own clock, for what takes few of them
+microseconds() {
+    begin=$(date +%s%N)
+    "$@" >/dev/null 2>&1
+    echo $((($(date +%s%N) - begin) / 1000))
+}
+
+# median FILE: the one in the middle of numbers, a line each
+median() {
+    sort -n "$1" | awk '{ all[NR] = $1 } END { print all[int((NR + 1) / 2)] }'
+}
+
 # peakKilobytes COMMAND...: the largest resident size of one run
 peakKilobytes() {
     /usr/bin/time -o "$work/peak" -f %M "$@" >/dev/null 2>&1
@@ -41,4 +53,15 @@ ratio() {
 # sampleLog SITE: the path of the log that KoCSMgr writes on a sample server
 sampleLog() {
     ls "$1"/drive_c/KelmaOrvan/Logs/diag_KoCSMgr_*.txt | tail -n 1
+}
+
+# goal NAME RATIO MOST: says whether a ratio is at most what it should be, for the reader and, as a
+# line of the table of benchmarks/run, in the file $ORVAN_RESULTS. Ends with 1 when it is not.
+goal() {
+    if awk -v ratio="$2" -v most="$3" 'BEGIN { exit !(ratio <= most) }'; then verdict=met; else verdict=MISSED; fi
+    if [ -n "${ORVAN_RESULTS:-}" ]; then
+        printf '%s\t%s\t%s\t%s\n' "$1" "$2" "$3" $verdict >>"$ORVAN_RESULTS"
+    fi
+    echo "goal       $1: $2, at most $3, $verdict"
+    [ $verdict = met ]
 }

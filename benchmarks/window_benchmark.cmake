@@ -1,0 +1,11 @@
+# What window_benchmark.sh measures: the console's window, an empty one, and how long each takes.
+if(NOT TARGET orvan_desktop)
+  return()
+endif()
+find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
+add_executable(console_window console_window.cpp page_through.cpp)
+target_link_libraries(console_window PRIVATE orvan_desktop)
+add_executable(empty_window empty_window.cpp)
+target_link_libraries(empty_window PRIVATE orvan_options Qt6::Widgets)
+add_executable(first_output first_output.cpp)
+target_link_libraries(first_output PRIVATE orvan_options)
