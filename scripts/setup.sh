@@ -3,7 +3,8 @@
 # Packages for building and running; the tests need some readers more.
 build_packages=(
   ccache cmake g++ libbenchmark-dev libcli11-dev libgmock-dev libgtest-dev libpugixml-dev
-  qt6-svg-dev libsqlite3-dev ninja-build nlohmann-json3-dev qt6-base-dev zlib1g-dev
+  libsqlite3-dev ninja-build nlohmann-json3-dev qt6-base-dev qt6-l10n-tools qt6-svg-dev
+  qt6-translations-l10n zlib1g-dev
 )
 test_packages=(
   cabextract clang clang-format gcab libclang-rt-14-dev librapidcheck-dev mawk mdbtools p7zip-full

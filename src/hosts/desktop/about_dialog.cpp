@@ -105,6 +105,7 @@ void AboutDialog::showForm()
         unsetCursor();
     for (const auto& view : views_)
         if (!view->captions().isEmpty()) view->showCaptions(view->captions());
+    emit formShown();
     if (!about_.visible()) QDialog::accept();
 }
 

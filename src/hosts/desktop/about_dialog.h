@@ -20,6 +20,10 @@ public:
 
     void reject() override;
 
+signals:
+    /// The form shows other texts, perhaps in another language.
+    void formShown();
+
 private:
     QWidget* textColumn();
     void popUpLanguages();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QKeySequence>
 #include <QString>
 
@@ -40,18 +41,32 @@ enum class Command {
 
 enum class CommandMenu { file, action, edit, view, theme, help };
 
+struct MenuInfo {
+    CommandMenu menu;
+    const char* title; ///< with its mnemonic; translated where it is shown
+};
+
 struct CommandInfo {
     Command command;
     CommandMenu menu;
-    const char* text;       ///< with its mnemonic; translated where it is shown
+    const char* text;       ///< like a menu's title
     const char* statusText; ///< for the status bar
     const char* key;        ///< in the portable form, such as "Ctrl+F"
     const char* icon;       ///< empty for none
     bool startsGroup;       ///< a line stands before it in its menu
 };
 
-/// In the order of the menus.
-const std::vector<CommandInfo>& commandInfos();
+/// The tables of the menus. `Commands::tr` gives their texts in the interface language.
+class Commands {
+    Q_DECLARE_TR_FUNCTIONS(Commands)
+
+public:
+    /// In the order of the menu bar; the theme's is a menu of the view's.
+    static const std::vector<MenuInfo>& menus();
+
+    /// In the order of the menus.
+    static const std::vector<CommandInfo>& all();
+};
 
 /// The key of a menu item that the tool declares, by its name; empty for one without.
 QKeySequence keyOfConsoleItem(const std::string& name);

@@ -1,5 +1,6 @@
 #include "hosts/desktop/console_pane.h"
 
+#include "hosts/desktop/interface_language.h"
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_view.h"
 #include "hosts/desktop/roomy_delegate.h"
@@ -66,6 +67,11 @@ ConsolePane::ConsolePane(Console& console, const CodePage& codePage, const QStri
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(splitter_);
     console_.addObserver(*this);
+    showInLanguage(this, [this] {
+        tree_->setAccessibleName(tr("Server tree"));
+        children_->setAccessibleName(tr("Processes"));
+        list_->setAccessibleName(tr("Log files"));
+    });
 }
 
 ConsolePane::~ConsolePane()
@@ -84,7 +90,6 @@ void ConsolePane::makeTree()
     tree_->setUniformRowHeights(true);
     tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     tree_->setContextMenuPolicy(Qt::CustomContextMenu);
-    tree_->setAccessibleName(tr("Server tree"));
     tree_->setMinimumWidth(160);
     tree_->setTextElideMode(Qt::ElideMiddle);
     connect(tree_->selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -116,9 +121,7 @@ void ConsolePane::makeViews()
     children_->setItemsExpandable(false);
     children_->setHeaderHidden(true);
     children_->setUniformRowHeights(true);
-    children_->setAccessibleName(tr("Processes"));
     list_ = new ListTable(listModel_, settings_, views_);
-    list_->setAccessibleName(tr("Log files"));
     for (QWidget* view :
          std::initializer_list<QWidget*>{nothing_, taskPad_, children_, list_, log_})
         views_->addWidget(view);
@@ -274,6 +277,8 @@ void ConsolePane::sheetShown(OpenSheet& sheet)
 
 void ConsolePane::handlerFailed(const RunTimeError& error)
 {
-    emit failed(tr("That did not work: %1. Press F5 to renew what is shown, and try again.")
-                    .arg(QString::fromStdString(error.description())));
+    emit failed([why = QString::fromStdString(error.description())] {
+        return tr("That did not work: %1. Press F5 to renew what is shown, and try again.")
+            .arg(why);
+    });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hosts/desktop/interface_language.h"
 #include "hosts/desktop/list_model.h"
 #include "hosts/desktop/quiet_observer.h"
 #include "platform/code_page.h"
@@ -63,7 +64,7 @@ signals:
     /// The tool's text for the status bar; to be painted at once.
     void statusText(const QString& text);
     void said(const QString& sentence);
-    void failed(const QString& sentence);
+    void failed(const Sentence& sentence);
     void viewChanged();
     void callDone();
     void treeMenuAsked(const QPoint& globalPlace);

@@ -93,7 +93,7 @@ std::string DesktopServices::pickFile(const std::string& title)
     const ArrowPointer arrow;
     return named(QFileDialog::getOpenFileName(
         owner(), QString::fromStdString(title), {},
-        QFileDialog::tr("Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)")));
+        QObject::tr("Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)")));
 }
 
 void DesktopServices::pumpMessages()

@@ -1,5 +1,6 @@
 #include "hosts/desktop/details_pane.h"
 
+#include "hosts/desktop/interface_language.h"
 #include "hosts/desktop/list_model.h"
 #include "hosts/desktop/log_columns.h"
 #include "hosts/desktop/theme.h"
@@ -14,16 +15,18 @@ DetailsPane::DetailsPane(QWidget* parent)
 {
     fields_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     fields_->setWordWrap(true);
-    fields_->setAccessibleName(tr("Fields of the line"));
     trace_->setReadOnly(true);
     trace_->setFont(theme::traceFont());
-    trace_->setAccessibleName(tr("Trace of the line"));
     trace_->setTabChangesFocus(true);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(8, 6, 8, 8);
     column->setSpacing(6);
     column->addWidget(fields_);
     column->addWidget(trace_, 1);
+    showInLanguage(this, [this] {
+        fields_->setAccessibleName(tr("Fields of the line"));
+        trace_->setAccessibleName(tr("Trace of the line"));
+    });
 }
 
 void DetailsPane::show(const ListModel& rows, int row)

@@ -19,8 +19,8 @@ constexpr int typingPause = 120; ///< milliseconds
 }
 
 FilterBar::FilterBar(QWidget* parent)
-    : QWidget(parent), text_(new QLineEdit(this)),
-      excludeText_(new QCheckBox(tr("hide matc&hes"), this)), counts_(new QLabel(this))
+    : QWidget(parent), text_(new QLineEdit(this)), excludeText_(new QCheckBox(this)),
+      counts_(new QLabel(this))
 {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(6, 4, 6, 4);
@@ -29,26 +29,30 @@ FilterBar::FilterBar(QWidget* parent)
         row->addWidget(button);
         connect(button, &FilterButton::changed, this, &FilterBar::changed);
     }
-    text_->setPlaceholderText(tr("Only rows with this text"));
     text_->setClearButtonEnabled(true);
-    text_->setAccessibleName(tr("Filter by text"));
-    excludeText_->setToolTip(tr("Hide the rows with the text instead of showing them"));
     row->addWidget(text_, 1);
     row->addWidget(excludeText_);
     row->addWidget(counts_);
     auto* all = new QToolButton(this);
-    all->setText(tr("Show all"));
-    all->setToolTip(tr("Show every row again (Ctrl+Shift+A)"));
     all->setAutoRaise(true);
     all->setFocusPolicy(Qt::TabFocus);
     row->addWidget(all);
     auto* close = new QToolButton(this);
     close->setIcon(toolIcon(QStringLiteral("close")));
-    close->setToolTip(tr("Close the filter bar and show every row (Esc)"));
-    close->setAccessibleName(close->toolTip());
     close->setAutoRaise(true);
     close->setFocusPolicy(Qt::TabFocus);
     row->addWidget(close);
+    showInLanguage(this, [this, all, close] {
+        text_->setPlaceholderText(tr("Only rows with this text"));
+        text_->setAccessibleName(tr("Filter by text"));
+        excludeText_->setText(tr("hide &matches"));
+        excludeText_->setToolTip(tr("Hide the rows with the text instead of showing them"));
+        all->setText(tr("Show all"));
+        all->setToolTip(tr("Show every row again (Ctrl+Shift+A)"));
+        close->setToolTip(tr("Close the filter bar and show every row (Esc)"));
+        close->setAccessibleName(close->toolTip());
+        if (counted_) counts_->setText(counted_());
+    });
 
     typing_.setSingleShot(true);
     typing_.setInterval(typingPause);
@@ -125,10 +129,12 @@ void FilterBar::startText()
 
 void FilterBar::showCounts(int shown, int all)
 {
-    const QLocale locale;
-    counts_->setText(shown == all
-                         ? tr("%1 rows").arg(locale.toString(all))
-                         : tr("%1 of %2 rows").arg(locale.toString(shown), locale.toString(all)));
+    counted_ = [shown, all] {
+        const QLocale locale;
+        if (shown == all) return tr("%1 rows").arg(locale.toString(all));
+        return tr("%1 of %2 rows").arg(locale.toString(shown), locale.toString(all));
+    };
+    counts_->setText(counted_());
 }
 
 void FilterBar::keyPressEvent(QKeyEvent* event)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hosts/desktop/interface_language.h"
 #include "hosts/desktop/log_filter.h"
 #include "hosts/desktop/text_decoder.h"
 
@@ -51,5 +52,6 @@ private:
     QLineEdit* text_ = nullptr;
     QCheckBox* excludeText_ = nullptr;
     QLabel* counts_ = nullptr;
+    Sentence counted_;
     QTimer typing_; ///< runs while the person types on
 };

@@ -1,5 +1,6 @@
 #include "hosts/desktop/filter_button.h"
 
+#include "hosts/desktop/interface_language.h"
 #include "hosts/desktop/roomy_delegate.h"
 
 #include <QCheckBox>
@@ -12,6 +13,17 @@
 
 #include <algorithm>
 
+namespace {
+
+/// The value that a row of the list stands for, as a person reads it.
+QString shownValue(const QListWidgetItem& item)
+{
+    const QString value = item.data(Qt::UserRole).toString();
+    return value.isEmpty() ? FilterButton::tr("(none)") : value;
+}
+
+} // namespace
+
 FilterButton::FilterButton(QWidget* parent) : QToolButton(parent)
 {
     setPopupMode(InstantPopup);
@@ -22,8 +34,8 @@ FilterButton::FilterButton(QWidget* parent) : QToolButton(parent)
     auto* panel = new QWidget(menu);
     list_ = new QListWidget(panel);
     list_->setItemDelegate(new RoomyDelegate(list_));
-    exclude_ = new QCheckBox(tr("&Hide the ticked ones"), panel);
-    auto* clear = new QPushButton(tr("&Untick all"), panel);
+    exclude_ = new QCheckBox(panel);
+    auto* clear = new QPushButton(panel);
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(8, 8, 8, 8);
     column->addWidget(list_);
@@ -49,6 +61,12 @@ FilterButton::FilterButton(QWidget* parent) : QToolButton(parent)
         reset();
         emit changed();
     });
+    showInLanguage(this, [this, clear] {
+        exclude_->setText(tr("&Hide the ticked ones"));
+        clear->setText(tr("&Untick all"));
+        showValues();
+        updateText();
+    });
 }
 
 void FilterButton::offer(const QString& title, int column, const std::vector<ColumnValue>& values,
@@ -57,21 +75,31 @@ void FilterButton::offer(const QString& title, int column, const std::vector<Col
     filling_ = true;
     title_ = title;
     column_ = column;
-    values_.clear();
+    values_ = values;
     list_->clear();
     list_->setAccessibleName(title);
     for (const auto& value : values) {
-        values_.push_back(value.text);
-        const QString text = value.text.empty() ? tr("(none)") : decoder.text(value.text);
-        auto* item =
-            new QListWidgetItem(tr("%1   (%2)").arg(text, QLocale().toString(value.rows)), list_);
-        item->setData(Qt::UserRole, text);
+        auto* item = new QListWidgetItem(list_);
+        item->setData(Qt::UserRole, decoder.text(value.text));
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Unchecked);
     }
     exclude_->setChecked(false);
     filling_ = false;
+    showValues();
     updateText();
+}
+
+void FilterButton::showValues()
+{
+    filling_ = true;
+    for (int row = 0; row < list_->count(); ++row) {
+        QListWidgetItem* item = list_->item(row);
+        item->setText(QStringLiteral("%1   (%2)")
+                          .arg(shownValue(*item),
+                               QLocale().toString(values_[static_cast<std::size_t>(row)].rows)));
+    }
+    filling_ = false;
 }
 
 ColumnCondition FilterButton::condition() const
@@ -79,13 +107,14 @@ ColumnCondition FilterButton::condition() const
     ColumnCondition condition{column_, {}, exclude_->isChecked()};
     for (int row = 0; row < list_->count(); ++row)
         if (list_->item(row)->checkState() == Qt::Checked)
-            condition.values.push_back(values_[static_cast<std::size_t>(row)]);
+            condition.values.push_back(values_[static_cast<std::size_t>(row)].text);
     return condition;
 }
 
 void FilterButton::tick(const std::string& value, bool exclude)
 {
-    const auto found = std::find(values_.begin(), values_.end(), value);
+    const auto found = std::find_if(values_.begin(), values_.end(),
+                                    [&](const auto& offered) { return offered.text == value; });
     if (found == values_.end()) return;
     const bool turns = exclude != exclude_->isChecked();
     if (turns) reset();
@@ -110,8 +139,7 @@ void FilterButton::updateText()
 {
     QStringList ticked;
     for (int row = 0; row < list_->count(); ++row)
-        if (list_->item(row)->checkState() == Qt::Checked)
-            ticked << list_->item(row)->data(Qt::UserRole).toString();
+        if (list_->item(row)->checkState() == Qt::Checked) ticked << shownValue(*list_->item(row));
     QString shown = tr("all");
     if (ticked.size() == 1) shown = ticked.front();
     if (ticked.size() > 1) shown = tr("%1 and %2 more").arg(ticked.front()).arg(ticked.size() - 1);

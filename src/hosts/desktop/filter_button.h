@@ -33,10 +33,11 @@ signals:
 
 private:
     void updateText();
+    void showValues();
 
     QString title_;
     int column_ = 0;
-    std::vector<std::string> values_;
+    std::vector<ColumnValue> values_; ///< of the list, in its order
     QListWidget* list_ = nullptr;
     QCheckBox* exclude_ = nullptr;
     bool filling_ = false;

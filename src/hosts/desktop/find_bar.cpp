@@ -11,15 +11,19 @@
 
 namespace {
 
-QToolButton* button(QWidget* parent, const char* icon, const QString& text)
+QToolButton* button(QWidget* parent, const char* icon)
 {
     auto* made = new QToolButton(parent);
     made->setIcon(toolIcon(QString::fromLatin1(icon)));
     made->setAutoRaise(true);
-    made->setToolTip(text);
-    made->setAccessibleName(text);
     made->setFocusPolicy(Qt::TabFocus);
     return made;
+}
+
+void name(QToolButton* button, const QString& text)
+{
+    button->setToolTip(text);
+    button->setAccessibleName(text);
 }
 
 } // namespace
@@ -28,21 +32,29 @@ FindBar::FindBar(QWidget* parent)
     : QWidget(parent), text_(new QLineEdit(this)), time_(new QLineEdit(this)),
       count_(new QLabel(this))
 {
-    auto* findLabel = new QLabel(tr("&Find:"), this);
+    auto* findLabel = new QLabel(this);
     findLabel->setBuddy(text_);
-    auto* timeLabel = new QLabel(tr("Go to &time:"), this);
+    auto* timeLabel = new QLabel(this);
     timeLabel->setBuddy(time_);
-    text_->setPlaceholderText(tr("Text in any column"));
     text_->setClearButtonEnabled(true);
-    text_->setAccessibleName(tr("Text to find"));
-    time_->setPlaceholderText(tr("such as 15:23:07"));
-    time_->setAccessibleName(tr("Time to go to"));
     time_->setMaximumWidth(fontMetrics().averageCharWidth() * 22);
     count_->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
-    count_->setAccessibleName(tr("Hits"));
-    auto* previousButton = button(this, "previous", tr("Find previous (Shift+F3)"));
-    auto* nextButton = button(this, "next", tr("Find next (F3)"));
-    auto* closeButton = button(this, "close", tr("Close the find bar (Esc)"));
+    auto* previousButton = button(this, "previous");
+    auto* nextButton = button(this, "next");
+    auto* closeButton = button(this, "close");
+    showInLanguage(this, [=, this] {
+        findLabel->setText(tr("Fi&nd:"));
+        timeLabel->setText(tr("Go to &time:"));
+        text_->setPlaceholderText(tr("Text in any column"));
+        text_->setAccessibleName(tr("Text to find"));
+        time_->setPlaceholderText(tr("such as 15:23:07"));
+        time_->setAccessibleName(tr("Time to go to"));
+        count_->setAccessibleName(tr("Hits"));
+        name(previousButton, tr("Find previous (Shift+F3)"));
+        name(nextButton, tr("Find next (F3)"));
+        name(closeButton, tr("Close the find bar (Esc)"));
+        if (counted_) count_->setText(counted_());
+    });
 
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(6, 4, 6, 4);
@@ -84,17 +96,20 @@ QString FindBar::text() const
 
 void FindBar::showHits(int current, int count)
 {
-    if (text_->text().isEmpty()) return count_->clear();
-    const QLocale locale;
-    if (count == 0) return count_->setText(tr("No hits"));
-    count_->setText(current > 0
-                        ? tr("%1 of %2").arg(locale.toString(current), locale.toString(count))
-                        : tr("%1 hits").arg(locale.toString(count)));
+    const bool asked = !text_->text().isEmpty();
+    say([asked, current, count] {
+        if (!asked) return QString();
+        const QLocale locale;
+        if (count == 0) return tr("No hits");
+        return current > 0 ? tr("%1 of %2").arg(locale.toString(current), locale.toString(count))
+                           : tr("%1 hits").arg(locale.toString(count));
+    });
 }
 
-void FindBar::say(const QString& sentence)
+void FindBar::say(Sentence sentence)
 {
-    count_->setText(sentence);
+    counted_ = std::move(sentence);
+    count_->setText(counted_());
 }
 
 void FindBar::keyPressEvent(QKeyEvent* event)

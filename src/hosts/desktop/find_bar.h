@@ -1,5 +1,7 @@
 #pragma once
 
+#include "hosts/desktop/interface_language.h"
+
 #include <QWidget>
 
 class QLabel;
@@ -22,7 +24,7 @@ public:
     void showHits(int current, int count);
 
     /// Says a sentence in the place of the count.
-    void say(const QString& sentence);
+    void say(Sentence sentence);
 
 signals:
     void textChanged(const QString& text);
@@ -38,4 +40,5 @@ private:
     QLineEdit* text_ = nullptr;
     QLineEdit* time_ = nullptr;
     QLabel* count_ = nullptr;
+    Sentence counted_; ///< what stands in the place of the count
 };

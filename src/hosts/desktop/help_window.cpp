@@ -1,6 +1,7 @@
 #include "hosts/desktop/help_window.h"
 
 #include "hosts/desktop/icons.h"
+#include "hosts/desktop/interface_language.h"
 
 #include <QAction>
 #include <QFile>
@@ -26,42 +27,51 @@ QString pageOf(const QString& folder, int topic)
     return first;
 }
 
+void name(QAction* action, const QString& text)
+{
+    action->setText(text);
+    action->setToolTip(
+        QStringLiteral("%1 (%2)").arg(text, action->shortcut().toString(QKeySequence::NativeText)));
+}
+
 } // namespace
 
 HelpWindow::HelpWindow(QWidget* parent)
     : QMainWindow(parent, Qt::Window), pages_(new QTextBrowser(this))
 {
-    setWindowTitle(tr("Help - Orvan Diagnostic Tool"));
     setWindowIcon(toolIcon(QStringLiteral("console")));
     pages_->setOpenExternalLinks(false);
-    pages_->setAccessibleName(tr("Manual"));
     pages_->document()->setDocumentMargin(24);
     setCentralWidget(pages_);
 
-    auto* bar = addToolBar(tr("Help"));
+    auto* bar = addToolBar(QString());
     bar->setMovable(false);
-    const auto add = [&](const char* icon, const QString& text, const QKeySequence& key,
-                         auto slot) {
-        auto* action = bar->addAction(toolIcon(QString::fromLatin1(icon)), text, pages_, slot);
+    const auto add = [&](const char* icon, const QKeySequence& key, auto slot) {
+        auto* action = bar->addAction(toolIcon(QString::fromLatin1(icon)), QString(), pages_, slot);
         action->setShortcut(key);
-        action->setToolTip(text +
-                           QStringLiteral(" (%1)").arg(key.toString(QKeySequence::NativeText)));
         return action;
     };
-    auto* back =
-        add("back", tr("Back"), QKeySequence(Qt::ALT | Qt::Key_Left), &QTextBrowser::backward);
-    auto* forward = add("forward", tr("Forward"), QKeySequence(Qt::ALT | Qt::Key_Right),
-                        &QTextBrowser::forward);
-    add("console", tr("Contents"), QKeySequence(Qt::ALT | Qt::Key_Home), &QTextBrowser::home);
+    auto* back = add("back", QKeySequence(Qt::ALT | Qt::Key_Left), &QTextBrowser::backward);
+    auto* forward = add("forward", QKeySequence(Qt::ALT | Qt::Key_Right), &QTextBrowser::forward);
+    auto* contents = add("console", QKeySequence(Qt::ALT | Qt::Key_Home), &QTextBrowser::home);
     back->setEnabled(false);
     forward->setEnabled(false);
     connect(pages_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
     connect(pages_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
-    auto* close = new QAction(tr("Close"), this);
+    auto* close = new QAction(this);
     close->setShortcut(Qt::Key_Escape);
     connect(close, &QAction::triggered, this, &QWidget::close);
     addAction(close);
     resize(860, 680);
+    showInLanguage(this, [=, this] {
+        setWindowTitle(tr("Help - Orvan Diagnostic Tool"));
+        pages_->setAccessibleName(tr("Manual"));
+        bar->setWindowTitle(tr("Help"));
+        name(back, tr("Back"));
+        name(forward, tr("Forward"));
+        name(contents, tr("Contents"));
+        close->setText(tr("Close"));
+    });
 }
 
 bool HelpWindow::open(const QString& folder, int topic)

@@ -1,5 +1,6 @@
 #include "hosts/desktop/key_list.h"
 
+#include "hosts/desktop/mnemonics.h"
 #include "hosts/desktop/roomy_delegate.h"
 
 #include <QAction>
@@ -13,11 +14,6 @@
 
 namespace {
 
-QString plain(QString text)
-{
-    return text.remove(QLatin1Char('&'));
-}
-
 void addMenu(QTreeWidget& list, const QString& title, const QMenu& menu)
 {
     auto* group = new QTreeWidgetItem(&list, {title});
@@ -30,13 +26,14 @@ void addMenu(QTreeWidget& list, const QString& title, const QMenu& menu)
         if (action->menu()) {
             for (const QAction* inner : action->menu()->actions())
                 if (!inner->shortcut().isEmpty())
-                    new QTreeWidgetItem(
-                        group,
-                        {plain(action->text()) + QStringLiteral(": ") + plain(inner->text()),
-                         inner->shortcut().toString(QKeySequence::NativeText), inner->statusTip()});
+                    new QTreeWidgetItem(group,
+                                        {withoutMnemonic(action->text()) + QStringLiteral(": ") +
+                                             withoutMnemonic(inner->text()),
+                                         inner->shortcut().toString(QKeySequence::NativeText),
+                                         inner->statusTip()});
             continue;
         }
-        new QTreeWidgetItem(group, {plain(action->text()),
+        new QTreeWidgetItem(group, {withoutMnemonic(action->text()),
                                     action->shortcut().toString(QKeySequence::NativeText),
                                     action->statusTip()});
     }
@@ -54,7 +51,7 @@ KeyList::KeyList(QMainWindow& window, QWidget* parent) : QDialog(parent)
     list->setItemDelegate(new RoomyDelegate(list));
     list->setSelectionMode(QAbstractItemView::SingleSelection);
     for (const QAction* menu : window.menuBar()->actions())
-        if (menu->menu()) addMenu(*list, plain(menu->text()), *menu->menu());
+        if (menu->menu()) addMenu(*list, withoutMnemonic(menu->text()), *menu->menu());
     auto* inLists = new QTreeWidgetItem(list, {tr("In lists and pages")});
     const auto add = [&](const QString& what, const QString& key, const QString& does) {
         new QTreeWidgetItem(inLists, {what, key, does});

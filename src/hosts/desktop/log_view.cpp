@@ -4,6 +4,7 @@
 #include "hosts/desktop/filter_bar.h"
 #include "hosts/desktop/find_bar.h"
 #include "hosts/desktop/icons.h"
+#include "hosts/desktop/interface_language.h"
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_delegate.h"
 #include "hosts/desktop/overview_strip.h"
@@ -62,7 +63,6 @@ void LogView::makeLines()
 {
     table_ = new ListTable(model_, settings_, splitter_);
     table_->setFont(theme::traceFont());
-    table_->setAccessibleName(tr("Log lines"));
     table_->setContextMenuPolicy(Qt::CustomContextMenu);
     delegate_ = new LogDelegate(table_);
     table_->setItemDelegate(delegate_);
@@ -107,6 +107,10 @@ void LogView::connectParts()
     connect(findBar_, &FindBar::next, this, &LogView::findNext);
     connect(findBar_, &FindBar::previous, this, &LogView::findPrevious);
     connect(findBar_, &FindBar::timeAsked, this, &LogView::goToTime);
+    showInLanguage(this, [this] {
+        table_->setAccessibleName(tr("Log lines"));
+        details_->show(model_, table_->currentIndex().row());
+    });
 }
 
 void LogView::show(ListView& list, const QString& log)
@@ -251,11 +255,11 @@ void LogView::findFrom(int direction)
 void LogView::goToTime(const QString& time)
 {
     const auto wanted = typedTime(time.toStdString());
-    if (!wanted) return findBar_->say(tr("Type a time such as 15:23"));
+    if (!wanted) return findBar_->say([] { return tr("Type a time such as 15:23"); });
     const int row = rowAtTime(model_, columns_.timeStamp, *wanted, table_->currentIndex().row());
-    if (row < 0) return findBar_->say(tr("No line at %1 or later").arg(time));
+    if (row < 0) return findBar_->say([time] { return tr("No line at %1 or later").arg(time); });
     table_->goTo(row);
-    findBar_->say(tr("Line %1").arg(lineOfRow(row)));
+    findBar_->say([line = lineOfRow(row)] { return tr("Line %1").arg(line); });
 }
 
 void LogView::startFilter()

@@ -45,12 +45,9 @@ MainWindow::MainWindow(QSettings& settings) : settings_(settings)
     auto* body = new QWidget(this);
     notice_ = new NoticeBar(body);
     centre_ = new QStackedWidget(body);
-    auto* empty = new QLabel(
-        tr("No site is open.\n\nOpen one with Ctrl+Shift+O, or make a sample server with "
-           "Ctrl+Shift+N."),
-        centre_);
-    empty->setAlignment(Qt::AlignCenter);
-    centre_->addWidget(empty);
+    empty_ = new QLabel(centre_);
+    empty_->setAlignment(Qt::AlignCenter);
+    centre_->addWidget(empty_);
     auto* column = new QVBoxLayout(body);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -66,7 +63,7 @@ MainWindow::MainWindow(QSettings& settings) : settings_(settings)
     restoreGeometry(settings_.value(geometryKey).toByteArray());
     restoreState(settings_.value(stateKey).toByteArray());
     updateActions();
-    updateTitle();
+    showInLanguage(this, [this] { showTexts(); });
 }
 
 MainWindow::~MainWindow()
@@ -77,7 +74,6 @@ MainWindow::~MainWindow()
 void MainWindow::makeStatusBar()
 {
     status_ = new QLabel(this);
-    status_->setAccessibleName(tr("Status"));
     siteName_ = new QLabel(this);
     siteName_->setForegroundRole(QPalette::PlaceholderText);
     statusBar()->addWidget(status_, 1);
@@ -96,7 +92,6 @@ void MainWindow::setTool(OpenTool* tool)
         const QString site = QString::fromStdString(tool_->site().folder());
         siteName_->setText(
             QString(site).replace(QDir::homePath() + QLatin1Char('/'), QStringLiteral("~/")));
-        siteName_->setToolTip(tr("The site on show: %1").arg(site));
         pane_ =
             new ConsolePane(tool_->console(), tool_->site().codePage(), site, settings_, centre_);
         centre_->addWidget(pane_);
@@ -104,15 +99,18 @@ void MainWindow::setTool(OpenTool* tool)
         connectPane();
         changeTextSize(0);
         pane_->perform([this](Console&) { tool_->load(); });
+        followLanguage();
         rebuildConsoleItems();
         sayLanguage();
         if (!tool_->writable())
-            showProblem(tr("This site is read-only: logs can be read, but traces and settings "
-                           "cannot be changed. Make its folder writable, or open a copy."));
+            showProblem([] {
+                return tr("This site is read-only: logs can be read, but traces and settings "
+                          "cannot be changed. Make its folder writable, or open a copy.");
+            });
         pane_->tree().setFocus();
     }
     updateActions();
-    updateTitle();
+    showTexts();
 }
 
 void MainWindow::connectPane()
@@ -141,27 +139,42 @@ void MainWindow::connectPane()
 void MainWindow::checkSite()
 {
     if (!tool_ || tool_->present()) return;
-    showProblem(tr("The site %1 is no longer there. Put the folder back and press F5, or open "
-                   "another site with Ctrl+Shift+O.")
-                    .arg(QString::fromStdString(tool_->site().folder())));
+    showProblem([site = QString::fromStdString(tool_->site().folder())] {
+        return tr("The site %1 is no longer there. Put the folder back and press F5, or open "
+                  "another site with Ctrl+Shift+O.")
+            .arg(site);
+    });
+}
+
+/// The window speaks as the tool does: in its language, where that has its catalogue.
+void MainWindow::followLanguage()
+{
+    if (!tool_) return;
+    const auto& language = tool_->context().language;
+    language_.choose(language.g_hResourceLibrary != 0 ? language.g_lngCurrentLanguage : 0);
+    notice_->renew();
 }
 
 /// A language other than English without its texts: the tool goes on in English.
 void MainWindow::sayLanguage()
 {
-    constexpr int english = 9; ///< the primary language in the low bits of an identifier
-    constexpr int primaryLanguage = 0x3ff;
-    const auto& language = tool_->context().language;
-    if (language.g_hResourceLibrary != 0 || language.g_lngCurrentLanguage == 0) return;
-    if ((language.g_lngCurrentLanguage & primaryLanguage) == english) return;
-    showProblem(tr("There is no catalogue for your language (%1) beside the tool, so its texts "
-                   "are in English. Choose another language in the about box (Ctrl+F1).")
-                    .arg(language.g_lngCurrentLanguage));
+    showProblem([this] {
+        constexpr int english = 9; ///< the primary language in the low bits of an identifier
+        constexpr int primaryLanguage = 0x3ff;
+        if (!tool_) return QString();
+        const auto& language = tool_->context().language;
+        if (language.g_hResourceLibrary != 0 || language.g_lngCurrentLanguage == 0)
+            return QString();
+        if ((language.g_lngCurrentLanguage & primaryLanguage) == english) return QString();
+        return tr("There is no catalogue for your language (%1) beside the tool, so its texts "
+                  "are in English. Choose another language in the about box (Ctrl+F1).")
+            .arg(language.g_lngCurrentLanguage);
+    });
 }
 
-void MainWindow::showProblem(const QString& sentence)
+void MainWindow::showProblem(Sentence sentence)
 {
-    notice_->say(sentence);
+    notice_->say(std::move(sentence));
 }
 
 QString MainWindow::problem() const
@@ -328,8 +341,8 @@ void MainWindow::pickSampleFolder()
 {
     if (!mayLeaveSite()) return;
     const QString folder = QFileDialog::getSaveFileName(
-        this, tr("Make Sample Server in a New Folder"), QDir::homePath() + tr("/orvan-sample"), {},
-        nullptr, QFileDialog::ShowDirsOnly);
+        this, tr("Make Sample Server in a New Folder"),
+        QDir::homePath() + QStringLiteral("/orvan-sample"), {}, nullptr, QFileDialog::ShowDirsOnly);
     if (!folder.isEmpty()) emit sampleAsked(folder);
 }
 
@@ -344,6 +357,7 @@ void MainWindow::showAbout()
     if (!tool_) return;
     frmAbout& form = tool_->snapIn().showAbout();
     AboutDialog about(form, this);
+    connect(&about, &AboutDialog::formShown, this, &MainWindow::followLanguage);
     about.exec();
     // The person may have chosen another language there.
     rebuildConsoleItems();

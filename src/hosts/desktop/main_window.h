@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hosts/desktop/commands.h"
+#include "hosts/desktop/interface_language.h"
 
 #include <QMainWindow>
 
@@ -30,7 +31,7 @@ public:
     void setTool(OpenTool* tool);
 
     /// Says in a sentence what went wrong and what to do about it.
-    void showProblem(const QString& sentence);
+    void showProblem(Sentence sentence);
     QString problem() const;
 
     /// Null while no tool is open.
@@ -66,6 +67,8 @@ private:
     void updateActions();
     void updateTitle();
     void checkSite();
+    void showTexts();
+    void followLanguage();
     void sayLanguage();
     void runInLog(Command command);
     void runInTable(Command command);
@@ -77,11 +80,13 @@ private:
     void showKeys();
     void showAbout();
 
+    InterfaceLanguage language_;
     QSettings& settings_;
     OpenTool* tool_ = nullptr;
     ConsolePane* pane_ = nullptr;
     NoticeBar* notice_ = nullptr;
     QStackedWidget* centre_ = nullptr;
+    QLabel* empty_ = nullptr;
     QLabel* status_ = nullptr;
     QLabel* siteName_ = nullptr;
     QToolBar* toolBar_ = nullptr;

@@ -9,6 +9,7 @@
 #include "hosts/desktop/theme.h"
 
 #include <QActionGroup>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSettings>
@@ -29,7 +30,7 @@ const std::set<Command> tableCommands = {Command::copy, Command::copyCsv, Comman
 
 QString toolTipOf(const QAction& action)
 {
-    const QString text = QString(action.text()).remove(QLatin1Char('&'));
+    const QString text = withoutMnemonic(action.text());
     const QString key = action.shortcut().toString(QKeySequence::NativeText);
     return key.isEmpty() ? text : QStringLiteral("%1 (%2)").arg(text, key);
 }
@@ -39,11 +40,9 @@ QString toolTipOf(const QAction& action)
 void MainWindow::makeActions()
 {
     auto* themes = new QActionGroup(this);
-    for (const auto& info : commandInfos()) {
-        auto* made = new QAction(tr(info.text), this);
+    for (const auto& info : Commands::all()) {
+        auto* made = new QAction(this);
         made->setShortcut(QKeySequence::fromString(QString::fromLatin1(info.key)));
-        made->setStatusTip(tr(info.statusText));
-        made->setToolTip(toolTipOf(*made));
         if (*info.icon != '\0') made->setIcon(toolIcon(QString::fromLatin1(info.icon)));
         if (info.menu == CommandMenu::theme) {
             made->setCheckable(true);
@@ -61,19 +60,16 @@ void MainWindow::makeActions()
 
 void MainWindow::makeMenus()
 {
-    menus_[CommandMenu::file] = menuBar()->addMenu(tr("&File"));
-    menus_[CommandMenu::action] = menuBar()->addMenu(tr("&Action"));
-    menus_[CommandMenu::edit] = menuBar()->addMenu(tr("&Edit"));
-    menus_[CommandMenu::view] = menuBar()->addMenu(tr("&View"));
-    menus_[CommandMenu::help] = menuBar()->addMenu(tr("&Help"));
-    menus_[CommandMenu::theme] = new QMenu(tr("&Theme"), this);
-    for (const auto& info : commandInfos()) {
+    for (const auto& info : Commands::menus())
+        menus_[info.menu] =
+            info.menu == CommandMenu::theme ? new QMenu(this) : menuBar()->addMenu(QString());
+    for (const auto& info : Commands::all()) {
         QMenu* menu = menus_[info.menu];
         if (info.startsGroup) menu->addSeparator();
         menu->addAction(actions_[info.command]);
     }
     menus_[CommandMenu::view]->addMenu(menus_[CommandMenu::theme]);
-    recent_ = new QMenu(tr("&Recent Sites"), this);
+    recent_ = new QMenu(this);
     menus_[CommandMenu::file]->insertMenu(actions_[Command::makeSample], recent_);
     connect(recent_, &QMenu::aboutToShow, this, &MainWindow::rebuildRecentSites);
     connect(menus_[CommandMenu::action], &QMenu::aboutToShow, this,
@@ -83,16 +79,40 @@ void MainWindow::makeMenus()
 
 void MainWindow::makeToolBar()
 {
-    toolBar_ = addToolBar(tr("Tool Bar"));
+    toolBar_ = addToolBar(QString());
     toolBar_->setObjectName(QStringLiteral("toolBar"));
     toolBar_->setMovable(false);
     toolBar_->setIconSize(QSize(22, 22));
     QAction* toggle = toolBar_->toggleViewAction();
-    toggle->setText(tr("Tool &Bar"));
     toggle->setShortcut(QKeySequence(QStringLiteral("Ctrl+T")));
-    toggle->setStatusTip(tr("Show or hide the buttons below the menus"));
     addAction(toggle);
     menus_[CommandMenu::view]->insertAction(actions_[Command::largerText], toggle);
+}
+
+/// Gives every text of the window itself in the interface language; panes and bars show their own.
+void MainWindow::showTexts()
+{
+    for (const auto& info : Commands::all()) {
+        QAction* action = actions_[info.command];
+        action->setText(Commands::tr(info.text));
+        action->setStatusTip(Commands::tr(info.statusText));
+        action->setToolTip(toolTipOf(*action));
+    }
+    for (const auto& info : Commands::menus())
+        menus_[info.menu]->setTitle(Commands::tr(info.title));
+    recent_->setTitle(tr("&Recent Sites"));
+    toolBar_->setWindowTitle(tr("Tool Bar"));
+    QAction* toggle = toolBar_->toggleViewAction();
+    toggle->setText(tr("Tool &Bar"));
+    toggle->setStatusTip(tr("Show or hide the buttons below the menus"));
+    empty_->setText(tr("No site is open.\n\nOpen one with Ctrl+Shift+O, or make a sample server "
+                       "with Ctrl+Shift+N."));
+    status_->setAccessibleName(tr("Status"));
+    if (tool_)
+        siteName_->setToolTip(
+            tr("The site on show: %1").arg(QString::fromStdString(tool_->site().folder())));
+    rebuildConsoleItems();
+    updateTitle();
 }
 
 void MainWindow::rebuildRecentSites()

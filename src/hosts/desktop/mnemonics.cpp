@@ -2,6 +2,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 namespace {
 
 /// The letter that a caption names by an "&" of its own, as a place in the caption; -1 for none.
@@ -15,6 +17,12 @@ qsizetype ownLetter(const QString& caption)
     return -1;
 }
 
+/// Whether a keyboard may have no key for a letter, as for those of Japanese.
+bool isWithoutKey(QChar letter)
+{
+    return letter.category() == QChar::Letter_Other;
+}
+
 /// The first free letter, those at the start of a word before others.
 qsizetype freeLetter(const QString& caption, const QSet<QChar>& taken)
 {
@@ -25,6 +33,36 @@ qsizetype freeLetter(const QString& caption, const QSet<QChar>& taken)
             if (caption[at].isLetterOrNumber() && !taken.contains(caption[at].toLower())) return at;
         }
     return -1;
+}
+
+/// Takes the first mark of a letter away, with the letter where it stands behind the text for the
+/// mark alone: "(&X)".
+void unmark(QString& caption, qsizetype letter)
+{
+    const bool apart = letter >= 2 && caption[letter - 2] == QLatin1Char('(') &&
+                       letter + 1 < caption.size() && caption[letter + 1] == QLatin1Char(')');
+    if (apart)
+        caption.remove(letter - 2, 4);
+    else
+        caption.remove(letter - 1, 1);
+}
+
+/// Puts a free Latin letter behind the text, before dots and a colon: "(&X)". Its own ones come
+/// first.
+void markBehind(QString& caption, QSet<QChar>& taken)
+{
+    const QString letters = caption + QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+    const auto found = std::find_if(letters.begin(), letters.end(), [&](QChar letter) {
+        return letter.isLetter() && !isWithoutKey(letter) && letter.unicode() < 0x80 &&
+               !taken.contains(letter.toLower());
+    });
+    if (found == letters.end()) return;
+    taken.insert(found->toLower());
+    qsizetype end = caption.size();
+    while (end > 0 &&
+           (caption[end - 1] == QLatin1Char('.') || caption[end - 1] == QLatin1Char(':')))
+        --end;
+    caption.insert(end, QStringLiteral("(&%1)").arg(found->toUpper()));
 }
 
 } // namespace
@@ -42,14 +80,25 @@ QStringList withMnemonics(const QStringList& captions)
         if (settled[place])
             taken.insert(key);
         else
-            marked[place].remove(letter - 1, 1);
+            unmark(marked[place], letter);
     }
     for (qsizetype place = 0; place < captions.size(); ++place) {
         if (settled[place]) continue;
+        if (std::any_of(marked[place].begin(), marked[place].end(), isWithoutKey)) {
+            markBehind(marked[place], taken);
+            continue;
+        }
         const auto letter = freeLetter(marked[place], taken);
         if (letter < 0) continue;
         taken.insert(marked[place][letter].toLower());
         marked[place].insert(letter, QLatin1Char('&'));
     }
     return marked;
+}
+
+QString withoutMnemonic(QString caption)
+{
+    for (auto letter = ownLetter(caption); letter >= 0; letter = ownLetter(caption))
+        unmark(caption, letter);
+    return caption.replace(QLatin1String("&&"), QLatin1String("&"));
 }

@@ -17,8 +17,6 @@ NoticeBar::NoticeBar(QWidget* parent) : QWidget(parent), text_(new QLabel(this))
     auto* close = new QToolButton(this);
     close->setIcon(toolIcon(QStringLiteral("close")));
     close->setAutoRaise(true);
-    close->setToolTip(tr("Close this notice"));
-    close->setAccessibleName(close->toolTip());
     close->setFocusPolicy(Qt::TabFocus);
     connect(close, &QToolButton::clicked, this, &QWidget::hide);
     auto* row = new QHBoxLayout(this);
@@ -28,10 +26,24 @@ NoticeBar::NoticeBar(QWidget* parent) : QWidget(parent), text_(new QLabel(this))
     row->addWidget(text_, 1);
     row->addWidget(close);
     hide();
+    showInLanguage(this, [this, close] {
+        close->setToolTip(tr("Close this notice"));
+        close->setAccessibleName(close->toolTip());
+        renew();
+    });
 }
 
-void NoticeBar::say(const QString& sentence)
+void NoticeBar::say(Sentence sentence)
 {
+    said_ = std::move(sentence);
+    show();
+    renew();
+}
+
+void NoticeBar::renew()
+{
+    if (isHidden() || !said_) return;
+    const QString sentence = said_();
     text_->setText(sentence);
     setAccessibleName(sentence);
     setVisible(!sentence.isEmpty());

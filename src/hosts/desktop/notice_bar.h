@@ -1,5 +1,7 @@
 #pragma once
 
+#include "hosts/desktop/interface_language.h"
+
 #include <QWidget>
 
 class QLabel;
@@ -12,12 +14,16 @@ class NoticeBar final : public QWidget {
 public:
     explicit NoticeBar(QWidget* parent = nullptr);
 
-    void say(const QString& sentence);
+    void say(Sentence sentence);
     QString sentence() const;
+
+    /// Asks for the sentence on show again; an empty one takes the strip away.
+    void renew();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    Sentence said_;
     QLabel* text_ = nullptr;
 };

@@ -12,10 +12,18 @@ namespace fs = std::filesystem;
 
 namespace {
 
-QString notOpened(const std::string& folder, const std::string& why)
+Sentence notOpened(const std::string& folder, const Sentence& why)
 {
-    return QObject::tr("The site %1 could not be opened: %2. Choose another one with Ctrl+Shift+O.")
-        .arg(QString::fromStdString(folder), QString::fromStdString(why));
+    return [folder = QString::fromStdString(folder), why] {
+        return QObject::tr(
+                   "The site %1 could not be opened: %2. Choose another one with Ctrl+Shift+O.")
+            .arg(folder, why());
+    };
+}
+
+Sentence as(const std::string& text)
+{
+    return [text = QString::fromStdString(text)] { return text; };
 }
 
 } // namespace
@@ -35,8 +43,9 @@ Program::Program(QSettings& settings, std::string installedData, HostFacts facts
     QObject::connect(&window_, &MainWindow::helpAsked,
                      [this](int topic) { desktop_.showHelp({}, topic); });
     desktop_.setManualMissing([this] {
-        window_.showProblem(
-            QObject::tr("The manual is not beside the tool. Install it again to read it."));
+        window_.showProblem([] {
+            return QObject::tr("The manual is not beside the tool. Install it again to read it.");
+        });
     });
 }
 
@@ -50,11 +59,12 @@ void Program::openSite(const std::string& folder)
     std::unique_ptr<OpenTool> opened;
     try {
         if (!isSite(folder))
-            return window_.showProblem(
-                notOpened(folder, "it has no site.ini, registry.reg or drive_c in it"));
+            return window_.showProblem(notOpened(folder, [] {
+                return QObject::tr("it has no site.ini, registry.reg or drive_c in it");
+            }));
         opened = std::make_unique<OpenTool>(folder, installedData_, facts_, desktop_);
     } catch (const RunTimeError& error) {
-        return window_.showProblem(notOpened(folder, error.description()));
+        return window_.showProblem(notOpened(folder, as(error.description())));
     }
     close();
     tool_ = std::move(opened);
@@ -71,14 +81,17 @@ void Program::openSample(const std::string& folder)
         options.dataFolder = installedData_;
         makeSampleServer(options);
     } catch (const RunTimeError& error) {
-        return window_.showProblem(
-            QObject::tr("No sample server could be made in %1: %2. Choose a new folder.")
-                .arg(QString::fromStdString(folder), QString::fromStdString(error.description())));
+        return window_.showProblem([where = QString::fromStdString(folder),
+                                    why = QString::fromStdString(error.description())] {
+            return QObject::tr("No sample server could be made in %1: %2. Choose a new folder.")
+                .arg(where, why);
+        });
     } catch (const fs::filesystem_error& error) {
-        return window_.showProblem(
-            QObject::tr("No sample server could be made in %1: %2. Choose another folder.")
-                .arg(QString::fromStdString(folder),
-                     QString::fromStdString(error.code().message())));
+        return window_.showProblem([where = QString::fromStdString(folder),
+                                    why = QString::fromStdString(error.code().message())] {
+            return QObject::tr("No sample server could be made in %1: %2. Choose another folder.")
+                .arg(where, why);
+        });
     }
     openSite(folder);
 }
@@ -101,8 +114,10 @@ void Program::close()
     try {
         leaving->close();
     } catch (const RunTimeError& error) {
-        window_.showProblem(QObject::tr("The site was not closed cleanly: %1. The language of its "
-                                        "event log may not be the first one; open it again.")
-                                .arg(QString::fromStdString(error.description())));
+        window_.showProblem([why = QString::fromStdString(error.description())] {
+            return QObject::tr("The site was not closed cleanly: %1. The language of its event log "
+                               "may not be the first one; open it again.")
+                .arg(why);
+        });
     }
 }

@@ -101,7 +101,9 @@ int run(const QApplication& application, const std::function<void(Program&)>& op
     else
         program.openSite(options.site.toStdString());
     if (!options.node.isEmpty() && !program.window().showNode(options.node.toStdString()))
-        program.window().showProblem(QObject::tr("This site has no %1 to show.").arg(options.node));
+        program.window().showProblem([node = options.node] {
+            return QObject::tr("This site has no %1 to show.").arg(node);
+        });
     if (QAction* action = program.window().consoleAction(options.command.toStdString()))
         QTimer::singleShot(0, action, &QAction::trigger);
     if (!options.screenshot.isEmpty())

@@ -19,9 +19,15 @@
 
 namespace {
 
-const QStringList wizardCaptions = {QStringLiteral("< &Back"), QStringLiteral("&Next >"),
-                                    QStringLiteral("&Finish")};
-const QStringList plainCaptions = {QStringLiteral("&Apply")};
+QStringList wizardCaptions()
+{
+    return {SheetDialog::tr("< &Back"), SheetDialog::tr("&Next >"), SheetDialog::tr("&Finish")};
+}
+
+QStringList plainCaptions()
+{
+    return {SheetDialog::tr("&Apply")};
+}
 
 } // namespace
 
@@ -76,16 +82,16 @@ void SheetDialog::makeButtons()
     help_ = add(tr("Help"), [this] { sheet_->help(); });
     row->addStretch(1);
     if (WizardSheet* wizard = sheet_->wizard()) {
-        back_ = add(wizardCaptions[0], [wizard] { wizard->back(); });
-        next_ = add(wizardCaptions[1], [wizard] { wizard->next(); });
-        finish_ = add(wizardCaptions[2], [wizard] { wizard->finish(); });
+        back_ = add(wizardCaptions()[0], [wizard] { wizard->back(); });
+        next_ = add(wizardCaptions()[1], [wizard] { wizard->next(); });
+        finish_ = add(wizardCaptions()[2], [wizard] { wizard->finish(); });
         row->addSpacing(12);
     } else {
         ok_ = add(tr("OK"), [this] { sheet_->plainSheet()->ok(); });
     }
     cancel_ = add(tr("Cancel"), [this] { sheet_->cancel(); });
     if (sheet_->plainSheet()) {
-        apply_ = add(plainCaptions[0], [this] { sheet_->plainSheet()->apply(); });
+        apply_ = add(plainCaptions()[0], [this] { sheet_->plainSheet()->apply(); });
         ok_->setDefault(true);
     }
     static_cast<QVBoxLayout*>(layout())->addLayout(row);
@@ -97,8 +103,9 @@ void SheetDialog::act(const std::function<void()>& what)
     try {
         what();
     } catch (const RunTimeError& error) {
-        notice_->say(tr("That did not work: %1. Try again, or press Cancel.")
-                         .arg(QString::fromStdString(error.description())));
+        notice_->say([why = QString::fromStdString(error.description())] {
+            return tr("That did not work: %1. Try again, or press Cancel.").arg(why);
+        });
     }
     --calls_;
     showButtons();
@@ -117,7 +124,7 @@ void SheetDialog::showPage()
     if (!page) {
         const bool wizard = sheet_->wizard() != nullptr;
         page = new PageWidget(
-            sheet_->page(place), wizard, wizard ? wizardCaptions : plainCaptions,
+            sheet_->page(place), wizard, wizard ? wizardCaptions() : plainCaptions(),
             [this](const std::function<void()>& what) { act(what); }, pages_);
         pages_->addWidget(page);
     }
@@ -144,7 +151,7 @@ void SheetDialog::showButtons()
         next_->setEnabled(wizard->canGoNext());
         finish_->setVisible(last);
         finish_->setEnabled(wizard->canFinish());
-        finish_->setText(buttons.finishText.empty() ? wizardCaptions[2]
+        finish_->setText(buttons.finishText.empty() ? wizardCaptions()[2]
                                                     : QString::fromStdString(buttons.finishText));
         (last ? finish_ : next_)->setDefault(true);
     } else if (const PlainSheet* plain = sheet_->plainSheet()) {

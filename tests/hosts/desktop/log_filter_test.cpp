@@ -2,7 +2,6 @@
 
 #include "hosts/desktop/bookmarks.h"
 #include "hosts/desktop/list_model.h"
-#include "hosts/desktop/mnemonics.h"
 #include "hosts/desktop/test_window.h"
 #include "hosts/desktop/time_search.h"
 #include "platform/list_view.h"
@@ -159,29 +158,6 @@ TEST(Bookmarks, SurviveAReopeningOfTheLog)
     EXPECT_FALSE(again.has(9)) << "the line is another one now";
     EXPECT_FALSE(again.has(11)) << "the log has shrunk";
     EXPECT_EQ(0, Bookmarks(settings, "other", timeOfLine).count());
-}
-
-TEST(Mnemonics, AreUniqueAndKeepTheLettersThatCaptionsName)
-{
-    struct Case {
-        const char* because;
-        QStringList captions;
-        QStringList expected;
-    };
-    const Case cases[] = {
-        {"the first letter", {"Open", "Close"}, {"&Open", "&Close"}},
-        {"the next word when it is taken", {"Open Log", "Open File"}, {"&Open Log", "Open &File"}},
-        {"any letter when all words are taken", {"Log", "Lag"}, {"&Log", "L&ag"}},
-        {"a named letter stays and others move", {"Reset", "&Refresh"}, {"R&eset", "&Refresh"}},
-        {"a letter named twice moves", {"&Next", "&New"}, {"&Next", "N&ew"}},
-        {"a doubled sign names none", {"A && B", "A"}, {"&A && B", "A"}},
-        {"no letter is left", {"a", "A"}, {"&a", "A"}},
-        {"nothing", {""}, {""}},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.because);
-        EXPECT_EQ(c.expected, withMnemonics(c.captions));
-    }
 }
 
 } // namespace

@@ -83,7 +83,7 @@ TEST(MainWindow, EveryCommandHasAMenuEntryAndAKeyOfItsOwn)
             << "used twice";
         EXPECT_FALSE(action->text().isEmpty());
     };
-    for (const auto& info : commandInfos()) check(&shown.window->action(info.command), info.text);
+    for (const auto& info : Commands::all()) check(&shown.window->action(info.command), info.text);
     for (const char* name : consoleItems) check(shown.window->consoleAction(name), name);
 }
 

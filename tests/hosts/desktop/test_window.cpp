@@ -2,7 +2,11 @@
 
 #include "hosts/desktop/theme.h"
 #include "platform/console.h"
+#include "settings/about_box.h"
 
+#include <QTimer>
+
+#include <algorithm>
 #include <cstdio>
 #include <stdexcept>
 
@@ -106,4 +110,23 @@ void TestWindow::showLog(const std::string& process)
     if (!window->showNode(server.currentLog(process)))
         throw std::runtime_error("no node for the log of " + process);
     settle();
+}
+
+void TestWindow::chooseLanguage(int identifier)
+{
+    bool chosen = false;
+    // The box is modal: its own OK ends it.
+    QTimer::singleShot(0, window.get(), [&] {
+        frmAbout& form = tool->snapIn().showAbout();
+        const auto& languages = form.mnuLanguageList();
+        const auto found = std::find_if(languages.begin(), languages.end(), [&](const auto& item) {
+            return item.tag == std::to_string(identifier);
+        });
+        chosen = found != languages.end();
+        if (chosen) form.mnuLanguageList_Click(static_cast<int>(found - languages.begin()));
+        form.cmdOK_Click();
+    });
+    window->run(Command::about);
+    settle();
+    if (!chosen) throw std::runtime_error("no such language: " + std::to_string(identifier));
 }

@@ -50,6 +50,9 @@ struct TestWindow {
     /// Shows the current log of a process.
     void showLog(const std::string& process);
 
+    /// Chooses an interface language, such as 1036, in the about box. Raises when it is not there.
+    void chooseLanguage(int identifier);
+
     /// Lets the window go and makes another one on the same site and settings.
     void reopen();
 

@@ -1,0 +1,807 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Commands</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Action</source>
+        <translation>&amp;Aktion</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>A&amp;nsicht</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Farbschema</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Open Site...</source>
+        <translation>Site ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>Work on another server, in a folder</source>
+        <translation>Mit einem anderen Server in einem Ordner arbeiten</translation>
+    </message>
+    <message>
+        <source>Make &amp;Sample Server...</source>
+        <translation>&amp;Beispielserver anlegen...</translation>
+    </message>
+    <message>
+        <source>Make a server to try things on, in a new folder</source>
+        <translation>In einem neuen Ordner einen Server zum Ausprobieren anlegen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>B&amp;eenden</translation>
+    </message>
+    <message>
+        <source>Close the tool</source>
+        <translation>Das Tool schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>&amp;Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Read again what is shown</source>
+        <translation>Das Angezeigte neu einlesen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows, one line each</source>
+        <translation>Die ausgewählten Zeilen kopieren, jede als eine Textzeile</translation>
+    </message>
+    <message>
+        <source>Copy as CS&amp;V</source>
+        <translation>Als &amp;CSV kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows with their headers, for a spreadsheet</source>
+        <translation>Die ausgewählten Zeilen mit Überschriften für eine Tabellenkalkulation kopieren</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Select every row on show</source>
+        <translation>Alle angezeigten Zeilen auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>&amp;Suchen...</translation>
+    </message>
+    <message>
+        <source>Look for a text in the log</source>
+        <translation>Einen Text im Protokoll suchen</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>&amp;Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Go to the next hit</source>
+        <translation>Zum nächsten Treffer gehen</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>&amp;Vorherigen Treffer suchen</translation>
+    </message>
+    <message>
+        <source>Go to the hit before</source>
+        <translation>Zum vorherigen Treffer gehen</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Time...</source>
+        <translation>&amp;Gehe zu Uhrzeit...</translation>
+    </message>
+    <message>
+        <source>Go to the line of a time of day</source>
+        <translation>Zur Zeile einer Uhrzeit gehen</translation>
+    </message>
+    <message>
+        <source>F&amp;ilter...</source>
+        <translation>&amp;Filtern...</translation>
+    </message>
+    <message>
+        <source>Show or hide lines by component, source, level or text</source>
+        <translation>Zeilen nach Komponente, Quelle, Ebene oder Text ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>Show A&amp;ll Rows</source>
+        <translation>Alle &amp;Zeilen anzeigen</translation>
+    </message>
+    <message>
+        <source>End the filter</source>
+        <translation>Den Filter aufheben</translation>
+    </message>
+    <message>
+        <source>&amp;Bookmark</source>
+        <translation>&amp;Lesezeichen</translation>
+    </message>
+    <message>
+        <source>Mark the current line, or take its mark away</source>
+        <translation>Ein Lesezeichen an der aktuellen Zeile setzen oder entfernen</translation>
+    </message>
+    <message>
+        <source>Next Boo&amp;kmark</source>
+        <translation>&amp;Nächstes Lesezeichen</translation>
+    </message>
+    <message>
+        <source>Go to the next marked line</source>
+        <translation>Zur nächsten Zeile mit Lesezeichen gehen</translation>
+    </message>
+    <message>
+        <source>Previo&amp;us Bookmark</source>
+        <translation>Vo&amp;rheriges Lesezeichen</translation>
+    </message>
+    <message>
+        <source>Go to the marked line before</source>
+        <translation>Zur vorherigen Zeile mit Lesezeichen gehen</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ear Bookmarks</source>
+        <translation>Lesezeichen lösch&amp;en</translation>
+    </message>
+    <message>
+        <source>Take every mark of this log away</source>
+        <translation>Alle Lesezeichen dieses Protokolls entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Details</source>
+        <translation>&amp;Details</translation>
+    </message>
+    <message>
+        <source>Show all of the current line below the log</source>
+        <translation>Die aktuelle Zeile vollständig unter dem Protokoll anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Other Pane</source>
+        <translation>&amp;Anderer Bereich</translation>
+    </message>
+    <message>
+        <source>Go from the tree to the view, or back</source>
+        <translation>Von der Baumstruktur zur Ansicht wechseln oder zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Larger Text</source>
+        <translation>&amp;Größerer Text</translation>
+    </message>
+    <message>
+        <source>Show traces in larger letters</source>
+        <translation>Traces in größerer Schrift anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller Text</source>
+        <translation>&amp;Kleinerer Text</translation>
+    </message>
+    <message>
+        <source>Show traces in smaller letters</source>
+        <translation>Traces in kleinerer Schrift anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Normal Text</source>
+        <translation>&amp;Normaler Text</translation>
+    </message>
+    <message>
+        <source>Show traces in letters of the usual size</source>
+        <translation>Traces in der üblichen Schriftgröße anzeigen</translation>
+    </message>
+    <message>
+        <source>As the &amp;Desktop</source>
+        <translation>Wie der &amp;Desktop</translation>
+    </message>
+    <message>
+        <source>Light or dark as the desktop is</source>
+        <translation>Hell oder dunkel wie der Desktop</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>Dark letters on a light ground</source>
+        <translation>Dunkle Schrift auf hellem Grund</translation>
+    </message>
+    <message>
+        <source>Da&amp;rk</source>
+        <translation>D&amp;unkel</translation>
+    </message>
+    <message>
+        <source>Light letters on a dark ground</source>
+        <translation>Helle Schrift auf dunklem Grund</translation>
+    </message>
+    <message>
+        <source>&amp;Help Topics</source>
+        <translation>&amp;Hilfethemen</translation>
+    </message>
+    <message>
+        <source>Open the manual</source>
+        <translation>Das Handbuch öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Tasten</translation>
+    </message>
+    <message>
+        <source>Show every key of the tool</source>
+        <translation>Alle Tasten des Tools anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>&amp;Info...</translation>
+    </message>
+    <message>
+        <source>Version and interface language</source>
+        <translation>Version und Sprache der Oberfläche</translation>
+    </message>
+</context>
+<context>
+    <name>ConsolePane</name>
+    <message>
+        <source>Server tree</source>
+        <translation>Baumstruktur des Servers</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Prozesse</translation>
+    </message>
+    <message>
+        <source>Log files</source>
+        <translation>Protokolldateien</translation>
+    </message>
+    <message>
+        <source>The tool is still finishing what was cancelled. One moment.</source>
+        <translation>Das Tool beendet noch, was abgebrochen wurde. Einen Moment.</translation>
+    </message>
+    <message>
+        <source>That did not work: %1. Press F5 to renew what is shown, and try again.</source>
+        <translation>Das hat nicht funktioniert: %1. Drücken Sie F5, um die Anzeige zu erneuern, und versuchen Sie es noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>DetailsPane</name>
+    <message>
+        <source>Fields of the line</source>
+        <translation>Felder der Zeile</translation>
+    </message>
+    <message>
+        <source>Trace of the line</source>
+        <translation>Trace der Zeile</translation>
+    </message>
+    <message>
+        <source>Select a line to read all of it here.</source>
+        <translation>Wählen Sie eine Zeile aus, um sie hier vollständig zu lesen.</translation>
+    </message>
+</context>
+<context>
+    <name>FilterBar</name>
+    <message>
+        <source>Only rows with this text</source>
+        <translation>Nur Zeilen mit diesem Text</translation>
+    </message>
+    <message>
+        <source>Filter by text</source>
+        <translation>Nach Text filtern</translation>
+    </message>
+    <message>
+        <source>hide &amp;matches</source>
+        <translation>&amp;Treffer ausblenden</translation>
+    </message>
+    <message>
+        <source>Hide the rows with the text instead of showing them</source>
+        <translation>Die Zeilen mit dem Text ausblenden, statt sie anzuzeigen</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Alle anzeigen</translation>
+    </message>
+    <message>
+        <source>Show every row again (Ctrl+Shift+A)</source>
+        <translation>Wieder alle Zeilen anzeigen (Strg+Umschalt+A)</translation>
+    </message>
+    <message>
+        <source>Close the filter bar and show every row (Esc)</source>
+        <translation>Die Filterleiste schließen und alle Zeilen anzeigen (Esc)</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows</source>
+        <translation>%1 von %2 Zeilen</translation>
+    </message>
+</context>
+<context>
+    <name>FilterButton</name>
+    <message>
+        <source>(none)</source>
+        <translation>(keine)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide the ticked ones</source>
+        <translation>Ausgewählte &amp;ausblenden</translation>
+    </message>
+    <message>
+        <source>&amp;Untick all</source>
+        <translation>Auswahl auf&amp;heben</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>not %1</source>
+        <translation>außer %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 </source>
+        <translation>%1: %2 </translation>
+    </message>
+    <message>
+        <source>Filter by %1: %2</source>
+        <translation>Nach %1 filtern: %2</translation>
+    </message>
+    <message>
+        <source>Show or hide rows by %1</source>
+        <translation>Zeilen nach %1 ein- oder ausblenden</translation>
+    </message>
+</context>
+<context>
+    <name>FindBar</name>
+    <message>
+        <source>Fi&amp;nd:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
+        <source>Go to &amp;time:</source>
+        <translation>Gehe &amp;zu Uhrzeit:</translation>
+    </message>
+    <message>
+        <source>Text in any column</source>
+        <translation>Text in einer beliebigen Spalte</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>Gesuchter Text</translation>
+    </message>
+    <message>
+        <source>such as 15:23:07</source>
+        <translation>z. B. 15:23:07</translation>
+    </message>
+    <message>
+        <source>Time to go to</source>
+        <translation>Gesuchte Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Hits</source>
+        <translation>Treffer</translation>
+    </message>
+    <message>
+        <source>Find previous (Shift+F3)</source>
+        <translation>Vorherigen Treffer suchen (Umschalt+F3)</translation>
+    </message>
+    <message>
+        <source>Find next (F3)</source>
+        <translation>Weitersuchen (F3)</translation>
+    </message>
+    <message>
+        <source>Close the find bar (Esc)</source>
+        <translation>Die Suchleiste schließen (Esc)</translation>
+    </message>
+    <message>
+        <source>No hits</source>
+        <translation>Keine Treffer</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 hits</source>
+        <translation>%1 Treffer</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help - Orvan Diagnostic Tool</source>
+        <translation>Hilfe - Orvan-Diagnosetool</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Was sie bewirkt</translation>
+    </message>
+    <message>
+        <source>In lists and pages</source>
+        <translation>In Listen und auf Seiten</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Opens the log or the node of the current row</source>
+        <translation>Öffnet das Protokoll oder den Knoten der aktuellen Zeile</translation>
+    </message>
+    <message>
+        <source>Open or close a node</source>
+        <translation>Knoten öffnen oder schließen</translation>
+    </message>
+    <message>
+        <source>Right, Left</source>
+        <translation>Rechts, Links</translation>
+    </message>
+    <message>
+        <source>In a tree</source>
+        <translation>In einer Baumstruktur</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>Ankreuzen</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>Ticks or clears the current node of a page&apos;s tree</source>
+        <translation>Kreuzt den aktuellen Knoten im Baum einer Seite an oder entfernt das Kreuz</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>Erste und letzte Zeile</translation>
+    </message>
+    <message>
+        <source>Home, End</source>
+        <translation>Pos1, Ende</translation>
+    </message>
+    <message>
+        <source>In a list</source>
+        <translation>In einer Liste</translation>
+    </message>
+    <message>
+        <source>Close find or filter</source>
+        <translation>Suche oder Filter schließen</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Closes the bar in which the cursor is</source>
+        <translation>Schließt die Leiste, in der sich der Cursor befindet</translation>
+    </message>
+</context>
+<context>
+    <name>LogView</name>
+    <message>
+        <source>Log lines</source>
+        <translation>Protokollzeilen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in these lines.</source>
+        <translation>&quot;%1&quot; kommt in diesen Zeilen nicht vor.</translation>
+    </message>
+    <message>
+        <source>Went on from the top.</source>
+        <translation>Am Anfang fortgesetzt.</translation>
+    </message>
+    <message>
+        <source>Went on from the end.</source>
+        <translation>Am Ende fortgesetzt.</translation>
+    </message>
+    <message>
+        <source>Type a time such as 15:23</source>
+        <translation>Uhrzeit eingeben, z. B. 15:23</translation>
+    </message>
+    <message>
+        <source>No line at %1 or later</source>
+        <translation>Keine Zeile um %1 oder später</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>Line %1 is marked.</source>
+        <translation>Zeile %1 hat ein Lesezeichen.</translation>
+    </message>
+    <message>
+        <source>Line %1 is not marked any more.</source>
+        <translation>Zeile %1 hat kein Lesezeichen mehr.</translation>
+    </message>
+    <message>
+        <source>No line of this log is marked. Ctrl+B marks one.</source>
+        <translation>Keine Zeile dieses Protokolls hat ein Lesezeichen. Strg+B setzt eines.</translation>
+    </message>
+    <message>
+        <source>The marked lines are hidden by the filter.</source>
+        <translation>Die Zeilen mit Lesezeichen sind durch den Filter ausgeblendet.</translation>
+    </message>
+    <message>
+        <source>No line of this log is marked any more.</source>
+        <translation>Keine Zeile dieses Protokolls hat mehr ein Lesezeichen.</translation>
+    </message>
+    <message>
+        <source>&amp;Show only %1 %2</source>
+        <translation>&amp;Nur %1 %2 anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Hide %1 %2</source>
+        <translation>%1 %2 &amp;ausblenden</translation>
+    </message>
+    <message>
+        <source>&amp;Bookmark</source>
+        <translation>&amp;Lesezeichen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy as CS&amp;V</source>
+        <translation>Als &amp;CSV kopieren</translation>
+    </message>
+    <message>
+        <source>Marked line %1: %2</source>
+        <translation>Zeile %1 mit Lesezeichen: %2</translation>
+    </message>
+    <message>
+        <source>Hit in line %1: %2</source>
+        <translation>Treffer in Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Error in line %1: %2</source>
+        <translation>Fehler in Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Warning in line %1: %2</source>
+        <translation>Warnung in Zeile %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>This site is read-only: logs can be read, but traces and settings cannot be changed. Make its folder writable, or open a copy.</source>
+        <translation>Diese Site ist schreibgeschützt: Protokolle können gelesen, Traces und Einstellungen aber nicht geändert werden. Erlauben Sie das Schreiben in ihrem Ordner, oder öffnen Sie eine Kopie.</translation>
+    </message>
+    <message>
+        <source>The site %1 is no longer there. Put the folder back and press F5, or open another site with Ctrl+Shift+O.</source>
+        <translation>Die Site %1 ist nicht mehr vorhanden. Stellen Sie den Ordner wieder her, und drücken Sie F5, oder öffnen Sie mit Strg+Umschalt+O eine andere Site.</translation>
+    </message>
+    <message>
+        <source>There is no catalogue for your language (%1) beside the tool, so its texts are in English. Choose another language in the about box (Ctrl+F1).</source>
+        <translation>Für Ihre Sprache (%1) ist kein Katalog beim Tool vorhanden, deshalb sind die Texte englisch. Wählen Sie im Infofenster (Strg+F1) eine andere Sprache.</translation>
+    </message>
+    <message>
+        <source>Orvan Diagnostic Tool</source>
+        <translation>Orvan-Diagnosetool</translation>
+    </message>
+    <message>
+        <source>1 row copied.</source>
+        <translation>1 Zeile kopiert.</translation>
+    </message>
+    <message>
+        <source>%1 rows copied.</source>
+        <translation>%1 Zeilen kopiert.</translation>
+    </message>
+    <message>
+        <source>Open Site: the folder of a server, with site.ini, registry.reg or drive_c</source>
+        <translation>Site öffnen: der Ordner eines Servers mit site.ini, registry.reg oder drive_c</translation>
+    </message>
+    <message>
+        <source>Make Sample Server in a New Folder</source>
+        <translation>Beispielserver in einem neuen Ordner anlegen</translation>
+    </message>
+    <message>
+        <source>The gather is being ended. Close the window again in a moment.</source>
+        <translation>Das Sammeln wird beendet. Schließen Sie das Fenster gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Sites</source>
+        <translation>&amp;Zuletzt geöffnete Sites</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Symbolleiste</translation>
+    </message>
+    <message>
+        <source>Tool &amp;Bar</source>
+        <translation>&amp;Symbolleiste</translation>
+    </message>
+    <message>
+        <source>Show or hide the buttons below the menus</source>
+        <translation>Die Schaltflächen unter den Menüs ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>No site is open.
+
+Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
+        <translation>Es ist keine Site geöffnet.
+
+Öffnen Sie eine mit Strg+Umschalt+O, oder legen Sie mit Strg+Umschalt+N einen Beispielserver an.</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>The site on show: %1</source>
+        <translation>Die angezeigte Site: %1</translation>
+    </message>
+    <message>
+        <source>The gather is being ended. Try again in a moment.</source>
+        <translation>Das Sammeln wird beendet. Versuchen Sie es gleich noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeBar</name>
+    <message>
+        <source>Close this notice</source>
+        <translation>Diesen Hinweis schließen</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)</source>
+        <translation>Diagnoseprotokolle (diag_*.txt data_*.txt *.log);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Weniger</translation>
+    </message>
+    <message>
+        <source>This site has no %1 to show.</source>
+        <translation>Diese Site hat kein %1, das angezeigt werden könnte.</translation>
+    </message>
+    <message>
+        <source>The site %1 could not be opened: %2. Choose another one with Ctrl+Shift+O.</source>
+        <translation>Die Site %1 konnte nicht geöffnet werden: %2. Wählen Sie mit Strg+Umschalt+O eine andere.</translation>
+    </message>
+    <message>
+        <source>The manual is not beside the tool. Install it again to read it.</source>
+        <translation>Das Handbuch ist nicht beim Tool vorhanden. Installieren Sie es neu, um es zu lesen.</translation>
+    </message>
+    <message>
+        <source>it has no site.ini, registry.reg or drive_c in it</source>
+        <translation>sie enthält weder site.ini noch registry.reg noch drive_c</translation>
+    </message>
+    <message>
+        <source>No sample server could be made in %1: %2. Choose a new folder.</source>
+        <translation>In %1 konnte kein Beispielserver angelegt werden: %2. Wählen Sie einen neuen Ordner.</translation>
+    </message>
+    <message>
+        <source>No sample server could be made in %1: %2. Choose another folder.</source>
+        <translation>In %1 konnte kein Beispielserver angelegt werden: %2. Wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>The site was not closed cleanly: %1. The language of its event log may not be the first one; open it again.</source>
+        <translation>Die Site wurde nicht ordnungsgemäß geschlossen: %1. Möglicherweise hat ihr Ereignisprotokoll nicht die ursprüngliche Sprache; öffnen Sie sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Auswahl</translation>
+    </message>
+</context>
+<context>
+    <name>SheetDialog</name>
+    <message>
+        <source>&lt; &amp;Back</source>
+        <translation>&lt; &amp;Zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Next &gt;</source>
+        <translation>&amp;Weiter &gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Fertig stellen</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>Ü&amp;bernehmen</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>That did not work: %1. Try again, or press Cancel.</source>
+        <translation>Das hat nicht funktioniert: %1. Versuchen Sie es noch einmal, oder klicken Sie auf Abbrechen.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,807 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>Commands</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Action</source>
+        <translation>A&amp;cción</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edición</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Tema</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>&amp;Open Site...</source>
+        <translation>&amp;Abrir sitio...</translation>
+    </message>
+    <message>
+        <source>Work on another server, in a folder</source>
+        <translation>Trabajar con otro servidor, en una carpeta</translation>
+    </message>
+    <message>
+        <source>Make &amp;Sample Server...</source>
+        <translation>&amp;Crear servidor de ejemplo...</translation>
+    </message>
+    <message>
+        <source>Make a server to try things on, in a new folder</source>
+        <translation>Crear un servidor de prueba en una carpeta nueva</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>Close the tool</source>
+        <translation>Cerrar la herramienta</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>&amp;Actualizar</translation>
+    </message>
+    <message>
+        <source>Read again what is shown</source>
+        <translation>Volver a leer lo que se muestra</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows, one line each</source>
+        <translation>Copiar las filas seleccionadas, una línea por fila</translation>
+    </message>
+    <message>
+        <source>Copy as CS&amp;V</source>
+        <translation>Copiar como CS&amp;V</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows with their headers, for a spreadsheet</source>
+        <translation>Copiar las filas seleccionadas con sus encabezados, para una hoja de cálculo</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Seleccionar &amp;todas</translation>
+    </message>
+    <message>
+        <source>Select every row on show</source>
+        <translation>Seleccionar todas las filas mostradas</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>&amp;Buscar...</translation>
+    </message>
+    <message>
+        <source>Look for a text in the log</source>
+        <translation>Buscar un texto en el registro</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Buscar &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>Go to the next hit</source>
+        <translation>Ir a la coincidencia siguiente</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>Buscar &amp;anterior</translation>
+    </message>
+    <message>
+        <source>Go to the hit before</source>
+        <translation>Ir a la coincidencia anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Time...</source>
+        <translation>&amp;Ir a la hora...</translation>
+    </message>
+    <message>
+        <source>Go to the line of a time of day</source>
+        <translation>Ir a la línea de una hora del día</translation>
+    </message>
+    <message>
+        <source>F&amp;ilter...</source>
+        <translation>&amp;Filtrar...</translation>
+    </message>
+    <message>
+        <source>Show or hide lines by component, source, level or text</source>
+        <translation>Mostrar u ocultar líneas por componente, origen, nivel o texto</translation>
+    </message>
+    <message>
+        <source>Show A&amp;ll Rows</source>
+        <translation>&amp;Mostrar todas las filas</translation>
+    </message>
+    <message>
+        <source>End the filter</source>
+        <translation>Quitar el filtro</translation>
+    </message>
+    <message>
+        <source>&amp;Bookmark</source>
+        <translation>Marca&amp;dor</translation>
+    </message>
+    <message>
+        <source>Mark the current line, or take its mark away</source>
+        <translation>Marcar la línea actual o quitarle la marca</translation>
+    </message>
+    <message>
+        <source>Next Boo&amp;kmark</source>
+        <translation>Marcador si&amp;guiente</translation>
+    </message>
+    <message>
+        <source>Go to the next marked line</source>
+        <translation>Ir a la siguiente línea marcada</translation>
+    </message>
+    <message>
+        <source>Previo&amp;us Bookmark</source>
+        <translation>Marcador a&amp;nterior</translation>
+    </message>
+    <message>
+        <source>Go to the marked line before</source>
+        <translation>Ir a la línea marcada anterior</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ear Bookmarks</source>
+        <translation>B&amp;orrar marcadores</translation>
+    </message>
+    <message>
+        <source>Take every mark of this log away</source>
+        <translation>Quitar todas las marcas de este registro</translation>
+    </message>
+    <message>
+        <source>&amp;Details</source>
+        <translation>&amp;Detalles</translation>
+    </message>
+    <message>
+        <source>Show all of the current line below the log</source>
+        <translation>Mostrar la línea actual completa debajo del registro</translation>
+    </message>
+    <message>
+        <source>&amp;Other Pane</source>
+        <translation>&amp;Otro panel</translation>
+    </message>
+    <message>
+        <source>Go from the tree to the view, or back</source>
+        <translation>Ir del árbol a la vista, o volver</translation>
+    </message>
+    <message>
+        <source>&amp;Larger Text</source>
+        <translation>Texto más &amp;grande</translation>
+    </message>
+    <message>
+        <source>Show traces in larger letters</source>
+        <translation>Mostrar las trazas con letra más grande</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller Text</source>
+        <translation>Texto más &amp;pequeño</translation>
+    </message>
+    <message>
+        <source>Show traces in smaller letters</source>
+        <translation>Mostrar las trazas con letra más pequeña</translation>
+    </message>
+    <message>
+        <source>&amp;Normal Text</source>
+        <translation>Texto &amp;normal</translation>
+    </message>
+    <message>
+        <source>Show traces in letters of the usual size</source>
+        <translation>Mostrar las trazas con letra del tamaño habitual</translation>
+    </message>
+    <message>
+        <source>As the &amp;Desktop</source>
+        <translation>Como el &amp;escritorio</translation>
+    </message>
+    <message>
+        <source>Light or dark as the desktop is</source>
+        <translation>Claro u oscuro, según el escritorio</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Claro</translation>
+    </message>
+    <message>
+        <source>Dark letters on a light ground</source>
+        <translation>Letras oscuras sobre fondo claro</translation>
+    </message>
+    <message>
+        <source>Da&amp;rk</source>
+        <translation>&amp;Oscuro</translation>
+    </message>
+    <message>
+        <source>Light letters on a dark ground</source>
+        <translation>Letras claras sobre fondo oscuro</translation>
+    </message>
+    <message>
+        <source>&amp;Help Topics</source>
+        <translation>&amp;Temas de ayuda</translation>
+    </message>
+    <message>
+        <source>Open the manual</source>
+        <translation>Abrir el manual</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>Te&amp;clas</translation>
+    </message>
+    <message>
+        <source>Show every key of the tool</source>
+        <translation>Mostrar todas las teclas de la herramienta</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>&amp;Acerca de...</translation>
+    </message>
+    <message>
+        <source>Version and interface language</source>
+        <translation>Versión e idioma de la interfaz</translation>
+    </message>
+</context>
+<context>
+    <name>ConsolePane</name>
+    <message>
+        <source>Server tree</source>
+        <translation>Árbol del servidor</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Procesos</translation>
+    </message>
+    <message>
+        <source>Log files</source>
+        <translation>Archivos de registro</translation>
+    </message>
+    <message>
+        <source>The tool is still finishing what was cancelled. One moment.</source>
+        <translation>La herramienta todavía está terminando lo que se canceló. Un momento.</translation>
+    </message>
+    <message>
+        <source>That did not work: %1. Press F5 to renew what is shown, and try again.</source>
+        <translation>No ha funcionado: %1. Pulse F5 para renovar lo que se muestra e inténtelo de nuevo.</translation>
+    </message>
+</context>
+<context>
+    <name>DetailsPane</name>
+    <message>
+        <source>Fields of the line</source>
+        <translation>Campos de la línea</translation>
+    </message>
+    <message>
+        <source>Trace of the line</source>
+        <translation>Traza de la línea</translation>
+    </message>
+    <message>
+        <source>Select a line to read all of it here.</source>
+        <translation>Seleccione una línea para leerla completa aquí.</translation>
+    </message>
+</context>
+<context>
+    <name>FilterBar</name>
+    <message>
+        <source>Only rows with this text</source>
+        <translation>Solo filas con este texto</translation>
+    </message>
+    <message>
+        <source>Filter by text</source>
+        <translation>Filtrar por texto</translation>
+    </message>
+    <message>
+        <source>hide &amp;matches</source>
+        <translation>&amp;ocultar coincidencias</translation>
+    </message>
+    <message>
+        <source>Hide the rows with the text instead of showing them</source>
+        <translation>Ocultar las filas con el texto en lugar de mostrarlas</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Mostrar todas</translation>
+    </message>
+    <message>
+        <source>Show every row again (Ctrl+Shift+A)</source>
+        <translation>Volver a mostrar todas las filas (Control+Mayúsculas+A)</translation>
+    </message>
+    <message>
+        <source>Close the filter bar and show every row (Esc)</source>
+        <translation>Cerrar la barra de filtro y mostrar todas las filas (Escape)</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 filas</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows</source>
+        <translation>%1 de %2 filas</translation>
+    </message>
+</context>
+<context>
+    <name>FilterButton</name>
+    <message>
+        <source>(none)</source>
+        <translation>(ninguno)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide the ticked ones</source>
+        <translation>&amp;Ocultar los marcados</translation>
+    </message>
+    <message>
+        <source>&amp;Untick all</source>
+        <translation>&amp;Desmarcar todos</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>todos</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 y %2 más</translation>
+    </message>
+    <message>
+        <source>not %1</source>
+        <translation>excepto %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 </source>
+        <translation>%1: %2 </translation>
+    </message>
+    <message>
+        <source>Filter by %1: %2</source>
+        <translation>Filtrar por %1: %2</translation>
+    </message>
+    <message>
+        <source>Show or hide rows by %1</source>
+        <translation>Mostrar u ocultar filas por %1</translation>
+    </message>
+</context>
+<context>
+    <name>FindBar</name>
+    <message>
+        <source>Fi&amp;nd:</source>
+        <translation>&amp;Buscar:</translation>
+    </message>
+    <message>
+        <source>Go to &amp;time:</source>
+        <translation>&amp;Ir a la hora:</translation>
+    </message>
+    <message>
+        <source>Text in any column</source>
+        <translation>Texto en cualquier columna</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>Texto que buscar</translation>
+    </message>
+    <message>
+        <source>such as 15:23:07</source>
+        <translation>p. ej., 15:23:07</translation>
+    </message>
+    <message>
+        <source>Time to go to</source>
+        <translation>Hora a la que ir</translation>
+    </message>
+    <message>
+        <source>Hits</source>
+        <translation>Coincidencias</translation>
+    </message>
+    <message>
+        <source>Find previous (Shift+F3)</source>
+        <translation>Buscar anterior (Mayúsculas+F3)</translation>
+    </message>
+    <message>
+        <source>Find next (F3)</source>
+        <translation>Buscar siguiente (F3)</translation>
+    </message>
+    <message>
+        <source>Close the find bar (Esc)</source>
+        <translation>Cerrar la barra de búsqueda (Escape)</translation>
+    </message>
+    <message>
+        <source>No hits</source>
+        <translation>Sin coincidencias</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1 hits</source>
+        <translation>%1 coincidencias</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help - Orvan Diagnostic Tool</source>
+        <translation>Ayuda - Herramienta de diagnóstico de Orvan</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Adelante</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Contenido</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Comando</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Tecla</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Qué hace</translation>
+    </message>
+    <message>
+        <source>In lists and pages</source>
+        <translation>En listas y páginas</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Intro</translation>
+    </message>
+    <message>
+        <source>Opens the log or the node of the current row</source>
+        <translation>Abre el registro o el nodo de la fila actual</translation>
+    </message>
+    <message>
+        <source>Open or close a node</source>
+        <translation>Abrir o cerrar un nodo</translation>
+    </message>
+    <message>
+        <source>Right, Left</source>
+        <translation>Derecha, Izquierda</translation>
+    </message>
+    <message>
+        <source>In a tree</source>
+        <translation>En un árbol</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>Marcar</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espacio</translation>
+    </message>
+    <message>
+        <source>Ticks or clears the current node of a page&apos;s tree</source>
+        <translation>Marca o desmarca el nodo actual del árbol de una página</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>Primera y última fila</translation>
+    </message>
+    <message>
+        <source>Home, End</source>
+        <translation>Inicio, Fin</translation>
+    </message>
+    <message>
+        <source>In a list</source>
+        <translation>En una lista</translation>
+    </message>
+    <message>
+        <source>Close find or filter</source>
+        <translation>Cerrar la búsqueda o el filtro</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Escape</translation>
+    </message>
+    <message>
+        <source>Closes the bar in which the cursor is</source>
+        <translation>Cierra la barra en la que está el cursor</translation>
+    </message>
+</context>
+<context>
+    <name>LogView</name>
+    <message>
+        <source>Log lines</source>
+        <translation>Líneas del registro</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in these lines.</source>
+        <translation>&quot;%1&quot; no está en estas líneas.</translation>
+    </message>
+    <message>
+        <source>Went on from the top.</source>
+        <translation>Se ha continuado desde el principio.</translation>
+    </message>
+    <message>
+        <source>Went on from the end.</source>
+        <translation>Se ha continuado desde el final.</translation>
+    </message>
+    <message>
+        <source>Type a time such as 15:23</source>
+        <translation>Escriba una hora, p. ej., 15:23</translation>
+    </message>
+    <message>
+        <source>No line at %1 or later</source>
+        <translation>Ninguna línea a las %1 o después</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Línea %1</translation>
+    </message>
+    <message>
+        <source>Line %1 is marked.</source>
+        <translation>La línea %1 está marcada.</translation>
+    </message>
+    <message>
+        <source>Line %1 is not marked any more.</source>
+        <translation>La línea %1 ya no está marcada.</translation>
+    </message>
+    <message>
+        <source>No line of this log is marked. Ctrl+B marks one.</source>
+        <translation>Ninguna línea de este registro está marcada. Control+B marca una.</translation>
+    </message>
+    <message>
+        <source>The marked lines are hidden by the filter.</source>
+        <translation>El filtro oculta las líneas marcadas.</translation>
+    </message>
+    <message>
+        <source>No line of this log is marked any more.</source>
+        <translation>Ya no hay ninguna línea marcada en este registro.</translation>
+    </message>
+    <message>
+        <source>&amp;Show only %1 %2</source>
+        <translation>&amp;Mostrar solo %1 %2</translation>
+    </message>
+    <message>
+        <source>&amp;Hide %1 %2</source>
+        <translation>&amp;Ocultar %1 %2</translation>
+    </message>
+    <message>
+        <source>&amp;Bookmark</source>
+        <translation>Marca&amp;dor</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>Copy as CS&amp;V</source>
+        <translation>Copiar como CS&amp;V</translation>
+    </message>
+    <message>
+        <source>Marked line %1: %2</source>
+        <translation>Línea marcada %1: %2</translation>
+    </message>
+    <message>
+        <source>Hit in line %1: %2</source>
+        <translation>Coincidencia en la línea %1: %2</translation>
+    </message>
+    <message>
+        <source>Error in line %1: %2</source>
+        <translation>Error en la línea %1: %2</translation>
+    </message>
+    <message>
+        <source>Warning in line %1: %2</source>
+        <translation>Advertencia en la línea %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>This site is read-only: logs can be read, but traces and settings cannot be changed. Make its folder writable, or open a copy.</source>
+        <translation>Este sitio es de solo lectura: se pueden leer los registros, pero no cambiar trazas ni configuración. Permita escribir en su carpeta o abra una copia.</translation>
+    </message>
+    <message>
+        <source>The site %1 is no longer there. Put the folder back and press F5, or open another site with Ctrl+Shift+O.</source>
+        <translation>El sitio %1 ya no existe. Restituya la carpeta y pulse F5, o abra otro sitio con Control+Mayúsculas+O.</translation>
+    </message>
+    <message>
+        <source>There is no catalogue for your language (%1) beside the tool, so its texts are in English. Choose another language in the about box (Ctrl+F1).</source>
+        <translation>No hay catálogo para su idioma (%1) junto a la herramienta, por lo que los textos están en inglés. Elija otro idioma en el cuadro Acerca de (Control+F1).</translation>
+    </message>
+    <message>
+        <source>Orvan Diagnostic Tool</source>
+        <translation>Herramienta de diagnóstico de Orvan</translation>
+    </message>
+    <message>
+        <source>1 row copied.</source>
+        <translation>1 fila copiada.</translation>
+    </message>
+    <message>
+        <source>%1 rows copied.</source>
+        <translation>%1 filas copiadas.</translation>
+    </message>
+    <message>
+        <source>Open Site: the folder of a server, with site.ini, registry.reg or drive_c</source>
+        <translation>Abrir sitio: la carpeta de un servidor, con site.ini, registry.reg o drive_c</translation>
+    </message>
+    <message>
+        <source>Make Sample Server in a New Folder</source>
+        <translation>Crear servidor de ejemplo en una carpeta nueva</translation>
+    </message>
+    <message>
+        <source>The gather is being ended. Close the window again in a moment.</source>
+        <translation>Se está terminando la recopilación. Vuelva a cerrar la ventana dentro de un momento.</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Sites</source>
+        <translation>Sitios &amp;recientes</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Barra de herramientas</translation>
+    </message>
+    <message>
+        <source>Tool &amp;Bar</source>
+        <translation>&amp;Barra de herramientas</translation>
+    </message>
+    <message>
+        <source>Show or hide the buttons below the menus</source>
+        <translation>Mostrar u ocultar los botones debajo de los menús</translation>
+    </message>
+    <message>
+        <source>No site is open.
+
+Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
+        <translation>No hay ningún sitio abierto.
+
+Abra uno con Control+Mayúsculas+O o cree un servidor de ejemplo con Control+Mayúsculas+N.</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>The site on show: %1</source>
+        <translation>El sitio mostrado: %1</translation>
+    </message>
+    <message>
+        <source>The gather is being ended. Try again in a moment.</source>
+        <translation>Se está terminando la recopilación. Vuelva a intentarlo dentro de un momento.</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeBar</name>
+    <message>
+        <source>Close this notice</source>
+        <translation>Cerrar este aviso</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)</source>
+        <translation>Registros de diagnóstico (diag_*.txt data_*.txt *.log);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Menos</translation>
+    </message>
+    <message>
+        <source>This site has no %1 to show.</source>
+        <translation>Este sitio no tiene ningún %1 que mostrar.</translation>
+    </message>
+    <message>
+        <source>The site %1 could not be opened: %2. Choose another one with Ctrl+Shift+O.</source>
+        <translation>No se ha podido abrir el sitio %1: %2. Elija otro con Control+Mayúsculas+O.</translation>
+    </message>
+    <message>
+        <source>The manual is not beside the tool. Install it again to read it.</source>
+        <translation>El manual no está junto a la herramienta. Vuelva a instalarlo para leerlo.</translation>
+    </message>
+    <message>
+        <source>it has no site.ini, registry.reg or drive_c in it</source>
+        <translation>no contiene site.ini, registry.reg ni drive_c</translation>
+    </message>
+    <message>
+        <source>No sample server could be made in %1: %2. Choose a new folder.</source>
+        <translation>No se ha podido crear un servidor de ejemplo en %1: %2. Elija una carpeta nueva.</translation>
+    </message>
+    <message>
+        <source>No sample server could be made in %1: %2. Choose another folder.</source>
+        <translation>No se ha podido crear un servidor de ejemplo en %1: %2. Elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>The site was not closed cleanly: %1. The language of its event log may not be the first one; open it again.</source>
+        <translation>El sitio no se ha cerrado correctamente: %1. Es posible que el idioma de su registro de eventos no sea el original; vuelva a abrirlo.</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Opciones</translation>
+    </message>
+</context>
+<context>
+    <name>SheetDialog</name>
+    <message>
+        <source>&lt; &amp;Back</source>
+        <translation>&lt; &amp;Atrás</translation>
+    </message>
+    <message>
+        <source>&amp;Next &gt;</source>
+        <translation>&amp;Siguiente &gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Finalizar</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>A&amp;plicar</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>That did not work: %1. Try again, or press Cancel.</source>
+        <translation>No ha funcionado: %1. Inténtelo de nuevo o pulse Cancelar.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,807 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Commands</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Action</source>
+        <translation>&amp;Action</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>Affic&amp;hage</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Thème</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aid&amp;e</translation>
+    </message>
+    <message>
+        <source>&amp;Open Site...</source>
+        <translation>&amp;Ouvrir un site...</translation>
+    </message>
+    <message>
+        <source>Work on another server, in a folder</source>
+        <translation>Travailler sur un autre serveur, dans un dossier</translation>
+    </message>
+    <message>
+        <source>Make &amp;Sample Server...</source>
+        <translation>&amp;Créer un serveur d&apos;exemple...</translation>
+    </message>
+    <message>
+        <source>Make a server to try things on, in a new folder</source>
+        <translation>Créer un serveur pour faire des essais, dans un nouveau dossier</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>Close the tool</source>
+        <translation>Fermer l&apos;outil</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>&amp;Actualiser</translation>
+    </message>
+    <message>
+        <source>Read again what is shown</source>
+        <translation>Relire ce qui est affiché</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows, one line each</source>
+        <translation>Copier les lignes sélectionnées, une ligne de texte pour chacune</translation>
+    </message>
+    <message>
+        <source>Copy as CS&amp;V</source>
+        <translation>Copier en CS&amp;V</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows with their headers, for a spreadsheet</source>
+        <translation>Copier les lignes sélectionnées avec leurs en-têtes, pour un tableur</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Select every row on show</source>
+        <translation>Sélectionner toutes les lignes affichées</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>&amp;Rechercher...</translation>
+    </message>
+    <message>
+        <source>Look for a text in the log</source>
+        <translation>Rechercher un texte dans le journal</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Rechercher le &amp;suivant</translation>
+    </message>
+    <message>
+        <source>Go to the next hit</source>
+        <translation>Aller à la correspondance suivante</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>Rechercher le &amp;précédent</translation>
+    </message>
+    <message>
+        <source>Go to the hit before</source>
+        <translation>Aller à la correspondance précédente</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Time...</source>
+        <translation>Atteindre l&apos;&amp;heure...</translation>
+    </message>
+    <message>
+        <source>Go to the line of a time of day</source>
+        <translation>Aller à la ligne d&apos;une heure de la journée</translation>
+    </message>
+    <message>
+        <source>F&amp;ilter...</source>
+        <translation>&amp;Filtrer...</translation>
+    </message>
+    <message>
+        <source>Show or hide lines by component, source, level or text</source>
+        <translation>Afficher ou masquer des lignes par composant, source, niveau ou texte</translation>
+    </message>
+    <message>
+        <source>Show A&amp;ll Rows</source>
+        <translation>&amp;Afficher toutes les lignes</translation>
+    </message>
+    <message>
+        <source>End the filter</source>
+        <translation>Supprimer le filtre</translation>
+    </message>
+    <message>
+        <source>&amp;Bookmark</source>
+        <translation>Si&amp;gnet</translation>
+    </message>
+    <message>
+        <source>Mark the current line, or take its mark away</source>
+        <translation>Marquer la ligne active ou enlever sa marque</translation>
+    </message>
+    <message>
+        <source>Next Boo&amp;kmark</source>
+        <translation>Signet suiva&amp;nt</translation>
+    </message>
+    <message>
+        <source>Go to the next marked line</source>
+        <translation>Aller à la ligne marquée suivante</translation>
+    </message>
+    <message>
+        <source>Previo&amp;us Bookmark</source>
+        <translation>Signet précé&amp;dent</translation>
+    </message>
+    <message>
+        <source>Go to the marked line before</source>
+        <translation>Aller à la ligne marquée précédente</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ear Bookmarks</source>
+        <translation>&amp;Effacer les signets</translation>
+    </message>
+    <message>
+        <source>Take every mark of this log away</source>
+        <translation>Enlever toutes les marques de ce journal</translation>
+    </message>
+    <message>
+        <source>&amp;Details</source>
+        <translation>&amp;Détails</translation>
+    </message>
+    <message>
+        <source>Show all of the current line below the log</source>
+        <translation>Afficher la ligne active en entier sous le journal</translation>
+    </message>
+    <message>
+        <source>&amp;Other Pane</source>
+        <translation>Autre &amp;volet</translation>
+    </message>
+    <message>
+        <source>Go from the tree to the view, or back</source>
+        <translation>Passer de l&apos;arborescence à la vue, ou inversement</translation>
+    </message>
+    <message>
+        <source>&amp;Larger Text</source>
+        <translation>Texte plus &amp;grand</translation>
+    </message>
+    <message>
+        <source>Show traces in larger letters</source>
+        <translation>Afficher les traces en plus gros caractères</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller Text</source>
+        <translation>Texte plus &amp;petit</translation>
+    </message>
+    <message>
+        <source>Show traces in smaller letters</source>
+        <translation>Afficher les traces en plus petits caractères</translation>
+    </message>
+    <message>
+        <source>&amp;Normal Text</source>
+        <translation>Texte &amp;normal</translation>
+    </message>
+    <message>
+        <source>Show traces in letters of the usual size</source>
+        <translation>Afficher les traces en caractères de taille habituelle</translation>
+    </message>
+    <message>
+        <source>As the &amp;Desktop</source>
+        <translation>Comme le &amp;bureau</translation>
+    </message>
+    <message>
+        <source>Light or dark as the desktop is</source>
+        <translation>Clair ou sombre, selon le bureau</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Clair</translation>
+    </message>
+    <message>
+        <source>Dark letters on a light ground</source>
+        <translation>Caractères sombres sur fond clair</translation>
+    </message>
+    <message>
+        <source>Da&amp;rk</source>
+        <translation>&amp;Sombre</translation>
+    </message>
+    <message>
+        <source>Light letters on a dark ground</source>
+        <translation>Caractères clairs sur fond sombre</translation>
+    </message>
+    <message>
+        <source>&amp;Help Topics</source>
+        <translation>&amp;Rubriques d&apos;aide</translation>
+    </message>
+    <message>
+        <source>Open the manual</source>
+        <translation>Ouvrir le manuel</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Touches</translation>
+    </message>
+    <message>
+        <source>Show every key of the tool</source>
+        <translation>Afficher toutes les touches de l&apos;outil</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>À &amp;propos...</translation>
+    </message>
+    <message>
+        <source>Version and interface language</source>
+        <translation>Version et langue de l&apos;interface</translation>
+    </message>
+</context>
+<context>
+    <name>ConsolePane</name>
+    <message>
+        <source>Server tree</source>
+        <translation>Arborescence du serveur</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Processus</translation>
+    </message>
+    <message>
+        <source>Log files</source>
+        <translation>Fichiers journaux</translation>
+    </message>
+    <message>
+        <source>The tool is still finishing what was cancelled. One moment.</source>
+        <translation>L&apos;outil termine encore ce qui a été annulé. Un instant.</translation>
+    </message>
+    <message>
+        <source>That did not work: %1. Press F5 to renew what is shown, and try again.</source>
+        <translation>Cela n&apos;a pas fonctionné&#xa0;: %1. Appuyez sur F5 pour actualiser l&apos;affichage, puis réessayez.</translation>
+    </message>
+</context>
+<context>
+    <name>DetailsPane</name>
+    <message>
+        <source>Fields of the line</source>
+        <translation>Champs de la ligne</translation>
+    </message>
+    <message>
+        <source>Trace of the line</source>
+        <translation>Trace de la ligne</translation>
+    </message>
+    <message>
+        <source>Select a line to read all of it here.</source>
+        <translation>Sélectionnez une ligne pour la lire ici en entier.</translation>
+    </message>
+</context>
+<context>
+    <name>FilterBar</name>
+    <message>
+        <source>Only rows with this text</source>
+        <translation>Uniquement les lignes contenant ce texte</translation>
+    </message>
+    <message>
+        <source>Filter by text</source>
+        <translation>Filtrer par texte</translation>
+    </message>
+    <message>
+        <source>hide &amp;matches</source>
+        <translation>&amp;masquer ces lignes</translation>
+    </message>
+    <message>
+        <source>Hide the rows with the text instead of showing them</source>
+        <translation>Masquer les lignes contenant le texte au lieu de les afficher</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message>
+        <source>Show every row again (Ctrl+Shift+A)</source>
+        <translation>Afficher de nouveau toutes les lignes (Ctrl+Maj+A)</translation>
+    </message>
+    <message>
+        <source>Close the filter bar and show every row (Esc)</source>
+        <translation>Fermer la barre de filtre et afficher toutes les lignes (Échap)</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 lignes</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows</source>
+        <translation>%1 lignes sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>FilterButton</name>
+    <message>
+        <source>(none)</source>
+        <translation>(aucun)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide the ticked ones</source>
+        <translation>&amp;Masquer les éléments cochés</translation>
+    </message>
+    <message>
+        <source>&amp;Untick all</source>
+        <translation>&amp;Tout décocher</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>tout</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 et %2 de plus</translation>
+    </message>
+    <message>
+        <source>not %1</source>
+        <translation>sauf %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 </source>
+        <translation>%1&#xa0;: %2 </translation>
+    </message>
+    <message>
+        <source>Filter by %1: %2</source>
+        <translation>Filtrer par %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Show or hide rows by %1</source>
+        <translation>Afficher ou masquer des lignes par %1</translation>
+    </message>
+</context>
+<context>
+    <name>FindBar</name>
+    <message>
+        <source>Fi&amp;nd:</source>
+        <translation>&amp;Rechercher&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Go to &amp;time:</source>
+        <translation>A&amp;tteindre l&apos;heure&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Text in any column</source>
+        <translation>Texte dans n&apos;importe quelle colonne</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>Texte à rechercher</translation>
+    </message>
+    <message>
+        <source>such as 15:23:07</source>
+        <translation>p. ex. 15:23:07</translation>
+    </message>
+    <message>
+        <source>Time to go to</source>
+        <translation>Heure à atteindre</translation>
+    </message>
+    <message>
+        <source>Hits</source>
+        <translation>Correspondances</translation>
+    </message>
+    <message>
+        <source>Find previous (Shift+F3)</source>
+        <translation>Rechercher le précédent (Maj+F3)</translation>
+    </message>
+    <message>
+        <source>Find next (F3)</source>
+        <translation>Rechercher le suivant (F3)</translation>
+    </message>
+    <message>
+        <source>Close the find bar (Esc)</source>
+        <translation>Fermer la barre de recherche (Échap)</translation>
+    </message>
+    <message>
+        <source>No hits</source>
+        <translation>Aucune correspondance</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1 hits</source>
+        <translation>%1 correspondances</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help - Orvan Diagnostic Tool</source>
+        <translation>Aide - Outil de diagnostic Orvan</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Touche</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Effet</translation>
+    </message>
+    <message>
+        <source>In lists and pages</source>
+        <translation>Dans les listes et les pages</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>Opens the log or the node of the current row</source>
+        <translation>Ouvre le journal ou le nœud de la ligne active</translation>
+    </message>
+    <message>
+        <source>Open or close a node</source>
+        <translation>Ouvrir ou fermer un nœud</translation>
+    </message>
+    <message>
+        <source>Right, Left</source>
+        <translation>Droite, Gauche</translation>
+    </message>
+    <message>
+        <source>In a tree</source>
+        <translation>Dans une arborescence</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>Cocher</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espace</translation>
+    </message>
+    <message>
+        <source>Ticks or clears the current node of a page&apos;s tree</source>
+        <translation>Coche ou décoche le nœud actif de l&apos;arborescence d&apos;une page</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>Première et dernière ligne</translation>
+    </message>
+    <message>
+        <source>Home, End</source>
+        <translation>Début, Fin</translation>
+    </message>
+    <message>
+        <source>In a list</source>
+        <translation>Dans une liste</translation>
+    </message>
+    <message>
+        <source>Close find or filter</source>
+        <translation>Fermer la recherche ou le filtre</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Échap</translation>
+    </message>
+    <message>
+        <source>Closes the bar in which the cursor is</source>
+        <translation>Ferme la barre dans laquelle se trouve le curseur</translation>
+    </message>
+</context>
+<context>
+    <name>LogView</name>
+    <message>
+        <source>Log lines</source>
+        <translation>Lignes du journal</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in these lines.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;apparaît pas dans ces lignes.</translation>
+    </message>
+    <message>
+        <source>Went on from the top.</source>
+        <translation>Recherche poursuivie depuis le début.</translation>
+    </message>
+    <message>
+        <source>Went on from the end.</source>
+        <translation>Recherche poursuivie depuis la fin.</translation>
+    </message>
+    <message>
+        <source>Type a time such as 15:23</source>
+        <translation>Saisissez une heure, p. ex. 15:23</translation>
+    </message>
+    <message>
+        <source>No line at %1 or later</source>
+        <translation>Aucune ligne à %1 ou plus tard</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Ligne %1</translation>
+    </message>
+    <message>
+        <source>Line %1 is marked.</source>
+        <translation>La ligne %1 est marquée.</translation>
+    </message>
+    <message>
+        <source>Line %1 is not marked any more.</source>
+        <translation>La ligne %1 n&apos;est plus marquée.</translation>
+    </message>
+    <message>
+        <source>No line of this log is marked. Ctrl+B marks one.</source>
+        <translation>Aucune ligne de ce journal n&apos;est marquée. Ctrl+B en marque une.</translation>
+    </message>
+    <message>
+        <source>The marked lines are hidden by the filter.</source>
+        <translation>Les lignes marquées sont masquées par le filtre.</translation>
+    </message>
+    <message>
+        <source>No line of this log is marked any more.</source>
+        <translation>Plus aucune ligne de ce journal n&apos;est marquée.</translation>
+    </message>
+    <message>
+        <source>&amp;Show only %1 %2</source>
+        <translation>Afficher &amp;uniquement %1 %2</translation>
+    </message>
+    <message>
+        <source>&amp;Hide %1 %2</source>
+        <translation>&amp;Masquer %1 %2</translation>
+    </message>
+    <message>
+        <source>&amp;Bookmark</source>
+        <translation>&amp;Signet</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Copy as CS&amp;V</source>
+        <translation>Copier en CS&amp;V</translation>
+    </message>
+    <message>
+        <source>Marked line %1: %2</source>
+        <translation>Ligne marquée %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Hit in line %1: %2</source>
+        <translation>Correspondance à la ligne %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Error in line %1: %2</source>
+        <translation>Erreur à la ligne %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Warning in line %1: %2</source>
+        <translation>Avertissement à la ligne %1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>This site is read-only: logs can be read, but traces and settings cannot be changed. Make its folder writable, or open a copy.</source>
+        <translation>Ce site est en lecture seule&#xa0;: les journaux peuvent être lus, mais les traces et les paramètres ne peuvent pas être modifiés. Autorisez l&apos;écriture dans son dossier, ou ouvrez une copie.</translation>
+    </message>
+    <message>
+        <source>The site %1 is no longer there. Put the folder back and press F5, or open another site with Ctrl+Shift+O.</source>
+        <translation>Le site %1 n&apos;existe plus. Remettez le dossier en place et appuyez sur F5, ou ouvrez un autre site avec Ctrl+Maj+O.</translation>
+    </message>
+    <message>
+        <source>There is no catalogue for your language (%1) beside the tool, so its texts are in English. Choose another language in the about box (Ctrl+F1).</source>
+        <translation>Il n&apos;y a pas de catalogue pour votre langue (%1) à côté de l&apos;outil, ses textes sont donc en anglais. Choisissez une autre langue dans la boîte À propos (Ctrl+F1).</translation>
+    </message>
+    <message>
+        <source>Orvan Diagnostic Tool</source>
+        <translation>Outil de diagnostic Orvan</translation>
+    </message>
+    <message>
+        <source>1 row copied.</source>
+        <translation>1 ligne copiée.</translation>
+    </message>
+    <message>
+        <source>%1 rows copied.</source>
+        <translation>%1 lignes copiées.</translation>
+    </message>
+    <message>
+        <source>Open Site: the folder of a server, with site.ini, registry.reg or drive_c</source>
+        <translation>Ouvrir un site&#xa0;: le dossier d&apos;un serveur, avec site.ini, registry.reg ou drive_c</translation>
+    </message>
+    <message>
+        <source>Make Sample Server in a New Folder</source>
+        <translation>Créer un serveur d&apos;exemple dans un nouveau dossier</translation>
+    </message>
+    <message>
+        <source>The gather is being ended. Close the window again in a moment.</source>
+        <translation>La collecte se termine. Fermez de nouveau la fenêtre dans un instant.</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Sites</source>
+        <translation>Sites &amp;récents</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>Barre d&apos;outils</translation>
+    </message>
+    <message>
+        <source>Tool &amp;Bar</source>
+        <translation>&amp;Barre d&apos;outils</translation>
+    </message>
+    <message>
+        <source>Show or hide the buttons below the menus</source>
+        <translation>Afficher ou masquer les boutons sous les menus</translation>
+    </message>
+    <message>
+        <source>No site is open.
+
+Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
+        <translation>Aucun site n&apos;est ouvert.
+
+Ouvrez-en un avec Ctrl+Maj+O, ou créez un serveur d&apos;exemple avec Ctrl+Maj+N.</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>The site on show: %1</source>
+        <translation>Le site affiché&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The gather is being ended. Try again in a moment.</source>
+        <translation>La collecte se termine. Réessayez dans un instant.</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeBar</name>
+    <message>
+        <source>Close this notice</source>
+        <translation>Fermer cet avis</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)</source>
+        <translation>Journaux de diagnostic (diag_*.txt data_*.txt *.log);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Moins</translation>
+    </message>
+    <message>
+        <source>This site has no %1 to show.</source>
+        <translation>Ce site n&apos;a pas de %1 à afficher.</translation>
+    </message>
+    <message>
+        <source>The site %1 could not be opened: %2. Choose another one with Ctrl+Shift+O.</source>
+        <translation>Le site %1 n&apos;a pas pu être ouvert&#xa0;: %2. Choisissez-en un autre avec Ctrl+Maj+O.</translation>
+    </message>
+    <message>
+        <source>The manual is not beside the tool. Install it again to read it.</source>
+        <translation>Le manuel ne se trouve pas à côté de l&apos;outil. Réinstallez-le pour le lire.</translation>
+    </message>
+    <message>
+        <source>it has no site.ini, registry.reg or drive_c in it</source>
+        <translation>il ne contient ni site.ini, ni registry.reg, ni drive_c</translation>
+    </message>
+    <message>
+        <source>No sample server could be made in %1: %2. Choose a new folder.</source>
+        <translation>Aucun serveur d&apos;exemple n&apos;a pu être créé dans %1&#xa0;: %2. Choisissez un nouveau dossier.</translation>
+    </message>
+    <message>
+        <source>No sample server could be made in %1: %2. Choose another folder.</source>
+        <translation>Aucun serveur d&apos;exemple n&apos;a pu être créé dans %1&#xa0;: %2. Choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The site was not closed cleanly: %1. The language of its event log may not be the first one; open it again.</source>
+        <translation>Le site n&apos;a pas été fermé correctement&#xa0;: %1. La langue de son journal des événements n&apos;est peut-être pas celle d&apos;origine&#xa0;; ouvrez-le de nouveau.</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Choix</translation>
+    </message>
+</context>
+<context>
+    <name>SheetDialog</name>
+    <message>
+        <source>&lt; &amp;Back</source>
+        <translation>&lt; &amp;Précédent</translation>
+    </message>
+    <message>
+        <source>&amp;Next &gt;</source>
+        <translation>&amp;Suivant &gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Terminer</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>A&amp;ppliquer</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>That did not work: %1. Try again, or press Cancel.</source>
+        <translation>Cela n&apos;a pas fonctionné&#xa0;: %1. Réessayez, ou cliquez sur Annuler.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,807 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>Commands</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Action</source>
+        <translation>操作(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>テーマ(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Open Site...</source>
+        <translation>サイトを開く(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Work on another server, in a folder</source>
+        <translation>フォルダー内の別のサーバーで作業します</translation>
+    </message>
+    <message>
+        <source>Make &amp;Sample Server...</source>
+        <translation>サンプル サーバーを作成(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Make a server to try things on, in a new folder</source>
+        <translation>試用するためのサーバーを新しいフォルダーに作成します</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Close the tool</source>
+        <translation>ツールを閉じます</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>最新の情報に更新(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Read again what is shown</source>
+        <translation>表示中の内容を読み直します</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows, one line each</source>
+        <translation>選択した行を 1 行ずつコピーします</translation>
+    </message>
+    <message>
+        <source>Copy as CS&amp;V</source>
+        <translation>CSV としてコピー(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Copy the selected rows with their headers, for a spreadsheet</source>
+        <translation>選択した行を見出しと一緒に表計算用にコピーします</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>すべて選択(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Select every row on show</source>
+        <translation>表示中のすべての行を選択します</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>検索(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Look for a text in the log</source>
+        <translation>ログ内の文字列を検索します</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>次を検索(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Go to the next hit</source>
+        <translation>次の一致箇所へ移動します</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>前を検索(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Go to the hit before</source>
+        <translation>前の一致箇所へ移動します</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Time...</source>
+        <translation>時刻へ移動(&amp;G)...</translation>
+    </message>
+    <message>
+        <source>Go to the line of a time of day</source>
+        <translation>指定した時刻の行へ移動します</translation>
+    </message>
+    <message>
+        <source>F&amp;ilter...</source>
+        <translation>フィルター(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>Show or hide lines by component, source, level or text</source>
+        <translation>コンポーネント、ソース、レベル、または文字列で行を表示または非表示にします</translation>
+    </message>
+    <message>
+        <source>Show A&amp;ll Rows</source>
+        <translation>すべての行を表示(&amp;L)</translation>
+    </message>
+    <message>
+        <source>End the filter</source>
+        <translation>フィルターを解除します</translation>
+    </message>
+    <message>
+        <source>&amp;Bookmark</source>
+        <translation>ブックマーク(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Mark the current line, or take its mark away</source>
+        <translation>現在の行にブックマークを付けるか、外します</translation>
+    </message>
+    <message>
+        <source>Next Boo&amp;kmark</source>
+        <translation>次のブックマーク(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Go to the next marked line</source>
+        <translation>次のブックマークの行へ移動します</translation>
+    </message>
+    <message>
+        <source>Previo&amp;us Bookmark</source>
+        <translation>前のブックマーク(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Go to the marked line before</source>
+        <translation>前のブックマークの行へ移動します</translation>
+    </message>
+    <message>
+        <source>Cl&amp;ear Bookmarks</source>
+        <translation>ブックマークをすべて解除(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Take every mark of this log away</source>
+        <translation>このログのブックマークをすべて外します</translation>
+    </message>
+    <message>
+        <source>&amp;Details</source>
+        <translation>詳細(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Show all of the current line below the log</source>
+        <translation>現在の行の全体をログの下に表示します</translation>
+    </message>
+    <message>
+        <source>&amp;Other Pane</source>
+        <translation>もう一方のペイン(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Go from the tree to the view, or back</source>
+        <translation>ツリーとビューの間を移動します</translation>
+    </message>
+    <message>
+        <source>&amp;Larger Text</source>
+        <translation>文字を大きく(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Show traces in larger letters</source>
+        <translation>トレースの文字を大きくします</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller Text</source>
+        <translation>文字を小さく(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Show traces in smaller letters</source>
+        <translation>トレースの文字を小さくします</translation>
+    </message>
+    <message>
+        <source>&amp;Normal Text</source>
+        <translation>標準の文字サイズ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Show traces in letters of the usual size</source>
+        <translation>トレースの文字を標準の大きさにします</translation>
+    </message>
+    <message>
+        <source>As the &amp;Desktop</source>
+        <translation>デスクトップに合わせる(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Light or dark as the desktop is</source>
+        <translation>デスクトップの明暗に合わせます</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>ライト(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Dark letters on a light ground</source>
+        <translation>明るい背景に暗い文字で表示します</translation>
+    </message>
+    <message>
+        <source>Da&amp;rk</source>
+        <translation>ダーク(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Light letters on a dark ground</source>
+        <translation>暗い背景に明るい文字で表示します</translation>
+    </message>
+    <message>
+        <source>&amp;Help Topics</source>
+        <translation>ヘルプ トピック(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Open the manual</source>
+        <translation>マニュアルを開きます</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>キー一覧(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Show every key of the tool</source>
+        <translation>ツールのすべてのキーを表示します</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>バージョン情報(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>Version and interface language</source>
+        <translation>バージョンと表示言語</translation>
+    </message>
+</context>
+<context>
+    <name>ConsolePane</name>
+    <message>
+        <source>Server tree</source>
+        <translation>サーバーのツリー</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>プロセス</translation>
+    </message>
+    <message>
+        <source>Log files</source>
+        <translation>ログ ファイル</translation>
+    </message>
+    <message>
+        <source>The tool is still finishing what was cancelled. One moment.</source>
+        <translation>キャンセルされた処理を終了しています。しばらくお待ちください。</translation>
+    </message>
+    <message>
+        <source>That did not work: %1. Press F5 to renew what is shown, and try again.</source>
+        <translation>操作を完了できませんでした: %1。F5 キーを押して表示を更新し、もう一度実行してください。</translation>
+    </message>
+</context>
+<context>
+    <name>DetailsPane</name>
+    <message>
+        <source>Fields of the line</source>
+        <translation>行の項目</translation>
+    </message>
+    <message>
+        <source>Trace of the line</source>
+        <translation>行のトレース</translation>
+    </message>
+    <message>
+        <source>Select a line to read all of it here.</source>
+        <translation>行を選択すると、その全体がここに表示されます。</translation>
+    </message>
+</context>
+<context>
+    <name>FilterBar</name>
+    <message>
+        <source>Only rows with this text</source>
+        <translation>この文字列を含む行のみ</translation>
+    </message>
+    <message>
+        <source>Filter by text</source>
+        <translation>文字列でフィルター</translation>
+    </message>
+    <message>
+        <source>hide &amp;matches</source>
+        <translation>一致する行を隠す(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Hide the rows with the text instead of showing them</source>
+        <translation>文字列を含む行を表示する代わりに非表示にします</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>すべて表示</translation>
+    </message>
+    <message>
+        <source>Show every row again (Ctrl+Shift+A)</source>
+        <translation>すべての行を再び表示します (Ctrl+Shift+A)</translation>
+    </message>
+    <message>
+        <source>Close the filter bar and show every row (Esc)</source>
+        <translation>フィルター バーを閉じて、すべての行を表示します (Esc)</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 行</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows</source>
+        <translation>%1 / %2 行</translation>
+    </message>
+</context>
+<context>
+    <name>FilterButton</name>
+    <message>
+        <source>(none)</source>
+        <translation>(なし)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide the ticked ones</source>
+        <translation>選択した項目を隠す(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Untick all</source>
+        <translation>すべて選択解除(&amp;U)</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 他 %2 件</translation>
+    </message>
+    <message>
+        <source>not %1</source>
+        <translation>%1 以外</translation>
+    </message>
+    <message>
+        <source>%1: %2 </source>
+        <translation>%1: %2 </translation>
+    </message>
+    <message>
+        <source>Filter by %1: %2</source>
+        <translation>%1 でフィルター: %2</translation>
+    </message>
+    <message>
+        <source>Show or hide rows by %1</source>
+        <translation>%1 で行を表示または非表示にします</translation>
+    </message>
+</context>
+<context>
+    <name>FindBar</name>
+    <message>
+        <source>Fi&amp;nd:</source>
+        <translation>検索(&amp;N):</translation>
+    </message>
+    <message>
+        <source>Go to &amp;time:</source>
+        <translation>時刻へ移動(&amp;T):</translation>
+    </message>
+    <message>
+        <source>Text in any column</source>
+        <translation>いずれかの列の文字列</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>検索する文字列</translation>
+    </message>
+    <message>
+        <source>such as 15:23:07</source>
+        <translation>例: 15:23:07</translation>
+    </message>
+    <message>
+        <source>Time to go to</source>
+        <translation>移動先の時刻</translation>
+    </message>
+    <message>
+        <source>Hits</source>
+        <translation>一致</translation>
+    </message>
+    <message>
+        <source>Find previous (Shift+F3)</source>
+        <translation>前を検索 (Shift+F3)</translation>
+    </message>
+    <message>
+        <source>Find next (F3)</source>
+        <translation>次を検索 (F3)</translation>
+    </message>
+    <message>
+        <source>Close the find bar (Esc)</source>
+        <translation>検索バーを閉じます (Esc)</translation>
+    </message>
+    <message>
+        <source>No hits</source>
+        <translation>一致なし</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 hits</source>
+        <translation>%1 件一致</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help - Orvan Diagnostic Tool</source>
+        <translation>ヘルプ - Orvan 診断ツール</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>マニュアル</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>進む</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>目次</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>キー一覧</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>動作</translation>
+    </message>
+    <message>
+        <source>In lists and pages</source>
+        <translation>リストとページ</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Opens the log or the node of the current row</source>
+        <translation>現在の行のログまたはノードを開きます</translation>
+    </message>
+    <message>
+        <source>Open or close a node</source>
+        <translation>ノードを開閉</translation>
+    </message>
+    <message>
+        <source>Right, Left</source>
+        <translation>→、←</translation>
+    </message>
+    <message>
+        <source>In a tree</source>
+        <translation>ツリーで使います</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>チェック</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Space</translation>
+    </message>
+    <message>
+        <source>Ticks or clears the current node of a page&apos;s tree</source>
+        <translation>ページのツリーで現在のノードのチェックを付けるか、外します</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>先頭の行と末尾の行</translation>
+    </message>
+    <message>
+        <source>Home, End</source>
+        <translation>Home、End</translation>
+    </message>
+    <message>
+        <source>In a list</source>
+        <translation>リストで使います</translation>
+    </message>
+    <message>
+        <source>Close find or filter</source>
+        <translation>検索またはフィルターを閉じる</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Closes the bar in which the cursor is</source>
+        <translation>カーソルのあるバーを閉じます</translation>
+    </message>
+</context>
+<context>
+    <name>LogView</name>
+    <message>
+        <source>Log lines</source>
+        <translation>ログの行</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in these lines.</source>
+        <translation>&quot;%1&quot; はこれらの行にありません。</translation>
+    </message>
+    <message>
+        <source>Went on from the top.</source>
+        <translation>先頭から検索を続けました。</translation>
+    </message>
+    <message>
+        <source>Went on from the end.</source>
+        <translation>末尾から検索を続けました。</translation>
+    </message>
+    <message>
+        <source>Type a time such as 15:23</source>
+        <translation>15:23 のように時刻を入力</translation>
+    </message>
+    <message>
+        <source>No line at %1 or later</source>
+        <translation>%1 以降の行はありません</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>行 %1</translation>
+    </message>
+    <message>
+        <source>Line %1 is marked.</source>
+        <translation>行 %1 にブックマークを付けました。</translation>
+    </message>
+    <message>
+        <source>Line %1 is not marked any more.</source>
+        <translation>行 %1 のブックマークを外しました。</translation>
+    </message>
+    <message>
+        <source>No line of this log is marked. Ctrl+B marks one.</source>
+        <translation>このログにブックマークはありません。Ctrl+B で付けることができます。</translation>
+    </message>
+    <message>
+        <source>The marked lines are hidden by the filter.</source>
+        <translation>ブックマークの行はフィルターで非表示になっています。</translation>
+    </message>
+    <message>
+        <source>No line of this log is marked any more.</source>
+        <translation>このログのブックマークをすべて外しました。</translation>
+    </message>
+    <message>
+        <source>&amp;Show only %1 %2</source>
+        <translation>%1 %2 のみ表示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide %1 %2</source>
+        <translation>%1 %2 を隠す(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Bookmark</source>
+        <translation>ブックマーク(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy as CS&amp;V</source>
+        <translation>CSV としてコピー(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Marked line %1: %2</source>
+        <translation>ブックマークの行 %1: %2</translation>
+    </message>
+    <message>
+        <source>Hit in line %1: %2</source>
+        <translation>一致する行 %1: %2</translation>
+    </message>
+    <message>
+        <source>Error in line %1: %2</source>
+        <translation>エラーの行 %1: %2</translation>
+    </message>
+    <message>
+        <source>Warning in line %1: %2</source>
+        <translation>警告の行 %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>This site is read-only: logs can be read, but traces and settings cannot be changed. Make its folder writable, or open a copy.</source>
+        <translation>このサイトは読み取り専用です。ログは読み取れますが、トレースと設定は変更できません。フォルダーを書き込み可能にするか、コピーを開いてください。</translation>
+    </message>
+    <message>
+        <source>The site %1 is no longer there. Put the folder back and press F5, or open another site with Ctrl+Shift+O.</source>
+        <translation>サイト %1 が見つからなくなりました。フォルダーを元に戻して F5 キーを押すか、Ctrl+Shift+O で別のサイトを開いてください。</translation>
+    </message>
+    <message>
+        <source>There is no catalogue for your language (%1) beside the tool, so its texts are in English. Choose another language in the about box (Ctrl+F1).</source>
+        <translation>お使いの言語 (%1) のカタログがツールと同じ場所にないため、英語で表示しています。バージョン情報 (Ctrl+F1) で別の言語を選択してください。</translation>
+    </message>
+    <message>
+        <source>Orvan Diagnostic Tool</source>
+        <translation>Orvan 診断ツール</translation>
+    </message>
+    <message>
+        <source>1 row copied.</source>
+        <translation>1 行をコピーしました。</translation>
+    </message>
+    <message>
+        <source>%1 rows copied.</source>
+        <translation>%1 行をコピーしました。</translation>
+    </message>
+    <message>
+        <source>Open Site: the folder of a server, with site.ini, registry.reg or drive_c</source>
+        <translation>サイトを開く: site.ini、registry.reg、または drive_c を含むサーバーのフォルダー</translation>
+    </message>
+    <message>
+        <source>Make Sample Server in a New Folder</source>
+        <translation>新しいフォルダーにサンプル サーバーを作成</translation>
+    </message>
+    <message>
+        <source>The gather is being ended. Close the window again in a moment.</source>
+        <translation>ログの収集を終了しています。しばらくしてから、もう一度ウィンドウを閉じてください。</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Sites</source>
+        <translation>最近使ったサイト(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Tool Bar</source>
+        <translation>ツール バー</translation>
+    </message>
+    <message>
+        <source>Tool &amp;Bar</source>
+        <translation>ツール バー(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Show or hide the buttons below the menus</source>
+        <translation>メニューの下のボタンを表示または非表示にします</translation>
+    </message>
+    <message>
+        <source>No site is open.
+
+Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
+        <translation>開いているサイトはありません。
+
+Ctrl+Shift+O でサイトを開くか、Ctrl+Shift+N でサンプル サーバーを作成してください。</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>The site on show: %1</source>
+        <translation>表示中のサイト: %1</translation>
+    </message>
+    <message>
+        <source>The gather is being ended. Try again in a moment.</source>
+        <translation>ログの収集を終了しています。しばらくしてから、もう一度実行してください。</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeBar</name>
+    <message>
+        <source>Close this notice</source>
+        <translation>この通知を閉じます</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)</source>
+        <translation>診断ログ (diag_*.txt data_*.txt *.log);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>増やす</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>減らす</translation>
+    </message>
+    <message>
+        <source>This site has no %1 to show.</source>
+        <translation>このサイトには、表示する %1 がありません。</translation>
+    </message>
+    <message>
+        <source>The site %1 could not be opened: %2. Choose another one with Ctrl+Shift+O.</source>
+        <translation>サイト %1 を開けませんでした: %2。Ctrl+Shift+O で別のサイトを選択してください。</translation>
+    </message>
+    <message>
+        <source>The manual is not beside the tool. Install it again to read it.</source>
+        <translation>マニュアルがツールと同じ場所にありません。読むには、もう一度インストールしてください。</translation>
+    </message>
+    <message>
+        <source>it has no site.ini, registry.reg or drive_c in it</source>
+        <translation>site.ini、registry.reg、drive_c のいずれもありません</translation>
+    </message>
+    <message>
+        <source>No sample server could be made in %1: %2. Choose a new folder.</source>
+        <translation>%1 にサンプル サーバーを作成できませんでした: %2。新しいフォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <source>No sample server could be made in %1: %2. Choose another folder.</source>
+        <translation>%1 にサンプル サーバーを作成できませんでした: %2。別のフォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <source>The site was not closed cleanly: %1. The language of its event log may not be the first one; open it again.</source>
+        <translation>サイトを正しく閉じられませんでした: %1。イベント ログの言語が元に戻っていない可能性があります。もう一度開いてください。</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>概要</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>選択肢</translation>
+    </message>
+</context>
+<context>
+    <name>SheetDialog</name>
+    <message>
+        <source>&lt; &amp;Back</source>
+        <translation>&lt; 戻る(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Next &gt;</source>
+        <translation>次へ(&amp;N) &gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>完了(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>適用(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>That did not work: %1. Try again, or press Cancel.</source>
+        <translation>操作を完了できませんでした: %1。もう一度実行するか、[キャンセル] をクリックしてください。</translation>
+    </message>
+</context>
+</TS>

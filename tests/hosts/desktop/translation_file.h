@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QFile>
+#include <QString>
+#include <QXmlStreamReader>
+
+#include <stdexcept>
+#include <vector>
+
+/// A text of the window in a file of translations.
+struct TranslatedText {
+    QString context;
+    QString source;
+    QString translation;
+    QString state; ///< empty for one that is finished
+};
+
+/// All texts of a file such as "de". Raises when it can't be read.
+inline std::vector<TranslatedText> translatedTexts(const char* code)
+{
+    QFile file(QStringLiteral(ORVAN_TRANSLATIONS "/window_%1.ts").arg(QLatin1String(code)));
+    if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error(file.errorString().toStdString());
+    QXmlStreamReader xml(&file);
+    std::vector<TranslatedText> texts;
+    QString context;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement) continue;
+        if (xml.name() == QLatin1String("name")) context = xml.readElementText();
+        if (xml.name() == QLatin1String("message")) texts.push_back({context, {}, {}, {}});
+        if (xml.name() == QLatin1String("source")) texts.back().source = xml.readElementText();
+        if (xml.name() != QLatin1String("translation")) continue;
+        texts.back().state = xml.attributes().value(QLatin1String("type")).toString();
+        texts.back().translation = xml.readElementText();
+    }
+    if (xml.hasError()) throw std::runtime_error(xml.errorString().toStdString());
+    return texts;
+}
