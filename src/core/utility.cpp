@@ -81,8 +81,8 @@ Date parseTimeText(std::string_view text)
 {
     const std::size_t blank = positionOf(text, " ", 3);
     if (blank > 0) return parseDate(text.substr(blank));
-    const std::size_t colon = text.rfind(':');
-    return parseDate(colon == std::string_view::npos ? "" : text.substr(0, colon));
+    const auto colon = static_cast<int>(text.rfind(':') + 1); // 0 when there is none
+    return parseDate(mid(text, 1, colon - 1));
 }
 
 Date toLocalTime(ToolContext& tool, Date moment)

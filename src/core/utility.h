@@ -27,7 +27,9 @@ std::string processNameFromFileName(std::string_view name);
 /// The number with zeros in front, `width` characters. Raises 5 when it is longer already.
 std::string padNumber(std::int32_t value, int width);
 
-/// The time of day that a log's time stamp names, on the zero date. Raises 13 for none.
+/// The time of day that a log's time stamp names, on the zero date: what follows its first blank
+/// behind the second character, else what stands before its last colon. Raises 13 when that is no
+/// date, and 5 for a stamp with neither.
 Date parseTimeText(std::string_view text);
 
 /// Universal time to local time by `g_timeZone`, to the second.

@@ -17,7 +17,7 @@ public:
     void startTime(Date created);
 
     /// The time of day of the line being read; kept from the line before when there is none.
-    /// Raises 13 for a stamp that names no time.
+    /// Raises 13 for a stamp that names no time, 5 for one without a blank and a colon.
     void readTime(std::string_view timeStamp);
 
     bool timeWentBack() const { return time_ < lastTime_; }

@@ -148,9 +148,15 @@ TEST(ParseTimeText, GivesTheTimeOnAZeroDate)
 
 TEST(ParseTimeText, ATextThatIsNoDateRaises13)
 {
-    for (const char* text : {"", "x", "15", "noon:00", "2005-10-08 noon", "no time at all",
-                             ":::", "   ", "25:00:00:000", "\xFF\xFE\xFD:\x01"})
+    for (const char* text : {"noon:00", "2005-10-08 noon", "no time at all", ":", ":::", "   ",
+                             "25:00:00:000", "\xFF\xFE\xFD:\x01"})
         EXPECT_EQ(13, errorOf([&] { parseTimeText(text); })) << text;
+}
+
+TEST(ParseTimeText, ATextWithoutAColonToEndBeforeRaises5)
+{
+    for (const char* text : {"", "x", "15", "1 ", "152307123"})
+        EXPECT_EQ(5, errorOf([&] { parseTimeText(text); })) << text;
 }
 
 TEST(ToLocalTime, FollowsTheZoneThatTheBiasWasReadFrom)

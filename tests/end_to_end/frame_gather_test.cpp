@@ -138,6 +138,20 @@ TEST_F(FrameGather, PacksTheDatabaseAndTheEventLogsAndCleansUp)
     EXPECT_EQ(read(database), read(extracted / database.filename()));
 }
 
+TEST_F(FrameGather, TwoInOneSecondIntoOneFolderBothFindTheirCabinet)
+{
+    std::set<std::string> cabinets;
+    bool shared = false;
+    for (int round = 0; round < 30 && !shared; ++round) {
+        const Outcome gathered = gather("2025-02-20 16:42", "1");
+        ASSERT_EQ(0, gathered.status) << gathered.err;
+        const auto cabinet = gathered.json()["cabinet"];
+        ASSERT_TRUE(cabinet.is_string());
+        shared = !cabinets.insert(cabinet.get<std::string>()).second;
+    }
+    EXPECT_TRUE(shared) << "no two of the gathers ended in one second";
+}
+
 TEST_F(FrameGather, AFrameWithoutLinesGivesADatabaseOfMacroTraces)
 {
     const Outcome gathered = run({"gather", "frame", "--from", "2001-01-01 00:00", "--hours", "1",
@@ -157,8 +171,11 @@ TEST_F(FrameGather, TellsHowManyRowsEachProcessHas)
     for (const auto& row : rowsOf(databaseIn(target), "tblTraces")) ++counts[row.at("Process")];
     ASSERT_EQ(5U, counts.size());
     EXPECT_THAT(gathered.out, HasSubstr(target.string()));
-    for (const auto& [process, count] : counts)
-        EXPECT_THAT(gathered.out, testing::ContainsRegex(process + " +[0-9,]+\n")) << count;
+    for (const auto& [process, count] : counts) {
+        std::string shown = std::to_string(count);
+        if (count >= 1'000) shown.insert(shown.size() - 3, ",");
+        EXPECT_THAT(gathered.out, testing::ContainsRegex(process + " +" + shown + "\n"));
+    }
 }
 
 TEST_F(FrameGather, RefusesWhatIsNoFrameAndChangesNothing)
@@ -241,6 +258,23 @@ TEST_F(FrameGather, TellsOfALogThatHasTooManyMalformedLines)
     EXPECT_THAT(gathered.err,
                 HasSubstr("diag_Odd_20250101_000000.txt has too many malformed lines"));
     EXPECT_EQ(11U, rowsOf(databaseIn(target), "tblTraces").size());
+}
+
+TEST_F(FrameGather, ADestinationThatVanishesIsToldAsGone)
+{
+    std::string content;
+    for (int line = 0; line < 300'000; ++line) content += "15:23:07:123,Conv,1,CallFlow,2,good\n";
+    write(drive("KelmaOrvan/Logs/diag_Odd_20250101_000000.txt"), content);
+    const Outcome gone =
+        runProgram({"bash", "-c",
+                    "'" ORVANDIAG_PROGRAM "' --site '" + site.string() +
+                        "' gather frame --from '2025-01-01 00:00' --hours 24 --to '" +
+                        target.string() + "' & gather=$!; until [ -s '" + target.string() +
+                        "'/*.mdb ] || ! kill -0 $gather; do :; done; rm -r '" + target.string() +
+                        "'; wait $gather"});
+    EXPECT_EQ(1, gone.status);
+    EXPECT_EQ("", gone.out);
+    EXPECT_THAT(gone.err, HasSubstr("the destination " + target.string() + " has gone"));
 }
 
 TEST_F(FrameGather, AKilledOneLeavesADatabaseThatHoldsAnExactPrefix)

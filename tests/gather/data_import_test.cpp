@@ -136,6 +136,15 @@ TEST(ProcessOrvanDataFileToDB, NoNumberOfErrorsEndsTheFile)
         << "without a line number";
 }
 
+TEST(ProcessOrvanDataFileToDB, AMalformedLineIsToldAsItStandsAndStillARow)
+{
+    DataTool tool;
+    tool.withLog(file, morning, {"2005-10-08 22:00:00,S,1,first", "nothing"});
+    tool.importData(file);
+    EXPECT_EQ((Texts{"10/8/2005 15:00:00:000", "10/8/2005 nothing"}), tool.column("Date"));
+    EXPECT_TRUE(tool.logged("Could not format: nothing"));
+}
+
 TEST(ProcessOrvanDataFileToDB, Error5IsAWarningUnderTheFirstImportersName)
 {
     DataTool tool;

@@ -155,6 +155,22 @@ TEST(DatabaseGather, ASecondOneWritesTheFiltersOfTheFirstToo)
     EXPECT_EQ(3U, tool.rows("tblUniqueFilters")) << "one, and then two";
 }
 
+TEST(DatabaseGather, ASecondOneKeepsTheFirstOnesValuesOfAKey)
+{
+    FrameTool tool;
+    tool.withLog("diag_A_1.txt", "15:23:07:123,A_7_S,1,X,7,x\r\n").gatherFrame();
+    tool.files.with("C:\\Logs\\diag_A_1.txt", "15:23:07:123,S,1,X_A_7,7,x\r\n")
+        .created("C:\\Logs\\diag_A_1.txt", morning);
+    tool.gatherFrame();
+    const FakeTraceRow filter = {{"qrvIndex", "X_A_7_A_7_S"},
+                                 {"Process", "A"},
+                                 {"Source", "A_7_S"},
+                                 {"Component", "X"},
+                                 {"TraceLevel", "7"}};
+    EXPECT_EQ((std::vector<FakeTraceRow>{filter, filter}),
+              tool.traceDatabases.rows("tblUniqueFilters"));
+}
+
 TEST(DatabaseGather, AStandardOneAfterwardsLeavesItsPath)
 {
     FrameTool tool;

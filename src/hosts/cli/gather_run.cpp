@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <map>
 
 #include <unistd.h>
 
@@ -54,6 +55,17 @@ std::string currentLog(const TreeView& steps)
     return {};
 }
 
+/// When each cabinet in a folder was written.
+std::map<std::string, fs::file_time_type> cabinetsIn(const fs::path& folder)
+{
+    std::map<std::string, fs::file_time_type> cabinets;
+    std::error_code none;
+    for (const auto& entry : fs::directory_iterator(folder, none))
+        if (entry.path().extension() == ".cab")
+            cabinets[entry.path().filename().string()] = entry.last_write_time(none);
+    return cabinets;
+}
+
 std::vector<std::string> sortedNames(const fs::path& folder)
 {
     std::vector<std::string> names;
@@ -64,13 +76,14 @@ std::vector<std::string> sortedNames(const fs::path& folder)
     return names;
 }
 
-/// Finds what a database gather made; a part that is missing is a failure.
+/// Finds what a database gather made; a part that is missing is a failure. A cabinet may have been
+/// written over that of a gather in the same second.
 void findResults(GatherResult& result, const std::string& database,
-                 const std::vector<std::string>& before)
+                 const std::map<std::string, fs::file_time_type>& before)
 {
-    for (const auto& name : result.files) {
-        const bool made = !std::binary_search(before.begin(), before.end(), name);
-        if (made && fs::path(name).extension() == ".cab")
+    for (const auto& [name, written] : cabinetsIn(result.destination)) {
+        const auto known = before.find(name);
+        if (known == before.end() || known->second != written)
             result.cabinet = result.destination + "/" + name;
     }
     std::error_code none;
@@ -88,8 +101,10 @@ public:
         : tool_(tool), progress_(wizard.currentStep(), wizard.current(), wizard.overall())
     {
         tool.context().onTrappedError = [&](const RunTimeError& error, std::string_view procName) {
-            if (!result.failure && costsAResult(error, procName))
-                result.failure = failureText(error, currentLog(wizard.steps()));
+            if (result.failure || !costsAResult(error, procName)) return;
+            result.failure = failureText(error, currentLog(wizard.steps()));
+            result.destinationMade = procName != "[mdlLogs]processLogs" ||
+                                     fs::is_directory(tool_.machinePath(wizard.destination()));
         };
         tool.desktop().beforeMessage([this] { progress_.clear(); });
         tool.desktop().onPump([this, &wizard, &result] {
@@ -139,7 +154,7 @@ void requireUsableDestination(OpenTool& tool, const std::string& destination)
 GatherResult runGather(OpenTool& tool, GatherWizard& wizard)
 {
     GatherResult result;
-    const auto before = sortedNames(tool.machinePath(wizard.destination()));
+    const auto before = cabinetsIn(tool.machinePath(wizard.destination()));
     {
         const RunWatch watch(tool, wizard, result);
         wizard.run();
@@ -175,7 +190,8 @@ void report(Output& output, const GatherResult& result)
     };
     if (result.failure && !fs::is_directory(result.destination))
         throw CommandFailure("the destination " + result.destination +
-                             " can't be made: " + *result.failure);
+                             (result.destinationMade ? " has gone: " : " can't be made: ") +
+                             *result.failure);
     if (output.json()) {
         output.value({{"destination", result.destination},
                       {"database", orNull(result.database)},

@@ -16,6 +16,7 @@ struct GatherResult {
     std::optional<std::string> cabinet;
     std::vector<std::string> files;     ///< names in the destination, sorted
     std::optional<std::string> failure; ///< why something is missing
+    bool destinationMade = true;        ///< false when the run began without one
     bool cancelled = false;
 };
 
