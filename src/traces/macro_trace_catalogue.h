@@ -20,8 +20,9 @@ void initMacroTraces(ToolContext& tool);
 void appendEnabledAttribute(ToolContext& tool, const XmlElementPtr& traceElement,
                             const std::string& groupName, const std::string& traceName);
 
-/// Adds a row for each definition file: `Name` without the folder, `Data` the whole text. Raises
-/// what reading and adding raise; 62 for an empty file.
+/// Adds a row for each definition file: `Name` without the folder, `Data` the whole text, which is
+/// UTF-8 or else in the server's code page. Raises what reading and adding raise; 62 for an empty
+/// file.
 void storeMacroTraceFiles(ToolContext& tool, TraceRecordset& target);
 
 } // namespace mdlTraces

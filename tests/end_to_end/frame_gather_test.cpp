@@ -122,6 +122,19 @@ TEST_F(FrameGather, StoresTheFiltersAndTheMacroTracesOnce)
     EXPECT_GT(definitions, 0U);
 }
 
+TEST_F(FrameGather, StoresADefinitionInTheServersCodePageByItsCharacters)
+{
+    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
+    const std::string head = "<?xml version='1.0' encoding='windows-1252'?><GA NAME='Caf";
+    const std::string tail = "'/>\r\n";
+    write(drive("OrvanDiagnostics/ZMKXML/HTcafe.xml"), head + "\xE9 \x80" + tail);
+    ASSERT_EQ(0, gather("2025-02-20 16:42", "1").status);
+    std::string stored;
+    for (const auto& row : nodeRows(databaseIn(target), "tblMacroTraces"))
+        if (row.at("Name") == "HTcafe.xml") stored = row.at("Data");
+    EXPECT_EQ(head + "\xC3\xA9 \xE2\x82\xAC" + tail, stored);
+}
+
 TEST_F(FrameGather, PacksTheDatabaseAndTheEventLogsAndCleansUp)
 {
     const auto result = gather("2025-02-20 16:42", "1").json();

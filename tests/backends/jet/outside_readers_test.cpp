@@ -115,14 +115,23 @@ const Shape shapes[] = {
     {"a page full to its end", fillAPageToItsEnd},
 };
 
+std::string schemaOf(const ScratchDatabase& scratch)
+{
+    return outputOf("mdb-schema '" + scratch.path().string() + "'");
+}
+
 TEST(OutsideReaders, FindEveryShapeOfDatabaseWhole)
 {
+    const std::string schema = schemaOf(ScratchDatabase());
     for (const auto& shape : shapes) {
         SCOPED_TRACE(shape.name);
         ScratchDatabase scratch;
         auto engine = machineEngine();
         shape.fill(*engine.openDatabase(scratch.path().string()));
         EXPECT_EQ("", problemsOf(scratch.path()));
+        EXPECT_EQ("tblTraces\ntblMacroTraces\ntblUniqueFilters\n",
+                  outputOf("mdb-tables -1 '" + scratch.path().string() + "'"));
+        EXPECT_EQ(schema, schemaOf(scratch));
         for (const char* table : {"tblTraces", "tblMacroTraces", "tblUniqueFilters"}) {
             SCOPED_TRACE(table);
             const auto rows = scratch.rows(table);
@@ -130,6 +139,9 @@ TEST(OutsideReaders, FindEveryShapeOfDatabaseWhole)
             EXPECT_EQ("", firstDifference(rows, nodeRows(scratch.path(), table)));
             EXPECT_EQ("", firstDifference(filled, exportedRows(scratch.path(), table)));
             EXPECT_EQ("", firstDifference(filled, jsonRows(scratch.path(), table)));
+            EXPECT_EQ("\n" + std::to_string(rows.size()) + "\n",
+                      outputOf("echo 'select count(*) from " + std::string(table) +
+                               "' | mdb-sql -HFP '" + scratch.path().string() + "'"));
         }
     }
 }
@@ -144,6 +156,14 @@ TEST(OutsideReaders, FindAMemoOfAMillionCharacters)
     const std::vector<TextRow> expected = {{{"Data", text}, {"Name", "long"}}};
     EXPECT_EQ("", firstDifference(expected, scratch.rows("tblMacroTraces")));
     EXPECT_EQ("", firstDifference(expected, nodeRows(scratch.path(), "tblMacroTraces")));
+    // mdbtools shows the head of a text that is longer than its buffer.
+    for (const auto& rows : {exportedRows(scratch.path(), "tblMacroTraces"),
+                             jsonRows(scratch.path(), "tblMacroTraces")}) {
+        ASSERT_EQ(1U, rows.size());
+        const std::string& head = rows[0].at("Data");
+        EXPECT_GT(head.size(), 65'536U);
+        EXPECT_EQ(text.substr(0, head.size()), head);
+    }
 }
 
 TEST(OutsideReaders, FindACharacterBeyondTheFirst65536)
