@@ -103,7 +103,11 @@ void DesktopServices::pumpMessages()
 
 int DesktopServices::showHelp(const std::string&, int topic)
 {
-    if (!help_) help_ = std::make_unique<HelpWindow>();
+    if (!help_) {
+        help_ = std::make_unique<HelpWindow>();
+        // The program ends with its own window, though the manual may still be open.
+        help_->setAttribute(Qt::WA_QuitOnClose, false);
+    }
     if (!help_->open(QString::fromStdString(manual_), topic)) {
         if (manualMissing_) manualMissing_();
         return 0;

@@ -161,7 +161,9 @@ void ListTable::goTo(int row)
 {
     if (row < 0 || row >= rows_.rowCount()) return;
     const int column = std::max(0, currentIndex().column());
-    setCurrentIndex(rows_.index(row, column));
+    // Not by the view, which would add to the selection while Shift or Ctrl of a key is down.
+    selectionModel()->setCurrentIndex(
+        rows_.index(row, column), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     scrollTo(currentIndex(), PositionAtCenter);
 }
 

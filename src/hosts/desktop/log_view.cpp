@@ -127,7 +127,7 @@ void LogView::show(ListView& list, const QString& log)
     };
     bookmarks_.emplace(settings_, log, timeOfLine);
     showBookmarks();
-    if (model_.rowCount() > 0) table_->setCurrentIndex(model_.index(0, 0));
+    table_->goTo(0);
     details_->show(model_, table_->currentIndex().row());
 }
 

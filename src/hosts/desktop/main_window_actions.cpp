@@ -71,7 +71,7 @@ void MainWindow::makeMenus()
     menus_[CommandMenu::view]->addMenu(menus_[CommandMenu::theme]);
     recent_ = new QMenu(this);
     menus_[CommandMenu::file]->insertMenu(actions_[Command::makeSample], recent_);
-    connect(recent_, &QMenu::aboutToShow, this, &MainWindow::rebuildRecentSites);
+    connect(menus_[CommandMenu::file], &QMenu::aboutToShow, this, &MainWindow::rebuildRecentSites);
     connect(menus_[CommandMenu::action], &QMenu::aboutToShow, this,
             &MainWindow::rebuildConsoleItems);
     rebuildRecentSites();

@@ -32,6 +32,8 @@ QApplication& testApplication()
     Q_UNUSED(messages)
     // Never destroyed: Qt's own statics are gone when those of a program go.
     static QApplication* const application = new QApplication(count, arguments);
+    // The last window of a test is not the end of the program.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
     static const bool themed = (theme::apply(theme::Scheme::light), true);
     Q_UNUSED(themed)
     return *application;
