@@ -129,11 +129,19 @@ void MainWindow::connectPane()
         updateActions();
         updateTitle();
     });
-    connect(pane_, &ConsolePane::callDone, this, &MainWindow::checkSite);
+    connect(pane_, &ConsolePane::callDone, this, &MainWindow::afterCall);
     connect(pane_, &ConsolePane::treeMenuAsked, this, [this](const QPoint& at) {
         rebuildConsoleItems();
         menus_[CommandMenu::action]->popup(at);
     });
+}
+
+void MainWindow::afterCall()
+{
+    checkSite();
+    // Not from within the call of a dialog or a view that goes with the window.
+    if (closing_ && !pane_->sheetAtWork())
+        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
 
 void MainWindow::checkSite()
@@ -369,11 +377,12 @@ void MainWindow::closeEvent(QCloseEvent* event)
 {
     if (pane_ && pane_->sheetAtWork()) {
         // The work below would go on with controls that have gone.
+        closing_ = true;
         if (pane_->sheet()) pane_->sheet()->reject();
-        statusBar()->showMessage(tr("The gather is being ended. Close the window again in a "
-                                    "moment."));
+        statusBar()->showMessage(tr("The gather is being ended. The window closes in a moment."));
         return event->ignore();
     }
+    closing_ = false;
     settings_.setValue(geometryKey, saveGeometry());
     settings_.setValue(stateKey, saveState());
     QMainWindow::closeEvent(event);

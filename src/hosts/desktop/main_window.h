@@ -66,6 +66,7 @@ private:
     void rebuildRecentSites();
     void updateActions();
     void updateTitle();
+    void afterCall();
     void checkSite();
     void showTexts();
     void followLanguage();
@@ -92,6 +93,7 @@ private:
     QToolBar* toolBar_ = nullptr;
     std::map<CommandMenu, QMenu*> menus_;
     QMenu* recent_ = nullptr;
+    bool closing_ = false; ///< as soon as the work at hand is done
     std::map<Command, QAction*> actions_;
     std::map<std::string, QAction*> consoleActions_;
 };
