@@ -75,12 +75,11 @@ struct TraceJourney : testing::Test {
 
 TEST_F(TraceJourney, AMacroTraceGoesOnAndOffAgain)
 {
+    const std::string signal =
+        site.registryValue("RoLogMgr\\BroadCast", "Diagnostic Grid Time Set");
     // Off by default: switching off flips, so a level that was on before would go with it.
     reset();
     const auto before = site.flags();
-    const std::string signal =
-        site.registryValue("RoLogMgr\\BroadCast", "Diagnostic Grid Time Set");
-
     EXPECT_THAT(turnMacroTrace(), HasSubstr("enabled:\n        Call Flow - Transfers"));
     EXPECT_EQ("dword:00000001", recorded());
     EXPECT_TRUE(told(macroTrace));
