@@ -659,8 +659,8 @@
         <translation>Beispielserver in einem neuen Ordner anlegen</translation>
     </message>
     <message>
-        <source>The gather is being ended. Close the window again in a moment.</source>
-        <translation>Das Sammeln wird beendet. Schließen Sie das Fenster gleich noch einmal.</translation>
+        <source>The gather is being ended. The window closes in a moment.</source>
+        <translation>Das Sammeln wird beendet. Das Fenster schließt sich gleich.</translation>
     </message>
     <message>
         <source>&amp;Recent Sites</source>

@@ -659,8 +659,8 @@
         <translation>Crear servidor de ejemplo en una carpeta nueva</translation>
     </message>
     <message>
-        <source>The gather is being ended. Close the window again in a moment.</source>
-        <translation>Se está terminando la recopilación. Vuelva a cerrar la ventana dentro de un momento.</translation>
+        <source>The gather is being ended. The window closes in a moment.</source>
+        <translation>Se está terminando la recopilación. La ventana se cerrará dentro de un momento.</translation>
     </message>
     <message>
         <source>&amp;Recent Sites</source>

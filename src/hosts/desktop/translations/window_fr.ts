@@ -659,8 +659,8 @@
         <translation>Créer un serveur d&apos;exemple dans un nouveau dossier</translation>
     </message>
     <message>
-        <source>The gather is being ended. Close the window again in a moment.</source>
-        <translation>La collecte se termine. Fermez de nouveau la fenêtre dans un instant.</translation>
+        <source>The gather is being ended. The window closes in a moment.</source>
+        <translation>La collecte se termine. La fenêtre se fermera dans un instant.</translation>
     </message>
     <message>
         <source>&amp;Recent Sites</source>

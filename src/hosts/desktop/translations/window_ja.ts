@@ -659,8 +659,8 @@
         <translation>新しいフォルダーにサンプル サーバーを作成</translation>
     </message>
     <message>
-        <source>The gather is being ended. Close the window again in a moment.</source>
-        <translation>ログの収集を終了しています。しばらくしてから、もう一度ウィンドウを閉じてください。</translation>
+        <source>The gather is being ended. The window closes in a moment.</source>
+        <translation>ログの収集を終了しています。ウィンドウはまもなく閉じます。</translation>
     </message>
     <message>
         <source>&amp;Recent Sites</source>
