@@ -272,6 +272,7 @@ void ConsolePane::sheetShown(OpenSheet& sheet)
         new SheetDialog(std::static_pointer_cast<OpenSheet>(sheet.shared_from_this()), this);
     sheet_ = dialog;
     connect(dialog, &SheetDialog::over, this, &ConsolePane::callDone);
+    connect(dialog, &SheetDialog::helpAsked, this, &ConsolePane::helpAsked);
     if (!sheet.closed()) dialog->show();
 }
 

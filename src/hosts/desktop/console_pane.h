@@ -67,6 +67,7 @@ signals:
     void failed(const Sentence& sentence);
     void viewChanged();
     void callDone();
+    void helpAsked(int topic);
     void treeMenuAsked(const QPoint& globalPlace);
 
 private:

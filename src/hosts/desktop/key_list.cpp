@@ -59,6 +59,8 @@ KeyList::KeyList(QMainWindow& window, QWidget* parent) : QDialog(parent)
     add(tr("Open"), tr("Enter"), tr("Opens the log or the node of the current row"));
     add(tr("Open or close a node"), tr("Right, Left"), tr("In a tree"));
     add(tr("Tick"), tr("Space"), tr("Ticks or clears the current node of a page's tree"));
+    add(tr("Help on a page"), QStringLiteral("F1"),
+        tr("In a wizard or a sheet, and in the about box"));
     add(tr("First and last row"), tr("Home, End"), tr("In a list"));
     add(tr("Close find or filter"), tr("Esc"), tr("Closes the bar in which the cursor is"));
     inLists->setExpanded(true);

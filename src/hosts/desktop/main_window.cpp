@@ -2,6 +2,7 @@
 
 #include "hosts/desktop/about_dialog.h"
 #include "hosts/desktop/console_pane.h"
+#include "hosts/desktop/help_topics.h"
 #include "hosts/desktop/icons.h"
 #include "hosts/desktop/key_list.h"
 #include "hosts/desktop/list_table.h"
@@ -13,6 +14,7 @@
 #include "hosts/desktop/theme.h"
 #include "settings/about_box.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
@@ -130,6 +132,7 @@ void MainWindow::connectPane()
         updateTitle();
     });
     connect(pane_, &ConsolePane::callDone, this, &MainWindow::afterCall);
+    connect(pane_, &ConsolePane::helpAsked, this, &MainWindow::helpAsked);
     connect(pane_, &ConsolePane::treeMenuAsked, this, [this](const QPoint& at) {
         rebuildConsoleItems();
         menus_[CommandMenu::action]->popup(at);
@@ -229,7 +232,7 @@ void MainWindow::run(Command command)
         close();
         return;
     case Command::help:
-        if (!pane_) return void(emit helpAsked(0));
+        if (!pane_) return void(emit helpAsked(helpTopic::contents));
         return pane_->perform([](Console& console) { console.helpOnSnapIn(); });
     case Command::keys:
         return showKeys();
@@ -366,6 +369,12 @@ void MainWindow::showAbout()
     frmAbout& form = tool_->snapIn().showAbout();
     AboutDialog about(form, this);
     connect(&about, &AboutDialog::formShown, this, &MainWindow::followLanguage);
+    // Modal to this window alone, so that the manual can be read beside it.
+    about.setWindowModality(Qt::WindowModal);
+    QAction help;
+    help.setShortcut(QKeySequence(Qt::Key_F1));
+    connect(&help, &QAction::triggered, this, [this] { emit helpAsked(helpTopic::about); });
+    about.addAction(&help);
     about.exec();
     // The person may have chosen another language there.
     rebuildConsoleItems();

@@ -1,11 +1,13 @@
 #include "hosts/desktop/sheet_dialog.h"
 
+#include "hosts/desktop/help_topics.h"
 #include "hosts/desktop/notice_bar.h"
 #include "hosts/desktop/page_widget.h"
 #include "platform/plain_sheet.h"
 #include "platform/wizard_sheet.h"
 #include "runtime/run_time_error.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -48,6 +50,11 @@ SheetDialog::SheetDialog(std::shared_ptr<OpenSheet> sheet, QWidget* parent)
         tabs_->addTab(QString::fromStdString(sheet_->pageTitle(place)));
     tabs_->setVisible(sheet_->plainSheet() && sheet_->pageCount() > 1);
     makeButtons();
+    auto* help = new QAction(this);
+    help->setShortcut(QKeySequence(Qt::Key_F1));
+    connect(help, &QAction::triggered, this,
+            [this] { emit helpAsked(helpTopic::ofPage(sheet_->currentPage().name())); });
+    addAction(help);
     sheet_->observe(this);
     connect(tabs_, &QTabBar::currentChanged, this, [this](int tab) {
         if (sheet_->plainSheet() && tab + 1 != sheet_->currentPlace())

@@ -34,6 +34,9 @@ signals:
     /// The sheet is closed and none of its pages is at work.
     void over();
 
+    /// The person asks for help on the page on show, by its topic in the manual.
+    void helpAsked(int topic);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 

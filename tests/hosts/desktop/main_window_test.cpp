@@ -1,10 +1,12 @@
 #include "hosts/desktop/main_window.h"
 
 #include "hosts/desktop/about_dialog.h"
+#include "hosts/desktop/help_topics.h"
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_view.h"
 #include "hosts/desktop/program.h"
 #include "hosts/desktop/recent_sites.h"
+#include "hosts/desktop/sheet_dialog.h"
 #include "hosts/desktop/task_pad_view.h"
 #include "hosts/desktop/test_window.h"
 #include "hosts/desktop/theme.h"
@@ -15,6 +17,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QClipboard>
+#include <QFile>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -442,6 +445,51 @@ TEST(Help, TheKeyAsksTheToolWhichShowsItsManual)
     shown.window->run(Command::help);
     ASSERT_EQ(1U, shown.desktop.helpShown().size());
     EXPECT_THAT(shown.desktop.helpShown()[0].file, HasSubstr("OrvanDiagnosticTool"));
+}
+
+TEST(Help, TheKeyShowsAWizardsOwnTopic)
+{
+    TestWindow shown;
+    const std::pair<const char*, int> topics[] = {
+        {"mnuConfigureMacroTrace", 200},  {"mnuConfigureMicroTraces", 210},
+        {"mnuDisableAllTraces", 220},     {"mnuGatherLogFiles", 300},
+        {"mnuConfigureLogSettings", 400}, {"mnuChangeLanguage", 410},
+    };
+    int asked = -1;
+    QObject::connect(shown.window.get(), &MainWindow::helpAsked, [&](int topic) { asked = topic; });
+    for (const auto& [item, topic] : topics) {
+        SCOPED_TRACE(item);
+        shown.window->consoleAction(item)->trigger();
+        settle();
+        SheetDialog* dialog = shown.pane().sheet();
+        ASSERT_NE(nullptr, dialog);
+        QTest::keyClick(dialog, Qt::Key_F1);
+        EXPECT_EQ(topic, asked);
+        dialog->reject();
+        settle();
+    }
+}
+
+TEST(Help, EveryPageHasATopicThatTheManualHas)
+{
+    TestWindow shown;
+    QFile list(QStringLiteral(ORVAN_DATA_OUTPUT "/help/topics.txt"));
+    ASSERT_TRUE(list.open(QIODevice::ReadOnly));
+    const QString topics = QString::fromUtf8(list.readAll());
+    for (const char* item : consoleItems) {
+        if (item == std::string_view("mnuOpenLogFile") ||
+            item == std::string_view("mnuStartNewLogFiles"))
+            continue;
+        shown.console().clickMenuItem(item);
+        auto sheet = shown.console().currentView().propertySheetProvider().lastSheet();
+        for (int place = 1; place <= sheet->pageCount(); ++place) {
+            const int topic = helpTopic::ofPage(sheet->page(place).name());
+            EXPECT_NE(helpTopic::contents, topic) << sheet->page(place).name();
+            EXPECT_TRUE(topics.contains(QStringLiteral("\n%1 ").arg(topic))) << topic;
+        }
+        sheet->cancel();
+    }
+    EXPECT_EQ(helpTopic::contents, helpTopic::ofPage("ppgUnknown"));
 }
 
 TEST(Help, ShowsThePageOfATopicAndSaysWhenThereIsNoManual)

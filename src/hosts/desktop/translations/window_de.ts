@@ -536,6 +536,14 @@
         <source>Closes the bar in which the cursor is</source>
         <translation>Schließt die Leiste, in der sich der Cursor befindet</translation>
     </message>
+    <message>
+        <source>Help on a page</source>
+        <translation>Hilfe zu einer Seite</translation>
+    </message>
+    <message>
+        <source>In a wizard or a sheet, and in the about box</source>
+        <translation>In einem Assistenten, einem Einstellungsfenster und im Infofenster</translation>
+    </message>
 </context>
 <context>
     <name>LogView</name>

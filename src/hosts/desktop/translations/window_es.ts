@@ -536,6 +536,14 @@
         <source>Closes the bar in which the cursor is</source>
         <translation>Cierra la barra en la que está el cursor</translation>
     </message>
+    <message>
+        <source>Help on a page</source>
+        <translation>Ayuda de una página</translation>
+    </message>
+    <message>
+        <source>In a wizard or a sheet, and in the about box</source>
+        <translation>En un asistente, en una hoja de propiedades y en el cuadro Acerca de</translation>
+    </message>
 </context>
 <context>
     <name>LogView</name>

@@ -536,6 +536,14 @@
         <source>Closes the bar in which the cursor is</source>
         <translation>Ferme la barre dans laquelle se trouve le curseur</translation>
     </message>
+    <message>
+        <source>Help on a page</source>
+        <translation>Aide d&apos;une page</translation>
+    </message>
+    <message>
+        <source>In a wizard or a sheet, and in the about box</source>
+        <translation>Dans un assistant, une feuille de propriétés et la boîte À propos</translation>
+    </message>
 </context>
 <context>
     <name>LogView</name>

@@ -536,6 +536,14 @@
         <source>Closes the bar in which the cursor is</source>
         <translation>カーソルのあるバーを閉じます</translation>
     </message>
+    <message>
+        <source>Help on a page</source>
+        <translation>ページのヘルプ</translation>
+    </message>
+    <message>
+        <source>In a wizard or a sheet, and in the about box</source>
+        <translation>ウィザード、プロパティ シート、バージョン情報で使います</translation>
+    </message>
 </context>
 <context>
     <name>LogView</name>
