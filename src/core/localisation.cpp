@@ -24,21 +24,6 @@ std::string libraryPath(ToolContext& tool)
            codeFromLanguageId(tool.language.g_lngCurrentLanguage) + ".dll";
 }
 
-/// The codes that the names of the libraries in a folder listing hold; one empty code for none, so
-/// that one library found and none found look alike.
-std::vector<std::string> codesOf(const std::vector<FileInfo>& entries)
-{
-    std::vector<std::string> codes;
-    for (const FileInfo& entry : entries) {
-        if (entry.folder) continue;
-        const std::string_view name = entry.name;
-        if (equalIgnoringCase(name.substr(0, libraryPrefix.size()), libraryPrefix))
-            codes.emplace_back(name.substr(libraryPrefix.size(), codeLength));
-    }
-    if (codes.empty()) codes.emplace_back();
-    return codes;
-}
-
 } // namespace
 
 std::string myLoadResString(ToolContext& tool, int id)
@@ -50,12 +35,24 @@ std::string myLoadResString(ToolContext& tool, int id)
     return text && !text->empty() ? *text : std::string(englishText(id));
 }
 
+std::vector<std::string> libraryCodes(ToolContext& tool)
+{
+    std::vector<std::string> codes;
+    for (const FileInfo& entry : tool.platform.files.entries(tool.platform.module.folder())) {
+        if (entry.folder) continue;
+        const std::string_view name = entry.name;
+        if (equalIgnoringCase(name.substr(0, libraryPrefix.size()), libraryPrefix))
+            codes.emplace_back(name.substr(libraryPrefix.size(), codeLength));
+    }
+    return codes;
+}
+
 void InitalizeLanguages(ToolContext& tool)
 {
     ShowingTrap step{tool, "Error in InitalizeLanguages: "};
     LanguageState& language = tool.language;
     Languages& libraries = tool.platform.languages;
-    std::vector<FileInfo> entries;
+    std::vector<std::string> codes;
     bool keyExists = false;
 
     if (language.g_lngCurrentLanguage == 0)
@@ -72,8 +69,10 @@ void InitalizeLanguages(ToolContext& tool)
                          numberText(std::int64_t{language.g_lngCurrentLanguage}));
     });
 
-    step([&] { entries = tool.platform.files.entries(tool.platform.module.folder()); });
-    language.g_astrLanguages = codesOf(entries);
+    step([&] { codes = libraryCodes(tool); });
+    // One library found and none found look alike by the bounds of the array.
+    if (codes.empty()) codes.emplace_back();
+    language.g_astrLanguages = codes;
     for (OpenForm* form : language.openForms)
         step([&] { applyLanguageFontToAll(tool, form->controls()); });
 }

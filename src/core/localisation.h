@@ -32,6 +32,9 @@ std::string myLoadResString(ToolContext& tool, int id);
 /// message box, and the next one runs.
 void InitalizeLanguages(ToolContext& tool);
 
+/// Codes of the language libraries beside the tool, in the order of the folder. Raises 76.
+std::vector<std::string> libraryCodes(ToolContext& tool);
+
 /// Gives the font of the current language to one object or to many. Raises nothing.
 void applyLanguageFont(ToolContext& tool, FontTarget& control);
 void applyLanguageFontToAll(ToolContext& tool, const std::vector<FontTarget*>& controls);

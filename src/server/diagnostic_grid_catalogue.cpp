@@ -11,12 +11,6 @@ namespace {
 
 constexpr std::string_view moduleName = "mdlDiagnosticGrids";
 
-std::string cataloguePath(const std::string& installFolder, const std::string& language)
-{
-    return installFolder + "\\GuiResources\\Resources\\" + language + "\\DiagnosticGrids_" +
-           language + ".xml";
-}
-
 XmlDocument& catalogue(ToolContext& tool)
 {
     if (!tool.g_domDiagnosticGrids) tool.g_domDiagnosticGrids = tool.platform.xml.newDocument();
@@ -29,6 +23,13 @@ XmlElementPtr component(ToolContext& tool, const std::string& name)
 }
 
 } // namespace
+
+std::string mdlDiagnosticGrids::cataloguePath(const std::string& installFolder,
+                                              const std::string& language)
+{
+    return installFolder + "\\GuiResources\\Resources\\" + language + "\\DiagnosticGrids_" +
+           language + ".xml";
+}
 
 void mdlDiagnosticGrids::openDiagGrids(ToolContext& tool)
 {

@@ -7,6 +7,9 @@ struct ToolContext;
 
 namespace mdlDiagnosticGrids {
 
+/// Where the server keeps the catalogue of a language, such as "ENU".
+std::string cataloguePath(const std::string& installFolder, const std::string& language);
+
 /// Loads the catalogue of level texts in the user's language, or else in English. A file that is
 /// missing or malformed leaves an empty catalogue.
 void openDiagGrids(ToolContext& tool);

@@ -61,6 +61,13 @@ std::string SampleSite::currentLog() const
     return {};
 }
 
+std::ptrdiff_t SampleSite::toolLogs() const
+{
+    const fs::path logs = drive("OrvanDiagnostics/LOGS");
+    if (!fs::exists(logs)) return 0;
+    return std::distance(fs::directory_iterator(logs), fs::directory_iterator());
+}
+
 std::string SampleSite::fingerprint() const
 {
     std::set<std::string> lines;

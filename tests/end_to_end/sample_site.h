@@ -30,6 +30,9 @@ protected:
     /// What lies in the site: names, sizes and contents, but for the tool's own log.
     std::string fingerprint() const;
 
+    /// How many logs of its own runs the tool has left.
+    std::ptrdiff_t toolLogs() const;
+
     std::filesystem::path folder; ///< holds everything; removed at the end
     std::filesystem::path site;
     std::filesystem::path target; ///< not there yet

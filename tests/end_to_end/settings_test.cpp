@@ -214,10 +214,15 @@ TEST_F(EventLanguageCommand, AToolThatWasKilledIsMadeGoodByTheNextRun)
 
 TEST_F(EventLanguageCommand, AnUnknownLanguageIsRefusedAndChangesNothing)
 {
+    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
     const int all = messageFiles("ENU");
+    const std::string before = fingerprint();
+    const auto logs = toolLogs();
     for (const char* wrong : {"QQQ", "EN", "..", "ENU\\.."})
         expectRefused({"event-language", wrong, "--keep"}, 1, "no event log language");
     EXPECT_EQ(all, messageFiles("ENU"));
+    EXPECT_EQ(before, fingerprint());
+    EXPECT_EQ(logs, toolLogs());
     EXPECT_THAT(registry(), Not(HasSubstr("OriginalEventLogLanguage")));
 }
 
@@ -249,10 +254,15 @@ TEST_F(LanguageCommand, FollowsTheSitesOwnLanguage)
     EXPECT_EQ("JPN", runJson({"language"}).json()["current"]);
 }
 
-TEST_F(LanguageCommand, AnUnknownLanguageIsRefused)
+TEST_F(LanguageCommand, AnUnknownLanguageIsRefusedAndChangesNothing)
 {
+    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
+    const std::string before = fingerprint();
+    const auto logs = toolLogs();
     for (const char* wrong : {"QQQ", "ITA", "1036"})
         expectRefused({"language", wrong}, 1, "no interface language");
+    EXPECT_EQ(before, fingerprint());
+    EXPECT_EQ(logs, toolLogs());
 }
 
 TEST_F(AboutBoxCommand, TellsWhatTheBoxShows)

@@ -125,6 +125,8 @@ TEST_F(TraceCommands, AnUnknownNameIsRefusedBeforeAnythingChanges)
     const std::string trace = macroTrace();
     const std::string words = sql("SELECT * FROM vw_LoggerDiagnosticGrid ORDER BY Name");
     const std::string component = runJson({"flags"}).json()[0]["name"];
+    const std::string before = fingerprint();
+    const auto logs = toolLogs();
     const struct {
         std::vector<std::string> arguments;
         int status;
@@ -137,6 +139,7 @@ TEST_F(TraceCommands, AnUnknownNameIsRefusedBeforeAnythingChanges)
         {{"micro", "set", "--on", component + ":x"}, 2},
         {{"micro", "set"}, 2},
         {{"micro", "NoSuchComponent"}, 1},
+        {{"flags", "NoSuchComponent"}, 1},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(testing::PrintToString(c.arguments));
@@ -145,6 +148,8 @@ TEST_F(TraceCommands, AnUnknownNameIsRefusedBeforeAnythingChanges)
         EXPECT_EQ(1, std::count(refused.err.begin(), refused.err.end(), '\n')) << refused.err;
         EXPECT_EQ("", refused.out);
     }
+    EXPECT_EQ(before, fingerprint()) << "not even the tool's coming and going is reported";
+    EXPECT_EQ(logs, toolLogs());
     EXPECT_EQ(words, sql("SELECT * FROM vw_LoggerDiagnosticGrid ORDER BY Name"));
     EXPECT_FALSE(shown(trace)["enabled"]);
 }

@@ -52,7 +52,7 @@ Site::Site(const std::string& folder, const std::string& installedData, HostFact
                      settings_.logFields, clock_),
       eventLogExporter_(paths_.siteFolder() + "/eventlogs", paths_), processes_(paths_),
       module_(settings_.toolFolder, std::move(host)), languages_(settings_.language, paths_),
-      database_(paths_.siteFolder() + "/OrvanDirDb.sqlite"), xml_(files_)
+      database_(databaseFile()), xml_(files_)
 {
     registry_.keyExists(HKEY_LOCAL_MACHINE, ""); // a damaged registry shows here, before any change
     makeServerFolder(paths_.siteFolder() + "/drive_c");

@@ -41,6 +41,9 @@ public:
     Platform platform(Desktop& desktop, TraceDatabaseEngine& traceDatabases);
 
     const std::string& folder() const { return paths_.siteFolder(); }
+
+    /// The directory database, as a path of this machine; it need not be there.
+    std::string databaseFile() const { return folder() + "/OrvanDirDb.sqlite"; }
     const SiteSettings& settings() const { return settings_; }
 
     /// How the server's log texts are encoded.

@@ -54,8 +54,10 @@ public:
     void run(const GlobalOptions& options, Output& output) override
     {
         if (keep_ && code_.empty()) throw UsageError("event-language --keep needs a language");
-        OpenTool tool(options);
-        const std::string language = code_.empty() ? "" : installedLanguage(tool, code_);
+        std::string language;
+        OpenTool tool(options, [&](OpenTool& opened) {
+            if (!code_.empty()) language = installedLanguage(opened, code_);
+        });
         if (!language.empty() && mdlLanguage::getEventLogKeys(tool.context()).empty())
             throw CommandFailure("no event source of the server is registered");
         Shown shown;

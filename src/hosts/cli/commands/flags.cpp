@@ -1,4 +1,5 @@
 #include "hosts/cli/commands/commands.h"
+#include "hosts/cli/known_names.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
 #include "platform/database.h"
@@ -14,6 +15,11 @@ struct FlagWords {
     std::int32_t defaultFlags;
 };
 
+CommandFailure noSuchComponent(const std::string& component)
+{
+    return CommandFailure("no component " + component + " in the diagnostic grid");
+}
+
 class FlagsCommand final : public Command {
 public:
     std::string name() const override { return "flags"; }
@@ -27,13 +33,15 @@ public:
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        OpenTool tool(options);
+        OpenTool tool(options, [this](OpenTool& opened) {
+            if (!component_.empty() && !knownNames::hasComponent(opened, component_))
+                throw noSuchComponent(component_);
+        });
         if (tool.context().g_connection.state() != 1)
             throw CommandFailure("cannot connect to the server's database");
         const auto words = read(tool.context().g_connection);
         tool.close();
-        if (!component_.empty() && words.empty())
-            throw CommandFailure("no component " + component_ + " in the diagnostic grid");
+        if (!component_.empty() && words.empty()) throw noSuchComponent(component_);
         if (output.json())
             printJson(output, words);
         else

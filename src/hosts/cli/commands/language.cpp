@@ -1,4 +1,5 @@
 #include "core/language_table.h"
+#include "core/localisation.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
@@ -11,19 +12,19 @@ namespace {
 
 constexpr const char* english = "ENU";
 
-/// The codes of the languages that the about box offers, in the order of its menu. A single
-/// library is not offered: the box takes it for none.
-std::vector<std::string> offeredCodes(const ToolContext& tool)
+using Codes = std::vector<std::string>;
+
+/// Of the languages beside the tool those that the about box offers, in the order of its menu. A
+/// single library is not offered: the box takes it for none.
+Codes offered(const Codes& codes)
 {
-    const auto& codes = tool.language.g_astrLanguages;
-    return codes.size() > 1 ? codes : std::vector<std::string>();
+    return codes.size() > 1 ? codes : Codes();
 }
 
 /// The place of a language in the about box's menu. Raises CommandFailure for one that it does not
 /// offer.
-int menuPlace(const ToolContext& tool, const std::string& wanted)
+int menuPlace(const Codes& codes, const std::string& wanted)
 {
-    const auto codes = offeredCodes(tool);
     if (codes.empty() && equalIgnoringCase(wanted, english)) return 0;
     for (std::size_t place = 0; place < codes.size(); ++place)
         if (equalIgnoringCase(codes[place], wanted)) return static_cast<int>(place);
@@ -58,11 +59,13 @@ public:
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        OpenTool tool(options);
+        OpenTool tool(options, [this](OpenTool& opened) {
+            if (!code_.empty()) menuPlace(offered(libraryCodes(opened.context())), code_);
+        });
         frmAbout& box = tool.snapIn().showAbout();
-        if (!code_.empty()) box.mnuLanguageList_Click(menuPlace(tool.context(), code_));
+        const Codes available = offered(tool.context().language.g_astrLanguages);
+        if (!code_.empty()) box.mnuLanguageList_Click(menuPlace(available, code_));
         const std::int32_t current = tool.context().language.g_lngCurrentLanguage;
-        const auto available = offeredCodes(tool.context());
         const std::string title = box.caption();
         box.cmdOK.click();
         tool.close();

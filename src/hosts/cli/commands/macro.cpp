@@ -1,4 +1,5 @@
 #include "hosts/cli/commands/commands.h"
+#include "hosts/cli/known_names.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
 #include "hosts/cli/wizard_driver.h"
@@ -7,6 +8,8 @@
 #include "runtime/text.h"
 
 #include <CLI/CLI.hpp>
+
+#include <algorithm>
 
 namespace {
 
@@ -34,13 +37,18 @@ std::vector<MacroTrace> shownMacroTraces(const XmlDocument& catalogue)
     return traces;
 }
 
+CommandFailure noSuchMacroTrace(const std::string& wanted)
+{
+    return CommandFailure("no macro trace \"" + wanted + "\"; orvandiag macro lists them");
+}
+
 /// The macro trace of "GROUP - TRACE". Raises CommandFailure for one that the wizard does not show.
 TreeNode& macroTraceNode(const TreeView& tree, const std::string& wanted)
 {
     for (const TreeNode* group : tree.roots())
         for (TreeNode* trace = group->child(); trace; trace = trace->next())
             if (group->text() + " - " + trace->text() == wanted) return *trace;
-    throw CommandFailure("no macro trace \"" + wanted + "\"; orvandiag macro lists them");
+    throw noSuchMacroTrace(wanted);
 }
 
 class MacroCommand final : public Command {
@@ -72,7 +80,7 @@ public:
     {
         if (set_->parsed() && on_.empty() && off_.empty())
             throw UsageError("macro set needs an --on or an --off");
-        OpenTool tool(options);
+        OpenTool tool(options, [this](OpenTool& opened) { requireMacroTraces(opened); });
         if (set_->parsed())
             set(tool, output);
         else
@@ -80,6 +88,16 @@ public:
     }
 
 private:
+    void requireMacroTraces(OpenTool& tool) const
+    {
+        if (!set_->parsed()) return;
+        const auto known = knownNames::macroTraces(tool);
+        for (const auto* names : {&on_, &off_})
+            for (const auto& name : *names)
+                if (std::find(known.begin(), known.end(), name) == known.end())
+                    throw noSuchMacroTrace(name);
+    }
+
     static void list(OpenTool& tool, Output& output)
     {
         std::vector<MacroTrace> traces;

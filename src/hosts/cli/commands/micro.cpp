@@ -1,4 +1,5 @@
 #include "hosts/cli/commands/commands.h"
+#include "hosts/cli/known_names.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
 #include "hosts/cli/wizard_driver.h"
@@ -34,22 +35,42 @@ TreeNode* componentNode(const TreeView& tree, const std::string& component)
     return nullptr;
 }
 
-/// The level of "COMPONENT:LEVEL". Raises CommandFailure for one that the wizard does not show,
-/// UsageError for a text of another form.
-TreeNode& levelNode(const TreeView& tree, const std::string& wanted)
+struct LevelName {
+    std::string component;
+    int level;
+};
+
+/// The parts of "COMPONENT:LEVEL". Raises UsageError for a text of another form.
+LevelName levelName(const std::string& wanted)
 {
     const auto colon = wanted.rfind(':');
     const std::string digits = colon == std::string::npos ? "" : wanted.substr(colon + 1);
     if (colon == 0 || digits.empty() || digits.size() > 2 ||
         digits.find_first_not_of("0123456789") != std::string::npos)
         throw UsageError("\"" + wanted + "\" is not of the form COMPONENT:LEVEL");
-    TreeNode* component = componentNode(tree, wanted.substr(0, colon));
-    if (!component)
-        throw CommandFailure("no component " + wanted.substr(0, colon) +
-                             " in the diagnostic grid; orvandiag micro lists them");
+    return {wanted.substr(0, colon), std::stoi(digits)};
+}
+
+CommandFailure noSuchComponent(const std::string& component)
+{
+    return CommandFailure("no component " + component +
+                          " in the diagnostic grid; orvandiag micro lists them");
+}
+
+CommandFailure noSuchLevel(const LevelName& wanted)
+{
+    return CommandFailure(wanted.component + " has no level " +
+                          numberText(std::int64_t{wanted.level}));
+}
+
+/// Raises CommandFailure for a level that the wizard does not show.
+TreeNode& levelNode(const TreeView& tree, const LevelName& wanted)
+{
+    TreeNode* component = componentNode(tree, wanted.component);
+    if (!component) throw noSuchComponent(wanted.component);
     for (TreeNode* level = component->child(); level; level = level->next())
-        if (levelOf(*level) == std::stoi(digits)) return *level;
-    throw CommandFailure(component->key() + " has no level " + digits);
+        if (levelOf(*level) == wanted.level) return *level;
+    throw noSuchLevel(wanted);
 }
 
 class MicroCommand final : public Command {
@@ -82,14 +103,34 @@ public:
     {
         if (set_->parsed() && on_.empty() && off_.empty())
             throw UsageError("micro set needs an --on or an --off");
-        OpenTool tool(options);
+        std::vector<LevelName> on;
+        std::vector<LevelName> off;
+        for (const auto& name : on_) on.push_back(levelName(name));
+        for (const auto& name : off_) off.push_back(levelName(name));
+        OpenTool tool(options, [&](OpenTool& opened) {
+            if (!component_.empty()) requireComponent(opened, component_);
+            for (const auto* names : {&on, &off})
+                for (const auto& name : *names) requireLevel(opened, name);
+        });
         if (set_->parsed())
-            set(tool, output);
+            set(tool, output, on, off);
         else
             list(tool, output);
     }
 
 private:
+    static void requireComponent(OpenTool& tool, const std::string& component)
+    {
+        if (!knownNames::hasComponent(tool, component)) throw noSuchComponent(component);
+    }
+
+    static void requireLevel(OpenTool& tool, const LevelName& wanted)
+    {
+        requireComponent(tool, wanted.component);
+        if (!knownNames::showsLevel(tool, wanted.component, wanted.level))
+            throw noSuchLevel(wanted);
+    }
+
     void list(OpenTool& tool, Output& output) const
     {
         if (tool.context().g_connection.state() != 1)
@@ -101,7 +142,7 @@ private:
             wizard.next();
             const auto& tree = wizard.control<TreeView>(treeName);
             if (!component_.empty() && !componentNode(tree, component_))
-                throw CommandFailure("no component " + component_ + " in the diagnostic grid");
+                throw noSuchComponent(component_);
             for (const TreeNode* node : tree.roots()) {
                 if (!component_.empty() && node->key() != component_) continue;
                 Json levels = Json::array();
@@ -125,7 +166,8 @@ private:
             output.text(text);
     }
 
-    void set(OpenTool& tool, Output& output) const
+    static void set(OpenTool& tool, Output& output, const std::vector<LevelName>& on,
+                    const std::vector<LevelName>& off)
     {
         std::string summary;
         const TraceChange change(tool);
@@ -133,10 +175,10 @@ private:
             WizardDriver wizard(tool, taskKey);
             wizard.next();
             auto& tree = wizard.control<TreeView>(treeName);
-            for (const auto* names : {&on_, &off_})
+            for (const auto* names : {&on, &off})
                 for (const auto& name : *names) levelNode(tree, name);
-            for (const auto& name : off_) tree.checkByPerson(levelNode(tree, name), false);
-            for (const auto& name : on_) tree.checkByPerson(levelNode(tree, name), true);
+            for (const auto& name : off) tree.checkByPerson(levelNode(tree, name), false);
+            for (const auto& name : on) tree.checkByPerson(levelNode(tree, name), true);
             wizard.next();
             summary = wizard.control<Label>("lblCompletionStatment").caption();
             wizard.finish();

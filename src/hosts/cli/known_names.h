@@ -1,0 +1,23 @@
+#pragma once
+
+#include "hosts/cli/open_tool.h"
+
+#include <string>
+#include <vector>
+
+/// What the server of a site knows by name, for a look at a command's arguments before the tool
+/// starts. Looking leaves the site as it is.
+namespace knownNames {
+
+/// "GROUP - TRACE" of each macro trace that its wizard shows.
+std::vector<std::string> macroTraces(OpenTool& tool);
+
+/// Whether the diagnostic grid has a component. A database that can't be asked is taken to have it:
+/// that is for the command to tell.
+bool hasComponent(OpenTool& tool, const std::string& component);
+
+/// Whether the catalogue of level texts has a level that is more than a placeholder. The catalogue
+/// that is looked at is the one that the tool starts with.
+bool showsLevel(OpenTool& tool, const std::string& component, int level);
+
+} // namespace knownNames
