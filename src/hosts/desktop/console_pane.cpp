@@ -173,6 +173,19 @@ QString ConsolePane::selectedName() const
     return item ? QString::fromStdString(item->displayName()) : QString();
 }
 
+void ConsolePane::askForHelp()
+{
+    const QWidget* focused = QApplication::focusWidget();
+    perform([&](Console& console) {
+        if (tree_->hasFocus())
+            console.helpOnScopeItem();
+        else if (focused && views_->isAncestorOf(focused))
+            console.helpOnResultView();
+        else
+            console.helpOnSnapIn();
+    });
+}
+
 void ConsolePane::switchPane()
 {
     if (!tree_->hasFocus()) return tree_->setFocus(Qt::ShortcutFocusReason);

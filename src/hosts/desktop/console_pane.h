@@ -57,6 +57,9 @@ public:
     /// What the selected node is called, and the empty text before the first selection.
     QString selectedName() const;
 
+    /// Help on the node, or on the view, that has the focus; else on the tool.
+    void askForHelp();
+
     /// Moves the focus from the tree to the result view, or back.
     void switchPane();
 

@@ -233,7 +233,7 @@ void MainWindow::run(Command command)
         return;
     case Command::help:
         if (!pane_) return void(emit helpAsked(helpTopic::contents));
-        return pane_->perform([](Console& console) { console.helpOnSnapIn(); });
+        return pane_->askForHelp();
     case Command::keys:
         return showKeys();
     case Command::about:

@@ -66,10 +66,11 @@ void Program::openSite(const std::string& folder)
     } catch (const RunTimeError& error) {
         return window_.showProblem(notOpened(folder, as(error.description())));
     }
-    close();
+    const Sentence failure = letGo();
     tool_ = std::move(opened);
     rememberSite(settings_, QString::fromStdString(tool_->site().folder()));
     window_.setTool(tool_.get());
+    if (failure) window_.showProblem(failure);
 }
 
 void Program::openSample(const std::string& folder)
@@ -108,16 +109,23 @@ void Program::openDefault(const std::string& folder)
 
 void Program::close()
 {
+    if (const Sentence failure = letGo()) window_.showProblem(failure);
+}
+
+/// The failure, if there was one, as a sentence; else none.
+Sentence Program::letGo()
+{
     window_.setTool(nullptr);
-    if (!tool_) return;
+    if (!tool_) return {};
     const std::unique_ptr<OpenTool> leaving = std::move(tool_);
     try {
         leaving->close();
+        return {};
     } catch (const RunTimeError& error) {
-        window_.showProblem([why = QString::fromStdString(error.description())] {
+        return [why = QString::fromStdString(error.description())] {
             return QObject::tr("The site was not closed cleanly: %1. The language of its event log "
                                "may not be the first one; open it again.")
                 .arg(why);
-        });
+        };
     }
 }

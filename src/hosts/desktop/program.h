@@ -2,6 +2,7 @@
 
 #include "backends/portable/site_host_module.h"
 #include "hosts/desktop/desktop_services.h"
+#include "hosts/desktop/interface_language.h"
 #include "hosts/desktop/main_window.h"
 #include "hosts/desktop/open_tool.h"
 
@@ -29,7 +30,7 @@ public:
     /// Opens the site at the default place, which is made as a sample server if it is not there.
     void openDefault(const std::string& folder);
 
-    /// Lets the tool go.
+    /// Lets the tool go. The window says what went wrong with it.
     void close();
 
     MainWindow& window() { return window_; }
@@ -37,6 +38,8 @@ public:
     DesktopServices& desktop() { return desktop_; }
 
 private:
+    Sentence letGo();
+
     QSettings& settings_;
     std::string installedData_;
     HostFacts facts_;

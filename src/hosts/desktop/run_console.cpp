@@ -111,7 +111,9 @@ int run(const QApplication& application, const std::function<void(Program&)>& op
     if (opened) opened(program);
     const int result = QApplication::exec();
     program.close();
-    return result;
+    // The window has gone, so what it would say goes to the terminal.
+    const QString problem = program.window().problem();
+    return problem.isEmpty() ? result : refuse(qPrintable(problem));
 }
 
 } // namespace

@@ -398,6 +398,21 @@ TEST(Program, OpensOneSiteAfterTheOther)
     EXPECT_EQ(nullptr, test.program.window().pane());
 }
 
+TEST(Program, TellsThatASiteWasNotClosedCleanlyWhateverComesNext)
+{
+    for (const bool another : {true, false}) {
+        TestProgram test;
+        test.program.openSample(test.folder / "one");
+        test.folder.write("one/registry.reg", "no registry at all");
+        if (another)
+            test.program.openSample(test.folder / "two");
+        else
+            test.program.close();
+        EXPECT_THAT(test.program.window().problem().toStdString(), HasSubstr("not closed cleanly"));
+        EXPECT_EQ(another, test.program.tool() != nullptr);
+    }
+}
+
 TEST(OpenTool, NamesAPickedFileByItsDriveInsideTheSite)
 {
     TestWindow shown;
@@ -445,6 +460,34 @@ TEST(Help, TheKeyAsksTheToolWhichShowsItsManual)
     shown.window->run(Command::help);
     ASSERT_EQ(1U, shown.desktop.helpShown().size());
     EXPECT_THAT(shown.desktop.helpShown()[0].file, HasSubstr("OrvanDiagnosticTool"));
+}
+
+TEST(Help, IsAskedForOnTheNodeTheViewOrTheToolByWhereTheFocusIs)
+{
+    TestWindow shown;
+    shown.window->activateWindow();
+    const auto entered = [&](const char* routine) {
+        std::string path = shown.tool->context().g_log->strLogFile().substr(2);
+        std::replace(path.begin(), path.end(), '\\', '/');
+        const std::string log = shown.server.folder().read("site/drive_c" + path);
+        std::size_t times = 0;
+        for (auto at = log.find(routine); at != std::string::npos; at = log.find(routine, at + 1))
+            ++times;
+        return times;
+    };
+    QWidget* card = shown.pane().taskPad().findChild<QAbstractButton*>("task-1");
+    for (QWidget* focused : {static_cast<QWidget*>(&shown.pane().tree()), card}) {
+        focused->setFocus();
+        ASSERT_TRUE(focused->hasFocus());
+        shown.window->run(Command::help);
+    }
+    EXPECT_EQ(2U, shown.desktop.helpShown().size());
+    EXPECT_EQ(0U, entered("Entering [snapinOrvanDiagnostics]SnapIn_Help"));
+
+    card->clearFocus();
+    shown.window->run(Command::help);
+    EXPECT_EQ(3U, shown.desktop.helpShown().size());
+    EXPECT_EQ(1U, entered("Entering [snapinOrvanDiagnostics]SnapIn_Help"));
 }
 
 TEST(Help, TheKeyShowsAWizardsOwnTopic)
