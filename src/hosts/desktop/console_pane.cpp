@@ -46,14 +46,15 @@ private:
 
 ConsolePane::ConsolePane(Console& console, const CodePage& codePage, const QString& site,
                          QSettings& settings, QWidget* parent)
-    : QWidget(parent), console_(console), site_(site), settings_(settings), listModel_(codePage)
+    : QWidget(parent), console_(console), site_(site), codePage_(codePage), settings_(settings),
+      listModel_(codePage)
 {
     scope_ = new ScopeModel(console_, this);
     splitter_ = new QSplitter(this);
     makeTree();
     views_ = new QStackedWidget(splitter_);
-    log_ = new LogView(codePage, settings_, views_);
-    makeViews();
+    views_->addWidget(new QWidget(views_));
+    makeTaskPad();
     splitter_->addWidget(tree_);
     splitter_->addWidget(views_);
     splitter_->setStretchFactor(0, 0);
@@ -67,11 +68,7 @@ ConsolePane::ConsolePane(Console& console, const CodePage& codePage, const QStri
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(splitter_);
     console_.addObserver(*this);
-    showInLanguage(this, [this] {
-        tree_->setAccessibleName(tr("Server tree"));
-        children_->setAccessibleName(tr("Processes"));
-        list_->setAccessibleName(tr("Log files"));
-    });
+    showInLanguage(tree_, [this] { tree_->setAccessibleName(tr("Server tree")); });
 }
 
 ConsolePane::~ConsolePane()
@@ -110,10 +107,20 @@ void ConsolePane::makeTree()
             [this](const QPoint& at) { emit treeMenuAsked(tree_->viewport()->mapToGlobal(at)); });
 }
 
-void ConsolePane::makeViews()
+void ConsolePane::makeTaskPad()
 {
-    nothing_ = new QWidget(views_);
     taskPad_ = new TaskPadView(views_);
+    views_->addWidget(taskPad_);
+    connect(taskPad_, &TaskPadView::taskClicked, this, [this](const QString& key) {
+        perform([&](Console& console) { console.clickTask(key.toStdString()); });
+    });
+}
+
+// The other views are made when they are first shown: the start has no need to wait for them.
+
+QTreeView& ConsolePane::children()
+{
+    if (children_) return *children_;
     children_ = new QTreeView(views_);
     children_->setModel(scope_);
     children_->setItemDelegate(new RoomyDelegate(children_));
@@ -121,22 +128,41 @@ void ConsolePane::makeViews()
     children_->setItemsExpandable(false);
     children_->setHeaderHidden(true);
     children_->setUniformRowHeights(true);
-    list_ = new ListTable(listModel_, settings_, views_);
-    for (QWidget* view :
-         std::initializer_list<QWidget*>{nothing_, taskPad_, children_, list_, log_})
-        views_->addWidget(view);
-
-    connect(taskPad_, &TaskPadView::taskClicked, this, [this](const QString& key) {
-        perform([&](Console& console) { console.clickTask(key.toStdString()); });
-    });
+    showInLanguage(children_, [this] { children_->setAccessibleName(tr("Processes")); });
+    views_->addWidget(children_);
     connect(children_, &QTreeView::activated, this, [this](const QModelIndex& index) {
         if (ScopeItem* item = scope_->itemAt(index))
             perform([item](Console& console) { console.currentView().select(*item); });
     });
+    return *children_;
+}
+
+ListTable& ConsolePane::list()
+{
+    if (list_) return *list_;
+    list_ = new ListTable(listModel_, settings_, views_);
+    showInLanguage(list_, [this] { list_->setAccessibleName(tr("Log files")); });
+    views_->addWidget(list_);
     connect(list_, &ListTable::opened, this, [this](std::uint32_t place) {
         perform([&](Console& console) { console.doubleClickRow(static_cast<int>(place)); });
     });
+    return *list_;
+}
+
+LogView& ConsolePane::log()
+{
+    if (log_) return *log_;
+    log_ = new LogView(codePage_, settings_, views_);
+    log_->setTextFont(textFont_);
+    views_->addWidget(log_);
     connect(log_, &LogView::said, this, &ConsolePane::said);
+    return *log_;
+}
+
+void ConsolePane::setTextFont(const QFont& font)
+{
+    textFont_ = font;
+    if (log_) log_->setTextFont(font);
 }
 
 void ConsolePane::perform(const std::function<void(Console&)>& call)
@@ -158,13 +184,13 @@ void ConsolePane::perform(const std::function<void(Console&)>& call)
 
 bool ConsolePane::logShown() const
 {
-    return views_->currentWidget() == log_;
+    return log_ && views_->currentWidget() == log_;
 }
 
 ListTable* ConsolePane::table() const
 {
     if (logShown()) return &log_->table();
-    return views_->currentWidget() == list_ ? list_ : nullptr;
+    return list_ && views_->currentWidget() == list_ ? list_ : nullptr;
 }
 
 QString ConsolePane::selectedName() const
@@ -190,7 +216,7 @@ void ConsolePane::switchPane()
 {
     if (!tree_->hasFocus()) return tree_->setFocus(Qt::ShortcutFocusReason);
     QWidget* shown = views_->currentWidget();
-    if (shown == log_) shown = &log_->table();
+    if (logShown()) shown = &log_->table();
     if (shown == taskPad_) {
         taskPad_->setFocus();
         return void(shown->nextInFocusChain()->setFocus(Qt::ShortcutFocusReason));
@@ -239,7 +265,7 @@ void ConsolePane::selectionChanged(View&)
 void ConsolePane::viewReset(ResultView&)
 {
     listModel_.leave();
-    log_->leave();
+    if (log_) log_->leave();
 }
 
 void ConsolePane::viewFilled(ResultView& resultView)
@@ -249,15 +275,15 @@ void ConsolePane::viewFilled(ResultView& resultView)
         views_->setCurrentWidget(taskPad_);
     } else if (resultView.displayString() == shownList::processes) {
         // The console's list of processes has no rows of its own: it shows the nodes below.
-        children_->setRootIndex(scope_->indexOf(resultView.scopePaneItem().scopeItem()));
+        children().setRootIndex(scope_->indexOf(resultView.scopePaneItem().scopeItem()));
         views_->setCurrentWidget(children_);
     } else if (resultView.displayString() == shownList::logLines) {
         const QString key = QString::fromStdString(resultView.scopePaneItem().key());
-        log_->show(resultView.list(), site_ + QLatin1Char('\n') + key);
+        log().show(resultView.list(), site_ + QLatin1Char('\n') + key);
         views_->setCurrentWidget(log_);
     } else {
         listModel_.show(resultView.list());
-        list_->listShown();
+        list().listShown();
         views_->setCurrentWidget(list_);
     }
     emit viewChanged();

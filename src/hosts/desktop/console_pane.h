@@ -5,6 +5,7 @@
 #include "hosts/desktop/quiet_observer.h"
 #include "platform/code_page.h"
 
+#include <QFont>
 #include <QPersistentModelIndex>
 #include <QPointer>
 #include <QWidget>
@@ -48,8 +49,13 @@ public:
 
     QTreeView& tree() { return *tree_; }
     TaskPadView& taskPad() { return *taskPad_; }
-    LogView& log() { return *log_; }
+
+    /// The reader of logs, which is made when it is first asked for.
+    LogView& log();
     bool logShown() const;
+
+    /// The font of a log's lines.
+    void setTextFont(const QFont& font);
 
     /// The table on show, of a log or of another list; null when another view is.
     ListTable* table() const;
@@ -82,22 +88,25 @@ private:
     void handlerFailed(const RunTimeError& error) override;
 
     void makeTree();
-    void makeViews();
+    void makeTaskPad();
+    QTreeView& children();
+    ListTable& list();
     void followSelection();
     void treeCurrentChanged(const QModelIndex& current);
     void selectPending();
 
     Console& console_;
     QString site_;
+    CodePage codePage_;
     QSettings& settings_;
+    QFont textFont_;
     ScopeModel* scope_ = nullptr;
     ListModel listModel_;
     QSplitter* splitter_ = nullptr;
     QTreeView* tree_ = nullptr;
     QStackedWidget* views_ = nullptr;
-    QWidget* nothing_ = nullptr;
     TaskPadView* taskPad_ = nullptr;
-    QTreeView* children_ = nullptr;
+    QTreeView* children_ = nullptr; ///< this and the next two: null before they are first shown
     ListTable* list_ = nullptr;
     LogView* log_ = nullptr;
     QPersistentModelIndex pending_; ///< what the person selected and the console has not yet

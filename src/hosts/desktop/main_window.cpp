@@ -328,7 +328,7 @@ void MainWindow::changeTextSize(int step)
         std::clamp(settings_.value(textSizeKey, usual).toInt() + step, smallestText, largestText);
     if (step != 0) settings_.setValue(textSizeKey, size);
     font.setPointSize(size);
-    pane_->log().setTextFont(font);
+    pane_->setTextFont(font);
 }
 
 /// False while a page is at work: what it works on would go from below it.

@@ -192,7 +192,7 @@ void MainWindow::updateActions()
     }
     actions_[Command::refresh]->setEnabled(pane_ != nullptr);
     actions_[Command::switchPane]->setEnabled(pane_ != nullptr);
-    actions_[Command::details]->setChecked(pane_ && pane_->log().detailsShown());
+    actions_[Command::details]->setChecked(log && pane_->log().detailsShown());
     const auto scheme = theme::schemeOf(settings_.value(QStringLiteral("window/theme")).toString());
     actions_[Command::systemTheme]->setChecked(scheme == theme::Scheme::system);
     actions_[Command::lightTheme]->setChecked(scheme == theme::Scheme::light);

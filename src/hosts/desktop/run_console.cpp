@@ -95,7 +95,6 @@ int run(const QApplication& application, const std::function<void(Program&)>& op
                                      ? settings.value(QStringLiteral("window/theme")).toString()
                                      : options.theme));
     Program program(settings, places::installedData(), hostFacts(options));
-    program.window().show();
     if (options.site.isEmpty())
         program.openDefault(places::defaultSite());
     else
@@ -106,6 +105,8 @@ int run(const QApplication& application, const std::function<void(Program&)>& op
         });
     if (QAction* action = program.window().consoleAction(options.command.toStdString()))
         QTimer::singleShot(0, action, &QAction::trigger);
+    // Only now: a window that is on show lays itself out again at each step of the opening.
+    program.window().show();
     if (!options.screenshot.isEmpty())
         takeScreenshot(program.window(), options.screenshot, options.size);
     if (opened) opened(program);

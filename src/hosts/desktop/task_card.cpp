@@ -13,6 +13,27 @@ constexpr int gap = 14;
 constexpr int betweenTexts = 4;
 constexpr int preferredWidth = 300;
 constexpr int symbolSize = 36;
+constexpr int radius = 8;
+
+/// A card with rounded corners. What lies between them is straight and needs no smooth curve, which
+/// takes long over a large area.
+void drawCard(QPainter& painter, const QRect& card, const QColor& fill, const QColor& border,
+              int borderWidth)
+{
+    const qreal half = borderWidth / 2.0;
+    painter.setBrush(fill);
+    painter.setPen(QPen(border, borderWidth));
+    const int corner = radius + borderWidth;
+    const QRect top(card.left(), card.top(), card.width(), corner);
+    for (const QRect& strip : {top, top.translated(0, card.height() - corner)}) {
+        painter.setClipRect(strip);
+        painter.drawRoundedRect(QRectF(card).adjusted(half, half, -half, -half), radius, radius);
+    }
+    painter.setClipping(false);
+    const QRect middle = card.adjusted(0, corner, 0, -corner);
+    painter.fillRect(middle, border);
+    painter.fillRect(middle.adjusted(borderWidth, 0, -borderWidth, 0), fill);
+}
 } // namespace
 
 TaskCard::TaskCard(const QIcon& symbol, const QString& title, const QString& help, QWidget* parent)
@@ -44,11 +65,13 @@ int TaskCard::textLeft() const
 
 int TaskCard::textHeight(int width) const
 {
+    if (const auto known = textHeights_.find(width); known != textHeights_.end())
+        return known->second;
     const QRect room(0, 0, std::max(40, width - textLeft() - margin), 10000);
     const int title =
         QFontMetrics(titleFont()).boundingRect(room, Qt::TextWordWrap, text()).height();
     const int help = fontMetrics().boundingRect(room, Qt::TextWordWrap, help_).height();
-    return title + betweenTexts + help;
+    return textHeights_[width] = title + betweenTexts + help;
 }
 
 int TaskCard::heightForWidth(int width) const
@@ -72,10 +95,9 @@ void TaskCard::paintEvent(QPaintEvent*)
     else if (underMouse())
         fill = palette().color(QPalette::Button);
     const bool focused = hasFocus();
-    painter.setBrush(fill);
-    painter.setPen(QPen(focused ? palette().color(QPalette::Highlight) : theme::outline(palette()),
-                        focused ? 2 : 1));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 8, 8);
+    drawCard(painter, rect(), fill,
+             focused ? palette().color(QPalette::Highlight) : theme::outline(palette()),
+             focused ? 2 : 1);
 
     icon().paint(&painter, QRect(margin, margin, symbolSize, symbolSize), Qt::AlignCenter,
                  isEnabled() ? QIcon::Normal : QIcon::Disabled);
@@ -89,6 +111,13 @@ void TaskCard::paintEvent(QPaintEvent*)
     painter.setFont(font());
     painter.setPen(theme::quietText(palette()));
     painter.drawText(room, Qt::TextWordWrap, help_);
+}
+
+void TaskCard::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        textHeights_.clear();
+    QAbstractButton::changeEvent(event);
 }
 
 void TaskCard::enterEvent(QEnterEvent* event)

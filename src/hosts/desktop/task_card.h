@@ -2,6 +2,8 @@
 
 #include <QAbstractButton>
 
+#include <map>
+
 /// A button with a symbol, a title and a sentence that tells what it does.
 class TaskCard final : public QAbstractButton {
     Q_OBJECT
@@ -15,6 +17,7 @@ public:
     int heightForWidth(int width) const override;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
@@ -26,4 +29,5 @@ private:
     int textHeight(int width) const;
 
     QString help_;
+    mutable std::map<int, int> textHeights_; ///< by width: a layout asks for the same ones often
 };

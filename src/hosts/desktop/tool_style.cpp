@@ -86,3 +86,13 @@ void ToolStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         drawOption(*option, *painter);
     painter->restore();
 }
+
+void ToolStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const
+{
+    if (element != CE_ToolBar) return QProxyStyle::drawControl(element, option, painter, widget);
+    // The usual shade and its see-through lines take longer than the rest of the window.
+    const QRect& bar = option->rect;
+    painter->fillRect(bar, option->palette.color(QPalette::Window));
+    painter->fillRect(bar.adjusted(0, bar.height() - 1, 0, 0), theme::outline(option->palette));
+}
