@@ -1,5 +1,6 @@
 #include "hosts/desktop/main_window.h"
 
+#include "gather/logs.h"
 #include "hosts/desktop/about_dialog.h"
 #include "hosts/desktop/console_pane.h"
 #include "hosts/desktop/help_topics.h"
@@ -388,6 +389,9 @@ void MainWindow::closeEvent(QCloseEvent* event)
         // The work below would go on with controls that have gone.
         closing_ = true;
         if (pane_->sheet()) pane_->sheet()->reject();
+        // The page at work may be another one than the sheet asked, or its sheet is closed.
+        ToolContext& context = tool_->context();
+        if (!context.cancelRequested) mdlLogs::cancelCurrentProcess(context, true);
         statusBar()->showMessage(tr("The gather is being ended. The window closes in a moment."));
         return event->ignore();
     }
