@@ -175,6 +175,18 @@ private:
 
 } // namespace
 
+void mdlSnapIn::nameLogLineColumns(ToolContext& tool, ResultView& resultView)
+{
+    ErrorTrap step{tool, "mdlSnapIn", "populateListViewDiagLog"};
+
+    setHeaders(step, tool, resultView, commonHeaders);
+    if (tool.g_bExtendedLogFields) {
+        setHeaders(step, tool, resultView, extendedHeaders);
+    } else {
+        setHeaders(step, tool, resultView, basicHeaders);
+    }
+}
+
 void mdlSnapIn::populateListViewDiagLog(ToolContext& tool, ResultView& resultView, View& view)
 {
     ErrorTrap step{tool, "mdlSnapIn", "populateListViewDiagLog"};
@@ -186,12 +198,7 @@ void mdlSnapIn::populateListViewDiagLog(ToolContext& tool, ResultView& resultVie
     step.enterProc();
     step([&] { view.statusBarText(myLoadResString(tool, 1044)); });
     makeColumns(step, tool.g_bExtendedLogFields, resultView);
-    setHeaders(step, tool, resultView, commonHeaders);
-    if (tool.g_bExtendedLogFields) {
-        setHeaders(step, tool, resultView, extendedHeaders);
-    } else {
-        setHeaders(step, tool, resultView, basicHeaders);
-    }
+    nameLogLineColumns(tool, resultView);
 
     const std::string path = logPath(step, tool, resultView);
     step([&] { exists = files.fileExists(path); });

@@ -44,20 +44,27 @@ void addLogRow(ErrorTrap& step, ToolContext& tool, ResultView& resultView,
 
 } // namespace
 
-void mdlSnapIn::populateListViewAllLogs(ToolContext& tool, ResultView& resultView)
+void mdlSnapIn::nameLogFileColumns(ToolContext& tool, ResultView& resultView)
 {
     constexpr std::pair<int, int> headers[] = {{2, 1029}, {3, 1042}, {4, 1097}, {5, 1080}};
+    ErrorTrap step{tool, "mdlSnapIn", "populateListViewAllLogs"};
+
+    for (const auto& header : headers) {
+        step([&] {
+            resultView.list().column(header.first).text = myLoadResString(tool, header.second);
+        });
+    }
+}
+
+void mdlSnapIn::populateListViewAllLogs(ToolContext& tool, ResultView& resultView)
+{
     ErrorTrap step{tool, "mdlSnapIn", "populateListViewAllLogs"};
     std::string process;
     std::vector<std::string> names;
     Integer16 rowIndex = 1;
 
     step.enterProc();
-    for (const auto& header : headers) {
-        step([&] {
-            resultView.list().column(header.first).text = myLoadResString(tool, header.second);
-        });
-    }
+    nameLogFileColumns(tool, resultView);
     step([&] { process = resultView.scopePaneItem().name(); });
     step([&] {
         names = tool.platform.files.matching(tool.g_strLogFolder + "\\diag_" + process + "_*.txt");

@@ -65,6 +65,10 @@ public:
     void mnuStartNewLogFiles_Click();
     void mnuOpenLogFile_click();
 
+    /// Puts what the panes hold into the present language: the root's name, and the task pad or the
+    /// headers on show. Rows stay. For a host that is open while the language changes.
+    void showLanguage();
+
     /// Renews the log nodes of every process that was opened so far.
     void refreshScopeItems();
 

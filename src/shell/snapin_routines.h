@@ -25,9 +25,15 @@ void populateScopeAllLogs(ToolContext& tool, ScopeTree& scopeItems, ScopeItem& p
 /// A row for each log file of the process.
 void populateListViewAllLogs(ToolContext& tool, ResultView& resultView);
 
+/// The headers of a list of log files, in the interface language.
+void nameLogFileColumns(ToolContext& tool, ResultView& resultView);
+
 /// A row for each line of a log that is not empty. A log that is missing, or of more than
 /// 2,500,000 bytes, gives a message box and no rows.
 void populateListViewDiagLog(ToolContext& tool, ResultView& resultView, View& view);
+
+/// The headers of a list of log lines, in the interface language. Its columns are made already.
+void nameLogLineColumns(ToolContext& tool, ResultView& resultView);
 
 /// Texts and symbols of the root's task pad.
 void populateTaskPadDefault(ToolContext& tool, ResultView& resultView);

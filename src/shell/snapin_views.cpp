@@ -8,7 +8,13 @@
 
 namespace {
 constexpr const char* moduleName = "snapinOrvanDiagnostics";
-}
+
+/// The views by their names in the definition.
+constexpr const char* taskPad = "taskpadDefault";
+constexpr const char* logFiles = "listviewAllLogs";
+constexpr const char* logLines = "listviewDiagLog";
+
+} // namespace
 
 void snapinOrvanDiagnostics::ScopeItems_Expand(ScopeItem& item)
 {
@@ -50,11 +56,11 @@ void snapinOrvanDiagnostics::ResultViews_Initialize(ResultView& resultView)
     const std::string& shown = resultView.displayString();
 
     step.enterProc();
-    if (shown == "taskpadDefault") {
+    if (shown == taskPad) {
         step([&] { mdlSnapIn::populateTaskPadDefault(tool_, resultView); });
-    } else if (shown == "listviewAllLogs") {
+    } else if (shown == logFiles) {
         step([&] { mdlSnapIn::populateListViewAllLogs(tool_, resultView); });
-    } else if (shown == "listviewDiagLog") {
+    } else if (shown == logLines) {
         step(
             [&] { mdlSnapIn::populateListViewDiagLog(tool_, resultView, console_.currentView()); });
     }
@@ -67,7 +73,7 @@ void snapinOrvanDiagnostics::ResultViews_ListItemDblClick(ResultView& resultView
     ErrorTrap step{tool_, moduleName, "ResultViews_ListItemDblClick"};
 
     step.enterProc();
-    if (resultView.displayString() == "listviewAllLogs") {
+    if (resultView.displayString() == logFiles) {
         step([&] {
             const auto log = tool_.g_dictLogItems.item(item.text()).lock();
             console_.currentView().select(required(log.get()));
@@ -103,4 +109,18 @@ void snapinOrvanDiagnostics::Views_Refresh(View&, ScopeItem&)
     step([&] { current.display(displayString, type); });
     step([&] { refreshScopeItems(); });
     step.exitProc();
+}
+
+void snapinOrvanDiagnostics::showLanguage()
+{
+    ErrorTrap step{tool_, moduleName, "showLanguage"};
+
+    step([&] { console_.displayName(myLoadResString(tool_, 1015)); });
+    step([&] {
+        ResultView& shown = console_.currentView().selectedScopePaneItem().resultView();
+        const std::string& name = shown.displayString();
+        if (name == taskPad) mdlSnapIn::populateTaskPadDefault(tool_, shown);
+        if (name == logFiles) mdlSnapIn::nameLogFileColumns(tool_, shown);
+        if (name == logLines) mdlSnapIn::nameLogLineColumns(tool_, shown);
+    });
 }

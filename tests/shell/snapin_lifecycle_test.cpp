@@ -1,4 +1,5 @@
 #include "shell/initialize.h"
+#include "core/localisation.h"
 #include "shell/shell_fixture.h"
 
 #include <gmock/gmock.h>
@@ -324,4 +325,35 @@ TEST_F(SnapInLifecycle, LetsAnErrorOfUnloadingReachTheConsole)
     tool.eventReporter.failing(429);
 
     EXPECT_EQ(429, errorOf([&] { console.unload(); }));
+}
+
+TEST_F(SnapInLifecycle, PutsWhatThePanesHoldIntoAnotherLanguage)
+{
+    tool.languages.with("C:\\OrvanDiagnostics\\ZMKbrandingres_FRA.dll",
+                        {{1015, "Diagnostics"}, {1014, "Tâches"}, {1042, "Nom"}, {1103, "Tracé"}});
+    withProcess("KoCSMgr");
+    withCurrentLog("KoCSMgr", "diag_KoCSMgr_20250219_144115.txt",
+                   "14:41:15:089 (Log,2402,LogManager,2) One line\r\n");
+    load();
+    const auto speak = [&](std::int32_t language) {
+        tool.context.language.g_lngCurrentLanguage = language;
+        InitalizeLanguages(tool.context);
+        snapIn.showLanguage();
+    };
+
+    speak(1036);
+    EXPECT_EQ("Diagnostics", node("Static Node").displayName());
+    EXPECT_EQ("Tâches", view().selectedScopePaneItem().resultView().taskPad().title);
+
+    console.expand(processes());
+    view().select(node("KoCSMgr"));
+    EXPECT_EQ("Nom", list().column(3).text);
+    speak(1033);
+    EXPECT_EQ("File Name", list().column(3).text);
+    EXPECT_EQ(1, list().itemCount()) << "rows stay";
+
+    view().select(node("diag_KoCSMgr_20250219_144115.txt"));
+    speak(1036);
+    EXPECT_EQ("Tracé", list().column(7).text);
+    EXPECT_EQ(1, list().itemCount()) << "rows stay";
 }

@@ -182,6 +182,14 @@ void ConsolePane::perform(const std::function<void(Console&)>& call)
     emit callDone();
 }
 
+void ConsolePane::renewTexts()
+{
+    log_->renewHeaders();
+    if (listModel_.list()) listModel_.renewHeaders();
+    if (views_->currentWidget() == taskPad_)
+        taskPad_->show(console_.currentView().selectedScopePaneItem().resultView().taskPad());
+}
+
 bool ConsolePane::logShown() const
 {
     return log_ && views_->currentWidget() == log_;

@@ -60,6 +60,9 @@ public:
     /// The table on show, of a log or of another list; null when another view is.
     ListTable* table() const;
 
+    /// Shows again what the console has given other texts, such as headers. Rows and marks stay.
+    void renewTexts();
+
     /// What the selected node is called, and the empty text before the first selection.
     QString selectedName() const;
 

@@ -88,6 +88,13 @@ void FilterBar::offer(ListView& list, const TextDecoder& decoder)
     typing_.stop();
 }
 
+void FilterBar::showTitles(ListView& list)
+{
+    for (auto* button : buttons_)
+        if (button->column() > 0 && button->column() <= list.columnCount())
+            button->setTitle(QString::fromStdString(list.column(button->column()).text));
+}
+
 LogFilter FilterBar::filter(const CodePage& codePage) const
 {
     LogFilter filter;

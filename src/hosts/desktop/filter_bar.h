@@ -25,6 +25,9 @@ public:
     /// Offers the values of a list; nothing is filtered then. The text in the field is dropped.
     void offer(ListView& list, const TextDecoder& decoder);
 
+    /// Takes the columns' headers anew; what is filtered stays.
+    void showTitles(ListView& list);
+
     LogFilter filter(const CodePage& codePage) const;
 
     /// Adds a value of a column to those that are shown, or hidden. A column without a button is

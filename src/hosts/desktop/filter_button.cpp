@@ -73,11 +73,9 @@ void FilterButton::offer(const QString& title, int column, const std::vector<Col
                          const TextDecoder& decoder)
 {
     filling_ = true;
-    title_ = title;
     column_ = column;
     values_ = values;
     list_->clear();
-    list_->setAccessibleName(title);
     for (const auto& value : values) {
         auto* item = new QListWidgetItem(list_);
         item->setData(Qt::UserRole, decoder.text(value.text));
@@ -87,6 +85,13 @@ void FilterButton::offer(const QString& title, int column, const std::vector<Col
     exclude_->setChecked(false);
     filling_ = false;
     showValues();
+    setTitle(title);
+}
+
+void FilterButton::setTitle(const QString& title)
+{
+    title_ = title;
+    list_->setAccessibleName(title);
     updateText();
 }
 

@@ -19,6 +19,9 @@ public:
     void offer(const QString& title, int column, const std::vector<ColumnValue>& values,
                const TextDecoder& decoder);
 
+    /// Another text for the column's header; what is ticked stays.
+    void setTitle(const QString& title);
+
     int column() const { return column_; }
     ColumnCondition condition() const;
 

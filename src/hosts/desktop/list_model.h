@@ -50,6 +50,9 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
+    /// Shows the headers again; the console has given them other texts.
+    void renewHeaders() { emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1); }
+
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
     /// By column from 0; -1 for the console's own order.

@@ -138,6 +138,14 @@ void LogView::leave()
     details_->show(model_, -1);
 }
 
+void LogView::renewHeaders()
+{
+    if (!model_.list()) return;
+    model_.renewHeaders();
+    filterBar_->showTitles(*model_.list());
+    details_->show(model_, table_->currentIndex().row());
+}
+
 int LogView::lineOfRow(int row) const
 {
     return model_.text(row, columns_.number).toInt();

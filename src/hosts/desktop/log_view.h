@@ -30,6 +30,9 @@ public:
     void show(ListView& list, const QString& log);
     void leave();
 
+    /// Shows headers again that the console has given other texts. Lines, filter and marks stay.
+    void renewHeaders();
+
     ListModel& model() { return model_; }
     ListTable& table() { return *table_; }
     FindBar& findBar() { return *findBar_; }

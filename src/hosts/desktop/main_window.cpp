@@ -29,6 +29,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -102,7 +103,8 @@ void MainWindow::setTool(OpenTool* tool)
         connectPane();
         changeTextSize(0);
         pane_->perform([this](Console&) { tool_->load(); });
-        followLanguage();
+        spoken_ = spokenByTool();
+        language_.choose(spoken_);
         rebuildConsoleItems();
         sayLanguage();
         if (!tool_->writable())
@@ -158,13 +160,23 @@ void MainWindow::checkSite()
     });
 }
 
-/// The window speaks as the tool does: in its language, where that has its catalogue.
+/// The tool's language where that has its catalogue, and 0 for English.
+std::int32_t MainWindow::spokenByTool() const
+{
+    const auto& language = tool_->context().language;
+    return language.g_hResourceLibrary != 0 ? language.g_lngCurrentLanguage : 0;
+}
+
 void MainWindow::followLanguage()
 {
-    if (!tool_) return;
-    const auto& language = tool_->context().language;
-    language_.choose(language.g_hResourceLibrary != 0 ? language.g_lngCurrentLanguage : 0);
     notice_->renew();
+    const std::int32_t spoken = spokenByTool();
+    if (std::exchange(spoken_, spoken) == spoken) return;
+    language_.choose(spoken);
+    pane_->perform([this](Console&) { tool_->snapIn().showLanguage(); });
+    pane_->renewTexts();
+    rebuildConsoleItems();
+    updateTitle();
 }
 
 /// A language other than English without its texts: the tool goes on in English.
@@ -377,10 +389,6 @@ void MainWindow::showAbout()
     connect(&help, &QAction::triggered, this, [this] { emit helpAsked(helpTopic::about); });
     about.addAction(&help);
     about.exec();
-    // The person may have chosen another language there.
-    rebuildConsoleItems();
-    if (pane_ && pane_->taskPad().isVisible())
-        pane_->perform([](Console& console) { console.refresh(); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

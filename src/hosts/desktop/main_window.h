@@ -69,6 +69,7 @@ private:
     void afterCall();
     void checkSite();
     void showTexts();
+    std::int32_t spokenByTool() const;
     void followLanguage();
     void sayLanguage();
     void runInLog(Command command);
@@ -82,6 +83,7 @@ private:
     void showAbout();
 
     InterfaceLanguage language_;
+    std::int32_t spoken_ = 0; ///< what `spokenByTool` was when the texts on show were made
     QSettings& settings_;
     OpenTool* tool_ = nullptr;
     ConsolePane* pane_ = nullptr;

@@ -5,7 +5,7 @@
 #include "hosts/desktop/key_list.h"
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_view.h"
-#include "hosts/desktop/notice_bar.h"
+#include "hosts/desktop/task_pad_view.h"
 #include "hosts/desktop/test_window.h"
 #include "hosts/desktop/translation_file.h"
 
@@ -131,8 +131,38 @@ TEST(InterfaceLanguage, ALogOnShowStaysAsItIs)
         << "the count of hits";
     EXPECT_EQ(1, labels.filter(QRegularExpression(QStringLiteral(" von .* Zeilen$"))).size())
         << "the count of rows";
+    EXPECT_EQ(QStringLiteral("Komponente"),
+              log.model().headerData(4, Qt::Horizontal, Qt::DisplayRole).toString());
+    QStringList buttons;
+    for (const auto* button : log.filterBar().findChildren<QAbstractButton*>())
+        buttons << button->text();
+    EXPECT_TRUE(buttons.contains(QStringLiteral("Komponente: RuleEngine ")));
     shown.window->action(Command::showAll).trigger();
     EXPECT_FALSE(log.model().index(30, 0).data(Qt::DecorationRole).isNull()) << "the bookmark";
+}
+
+TEST(InterfaceLanguage, WhatTheToolPutIntoThePanesChangesToo)
+{
+    TestWindow shown;
+    const auto title = [&] { return shown.window->windowTitle().section(" - ", 0, 0); };
+    const auto firstCard = [&] {
+        return shown.pane().taskPad().findChild<QAbstractButton*>("task-1")->text();
+    };
+    shown.chooseLanguage(1036);
+    EXPECT_EQ(QStringLiteral("Configurer les macro-traces"), firstCard());
+    EXPECT_EQ(QStringLiteral("Diagnostics Kelma Orvan"), title());
+    EXPECT_EQ(title(), shown.pane().selectedName());
+
+    shown.showLog("KoCSMgr");
+    shown.window->showNode("KoCSMgr");
+    const auto header = [&] {
+        return shown.pane().table()->model()->headerData(3, Qt::Horizontal).toString();
+    };
+    EXPECT_EQ(QStringLiteral("Date et heure"), header());
+    const int rows = shown.pane().table()->model()->rowCount();
+    shown.chooseLanguage(english);
+    EXPECT_EQ(QStringLiteral("Time Stamp"), header());
+    EXPECT_EQ(rows, shown.pane().table()->model()->rowCount());
 }
 
 TEST(InterfaceLanguage, TheWindowOfADefaultLanguageOpensInIt)
