@@ -15,20 +15,26 @@
 #include <algorithm>
 
 namespace {
-constexpr int typingPause = 120; ///< milliseconds
-}
+constexpr int typingPause = 120;   ///< milliseconds
+constexpr int textCharacters = 16; ///< of the text to filter by that are in sight at least
+} // namespace
 
 FilterBar::FilterBar(QWidget* parent)
     : QWidget(parent), text_(new QLineEdit(this)), excludeText_(new QCheckBox(this)),
       counts_(new QLabel(this))
 {
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(6, 4, 6, 4);
+    rows_ = new QBoxLayout(QBoxLayout::LeftToRight, this);
+    rows_->setContentsMargins(6, 4, 6, 4);
+    auto* columns = new QHBoxLayout;
+    auto* row = new QHBoxLayout;
+    rows_->addLayout(columns);
+    rows_->addLayout(row, 1);
     for (auto& button : buttons_) {
         button = new FilterButton(this);
-        row->addWidget(button);
+        columns->addWidget(button);
         connect(button, &FilterButton::changed, this, &FilterBar::changed);
     }
+    columns->addStretch();
     text_->setClearButtonEnabled(true);
     row->addWidget(text_, 1);
     row->addWidget(excludeText_);
@@ -142,6 +148,32 @@ void FilterBar::showCounts(int shown, int all)
         return tr("%1 of %2 rows").arg(locale.toString(shown), locale.toString(all));
     };
     counts_->setText(counted_());
+}
+
+QSize FilterBar::minimumSizeHint() const
+{
+    const QMargins around = rows_->contentsMargins();
+    int width = 0;
+    for (int place = 0; place < rows_->count(); ++place)
+        width = std::max(width, rows_->itemAt(place)->minimumSize().width());
+    return {width + around.left() + around.right(), QWidget::minimumSizeHint().height()};
+}
+
+/// Two rows where one has no room for all.
+void FilterBar::arrange()
+{
+    const int besides = fontMetrics().averageCharWidth() * textCharacters;
+    int needed = rows_->spacing() + besides;
+    for (int place = 0; place < rows_->count(); ++place)
+        needed += rows_->itemAt(place)->minimumSize().width();
+    rows_->setDirection(needed <= contentsRect().width() ? QBoxLayout::LeftToRight
+                                                         : QBoxLayout::TopToBottom);
+}
+
+bool FilterBar::event(QEvent* event)
+{
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) arrange();
+    return QWidget::event(event);
 }
 
 void FilterBar::keyPressEvent(QKeyEvent* event)

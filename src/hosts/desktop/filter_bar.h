@@ -11,6 +11,7 @@
 
 class FilterButton;
 class ListView;
+class QBoxLayout;
 class QCheckBox;
 class QLabel;
 class QLineEdit;
@@ -43,14 +44,21 @@ public:
 
     void showCounts(int shown, int all);
 
+    /// Room for two rows, which it takes where a window is narrow.
+    QSize minimumSizeHint() const override;
+
 signals:
     void changed();
     void closed();
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void arrange();
+
+    QBoxLayout* rows_ = nullptr;             ///< the buttons, then the rest
     std::array<FilterButton*, 3> buttons_{}; ///< component, source, level
     QLineEdit* text_ = nullptr;
     QCheckBox* excludeText_ = nullptr;
