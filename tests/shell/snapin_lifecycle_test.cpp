@@ -1,5 +1,5 @@
-#include "shell/initialize.h"
 #include "core/localisation.h"
+#include "shell/initialize.h"
 #include "shell/shell_fixture.h"
 
 #include <gmock/gmock.h>
