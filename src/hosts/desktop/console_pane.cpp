@@ -184,7 +184,7 @@ void ConsolePane::perform(const std::function<void(Console&)>& call)
 
 void ConsolePane::renewTexts()
 {
-    log_->renewHeaders();
+    if (log_) log_->renewHeaders();
     if (listModel_.list()) listModel_.renewHeaders();
     if (views_->currentWidget() == taskPad_)
         taskPad_->show(console_.currentView().selectedScopePaneItem().resultView().taskPad());
