@@ -128,6 +128,11 @@ PickerView::PickerView(DateTimePicker& picker, QWidget* parent, const ActOnContr
       edit_(static_cast<QDateTimeEdit*>(widget()))
 {
     const bool date = model_.kind() == PickerKind::date;
+    // A clock without a summer time: the hours that this machine leaves out may be the server's.
+    edit_->setTimeSpec(Qt::UTC);
+    // Qt's own range is that of this machine's time zone.
+    edit_->setDateTimeRange(QDateTime(QDate(100, 1, 1), QTime(0, 0), Qt::UTC),
+                            QDateTime(QDate(9999, 12, 31), QTime(23, 59, 59), Qt::UTC));
     edit_->setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     edit_->setDisplayFormat(date ? QStringLiteral("M/d/yyyy") : QStringLiteral("h:mm:ss AP"));
     edit_->setCalendarPopup(date);
@@ -152,7 +157,7 @@ void PickerView::render()
 {
     const DateParts value = partsOf(model_.value());
     const QDateTime shown(QDate(value.year, value.month, value.day),
-                          QTime(value.hour, value.minute, value.second));
+                          QTime(value.hour, value.minute, value.second), Qt::UTC);
     if (shown != edit_->dateTime()) edit_->setDateTime(shown);
 }
 

@@ -159,6 +159,30 @@ TEST(ControlWidgets, APickerKeepsTheOtherPartOfItsMoment)
     EXPECT_EQ("2025-02-20 08:01:00", sortableDateTime(shown.page().time.value()));
 }
 
+TEST(ControlWidgets, APickerKnowsTheHourThatTheMachinesOwnClockLeavesOut)
+{
+    qputenv("TZ", "America/Los_Angeles");
+    tzset();
+    {
+        ShownSheet<WizardSheet> shown;
+        const auto pickers = shown.dialog->findChildren<QDateTimeEdit*>();
+        ASSERT_EQ(2, pickers.size());
+        shown.page().time.setValue(dateOf(2025, 3, 9, 2, 30, 0));
+        settle();
+        EXPECT_EQ(QStringLiteral("2:30:00 AM"), pickers[1]->text());
+        pickers[1]->setTime(QTime(2, 15, 0));
+        EXPECT_EQ("2025-03-09 02:15:00", sortableDateTime(shown.page().time.value()))
+            << "the server has a time zone of its own";
+        for (const QTime end : {QTime(0, 0, 0), QTime(23, 59, 59)}) {
+            pickers[1]->setTime(end);
+            EXPECT_EQ("2025-03-09 " + end.toString("HH:mm:ss").toStdString(),
+                      sortableDateTime(shown.page().time.value()));
+        }
+    }
+    qunsetenv("TZ");
+    tzset();
+}
+
 TEST(ControlWidgets, ATextBoxLetsThePageDropKeysAndEvenTheBackspace)
 {
     ShownSheet<WizardSheet> shown;
