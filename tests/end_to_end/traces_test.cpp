@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -109,6 +111,34 @@ TEST_F(TraceCommands, AMicroTraceIsOneBitOfAComponentsWord)
         }
     }
     FAIL() << "every level is on";
+}
+
+TEST_F(TraceCommands, AskingForWhatIsInForceAlreadyIsDoneAndTold)
+{
+    const std::string trace = macroTrace();
+    for (const char* option : {"--on", "--off"}) {
+        for (int time = 0; time < 2; ++time) {
+            SCOPED_TRACE(std::string(option) + (time == 0 ? " first" : " again"));
+            const Outcome set = runJson({"macro", "set", option, trace});
+            ASSERT_EQ(0, set.status) << set.err;
+            EXPECT_NE(std::string::npos, set.json()["summary"].get<std::string>().find(trace));
+            EXPECT_EQ(option == std::string("--on"), shown(trace)["enabled"]);
+        }
+    }
+
+    ASSERT_EQ(0, run({"reset"}).status);
+    const std::string words = sql("SELECT * FROM vw_LoggerDiagnosticGrid ORDER BY Name");
+    const std::string component = runJson({"flags"}).json()[0]["name"];
+    const json levels = runJson({"micro", component}).json()[0]["levels"];
+    for (const bool enabled : {true, false}) {
+        const auto level = std::find_if(levels.begin(), levels.end(), [&](const json& each) {
+            return each["enabled"] == enabled;
+        });
+        ASSERT_NE(levels.end(), level);
+        const std::string place = component + ":" + std::to_string((*level)["level"].get<int>());
+        EXPECT_EQ(0, run({"micro", "set", enabled ? "--on" : "--off", place}).status) << place;
+    }
+    EXPECT_EQ(words, sql("SELECT * FROM vw_LoggerDiagnosticGrid ORDER BY Name"));
 }
 
 TEST_F(TraceCommands, ResetLeavesTheDefaultFlags)

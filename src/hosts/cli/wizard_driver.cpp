@@ -30,6 +30,12 @@ void WizardDriver::finish()
     if (!sheet_->finish()) throw CommandFailure("the wizard does not finish");
 }
 
+void WizardDriver::choose(TreeView& tree, TreeNode& node, bool ticked)
+{
+    tree.checkByPerson(node, !ticked);
+    tree.checkByPerson(node, ticked);
+}
+
 void WizardDriver::missing(const std::string& name) const
 {
     throw CommandFailure("the page " + sheet_->currentPage().name() + " has no " + name);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hosts/cli/open_tool.h"
+#include "platform/tree_view.h"
 #include "platform/wizard_sheet.h"
 
 #include <memory>
@@ -31,6 +32,10 @@ public:
         if (!found) missing(name);
         return *found;
     }
+
+    /// Ticks or clears a node. One that is so already is turned over and back: the wizard goes on
+    /// after a choice alone, and applies and lists what was chosen.
+    void choose(TreeView& tree, TreeNode& node, bool ticked);
 
 private:
     [[noreturn]] void missing(const std::string& name) const;

@@ -131,8 +131,8 @@ private:
             auto& tree = wizard.control<TreeView>("treeviewMacroTrace");
             for (const auto* names : {&on_, &off_})
                 for (const auto& name : *names) macroTraceNode(tree, name);
-            for (const auto& name : off_) tree.checkByPerson(macroTraceNode(tree, name), false);
-            for (const auto& name : on_) tree.checkByPerson(macroTraceNode(tree, name), true);
+            for (const auto& name : off_) wizard.choose(tree, macroTraceNode(tree, name), false);
+            for (const auto& name : on_) wizard.choose(tree, macroTraceNode(tree, name), true);
             wizard.next();
             summary = wizard.control<Label>("lblSummary").caption();
             wizard.finish();

@@ -177,8 +177,8 @@ private:
             auto& tree = wizard.control<TreeView>(treeName);
             for (const auto* names : {&on, &off})
                 for (const auto& name : *names) levelNode(tree, name);
-            for (const auto& name : off) tree.checkByPerson(levelNode(tree, name), false);
-            for (const auto& name : on) tree.checkByPerson(levelNode(tree, name), true);
+            for (const auto& name : off) wizard.choose(tree, levelNode(tree, name), false);
+            for (const auto& name : on) wizard.choose(tree, levelNode(tree, name), true);
             wizard.next();
             summary = wizard.control<Label>("lblCompletionStatment").caption();
             wizard.finish();
