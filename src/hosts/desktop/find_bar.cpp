@@ -37,6 +37,8 @@ FindBar::FindBar(QWidget* parent)
     auto* timeLabel = new QLabel(this);
     timeLabel->setBuddy(time_);
     text_->setClearButtonEnabled(true);
+    text_->setMinimumWidth(fontMetrics().averageCharWidth() * 14);
+    time_->setMinimumWidth(fontMetrics().averageCharWidth() * 12);
     time_->setMaximumWidth(fontMetrics().averageCharWidth() * 22);
     count_->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
     auto* previousButton = button(this, "previous");
