@@ -43,6 +43,21 @@ struct FrameGather : SampleSite {
         return {};
     }
 
+    /// Gathers a log of 500,000 lines, and runs a command as soon as the database is there.
+    Outcome gatherWhile(const std::string& command) const
+    {
+        std::string content;
+        for (int line = 0; line < 500'000; ++line)
+            content += "15:23:07:123,Conv,1,CallFlow,2,good\n";
+        write(drive("KelmaOrvan/Logs/diag_Long_20250101_000000.txt"), content);
+        return runProgram({"bash", "-c",
+                           "'" ORVANDIAG_PROGRAM "' --site '" + site.string() +
+                               "' gather frame --from '2025-01-01 00:00' --hours 24 --to '" +
+                               target.string() + "' & gather=$!; until [ -s '" + target.string() +
+                               "'/*.mdb ] || ! kill -0 $gather; do :; done; " + command +
+                               "; wait $gather"});
+    }
+
     /// Starts a gather into the target and kills it after a while.
     void killGather(unsigned microseconds) const
     {
@@ -273,21 +288,62 @@ TEST_F(FrameGather, TellsOfALogThatHasTooManyMalformedLines)
     EXPECT_EQ(11U, rowsOf(databaseIn(target), "tblTraces").size());
 }
 
-TEST_F(FrameGather, ADestinationThatVanishesIsToldAsGone)
+TEST_F(FrameGather, ACommaInAFiltersValueShiftsItsColumnsAndKeepsItsKey)
+{
+    write(drive("KelmaOrvan/Logs/diag_a,b_20250101_000000.txt"),
+          "15:23:07:123,Conv,1,CallFlow,2,good\n");
+    ASSERT_EQ(0, run(gatherWords("2025-01-01 00:00", "24", target)).status);
+    const std::vector<TextRow> expected = {{{"qrvIndex", "CallFlow_a,b_2_Conv"},
+                                            {"Process", "a"},
+                                            {"Source", "b"},
+                                            {"Component", "Conv"},
+                                            {"TraceLevel", "CallFlow"}}};
+    EXPECT_EQ("", firstDifference(expected, nodeRows(databaseIn(target), "tblUniqueFilters")));
+}
+
+TEST_F(FrameGather, TellsOfFiltersThatCouldNotAllBeStored)
 {
     std::string content;
-    for (int line = 0; line < 300'000; ++line) content += "15:23:07:123,Conv,1,CallFlow,2,good\n";
-    write(drive("KelmaOrvan/Logs/diag_Odd_20250101_000000.txt"), content);
-    const Outcome gone =
-        runProgram({"bash", "-c",
-                    "'" ORVANDIAG_PROGRAM "' --site '" + site.string() +
-                        "' gather frame --from '2025-01-01 00:00' --hours 24 --to '" +
-                        target.string() + "' & gather=$!; until [ -s '" + target.string() +
-                        "'/*.mdb ] || ! kill -0 $gather; do :; done; rm -r '" + target.string() +
-                        "'; wait $gather"});
+    for (char letter = 'a'; letter < 'p'; ++letter)
+        content += "15:23:07:123,Conv,1," + std::string(60, letter) + ",2,good\n";
+    write(drive("KelmaOrvan/Logs/diag_a,b_20250101_000000.txt"), content);
+    const Outcome gathered = run(gatherWords("2025-01-01 00:00", "24", target));
+    EXPECT_EQ(1, gathered.status);
+    EXPECT_EQ("orvandiag: not everything was gathered: the filters could not all be stored: too "
+              "many errors\n",
+              gathered.err);
+    EXPECT_EQ(15U, rowsOf(databaseIn(target), "tblTraces").size());
+    EXPECT_EQ(10U, rowsOf(databaseIn(target), "tblUniqueFilters").size());
+}
+
+TEST_F(FrameGather, TellsOfDefinitionsThatCouldNotAllBeStored)
+{
+    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
+    write(drive("OrvanDiagnostics/ZMKXML/HTa.xml"), "");
+    const Outcome gathered = run(gatherWords("2025-02-20 16:42", "1", target));
+    EXPECT_EQ(1, gathered.status);
+    EXPECT_EQ("orvandiag: not everything was gathered: the macro trace definitions could not all "
+              "be stored: Input past end of file\n",
+              gathered.err);
+}
+
+TEST_F(FrameGather, ADestinationThatVanishesIsToldAsGone)
+{
+    const Outcome gone = gatherWhile("rm -r '" + target.string() + "'");
     EXPECT_EQ(1, gone.status);
     EXPECT_EQ("", gone.out);
     EXPECT_THAT(gone.err, HasSubstr("the destination " + target.string() + " has gone"));
+}
+
+TEST_F(FrameGather, ALogThatVanishesIsToldAndTheOthersAreGathered)
+{
+    const std::string name = "diag_Zed_20250101_000000.txt";
+    write(drive("KelmaOrvan/Logs/" + name), "15:23:07:123,Conv,1,CallFlow,2,good\n");
+    const Outcome gathered = gatherWhile("rm '" + drive("KelmaOrvan/Logs/" + name).string() + "'");
+    EXPECT_EQ(1, gathered.status);
+    EXPECT_THAT(gathered.err, HasSubstr(name + " can not be found.  Log not processed."));
+    EXPECT_THAT(gathered.err, HasSubstr("not all logs could be gathered"));
+    EXPECT_EQ(500'000U, rowsOf(databaseIn(target), "tblTraces").size());
 }
 
 TEST_F(FrameGather, AKilledOneLeavesADatabaseThatHoldsAnExactPrefix)

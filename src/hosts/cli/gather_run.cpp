@@ -40,11 +40,20 @@ bool costsAResult(const RunTimeError& error, std::string_view procName)
            !isOfAMalformedLine(error.number());
 }
 
-/// What went wrong, in words for the person. `current` is the log that is being gathered.
-std::string failureText(const RunTimeError& error, const std::string& current)
+/// What went wrong, in words for the person. `current` is the log that is being gathered, empty
+/// before and after the logs: the one file that the pipeline itself reads is a definition.
+std::string failureText(const RunTimeError& error, bool ofThePipeline, const std::string& current)
 {
-    if (error.number() != errorCountExceeded) return error.description();
-    return current + " has too many malformed lines, and was read no further than the eleventh";
+    if (error.number() == errorCountExceeded)
+        return current.empty()
+                   ? "the filters could not all be stored: too many errors"
+                   : current +
+                         " has too many malformed lines, and was read no further than the eleventh";
+    const bool ofADefinition =
+        ofThePipeline && current.empty() && error.number() == runTimeErrors::inputPastEnd;
+    if (ofADefinition)
+        return "the macro trace definitions could not all be stored: " + error.description();
+    return error.description();
 }
 
 /// The log that stands in bold, or the empty text.
@@ -102,9 +111,10 @@ public:
     {
         tool.context().onTrappedError = [&](const RunTimeError& error, std::string_view procName) {
             if (result.failure || !costsAResult(error, procName)) return;
-            result.failure = failureText(error, currentLog(wizard.steps()));
-            result.destinationMade = procName != "[mdlLogs]processLogs" ||
-                                     fs::is_directory(tool_.machinePath(wizard.destination()));
+            const bool ofThePipeline = procName == "[mdlLogs]processLogs";
+            result.failure = failureText(error, ofThePipeline, currentLog(wizard.steps()));
+            result.destinationMade =
+                !ofThePipeline || fs::is_directory(tool_.machinePath(wizard.destination()));
         };
         tool.desktop().beforeMessage([this] { progress_.clear(); });
         tool.desktop().onPump([this, &wizard, &result] {
