@@ -69,6 +69,18 @@ TEST(DatabaseGather, FillsAllThreeTables)
     EXPECT_EQ("", tool.label.caption());
 }
 
+TEST(DatabaseGather, TellsInTheLabelThatTheCabinetIsBeingMade)
+{
+    FrameTool tool;
+    tool.withServerLog("").withEventLog("");
+    std::string whilePacking;
+    tool.processes.onStart([&](const std::string&) { whilePacking = tool.label.caption(); });
+    CaptionRecorder captions(tool.label);
+    tool.gatherFrame();
+    EXPECT_EQ("Creating .CAB file...", whilePacking);
+    EXPECT_EQ((Texts{"Creating .CAB file...", ""}), captions.captions);
+}
+
 TEST(DatabaseGather, OpensAndClosesInOrderAndBeforeThePacking)
 {
     FrameTool tool;

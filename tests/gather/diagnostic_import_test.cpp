@@ -260,7 +260,7 @@ TEST(ProcessOrvanLogFileToDB, LinesOutsideTheFrameHaveProgressPointsToo)
 
 TEST(ProcessOrvanLogFileToDB, LinesThatAreSurelySoundAreNotFormattedBeforeTheFrame)
 {
-    /// Sure of every line of 30 bytes and more, as the log's own lines below are.
+    /// Sure of every line that begins with a time.
     struct SureReporter final : EventReporter {
         explicit SureReporter(EventReporter& other) : inner(other) {}
         void startUp() override { inner.startUp(); }
@@ -280,14 +280,14 @@ TEST(ProcessOrvanLogFileToDB, LinesThatAreSurelySoundAreNotFormattedBeforeTheFra
         }
         std::string_view timeOfSoundLine(std::string_view line) const override
         {
-            return line.size() < 30 ? std::string_view() : line.substr(0, 12);
+            return line.size() < 12 || line[2] != ':' ? std::string_view() : line.substr(0, 12);
         }
         EventReporter& inner;
     };
 
     const std::initializer_list<std::string> lines = {
         lineAt("09:40:00:000", "before"), "garbage of some bytes",
-        lineAt("09:50:00:000", "before"), "short",
+        lineAt("09:50:00:000", "before"), "09:55:00:000,C,1,F,",
         lineAt("10:00:00:000", "first"),  "garbage of some bytes",
         lineAt("10:30:00:000", "last"),   lineAt("11:00:01:000", "behind")};
     ImportTool plain;
@@ -309,6 +309,10 @@ TEST(ProcessOrvanLogFileToDB, LinesThatAreSurelySoundAreNotFormattedBeforeTheFra
                                      quick.start, quick.end);
     EXPECT_EQ(plain.rows(), quick.rows());
     EXPECT_EQ(3U, quick.rows().size());
+    for (const std::string& toolLog : {plain.files.content(plain.context.g_log->strLogFile()),
+                                       quick.files.content(context.g_log->strLogFile())})
+        EXPECT_NE(std::string::npos, toolLog.find("Could not format: 09:55:00:000,C,1,F,"))
+            << "a line that is too short for a log's has no time, whatever it begins with";
     EXPECT_EQ(plain.eventReporter.linesFormatted() - 2, quick.eventReporter.linesFormatted())
         << "the two before the frame";
 }

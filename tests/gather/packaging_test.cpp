@@ -29,6 +29,7 @@ struct PackagingTool : TestTool {
             .withFolder("C:\\Out");
         processes.onStart([this](const std::string&) {
             directives = files.content("C:\\Out\\ZMK.DDF");
+            directivesOpen = files.isOpen("C:\\Out\\ZMK.DDF");
             folderOfRun = files.currentFolder();
             programBeside = files.fileExists("C:\\Out\\cabmaker.exe");
             files.with("C:\\Out\\setup.rpt")
@@ -39,6 +40,7 @@ struct PackagingTool : TestTool {
 
     std::string directives;
     std::string folderOfRun;
+    bool directivesOpen = true;
     bool programBeside = false;
 };
 
@@ -125,6 +127,7 @@ TEST(CompressResults, RunsTheCopiedCabinetMakerHiddenAndWaitsForItsEnd)
     EXPECT_EQ(-1, tool.processes.waits()[0].second);
     EXPECT_EQ("C:\\Out", tool.folderOfRun);
     EXPECT_TRUE(tool.programBeside);
+    EXPECT_FALSE(tool.directivesOpen) << "all of them are in the file by then";
     EXPECT_TRUE(tool.logged("Command: " + command));
     EXPECT_TRUE(tool.failures().empty());
 }
@@ -139,6 +142,27 @@ TEST(CompressResults, RemovesAllButTheResults)
     EXPECT_EQ((std::vector<std::string>{"Application.csv", "ORVAN01_WPN_" + stamp + ".mdb"}),
               names);
     EXPECT_TRUE(tool.files.fileExists("C:\\OrvanDiagnostics\\cabmaker.exe"));
+}
+
+TEST(CompressResults, ChangesToTheDriveAndThenToTheFolder)
+{
+    PackagingTool tool;
+    mdlLogs::compressResults(tool.context, "C:\\Out", database);
+    const auto& asked = tool.files.asked();
+    const std::vector<std::string> changes = {"C:", "C:\\Out"};
+    EXPECT_NE(asked.end(), std::search(asked.begin(), asked.end(), changes.begin(), changes.end()));
+}
+
+TEST(CompressResults, CleansUpInItsOrder)
+{
+    PackagingTool tool;
+    mdlLogs::compressResults(tool.context, "C:\\Out", database);
+    const auto& asked = tool.files.asked();
+    const std::vector<std::string> removed = {"C:\\Out\\setup.rpt", "C:\\Out\\setup.inf",
+                                              "C:\\Out\\ZMK.DDF", "C:\\Out\\disk1",
+                                              "C:\\Out\\cabmaker.exe"};
+    ASSERT_GE(asked.size(), removed.size());
+    EXPECT_EQ(removed, std::vector<std::string>(asked.end() - 5, asked.end()));
 }
 
 TEST(CompressResults, RemovesTheDirectiveFileUnderTheNameItWasMadeWith)

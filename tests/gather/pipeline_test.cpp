@@ -88,6 +88,33 @@ TEST(ProcessLogs, TheCurrentLeafStandsInBoldAndInSight)
         EXPECT_FALSE(tool.steps.item(index).bold());
 }
 
+TEST(ProcessLogs, ShowsTheTreeAtEachLeafAndTheBarAtEachProgressPoint)
+{
+    struct RefreshCounter final : ControlObserver {
+        void changed(Control&) override {}
+        void refreshed(Control&) override { ++refreshes; }
+        int refreshes = 0;
+    } tree, bar;
+    GatherTool tool;
+    tool.files.with("C:\\Logs\\diag_a_1.txt", logOf(2'000));
+    tool.withServerLog("diag_a_1.txt").withEventLog("");
+    tool.steps.observe(&tree);
+    tool.current.observe(&bar);
+    tool.gather();
+    EXPECT_EQ(2, tree.refreshes);
+    EXPECT_EQ(3, bar.refreshes);
+}
+
+TEST(ProcessLogs, ASecondRunBeginsItsProgressAnew)
+{
+    GatherTool tool;
+    tool.withServerLog("").withEventLog("");
+    tool.gather();
+    tool.gather();
+    EXPECT_EQ(2.0F, tool.overall.value());
+    EXPECT_TRUE(tool.failures().empty()) << "past its maximum the bar takes no value";
+}
+
 TEST(ProcessLogs, KnowsServerLogsByTheBranchAndItsCase)
 {
     struct Case {

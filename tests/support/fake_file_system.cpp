@@ -213,6 +213,12 @@ bool FakeFileSystem::isReadOnly(const std::string& path) const
     return nodes_.at(keyOf(path))->info.readOnly;
 }
 
+bool FakeFileSystem::isOpen(const std::string& path) const
+{
+    const auto node = nodes_.find(keyOf(path));
+    return node != nodes_.end() && node->second.use_count() > 1; // one of them is the map's
+}
+
 bool FakeFileSystem::fileExists(const std::string& path) const
 {
     const auto node = find(use(path));

@@ -55,6 +55,9 @@ public:
     std::string content(const std::string& path) const;
     bool isReadOnly(const std::string& path) const;
 
+    /// Whether a stream of a file is still open.
+    bool isOpen(const std::string& path) const;
+
     /// Paths asked for, oldest first, as the asker wrote them.
     const std::vector<std::string>& asked() const { return asked_; }
 
