@@ -65,17 +65,40 @@ TEST(Growth, APageTakes255RowsAndNoMore)
     ScratchDatabase scratch(jet::parseSchema("table tblSmall\ncolumn Level integer\n"));
     auto engine = machineEngine();
     const auto before = pagesOf(scratch.path());
-    const auto database = engine.openDatabase(scratch.path().string());
-    const auto rows = database->openRecordset("tblSmall");
-    for (int row = 0; row < 256; ++row) {
-        rows->addNew();
-        rows->field("Level").setNumber(row);
-        rows->update();
-    }
-    database->close();
+    const auto add = [&](int count) {
+        const auto database = engine.openDatabase(scratch.path().string());
+        const auto rows = database->openRecordset("tblSmall");
+        for (int row = 0; row < count; ++row) {
+            rows->addNew();
+            rows->field("Level").setNumber(row);
+            rows->update();
+        }
+    };
+    add(255);
+    EXPECT_EQ(before + 1, pagesOf(scratch.path()));
+    add(1);
     EXPECT_EQ(before + 2, pagesOf(scratch.path()));
     EXPECT_EQ(256u, scratch.rows("tblSmall").size());
     EXPECT_EQ("", problemsOf(scratch.path()));
+}
+
+TEST(Growth, AMemoOfUpTo32CharactersLiesInItsRow)
+{
+    for (const std::size_t characters : {32u, 33u}) {
+        SCOPED_TRACE(characters);
+        ScratchDatabase scratch;
+        auto engine = machineEngine();
+        const auto before = pagesOf(scratch.path());
+        {
+            const auto database = engine.openDatabase(scratch.path().string());
+            const auto rows = database->openRecordset("tblMacroTraces");
+            rows->addNew();
+            rows->field("Data").setText(std::string(characters, 'x'));
+            rows->update();
+        }
+        const auto longValuePages = characters > 32 ? 1u : 0u;
+        EXPECT_EQ(before + 1 + longValuePages, pagesOf(scratch.path()));
+    }
 }
 
 TEST(Growth, ARowLargerThanAPageHoldsRaises3047)
@@ -87,14 +110,22 @@ TEST(Growth, ARowLargerThanAPageHoldsRaises3047)
     auto engine = machineEngine();
     const auto database = engine.openDatabase(scratch.path().string());
     const auto rows = database->openRecordset("tblWide");
-    std::string wide;
-    for (int count = 0; count < 255; ++count) wide += "\xD0\x96";
+    const auto wide = [](int characters) {
+        std::string text;
+        for (int count = 0; count < characters; ++count) text += "\xD0\x96";
+        return text;
+    };
     rows->addNew();
     for (int column = 0; column < 9; ++column)
-        rows->field("Text" + std::to_string(column)).setUtf8(wide);
+        rows->field("Text" + std::to_string(column)).setUtf8(wide(255));
     EXPECT_EQ(3047, errorOf([&] { rows->update(); }));
-    rows->field("Text0").setText("short");
-    rows->field("Text1").setText("short");
+
+    // Beside its texts the row takes 26 bytes: 4,061 of them are one too many.
+    rows->field("Text7").setUtf8(wide(230));
+    rows->field("Text8").setText("abc");
+    EXPECT_EQ(3047, errorOf([&] { rows->update(); }));
+    rows->field("Text7").setUtf8(wide(231));
+    rows->field("Text8").setText("a");
     rows->update();
     EXPECT_EQ(1u, scratch.rows("tblWide").size());
 }
