@@ -21,6 +21,7 @@ public:
 
     std::vector<std::string> check(const std::vector<TableDefinition>& tables)
     {
+        checkMap("the file", {globalMapPage, 0});
         for (const auto& table : tables) {
             try {
                 checkTable(table);
@@ -53,6 +54,22 @@ private:
                    std::to_string(table.rowCount));
     }
 
+    /// The pages that a map lies on, and where it begins.
+    void checkMap(const std::string& name, RowPointer map)
+    {
+        const std::string maps = "the maps of " + name;
+        requireUsed(map.page, maps);
+        const std::string_view row = pages_.row(map);
+        if (row[0] == 0) {
+            const std::uint32_t first = load32(row.data() + 1);
+            if (first % 8 != 0) report(maps + ": one begins at page " + std::to_string(first));
+            return;
+        }
+        for (std::size_t at = usageMap::pointers; at + 4 <= row.size(); at += 4)
+            if (const std::uint32_t bitmap = load32(row.data() + at); bitmap != 0)
+                claim(bitmap, maps);
+    }
+
     void checkMaps(const std::string& name, RowPointer owned, RowPointer free, std::uint32_t owner)
     {
         std::set<std::uint32_t> members;
@@ -65,6 +82,8 @@ private:
             if (members.count(page) == 0)
                 report(name + ": page " + std::to_string(page) + " has room but no owner");
         }
+        checkMap(name, owned);
+        checkMap(name, free);
     }
 
     void claim(std::uint32_t page, const std::string& name)
@@ -73,6 +92,11 @@ private:
         if (!first)
             report("page " + std::to_string(page) + " belongs to " + place->second + " and " +
                    name);
+        requireUsed(page, name);
+    }
+
+    void requireUsed(std::uint32_t page, const std::string& name)
+    {
         if (free_.count(page) != 0)
             report("page " + std::to_string(page) + " of " + name + " counts as free");
     }

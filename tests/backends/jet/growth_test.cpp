@@ -46,6 +46,57 @@ TEST(Growth, ReopeningGoesOnWhereTheFileEnded)
     }
 }
 
+TEST(Growth, ReopeningFillsThePagesThatHaveRoom)
+{
+    ScratchDatabase scratch;
+    auto engine = machineEngine();
+    const auto before = pagesOf(scratch.path());
+    for (int round = 0; round < 3; ++round) {
+        const auto database = engine.openDatabase(scratch.path().string());
+        const auto macros = database->openRecordset("tblMacroTraces");
+        macros->addNew();
+        macros->field("Data").setText(std::string(200, 'x'));
+        macros->update();
+    }
+    EXPECT_EQ(before + 2, pagesOf(scratch.path())) << "one of rows and one of their memos";
+    EXPECT_EQ(3u, scratch.rows("tblMacroTraces").size());
+    EXPECT_EQ("", problemsOf(scratch.path()));
+}
+
+TEST(Growth, ReopeningUsesThePagesOfZerosThatAKilledWriterLeft)
+{
+    ScratchDatabase scratch;
+    auto engine = machineEngine();
+    const auto before = pagesOf(scratch.path());
+    std::filesystem::resize_file(scratch.path(), (before + 40) * 4096);
+    {
+        const auto database = engine.openDatabase(scratch.path().string());
+        addNumberedRow(*database->openRecordset("tblTraces"), 0);
+    }
+    EXPECT_EQ(before + 1, pagesOf(scratch.path()));
+    EXPECT_EQ("", problemsOf(scratch.path()));
+}
+
+TEST(Growth, OpeningATablePutsTheRowCountRight)
+{
+    constexpr std::size_t countOfTraces = 16 * 4096 + 0x10;
+    ScratchDatabase scratch;
+    auto engine = machineEngine();
+    {
+        const auto database = engine.openDatabase(scratch.path().string());
+        const auto traces = database->openRecordset("tblTraces");
+        for (std::size_t row = 0; row < 3; ++row) addNumberedRow(*traces, row);
+    }
+    for (const char counted : {'\2', '\7'}) {
+        std::fstream file(scratch.path(), std::ios::binary | std::ios::in | std::ios::out);
+        file.seekp(countOfTraces).put(counted);
+        file.close();
+        ASSERT_NE("", problemsOf(scratch.path()));
+        engine.openDatabase(scratch.path().string())->openRecordset("tblTraces");
+        EXPECT_EQ("", problemsOf(scratch.path()));
+    }
+}
+
 TEST(Growth, AFileHasNoPageMoreThanItsRowsNeed)
 {
     ScratchDatabase scratch;

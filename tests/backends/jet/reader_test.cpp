@@ -142,6 +142,10 @@ TEST(Reader, TellsWhatIsWrongWithAFileThatCanBeRead)
         {"the free bytes", firstDataPage, 0x02, 0, "free bytes"},
         {"a page of the table that counts as free", 1, pageSize - 69 + 5 + 2, '\x80',
          "counts as free"},
+        {"a page of maps that counts as free", 1, pageSize - 69 + 5 + 2, '\x20',
+         "page 21 of the maps of tblUniqueFilters counts as free"},
+        {"a map that begins inside of a byte", 21, pageSize - 69 + 1, 1,
+         "the maps of tblUniqueFilters: one begins at page 1"},
     };
     EXPECT_TRUE(jet::Reader(threeFilters()).problems().empty());
     for (const auto& c : cases) {
