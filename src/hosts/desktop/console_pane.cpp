@@ -1,5 +1,6 @@
 #include "hosts/desktop/console_pane.h"
 
+#include "hosts/desktop/icons.h"
 #include "hosts/desktop/interface_language.h"
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_view.h"
@@ -60,6 +61,7 @@ ConsolePane::ConsolePane(Console& console, const CodePage& codePage, const QStri
     splitter_->setStretchFactor(0, 0);
     splitter_->setStretchFactor(1, 1);
     splitter_->setChildrenCollapsible(false);
+    splitter_->setHandleWidth(1);
     splitter_->setSizes({290, 890});
     splitter_->restoreState(settings_.value(splitterKey).toByteArray());
     connect(splitter_, &QSplitter::splitterMoved, this,
@@ -84,6 +86,7 @@ void ConsolePane::makeTree()
     tree_->setModel(scope_);
     tree_->setItemDelegate(new RoomyDelegate(tree_));
     tree_->setHeaderHidden(true);
+    tree_->setFrameShape(QFrame::NoFrame);
     tree_->setUniformRowHeights(true);
     tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     tree_->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -127,6 +130,7 @@ QTreeView& ConsolePane::children()
     children_->setRootIsDecorated(false);
     children_->setItemsExpandable(false);
     children_->setHeaderHidden(true);
+    children_->setFrameShape(QFrame::NoFrame);
     children_->setUniformRowHeights(true);
     showInLanguage(children_, [this] { children_->setAccessibleName(tr("Processes")); });
     views_->addWidget(children_);
@@ -140,6 +144,13 @@ QTreeView& ConsolePane::children()
 ListTable& ConsolePane::list()
 {
     if (list_) return *list_;
+    listModel_.decoration = [this](int row, int column, int role) -> QVariant {
+        constexpr int symbol = 1;
+        constexpr int current = 2;
+        if (role != Qt::DecorationRole || column != symbol) return {};
+        const bool inUse = !listModel_.bytes(row, current).empty();
+        return toolIcon(inUse ? QStringLiteral("log-current") : QStringLiteral("log"));
+    };
     list_ = new ListTable(listModel_, settings_, views_);
     showInLanguage(list_, [this] { list_->setAccessibleName(tr("Log files")); });
     views_->addWidget(list_);

@@ -95,8 +95,9 @@ int ControlTreeModel::columnCount(const QModelIndex&) const
 
 Qt::ItemFlags ControlTreeModel::flags(const QModelIndex& index) const
 {
-    const Qt::ItemFlags usual = QAbstractItemModel::flags(index);
-    return tree_.checkBoxes() ? usual | Qt::ItemIsUserCheckable : usual;
+    // A tree without ticks only tells: there is nothing to select in it.
+    if (!tree_.checkBoxes()) return Qt::ItemIsEnabled;
+    return QAbstractItemModel::flags(index) | Qt::ItemIsUserCheckable;
 }
 
 QVariant ControlTreeModel::data(const QModelIndex& index, int role) const

@@ -16,6 +16,7 @@ DetailsPane::DetailsPane(QWidget* parent)
     fields_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     fields_->setWordWrap(true);
     trace_->setReadOnly(true);
+    trace_->document()->setDocumentMargin(6);
     trace_->setFont(theme::traceFont());
     trace_->setTabChangesFocus(true);
     auto* column = new QVBoxLayout(this);

@@ -1,5 +1,7 @@
 #include "hosts/desktop/field_views.h"
 
+#include "hosts/desktop/roomy_delegate.h"
+
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QKeyEvent>
@@ -108,6 +110,7 @@ ListBoxView::ListBoxView(ListBox& box, QWidget* parent, const ActOnControl& act)
     : ControlView(box, new QListWidget(parent), act), model_(box),
       list_(static_cast<QListWidget*>(widget()))
 {
+    list_->setItemDelegate(new RoomyDelegate(list_));
     // Not by the current row, which the focus alone puts on the first one.
     connect(list_, &QListWidget::itemSelectionChanged, this, [this] {
         const auto chosen = list_->selectedItems();

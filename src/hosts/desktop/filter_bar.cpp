@@ -24,7 +24,7 @@ FilterBar::FilterBar(QWidget* parent)
       counts_(new QLabel(this))
 {
     rows_ = new QBoxLayout(QBoxLayout::LeftToRight, this);
-    rows_->setContentsMargins(6, 4, 6, 4);
+    rows_->setContentsMargins(8, 6, 6, 6);
     auto* columns = new QHBoxLayout;
     auto* row = new QHBoxLayout;
     rows_->addLayout(columns);
@@ -35,10 +35,10 @@ FilterBar::FilterBar(QWidget* parent)
         connect(button, &FilterButton::changed, this, &FilterBar::changed);
     }
     columns->addStretch();
+    columns->addWidget(counts_);
     text_->setClearButtonEnabled(true);
     row->addWidget(text_, 1);
     row->addWidget(excludeText_);
-    row->addWidget(counts_);
     auto* all = new QToolButton(this);
     all->setAutoRaise(true);
     all->setFocusPolicy(Qt::TabFocus);

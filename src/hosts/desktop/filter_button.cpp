@@ -8,12 +8,18 @@
 #include <QLocale>
 #include <QMenu>
 #include <QPushButton>
+#include <QStyleOptionToolButton>
+#include <QStylePainter>
 #include <QVBoxLayout>
 #include <QWidgetAction>
 
 #include <algorithm>
 
 namespace {
+
+constexpr int sideMargin = 9;
+constexpr int arrowSide = 9;
+constexpr int arrowRoom = 14;
 
 /// The value that a row of the list stands for, as a person reads it.
 QString shownValue(const QListWidgetItem& item)
@@ -138,6 +144,27 @@ void FilterButton::reset()
     exclude_->setChecked(false);
     filling_ = false;
     updateText();
+}
+
+QSize FilterButton::sizeHint() const
+{
+    const QSize letters = fontMetrics().size(Qt::TextSingleLine, text());
+    return {letters.width() + 2 * sideMargin + arrowRoom, QToolButton::sizeHint().height() + 4};
+}
+
+/// The text at the left and the arrow beside it: styles put it into a corner.
+void FilterButton::paintEvent(QPaintEvent*)
+{
+    QStylePainter painter(this);
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    painter.drawPrimitive(QStyle::PE_PanelButtonTool, option);
+    const QRect room = rect().adjusted(sideMargin, 0, -sideMargin, 0);
+    painter.drawItemText(room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), text(),
+                         QPalette::ButtonText);
+    option.rect = QRect(room.right() - arrowSide + 1, room.center().y() - arrowSide / 2 + 1,
+                        arrowSide, arrowSide);
+    painter.drawPrimitive(QStyle::PE_IndicatorArrowDown, option);
 }
 
 void FilterButton::updateText()

@@ -31,8 +31,13 @@ public:
     /// Unticks all.
     void reset();
 
+    QSize sizeHint() const override;
+
 signals:
     void changed();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void updateText();

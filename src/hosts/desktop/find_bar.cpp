@@ -11,6 +11,9 @@
 
 namespace {
 
+constexpr int spacing = 6;
+constexpr int closeRoom = 60; ///< for the button that closes the bar, and around all
+
 QToolButton* button(QWidget* parent, const char* icon)
 {
     auto* made = new QToolButton(parent);
@@ -39,6 +42,7 @@ FindBar::FindBar(QWidget* parent)
     text_->setClearButtonEnabled(true);
     text_->setMinimumWidth(fontMetrics().averageCharWidth() * 14);
     time_->setMinimumWidth(fontMetrics().averageCharWidth() * 12);
+    text_->setObjectName(QStringLiteral("findText"));
     time_->setMaximumWidth(fontMetrics().averageCharWidth() * 22);
     count_->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
     auto* previousButton = button(this, "previous");
@@ -59,7 +63,7 @@ FindBar::FindBar(QWidget* parent)
     });
 
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(6, 4, 6, 4);
+    row->setContentsMargins(8, 6, 6, 6);
     row->addWidget(findLabel);
     row->addWidget(text_, 1);
     row->addWidget(previousButton);
@@ -69,6 +73,8 @@ FindBar::FindBar(QWidget* parent)
     row->addWidget(timeLabel);
     row->addWidget(time_);
     row->addWidget(closeButton);
+    findPart_ = {findLabel, text_, previousButton, nextButton};
+    timePart_ = {timeLabel, time_};
 
     connect(text_, &QLineEdit::textChanged, this, &FindBar::textChanged);
     connect(time_, &QLineEdit::returnPressed, this, [this] { emit timeAsked(time_->text()); });
@@ -77,16 +83,37 @@ FindBar::FindBar(QWidget* parent)
     connect(closeButton, &QToolButton::clicked, this, &FindBar::closed);
 }
 
+/// Shows both parts where there is room for them, else the one that was asked for.
+void FindBar::arrange()
+{
+    int needed = closeRoom + count_->sizeHint().width();
+    for (const auto* part : {&findPart_, &timePart_})
+        for (const auto* widget : *part) needed += widget->sizeHint().width() + spacing;
+    const bool both = width() >= needed;
+    for (auto* widget : findPart_) widget->setVisible(both || !timeWanted_);
+    for (auto* widget : timePart_) widget->setVisible(both || timeWanted_);
+}
+
+void FindBar::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    arrange();
+}
+
 void FindBar::startFind()
 {
+    timeWanted_ = false;
     show();
+    arrange();
     text_->setFocus(Qt::ShortcutFocusReason);
     text_->selectAll();
 }
 
 void FindBar::startGoToTime()
 {
+    timeWanted_ = true;
     show();
+    arrange();
     time_->setFocus(Qt::ShortcutFocusReason);
     time_->selectAll();
 }

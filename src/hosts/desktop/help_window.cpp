@@ -2,6 +2,7 @@
 
 #include "hosts/desktop/icons.h"
 #include "hosts/desktop/interface_language.h"
+#include "hosts/desktop/screen_room.h"
 
 #include <QAction>
 #include <QFile>
@@ -62,7 +63,7 @@ HelpWindow::HelpWindow(QWidget* parent)
     close->setShortcut(Qt::Key_Escape);
     connect(close, &QAction::triggered, this, &QWidget::close);
     addAction(close);
-    resize(860, 680);
+    resizeWithinScreen(*this, {860, 680});
     showInLanguage(this, [=, this] {
         setWindowTitle(tr("Help - Orvan Diagnostic Tool"));
         pages_->setAccessibleName(tr("Manual"));

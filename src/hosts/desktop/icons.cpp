@@ -30,8 +30,7 @@ public:
     {
         // On a selected row too the ground is dark.
         const bool dark = mode == QIcon::Selected || theme::isDark(QApplication::palette());
-        QSvgRenderer renderer(coloured(dark, mode == QIcon::Selected));
-        if (mode == QIcon::Disabled) painter->setOpacity(painter->opacity() * 0.4);
+        QSvgRenderer renderer(coloured(dark, mode));
         renderer.render(painter, rect);
     }
 
@@ -58,13 +57,18 @@ public:
     QIconEngine* clone() const override { return new DrawnIcon(*this); }
 
 private:
-    QByteArray coloured(bool dark, bool selected) const
+    QByteArray coloured(bool dark, QIcon::Mode mode) const
     {
         QFile file(QStringLiteral(":/icons/%1.svg").arg(name_));
         if (!file.open(QIODevice::ReadOnly)) return {};
         QByteArray drawing = file.readAll();
-        if (selected)
-            drawing.replace(drawnInk, "#ffffff").replace(drawnAccent, "#ffffff");
+        const auto inOne = [&](const char* colour) {
+            drawing.replace(drawnInk, colour).replace(drawnAccent, colour);
+        };
+        if (mode == QIcon::Selected)
+            inOne("#ffffff");
+        else if (mode == QIcon::Disabled)
+            inOne(dark ? "#56606a" : "#b4bcc4");
         else if (dark)
             drawing.replace(drawnInk, "#c6d0da").replace(drawnAccent, "#6fb7f2");
         return drawing;

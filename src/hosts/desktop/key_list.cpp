@@ -2,6 +2,7 @@
 
 #include "hosts/desktop/mnemonics.h"
 #include "hosts/desktop/roomy_delegate.h"
+#include "hosts/desktop/screen_room.h"
 
 #include <QAction>
 #include <QDialogButtonBox>
@@ -64,13 +65,15 @@ KeyList::KeyList(QMainWindow& window, QWidget* parent) : QDialog(parent)
     add(tr("First and last row"), tr("Home, End"), tr("In a list"));
     add(tr("Close find or filter"), tr("Esc"), tr("Closes the bar in which the cursor is"));
     inLists->setExpanded(true);
-    list->header()->setStretchLastSection(true);
-    list->resizeColumnToContents(0);
-    list->resizeColumnToContents(1);
+    // Each column shows all it has; where the three are wider than the window, it scrolls.
+    list->header()->setStretchLastSection(false);
+    list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    list->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* column = new QVBoxLayout(this);
     column->addWidget(list, 1);
     column->addWidget(buttons);
-    resize(860, 660);
+    const int wanted = list->header()->length() + 60;
+    resizeWithinScreen(*this, {wanted, 660});
 }

@@ -20,8 +20,7 @@ constexpr int mostCharacters = 44;
 constexpr int sampledRows = 200; ///< at the top, for a first width
 constexpr int cellMargin = 14;
 constexpr int symbolSize = 14;
-constexpr int symbolRoom = 24;   ///< for a mark or a sign before the text of a log's cell
-constexpr int headerMargin = 28; ///< room for the sort mark
+constexpr int symbolRoom = 24; ///< for a mark or a sign before the text of a log's cell
 
 QString csvField(QString text)
 {
@@ -42,6 +41,7 @@ ListTable::ListTable(ListModel& model, QSettings& settings, QWidget* parent)
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
     setShowGrid(false);
+    setFrameShape(NoFrame);
     setWordWrap(false);
     setTabKeyNavigation(false);
     setCornerButtonEnabled(false);
@@ -49,12 +49,19 @@ ListTable::ListTable(ListModel& model, QSettings& settings, QWidget* parent)
     setHorizontalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setMinimumSectionSize(1);
     horizontalHeader()->setFont(QApplication::font());
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setSortIndicatorClearable(true);
     horizontalHeader()->setMinimumSectionSize(24);
-    connect(horizontalHeader(), &QHeaderView::sectionResized, this, &ListTable::rememberWidths);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
+        if (arranging_ || !rows_.list()) return;
+        rememberWidths();
+        if (column + 1 == rows_.columnCount())
+            lastWidth_ = columnWidth(column);
+        else
+            fillLastColumn();
+    });
     connect(this, &QTableView::doubleClicked, this,
             [this](const QModelIndex& index) { emit opened(rows_.placeOfRow(index.row())); });
 }
@@ -73,14 +80,6 @@ void ListTable::listShown()
     if (!list) return;
     arranging_ = true;
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-    const QVariantList remembered = settings_.value(widthsKey()).toList();
-    for (int column = 0; column < list->columnCount(); ++column) {
-        // The last one takes what is left.
-        if (column + 1 == list->columnCount()) continue;
-        setColumnWidth(column, remembered.size() == list->columnCount() ? remembered[column].toInt()
-                                                                        : firstWidth(column));
-    }
-
     // The console has sorted the rows itself: the mark says how, and a click sorts otherwise.
     const ListSort& sort = list->definition().sort;
     setSortingEnabled(false);
@@ -90,7 +89,36 @@ void ListTable::listShown()
     horizontalHeader()->setSectionsClickable(true);
     connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, &rows_, &ListModel::sort,
             Qt::UniqueConnection);
+    const QVariantList remembered = settings_.value(widthsKey()).toList();
+    for (int column = 0; column < list->columnCount(); ++column) {
+        if (column + 1 == list->columnCount()) continue;
+        setColumnWidth(column, remembered.size() == list->columnCount() ? remembered[column].toInt()
+                                                                        : firstWidth(column));
+    }
     arranging_ = false;
+    const int last = list->columnCount() - 1;
+    lastWidth_ =
+        std::max(std::min(firstWidth(last), fontMetrics().averageCharWidth() * automaticCharacters),
+                 horizontalHeader()->sectionSizeHint(last));
+    fillLastColumn();
+}
+
+/// The last column takes what the others leave, and at least what it needs itself.
+void ListTable::fillLastColumn()
+{
+    const int last = rows_.columnCount() - 1;
+    if (last < 0) return;
+    const bool arranging = arranging_;
+    arranging_ = true;
+    const int others = horizontalHeader()->length() - columnWidth(last);
+    setColumnWidth(last, std::max(lastWidth_, viewport()->width() - others));
+    arranging_ = arranging;
+}
+
+void ListTable::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    fillLastColumn();
 }
 
 /// What the console asks for and the rows at the top need. To look at all would take long.
@@ -98,7 +126,6 @@ int ListTable::firstWidth(int column) const
 {
     const ListView& list = *rows_.list();
     const auto& declared = list.columns()[static_cast<std::size_t>(column)];
-    const QFontMetrics header = horizontalHeader()->fontMetrics();
     const int character = fontMetrics().averageCharWidth();
     int width = character * (declared.width == automaticWidth ? automaticCharacters
                                                               : declared.width / unitsPerCharacter);
@@ -106,13 +133,11 @@ int ListTable::firstWidth(int column) const
         width = std::max(width, fontMetrics().horizontalAdvance(rows_.text(row, column + 1)));
     width = std::min(width, character * mostCharacters) + cellMargin;
     if (list.definition().text == ListText::serverCodePage && column == 0) width += symbolRoom;
-    return std::max(width,
-                    header.horizontalAdvance(QString::fromStdString(declared.text)) + headerMargin);
+    return std::max(width, horizontalHeader()->sectionSizeHint(column));
 }
 
 void ListTable::rememberWidths()
 {
-    if (arranging_ || !rows_.list()) return;
     QVariantList widths;
     for (int column = 0; column < rows_.columnCount(); ++column) widths << columnWidth(column);
     settings_.setValue(widthsKey(), widths);

@@ -38,14 +38,17 @@ signals:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QString widthsKey() const;
     int firstWidth(int column) const;
     void rememberWidths();
+    void fillLastColumn();
     std::vector<int> selectedRowNumbers() const;
 
     ListModel& rows_;
     QSettings& settings_;
+    int lastWidth_ = 0; ///< what the last column needs, or the person gave it
     bool arranging_ = false;
 };

@@ -43,6 +43,7 @@ LogView::LogView(const CodePage& codePage, QSettings& settings, QWidget* parent)
     splitter_->setStretchFactor(0, 4);
     splitter_->setStretchFactor(1, 1);
     splitter_->setChildrenCollapsible(false);
+    splitter_->setHandleWidth(1);
     splitter_->setSizes({540, 130});
     splitter_->restoreState(settings_.value(splitterKey).toByteArray());
     details_->setVisible(settings_.value(detailsKey, true).toBool());

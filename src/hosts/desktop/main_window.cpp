@@ -3,6 +3,7 @@
 #include "gather/logs.h"
 #include "hosts/desktop/about_dialog.h"
 #include "hosts/desktop/console_pane.h"
+#include "hosts/desktop/elided_label.h"
 #include "hosts/desktop/help_topics.h"
 #include "hosts/desktop/icons.h"
 #include "hosts/desktop/key_list.h"
@@ -10,6 +11,7 @@
 #include "hosts/desktop/log_view.h"
 #include "hosts/desktop/notice_bar.h"
 #include "hosts/desktop/open_tool.h"
+#include "hosts/desktop/screen_room.h"
 #include "hosts/desktop/sheet_dialog.h"
 #include "hosts/desktop/task_pad_view.h"
 #include "hosts/desktop/theme.h"
@@ -63,7 +65,7 @@ MainWindow::MainWindow(QSettings& settings) : settings_(settings)
     makeMenus();
     makeToolBar();
     makeStatusBar();
-    resize(1180, 760);
+    resizeWithinScreen(*this, {1180, 760});
     restoreGeometry(settings_.value(geometryKey).toByteArray());
     restoreState(settings_.value(stateKey).toByteArray());
     updateActions();
@@ -77,8 +79,9 @@ MainWindow::~MainWindow()
 
 void MainWindow::makeStatusBar()
 {
-    status_ = new QLabel(this);
-    siteName_ = new QLabel(this);
+    status_ = new ElidedLabel(Qt::ElideRight, this);
+    status_->setContentsMargins(8, 3, 0, 3);
+    siteName_ = new ElidedLabel(Qt::ElideMiddle, this);
     siteName_->setForegroundRole(QPalette::PlaceholderText);
     statusBar()->addWidget(status_, 1);
     statusBar()->addPermanentWidget(siteName_);

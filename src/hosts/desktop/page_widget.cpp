@@ -4,6 +4,7 @@
 #include "hosts/desktop/icons.h"
 #include "hosts/desktop/mnemonics.h"
 #include "hosts/desktop/text_views.h"
+#include "hosts/desktop/thin_line.h"
 #include "platform/controls.h"
 
 #include <QGridLayout>
@@ -71,10 +72,7 @@ void PageWidget::addBanner()
     row->addLayout(texts, 1);
     row->addWidget(symbol, 0, Qt::AlignTop);
     layout()->addWidget(band);
-    auto* line = new QFrame(this);
-    line->setFrameShape(QFrame::HLine);
-    line->setForegroundRole(QPalette::Mid);
-    layout()->addWidget(line);
+    layout()->addWidget(new ThinLine(this));
 }
 
 void PageWidget::addControls()
@@ -95,6 +93,10 @@ void PageWidget::addControls()
                 column_->addLayout(fields);
             }
             addField(*fields, place);
+            if (dynamic_cast<ListBox*>(controls[place].control)) {
+                column_->setStretchFactor(fields, 1);
+                filled = true;
+            }
             continue;
         }
         fields = nullptr;
@@ -104,7 +106,7 @@ void PageWidget::addControls()
             column_->addWidget(widget, 1);
             filled = true;
         } else if (role == ControlRole::action) {
-            column_->addWidget(widget, 0, Qt::AlignLeft);
+            addActions(*column_, place);
         } else {
             column_->addWidget(widget);
         }
@@ -143,7 +145,10 @@ void PageWidget::addField(QGridLayout& grid, std::size_t& place)
                          dynamic_cast<SpinControl*>(controls[place + 1].control) != nullptr;
     const bool narrow =
         counted || dynamic_cast<DateTimePicker*>(controls[place].control) != nullptr;
-    if (counted) views_[place]->widget()->setMaximumWidth(fontMetrics().averageCharWidth() * 12);
+    if (counted) {
+        views_[place]->widget()->setMaximumWidth(fontMetrics().averageCharWidth() * 12);
+        fields->setSpacing(2);
+    }
     while (place + 1 < controls.size() && controls[place + 1].role == ControlRole::field) {
         ++place;
         fields->addWidget(views_[place]->widget());
@@ -155,6 +160,19 @@ void PageWidget::addField(QGridLayout& grid, std::size_t& place)
     if (narrow) fields->addStretch(1);
     grid.addLayout(fields, row, 1);
     if (list) grid.setRowStretch(row, 1);
+}
+
+/// A row of buttons. Leaves `place` at the last one of it.
+void PageWidget::addActions(QBoxLayout& column, std::size_t& place)
+{
+    const auto& controls = page_.controls();
+    auto* row = new QHBoxLayout;
+    row->setSpacing(8);
+    row->addWidget(views_[place]->widget());
+    while (place + 1 < controls.size() && controls[place + 1].role == ControlRole::action)
+        row->addWidget(views_[++place]->widget());
+    row->addStretch(1);
+    column.addLayout(row);
 }
 
 void PageWidget::addFramed(QBoxLayout& column, std::size_t& place)
@@ -195,7 +213,9 @@ bool PageWidget::focusFirst()
     for (std::size_t place = 0; place < views_.size(); ++place) {
         if (!views_[place] || isBanner(place)) continue;
         QWidget* target = views_[place]->focusTarget();
-        const bool choice = target && target->isEnabled() && target->isVisibleTo(this) &&
+        const auto* tree = dynamic_cast<const TreeView*>(page_.controls()[place].control);
+        const bool tells = tree && !tree->checkBoxes();
+        const bool choice = target && !tells && target->isEnabled() && target->isVisibleTo(this) &&
                             (target->focusPolicy() & Qt::TabFocus) &&
                             page_.controls()[place].role != ControlRole::summary;
         if (!choice) continue;

@@ -31,6 +31,7 @@ private:
     void addBanner();
     void addControls();
     void addField(QGridLayout& grid, std::size_t& place);
+    void addActions(QBoxLayout& column, std::size_t& place);
     void addFramed(QBoxLayout& column, std::size_t& place);
     void markLetters();
     bool isBanner(std::size_t place) const;

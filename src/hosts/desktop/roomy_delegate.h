@@ -12,4 +12,13 @@ public:
         constexpr int room = 6;
         return QStyledItemDelegate::sizeHint(option, index) + QSize(0, room);
     }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        // A row that can't be selected does not look as if it could.
+        if (!(index.flags() & Qt::ItemIsSelectable))
+            option->state &= ~(QStyle::State_HasFocus | QStyle::State_MouseOver);
+    }
 };

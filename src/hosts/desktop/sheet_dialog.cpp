@@ -3,6 +3,8 @@
 #include "hosts/desktop/help_topics.h"
 #include "hosts/desktop/notice_bar.h"
 #include "hosts/desktop/page_widget.h"
+#include "hosts/desktop/screen_room.h"
+#include "hosts/desktop/thin_line.h"
 #include "platform/plain_sheet.h"
 #include "platform/wizard_sheet.h"
 #include "runtime/run_time_error.h"
@@ -61,7 +63,8 @@ SheetDialog::SheetDialog(std::shared_ptr<OpenSheet> sheet, QWidget* parent)
             act([&] { sheet_->plainSheet()->selectPage(tab + 1); });
     });
     showPage();
-    resize(sheet_->wizard() ? QSize(680, 520) : QSize(560, 0).expandedTo(sizeHint()));
+    resizeWithinScreen(*this,
+                       sheet_->wizard() ? QSize(680, 520) : QSize(560, 0).expandedTo(sizeHint()));
 }
 
 SheetDialog::~SheetDialog()
@@ -73,12 +76,10 @@ SheetDialog::~SheetDialog()
 
 void SheetDialog::makeButtons()
 {
-    auto* line = new QFrame(this);
-    line->setFrameShape(QFrame::HLine);
-    line->setForegroundRole(QPalette::Mid);
-    layout()->addWidget(line);
+    layout()->addWidget(new ThinLine(this));
     auto* row = new QHBoxLayout;
-    row->setContentsMargins(16, 12, 16, 14);
+    row->setContentsMargins(16, 12, 16, 12);
+    row->setSpacing(8);
     const auto add = [&](const QString& text, auto&& press) {
         auto* made = new QPushButton(text, this);
         made->setAutoDefault(false);
@@ -92,7 +93,7 @@ void SheetDialog::makeButtons()
         back_ = add(wizardCaptions()[0], [wizard] { wizard->back(); });
         next_ = add(wizardCaptions()[1], [wizard] { wizard->next(); });
         finish_ = add(wizardCaptions()[2], [wizard] { wizard->finish(); });
-        row->addSpacing(12);
+        row->addSpacing(8);
     } else {
         ok_ = add(tr("OK"), [this] { sheet_->plainSheet()->ok(); });
     }

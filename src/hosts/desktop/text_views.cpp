@@ -63,6 +63,7 @@ SummaryView::SummaryView(Label& label, QWidget* parent, const ActOnControl& act)
       text_(static_cast<QPlainTextEdit*>(widget()))
 {
     text_->setReadOnly(true);
+    text_->document()->setDocumentMargin(8);
     text_->setTabChangesFocus(true);
     text_->setLineWrapMode(QPlainTextEdit::WidgetWidth);
     text_->setAccessibleName(QObject::tr("Summary"));

@@ -1,71 +1,137 @@
 #include "hosts/desktop/tool_style.h"
 
-#include "hosts/desktop/theme.h"
+#include "hosts/desktop/style_drawing.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QStyleOption>
 
 #include <algorithm>
 
 namespace {
 
-/// The square or circle of an indicator, in the middle of its room.
-QRectF indicatorBox(const QRect& room)
+/// Around texts, in units of the screen that the style was made for.
+constexpr int indicatorSide = 16;
+constexpr int textMargin = 4;
+constexpr int fieldMargin = 3;
+constexpr int sortMark = 9;
+constexpr int scrollBarSide = 13;
+constexpr int shortestHandle = 28;
+constexpr QSize buttonRoom(14, 8);
+constexpr QSize fieldRoom(4, 6);
+constexpr QSize menuRoom(8, 6);
+constexpr QSize headerRoom(0, 2);
+
+class Kept {
+public:
+    explicit Kept(QPainter& painter) : painter_(painter)
+    {
+        painter_.save();
+        painter_.setRenderHint(QPainter::Antialiasing);
+    }
+    ~Kept() { painter_.restore(); }
+    Kept(const Kept&) = delete;
+    Kept& operator=(const Kept&) = delete;
+
+private:
+    QPainter& painter_;
+};
+
+using Draw = void (*)(const QStyleOption& option, QPainter& painter);
+
+Draw drawingOf(QStyle::PrimitiveElement element)
 {
-    const qreal side = std::min(room.width(), room.height()) - 1.0;
-    QRectF box(0, 0, side, side);
-    box.moveCenter(QRectF(room).center());
-    return box;
+    switch (element) {
+    case QStyle::PE_IndicatorCheckBox:
+    case QStyle::PE_IndicatorItemViewItemCheck:
+        return drawing::checkBox;
+    case QStyle::PE_IndicatorRadioButton:
+        return drawing::optionButton;
+    case QStyle::PE_PanelButtonCommand:
+        return drawing::button;
+    case QStyle::PE_Frame:
+        return drawing::frame;
+    case QStyle::PE_PanelLineEdit:
+        return drawing::field;
+    case QStyle::PE_FrameLineEdit:
+        return drawing::fieldEdge;
+    default:
+        return nullptr;
+    }
 }
 
-QPen outlinePen(const QStyleOption& option, bool on)
+Draw drawingOf(QStyle::ControlElement element)
 {
-    const bool enabled = option.state & QStyle::State_Enabled;
-    const bool focused = option.state & QStyle::State_HasFocus;
-    const QPalette& palette = option.palette;
-    if (!enabled) return QPen(theme::outline(palette));
-    if (option.state & QStyle::State_Selected)
-        return QPen(palette.color(QPalette::HighlightedText));
-    return QPen(on || focused ? palette.color(QPalette::Highlight) : theme::quietText(palette));
+    switch (element) {
+    case QStyle::CE_HeaderSection:
+    case QStyle::CE_HeaderEmptyArea:
+        return drawing::headerSection;
+    case QStyle::CE_ToolBar:
+        return drawing::toolBar;
+    case QStyle::CE_MenuBarItem:
+    case QStyle::CE_MenuBarEmptyArea:
+        return drawing::menuTitle;
+    case QStyle::CE_Splitter:
+        return drawing::splitter;
+    case QStyle::CE_ProgressBarGroove:
+        return drawing::progressGround;
+    case QStyle::CE_ProgressBarContents:
+        return drawing::progress;
+    default:
+        return nullptr;
+    }
 }
 
-QBrush fillBrush(const QStyleOption& option, bool on)
+/// The handle of a scroll bar, which has no arrows at its ends.
+QRect handleOf(const QStyleOptionSlider& bar)
 {
-    const bool enabled = option.state & QStyle::State_Enabled;
-    if (!on) return option.palette.color(enabled ? QPalette::Base : QPalette::Window);
-    return enabled ? option.palette.color(QPalette::Highlight) : theme::outline(option.palette);
+    const bool across = bar.orientation == Qt::Horizontal;
+    const int room = across ? bar.rect.width() : bar.rect.height();
+    const qint64 all = static_cast<qint64>(bar.maximum) - bar.minimum + bar.pageStep;
+    const int share =
+        all > 0 ? static_cast<int>(bar.pageStep * static_cast<qint64>(room) / all) : 0;
+    const int length = std::min(room, std::max(shortestHandle, share));
+    const int start = QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition,
+                                                      room - length, bar.upsideDown);
+    const QRect handle = across ? QRect(start, 0, length, bar.rect.height())
+                                : QRect(0, start, bar.rect.width(), length);
+    return handle.translated(bar.rect.topLeft());
 }
 
-void drawCheck(const QStyleOption& option, QPainter& painter)
+QRect partOf(const QStyleOptionSlider& bar, QStyle::SubControl part)
 {
-    const bool on = option.state & (QStyle::State_On | QStyle::State_NoChange);
-    const QRectF box = indicatorBox(option.rect);
-    painter.setPen(outlinePen(option, on));
-    painter.setBrush(fillBrush(option, on));
-    painter.drawRoundedRect(box, 2.5, 2.5);
-    if (!on) return;
-    QPainterPath tick;
-    tick.moveTo(box.left() + box.width() * 0.24, box.top() + box.height() * 0.53);
-    tick.lineTo(box.left() + box.width() * 0.43, box.top() + box.height() * 0.72);
-    tick.lineTo(box.left() + box.width() * 0.77, box.top() + box.height() * 0.30);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(option.palette.color(QPalette::HighlightedText), box.width() * 0.13,
-                        Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(tick);
+    const QRect handle = handleOf(bar);
+    QRect before = bar.rect;
+    QRect behind = bar.rect;
+    if (bar.orientation == Qt::Horizontal) {
+        before.setRight(handle.left() - 1);
+        behind.setLeft(handle.right() + 1);
+    } else {
+        before.setBottom(handle.top() - 1);
+        behind.setTop(handle.bottom() + 1);
+    }
+    switch (part) {
+    case QStyle::SC_ScrollBarSlider:
+        return handle;
+    case QStyle::SC_ScrollBarGroove:
+        return bar.rect;
+    case QStyle::SC_ScrollBarSubPage:
+        return before;
+    case QStyle::SC_ScrollBarAddPage:
+        return behind;
+    default:
+        return {};
+    }
 }
 
-void drawOption(const QStyleOption& option, QPainter& painter)
+/// The same option with its texts in the colour of a selection's.
+template <typename Option>
+Option asSelected(const Option& option)
 {
-    const bool on = option.state & QStyle::State_On;
-    const QRectF box = indicatorBox(option.rect);
-    painter.setPen(outlinePen(option, on));
-    painter.setBrush(fillBrush(option, on));
-    painter.drawEllipse(box);
-    if (!on) return;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(option.palette.color(QPalette::HighlightedText));
-    painter.drawEllipse(box.center(), box.width() * 0.2, box.height() * 0.2);
+    Option changed = option;
+    const QColor text = option.palette.color(QPalette::HighlightedText);
+    for (const auto role : {QPalette::ButtonText, QPalette::WindowText, QPalette::Text})
+        changed.palette.setColor(role, text);
+    return changed;
 }
 
 } // namespace
@@ -75,24 +141,117 @@ ToolStyle::ToolStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 void ToolStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                               QPainter* painter, const QWidget* widget) const
 {
-    const bool check = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
-    if (!check && element != PE_IndicatorRadioButton)
-        return QProxyStyle::drawPrimitive(element, option, painter, widget);
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    if (check)
-        drawCheck(*option, *painter);
-    else
-        drawOption(*option, *painter);
-    painter->restore();
+    if (const Draw draw = drawingOf(element)) {
+        const Kept kept(*painter);
+        return draw(*option, *painter);
+    }
+    if (element == PE_IndicatorBranch && (option->state & State_Selected)) {
+        const QStyleOption selected = asSelected(*option);
+        return QProxyStyle::drawPrimitive(element, &selected, painter, widget);
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
 void ToolStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                             const QWidget* widget) const
 {
-    if (element != CE_ToolBar) return QProxyStyle::drawControl(element, option, painter, widget);
-    // The usual shade and its see-through lines take longer than the rest of the window.
-    const QRect& bar = option->rect;
-    painter->fillRect(bar, option->palette.color(QPalette::Window));
-    painter->fillRect(bar.adjusted(0, bar.height() - 1, 0, 0), theme::outline(option->palette));
+    if (const Draw draw = drawingOf(element)) {
+        const Kept kept(*painter);
+        return draw(*option, *painter);
+    }
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element == CE_PushButtonLabel && button && drawing::standsOut(*option)) {
+        const QStyleOptionButton selected = asSelected(*button);
+        return QProxyStyle::drawControl(element, &selected, painter, widget);
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void ToolStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                   QPainter* painter, const QWidget* widget) const
+{
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    const Kept kept(*painter);
+    if (control == CC_ScrollBar && bar) return drawing::scrollBar(*bar, handleOf(*bar), *painter);
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const bool field = control == CC_SpinBox || control == CC_ComboBox;
+    if (field) drawing::fieldEdge(*option, *painter);
+}
+
+QRect ToolStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                SubControl part, const QWidget* widget) const
+{
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_ScrollBar || !bar)
+        return QProxyStyle::subControlRect(control, option, part, widget);
+    return visualRect(bar->direction, bar->rect, partOf(*bar, part));
+}
+
+QRect ToolStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                const QWidget* widget) const
+{
+    const QRect room = QProxyStyle::subElementRect(element, option, widget);
+    if (element == SE_HeaderArrow)
+        return visualRect(option->direction, option->rect,
+                          QRect(option->rect.right() - sortMark - textMargin,
+                                option->rect.center().y() - sortMark / 2 + 1, sortMark, sortMark));
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    if (element != SE_LineEditContents || !frame || frame->lineWidth == 0) return room;
+    return room.adjusted(fieldMargin, 0, -fieldMargin, 0);
+}
+
+QSize ToolStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                  const QSize& contents, const QWidget* widget) const
+{
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    switch (type) {
+    case CT_PushButton:
+        return size + buttonRoom;
+    case CT_LineEdit:
+    case CT_ComboBox:
+    case CT_SpinBox:
+        return size + fieldRoom;
+    case CT_MenuBarItem:
+    case CT_MenuItem: {
+        const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+        const bool line = item && item->menuItemType == QStyleOptionMenuItem::Separator;
+        return line ? size : size + menuRoom;
+    }
+    case CT_HeaderSection:
+        return size + headerRoom;
+    default:
+        return size;
+    }
+}
+
+int ToolStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                           const QWidget* widget) const
+{
+    switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+        return indicatorSide;
+    case PM_FocusFrameHMargin:
+        return textMargin;
+    case PM_HeaderMargin:
+        return textMargin + 1;
+    case PM_ScrollBarExtent:
+        return scrollBarSide;
+    case PM_ScrollBarSliderMin:
+        return shortestHandle;
+    case PM_ButtonDefaultIndicator:
+        return 0;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+int ToolStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* returned) const
+{
+    // The platform's symbols are drawn for its own colours.
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, returned);
 }

@@ -2,8 +2,8 @@
 
 #include <QProxyStyle>
 
-/// The window's style: check boxes and option buttons that can be told from their ground in light
-/// and dark alike, and a plain tool bar.
+/// The window's style: calm and flat, with room around texts, and controls that can be told from
+/// their ground in light and dark alike.
 class ToolStyle final : public QProxyStyle {
     Q_OBJECT
 
@@ -14,4 +14,16 @@ public:
                        const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override;
+    QRect subElementRect(SubElement element, const QStyleOption* option,
+                         const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override;
 };

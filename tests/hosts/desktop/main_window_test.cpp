@@ -252,44 +252,6 @@ TEST(MainWindow, SaysThatALanguageHasNoCatalogue)
     EXPECT_EQ(6, shown.pane().taskPad().findChildren<QAbstractButton*>().size());
 }
 
-TEST(MainWindow, CutsNoTextAtEightHundredBySixHundred)
-{
-    TestWindow shown;
-    shown.window->resize(800, 600);
-    shown.showLog("KoCSMgr");
-    shown.window->action(Command::filter).trigger();
-    shown.window->action(Command::find).trigger();
-    const auto check = [&] {
-        settle();
-        EXPECT_EQ(QSize(800, 600), shown.window->size());
-        for (auto* widget : shown.window->findChildren<QWidget*>()) {
-            const bool text =
-                qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget);
-            if (!text || !widget->isVisible()) continue;
-            if (widget->accessibleName() == QLatin1String("Status")) continue;
-            const auto* label = qobject_cast<QLabel*>(widget);
-            if (label && label->wordWrap()) {
-                EXPECT_GE(widget->height(), label->heightForWidth(widget->width()))
-                    << label->text().toStdString();
-                continue;
-            }
-            EXPECT_GE(widget->width(), widget->minimumSizeHint().width())
-                << widget->metaObject()->className() << ' '
-                << widget->accessibleName().toStdString();
-            EXPECT_GE(widget->height(), widget->minimumSizeHint().height())
-                << widget->metaObject()->className();
-        }
-    };
-    for (const int language : {1033, 1031, 1034, 1036, 1041}) {
-        SCOPED_TRACE(language);
-        shown.chooseLanguage(language);
-        check();
-        shown.window->showNode("Static Node");
-        check();
-        shown.showLog("KoCSMgr");
-    }
-}
-
 /// A standard gather at its progress page, with the run about to begin.
 WizardSheet& gatherAtItsStart(TestWindow& shown)
 {

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <regex>
 #include <stdexcept>
 
 namespace {
@@ -26,17 +27,16 @@ QApplication& testApplication()
     static int count = 1;
     static char name[] = "desktop_test";
     static char* arguments[] = {name, nullptr};
-    static const bool display = qputenv("QT_QPA_PLATFORM", "offscreen");
-    Q_UNUSED(display)
-    static const auto messages = qInstallMessageHandler(passOn);
-    Q_UNUSED(messages)
-    // Never destroyed: Qt's own statics are gone when those of a program go.
-    static QApplication* const application = new QApplication(count, arguments);
-    // The last window of a test is not the end of the program.
-    QGuiApplication::setQuitOnLastWindowClosed(false);
-    static const bool themed = (theme::apply(theme::Scheme::light), true);
-    Q_UNUSED(themed)
-    return *application;
+    if (!qApp) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qInstallMessageHandler(passOn);
+        // Never destroyed: Qt's own statics are gone when those of a program go.
+        new QApplication(count, arguments);
+        // The last window of a test is not the end of the program.
+        QGuiApplication::setQuitOnLastWindowClosed(false);
+        theme::apply(theme::Scheme::light);
+    }
+    return *qApp;
 }
 
 void settle()
@@ -53,6 +53,16 @@ TestServer::TestServer(std::size_t lines, LogFields fields)
     options.lines = lines;
     options.logFields = fields;
     makeSampleServer(options);
+}
+
+void TestServer::speak(int language) const
+{
+    static const std::regex line("\\nlanguage=[0-9]*");
+    const std::string settings = folder_.read("site/site.ini");
+    if (!std::regex_search(settings, line))
+        throw std::runtime_error("the sample's site.ini tells no language");
+    folder_.write("site/site.ini",
+                  std::regex_replace(settings, line, "\nlanguage=" + std::to_string(language)));
 }
 
 std::string TestServer::currentLog(const std::string& process) const
@@ -95,6 +105,12 @@ void TestWindow::reopen()
     tool->close();
     tool.reset();
     open();
+}
+
+void TestWindow::reopenIn(int language)
+{
+    server.speak(language);
+    reopen();
 }
 
 LogView& TestWindow::log()

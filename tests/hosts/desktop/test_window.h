@@ -31,6 +31,9 @@ public:
     /// The name of the log that a process writes to at the end of the sample's days.
     std::string currentLog(const std::string& process) const;
 
+    /// Makes a language the user's, for a tool that is opened from now on.
+    void speak(int language) const;
+
     const TemporaryFolder& folder() const { return folder_; }
 
 private:
@@ -55,6 +58,9 @@ struct TestWindow {
 
     /// Lets the window go and makes another one on the same site and settings.
     void reopen();
+
+    /// The same, with another language of the user's.
+    void reopenIn(int language);
 
     TestServer server;
     QSettings settings;

@@ -294,7 +294,7 @@
     <name>FilterBar</name>
     <message>
         <source>Only rows with this text</source>
-        <translation>Uniquement les lignes contenant ce texte</translation>
+        <translation>Lignes contenant ce texte</translation>
     </message>
     <message>
         <source>Filter by text</source>
