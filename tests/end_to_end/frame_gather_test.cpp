@@ -276,6 +276,27 @@ TEST_F(FrameGather, TellsOfWhatIsMissing)
     }
 }
 
+TEST_F(FrameGather, TellsWhyADestinationWithAForeignNameGetsNoCabinet)
+{
+    const struct {
+        const char* because;
+        const char* name;
+        bool cabinet;
+    } cases[] = {
+        {"a name with blanks and the code page's letters", "Z\xC3\xBCrich \xE2\x82\xAC 5; x", true},
+        {"a name with letters that the code page lacks", "\xE3\x82\xB1\xE3\x83\xBC", false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        const fs::path named = folder / c.name;
+        const Outcome gathered = runJson(gatherWords("2025-02-20 16:42", "1", named));
+        EXPECT_EQ(c.cabinet ? 0 : 1, gathered.status);
+        EXPECT_EQ(c.cabinet, gathered.json()["cabinet"].is_string());
+        EXPECT_FALSE(rowsOf(databaseIn(named), "tblTraces").empty());
+        EXPECT_THAT(gathered.err, c.cabinet ? HasSubstr("") : HasSubstr("Windows-1252"));
+    }
+}
+
 TEST_F(FrameGather, TellsOfALogThatHasTooManyMalformedLines)
 {
     std::string content = "15:23:07:123,Conv,1,CallFlow,2,good\n";

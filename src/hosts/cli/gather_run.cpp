@@ -1,12 +1,10 @@
 #include "hosts/cli/gather_run.h"
 
-#include "core/error_trap.h"
+#include "hosts/cli/gather_failure.h"
 #include "hosts/cli/gather_progress.h"
 #include "hosts/cli/gather_wizard.h"
 #include "hosts/cli/interrupt.h"
 #include "hosts/cli/row_counts.h"
-#include "platform/trace_database.h"
-#include "runtime/text.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -17,52 +15,6 @@
 namespace fs = std::filesystem;
 
 namespace {
-
-/// What a line may raise that is malformed: it is copied or stored as it can be.
-bool isOfAMalformedLine(int error)
-{
-    switch (error) {
-    case runTimeErrors::invalidCall:
-    case runTimeErrors::typeMismatch:
-    case runTimeErrors::invalidPropertyValue:
-    case traceDatabaseErrors::fieldTooSmall:
-    case traceDatabaseErrors::zeroLength:
-        return true;
-    default:
-        return false;
-    }
-}
-
-/// An error that cost the person a result. Whether packing did, its cabinet tells.
-bool costsAResult(const RunTimeError& error, std::string_view procName)
-{
-    return beginsWith(procName, "[mdlLogs]") && procName != "[mdlLogs]compressResults" &&
-           !isOfAMalformedLine(error.number());
-}
-
-/// What went wrong, in words for the person. `current` is the log that is being gathered, empty
-/// before and after the logs: the one file that the pipeline itself reads is a definition.
-std::string failureText(const RunTimeError& error, bool ofThePipeline, const std::string& current)
-{
-    if (error.number() == errorCountExceeded)
-        return current.empty()
-                   ? "the filters could not all be stored: too many errors"
-                   : current +
-                         " has too many malformed lines, and was read no further than the eleventh";
-    const bool ofADefinition =
-        ofThePipeline && current.empty() && error.number() == runTimeErrors::inputPastEnd;
-    if (ofADefinition)
-        return "the macro trace definitions could not all be stored: " + error.description();
-    return error.description();
-}
-
-/// The log that stands in bold, or the empty text.
-std::string currentLog(const TreeView& steps)
-{
-    for (int index = 1; index <= steps.count(); ++index)
-        if (steps.item(index).bold()) return steps.item(index).text();
-    return {};
-}
 
 /// When each cabinet in a folder was written.
 std::map<std::string, fs::file_time_type> cabinetsIn(const fs::path& folder)
@@ -100,7 +52,8 @@ void findResults(GatherResult& result, const std::string& database,
         result.database = database;
     else
         result.failure = "no trace database was made: " + result.failure.value_or("it has gone");
-    if (!result.cabinet && !result.failure) result.failure = "no cabinet was made";
+    if (!result.cabinet && !result.failure)
+        result.failure = "no cabinet was made" + whyNoCabinet(result.destination);
 }
 
 /// While it lives: shows a run's progress, takes Ctrl-C for its Cancel and notes what goes wrong.
@@ -111,10 +64,9 @@ public:
     {
         tool.context().onTrappedError = [&](const RunTimeError& error, std::string_view procName) {
             if (result.failure || !costsAResult(error, procName)) return;
-            const bool ofThePipeline = procName == "[mdlLogs]processLogs";
-            result.failure = failureText(error, ofThePipeline, currentLog(wizard.steps()));
-            result.destinationMade =
-                !ofThePipeline || fs::is_directory(tool_.machinePath(wizard.destination()));
+            result.failure = failureText(error, procName, wizard.steps());
+            result.destinationMade = procName != pipelineProc ||
+                                     fs::is_directory(tool_.machinePath(wizard.destination()));
         };
         tool.desktop().beforeMessage([this] { progress_.clear(); });
         tool.desktop().onPump([this, &wizard, &result] {
