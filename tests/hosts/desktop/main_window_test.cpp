@@ -463,6 +463,21 @@ TEST(Help, TheKeyShowsAWizardsOwnTopic)
     }
 }
 
+TEST(Help, TheAboutBoxHasItsTopicToo)
+{
+    TestWindow shown;
+    int asked = -1;
+    QObject::connect(shown.window.get(), &MainWindow::helpAsked, [&](int topic) { asked = topic; });
+    QTimer::singleShot(0, [&] {
+        settle();
+        QWidget* box = QApplication::activeModalWidget();
+        if (box) QTest::keyClick(box, Qt::Key_F1);
+        shown.tool->snapIn().showAbout().cmdOK_Click();
+    });
+    shown.window->run(Command::about);
+    EXPECT_EQ(helpTopic::about, asked);
+}
+
 TEST(Help, EveryPageHasATopicThatTheManualHas)
 {
     TestWindow shown;

@@ -1,3 +1,4 @@
+#include "hosts/desktop/help_window.h"
 #include "hosts/desktop/open_program.h"
 #include "hosts/desktop/outside_view.h"
 #include "hosts/desktop/person.h"
@@ -105,6 +106,27 @@ TEST_F(SettingsJourney, TheFolderIsPickedInADialog)
     person::clickButton(shown.sheet(), "Apply");
     EXPECT_EQ(1, *boxes);
     EXPECT_EQ("\"C:\\\\Other\"", folder());
+}
+
+TEST_F(SettingsJourney, TheManualIsReadBesideTheSheetAndClosesBeforeIt)
+{
+    shown.clickCard("6");
+    person::press(Qt::Key_F1);
+    HelpWindow* manual = nullptr;
+    for (auto* window : QApplication::topLevelWidgets())
+        if (auto* help = qobject_cast<HelpWindow*>(window); help && help->isVisible())
+            manual = help;
+    ASSERT_NE(nullptr, manual);
+    EXPECT_EQ(QStringLiteral("log_settings.html"), manual->shownPage());
+    manual->activateWindow();
+    settle();
+    person::press(Qt::Key_Escape);
+    EXPECT_FALSE(manual->isVisible());
+    EXPECT_TRUE(shown.sheet().isVisible());
+    shown.sheet().activateWindow();
+    settle();
+    person::press(Qt::Key_Escape);
+    EXPECT_EQ(nullptr, shown.pane().sheet());
 }
 
 TEST_F(SettingsJourney, CancelAndEscapeWriteNothing)
