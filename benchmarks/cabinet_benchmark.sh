@@ -36,4 +36,7 @@ cmp input.mdb extracted/input.mdb
 echo "input      $(stat -c %s input.mdb) bytes, $(nproc) processors"
 echo "gcab -z    $theirSize bytes in $theirs ms"
 echo "cabmaker   $ourSize bytes in $ours ms"
-[ "$ourSize" -lt "$theirSize" ] && [ "$ours" -lt "$theirs" ]
+missed=0
+told "cabinet, size / gcab -z" "$ourSize" "$theirSize" 1 || missed=1
+told "cabinet, time / gcab -z" "$ours" "$theirs" 1 || missed=1
+exit $missed

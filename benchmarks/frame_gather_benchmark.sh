@@ -70,16 +70,20 @@ rows=$(sqlite3 rows.sqlite 'select count(*) from traces')
 # Those read for the short frame at the end: the current logs, whose lines lie before it.
 outsideLines=$(cat $logs/d*_20250219_*.txt | wc -l)
 
-awk -v inside="$inside" -v imported="$imported" -v outside="$outside" -v start="$start" \
-    -v rows="$rows" -v outsideLines="$((outsideLines - outsideRows))" -v peak="$peak" 'BEGIN {
-    insideCost = (inside - start) * 1e6 / rows
-    outsideCost = (outside - start) * 1e6 / outsideLines
-    printf "sqlite3 import   %d rows in %d ms\n", rows, imported
-    printf "gather           the same in %d ms, %.2f of that\n", inside, inside / imported
-    printf "a line inside    %.0f ns\n", insideCost
-    printf "a line outside   %.0f ns, %.2f of that (%d lines)\n", outsideCost,
-        outsideCost / insideCost, outsideLines
-    printf "start and end    %d ms\n", start
-    printf "memory           %.1f MB at most\n", peak / 1024
-    exit !(inside <= imported / 2 && outsideCost <= insideCost / 5 && peak < 60 * 1024)
-}'
+insideTook=$((inside - start))
+outsideTook=$((outside - start))
+outsideLines=$((outsideLines - outsideRows))
+nanoseconds() { awk -v took="$1" -v lines="$2" 'BEGIN { printf "%.0f", took * 1e6 / lines }'; }
+lineInside=$(nanoseconds $insideTook "$rows")
+lineOutside=$(nanoseconds $outsideTook $outsideLines)
+
+echo "sqlite3    imports $rows rows in $imported ms"
+echo "gather     the same in $inside ms"
+echo "           $lineInside ns for a line inside, $lineOutside ns for one outside ($outsideLines lines)"
+echo "           $start ms for start and end"
+echo "memory     $peak KB at most"
+missed=0
+told "time frame gather / sqlite3 import" "$inside" "$imported" 0.5 || missed=1
+told "line outside the frame / line inside" "$lineOutside" "$lineInside" 0.2 || missed=1
+told "time frame gather, memory / 60 MB" "$peak" 61440 1 || missed=1
+exit $missed

@@ -30,4 +30,7 @@ compare gather splitAndPrint
 echo "gather     $ours ms, mawk $theirs ms, ratio $(ratio "$ours" "$theirs"); cp $(milliseconds copy) ms"
 peak=$(peakKilobytes "$programs/orvandiag" --site "$work/site" gather standard --to "$work/gathered")
 echo "memory     $peak KB"
-[ "$ours" -le "$theirs" ] && [ "$peak" -lt $mostKilobytes ]
+missed=0
+told "standard gather / mawk" "$ours" "$theirs" 1 || missed=1
+told "standard gather, memory / 40 MB" "$peak" $mostKilobytes 1 || missed=1
+exit $missed

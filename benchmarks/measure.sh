@@ -27,16 +27,10 @@ compare() {
     done
 }
 
-# microseconds COMMAND...: like milliseconds, by the shell's own clock, for what takes few of them
-microseconds() {
-    begin=$(date +%s%N)
-    "$@" >/dev/null 2>&1
-    echo $((($(date +%s%N) - begin) / 1000))
-}
-
-# median FILE: the one in the middle of numbers, a line each
+# median FILE COLUMN: the one in the middle of a column of numbers
 median() {
-    sort -n "$1" | awk '{ all[NR] = $1 } END { print all[int((NR + 1) / 2)] }'
+    awk -v column="$2" '{ print $column }' "$1" | sort -n |
+        awk '{ all[NR] = $1 } END { print all[int((NR + 1) / 2)] }'
 }
 
 # peakKilobytes COMMAND...: the largest resident size of one run
@@ -55,13 +49,17 @@ sampleLog() {
     ls "$1"/drive_c/KelmaOrvan/Logs/diag_KoCSMgr_*.txt | tail -n 1
 }
 
-# goal NAME RATIO MOST: says whether a ratio is at most what it should be, for the reader and, as a
-# line of the table of benchmarks/run, in the file $ORVAN_RESULTS. Ends with 1 when it is not.
-goal() {
-    if awk -v ratio="$2" -v most="$3" 'BEGIN { exit !(ratio <= most) }'; then verdict=met; else verdict=MISSED; fi
-    if [ -n "${ORVAN_RESULTS:-}" ]; then
-        printf '%s\t%s\t%s\t%s\n' "$1" "$2" "$3" $verdict >>"$ORVAN_RESULTS"
+# told NAME OURS THEIRS [MOST]: a line of the table of benchmarks/run, in the file $ORVAN_RESULTS,
+# with the ratio OURS / THEIRS. MOST is the goal for it, and the reader hears whether it is met; ends
+# with 1 when it is not.
+told() {
+    verdict=
+    if [ -n "${4:-}" ]; then
+        verdict=$(awk -v a="$2" -v b="$3" -v most="$4" 'BEGIN { print a <= b * most ? "met" : "MISSED" }')
+        echo "goal       $1: $(ratio "$2" "$3"), at most $4, $verdict"
     fi
-    echo "goal       $1: $2, at most $3, $verdict"
-    [ $verdict = met ]
+    if [ -n "${ORVAN_RESULTS:-}" ]; then
+        printf '%s\t%s\t%s\t%s\n' "$1" "$(ratio "$2" "$3")" "${4:-}" "$verdict" >>"$ORVAN_RESULTS"
+    fi
+    [ "$verdict" != MISSED ]
 }

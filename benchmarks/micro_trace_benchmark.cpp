@@ -60,12 +60,13 @@ private:
 /// A tool whose directory database is the grid; all else is in memory.
 struct GridTool {
     explicit GridTool(const Grid& grid)
-        : database(grid.database()),
-          platform{fakes.files,     fakes.registry,      fakes.clock,
-                   fakes.timeZone,  fakes.eventReporter, fakes.eventLogExporter,
-                   fakes.processes, fakes.workstation,   fakes.module,
-                   fakes.languages, fakes.desktop,       database,
-                   fakes.xml},
+        : database(grid.database()), platform{fakes.files,         fakes.registry,
+                                              fakes.clock,         fakes.timeZone,
+                                              fakes.eventReporter, fakes.eventLogExporter,
+                                              fakes.processes,     fakes.workstation,
+                                              fakes.module,        fakes.languages,
+                                              fakes.desktop,       database,
+                                              fakes.xml,           fakes.traceDatabases},
           context(platform)
     {
         initBitMasks(context);

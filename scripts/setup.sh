@@ -1,8 +1,9 @@
-# Shared by ./run and ./test: installs what is missing, and builds. To be sourced.
+# Shared by ./run, ./test and benchmarks/run: installs what is missing, and builds. To be sourced.
 
-# Packages for building and running; the tests need some readers more.
+# Packages for building and running; the tests need some readers more, the
+# benchmarks some peers.
 build_packages=(
-  ccache cmake g++ libbenchmark-dev libcli11-dev libgmock-dev libgtest-dev libpugixml-dev
+  ccache cmake g++ libcli11-dev libgmock-dev libgtest-dev libpugixml-dev
   libsqlite3-dev ninja-build nlohmann-json3-dev qt6-base-dev qt6-l10n-tools qt6-svg-dev
   qt6-translations-l10n zlib1g-dev
 )
@@ -10,6 +11,7 @@ test_packages=(
   cabextract clang clang-format gcab libclang-rt-14-dev librapidcheck-dev mawk mdbtools p7zip-full
   sqlite3
 )
+benchmark_packages=(cabextract gcab libbenchmark-dev mawk mdbtools sqlite3 time)
 
 say() { printf '%s\n' "$*" >&2; }
 

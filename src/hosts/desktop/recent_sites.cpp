@@ -14,9 +14,11 @@ QStringList recentSites(const QSettings& settings)
 
 void rememberSite(QSettings& settings, const QString& folder)
 {
-    QStringList sites = recentSites(settings);
+    const QStringList before = recentSites(settings);
+    QStringList sites = before;
     sites.removeAll(folder);
     sites.prepend(folder);
     while (sites.size() > keptSites) sites.removeLast();
-    settings.setValue(sitesKey, sites);
+    // Settings are written to the disk, and waited for, before the window is painted.
+    if (sites != before) settings.setValue(sitesKey, sites);
 }
