@@ -1,23 +1,61 @@
 #!/usr/bin/env bash
-# Draws docs/images/console.png: the console on a fresh sample server, showing a log.
-# Needs a build (build/<preset>, dev unless another is named) and Xvfb.
+# Draws the window, under a display of its own.
+#
+#   scripts/screenshots.sh [--no-install] [--preset NAME]            the pictures of the docs
+#   scripts/screenshots.sh [--no-install] [--preset NAME] FOLDER     every page, view and box
+#
+# Into FOLDER go all languages in light and dark, as FOLDER/CODE-THEME/NAME.png; what follows FOLDER
+# is for console_pictures, such as --language JPN --theme dark --only log --size 800x600. In front of
+# the script QT_SCALE_FACTOR=2 draws as on a screen of 200 %.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+. scripts/setup.sh
 
-preset=${1:-dev}
-console=$PWD/build/$preset/bin/orvandiag-console
+install=yes
+preset=dev
+while [ $# -gt 0 ]; do
+  case $1 in
+    --no-install) install=no ;;
+    --preset) preset=$2; shift ;;
+    -*) say "screenshots.sh: $1 is not known"; exit 2 ;;
+    *) break ;;
+  esac
+  shift
+done
+
+# A display, a font for Japanese, and the means to make pictures small.
+install_missing "${build_packages[@]}" fontconfig fonts-dejavu-core fonts-ipafont-gothic \
+  imagemagick xauth xvfb
+[ -n "$(fc-list :lang=ja)" ] ||
+  say "no font has Japanese letters: install fonts-ipafont-gothic, or boxes stand in their places"
+build_preset "$preset" orvandiag-console console_pictures orvan_data
+
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-
 # A home of its own, so that nobody's window sizes and themes show.
-export HOME=$work XDG_CONFIG_HOME=$work/config XDG_DATA_HOME=$work/data XDG_RUNTIME_DIR=$work
-picture() { # picture FILE ARGUMENT...
-  local file=$1
-  shift
-  xvfb-run -a -s '-screen 0 1600x1200x24' "$console" --theme light --screenshot "$file" "$@"
+mkdir -m 700 "$work/run"
+export HOME=$work XDG_CONFIG_HOME=$work/config XDG_DATA_HOME=$work/data XDG_RUNTIME_DIR=$work/run
+display() { xvfb-run -a -s '-screen 0 1600x1200x24' "$@"; }
+bin=$PWD/build/$preset/bin
+
+if [ $# -gt 0 ]; then
+  display "$bin/console_pictures" "$@"
+  exit
+fi
+
+# small FROM TO : fewer shades of each letter's edge, and a third of the bytes.
+small() { convert "$1" +dither -colors 128 -define png:compression-level=9 -strip "$2"; }
+console() { # console NAME ARGUMENT...
+  display "$bin/orvandiag-console" --screenshot "$work/$1.png" --size 1180x720 "${@:2}"
+  small "$work/$1.png" "docs/images/$1.png"
 }
 
+display "$bin/orvandiag-console" --theme light --screenshot "$work/first.png"
+logs=$work/data/orvandiag/site/drive_c/KelmaOrvan/Logs
+log=$(basename "$(ls "$logs"/diag_KoCSMgr_*.txt | grep -v _fmtd | tail -n 1)")
 mkdir -p docs/images
-picture "$work/first.png"
-log=$(basename "$(ls "$work"/data/orvandiag/site/drive_c/KelmaOrvan/Logs/diag_KoCSMgr_*.txt | grep -v _fmtd | tail -n 1)")
-picture docs/images/console.png --show "$log" --size 1280x760
+console console --theme light --show "$log"
+console console-dark --theme dark --show "Static Node"
+display "$bin/console_pictures" "$work/pages" --language ENU --theme light \
+  --only gather-3-time-frame
+small "$work/pages/ENU-light/gather-3-time-frame.png" docs/images/wizard.png

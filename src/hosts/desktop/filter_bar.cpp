@@ -15,8 +15,8 @@
 #include <algorithm>
 
 namespace {
-constexpr int typingPause = 120;   ///< milliseconds
-constexpr int textCharacters = 16; ///< of the text to filter by that are in sight at least
+constexpr int typingPause = 120; ///< milliseconds
+constexpr int fieldRoom = 24;    ///< around a text in its field
 } // namespace
 
 FilterBar::FilterBar(QWidget* parent)
@@ -50,6 +50,8 @@ FilterBar::FilterBar(QWidget* parent)
     row->addWidget(close);
     showInLanguage(this, [this, all, close] {
         text_->setPlaceholderText(tr("Only rows with this text"));
+        text_->setMinimumWidth(fontMetrics().horizontalAdvance(text_->placeholderText()) +
+                               fieldRoom);
         text_->setAccessibleName(tr("Filter by text"));
         excludeText_->setText(tr("hide &matches"));
         excludeText_->setToolTip(tr("Hide the rows with the text instead of showing them"));
@@ -162,8 +164,7 @@ QSize FilterBar::minimumSizeHint() const
 /// Two rows where one has no room for all.
 void FilterBar::arrange()
 {
-    const int besides = fontMetrics().averageCharWidth() * textCharacters;
-    int needed = rows_->spacing() + besides;
+    int needed = rows_->spacing() + rows_->contentsMargins().left();
     for (int place = 0; place < rows_->count(); ++place)
         needed += rows_->itemAt(place)->minimumSize().width();
     rows_->setDirection(needed <= contentsRect().width() ? QBoxLayout::LeftToRight

@@ -43,6 +43,8 @@ HelpWindow::HelpWindow(QWidget* parent)
     setWindowIcon(toolIcon(QStringLiteral("console")));
     pages_->setOpenExternalLinks(false);
     pages_->document()->setDocumentMargin(24);
+    pages_->document()->setDefaultStyleSheet(
+        QStringLiteral("p, li, dd { line-height: 130%; } li { margin-top: 3px; }"));
     setCentralWidget(pages_);
 
     auto* bar = addToolBar(QString());

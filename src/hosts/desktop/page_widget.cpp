@@ -145,6 +145,9 @@ void PageWidget::addField(QGridLayout& grid, std::size_t& place)
                          dynamic_cast<SpinControl*>(controls[place + 1].control) != nullptr;
     const bool narrow =
         counted || dynamic_cast<DateTimePicker*>(controls[place].control) != nullptr;
+    constexpr int pathCharacters = 26; ///< of a path, without scrolling in its field
+    if (!counted && dynamic_cast<TextBox*>(controls[place].control))
+        views_[place]->widget()->setMinimumWidth(fontMetrics().averageCharWidth() * pathCharacters);
     if (counted) {
         views_[place]->widget()->setMaximumWidth(fontMetrics().averageCharWidth() * 12);
         fields->setSpacing(2);

@@ -157,6 +157,18 @@ void drawing::fieldEdge(const QStyleOption& option, QPainter& painter)
     painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
 }
 
+void drawing::arrowGround(const QStyleOption& option, QPainter& painter)
+{
+    const bool pressed = is(option, QStyle::State_Sunken);
+    if (!is(option, QStyle::State_Enabled)) return;
+    if (!pressed && !is(option, QStyle::State_MouseOver)) return;
+    const QPalette& palette = option.palette;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(
+        mixed(palette.color(QPalette::Text), palette.color(QPalette::Base), pressed ? 0.18 : 0.09));
+    painter.drawRoundedRect(option.rect.adjusted(0, 1, -1, -1), corner - 1, corner - 1);
+}
+
 void drawing::frame(const QStyleOption& option, QPainter& painter)
 {
     painter.setRenderHint(QPainter::Antialiasing, false);
@@ -241,10 +253,11 @@ void drawing::progress(const QStyleOption& option, QPainter& painter)
     painter.fillRect(done, option.palette.color(QPalette::Highlight));
 }
 
-void drawing::scrollBar(const QStyleOptionSlider& option, const QRect& handle, QPainter& painter)
+void drawing::scrollBar(const QStyleOptionSlider& option, const QRect& handle,
+                        QPalette::ColorRole groundRole, QPainter& painter)
 {
     const QPalette& palette = option.palette;
-    const QColor ground = palette.color(QPalette::Base);
+    const QColor ground = palette.color(groundRole);
     painter.fillRect(option.rect, ground);
     if (option.maximum <= option.minimum) return;
     const bool held = is(option, QStyle::State_Sunken);

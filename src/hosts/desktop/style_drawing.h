@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QPalette>
+
 class QPainter;
 class QStyleOption;
 class QStyleOptionSlider;
@@ -21,6 +23,9 @@ bool standsOut(const QStyleOption& option);
 void field(const QStyleOption& option, QPainter& painter);
 void fieldEdge(const QStyleOption& option, QPainter& painter);
 
+/// Behind an arrow at the end of a field, under the pointer or pressed.
+void arrowGround(const QStyleOption& option, QPainter& painter);
+
 /// Around a list, a tree or a text.
 void frame(const QStyleOption& option, QPainter& painter);
 
@@ -31,7 +36,8 @@ void splitter(const QStyleOption& option, QPainter& painter);
 void progressGround(const QStyleOption& option, QPainter& painter);
 void progress(const QStyleOption& option, QPainter& painter);
 
-/// The handle of a scroll bar, in its place on the ground.
-void scrollBar(const QStyleOptionSlider& option, const QRect& handle, QPainter& painter);
+/// The handle of a scroll bar, in its place on the ground of what is scrolled.
+void scrollBar(const QStyleOptionSlider& option, const QRect& handle, QPalette::ColorRole ground,
+               QPainter& painter);
 
 } // namespace drawing

@@ -37,7 +37,7 @@ TaskPadView::TaskPadView(QWidget* parent)
     title_->setFont(large);
     title_->setWordWrap(true);
     description_->setWordWrap(true);
-    grid_->setContentsMargins(0, 0, 0, 0);
+    grid_->setContentsMargins(0, 0, 4, 0);
     grid_->setSpacing(14);
     auto* scroll = new QScrollArea(this);
     scroll->setFrameShape(QFrame::NoFrame);

@@ -2,7 +2,9 @@
 
 #include "hosts/desktop/style_drawing.h"
 
+#include <QAbstractSpinBox>
 #include <QPainter>
+#include <QScrollArea>
 #include <QStyleOption>
 
 #include <algorithm>
@@ -19,7 +21,7 @@ constexpr int shortestHandle = 28;
 constexpr QSize buttonRoom(14, 8);
 constexpr QSize fieldRoom(4, 6);
 constexpr QSize menuRoom(8, 6);
-constexpr QSize headerRoom(0, 2);
+constexpr int headerRoom = 2;
 
 class Kept {
 public:
@@ -97,6 +99,14 @@ QRect handleOf(const QStyleOptionSlider& bar)
     return handle.translated(bar.rect.topLeft());
 }
 
+/// What a scroll bar's list, tree or text stands on; cards stand on the window.
+QPalette::ColorRole groundOf(const QWidget* scrollBar)
+{
+    const bool cards = scrollBar && scrollBar->parentWidget() &&
+                       qobject_cast<const QScrollArea*>(scrollBar->parentWidget()->parentWidget());
+    return cards ? QPalette::Window : QPalette::Base;
+}
+
 QRect partOf(const QStyleOptionSlider& bar, QStyle::SubControl part)
 {
     const QRect handle = handleOf(bar);
@@ -145,6 +155,12 @@ void ToolStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         const Kept kept(*painter);
         return draw(*option, *painter);
     }
+    const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+    if (element == PE_IndicatorHeaderArrow && header) {
+        const bool up = header->sortIndicator == QStyleOptionHeader::SortUp;
+        return proxy()->drawPrimitive(up ? PE_IndicatorArrowUp : PE_IndicatorArrowDown, option,
+                                      painter, widget);
+    }
     if (element == PE_IndicatorBranch && (option->state & State_Selected)) {
         const QStyleOption selected = asSelected(*option);
         return QProxyStyle::drawPrimitive(element, &selected, painter, widget);
@@ -172,10 +188,35 @@ void ToolStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
 {
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
     const Kept kept(*painter);
-    if (control == CC_ScrollBar && bar) return drawing::scrollBar(*bar, handleOf(*bar), *painter);
-    QProxyStyle::drawComplexControl(control, option, painter, widget);
-    const bool field = control == CC_SpinBox || control == CC_ComboBox;
-    if (field) drawing::fieldEdge(*option, *painter);
+    if (control == CC_ScrollBar && bar)
+        return drawing::scrollBar(*bar, handleOf(*bar), groundOf(widget), *painter);
+    if (control != CC_SpinBox && control != CC_ComboBox)
+        return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    drawing::field(*option, *painter);
+    for (const SubControl part : {SC_SpinBoxUp, SC_SpinBoxDown, SC_ComboBoxArrow})
+        drawArrow(control, *option, part, *painter, widget);
+}
+
+/// A part of a field that is pressed to change what the field holds; none for a part that the
+/// field does not have.
+void ToolStyle::drawArrow(ComplexControl control, const QStyleOptionComplex& option,
+                          SubControl part, QPainter& painter, const QWidget* widget) const
+{
+    const bool spins = control == CC_SpinBox;
+    if (spins == (part == SC_ComboBoxArrow) || !(option.subControls & part)) return;
+    QStyleOption arrow = option;
+    arrow.rect = proxy()->subControlRect(control, &option, part, widget);
+    const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(&option);
+    const auto needed =
+        part == SC_SpinBoxUp ? QAbstractSpinBox::StepUpEnabled : QAbstractSpinBox::StepDownEnabled;
+    if (spin && !(spin->stepEnabled & needed)) {
+        arrow.state &= ~State_Enabled;
+        arrow.palette.setCurrentColorGroup(QPalette::Disabled);
+    }
+    if (!(option.activeSubControls & part)) arrow.state &= ~(State_MouseOver | State_Sunken);
+    drawing::arrowGround(arrow, painter);
+    proxy()->drawPrimitive(part == SC_SpinBoxUp ? PE_IndicatorArrowUp : PE_IndicatorArrowDown,
+                           &arrow, &painter, widget);
 }
 
 QRect ToolStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
@@ -217,8 +258,13 @@ QSize ToolStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
         const bool line = item && item->menuItemType == QStyleOptionMenuItem::Separator;
         return line ? size : size + menuRoom;
     }
-    case CT_HeaderSection:
-        return size + headerRoom;
+    case CT_HeaderSection: {
+        // Room for the mark of a sorted column, which the usual style leaves as wide as high.
+        const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+        if (!header) return size;
+        const int text = header->fontMetrics.horizontalAdvance(header->text);
+        return {text + sortMark + 4 * textMargin, size.height() + headerRoom};
+    }
     default:
         return size;
     }
