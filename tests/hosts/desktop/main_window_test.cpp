@@ -252,6 +252,18 @@ TEST(MainWindow, SaysThatALanguageHasNoCatalogue)
     EXPECT_EQ(6, shown.pane().taskPad().findChildren<QAbstractButton*>().size());
 }
 
+TEST(MainWindow, MakesTheReaderOfLogsWhenTheFirstLogIsShown)
+{
+    TestWindow shown;
+    EXPECT_TRUE(shown.window->findChildren<LogView*>().empty());
+    EXPECT_TRUE(shown.window->findChildren<ListTable*>().empty());
+    shown.window->run(Command::largerText);
+
+    shown.showLog("KoCSMgr");
+    EXPECT_EQ(1, shown.window->findChildren<LogView*>().size());
+    EXPECT_EQ(theme::traceFont().pointSize() + 1, shown.log().table().font().pointSize());
+}
+
 /// A standard gather at its progress page, with the run about to begin.
 WizardSheet& gatherAtItsStart(TestWindow& shown)
 {
