@@ -42,6 +42,7 @@ HelpWindow::HelpWindow(QWidget* parent)
 {
     setWindowIcon(toolIcon(QStringLiteral("console")));
     pages_->setOpenExternalLinks(false);
+    pages_->setFrameShape(QFrame::NoFrame);
     pages_->document()->setDocumentMargin(24);
     pages_->document()->setDefaultStyleSheet(
         QStringLiteral("p, li, dd { line-height: 130%; } li { margin-top: 3px; }"));

@@ -16,6 +16,7 @@ constexpr int indicatorSide = 16;
 constexpr int textMargin = 4;
 constexpr int fieldMargin = 3;
 constexpr int sortMark = 9;
+constexpr int markDrop = 3; ///< from where the usual style has it to the middle of a text
 constexpr int scrollBarSide = 13;
 constexpr int shortestHandle = 28;
 constexpr QSize buttonRoom(14, 8);
@@ -158,7 +159,9 @@ void ToolStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
     if (element == PE_IndicatorHeaderArrow && header) {
         const bool up = header->sortIndicator == QStyleOptionHeader::SortUp;
-        return proxy()->drawPrimitive(up ? PE_IndicatorArrowUp : PE_IndicatorArrowDown, option,
+        QStyleOption mark = *option;
+        mark.rect.translate(0, markDrop);
+        return proxy()->drawPrimitive(up ? PE_IndicatorArrowUp : PE_IndicatorArrowDown, &mark,
                                       painter, widget);
     }
     if (element == PE_IndicatorBranch && (option->state & State_Selected)) {
@@ -232,10 +235,6 @@ QRect ToolStyle::subElementRect(SubElement element, const QStyleOption* option,
                                 const QWidget* widget) const
 {
     const QRect room = QProxyStyle::subElementRect(element, option, widget);
-    if (element == SE_HeaderArrow)
-        return visualRect(option->direction, option->rect,
-                          QRect(option->rect.right() - sortMark - textMargin,
-                                option->rect.center().y() - sortMark / 2 + 1, sortMark, sortMark));
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
     if (element != SE_LineEditContents || !frame || frame->lineWidth == 0) return room;
     return room.adjusted(fieldMargin, 0, -fieldMargin, 0);

@@ -55,6 +55,18 @@ TEST_P(SmallScreen, CutsNoText)
     EXPECT_EQ(smallScreen, shown.window->size());
 }
 
+TEST_P(SmallScreen, NorDoesAWindowOfTheUsualSize)
+{
+    TestWindow shown;
+    shown.reopenIn(languageIdFromCode(GetParam()));
+    shown.window->resize(1180, 760);
+    settle();
+    tourViews(shown, [](const std::string& place, QWidget& widget) {
+        SCOPED_TRACE(place);
+        EXPECT_THAT(cutTexts(widget), IsEmpty());
+    });
+}
+
 INSTANTIATE_TEST_SUITE_P(InEveryLanguage, SmallScreen, testing::ValuesIn(toolLanguages()),
                          [](const auto& language) { return language.param; });
 
