@@ -1,5 +1,6 @@
 #include "hosts/desktop/run_console.h"
 
+#include "hosts/desktop/console_options.h"
 #include "hosts/desktop/places.h"
 #include "hosts/desktop/program.h"
 #include "hosts/desktop/screenshot.h"
@@ -7,7 +8,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QSettings>
 #include <QTimer>
 
@@ -33,52 +33,7 @@ void sayWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&
     ::_exit(1);
 }
 
-struct Options {
-    QString site;
-    QString node;
-    QString command;
-    QString screenshot;
-    QString size;
-    QString theme;
-    bool developmentHost = false;
-};
-
-Options optionsOf(const QApplication& application)
-{
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Diagnoses an Orvan voice-messaging server, in a window."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    const QCommandLineOption site(QStringLiteral("site"),
-                                  QStringLiteral("The folder of the site to open."),
-                                  QStringLiteral("DIR"));
-    const QCommandLineOption node(QStringLiteral("show"),
-                                  QStringLiteral("Select the node of this name, such as a log."),
-                                  QStringLiteral("NAME"));
-    const QCommandLineOption command(
-        QStringLiteral("command"),
-        QStringLiteral("Start with a command of the tool, such as mnuGatherLogFiles."),
-        QStringLiteral("NAME"));
-    const QCommandLineOption scheme(QStringLiteral("theme"),
-                                    QStringLiteral("Look: system, light or dark."),
-                                    QStringLiteral("NAME"));
-    const QCommandLineOption screenshot(QStringLiteral("screenshot"),
-                                        QStringLiteral("Write a picture of the window and end."),
-                                        QStringLiteral("FILE"));
-    const QCommandLineOption size(QStringLiteral("size"), QStringLiteral("Size of the window."),
-                                  QStringLiteral("WIDTHxHEIGHT"));
-    const QCommandLineOption development(
-        QStringLiteral("development-host"),
-        QStringLiteral("Answer the tool's debug-mode test with true."));
-    parser.addOptions({site, node, command, scheme, screenshot, size, development});
-    parser.process(application);
-    return {parser.value(site),       parser.value(node), parser.value(command),
-            parser.value(screenshot), parser.value(size), parser.value(scheme),
-            parser.isSet(development)};
-}
-
-HostFacts hostFacts(const Options& options)
+HostFacts hostFacts(const ConsoleOptions& options)
 {
     HostFacts facts;
     facts.version = {ORVAN_VERSION_MAJOR, ORVAN_VERSION_MINOR, ORVAN_VERSION_PATCH};
@@ -87,9 +42,14 @@ HostFacts hostFacts(const Options& options)
     return facts;
 }
 
-int run(const QApplication& application, const std::function<void(Program&)>& opened)
+int say(const NoWindow& answer)
 {
-    const Options options = optionsOf(application);
+    std::fputs(answer.text.c_str(), answer.status == 0 ? stdout : stderr);
+    return answer.status;
+}
+
+int run(const ConsoleOptions& options, const std::function<void(Program&)>& opened)
+{
     QSettings settings;
     theme::apply(theme::schemeOf(options.theme.isEmpty()
                                      ? settings.value(QStringLiteral("window/theme")).toString()
@@ -103,12 +63,12 @@ int run(const QApplication& application, const std::function<void(Program&)>& op
         program.window().showProblem([node = options.node] {
             return QObject::tr("This site has no %1 to show.").arg(node);
         });
-    if (QAction* action = program.window().consoleAction(options.command.toStdString()))
+    if (QAction* action = program.window().consoleAction(options.command))
         QTimer::singleShot(0, action, &QAction::trigger);
     // Only now: a window that is on show lays itself out again at each step of the opening.
+    if (options.size) program.window().resize(*options.size);
     program.window().show();
-    if (!options.screenshot.isEmpty())
-        takeScreenshot(program.window(), options.screenshot, options.size);
+    if (!options.screenshot.isEmpty()) takeScreenshot(program.window(), options.screenshot);
     if (opened) opened(program);
     const int result = QApplication::exec();
     program.close();
@@ -121,14 +81,21 @@ int run(const QApplication& application, const std::function<void(Program&)>& op
 
 int runConsole(int argc, char** argv, const std::function<void(Program&)>& opened)
 {
+    QCoreApplication::setApplicationName(QStringLiteral("orvandiag-console"));
+    QCoreApplication::setOrganizationName(QStringLiteral("orvandiag"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ORVAN_VERSION));
+    if (asksForText(argc, argv)) {
+        const QCoreApplication application(argc, argv);
+        const auto answer = consoleOptionsOf(QCoreApplication::arguments());
+        if (const auto* text = std::get_if<NoWindow>(&answer)) return say(*text);
+    }
     qInstallMessageHandler(sayWithoutDisplay);
-    QApplication application(argc, argv);
+    const QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
-    QApplication::setApplicationName(QStringLiteral("orvandiag-console"));
-    QApplication::setOrganizationName(QStringLiteral("orvandiag"));
-    QApplication::setApplicationVersion(QStringLiteral(ORVAN_VERSION));
     try {
-        return run(application, opened);
+        const auto options = consoleOptionsOf(QCoreApplication::arguments());
+        if (const auto* refused = std::get_if<NoWindow>(&options)) return say(*refused);
+        return run(std::get<ConsoleOptions>(options), opened);
     } catch (const std::exception& error) {
         return refuse(error.what());
     }

@@ -4,7 +4,6 @@
 
 class QWidget;
 
-/// Writes a picture of a window, or of the dialog in front of it, once it has been painted, at a
-/// size such as "1180x760" (empty: as it is), and ends the program: with 1 when the file can't be
-/// written.
-void takeScreenshot(QWidget& window, const QString& file, const QString& size);
+/// Writes a picture of a window, or of the dialog in front of it, once it has been painted, and
+/// ends the program: with 1 when the file can't be written.
+void takeScreenshot(QWidget& window, const QString& file);
