@@ -57,9 +57,6 @@ OpenSheet& PropertySheetProvider::waiting() const
 
 void PropertySheetProvider::letGoOfClosedSheets()
 {
-    const auto atWork = [](const auto& sheet) { return sheet->atWork(); };
-    if (std::any_of(shown_.begin(), shown_.end(), atWork)) return;
-    shown_.erase(std::remove_if(shown_.begin(), shown_.end(),
-                                [](const auto& sheet) { return sheet->closed(); }),
-                 shown_.end());
+    const auto inUse = [](const auto& sheet) { return sheet->atWork() || !sheet->closed(); };
+    if (std::none_of(shown_.begin(), shown_.end(), inUse)) shown_.clear();
 }

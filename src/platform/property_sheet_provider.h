@@ -12,8 +12,9 @@ class ScopeItem;
 /// The numbers are the console's own.
 enum class SheetType { propertySheet = 0, wizard = 2 };
 
-/// Makes and shows a console's sheets. They stay until work that was begun in any of them has
-/// returned, as all wizards share one object that knows the sheet that was shown last.
+/// Makes and shows a console's sheets. They stay until all of them are closed and work that was
+/// begun in any has returned, as all wizards share one object that knows the sheet that was shown
+/// last.
 class PropertySheetProvider {
 public:
     explicit PropertySheetProvider(Console& console) : console_(console) {}

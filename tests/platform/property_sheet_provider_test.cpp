@@ -113,6 +113,19 @@ TEST_F(PropertySheetProviderTest, TwoSheetsMayBeOpenAtTheSameTime)
     EXPECT_EQ(sheets.lastSheet(), sheets.openSheets().front());
 }
 
+TEST_F(PropertySheetProviderTest, AClosedSheetStaysWhileAnotherOneIsOpen)
+{
+    open();
+    open();
+    const std::weak_ptr<OpenSheet> second = sheets.lastSheet();
+    second.lock()->cancel();
+    open(SheetType::propertySheet);
+    EXPECT_FALSE(second.expired()) << "the first one's pages may know it as the wizard's sheet";
+    for (const auto& sheet : sheets.openSheets()) sheet->cancel();
+    open();
+    EXPECT_TRUE(second.expired());
+}
+
 TEST_F(PropertySheetProviderTest, AClosedSheetGoesWithTheNextButNotWhileAnyIsAtWork)
 {
     open();
@@ -127,7 +140,7 @@ TEST_F(PropertySheetProviderTest, AClosedSheetGoesWithTheNextButNotWhileAnyIsAtW
         EXPECT_FALSE(second.expired());
     };
     first.lock()->tick(working.timer);
-    first.lock()->cancel();
+    for (const auto& sheet : sheets.openSheets()) sheet->cancel();
     EXPECT_FALSE(first.expired());
     open();
     EXPECT_TRUE(first.expired());

@@ -234,6 +234,24 @@ TEST_F(SnapinSheets, AWizardThatIsOpenedAgainShowsWhatTheOneBeforeSet)
     }
 }
 
+TEST_F(SnapinSheets, OfTwoWizardsAtOnceTheOneOpenedLastHasItsButtonsSet)
+{
+    console.clickTask("3");
+    const auto reset = sheets().lastSheet();
+    console.clickTask("1");
+    const auto macro = sheets().lastSheet();
+    auto& box = dynamic_cast<CheckBox&>(*reset->currentPage().control("chkDisableAllTraces"));
+
+    box.click();
+    EXPECT_FALSE(reset->wizard()->canFinish()) << "both share one object, which knows one sheet";
+    EXPECT_TRUE(macro->wizard()->canFinish());
+
+    macro->cancel();
+    console.clickTask("6");
+    box.click();
+    EXPECT_FALSE(reset->wizard()->canFinish()) << "a closed sheet ignores its pages";
+}
+
 TEST_F(SnapinSheets, TheResetWizardWorksFromTheTaskPadToItsEnd)
 {
     console.clickTask("3");
