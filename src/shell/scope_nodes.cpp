@@ -39,7 +39,10 @@ void addLogNode(ErrorTrap& step, ToolContext& tool, ScopeTree& scopeItems, Scope
     step([&] { required(node).name(fileName); });
     step([&] { required(node).displayName(displayName); });
     step([&] { required(node).kind(mdlSnapIn::kindLogFile); });
-    step([&] { tool.g_dictLogItems.item(required(node).key()) = node->weak_from_this(); });
+    step([&] {
+        ScopeItem& added = required(node);
+        tool.g_dictLogItems.item(added.key()) = added.weak_from_this();
+    });
 }
 
 /// Names from index 1 on, as the folder search gives them, without formatted copies and the log in

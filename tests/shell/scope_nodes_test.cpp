@@ -218,6 +218,19 @@ TEST_F(ScopeNodes, GivesTheSameTreeOnASecondRefreshOfAnUnchangedFolder)
     EXPECT_THAT(tool.failures(), IsEmpty());
 }
 
+TEST_F(ScopeNodes, KeepsTheNodeOfACurrentLogThatARefreshDoesNotRemove)
+{
+    withProcess("RoCsMgr");
+    withCurrentLog("RoCsMgr", "other_RoCsMgr.txt");
+    open("RoCsMgr");
+
+    snapIn.refreshScopeItems();
+
+    EXPECT_THAT(below(node("RoCsMgr")), ElementsAre("Current- other_RoCsMgr.txt"));
+    EXPECT_THAT(tool.failures("[mdlSnapIn]populateScopeAllLogs"), testing::Not(IsEmpty()))
+        << "its key is there already";
+}
+
 TEST_F(ScopeNodes, RefreshesOpenedProcessesAloneAndLooksForNoNewOnes)
 {
     withProcess("RoCsMgr");

@@ -87,6 +87,7 @@ void LogView::connectParts()
     connect(table_, &ListTable::currentRowChanged, this, [this](int row) {
         details_->show(model_, row);
         showHitCount();
+        if (row >= 0) line_ = lineOfRow(row);
     });
     connect(table_, &QWidget::customContextMenuRequested, this, &LogView::offerRowMenu);
     connect(overview_, &OverviewStrip::rowAsked, table_, &ListTable::goTo);
@@ -128,7 +129,9 @@ void LogView::show(ListView& list, const QString& log)
     };
     bookmarks_.emplace(settings_, log, timeOfLine);
     showBookmarks();
-    table_->goTo(0);
+    // The log that was left last is taken up again where it was left.
+    table_->goTo(log == log_ ? std::clamp(line_ - 1, 0, std::max(0, model_.rowCount() - 1)) : 0);
+    log_ = log;
     details_->show(model_, table_->currentIndex().row());
 }
 

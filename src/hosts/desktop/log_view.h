@@ -86,6 +86,8 @@ private:
     QSettings& settings_;
     ListModel model_;
     LogColumns columns_;
+    QString log_;  ///< on show, or left last
+    int line_ = 0; ///< that it was left at
     std::optional<Bookmarks> bookmarks_;
     std::vector<int> hits_; ///< rows with the text that is looked for, from the top
     ListTable* table_ = nullptr;

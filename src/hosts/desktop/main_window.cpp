@@ -264,7 +264,7 @@ void MainWindow::run(Command command)
     if (!pane_) return;
     switch (command) {
     case Command::refresh:
-        return pane_->perform([](Console& console) { console.refresh(); });
+        return refresh();
     case Command::switchPane:
         return pane_->switchPane();
     case Command::largerText:
@@ -281,6 +281,18 @@ void MainWindow::run(Command command)
     default:
         return runInLog(command);
     }
+}
+
+void MainWindow::refresh()
+{
+    pane_->perform([](Console& console) {
+        const std::string key = console.currentScopeItem().key();
+        console.refresh();
+        // The tool has made the nodes of logs anew, and the console gone to the node above.
+        ScopeItem* renewed = console.scopeItems().find(key);
+        if (renewed && renewed != &console.currentScopeItem())
+            console.currentView().select(*renewed);
+    });
 }
 
 void MainWindow::runInTable(Command command)

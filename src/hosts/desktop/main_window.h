@@ -66,6 +66,7 @@ private:
     void rebuildRecentSites();
     void updateActions();
     void updateTitle();
+    void refresh();
     void afterCall();
     void checkSite();
     void showTexts();

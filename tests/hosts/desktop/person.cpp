@@ -17,6 +17,8 @@
 
 namespace {
 
+constexpr int lookAgain = 5; ///< milliseconds before another look for a window
+
 /// The window that keys go to. A window system gives the focus back when a menu or a dialog goes,
 /// the offscreen one does not.
 QWindow& focusWindow()
@@ -132,11 +134,19 @@ void person::choose(QMainWindow& window, QAction& entry)
 
 void person::answerNextDialog(std::function<void(QWidget& dialog)> answer)
 {
-    constexpr int pause = 5;
-    QTimer::singleShot(pause, qApp, [answer = std::move(answer)] {
+    QTimer::singleShot(lookAgain, qApp, [answer = std::move(answer)] {
         QWidget* dialog = QApplication::activeModalWidget();
         if (!dialog || !dialog->isActiveWindow()) return answerNextDialog(answer);
         answer(*dialog);
+    });
+}
+
+void person::answerNextPopup(std::function<void(QWidget& popup)> answer)
+{
+    QTimer::singleShot(lookAgain, qApp, [answer = std::move(answer)] {
+        QWidget* popup = QApplication::activePopupWidget();
+        if (!popup || !popup->isVisible()) return answerNextPopup(answer);
+        answer(*popup);
     });
 }
 

@@ -41,6 +41,9 @@ void choose(QMainWindow& window, QAction& entry);
 /// Answers the next modal dialog, which runs before the call that opens it returns.
 void answerNextDialog(std::function<void(QWidget& dialog)> answer);
 
+/// The same for the next menu or list that pops up.
+void answerNextPopup(std::function<void(QWidget& popup)> answer);
+
 /// Answers the next file dialog with a path.
 void pickNext(const std::string& path);
 

@@ -1,0 +1,136 @@
+#include "hosts/desktop/about_dialog.h"
+#include "hosts/desktop/list_table.h"
+#include "hosts/desktop/log_view.h"
+#include "hosts/desktop/open_program.h"
+#include "hosts/desktop/person.h"
+#include "hosts/desktop/sheet_dialog.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QTreeView>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// The tool's own texts, while the language changes under an open window.
+struct ToolLanguage : testing::Test {
+    OpenProgram shown;
+
+    /// Picks a language from the menu of the about box, and closes the box.
+    void chooseLanguage(const QString& name)
+    {
+        bool chosen = false;
+        person::answerNextDialog([&](QWidget& dialog) {
+            auto& about = dynamic_cast<AboutDialog&>(dialog);
+            QAbstractButton* list = nullptr;
+            for (auto* button : about.findChildren<QPushButton*>())
+                if (!button->isDefault()) list = button;
+            person::answerNextPopup([&](QWidget& popup) {
+                auto& menu = dynamic_cast<QMenu&>(popup);
+                QAction* wanted = nullptr;
+                for (QAction* entry : menu.actions())
+                    if (entry->text().startsWith(name) && !entry->isSeparator()) wanted = entry;
+                chosen = wanted != nullptr;
+                if (!wanted) return person::press(Qt::Key_Escape);
+                person::click(menu, menu.actionGeometry(wanted).center());
+            });
+            person::click(*list);
+            person::press(Qt::Key_Return);
+        });
+        person::press(QKeySequence("Ctrl+F1"));
+        EXPECT_TRUE(chosen) << name.toStdString();
+    }
+
+    QString menuText(const char* item)
+    {
+        return QString(shown.window().consoleAction(item)->text()).remove('&');
+    }
+
+    QStringList headers()
+    {
+        const QAbstractItemModel& model = *shown.pane().table()->model();
+        QStringList texts;
+        for (int column = 0; column < model.columnCount(); ++column)
+            texts << model.headerData(column, Qt::Horizontal).toString();
+        return texts;
+    }
+
+    /// Names of the tree's nodes that are on show, from the top.
+    QStringList treeNames()
+    {
+        const QTreeView& tree = shown.pane().tree();
+        QStringList names;
+        for (QModelIndex at = tree.model()->index(0, 0); at.isValid(); at = tree.indexBelow(at))
+            names << at.data().toString();
+        return names;
+    }
+};
+
+TEST_F(ToolLanguage, MenusAndTaskCardsChangeAtOnceAndBack)
+{
+    ASSERT_EQ(QStringLiteral("Gather Log Files"), menuText("mnuGatherLogFiles"));
+    chooseLanguage("French");
+    EXPECT_EQ(QStringLiteral("Collecter les fichiers journaux"), menuText("mnuGatherLogFiles"));
+    EXPECT_EQ(QStringLiteral("Configurer les macro-traces"), menuText("mnuConfigureMacroTrace"));
+    auto* card = shown.pane().findChild<QAbstractButton*>("task-1");
+    ASSERT_NE(nullptr, card);
+    EXPECT_TRUE(card->isVisible());
+    EXPECT_EQ(QStringLiteral("Configurer les macro-traces"), card->text());
+    EXPECT_TRUE(card->accessibleDescription().startsWith("Utilisez cette tâche"));
+    bool titled = false;
+    for (auto* label : shown.pane().findChildren<QLabel*>())
+        titled = titled || label->text() == "Tâches de diagnostic Kelma Orvan";
+    EXPECT_TRUE(titled);
+
+    chooseLanguage("English");
+    EXPECT_EQ(QStringLiteral("Gather Log Files"), menuText("mnuGatherLogFiles"));
+    EXPECT_EQ(QStringLiteral("Configure Macro Traces"),
+              shown.pane().findChild<QAbstractButton*>("task-1")->text());
+}
+
+TEST_F(ToolLanguage, AWizardOpenedAfterwardsSpeaksIt)
+{
+    chooseLanguage("French");
+    shown.clickCard("1");
+    EXPECT_EQ(QStringLiteral("Assistant Configuration des macro-traces"),
+              shown.sheet().windowTitle());
+    person::press(Qt::Key_Escape);
+}
+
+TEST_F(ToolLanguage, AListAndItsTreeStayAndTheListsHeadersFollowWhenItIsRenewed)
+{
+    shown.showLog("KoCSMgr");
+    shown.window().showNode("KoCSMgr");
+    shown.pane().table()->goTo(1);
+    const QStringList names = treeNames();
+    ASSERT_TRUE(names.contains("KoCSMgr"));
+    ASSERT_TRUE(headers().contains("File Name")) << headers().join('|').toStdString();
+
+    chooseLanguage("French");
+    EXPECT_EQ(names, treeNames()) << "what was opened stays open";
+    EXPECT_EQ(QStringLiteral("KoCSMgr"), shown.pane().selectedName());
+    EXPECT_EQ(1, shown.pane().table()->currentIndex().row());
+
+    person::press(QKeySequence("F5"));
+    EXPECT_TRUE(headers().contains("Nom de fichier")) << headers().join('|').toStdString();
+    EXPECT_EQ(QStringLiteral("KoCSMgr"), shown.pane().selectedName());
+    EXPECT_EQ(names, treeNames());
+}
+
+TEST_F(ToolLanguage, ALogsHeadersFollowWhenItIsReadAgain)
+{
+    shown.showLog("KoCSMgr");
+    const int rows = shown.log().model().rowCount();
+    chooseLanguage("French");
+    EXPECT_TRUE(shown.pane().logShown());
+    EXPECT_EQ(rows, shown.log().model().rowCount());
+    person::press(QKeySequence("F5"));
+    EXPECT_TRUE(headers().contains("Composant")) << headers().join('|').toStdString();
+    EXPECT_EQ(rows, shown.log().model().rowCount());
+}
+
+} // namespace
