@@ -111,7 +111,8 @@ void MainWindow::setTool(OpenTool* tool)
         rebuildConsoleItems();
         sayLanguage();
         if (!tool_->writable())
-            showProblem([] {
+            showProblem([this] {
+                if (!tool_ || tool_->writable()) return QString();
                 return tr("This site is read-only: logs can be read, but traces and settings "
                           "cannot be changed. Make its folder writable, or open a copy.");
             });
@@ -155,11 +156,14 @@ void MainWindow::afterCall()
 
 void MainWindow::checkSite()
 {
-    if (!tool_ || tool_->present()) return;
-    showProblem([site = QString::fromStdString(tool_->site().folder())] {
+    if (!tool_) return;
+    // What the person was told to mend may be mended.
+    if (tool_->present()) return notice_->renew();
+    showProblem([this] {
+        if (!tool_ || tool_->present()) return QString();
         return tr("The site %1 is no longer there. Put the folder back and press F5, or open "
                   "another site with Ctrl+Shift+O.")
-            .arg(site);
+            .arg(QString::fromStdString(tool_->site().folder()));
     });
 }
 
@@ -182,21 +186,23 @@ void MainWindow::followLanguage()
     updateTitle();
 }
 
-/// A language other than English without its texts: the tool goes on in English.
+/// Of a language other than English without its texts; the tool goes on in English.
+QString MainWindow::languageProblem() const
+{
+    constexpr int english = 9; ///< the primary language in the low bits of an identifier
+    constexpr int primaryLanguage = 0x3ff;
+    if (!tool_) return {};
+    const auto& language = tool_->context().language;
+    if (language.g_hResourceLibrary != 0 || language.g_lngCurrentLanguage == 0) return {};
+    if ((language.g_lngCurrentLanguage & primaryLanguage) == english) return {};
+    return tr("The catalogue of your language (%1) is missing or damaged, so the tool's texts are "
+              "in English. Choose another language in the about box (Ctrl+F1).")
+        .arg(language.g_lngCurrentLanguage);
+}
+
 void MainWindow::sayLanguage()
 {
-    showProblem([this] {
-        constexpr int english = 9; ///< the primary language in the low bits of an identifier
-        constexpr int primaryLanguage = 0x3ff;
-        if (!tool_) return QString();
-        const auto& language = tool_->context().language;
-        if (language.g_hResourceLibrary != 0 || language.g_lngCurrentLanguage == 0)
-            return QString();
-        if ((language.g_lngCurrentLanguage & primaryLanguage) == english) return QString();
-        return tr("There is no catalogue for your language (%1) beside the tool, so its texts "
-                  "are in English. Choose another language in the about box (Ctrl+F1).")
-            .arg(language.g_lngCurrentLanguage);
-    });
+    if (!languageProblem().isEmpty()) showProblem([this] { return languageProblem(); });
 }
 
 void MainWindow::showProblem(Sentence sentence)
@@ -404,6 +410,7 @@ void MainWindow::showAbout()
     connect(&help, &QAction::triggered, this, [this] { emit helpAsked(helpTopic::about); });
     about.addAction(&help);
     about.exec();
+    sayLanguage();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -72,6 +72,7 @@ private:
     void showTexts();
     std::int32_t spokenByTool() const;
     void followLanguage();
+    QString languageProblem() const;
     void sayLanguage();
     void runInLog(Command command);
     void runInTable(Command command);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 OpenTool::OpenTool(const std::string& folder, const std::string& installedData, HostFacts facts,
@@ -31,7 +32,8 @@ void OpenTool::close()
 
 bool OpenTool::writable() const
 {
-    return ::access(site_.folder().c_str(), W_OK) == 0;
+    // As the process may write now, which is not always as the one who started it may.
+    return ::faccessat(AT_FDCWD, site_.folder().c_str(), W_OK, AT_EACCESS) == 0;
 }
 
 bool OpenTool::present() const

@@ -7,6 +7,7 @@
 #include <QDateTimeEdit>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QProgressBar>
 #include <QStatusBar>
 #include <QTimer>
@@ -108,6 +109,14 @@ struct GatherAtWork : testing::Test {
         };
     }
 
+    /// Whether the wizard has come to its last page.
+    bool ended() const
+    {
+        for (auto* button : dialog->findChildren<QAbstractButton*>())
+            if (button->isVisible() && QString(button->text()).remove('&') == "Finish") return true;
+        return false;
+    }
+
     bool wound()
     {
         return waitUntil([&] { return dialog.isNull(); }, 20'000);
@@ -153,13 +162,7 @@ TEST_F(GatherAtWork, ThePagePaintsAndSaysWhatItReads)
             said.insert(label->text().toStdString());
         if (const auto* bar = qobject_cast<QProgressBar*>(&widget)) shares.insert(bar->value());
     };
-    ASSERT_TRUE(waitUntil(
-        [&] {
-            for (auto* button : dialog->findChildren<QAbstractButton*>())
-                if (button->isVisible() && button->text().contains("Finish")) return true;
-            return false;
-        },
-        20'000));
+    ASSERT_TRUE(waitUntil([&] { return ended(); }, 20'000));
     EXPECT_GT(paints, 30);
     EXPECT_GT(shares.size(), 10U) << "a bar that moves";
     int processing = 0;
@@ -272,6 +275,44 @@ TEST_F(GatherAtWork, AWindowClosedMeanwhileGoesWhenTheWorkHasEnded)
     }
     shown.program.close();
     EXPECT_EQ(nullptr, shown.window().pane());
+}
+
+TEST_F(GatherAtWork, ALogThatShrinksWhileItIsReadEndsWhereItEnds)
+{
+    gatherProcess("KoCSMgr");
+    interruptAt(0.2, [&] {
+        for (const auto& entry : fs::directory_iterator(shown.server.logs()))
+            if (entry.path().filename().string().rfind("diag_KoCSMgr_", 0) == 0)
+                fs::resize_file(entry.path(), 3000);
+    });
+    ASSERT_TRUE(waitUntil([&] { return ended(); }, 20'000));
+    EXPECT_EQ(1, interruptions);
+    EXPECT_GT(files().size(), 1U);
+    for (const auto& name : files()) EXPECT_GT(lines(target + "/" + name), 5) << name;
+    EXPECT_TRUE(shown.window().problem().isEmpty()) << shown.window().problem().toStdString();
+    person::clickButton(*dialog, "Finish");
+}
+
+TEST_F(GatherAtWork, LogsThatAreGoneWhenTheirTurnComesAreSaidAndTheOthersAreKept)
+{
+    gatherProcess("KoCSMgr");
+    int boxes = 0;
+    std::function<void(QWidget&)> close = [&](QWidget& box) {
+        ++boxes;
+        EXPECT_NE(nullptr, dynamic_cast<QMessageBox*>(&box));
+        person::answerNextDialog(close);
+        person::press(Qt::Key_Return);
+    };
+    interruptAt(0.2, [&] {
+        for (const auto& entry : fs::directory_iterator(shown.server.logs()))
+            if (entry.path().filename().string().rfind("diag_KoCSMgr_", 0) == 0)
+                fs::remove(entry.path());
+        person::answerNextDialog(close);
+    });
+    ASSERT_TRUE(waitUntil([&] { return ended(); }, 20'000));
+    EXPECT_GE(boxes, 1);
+    EXPECT_GE(files().size(), 1U);
+    person::clickButton(*dialog, "Finish");
 }
 
 } // namespace

@@ -217,8 +217,7 @@ TEST(LogView, ALogThatShrankIsReadAnewByRefresh)
     std::filesystem::resize_file(shown.server.logs() + "/" + shown.server.currentLog("KoCSMgr"),
                                  2000);
     shown.window->action(Command::refresh).trigger();
-    EXPECT_FALSE(shown.pane().logShown()) << "a refresh renews the logs' nodes";
-    shown.showLog("KoCSMgr");
+    EXPECT_TRUE(shown.pane().logShown()) << "though a refresh renews the logs' nodes";
     EXPECT_LT(shown.log().model().rowCount(), all);
     EXPECT_EQ(shown.shownList().itemCount(), shown.log().model().rowCount());
     EXPECT_TRUE(shown.window->problem().isEmpty());

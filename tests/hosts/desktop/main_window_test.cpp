@@ -246,7 +246,7 @@ TEST(MainWindow, SaysThatALanguageHasNoCatalogue)
     // No data beside the tool to supply the catalogue from.
     shown.tool = std::make_unique<OpenTool>(shown.server.site(), "", HostFacts{}, shown.desktop);
     shown.window->setTool(shown.tool.get());
-    EXPECT_THAT(shown.window->problem().toStdString(), HasSubstr("no catalogue"));
+    EXPECT_THAT(shown.window->problem().toStdString(), HasSubstr("missing or damaged"));
     EXPECT_EQ(QStringLiteral("&File"), shown.window->menuBar()->actions().front()->text())
         << "the window stays with English as the tool does";
     EXPECT_EQ(6, shown.pane().taskPad().findChildren<QAbstractButton*>().size());

@@ -24,6 +24,7 @@ OpenProgram::OpenProgram(std::size_t lines, LogFields fields)
 
 OpenProgram::~OpenProgram()
 {
+    person::leave();
     program.close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }

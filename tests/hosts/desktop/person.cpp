@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
@@ -18,6 +19,29 @@
 namespace {
 
 constexpr int lookAgain = 5; ///< milliseconds before another look for a window
+
+/// How often a person has left: what one was waiting for then is no concern of the next one.
+int visits = 0;
+
+/// Waits until another window than now is the active one of a kind, and answers it.
+void answerNext(QWidget* (*active)(), std::function<void(QWidget& window)> answer,
+                QPointer<QWidget> before)
+{
+    QTimer::singleShot(lookAgain, qApp, [=, visit = visits] {
+        if (visit != visits) return;
+        QWidget* window = active();
+        if (!window || window == before || !window->isVisible())
+            return answerNext(active, answer, before);
+        answer(*window);
+    });
+}
+
+/// A dialog that has the focus already, for the keys of the answer.
+QWidget* activeDialog()
+{
+    QWidget* dialog = QApplication::activeModalWidget();
+    return dialog && dialog->isActiveWindow() ? dialog : nullptr;
+}
 
 /// The window that keys go to. A window system gives the focus back when a menu or a dialog goes,
 /// the offscreen one does not.
@@ -134,20 +158,18 @@ void person::choose(QMainWindow& window, QAction& entry)
 
 void person::answerNextDialog(std::function<void(QWidget& dialog)> answer)
 {
-    QTimer::singleShot(lookAgain, qApp, [answer = std::move(answer)] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        if (!dialog || !dialog->isActiveWindow()) return answerNextDialog(answer);
-        answer(*dialog);
-    });
+    answerNext(activeDialog, std::move(answer), QApplication::activeModalWidget());
 }
 
 void person::answerNextPopup(std::function<void(QWidget& popup)> answer)
 {
-    QTimer::singleShot(lookAgain, qApp, [answer = std::move(answer)] {
-        QWidget* popup = QApplication::activePopupWidget();
-        if (!popup || !popup->isVisible()) return answerNextPopup(answer);
-        answer(*popup);
-    });
+    answerNext(QApplication::activePopupWidget, std::move(answer),
+               QApplication::activePopupWidget());
+}
+
+void person::leave()
+{
+    ++visits;
 }
 
 void person::pickNext(const std::string& path)

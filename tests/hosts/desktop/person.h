@@ -47,6 +47,9 @@ void answerNextPopup(std::function<void(QWidget& popup)> answer);
 /// Answers the next file dialog with a path.
 void pickNext(const std::string& path);
 
+/// Waits for no dialog or menu any more.
+void leave();
+
 } // namespace person
 
 /// The row at a path of names in a model; invalid where there is none.

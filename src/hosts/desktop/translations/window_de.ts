@@ -643,8 +643,8 @@
         <translation>Die Site %1 ist nicht mehr vorhanden. Stellen Sie den Ordner wieder her, und drücken Sie F5, oder öffnen Sie mit Strg+Umschalt+O eine andere Site.</translation>
     </message>
     <message>
-        <source>There is no catalogue for your language (%1) beside the tool, so its texts are in English. Choose another language in the about box (Ctrl+F1).</source>
-        <translation>Für Ihre Sprache (%1) ist kein Katalog beim Tool vorhanden, deshalb sind die Texte englisch. Wählen Sie im Infofenster (Strg+F1) eine andere Sprache.</translation>
+        <source>The catalogue of your language (%1) is missing or damaged, so the tool&apos;s texts are in English. Choose another language in the about box (Ctrl+F1).</source>
+        <translation>Der Katalog für Ihre Sprache (%1) fehlt oder ist beschädigt, deshalb sind die Texte des Tools englisch. Wählen Sie im Infofenster (Strg+F1) eine andere Sprache.</translation>
     </message>
     <message>
         <source>Orvan Diagnostic Tool</source>

@@ -643,8 +643,8 @@
         <translation>El sitio %1 ya no existe. Restituya la carpeta y pulse F5, o abra otro sitio con Control+Mayúsculas+O.</translation>
     </message>
     <message>
-        <source>There is no catalogue for your language (%1) beside the tool, so its texts are in English. Choose another language in the about box (Ctrl+F1).</source>
-        <translation>No hay catálogo para su idioma (%1) junto a la herramienta, por lo que los textos están en inglés. Elija otro idioma en el cuadro Acerca de (Control+F1).</translation>
+        <source>The catalogue of your language (%1) is missing or damaged, so the tool&apos;s texts are in English. Choose another language in the about box (Ctrl+F1).</source>
+        <translation>El catálogo de su idioma (%1) falta o está dañado, por lo que los textos de la herramienta están en inglés. Elija otro idioma en el cuadro Acerca de (Control+F1).</translation>
     </message>
     <message>
         <source>Orvan Diagnostic Tool</source>

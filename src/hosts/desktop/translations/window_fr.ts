@@ -643,8 +643,8 @@
         <translation>Le site %1 n&apos;existe plus. Remettez le dossier en place et appuyez sur F5, ou ouvrez un autre site avec Ctrl+Maj+O.</translation>
     </message>
     <message>
-        <source>There is no catalogue for your language (%1) beside the tool, so its texts are in English. Choose another language in the about box (Ctrl+F1).</source>
-        <translation>Il n&apos;y a pas de catalogue pour votre langue (%1) à côté de l&apos;outil, ses textes sont donc en anglais. Choisissez une autre langue dans la boîte À propos (Ctrl+F1).</translation>
+        <source>The catalogue of your language (%1) is missing or damaged, so the tool&apos;s texts are in English. Choose another language in the about box (Ctrl+F1).</source>
+        <translation>Le catalogue de votre langue (%1) est absent ou endommagé, les textes de l&apos;outil sont donc en anglais. Choisissez une autre langue dans la boîte À propos (Ctrl+F1).</translation>
     </message>
     <message>
         <source>Orvan Diagnostic Tool</source>

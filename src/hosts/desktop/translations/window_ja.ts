@@ -643,8 +643,8 @@
         <translation>サイト %1 が見つからなくなりました。フォルダーを元に戻して F5 キーを押すか、Ctrl+Shift+O で別のサイトを開いてください。</translation>
     </message>
     <message>
-        <source>There is no catalogue for your language (%1) beside the tool, so its texts are in English. Choose another language in the about box (Ctrl+F1).</source>
-        <translation>お使いの言語 (%1) のカタログがツールと同じ場所にないため、英語で表示しています。バージョン情報 (Ctrl+F1) で別の言語を選択してください。</translation>
+        <source>The catalogue of your language (%1) is missing or damaged, so the tool&apos;s texts are in English. Choose another language in the about box (Ctrl+F1).</source>
+        <translation>お使いの言語 (%1) のカタログが見つからないか壊れているため、ツールの表示は英語になります。バージョン情報 (Ctrl+F1) で別の言語を選択してください。</translation>
     </message>
     <message>
         <source>Orvan Diagnostic Tool</source>
