@@ -426,7 +426,11 @@ void MainWindow::closeEvent(QCloseEvent* event)
         return event->ignore();
     }
     closing_ = false;
-    settings_.setValue(geometryKey, saveGeometry());
-    settings_.setValue(stateKey, saveState());
+    // The file is synced to the disk for every change, so that nothing is changed for nothing.
+    const auto keep = [this](const char* key, const QByteArray& value) {
+        if (settings_.value(key).toByteArray() != value) settings_.setValue(key, value);
+    };
+    keep(geometryKey, saveGeometry());
+    keep(stateKey, saveState());
     QMainWindow::closeEvent(event);
 }

@@ -1,5 +1,6 @@
 #include "hosts/desktop/tool_style.h"
 
+#include "hosts/desktop/icons.h"
 #include "hosts/desktop/style_drawing.h"
 
 #include <QAbstractSpinBox>
@@ -299,4 +300,19 @@ int ToolStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
     // The platform's symbols are drawn for its own colours.
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
+QIcon ToolStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                              const QWidget* widget) const
+{
+    // A menu bar and a tool bar ask for theirs before they know that they have room; Qt would load
+    // all its image formats for that.
+    switch (which) {
+    case SP_ToolBarHorizontalExtensionButton:
+        return toolIcon(QStringLiteral("more"));
+    case SP_LineEditClearButton:
+        return toolIcon(QStringLiteral("close"));
+    default:
+        return QProxyStyle::standardIcon(which, option, widget);
+    }
 }

@@ -26,6 +26,8 @@ public:
                     const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returned) const override;
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                       const QWidget* widget) const override;
 
 private:
     void drawArrow(ComplexControl control, const QStyleOptionComplex& option, SubControl part,

@@ -252,6 +252,27 @@ TEST(MainWindow, SaysThatALanguageHasNoCatalogue)
     EXPECT_EQ(6, shown.pane().taskPad().findChildren<QAbstractButton*>().size());
 }
 
+TEST(MainWindow, WritesItsSizeWhenItHasChangedAlone)
+{
+    TestWindow shown;
+    const QString file = shown.settings.fileName();
+    shown.window->resize(900, 640);
+    shown.window->close();
+    shown.settings.sync();
+    ASSERT_TRUE(QFile::remove(file));
+
+    shown.window->show();
+    shown.window->close();
+    shown.settings.sync();
+    EXPECT_FALSE(QFile::exists(file));
+
+    shown.window->show();
+    shown.window->resize(1000, 700);
+    shown.window->close();
+    shown.settings.sync();
+    EXPECT_TRUE(QFile::exists(file));
+}
+
 TEST(MainWindow, MakesTheReaderOfLogsWhenTheFirstLogIsShown)
 {
     TestWindow shown;

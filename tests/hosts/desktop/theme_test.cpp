@@ -2,6 +2,10 @@
 
 #include "hosts/desktop/test_window.h"
 
+#include <QApplication>
+#include <QIcon>
+#include <QStyle>
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -104,6 +108,30 @@ TEST(Contrast, IsThatOfTheGuidelines)
     EXPECT_NEAR(21, contrast(Qt::black, Qt::white), 0.01);
     EXPECT_NEAR(1, contrast(Qt::red, Qt::red), 0.01);
     EXPECT_NEAR(4.48, contrast(QColor(0x777777), Qt::white), 0.01);
+}
+
+/// How many of a symbol's pixels have the colour that the tool's drawings have in a palette.
+int inkOf(const QIcon& icon)
+{
+    const QImage drawn = icon.pixmap(24, 24).toImage();
+    const QRgb ink = QColor(theme::isDark(QApplication::palette()) ? 0xc6d0da : 0x3b4754).rgb();
+    int count = 0;
+    for (int y = 0; y < drawn.height(); ++y)
+        for (int x = 0; x < drawn.width(); ++x) count += drawn.pixel(x, y) == ink;
+    return count;
+}
+
+TEST(ToolStyle, DrawsTheSymbolsOfBarsAndFieldsInTheColoursOfTheTheme)
+{
+    testApplication();
+    for (const auto scheme : {theme::Scheme::light, theme::Scheme::dark}) {
+        theme::apply(scheme);
+        for (const auto which :
+             {QStyle::SP_ToolBarHorizontalExtensionButton, QStyle::SP_LineEditClearButton})
+            EXPECT_GT(inkOf(QApplication::style()->standardIcon(which)), 5)
+                << static_cast<int>(which) << theme::nameOf(scheme).toStdString();
+    }
+    theme::apply(theme::Scheme::light);
 }
 
 } // namespace
