@@ -11,6 +11,12 @@
 #include <regex>
 #include <stdexcept>
 
+/// Asked by the leak sanitizer: fontconfig keeps what it has read of fonts to the program's end.
+extern "C" const char* __lsan_default_suppressions()
+{
+    return "leak:libfontconfig";
+}
+
 namespace {
 
 /// All that Qt says but for what the offscreen platform says of itself at each window.
