@@ -1,29 +1,21 @@
 #include "hosts/desktop/main_window.h"
 
-#include "hosts/desktop/about_dialog.h"
-#include "hosts/desktop/help_topics.h"
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_view.h"
-#include "hosts/desktop/program.h"
 #include "hosts/desktop/recent_sites.h"
-#include "hosts/desktop/sheet_dialog.h"
 #include "hosts/desktop/task_pad_view.h"
 #include "hosts/desktop/test_window.h"
 #include "hosts/desktop/theme.h"
 #include "platform/console.h"
 #include "platform/wizard_sheet.h"
-#include "settings/about_box.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QClipboard>
 #include <QFile>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
-#include <QTimer>
-#include <QToolBar>
 #include <QTreeView>
 
 #include <gmock/gmock.h>
@@ -321,225 +313,6 @@ TEST(MainWindow, StaysWithItsSiteWhileACancelledGatherEnds)
 
     recent->trigger();
     EXPECT_EQ(QStringList{QStringLiteral("/tmp/another")}, asked);
-}
-
-struct TestProgram {
-    TestProgram()
-        : settings((testApplication(), QString::fromStdString(folder / "s.ini")),
-                   QSettings::IniFormat)
-    {
-        program.window().show();
-    }
-
-    TemporaryFolder folder;
-    QSettings settings;
-    Program program{settings, ORVAN_DATA_OUTPUT, HostFacts{}};
-};
-
-TEST(Program, MakesASampleServerWhereNoSiteIs)
-{
-    TestProgram test;
-    test.program.openDefault(test.folder / "data/orvandiag/site");
-    EXPECT_TRUE(test.program.window().problem().isEmpty())
-        << test.program.window().problem().toStdString();
-    ASSERT_NE(nullptr, test.program.tool());
-    EXPECT_TRUE(test.program.tool()->present());
-    EXPECT_EQ(QStringList{QString::fromStdString(test.folder / "data/orvandiag/site")},
-              recentSites(test.settings));
-}
-
-TEST(Program, SaysInASentenceWhyASiteDoesNotOpenAndKeepsTheOneThatIs)
-{
-    TestProgram test;
-    test.program.openDefault(test.folder / "site");
-    const OpenTool* open = test.program.tool();
-
-    test.program.openSite(test.folder.makeFolder("empty"));
-    EXPECT_THAT(test.program.window().problem().toStdString(), HasSubstr("no site.ini"));
-    test.folder.write("damaged/site.ini", "[site]\nwhat=this\n");
-    test.program.openSite(test.folder / "damaged");
-    EXPECT_THAT(test.program.window().problem().toStdString(), HasSubstr("site.ini line 2"));
-    test.folder.write("file", "");
-    test.program.openSample(test.folder / "file/below");
-    EXPECT_THAT(test.program.window().problem().toStdString(), HasSubstr("No sample server"));
-
-    EXPECT_EQ(open, test.program.tool());
-    EXPECT_NE(nullptr, test.program.window().pane());
-}
-
-TEST(Program, OpensOneSiteAfterTheOther)
-{
-    TestProgram test;
-    test.program.openSample(test.folder / "one");
-    test.program.openSample(test.folder / "two");
-    EXPECT_EQ(test.folder / "two", test.program.tool()->site().folder());
-    EXPECT_EQ(2, recentSites(test.settings).size());
-    emit test.program.window().siteAsked(QString::fromStdString(test.folder / "one"));
-    EXPECT_EQ(test.folder / "one", test.program.tool()->site().folder());
-    test.program.close();
-    EXPECT_EQ(nullptr, test.program.tool());
-    EXPECT_EQ(nullptr, test.program.window().pane());
-}
-
-TEST(Program, TellsThatASiteWasNotClosedCleanlyWhateverComesNext)
-{
-    for (const bool another : {true, false}) {
-        TestProgram test;
-        test.program.openSample(test.folder / "one");
-        test.folder.write("one/registry.reg", "no registry at all");
-        if (another)
-            test.program.openSample(test.folder / "two");
-        else
-            test.program.close();
-        EXPECT_THAT(test.program.window().problem().toStdString(), HasSubstr("not closed cleanly"));
-        EXPECT_EQ(another, test.program.tool() != nullptr);
-    }
-}
-
-TEST(OpenTool, NamesAPickedFileByItsDriveInsideTheSite)
-{
-    TestWindow shown;
-    const std::string site = shown.server.site();
-    EXPECT_EQ("C:\\KelmaOrvan\\Logs", shown.tool->toolPath(shown.server.logs()));
-    EXPECT_EQ("C:\\", shown.tool->toolPath(site + "/drive_c"));
-    EXPECT_EQ("/tmp/other.txt", shown.tool->toolPath("/tmp/other.txt"));
-    EXPECT_EQ(site + "/drive_copy/x", shown.tool->toolPath(site + "/drive_copy/x"));
-}
-
-TEST(AboutDialog, TellsTheVersionAndChangesTheLanguageOfMenusAndTasks)
-{
-    TestWindow shown;
-    frmAbout& form = shown.tool->snapIn().showAbout();
-    AboutDialog about(form);
-    about.show();
-    settle();
-    EXPECT_EQ(QStringLiteral("Orvan Diagnostic Tool"), about.windowTitle());
-    QStringList texts;
-    for (auto* label : about.findChildren<QLabel*>()) texts << label->text();
-    EXPECT_TRUE(texts.contains(QString::fromStdString(form.lblVersion.caption())));
-
-    ASSERT_GT(form.mnuLanguageList().size(), 3U);
-    int french = -1;
-    for (std::size_t index = 0; index < form.mnuLanguageList().size(); ++index)
-        if (form.mnuLanguageList()[index].tag == "1036") french = static_cast<int>(index);
-    ASSERT_GE(french, 0);
-    form.mnuLanguageList_Click(french);
-    settle();
-    EXPECT_NE(QStringLiteral("Orvan Diagnostic Tool"), about.windowTitle());
-
-    QTest::keyClick(&about, Qt::Key_Escape);
-    EXPECT_FALSE(form.visible());
-    EXPECT_FALSE(about.isVisible());
-    const QString before = shown.window->consoleAction("mnuGatherLogFiles")->text();
-    // The dialog of the command is modal; the form's own OK closes it.
-    QTimer::singleShot(0, [&] { form.cmdOK_Click(); });
-    shown.window->run(Command::about);
-    EXPECT_NE(before, shown.window->consoleAction("mnuGatherLogFiles")->text());
-}
-
-TEST(Help, TheKeyAsksTheToolWhichShowsItsManual)
-{
-    TestWindow shown;
-    shown.window->run(Command::help);
-    ASSERT_EQ(1U, shown.desktop.helpShown().size());
-    EXPECT_THAT(shown.desktop.helpShown()[0].file, HasSubstr("OrvanDiagnosticTool"));
-}
-
-TEST(Help, IsAskedForOnTheNodeTheViewOrTheToolByWhereTheFocusIs)
-{
-    TestWindow shown;
-    shown.window->activateWindow();
-    const auto entered = [&](const char* routine) {
-        std::string path = shown.tool->context().g_log->strLogFile().substr(2);
-        std::replace(path.begin(), path.end(), '\\', '/');
-        const std::string log = shown.server.folder().read("site/drive_c" + path);
-        std::size_t times = 0;
-        for (auto at = log.find(routine); at != std::string::npos; at = log.find(routine, at + 1))
-            ++times;
-        return times;
-    };
-    QWidget* card = shown.pane().taskPad().findChild<QAbstractButton*>("task-1");
-    for (QWidget* focused : {static_cast<QWidget*>(&shown.pane().tree()), card}) {
-        focused->setFocus();
-        ASSERT_TRUE(focused->hasFocus());
-        shown.window->run(Command::help);
-    }
-    EXPECT_EQ(2U, shown.desktop.helpShown().size());
-    EXPECT_EQ(0U, entered("Entering [snapinOrvanDiagnostics]SnapIn_Help"));
-
-    card->clearFocus();
-    shown.window->run(Command::help);
-    EXPECT_EQ(3U, shown.desktop.helpShown().size());
-    EXPECT_EQ(1U, entered("Entering [snapinOrvanDiagnostics]SnapIn_Help"));
-}
-
-TEST(Help, TheKeyShowsAWizardsOwnTopic)
-{
-    TestWindow shown;
-    const std::pair<const char*, int> topics[] = {
-        {"mnuConfigureMacroTrace", 200},  {"mnuConfigureMicroTraces", 210},
-        {"mnuDisableAllTraces", 220},     {"mnuGatherLogFiles", 300},
-        {"mnuConfigureLogSettings", 400}, {"mnuChangeLanguage", 410},
-    };
-    int asked = -1;
-    QObject::connect(shown.window.get(), &MainWindow::helpAsked, [&](int topic) { asked = topic; });
-    for (const auto& [item, topic] : topics) {
-        SCOPED_TRACE(item);
-        shown.window->consoleAction(item)->trigger();
-        settle();
-        SheetDialog* dialog = shown.pane().sheet();
-        ASSERT_NE(nullptr, dialog);
-        QTest::keyClick(dialog, Qt::Key_F1);
-        EXPECT_EQ(topic, asked);
-        dialog->reject();
-        settle();
-    }
-}
-
-TEST(Help, TheAboutBoxHasItsTopicToo)
-{
-    TestWindow shown;
-    int asked = -1;
-    QObject::connect(shown.window.get(), &MainWindow::helpAsked, [&](int topic) { asked = topic; });
-    QTimer::singleShot(0, [&] {
-        settle();
-        QWidget* box = QApplication::activeModalWidget();
-        if (box) QTest::keyClick(box, Qt::Key_F1);
-        shown.tool->snapIn().showAbout().cmdOK_Click();
-    });
-    shown.window->run(Command::about);
-    EXPECT_EQ(helpTopic::about, asked);
-}
-
-TEST(Help, EveryPageHasATopicThatTheManualHas)
-{
-    TestWindow shown;
-    QFile list(QStringLiteral(ORVAN_DATA_OUTPUT "/help/topics.txt"));
-    ASSERT_TRUE(list.open(QIODevice::ReadOnly));
-    const QString topics = QString::fromUtf8(list.readAll());
-    for (const char* item : consoleItems) {
-        if (item == std::string_view("mnuOpenLogFile") ||
-            item == std::string_view("mnuStartNewLogFiles"))
-            continue;
-        shown.console().clickMenuItem(item);
-        auto sheet = shown.console().currentView().propertySheetProvider().lastSheet();
-        for (int place = 1; place <= sheet->pageCount(); ++place) {
-            const int topic = helpTopic::ofPage(sheet->page(place).name());
-            EXPECT_NE(helpTopic::contents, topic) << sheet->page(place).name();
-            EXPECT_TRUE(topics.contains(QStringLiteral("\n%1 ").arg(topic))) << topic;
-        }
-        sheet->cancel();
-    }
-    EXPECT_EQ(helpTopic::contents, helpTopic::ofPage("ppgUnknown"));
-}
-
-TEST(Help, ShowsThePageOfATopicAndSaysWhenThereIsNoManual)
-{
-    TestProgram test;
-    EXPECT_NE(0, test.program.desktop().showHelp("", 320));
-    test.program.desktop().setManual(test.folder / "none");
-    emit test.program.window().helpAsked(0);
-    EXPECT_THAT(test.program.window().problem().toStdString(), HasSubstr("manual"));
 }
 
 } // namespace
