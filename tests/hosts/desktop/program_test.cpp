@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QTest>
 #include <QTimer>
-#include <QTreeView>
 
 #include <gmock/gmock.h>
 
