@@ -56,5 +56,8 @@ function(orvan_test name)
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 120)
   endif()
+  if(ORVAN_SANITIZE)
+    math(EXPR arg_TIMEOUT "4 * ${arg_TIMEOUT}") # a program under sanitizers is that much slower
+  endif()
   set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
 endfunction()
