@@ -2,8 +2,6 @@
 #include "hosts/desktop/person.h"
 
 #include <QAbstractButton>
-#include <QMenu>
-#include <QPushButton>
 
 #include <gmock/gmock.h>
 
@@ -83,26 +81,8 @@ TEST_F(BadCatalogue, AFolderInItsPlaceIsSaidToo)
 
 TEST_F(BadCatalogue, OneThatIsDamagedWhenItIsChosenIsSaid)
 {
-    bool chosen = false;
     write("what is this\n");
-    person::answerNextDialog([&](QWidget& about) {
-        QAbstractButton* list = nullptr;
-        for (auto* button : about.findChildren<QPushButton*>())
-            if (!button->isDefault()) list = button;
-        person::answerNextPopup([&](QWidget& popup) {
-            auto& menu = dynamic_cast<QMenu&>(popup);
-            QAction* wanted = nullptr;
-            for (QAction* entry : menu.actions())
-                if (entry->text().startsWith("French")) wanted = entry;
-            chosen = wanted != nullptr;
-            if (!wanted) return person::press(Qt::Key_Escape);
-            person::click(menu, menu.actionGeometry(wanted).center());
-        });
-        person::click(*list);
-        person::press(Qt::Key_Return);
-    });
-    person::press(QKeySequence("Ctrl+F1"));
-    EXPECT_TRUE(chosen);
+    EXPECT_TRUE(person::chooseLanguage("French"));
     EXPECT_THAT(problem(), HasSubstr("missing or damaged"));
     EXPECT_EQ(QStringLiteral("Configure Macro Traces"), card());
 }

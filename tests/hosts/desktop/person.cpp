@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
@@ -165,6 +166,29 @@ void person::answerNextPopup(std::function<void(QWidget& popup)> answer)
 {
     answerNext(QApplication::activePopupWidget, std::move(answer),
                QApplication::activePopupWidget());
+}
+
+bool person::chooseLanguage(const QString& name)
+{
+    bool chosen = false;
+    answerNextDialog([&](QWidget& about) {
+        QAbstractButton* list = nullptr;
+        for (auto* button : about.findChildren<QPushButton*>())
+            if (!button->isDefault()) list = button;
+        answerNextPopup([&](QWidget& popup) {
+            auto& menu = dynamic_cast<QMenu&>(popup);
+            QAction* wanted = nullptr;
+            for (QAction* entry : menu.actions())
+                if (entry->text().startsWith(name) && !entry->isSeparator()) wanted = entry;
+            chosen = wanted != nullptr;
+            if (!wanted) return press(Qt::Key_Escape);
+            click(menu, menu.actionGeometry(wanted).center());
+        });
+        click(*list);
+        press(Qt::Key_Return);
+    });
+    press(QKeySequence("Ctrl+F1"));
+    return chosen;
 }
 
 void person::leave()

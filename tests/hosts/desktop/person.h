@@ -47,6 +47,10 @@ void answerNextPopup(std::function<void(QWidget& popup)> answer);
 /// Answers the next file dialog with a path.
 void pickNext(const std::string& path);
 
+/// Picks a language by the beginning of its name from the menu of the about box, and closes the
+/// box; false where it is not offered.
+bool chooseLanguage(const QString& name);
+
 /// Waits for no dialog or menu any more.
 void leave();
 

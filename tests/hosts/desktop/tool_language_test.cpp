@@ -1,4 +1,3 @@
-#include "hosts/desktop/about_dialog.h"
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_view.h"
 #include "hosts/desktop/open_program.h"
@@ -8,8 +7,6 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QLabel>
-#include <QMenu>
-#include <QPushButton>
 #include <QTreeView>
 
 #include <gtest/gtest.h>
@@ -19,31 +16,6 @@ namespace {
 /// The tool's own texts, while the language changes under an open window.
 struct ToolLanguage : testing::Test {
     OpenProgram shown;
-
-    /// Picks a language from the menu of the about box, and closes the box.
-    void chooseLanguage(const QString& name)
-    {
-        bool chosen = false;
-        person::answerNextDialog([&](QWidget& dialog) {
-            auto& about = dynamic_cast<AboutDialog&>(dialog);
-            QAbstractButton* list = nullptr;
-            for (auto* button : about.findChildren<QPushButton*>())
-                if (!button->isDefault()) list = button;
-            person::answerNextPopup([&](QWidget& popup) {
-                auto& menu = dynamic_cast<QMenu&>(popup);
-                QAction* wanted = nullptr;
-                for (QAction* entry : menu.actions())
-                    if (entry->text().startsWith(name) && !entry->isSeparator()) wanted = entry;
-                chosen = wanted != nullptr;
-                if (!wanted) return person::press(Qt::Key_Escape);
-                person::click(menu, menu.actionGeometry(wanted).center());
-            });
-            person::click(*list);
-            person::press(Qt::Key_Return);
-        });
-        person::press(QKeySequence("Ctrl+F1"));
-        EXPECT_TRUE(chosen) << name.toStdString();
-    }
 
     QString menuText(const char* item)
     {
@@ -73,7 +45,7 @@ struct ToolLanguage : testing::Test {
 TEST_F(ToolLanguage, MenusAndTaskCardsChangeAtOnceAndBack)
 {
     ASSERT_EQ(QStringLiteral("Gather Log Files"), menuText("mnuGatherLogFiles"));
-    chooseLanguage("French");
+    EXPECT_TRUE(person::chooseLanguage("French"));
     EXPECT_EQ(QStringLiteral("Collecter les fichiers journaux"), menuText("mnuGatherLogFiles"));
     EXPECT_EQ(QStringLiteral("Configurer les macro-traces"), menuText("mnuConfigureMacroTrace"));
     auto* card = shown.pane().findChild<QAbstractButton*>("task-1");
@@ -86,7 +58,7 @@ TEST_F(ToolLanguage, MenusAndTaskCardsChangeAtOnceAndBack)
         titled = titled || label->text() == "Tâches de diagnostic Kelma Orvan";
     EXPECT_TRUE(titled);
 
-    chooseLanguage("English");
+    EXPECT_TRUE(person::chooseLanguage("English"));
     EXPECT_EQ(QStringLiteral("Gather Log Files"), menuText("mnuGatherLogFiles"));
     EXPECT_EQ(QStringLiteral("Configure Macro Traces"),
               shown.pane().findChild<QAbstractButton*>("task-1")->text());
@@ -94,7 +66,7 @@ TEST_F(ToolLanguage, MenusAndTaskCardsChangeAtOnceAndBack)
 
 TEST_F(ToolLanguage, AWizardOpenedAfterwardsSpeaksIt)
 {
-    chooseLanguage("French");
+    EXPECT_TRUE(person::chooseLanguage("French"));
     shown.clickCard("1");
     EXPECT_EQ(QStringLiteral("Assistant Configuration des macro-traces"),
               shown.sheet().windowTitle());
@@ -110,7 +82,7 @@ TEST_F(ToolLanguage, AListAndTheTreeBesideItAreNamedAnewWhereTheyStand)
     ASSERT_TRUE(names.contains("KoCSMgr"));
     ASSERT_TRUE(headers().contains("File Name")) << headers().join('|').toStdString();
 
-    chooseLanguage("French");
+    EXPECT_TRUE(person::chooseLanguage("French"));
     EXPECT_TRUE(headers().contains("Nom de fichier")) << headers().join('|').toStdString();
     EXPECT_EQ(QStringLiteral("KoCSMgr"), shown.pane().selectedName());
     EXPECT_EQ(1, shown.pane().table()->currentIndex().row());
@@ -129,12 +101,12 @@ TEST_F(ToolLanguage, ALogsHeadersFollowAndItsLinesStay)
     shown.log().table().goTo(20);
     const int rows = shown.log().model().rowCount();
     const QString line = shown.log().model().rowText(20);
-    chooseLanguage("French");
+    EXPECT_TRUE(person::chooseLanguage("French"));
     EXPECT_TRUE(headers().contains("Composant")) << headers().join('|').toStdString();
     EXPECT_EQ(rows, shown.log().model().rowCount());
     EXPECT_EQ(20, shown.log().table().currentIndex().row());
     EXPECT_EQ(line, shown.log().model().rowText(20));
-    chooseLanguage("English");
+    EXPECT_TRUE(person::chooseLanguage("English"));
     EXPECT_TRUE(headers().contains("Component")) << headers().join('|').toStdString();
 }
 
