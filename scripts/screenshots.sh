@@ -24,8 +24,8 @@ while [ $# -gt 0 ]; do
 done
 
 # A display, a font for Japanese, and the means to make pictures small.
-install_missing "${build_packages[@]}" fontconfig fonts-dejavu-core fonts-ipafont-gothic \
-  imagemagick xauth xvfb
+install_missing "${build_packages[@]}" "${desktop_packages[@]}" "${test_packages[@]}" \
+  fontconfig fonts-dejavu-core fonts-ipafont-gothic imagemagick xauth xvfb
 [ -n "$(fc-list :lang=ja)" ] ||
   say "no font has Japanese letters: install fonts-ipafont-gothic, or boxes stand in their places"
 build_preset "$preset" orvandiag-console console_pictures orvan_data

@@ -1,21 +1,22 @@
-# Shared by ./run, ./test and benchmarks/run: installs what is missing, and builds. To be sourced.
+# Shared by the scripts that people start: installs what is missing, and builds. To be sourced.
 
-# Packages for building and running; the tests need some readers more, the
+# Packages for the command line, and for the window besides; the tests need some readers more, the
 # benchmarks some peers.
 build_packages=(
-  ccache cmake g++ libcli11-dev libgmock-dev libgtest-dev libpugixml-dev
-  libsqlite3-dev ninja-build nlohmann-json3-dev qt6-base-dev qt6-l10n-tools qt6-svg-dev
-  qt6-translations-l10n zlib1g-dev
+  ccache cmake g++ libcli11-dev libpugixml-dev libsqlite3-dev ninja-build nlohmann-json3-dev
+  zlib1g-dev
 )
+desktop_packages=(qt6-base-dev qt6-l10n-tools qt6-svg-dev qt6-translations-l10n)
 test_packages=(
-  cabextract clang clang-format gcab libclang-rt-14-dev librapidcheck-dev mawk mdbtools p7zip-full
-  sqlite3
+  cabextract clang clang-format gcab libclang-rt-14-dev libgmock-dev libgtest-dev librapidcheck-dev
+  mawk mdbtools p7zip-full sqlite3
 )
 benchmark_packages=(cabextract gcab libbenchmark-dev mawk mdbtools sqlite3 time)
 
 say() { printf '%s\n' "$*" >&2; }
 
 # install_missing PACKAGE... : asks the package database first, so that a warm start takes no time.
+# With install=no it only tells what is missing.
 install_missing() {
   local missing=() package
   local installed
@@ -28,23 +29,32 @@ install_missing() {
     say "missing packages (left alone because of --no-install): ${missing[*]}"
     return 0
   fi
+  command -v apt-get >/dev/null ||
+    { say "there is no apt here: install what Debian calls ${missing[*]}"; return 1; }
   local as_root=()
   if [ "$(id -u)" -ne 0 ]; then
     command -v sudo >/dev/null || { say "run as root, or install: ${missing[*]}"; return 1; }
     as_root=(sudo)
   fi
   say "installing: ${missing[*]}"
-  "${as_root[@]}" apt-get update -qq &&
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-      apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
+  local log=build/apt.log
+  mkdir -p build
+  # A source that can't be read now need not be the one that the packages come from.
+  "${as_root[@]}" apt-get update -qq >"$log" 2>&1 || true
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}" >>"$log" 2>&1 && return 0
+  say "apt could not install them: $(grep '^E: ' "$log" | tail -n 1 | cut -c 4-) ($log tells all)"
+  return 1
 }
 
-# build_preset PRESET [TARGET...]: configures when needed and builds on all cores, quietly.
+# build_preset PRESET [TARGET...]: configures when needed and builds on all cores, quietly. What
+# stands in configure_options goes before the preset's own settings.
+configure_options=()
 build_preset() {
   local preset=$1 log=build/$1.log
   shift
   mkdir -p build
-  if ! cmake --preset "$preset" >"$log" 2>&1; then
+  if ! cmake --preset "$preset" "${configure_options[@]}" >"$log" 2>&1; then
     cat "$log" >&2
     return 1
   fi
