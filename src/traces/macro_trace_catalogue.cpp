@@ -37,6 +37,8 @@ struct Merge {
     ErrorTrap& step;
     std::unique_ptr<XmlDocument> file; ///< one after the other
     std::string groupName;
+    XmlElementPtr
+        mergedGroup; ///< of that name in the catalogue; null for the first file of a group
     std::string traceName;
 
     void mark(const XmlElementPtr& trace)
@@ -67,15 +69,14 @@ struct Merge {
 
     void addFile(const std::string& fileName)
     {
-        XmlElementPtr group;
         step([&] { file->load(definitionPath(tool, fileName)); });
         step([&] { groupName = requiredAttribute(file->selectSingleNode("GA"), "NAME"); });
         step([&] {
-            group = tool.g_domMacroTraces->selectSingleNode("HYBRIDTRACES/GA[@NAME='" + groupName +
-                                                            "']");
+            mergedGroup = tool.g_domMacroTraces->selectSingleNode("HYBRIDTRACES/GA[@NAME='" +
+                                                                  groupName + "']");
         });
-        if (group)
-            addTraces(*group);
+        if (mergedGroup)
+            addTraces(*mergedGroup);
         else
             addGroup();
     }
@@ -86,7 +87,7 @@ struct Merge {
 void mdlTraces::initMacroTraces(ToolContext& tool)
 {
     ErrorTrap step{tool, moduleName, "initMacroTraces", countedTrap};
-    Merge merge{tool, step, nullptr, {}, {}};
+    Merge merge{tool, step, nullptr, {}, nullptr, {}};
     std::vector<std::string> fileNames;
 
     step.body([&] {

@@ -16,53 +16,51 @@ constexpr std::int16_t recordedAsOn = 1;
 
 using Combine = std::int32_t (*)(std::int32_t mask, std::int32_t flags);
 
-/// Changes the flags of each component of a TRACE, one write for each DIAG. A DIAG whose component
-/// can't be read touches none.
+/// Changes the flags of each component of a TRACE, one write for each DIAG. A DIAG or FLAG that
+/// can't be read counts as the one before it.
 void changeComponents(ToolContext& tool, ErrorTrap& step, const XmlElementPtr& traceNode,
                       Combine combine)
 {
     std::vector<XmlElementPtr> components;
+    std::string name;
+    std::int32_t flags = 0;
+    std::vector<XmlElementPtr> levels;
+    int level = 0;
     step([&] { components = required(traceNode).selectNodes("DIAG"); });
     countedWalk(step, 0, static_cast<int>(components.size()) - 1, [&](int index) {
         const XmlElementPtr& component = components[static_cast<std::size_t>(index)];
-        std::string name;
-        std::vector<XmlElementPtr> levels;
         step([&] { name = requiredAttribute(component, "GROUP"); });
-        std::int32_t flags = mdlOrvanDatabase::getFlags(tool, name, flagKind::current);
+        flags = mdlOrvanDatabase::getFlags(tool, name, flagKind::current);
         step([&] { levels = component->selectNodes("FLAG"); });
         countedWalk(step, 0, static_cast<int>(levels.size()) - 1, [&](int place) {
             step([&] {
-                const int level = mdlTraces::leadingLevel(
+                level = mdlTraces::leadingLevel(
                     requiredAttribute(levels[static_cast<std::size_t>(place)], "ID"));
-                flags = combine(mdlTraces::levelMask(tool, level), flags);
             });
+            step([&] { flags = combine(mdlTraces::levelMask(tool, level), flags); });
         });
         mdlOrvanDatabase::SetFlags(tool, name, flags);
     });
 }
 
-/// The TRACE that a node of the tree names; null when the catalogue lacks it.
-XmlElementPtr traceElement(ToolContext& tool, ErrorTrap& step, const std::string& groupName,
+/// The TRACE that a node of the tree names; null when the catalogue lacks it. Raises 91 before a
+/// catalogue was built, and what a name raises that can't be looked up.
+XmlElementPtr traceElement(const ToolContext& tool, const std::string& groupName,
                            const std::string& traceName)
 {
-    XmlElementPtr element;
-    step([&] {
-        if (!tool.g_domMacroTraces) throw RunTimeError(runTimeErrors::objectVariableNotSet);
-        element = tool.g_domMacroTraces->selectSingleNode("HYBRIDTRACES/GA[@NAME='" + groupName +
-                                                          "']/TRACE[@NAME='" + traceName + "']");
-    });
-    return element;
+    if (!tool.g_domMacroTraces) throw RunTimeError(runTimeErrors::objectVariableNotSet);
+    return tool.g_domMacroTraces->selectSingleNode("HYBRIDTRACES/GA[@NAME='" + groupName +
+                                                   "']/TRACE[@NAME='" + traceName + "']");
 }
 
-/// Calls `visit` with each macro trace of the tree, after the name of its group.
+/// Calls `visit` with each macro trace of the tree, after `groupName` was set to its group's.
 template <typename Visit>
-void forEachTrace(ErrorTrap& step, const TreeView& tree, Visit visit)
+void forEachTrace(ErrorTrap& step, const TreeView& tree, std::string& groupName, Visit visit)
 {
-    std::string groupName;
     countedWalk(step, 1, tree.count(), [&](int number) {
         const TreeNode& node = tree.item(number);
         if (node.parent())
-            visit(groupName, node);
+            visit(node);
         else
             groupName = node.text();
     });
@@ -73,17 +71,22 @@ void forEachTrace(ErrorTrap& step, const TreeView& tree, Visit visit)
 void mdlTraces::configureMacroTrace(ToolContext& tool, const TreeView& tree)
 {
     ErrorTrap step{tool, moduleName, "configureMacroTrace", countedTrap};
+    std::string groupName;
+    XmlElementPtr element;
+
     step.body([&] {
         step.enterProc();
-        forEachTrace(step, tree, [&](const std::string& groupName, const TreeNode& node) {
+        forEachTrace(step, tree, groupName, [&](const TreeNode& node) {
             if (node.checked() || isenabledMacroTrace(tool, groupName, node.text()) != recordedAsOn)
                 return;
-            disableMacroTrace(tool, traceElement(tool, step, groupName, node.text()));
+            step([&] { element = traceElement(tool, groupName, node.text()); });
+            disableMacroTrace(tool, element);
             recordMacroTrace(tool, groupName, node.text(), false);
         });
-        forEachTrace(step, tree, [&](const std::string& groupName, const TreeNode& node) {
+        forEachTrace(step, tree, groupName, [&](const TreeNode& node) {
             if (!node.checked()) return;
-            enableMacroTrace(tool, traceElement(tool, step, groupName, node.text()));
+            step([&] { element = traceElement(tool, groupName, node.text()); });
+            enableMacroTrace(tool, element);
             recordMacroTrace(tool, groupName, node.text(), true);
         });
         enableStandardTraces(tool);

@@ -22,10 +22,11 @@ std::string traceKey(const std::string& groupName, const std::string& traceName)
     return groupKey(groupName) + "\\" + traceName;
 }
 
-void ensureKey(ToolContext& tool, const std::string& path)
+void ensureKey(ToolContext& tool, ErrorTrap& step, const std::string& path)
 {
-    if (!registryKeyExists(tool, HKEY_LOCAL_MACHINE, path))
-        createRegistryKey(tool, HKEY_LOCAL_MACHINE, path);
+    bool exists = false;
+    step([&] { exists = registryKeyExists(tool, HKEY_LOCAL_MACHINE, path); });
+    if (!exists) step([&] { createRegistryKey(tool, HKEY_LOCAL_MACHINE, path); });
 }
 
 void writeEnabled(ToolContext& tool, const std::string& key, std::int32_t enabled)
@@ -42,9 +43,9 @@ void mdlTraces::recordMacroTrace(ToolContext& tool, const std::string& groupName
     const std::string key = traceKey(groupName, traceName);
     const std::vector<std::string> inserts = {groupName + " - " + traceName};
 
-    step([&] { ensureKey(tool, toolKey); });
-    step([&] { ensureKey(tool, groupKey(groupName)); });
-    step([&] { ensureKey(tool, key); });
+    ensureKey(tool, step, toolKey);
+    ensureKey(tool, step, groupKey(groupName));
+    ensureKey(tool, step, key);
     if (enabled) {
         step([&] { writeEnabled(tool, key, 1); });
         step([&] {

@@ -42,19 +42,21 @@ void mdlTraces::configureMicroTrace(ToolContext& tool, const TreeView& tree)
     ErrorTrap step{tool, moduleName, "configureMicroTrace"};
     Dictionary<std::int32_t> words;
     std::string component;
+    std::int32_t word = 0;
+    int level = 0;
 
     step.enterProc();
     countedWalk(step, 1, tree.count(), [&](int number) {
         const TreeNode& node = tree.item(number);
         if (!node.parent()) {
-            component.clear();
             step([&] { component = componentNameOf(node.text()); });
             step([&] { words.add(component, 0); });
             return;
         }
-        std::int32_t word = words.item(component);
+        step([&] { word = words.item(component); });
         if (!node.checked()) return;
-        step([&] { word = levelMask(tool, leadingLevel(node.text())) | word; });
+        step([&] { level = leadingLevel(node.text()); });
+        step([&] { word = levelMask(tool, level) | word; });
         step([&] { words.item(component) = word; });
         step([&] {
             reportServerEvent(tool, traceEvents::type, traceEvents::microTraceOn,
@@ -62,9 +64,9 @@ void mdlTraces::configureMicroTrace(ToolContext& tool, const TreeView& tree)
         });
     });
     for (const auto& name : words.keys()) {
-        const std::int32_t word = words.item(name);
-        if (mdlOrvanDatabase::getFlags(tool, name, flagKind::current) != word)
-            mdlOrvanDatabase::SetFlags(tool, name, word);
+        const std::int32_t ticked = words.item(name);
+        if (mdlOrvanDatabase::getFlags(tool, name, flagKind::current) != ticked)
+            mdlOrvanDatabase::SetFlags(tool, name, ticked);
     }
     enableStandardTraces(tool);
     step([&] { signalDiagnosticGridChange(tool); });

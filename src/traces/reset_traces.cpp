@@ -22,47 +22,55 @@ std::int32_t flagWord(const DatabaseRecordset& rows, const std::string& column)
     return toInteger32(valueAsText(rows.field(column)));
 }
 
-/// Writes a row's flags with its default flags added. A word that can't be read adds nothing.
-void restoreDefaults(ToolContext& tool, ErrorTrap& step, const DatabaseRecordset& row,
-                     DatabaseCommand& command)
-{
+/// The flag words of the row at hand.
+struct FlagWords {
     std::int32_t flags = 0;
     std::int32_t defaultFlags = 0;
+    std::int32_t both = 0;
+};
 
+/// Writes a row's flags with its default flags added. A word that can't be read is still that of
+/// the row before.
+void restoreDefaults(ToolContext& tool, ErrorTrap& step, const DatabaseRecordset& row,
+                     DatabaseCommand& command, FlagWords& words)
+{
     step([&] { command.useActiveConnection(); });
     step([&] { command.setProcedure("csp_LoggerDiagnosticGridModify"); });
     step([&] { command.refreshParameters(); });
     mdlOrvanDatabase::setAuditParameters(tool, command);
-    step([&] { flags = flagWord(row, "Flags"); });
-    step([&] { defaultFlags = flagWord(row, "DefaultFlags"); });
+    step([&] { words.flags = flagWord(row, "Flags"); });
+    step([&] { words.defaultFlags = flagWord(row, "DefaultFlags"); });
+    words.both = words.flags | words.defaultFlags;
     step([&] { command.assign("@ObjectId", valueAsText(row.field("ObjectId"))); });
-    step([&] { command.assign("@Flags", flags | defaultFlags); });
+    step([&] { command.assign("@Flags", words.both); });
     step([&] { command.execute(); });
 }
 
 void turnAllComponentsOff(ToolContext& tool, ErrorTrap& step)
 {
     MemoryRecordset components = mdlOrvanDatabase::EnumComponents(tool);
+    std::string name;
     step([&] { components.moveFirst(); });
     while (!components.atEnd()) {
-        std::string name;
         step([&] { name = trimEnd(components.field("name")); });
         mdlOrvanDatabase::SetFlags(tool, name, 0);
         step([&] { components.moveNext(); });
     }
 }
 
-/// Calls `visit` with the name and path of each key below one. A name that leads nowhere, such as
-/// the blanks of a key without subkeys, is passed over.
-void forEachSubkey(ToolContext& tool, ErrorTrap& step, const std::string& path,
+/// Calls `visit` with the name and path of each key below one; `names` keeps the list, or the one
+/// before it when this can't be had. A name that leads nowhere, such as the blanks of a key without
+/// subkeys, is passed over.
+void forEachSubkey(ToolContext& tool, ErrorTrap& step, const std::string& path, KeyNames& names,
                    const std::function<void(const std::string&, const std::string&)>& visit)
 {
-    KeyNames names;
     int first = 0;
     int last = -1;
     step([&] { names = enumRegistryKeys(tool, HKEY_LOCAL_MACHINE, path); });
-    step([&] { first = names.lowerBound(); });
-    step([&] { last = names.upperBound(); });
+    step([&] {
+        first = names.lowerBound();
+        last = names.upperBound();
+    });
     for (int index = first; index <= last; ++index) {
         const std::string& name = names.at(index);
         const std::string subkey = path + "\\" + name;
@@ -77,11 +85,14 @@ void recordAllAsOff(ToolContext& tool, ErrorTrap& step)
     bool everRecorded = false;
     step([&] { everRecorded = registryKeyExists(tool, HKEY_LOCAL_MACHINE, toolKey); });
     if (!everRecorded) return;
-    forEachSubkey(tool, step, toolKey, [&](const std::string& group, const std::string& path) {
-        forEachSubkey(tool, step, path, [&](const std::string& trace, const std::string&) {
-            mdlTraces::recordMacroTrace(tool, group, trace, false);
+    KeyNames groups;
+    KeyNames traces;
+    forEachSubkey(
+        tool, step, toolKey, groups, [&](const std::string& group, const std::string& path) {
+            forEachSubkey(tool, step, path, traces, [&](const std::string& trace, const auto&) {
+                mdlTraces::recordMacroTrace(tool, group, trace, false);
+            });
         });
-    });
 }
 
 } // namespace
@@ -91,6 +102,7 @@ void mdlTraces::enableStandardTraces(ToolContext& tool)
     ErrorTrap step{tool, moduleName, "enableStandardTraces", countedTrap};
     std::unique_ptr<DatabaseRecordset> rows;
     const auto command = tool.g_connection.createCommand();
+    FlagWords words;
 
     step.body([&] {
         step.enterProc();
@@ -104,7 +116,7 @@ void mdlTraces::enableStandardTraces(ToolContext& tool)
             bool more = false;
             step([&] { more = !required(rows).atEnd(); });
             if (!more) break;
-            restoreDefaults(tool, step, *rows, *command);
+            restoreDefaults(tool, step, *rows, *command, words);
             step([&] { rows->moveNext(); });
         }
         step.exitProc();

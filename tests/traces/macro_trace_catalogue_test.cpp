@@ -287,6 +287,19 @@ TEST_F(MacroTraceCatalogue, CannotLookUpAGroupWithAQuoteAndAddsItEachTime)
                                            testing::StartsWith("Err.Number = -2147467259 ")));
 }
 
+TEST_F(MacroTraceCatalogue, CountsAGroupThatCannotBeLookedUpToTheGroupFoundBeforeIt)
+{
+    withFile("HTa.xml", group("A", trace("1")));
+    withFile("HTb.xml", group("A", trace("2")));
+    withFile("HTc.xml", "<GA NAME=\"Caller's\"><TRACE NAME='3'/></GA>");
+    recorded("Caller's", "3", 1);
+
+    build();
+
+    EXPECT_THAT(contents(), ElementsAre("A: 1=0 2=0 3=1"));
+    EXPECT_THAT(ownFailures(), ElementsAre(testing::StartsWith("Err.Number = -2147467259 ")));
+}
+
 TEST_F(MacroTraceCatalogue, LogsAMarkThatHasNoElement)
 {
     mdlTraces::appendEnabledAttribute(tool.context, nullptr, "A", "1");

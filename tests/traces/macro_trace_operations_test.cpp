@@ -232,33 +232,53 @@ TEST_F(MacroTraceOperations, ChangesTheFirstOfTwoTracesOfOneName)
     EXPECT_THAT(events(), ElementsAre("10004 G - T", "10004 G - T"));
 }
 
-TEST_F(MacroTraceOperations, RecordsATraceThatTheCatalogueLacks)
+TEST_F(MacroTraceOperations, RecordsATraceThatTheCatalogueLacksAndTouchesNoOther)
 {
-    tool.database.withComponent("A", 1, 0);
-    define("");
+    tool.database.withComponent("A", 2, 0).withComponent("B", 0, 0);
+    define(trace("off", diag("A", {"1"})) + trace("on", diag("B", {"1"})));
+    recorded("G", "off", 1);
     recorded("G", "gone", 1);
 
-    configure({{true, "G"}, {false, "gone", false}, {false, "new", true}});
+    configure({{true, "G"},
+               {false, "off", false},
+               {false, "gone", false},
+               {false, "on", true},
+               {false, "new", true}});
 
     EXPECT_THAT(disableFailures(), ElementsAre(notSet));
     EXPECT_THAT(enableFailures(), ElementsAre(notSet));
     EXPECT_EQ(0, enabledRecord("G", "gone"));
     EXPECT_EQ(1, enabledRecord("G", "new"));
-    EXPECT_THAT(wordsSet(), IsEmpty());
+    EXPECT_THAT(wordsSet(), ElementsAre("A=0", "B=2"));
 }
 
-TEST_F(MacroTraceOperations, RecordsATraceThatCannotBeLookedUpAndTouchesNoOther)
+TEST_F(MacroTraceOperations, ChangesTheTraceBeforeOneThatCannotBeLookedUpOnceMore)
 {
-    tool.database.withComponent("A", 0, 0);
-    define(trace("T", diag("A", {"1"})) + "<TRACE NAME=\"Caller's\">" + diag("A", {"2"}) +
+    tool.database.withComponent("A", 2, 0).withComponent("B", 0, 0);
+    define(trace("T", diag("A", {"1"})) + "<TRACE NAME=\"Caller's\">" + diag("B", {"2"}) +
            "</TRACE>");
+    recorded("G", "T", 1);
+    recorded("G", "Caller's", 1);
 
-    configure({{true, "G"}, {false, "T", true}, {false, "Caller's", true}});
+    configure({{true, "G"}, {false, "T", false}, {false, "Caller's", false}});
 
-    EXPECT_EQ(2, flags("A"));
-    EXPECT_EQ(1, enabledRecord("G", "Caller's"));
+    EXPECT_THAT(wordsSet(), ElementsAre("A=0", "A=2")) << "the element is still that of T";
+    EXPECT_EQ(0, enabledRecord("G", "Caller's"));
     EXPECT_THAT(tool.failures("[mdlTraces]configureMacroTrace"),
                 ElementsAre(testing::StartsWith("Err.Number = -2147467259 ")));
+}
+
+TEST_F(MacroTraceOperations, CarriesTheElementOfThePassBeforeIntoTheSecondOne)
+{
+    tool.database.withComponent("A", 2, 0);
+    define(trace("T", diag("A", {"1"})) + "<TRACE NAME=\"Caller's\"/>");
+    recorded("G", "T", 1);
+
+    configure({{true, "G"}, {false, "Caller's", true}, {false, "T", false}});
+
+    EXPECT_THAT(wordsSet(), ElementsAre("A=0", "A=2")) << "T is turned on for the other";
+    EXPECT_EQ(0, enabledRecord("G", "T"));
+    EXPECT_EQ(1, enabledRecord("G", "Caller's"));
 }
 
 TEST_F(MacroTraceOperations, RecordsAlsoBeforeACatalogueWasBuilt)
@@ -293,16 +313,42 @@ TEST_F(MacroTraceOperations, OnlyLogsAComponentWithAQuoteInItsName)
     EXPECT_THAT(tool.failures("[mdlOrvanDatabase]SetFlags"), ElementsAre(notInGrid("O'Brien")));
 }
 
-TEST_F(MacroTraceOperations, TouchesNoComponentForADiagWithoutAName)
+TEST_F(MacroTraceOperations, CountsADiagWithoutANameToTheComponentBeforeIt)
 {
     tool.database.withComponent("A", 0, 0);
     define(trace("T", diag("A", {"1"}) + "<DIAG>" + flagsOf({"2"}) + "</DIAG>"));
 
     enable("T");
 
-    EXPECT_EQ(2, flags("A"));
+    EXPECT_THAT(wordsSet(), ElementsAre("A=2", "A=6"));
+    EXPECT_THAT(enableFailures(), ElementsAre(notSet));
+}
+
+TEST_F(MacroTraceOperations, TouchesNoComponentForAFirstDiagWithoutAName)
+{
+    tool.database.withComponent("A", 0, 0);
+    define(trace("T", "<DIAG>" + flagsOf({"2"}) + "</DIAG>" + diag("A", {"1"})));
+
+    enable("T");
+
+    EXPECT_THAT(wordsSet(), ElementsAre("A=2"));
     EXPECT_THAT(enableFailures(), ElementsAre(notSet));
     EXPECT_THAT(tool.failures("[mdlOrvanDatabase]SetFlags"), ElementsAre(notInGrid("")));
+}
+
+TEST_F(MacroTraceOperations, TakesALevelThatCannotBeReadForTheOneBeforeIt)
+{
+    tool.database.withComponent("A", 8, 0).withComponent("B", 8, 0);
+    define(trace("missing", "<DIAG GROUP='A'><FLAG ID='3'/><FLAG/></DIAG>") +
+           trace("too far", diag("A", {"3"}) + diag("B", {"40000"})));
+
+    disable("missing");
+    EXPECT_EQ(8, flags("A")) << "toggled twice";
+    disable("too far");
+    EXPECT_EQ(0, flags("A"));
+    EXPECT_EQ(0, flags("B")) << "also that of the component before";
+    EXPECT_THAT(disableFailures(),
+                ElementsAre(notSet, "Err.Number = 6 Err.Description = Overflow"));
 }
 
 TEST_F(MacroTraceOperations, TakesTheLeadingNumberOfALevelsText)
@@ -322,8 +368,9 @@ TEST_F(MacroTraceOperations, TakesTheLeadingNumberOfALevelsText)
         {"halves go to the even number", "2.5", 4, nullptr},
         {"one past the highest", "32", 0, outOfRange},
         {"below the lowest", "-1", 0, outOfRange},
-        {"past 16 bits", "40000", 0, "Err.Number = 6 Err.Description = Overflow"},
-        {"past any number", "1e999", 0, "Err.Number = 6 Err.Description = Overflow"},
+        {"past 16 bits, where no level was read yet", "40000", 1,
+         "Err.Number = 6 Err.Description = Overflow"},
+        {"past any number", "1e999", 1, "Err.Number = 6 Err.Description = Overflow"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.because);
@@ -352,11 +399,12 @@ TEST_F(MacroTraceOperations, PassesOverALevelThatIsNoneAndSetsTheOthers)
 
     enable("T");
     EXPECT_EQ(6, flags("A"));
-    EXPECT_THAT(enableFailures(), ElementsAre(outOfRange, notSet));
+    EXPECT_THAT(enableFailures(), ElementsAre(outOfRange, notSet, outOfRange))
+        << "the level that is missing is still 32";
 
     disable("T");
     EXPECT_EQ(0, flags("A"));
-    EXPECT_THAT(disableFailures(), ElementsAre(outOfRange, notSet));
+    EXPECT_THAT(disableFailures(), ElementsAre(outOfRange, notSet, outOfRange));
 }
 
 TEST_F(MacroTraceOperations, LeavesATraceOnItsEleventhBadLevelWithoutAWrite)

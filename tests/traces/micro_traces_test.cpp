@@ -10,6 +10,8 @@ using testing::IsEmpty;
 
 namespace {
 
+constexpr const char* keyThereAlready = "Err.Number = 457 Err.Description = This key is already "
+                                        "associated with an element of this collection";
 constexpr std::int32_t bit31 = std::numeric_limits<std::int32_t>::min();
 
 struct MicroTraces : TracesTest {
@@ -157,7 +159,7 @@ TEST_F(MicroTraces, TakesTheFirstPairOfParenthesesForTheName)
     EXPECT_THAT(tool.failures(), ElementsAre(notInGrid("outdated")));
 }
 
-TEST_F(MicroTraces, ReadsAnEmptyNameFromATextWithoutAPairOfParentheses)
+TEST_F(MicroTraces, CountsATextWithoutAPairOfParenthesesToTheComponentBeforeIt)
 {
     for (const char* text : {"Alpha", "Alpha (A", "Alpha A)", ")A(", ""}) {
         SCOPED_TRACE(text);
@@ -171,12 +173,25 @@ TEST_F(MicroTraces, ReadsAnEmptyNameFromATextWithoutAPairOfParentheses)
 
         mdlTraces::configureMicroTrace(fresh.context, tree);
 
-        EXPECT_EQ(2, fresh.database.flagsOf("B")) << "no other component takes its levels";
-        EXPECT_THAT(fresh.failures("[mdlTraces]configureMicroTrace"),
+        EXPECT_EQ(18, fresh.database.flagsOf("B"));
+        EXPECT_THAT(fresh.failures(),
                     ElementsAre("Err.Number = 5 Err.Description = Invalid procedure call or "
-                                "argument"));
-        EXPECT_THAT(fresh.failures("[mdlOrvanDatabase]SetFlags"), ElementsAre(notInGrid("")));
+                                "argument",
+                                keyThereAlready));
     }
+}
+
+TEST_F(MicroTraces, ReadsAnEmptyNameFromAFirstTextWithoutAPairOfParentheses)
+{
+    tool.database.withComponent("B", 0, 0);
+
+    configure(
+        {{true, "Alpha"}, {false, "04  four", true}, {true, "B (B)"}, {false, "01  one", true}});
+
+    EXPECT_EQ(2, flags("B"));
+    EXPECT_THAT(ownFailures(), ElementsAre("Err.Number = 5 Err.Description = Invalid procedure "
+                                           "call or argument"));
+    EXPECT_THAT(tool.failures("[mdlOrvanDatabase]SetFlags"), ElementsAre(notInGrid("")));
 }
 
 TEST_F(MicroTraces, AddsTheTicksOfAComponentThatIsThereTwiceToOneWord)
@@ -187,8 +202,7 @@ TEST_F(MicroTraces, AddsTheTicksOfAComponentThatIsThereTwiceToOneWord)
         {{true, "A (A)"}, {false, "01  one", true}, {true, "Again (A)"}, {false, "02  two", true}});
 
     EXPECT_THAT(wordsSet(), ElementsAre("A=6"));
-    EXPECT_THAT(ownFailures(), ElementsAre("Err.Number = 457 Err.Description = This key is already "
-                                           "associated with an element of this collection"));
+    EXPECT_THAT(ownFailures(), ElementsAre(keyThereAlready));
 }
 
 TEST_F(MicroTraces, GoesOnPastAnyNumberOfDuplicates)
@@ -216,9 +230,24 @@ TEST_F(MicroTraces, LogsATickedLevelThatIsNoneAndLeavesTheWord)
                {false, "99999  far", true}});
 
     EXPECT_EQ(2, flags("A"));
-    EXPECT_THAT(ownFailures(),
-                ElementsAre(outOfRange, outOfRange, "Err.Number = 6 Err.Description = Overflow"));
+    EXPECT_THAT(ownFailures(), ElementsAre(outOfRange, outOfRange,
+                                           "Err.Number = 6 Err.Description = Overflow", outOfRange))
+        << "the level that could not be read is still -1";
     EXPECT_EQ(4u, events().size()) << "each ticked one is reported";
+}
+
+TEST_F(MicroTraces, TakesATickedLevelThatCannotBeReadForTheOneBeforeIt)
+{
+    tool.database.withComponent("A", 0, 0).withComponent("B", 0, 0);
+
+    configure({{true, "A (A)"},
+               {false, "03  three", true},
+               {true, "B (B)"},
+               {false, "99999  far", true}});
+
+    EXPECT_EQ(8, flags("A"));
+    EXPECT_EQ(8, flags("B"));
+    EXPECT_THAT(ownFailures(), ElementsAre("Err.Number = 6 Err.Description = Overflow"));
 }
 
 TEST_F(MicroTraces, ReadsALevelWithoutANumberAsLevel0)
