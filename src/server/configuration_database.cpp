@@ -61,8 +61,8 @@ bool mdlOrvanDatabase::openOrvanDB(ToolContext& tool, DatabaseConnection& connec
 {
     ErrorTrap step{tool, moduleName, "openOrvanDB", countedTrap};
     bool opened = false;
-    int state = 0;
-    int errors = 0;
+    bool closed = false;
+    bool clean = false;
     std::string connectionString;
 
     step.specialCase([&](const RunTimeError& error) {
@@ -72,12 +72,12 @@ bool mdlOrvanDatabase::openOrvanDB(ToolContext& tool, DatabaseConnection& connec
     });
     step.body([&] {
         step.enterProc();
-        step([&] { state = connection.state(); });
-        if (state == 0) {
+        step([&] { closed = connection.state() == 0; });
+        if (closed) {
             step([&] { connectionString = connectionStart + serverName + connectionEnd; });
             step([&] { connection.open(connectionString, "", ""); });
-            step([&] { errors = connection.errorCount(); });
-            if (errors < 1) opened = true;
+            step([&] { clean = connection.errorCount() < 1; });
+            if (clean) opened = true;
         }
         step.exitProc();
     });

@@ -96,8 +96,10 @@ MemoryRecordset mdlOrvanDatabase::EnumComponents(ToolContext& tool)
     ErrorTrap step{tool, moduleName, "EnumComponents", countedTrap};
     MemoryRecordset components;
     std::unique_ptr<DatabaseRecordset> rows;
+    std::string text;
 
     step.body([&] {
+        const auto name = [&] { return valueAsText(rows->field("Name")); };
         step([&] { components.append("name", nameLength); });
         step([&] { components.append("fullName", nameLength); });
         step([&] { components.open(); });
@@ -111,13 +113,10 @@ MemoryRecordset mdlOrvanDatabase::EnumComponents(ToolContext& tool)
             bool more = false;
             step([&] { more = !required(rows).atEnd(); });
             if (!more) break;
-            std::string name;
-            std::string text;
             step([&] { components.addNew(); });
-            step([&] { name = valueAsText(rows->field("Name")); });
-            step([&] { components.set("name", name); });
-            step([&] { text = mdlDiagnosticGrids::GetDiagnosticLevelText(tool, name); });
-            step([&] { components.set("fullName", text + " (" + name + ")"); });
+            step([&] { components.set("name", name()); });
+            step([&] { text = mdlDiagnosticGrids::GetDiagnosticLevelText(tool, name()); });
+            step([&] { components.set("fullName", text + " (" + name() + ")"); });
             step([&] { components.update(); });
             step([&] { rows->moveNext(); });
         }

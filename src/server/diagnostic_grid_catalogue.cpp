@@ -61,6 +61,8 @@ std::vector<std::string> mdlDiagnosticGrids::EnumDiagnosticLevels(ToolContext& t
     XmlElementPtr found;
     std::vector<XmlElementPtr> levels;
     std::vector<std::string> texts;
+    int number = 0;
+    std::string text;
 
     step([&] { found = component(tool, componentName); });
     if (!found) {
@@ -77,11 +79,12 @@ std::vector<std::string> mdlDiagnosticGrids::EnumDiagnosticLevels(ToolContext& t
         texts.resize(levels.size());
     });
     for (const auto& level : levels) {
+        step([&] { number = toInteger16(toNumber(requiredAttribute(level, "level"))); });
+        step([&] { text = requiredAttribute(level, "text"); });
         step([&] {
-            const int number = toInteger16(toNumber(requiredAttribute(level, "level")));
             if (number < 0 || static_cast<std::size_t>(number) >= texts.size())
                 throw RunTimeError(runTimeErrors::subscriptOutOfRange);
-            texts[static_cast<std::size_t>(number)] = requiredAttribute(level, "text");
+            texts[static_cast<std::size_t>(number)] = text;
         });
     }
     return texts;

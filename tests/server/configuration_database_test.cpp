@@ -26,16 +26,26 @@ class OddConnection final : public DatabaseConnection {
 public:
     int openError = 0;
     int reportedErrors = 0;
+    bool failsOnState = false;
+    bool failsOnCount = false;
     std::vector<std::string> given;
 
-    int state() const override { return 0; }
+    int state() const override
+    {
+        if (failsOnState) throw RunTimeError(5);
+        return 0;
+    }
     void open(const std::string& connectionString, const std::string& user,
               const std::string& password) override
     {
         given = {connectionString, user, password};
         if (openError != 0) throw RunTimeError(openError, "odd");
     }
-    int errorCount() const override { return reportedErrors; }
+    int errorCount() const override
+    {
+        if (failsOnCount) throw RunTimeError(5);
+        return reportedErrors;
+    }
     std::unique_ptr<DatabaseRecordset> openRecordset(const std::string&, CursorKind,
                                                      LockKind) override
     {
@@ -134,6 +144,27 @@ TEST_F(ConfigurationDatabase, GoesByTheErrorsThatTheConnectionReportsOfAnOpening
 
         EXPECT_EQ(c.opened, openOrvanDB(tool.context, connection, "(local)"));
     }
+}
+
+TEST_F(ConfigurationDatabase, OpensNothingWhereTheStateOfTheConnectionCannotBeRead)
+{
+    OddConnection connection;
+    connection.failsOnState = true;
+
+    EXPECT_FALSE(openOrvanDB(tool.context, connection, "(local)"));
+
+    EXPECT_THAT(connection.given, IsEmpty());
+    EXPECT_TRUE(tool.logged("Exiting [mdlOrvanDatabase]openOrvanDB_0"));
+}
+
+TEST_F(ConfigurationDatabase, GivesFalseForAnOpeningWhoseErrorsCannotBeCounted)
+{
+    OddConnection connection;
+    connection.failsOnCount = true;
+
+    EXPECT_FALSE(openOrvanDB(tool.context, connection, "(local)"));
+
+    EXPECT_THAT(connection.given, testing::SizeIs(3));
 }
 
 TEST_F(ConfigurationDatabase, RetriesAnOpeningInTheDevelopmentHostUntilItsErrorsAreCounted)

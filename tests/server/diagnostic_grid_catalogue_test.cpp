@@ -13,6 +13,8 @@ using testing::IsEmpty;
 namespace {
 
 constexpr const char* outOfRange = "Err.Number = 9 Err.Description = Subscript out of range";
+constexpr const char* notSet =
+    "Err.Number = 91 Err.Description = Object variable or With block variable not set";
 
 struct DiagnosticGridCatalogue : testing::Test {
     TestTool tool;
@@ -152,20 +154,20 @@ TEST_F(DiagnosticGridCatalogue, SizesTheLevelsByTheirCountAndSkipsOneBeyond)
     EXPECT_THAT(tool.failures("[mdlDiagnosticGrids]EnumDiagnosticLevels"), ElementsAre(outOfRange));
 }
 
-TEST_F(DiagnosticGridCatalogue, SkipsALevelThatIsNoNumberOfTheArray)
+TEST_F(DiagnosticGridCatalogue, TakesALevelWhoseNumberCannotBeReadForTheOneBeforeIt)
 {
     struct Case {
         const char* because;
         const char* level;
+        const char* zero;
         const char* logged;
     };
     const Case cases[] = {
-        {"below the array", "level='-1'", outOfRange},
-        {"past 16 bits", "level='40000'", "Err.Number = 6 Err.Description = Overflow"},
-        {"a word", "level='x'", "Err.Number = 13 Err.Description = Type mismatch"},
-        {"empty", "level=''", "Err.Number = 13 Err.Description = Type mismatch"},
-        {"missing", "",
-         "Err.Number = 91 Err.Description = Object variable or With block variable not set"},
+        {"below the array, which is skipped", "level='-1'", "zero", outOfRange},
+        {"past 16 bits", "level='40000'", "bad", "Err.Number = 6 Err.Description = Overflow"},
+        {"a word", "level='x'", "bad", "Err.Number = 13 Err.Description = Type mismatch"},
+        {"empty", "level=''", "bad", "Err.Number = 13 Err.Description = Type mismatch"},
+        {"missing", "", "bad", notSet},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.because);
@@ -178,9 +180,19 @@ TEST_F(DiagnosticGridCatalogue, SkipsALevelThatIsNoNumberOfTheArray)
                              "</DiagnosticGrids>");
         openDiagGrids(fresh.context);
 
-        EXPECT_THAT(EnumDiagnosticLevels(fresh.context, "A"), ElementsAre("zero", ""));
+        EXPECT_THAT(EnumDiagnosticLevels(fresh.context, "A"), ElementsAre(c.zero, ""));
         EXPECT_THAT(fresh.failures(), ElementsAre(c.logged));
     }
+}
+
+TEST_F(DiagnosticGridCatalogue, GivesALevelWithoutATextThatOfTheOneBeforeIt)
+{
+    open(levelsOf("<DiagnosticLevel level='0'/><DiagnosticLevel level='1' text='one'/>"
+                  "<DiagnosticLevel level='2'/>"));
+
+    EXPECT_THAT(levels("A"), ElementsAre("", "one", "one"));
+    EXPECT_THAT(tool.failures("[mdlDiagnosticGrids]EnumDiagnosticLevels"),
+                ElementsAre(notSet, notSet));
 }
 
 TEST_F(DiagnosticGridCatalogue, GoesOnPastAnyNumberOfBadLevels)
@@ -206,10 +218,7 @@ TEST_F(DiagnosticGridCatalogue, LogsAComponentWithoutATextAndGivesTheEmptyText)
     open("<DiagnosticGrid name='A'/>");
 
     EXPECT_EQ("", text("A"));
-    EXPECT_THAT(
-        tool.failures("[mdlDiagnosticGrids]GetDiagnosticLevelText"),
-        ElementsAre(
-            "Err.Number = 91 Err.Description = Object variable or With block variable not set"));
+    EXPECT_THAT(tool.failures("[mdlDiagnosticGrids]GetDiagnosticLevelText"), ElementsAre(notSet));
 }
 
 TEST_F(DiagnosticGridCatalogue, LogsANameWithAQuoteAndGivesTheName)
