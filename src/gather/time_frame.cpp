@@ -10,19 +10,21 @@
 
 namespace {
 
-/// Adds the logs of a pattern that overlap a frame. A file that is gone by now has no part in it.
+/// Adds the logs of a pattern that overlap a frame. `file` is the one looked at last: it stands for
+/// a file that is gone by now, which thus comes a second time if it overlaps.
 void addLogs(ToolContext& tool, ErrorTrap& step, const std::string& pattern, const TimeFrame& frame,
-             classTraceObject& job)
+             std::optional<FileInfo>& file, classTraceObject& job)
 {
     std::vector<std::string> names;
     step([&] { names = tool.platform.files.matching(tool.g_strLogFolder + pattern); });
     for (const std::string& name : names) {
         if (lowerCase(name).find("fmtd") != std::string::npos) continue;
-        std::optional<FileInfo> file;
         bool overlaps = false;
         step([&] { file = tool.platform.files.file(tool.g_strLogFolder + "\\" + name); });
-        if (!file) continue;
-        step([&] { overlaps = fileOverlapsTimeFrame(*file, frame.start, frame.end); });
+        step([&] {
+            if (!file) throw RunTimeError(runTimeErrors::objectVariableNotSet);
+            overlaps = fileOverlapsTimeFrame(*file, frame.start, frame.end);
+        });
         if (overlaps) step([&] { job.addOrvanLog(file->name); });
     }
 }
@@ -51,6 +53,8 @@ void determineSelectedLogsFromTimeFrame(ToolContext& tool, const TimeFrameChoice
                                         TimeFrame& frame, classTraceObject& job)
 {
     ErrorTrap step{tool, "ppgGatherLogs02Step", "determineSelectedLogsFromTimeFrame"};
+    std::optional<FileInfo> file;
+
     step.enterProc();
     step([&] { job.clearOrvanLogs(); });
     step([&] { job.clearWindowsLogs(); });
@@ -58,8 +62,8 @@ void determineSelectedLogsFromTimeFrame(ToolContext& tool, const TimeFrameChoice
     step.log("Gathering logs with data between: " + dateText(frame.start) + " - " +
                  dateText(frame.end),
              logLevel::info);
-    addLogs(tool, step, "\\diag_*.txt", frame, job);
-    addLogs(tool, step, "\\data_*.txt", frame, job);
+    addLogs(tool, step, "\\diag_*.txt", frame, file, job);
+    addLogs(tool, step, "\\data_*.txt", frame, file, job);
     if (choice.applicationLog) step([&] { job.addWindowsLog("Application"); });
     if (choice.systemLog) step([&] { job.addWindowsLog("System"); });
     step.exitProc();

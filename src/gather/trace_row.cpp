@@ -51,13 +51,13 @@ void TraceRow::setIndex(const std::string& process, const DiagnosticLine& record
     step_([&] { qrvIndex_->setText(index_); });
 }
 
-/// The first row with a key decides the value. The row that could not be read gives the empty key.
+/// The first row with a key decides the value. A row whose key can't be read back counts to the
+/// row before it.
 void TraceRow::registerFilter()
 {
-    std::string_view key;
-    step_([&] { key = qrvIndex_->text(); });
-    if (tool_.g_dictUniqueFilters.exists(key)) return;
-    step_([&] { tool_.g_dictUniqueFilters.add(key, filterValue()); });
+    step_([&] { filterKey_.assign(qrvIndex_->text()); });
+    if (tool_.g_dictUniqueFilters.exists(filterKey_)) return;
+    step_([&] { tool_.g_dictUniqueFilters.add(filterKey_, filterValue()); });
 }
 
 std::string TraceRow::filterValue()

@@ -66,4 +66,5 @@ private:
     RowField highlight_{recordset_, "Highlight"};
     RowField qrvIndex_{recordset_, "qrvIndex"};
     std::string index_;
+    std::string filterKey_;
 };

@@ -173,6 +173,49 @@ TEST(ProcessOrvanLogFileToDBErrors, AFieldThatRefusesItsValueLeavesItOutOfTheRow
     EXPECT_EQ(2U, tool.failures(proc).size());
 }
 
+TEST(ProcessOrvanLogFileToDBErrors, ARowWhoseFilterCannotBeReadBackCountsToTheRowBeforeIt)
+{
+    /// A field whose value can be read until it breaks.
+    struct BreakingField final : TraceField {
+        void setText(std::string_view text) override { value = text; }
+        void setUtf8(std::string_view text) override { value = text; }
+        void setNumber(std::int32_t) override {}
+        std::string_view text() const override
+        {
+            if (broken) throw RunTimeError(3021);
+            return value;
+        }
+        bool isNull() const override { return false; }
+        std::string value;
+        bool broken = false;
+    };
+    /// Its index breaks with the first row that is added.
+    struct Breaking final : TraceRecordset {
+        explicit Breaking(TraceRecordset& inner) : recordset(inner) {}
+        TraceField& field(std::string_view name) override
+        {
+            return name == "qrvIndex" ? index : recordset.field(name);
+        }
+        void addNew() override { recordset.addNew(); }
+        void update() override
+        {
+            recordset.update();
+            index.broken = true;
+        }
+        void close() override { recordset.close(); }
+        TraceRecordset& recordset;
+        BreakingField index;
+    };
+    ImportTool tool;
+    Breaking breaking(*tool.traces);
+    tool.withLog(logName, morning, {lineAt("10:00:00:000"), "10:00:01:000,B,1,Other,3,text"});
+    mdlLogs::processOrvanLogFileToDB(tool.context, logName, breaking, tool.current, tool.label,
+                                     tool.start, tool.end);
+    EXPECT_EQ(2U, tool.rows().size());
+    EXPECT_EQ(Texts{"CallFlow_RoCsMgr_7_Conv"}, tool.context.g_dictUniqueFilters.keys());
+    EXPECT_EQ(1U, tool.failures(proc).size());
+}
+
 TEST(ProcessOrvanLogFileToDBErrors, AFailedUpdateLosesThatRowAlone)
 {
     ImportTool tool;

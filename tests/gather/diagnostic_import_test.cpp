@@ -8,6 +8,45 @@ namespace {
 const std::string log = "diag_RoCsMgr_20051008_093000.txt";
 const Date morning = dateOf(2005, 10, 8, 9, 30, 0);
 using Texts = std::vector<std::string>;
+
+/// Sure of every line that begins with a time.
+struct SureReporter final : EventReporter {
+    explicit SureReporter(EventReporter& other) : inner(other) {}
+    void startUp() override { inner.startUp(); }
+    void completeStartUp() override { inner.completeStartUp(); }
+    std::int32_t registerTool(const std::string& name) override { return inner.registerTool(name); }
+    void report(const std::string& source, std::int32_t handle, int type, std::int32_t id,
+                const std::vector<std::string>& inserts) override
+    {
+        inner.report(source, handle, type, id, inserts);
+    }
+    void formatTraceLine(std::string_view line, std::string& formatted) override
+    {
+        inner.formatTraceLine(line, formatted);
+    }
+    std::string_view timeOfSoundLine(std::string_view line) const override
+    {
+        return line.size() < 12 || line[2] != ':' ? std::string_view() : line.substr(0, 12);
+    }
+    EventReporter& inner;
+};
+
+/// A tool whose event reporter is sure of the lines that begin with a time.
+struct QuickTool : ImportTool {
+    QuickTool() { sureContext.g_strLogFolder = "C:\\Logs"; }
+
+    void importSurely(const std::string& name)
+    {
+        mdlLogs::processOrvanLogFileToDB(sureContext, name, *traces, current, label, start, end);
+    }
+
+    SureReporter sure{eventReporter};
+    Platform surePlatform{files,     registry,      clock,  timeZone,  sure,    eventLogExporter,
+                          processes, workstation,   module, languages, desktop, database,
+                          xml,       traceDatabases};
+    ToolContext sureContext{surePlatform};
+};
+
 } // namespace
 
 TEST(ProcessOrvanLogFileToDB, AddsARowForALineOfTheFrame)
@@ -260,59 +299,41 @@ TEST(ProcessOrvanLogFileToDB, LinesOutsideTheFrameHaveProgressPointsToo)
 
 TEST(ProcessOrvanLogFileToDB, LinesThatAreSurelySoundAreNotFormattedBeforeTheFrame)
 {
-    /// Sure of every line that begins with a time.
-    struct SureReporter final : EventReporter {
-        explicit SureReporter(EventReporter& other) : inner(other) {}
-        void startUp() override { inner.startUp(); }
-        void completeStartUp() override { inner.completeStartUp(); }
-        std::int32_t registerTool(const std::string& name) override
-        {
-            return inner.registerTool(name);
-        }
-        void report(const std::string& source, std::int32_t handle, int type, std::int32_t id,
-                    const std::vector<std::string>& inserts) override
-        {
-            inner.report(source, handle, type, id, inserts);
-        }
-        void formatTraceLine(std::string_view line, std::string& formatted) override
-        {
-            inner.formatTraceLine(line, formatted);
-        }
-        std::string_view timeOfSoundLine(std::string_view line) const override
-        {
-            return line.size() < 12 || line[2] != ':' ? std::string_view() : line.substr(0, 12);
-        }
-        EventReporter& inner;
-    };
-
     const std::initializer_list<std::string> lines = {
         lineAt("09:40:00:000", "before"), "garbage of some bytes",
         lineAt("09:50:00:000", "before"), "09:55:00:000,C,1,F,",
         lineAt("10:00:00:000", "first"),  "garbage of some bytes",
         lineAt("10:30:00:000", "last"),   lineAt("11:00:01:000", "behind")};
     ImportTool plain;
-    ImportTool quick;
-    SureReporter sure(quick.eventReporter);
-    Platform platform{quick.files,  quick.registry,         quick.clock,     quick.timeZone,
-                      sure,         quick.eventLogExporter, quick.processes, quick.workstation,
-                      quick.module, quick.languages,        quick.desktop,   quick.database,
-                      quick.xml,    quick.traceDatabases};
-    ToolContext context(platform);
-    context.g_strLogFolder = "C:\\Logs";
-    for (ImportTool* tool : {&plain, &quick}) {
+    QuickTool quick;
+    for (ImportTool* tool : {&plain, static_cast<ImportTool*>(&quick)}) {
         tool->start = dateOf(2005, 10, 8, 10, 0, 0);
         tool->end = dateOf(2005, 10, 8, 11, 0, 0);
         tool->withLog(log, morning, lines);
     }
     plain.importLog(log);
-    mdlLogs::processOrvanLogFileToDB(context, log, *quick.traces, quick.current, quick.label,
-                                     quick.start, quick.end);
+    quick.importSurely(log);
     EXPECT_EQ(plain.rows(), quick.rows());
     EXPECT_EQ(3U, quick.rows().size());
     for (const std::string& toolLog : {plain.files.content(plain.context.g_log->strLogFile()),
-                                       quick.files.content(context.g_log->strLogFile())})
+                                       quick.files.content(quick.sureContext.g_log->strLogFile())})
         EXPECT_NE(std::string::npos, toolLog.find("Could not format: 09:55:00:000,C,1,F,"))
             << "a line that is too short for a log's has no time, whatever it begins with";
     EXPECT_EQ(plain.eventReporter.linesFormatted() - 2, quick.eventReporter.linesFormatted())
         << "the two before the frame";
+}
+
+TEST(ProcessOrvanLogFileToDB, LinesBeforeTheFrameAreParsedAsTheyStandInTheDevelopmentHostToo)
+{
+    QuickTool quick;
+    quick.sureContext.g_bDebugMode = true;
+    quick.start = dateOf(2005, 10, 8, 12, 0, 0);
+    quick.withLog(log, morning,
+                  {"09:45:00:000 (Conv,1,CallFlow,7) before", lineAt("10:00:00:000"),
+                   "13:00:00:000 (Conv,1,CallFlow,7) inside"});
+    quick.importSurely(log);
+    EXPECT_EQ((Texts{"inside"}), quick.column("Trace"));
+    const std::string toolLog = quick.files.content(quick.sureContext.g_log->strLogFile());
+    EXPECT_NE(std::string::npos, toolLog.find("Could not format: " + lineAt("10:00:00:000")))
+        << "a raw line is none that can be parsed, though its time could be told";
 }

@@ -156,14 +156,29 @@ TEST(DetermineSelectedLogs, TakesTheEventLogsThatWereChosen)
     EXPECT_EQ((Texts{"System"}), tool.windowsLogs());
 }
 
-TEST(DetermineSelectedLogs, ALogThatIsGoneByThenIsLoggedAndLeftOut)
+TEST(DetermineSelectedLogs, ALogThatIsGoneByThenCountsAsTheOneBeforeIt)
+{
+    SelectionTool tool;
+    tool.withLog("diag_a_1.txt", start, end)
+        .withLog("diag_b_1.txt", start, end)
+        .withLog("data_a_1.txt", start, end);
+    tool.files.failing("C:\\Logs\\diag_b_1.txt", 53).failing("C:\\Logs\\data_a_1.txt", 53);
+    tool.determine();
+    EXPECT_EQ((Texts{"diag_a_1.txt", "diag_a_1.txt", "diag_a_1.txt"}), tool.orvanLogs());
+    EXPECT_EQ(2U, tool.failures(procColumn).size());
+}
+
+TEST(DetermineSelectedLogs, AFirstLogThatIsGoneByThenIsLeftOut)
 {
     SelectionTool tool;
     tool.withLog("diag_a_1.txt", start, end).withLog("diag_b_1.txt", start, end);
-    tool.files.failing("C:\\Logs\\diag_b_1.txt", 53);
+    tool.files.failing("C:\\Logs\\diag_a_1.txt", 53);
     tool.determine();
-    EXPECT_EQ((Texts{"diag_a_1.txt"}), tool.orvanLogs());
-    EXPECT_EQ(1U, tool.failures(procColumn).size());
+    EXPECT_EQ((Texts{"diag_b_1.txt"}), tool.orvanLogs());
+    EXPECT_EQ((Texts{"Err.Number = 53 Err.Description = File not found",
+                     "Err.Number = 91 Err.Description = Object variable or With block variable "
+                     "not set"}),
+              tool.failures(procColumn));
 }
 
 TEST(DetermineSelectedLogs, AnEmptyDurationIsLoggedAndTheEndStays)
