@@ -78,6 +78,7 @@ void mdlSnapIn::populateScopeProcesses(ToolContext& tool, ScopeTree& scopeItems,
     KeyNames names;
     int first = 0;
     int last = -1;
+    ScopeItem* node = nullptr;
 
     step.enterProc();
     step([&] {
@@ -89,7 +90,6 @@ void mdlSnapIn::populateScopeProcesses(ToolContext& tool, ScopeTree& scopeItems,
         last = names.upperBound();
     });
     for (int index = first; index <= last; ++index) {
-        ScopeItem* node = nullptr;
         step([&] { node = &scopeItems.addChild("nodeProcesses", names.at(index), parentNode); });
         step([&] { required(node).name(names.at(index)); });
         step([&] { required(node).displayName(names.at(index)); });

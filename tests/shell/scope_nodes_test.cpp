@@ -88,6 +88,20 @@ TEST_F(ScopeNodes, LogsAProcessWhoseKeyIsTakenAndAddsTheOthers)
     EXPECT_EQ("Kelma Orvan Diagnostics", node("Static Node").displayName());
 }
 
+TEST_F(ScopeNodes, GivesTheProcessBeforeOneWhoseKeyIsTakenThatName)
+{
+    withProcess("RoCsMgr");
+    withProcess("Static Node");
+    load();
+
+    console.expand(processes());
+
+    EXPECT_THAT(below(processes()), ElementsAre("Static Node"));
+    EXPECT_EQ("Static Node", node("RoCsMgr").name());
+    EXPECT_THAT(tool.failures("[mdlSnapIn]populateScopeProcesses"),
+                ElementsAre(testing::StartsWith("Err.Number = 9511")));
+}
+
 TEST_F(ScopeNodes, ShowsTheCurrentLogFirstAndNoFormattedCopies)
 {
     withProcess("RoCsMgr");
