@@ -27,6 +27,9 @@ public:
     void IWizardPage_Next(int& NextPage) override;
     void IWizardPage_Finish() override;
 
+    /// What the page runs. Raises 424 when it was given none.
+    const classTraceObject& job() const { return SelectedControls(0); }
+
     Label lblStepTitle;
     Label lblStepDescription;
     TreeView treeviewSteps; ///< a leaf for each log of the job; the current one is bold

@@ -11,12 +11,7 @@
 #include <utility>
 
 namespace {
-
 constexpr const char* pageName = "ppgGatherLogs00Welcome";
-
-/// The process whose current log a standard gather takes.
-constexpr const char* standardProcess = "KoCSMgr";
-
 } // namespace
 
 ppgGatherLogs00Welcome::ppgGatherLogs00Welcome(ToolContext& tool,
@@ -107,7 +102,7 @@ void ppgGatherLogs00Welcome::IWizardPage_Next(int& NextPage)
         step([&] { SelectedControls(0).m_bStandardLogs = true; });
         step([&] { SelectedControls(0).m_bTimeFrameLogs = false; });
         step([&] {
-            currentLog = mdlDiagnostics::getCurrentDiagnosticFile(tool(), standardProcess);
+            currentLog = mdlDiagnostics::getCurrentDiagnosticFile(tool(), standardGatherProcess);
         });
         step([&] { SelectedControls(0).addOrvanLog(currentLog); });
         step([&] { SelectedControls(0).addWindowsLog("Application"); });

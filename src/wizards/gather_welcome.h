@@ -26,6 +26,9 @@ private:
     void cmdChangeDestinationDirectory_Click();
 };
 
+/// The process whose current log is a standard one.
+constexpr const char* standardGatherProcess = "KoCSMgr";
+
 /// The ways to gather.
 namespace gatherOption {
 constexpr int standard = 0;

@@ -201,6 +201,31 @@ TEST_F(FrameGather, AFrameWithoutLinesGivesADatabaseOfMacroTraces)
     EXPECT_FALSE(fs::exists(target / "Application.csv"));
 }
 
+TEST_F(FrameGather, AFrameOnAServerWhoseLogFolderIsMissingSaysSo)
+{
+    fs::rename(drive("KelmaOrvan/Logs"), folder / "logs");
+    const Outcome gathered = gather("2025-02-20 16:42", "1");
+    EXPECT_EQ(1, gathered.status);
+    EXPECT_EQ("orvandiag: not everything was gathered: the server's log folder "
+              "C:\\KelmaOrvan\\Logs is not there\n",
+              gathered.err);
+    EXPECT_TRUE(gathered.json()["cabinet"].is_string());
+}
+
+TEST_F(FrameGather, OnlyTheFilesOfThisRunAreListed)
+{
+    ASSERT_EQ(0, gather("2025-02-20 16:42", "1").status);
+    write(target / "mine_WPN_1.cab", "x");
+    write(target / "notes.txt", "x");
+    const Outcome gathered = runJson({"gather", "frame", "--from", "2025-02-20 16:42", "--hours",
+                                      "1", "--no-system", "--to", target.string()});
+    const auto result = gathered.json();
+    EXPECT_THAT(result["files"],
+                ElementsAre("Application.csv",
+                            fs::path(result["cabinet"].get<std::string>()).filename().string(),
+                            fs::path(result["database"].get<std::string>()).filename().string()));
+}
+
 TEST_F(FrameGather, TellsHowManyRowsEachProcessHas)
 {
     const Outcome gathered = run(gatherWords("2025-02-17 17:00", "100", target));
@@ -373,7 +398,8 @@ TEST_F(FrameGather, ALogThatVanishesIsToldAndTheOthersAreGathered)
     const Outcome gathered = gatherWhile("rm '" + drive("KelmaOrvan/Logs/" + name).string() + "'");
     EXPECT_EQ(1, gathered.status);
     EXPECT_THAT(gathered.err, HasSubstr(name + " can not be found.  Log not processed."));
-    EXPECT_THAT(gathered.err, HasSubstr("not all logs could be gathered"));
+    EXPECT_THAT(gathered.err, HasSubstr("not everything was gathered: " + name +
+                                        " was not gathered: it is not in C:\\KelmaOrvan\\Logs\n"));
     EXPECT_EQ(500'000U, rowsOf(databaseIn(target), "tblTraces").size());
 }
 

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <chrono>
+#include <functional>
 
 namespace {
 
@@ -205,7 +206,85 @@ TEST_F(GatherCommand, TellsOfAFullDisk)
                     "ulimit -f 256; exec '" ORVANDIAG_PROGRAM "' --site '" + site.string() +
                         "' gather logs --log " + log + " --to '" + target.string() + "'"});
     EXPECT_EQ(1, full.status) << full.out << full.err;
-    EXPECT_EQ("orvandiag: not everything was gathered: Disk full\n", full.err);
+    EXPECT_EQ("orvandiag: not everything was gathered: " + log + " was copied in part: Disk full\n",
+              full.err);
+}
+
+TEST_F(GatherCommand, StandardWithoutItsLogSaysWhyAndGathersTheRest)
+{
+    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
+    const fs::path registry = site / "registry.reg";
+    const std::string whole = read(registry);
+    const std::string log = currentLog();
+    const fs::path logs = drive("KelmaOrvan/Logs");
+    const struct {
+        const char* because;
+        std::function<void()> spoil;
+        std::string reason;
+        std::vector<std::string> files;
+    } cases[] = {
+        {"the server names none",
+         [&] {
+             std::string without = whole;
+             const auto at = without.find("CurrentLogFile", without.find("Process\\KoCSMgr]"));
+             write(registry, without.replace(at, 7, "Another"));
+         },
+         "the server names no current log of KoCSMgr",
+         {"Application.csv", "System.csv"}},
+        {"its file has gone",
+         [&] { fs::rename(logs / log, folder / log); },
+         "the current log of KoCSMgr, C:\\KelmaOrvan\\Logs\\" + log + ", is not there",
+         {"Application.csv", "System.csv"}},
+        {"the folder of all logs has gone",
+         [&] { fs::rename(logs, folder / "logs"); },
+         "the current log of KoCSMgr, C:\\KelmaOrvan\\Logs\\" + log + ", is not there",
+         {"Application.csv", "System.csv"}},
+        {"an event log is missing",
+         [&] { fs::rename(site / "eventlogs/System.jsonl", folder / "System.jsonl"); },
+         "the System event log was not captured: File not found",
+         {"Application.csv", formattedName(log)}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        c.spoil();
+        const Outcome gathered = runJson({"gather", "standard", "--to", target.string()});
+        EXPECT_EQ(1, gathered.status);
+        EXPECT_EQ("orvandiag: not everything was gathered: " + c.reason + "\n", gathered.err);
+        EXPECT_EQ(c.files, gathered.json()["files"].get<std::vector<std::string>>());
+
+        write(registry, whole);
+        if (fs::exists(folder / "logs")) fs::rename(folder / "logs", logs);
+        if (fs::exists(folder / log)) fs::rename(folder / log, logs / log);
+        fs::remove_all(target);
+    }
+}
+
+TEST_F(GatherCommand, ACopyThatCantBeMadeIsToldAndTheOthersAreMade)
+{
+    std::vector<std::string> logs;
+    for (const auto& log : runJson({"logs", "KoNotify"}).json()) logs.push_back(log["fileName"]);
+    ASSERT_GE(logs.size(), 2U);
+    fs::create_directories(target / formattedName(logs[0]));
+    const Outcome gathered =
+        runJson({"gather", "logs", "--log", logs[0], "--log", logs[1], "--to", target.string()});
+    EXPECT_EQ(1, gathered.status);
+    EXPECT_EQ("orvandiag: not everything was gathered: " + logs[0] +
+                  " was not copied: Permission denied\n",
+              gathered.err);
+    EXPECT_THAT(gathered.json()["files"], ElementsAre(formattedName(logs[1])));
+}
+
+TEST_F(GatherCommand, OnlyTheFilesOfThisRunAreListed)
+{
+    const std::string log = currentLog();
+    ASSERT_EQ(0, run({"gather", "standard", "--to", target.string()}).status);
+    write(target / "notes.txt", "mine");
+    const std::vector<std::string> words = {"gather",      "logs",   "--log", log,
+                                            "--event-log", "System", "--to",  target.string()};
+    EXPECT_THAT(runJson(words).json()["files"], ElementsAre("System.csv", formattedName(log)));
+    EXPECT_EQ("Gathered into " + target.string() + "\n  System.csv\n  " + formattedName(log) + "\n",
+              run(words).out);
+    EXPECT_EQ("mine", read(target / "notes.txt"));
 }
 
 } // namespace

@@ -59,15 +59,26 @@ TEST(ImportDirections, EveryFolderIncludesOnlyWhatItMayKnow)
     EXPECT_THAT(violations, testing::IsEmpty());
 }
 
-TEST(ImportDirections, AHostIncludesNoOtherHost)
+TEST(ImportDirections, AHostIncludesNoOtherHostButWhatAllShare)
 {
     std::vector<std::string> violations;
     for (const auto& file : sourceFiles("src/hosts"))
         for (const auto& include : includesOf(file)) {
             const std::string to = layerOf(include.target);
-            if (isProjectInclude(include) && to.rfind("hosts/", 0) == 0 && to != layerOf(file))
+            const bool host = to.rfind("hosts/", 0) == 0 && to != "hosts/common";
+            if (isProjectInclude(include) && host && to != layerOf(file))
                 violations.push_back(file + " includes " + include.target);
         }
+    EXPECT_THAT(violations, testing::IsEmpty());
+}
+
+TEST(ImportDirections, WhatTheHostsShareUsesTheStandardLibraryAlone)
+{
+    std::vector<std::string> violations;
+    for (const auto& file : sourceFiles("src/hosts/common"))
+        for (const auto& include : includesOf(file))
+            if (!include.quoted && include.target.find_first_of("./") != std::string::npos)
+                violations.push_back(file + " includes <" + include.target + ">");
     EXPECT_THAT(violations, testing::IsEmpty());
 }
 

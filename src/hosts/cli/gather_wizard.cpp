@@ -2,6 +2,7 @@
 
 #include "hosts/cli/gather_run.h"
 #include "runtime/text.h"
+#include "wizards/gather_progress.h"
 #include "wizards/gather_welcome.h"
 
 namespace {
@@ -45,14 +46,15 @@ void tickBox(CheckBox& box, bool ticked)
 
 } // namespace
 
-GatherWizard::GatherWizard(OpenTool& tool, const GatherRequest& request)
-    : driver_(tool, taskKey), makesDatabase_(request.option == gatherOption::timeFrame)
+GatherWizard::GatherWizard(OpenTool& tool, const GatherRequest& request) : driver_(tool, taskKey)
 {
     chooseDestination(tool, request.destination);
     driver_.control<OptionButtonGroup>("optGatherLogs").click(request.option);
     driver_.next();
     if (request.option == gatherOption::byHand) tickLogs(request);
     if (request.option == gatherOption::timeFrame) enterFrame(request.frame);
+    progressPage_ = dynamic_cast<ppgGatherLogs03Step*>(&driver_.sheet().currentPage());
+    if (!progressPage_) throw CommandFailure("the wizard does not come to its progress page");
     steps_ = &driver_.control<TreeView>("treeviewSteps");
     currentStep_ = &driver_.control<Label>("lblCurrentProcess");
     current_ = &driver_.control<ProgressBar>("progressbarCurrentProcess");

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+class ppgGatherLogs03Step;
+
 /// What a person asks of the gather wizard.
 struct GatherRequest {
     int option = 0;                     ///< one of `gatherOption`
@@ -32,8 +34,8 @@ public:
     ProgressBar& current() { return *current_; }
     ProgressBar& overall() { return *overall_; }
 
-    /// Whether the run is to leave a trace database and a cabinet.
-    bool makesDatabase() const { return makesDatabase_; }
+    /// The page that runs the gather. It lives as long as this.
+    const ppgGatherLogs03Step& progressPage() const { return *progressPage_; }
 
     /// Lets the delay before the run pass at once, as there is nothing to paint, and returns when
     /// the run has. Raises CommandFailure when the wizard did not go on by itself, but for a
@@ -50,7 +52,7 @@ private:
 
     WizardDriver driver_;
     std::string destination_;
-    bool makesDatabase_;
+    const ppgGatherLogs03Step* progressPage_ = nullptr;
     TreeView* steps_ = nullptr;
     Label* currentStep_ = nullptr;
     ProgressBar* current_ = nullptr;

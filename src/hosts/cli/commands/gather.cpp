@@ -4,6 +4,7 @@
 #include "hosts/cli/gather_preview.h"
 #include "hosts/cli/gather_run.h"
 #include "hosts/cli/gather_wizard.h"
+#include "hosts/common/gather_outcome.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
 #include "runtime/text.h"
@@ -16,7 +17,6 @@
 
 namespace {
 
-constexpr const char* standardProcess = "KoCSMgr";
 constexpr const char* eventLogsKey = "System\\CurrentControlSet\\Services\\Eventlog";
 
 class GatherCommand final : public Command {
@@ -42,7 +42,7 @@ public:
     {
         app.require_subcommand(1);
         standard_ =
-            app.add_subcommand("standard", "The current " + std::string(standardProcess) +
+            app.add_subcommand("standard", "The current " + std::string(standardGatherProcess) +
                                                " log and the Application and System events");
         logs_ = app.add_subcommand("logs", "Logs chosen by name");
         logs_->add_option("--log", orvanLogs_, "a log in the server's log folder")
@@ -74,16 +74,16 @@ public:
         if (frame_->parsed()) request.frame = frameChoice();
         OpenTool tool(options, [&](OpenTool& opened) { requireSound(opened, request.frame); });
         if (!to_.empty()) request.destination = tool.toolPath(to_);
-        std::optional<GatherResult> result;
+        std::optional<GatherOutcome> outcome;
         {
             GatherWizard wizard(tool, request);
             if (dryRun_)
                 preview(tool, wizard, output);
             else
-                result = runGather(tool, wizard);
+                outcome = runGather(tool, wizard);
         }
         tool.close();
-        if (result) report(output, *result);
+        if (outcome) report(output, *outcome);
     }
 
 private:

@@ -1,4 +1,4 @@
-#include "hosts/cli/row_counts.h"
+#include "hosts/common/row_counts.h"
 
 #include "backends/jet/mapped_file.h"
 #include "backends/jet/reader.h"
@@ -19,4 +19,14 @@ try {
     return {counts.begin(), counts.end()};
 } catch (const RunTimeError&) {
     return {};
+}
+
+bool hasRows(const std::string& database)
+try {
+    const jet::MappedFile file(database);
+    const jet::Reader reader(file.bytes());
+    const jet::TableDefinition* table = reader.find("tblTraces");
+    return table != nullptr && reader.rows(*table).next();
+} catch (const RunTimeError&) {
+    return false;
 }

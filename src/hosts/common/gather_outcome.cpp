@@ -1,0 +1,334 @@
+#include "hosts/common/gather_outcome.h"
+
+#include "core/error_trap.h"
+#include "core/registry_store.h"
+#include "gather/logs.h"
+#include "hosts/common/row_counts.h"
+#include "platform/code_page.h"
+#include "platform/file_system.h"
+#include "platform/host_module.h"
+#include "platform/trace_database.h"
+#include "runtime/text.h"
+#include "wizards/gather_progress.h"
+#include "wizards/gather_welcome.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view pipelineProc = "[mdlLogs]processLogs";
+constexpr std::string_view filtersProc = "[mdlLogs]saveUniqueFilters";
+constexpr std::string_view packingProc = "[mdlLogs]compressResults";
+
+/// What a line may raise that is malformed: it is copied or stored as it can be.
+bool isOfAMalformedLine(int error)
+{
+    switch (error) {
+    case runTimeErrors::invalidCall:
+    case runTimeErrors::typeMismatch:
+    case runTimeErrors::invalidPropertyValue:
+    case traceDatabaseErrors::fieldTooSmall:
+    case traceDatabaseErrors::zeroLength:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Whether an error that a gather went on after cost the person a result. Whether packing did, its
+/// cabinet tells.
+bool costsAResult(const RunTimeError& error, std::string_view procName)
+{
+    return beginsWith(procName, "[mdlLogs]") && procName != packingProc &&
+           !isOfAMalformedLine(error.number());
+}
+
+/// The leaf that stands in bold; null between the logs.
+const TreeNode* currentLeaf(const TreeView& steps)
+{
+    for (int index = 1; index <= steps.count(); ++index)
+        if (steps.item(index).bold()) return &steps.item(index);
+    return nullptr;
+}
+
+/// The entries of a job's list.
+std::vector<std::string> namesIn(const StringArray& list)
+{
+    std::vector<std::string> names;
+    for (int index = 1; index <= list.upperBound(); ++index)
+        if (!list.at(index).empty()) names.push_back(list.at(index));
+    return names;
+}
+
+std::string formattedName(const std::string& log)
+{
+    const std::size_t dot = std::min(log.find('.'), log.size());
+    return log.substr(0, dot) + "_fmtd" + log.substr(dot);
+}
+
+std::string captureName(const std::string& eventLog)
+{
+    return eventLog + ".csv";
+}
+
+bool holds(const std::vector<std::string>& names, const std::string& wanted)
+{
+    return std::any_of(names.begin(), names.end(),
+                       [&](const std::string& name) { return equalIgnoringCase(name, wanted); });
+}
+
+/// Whether directives, which have one byte a character, can name a file there.
+bool cabinetCanName(const std::string& path)
+{
+    std::string named;
+    windows1252().appendUtf8(named, windows1252().bytesOf(path));
+    return named == path;
+}
+
+/// Logs that failed in one way are told in one sentence.
+void addTogether(std::vector<Sentence>& sentences, const std::vector<Sentence>& gaps)
+{
+    constexpr std::size_t toldOneByOne = 3;
+    std::map<std::pair<std::string_view, std::string>, std::vector<Sentence>> alike;
+    for (const Sentence& gap : gaps)
+        alike[{gap.pattern, gap.inserts.size() > 1 ? gap.inserts[1] : ""}].push_back(gap);
+    for (const auto& [way, group] : alike) {
+        if (group.size() <= toldOneByOne || way.second.empty())
+            sentences.insert(sentences.end(), group.begin(), group.end());
+        else
+            sentences.push_back(
+                {gatherSentences::logsCutShort,
+                 {std::to_string(group.size()), group.front().inserts[0], way.second}});
+    }
+}
+
+} // namespace
+
+std::vector<Sentence> GatherOutcome::sentences() const
+{
+    std::vector<Sentence> all;
+    if (cancelled) all.push_back({gatherSentences::cancelled, {}});
+    all.insert(all.end(), missing.begin(), missing.end());
+    if (emptyFrame) all.push_back({gatherSentences::emptyFrame, {}});
+    if ((cancelled || !missing.empty()) && !files.empty())
+        all.push_back({gatherSentences::kept, {destination}});
+    return all;
+}
+
+GatherWatch::GatherWatch(ToolContext& tool, const ppgGatherLogs03Step& page,
+                         MachinePath machinePath)
+    : tool_(tool), steps_(page.treeviewSteps), machinePath_(std::move(machinePath)),
+      standard_(page.job().m_bStandardLogs), timeFrame_(page.job().m_bTimeFrameLogs),
+      logs_(namesIn(page.job().getOrvanLogs())), eventLogs_(namesIn(page.job().getWindowsLogs())),
+      destination_(page.job().m_LogDestinationDirectory), before_(filesThere())
+{
+    listenedBefore_ = std::exchange(
+        tool_.onTrappedError,
+        [this](const RunTimeError& error, std::string_view procName) { note(error, procName); });
+}
+
+GatherWatch::~GatherWatch()
+{
+    tool_.onTrappedError = std::move(listenedBefore_);
+}
+
+void GatherWatch::messageShown()
+{
+    const TreeNode* leaf = currentLeaf(steps_);
+    if (leaf) add({Stage::serverLog, leaf->text(), false, ""});
+}
+
+void GatherWatch::note(const RunTimeError& error, std::string_view procName)
+{
+    if (!costsAResult(error, procName)) return;
+    const bool tooMany = error.number() == errorCountExceeded;
+    const TreeNode* leaf = currentLeaf(steps_);
+    if (leaf) {
+        const bool server = leaf->parent() && leaf->parent()->text() == mdlLogs::orvanLogsBranch;
+        add({server ? Stage::serverLog : Stage::eventLog, leaf->text(), tooMany,
+             error.description()});
+        return;
+    }
+    if (!troubleAt(Stage::run) && procName == pipelineProc)
+        destinationMade_ = fs::is_directory(machinePath_(destination_));
+    // The one file that the pipeline reads by itself is a definition, before the logs.
+    Stage stage = Stage::run;
+    if (procName == filtersProc)
+        stage = Stage::filters;
+    else if (procName == pipelineProc && error.number() == runTimeErrors::inputPastEnd)
+        stage = Stage::definitions;
+    add({stage, "", tooMany, tooMany ? "too many errors" : error.description()});
+}
+
+/// A counted trap tells of its errors one by one before it gives up, and that is what counts then.
+void GatherWatch::add(Trouble trouble)
+{
+    for (Trouble& known : troubles_) {
+        if (known.stage != trouble.stage || known.log != trouble.log) continue;
+        if (trouble.tooManyErrors) known = std::move(trouble);
+        return;
+    }
+    troubles_.push_back(std::move(trouble));
+}
+
+const GatherWatch::Trouble* GatherWatch::troubleAt(Stage stage, std::string_view log) const
+{
+    for (const Trouble& trouble : troubles_)
+        if (trouble.stage == stage && trouble.log == log) return &trouble;
+    return nullptr;
+}
+
+std::map<std::string, GatherWatch::Stamp> GatherWatch::filesThere() const
+{
+    std::map<std::string, Stamp> files;
+    std::error_code none;
+    for (const auto& entry : fs::directory_iterator(machinePath_(destination_), none))
+        if (entry.is_regular_file(none))
+            files[entry.path().filename().string()] = {entry.last_write_time(none),
+                                                       entry.file_size(none)};
+    return files;
+}
+
+/// Another program may write to the folder too: only a gather's own names count.
+bool GatherWatch::isOfThisRun(const std::string& name) const
+{
+    const auto named = [&](const std::string& wanted) { return equalIgnoringCase(name, wanted); };
+    const auto isCaptured = [&](const std::string& log) { return named(captureName(log)); };
+    if (std::any_of(eventLogs_.begin(), eventLogs_.end(), isCaptured)) return true;
+    if (timeFrame_)
+        return name == fs::path(machinePath_(tool_.g_strTraceDatabase)).filename() ||
+               (name.find("_WPN_") != std::string::npos && fs::path(name).extension() == ".cab");
+    const auto isCopied = [&](const std::string& log) { return named(formattedName(log)); };
+    return std::any_of(logs_.begin(), logs_.end(), isCopied);
+}
+
+/// A file that was there already is of this run when it was written anew: a cabinet may take the
+/// place of that of a gather in the same second.
+void GatherWatch::findFiles(GatherOutcome& outcome) const
+{
+    for (const auto& [name, stamp] : filesThere()) {
+        const auto known = before_.find(name);
+        if (known != before_.end() && known->second == stamp) continue;
+        if (!isOfThisRun(name)) continue;
+        outcome.files.push_back(name);
+        const fs::path path = fs::path(outcome.destination) / name;
+        if (!timeFrame_) continue;
+        if (path.extension() == ".cab")
+            outcome.cabinet = path.string();
+        else if (path.extension() == ".mdb")
+            outcome.database = path.string();
+    }
+}
+
+GatherOutcome GatherWatch::outcome() const
+{
+    GatherOutcome outcome;
+    outcome.destination = machinePath_(destination_);
+    outcome.cancelled = cancelled_;
+    std::error_code none;
+    outcome.destinationThere = fs::is_directory(outcome.destination, none);
+    if (!outcome.destinationThere) {
+        tellOfDestination(outcome);
+        return outcome;
+    }
+    findFiles(outcome);
+    if (timeFrame_) tellOfDatabase(outcome);
+    tellOfLogs(outcome);
+    tellOfEventLogs(outcome);
+    if (timeFrame_) tellOfCabinet(outcome);
+    return outcome;
+}
+
+void GatherWatch::tellOfDestination(GatherOutcome& outcome) const
+{
+    const Trouble* trouble = troubleAt(Stage::run);
+    if (trouble && !destinationMade_)
+        outcome.missing.push_back(
+            {gatherSentences::destinationNotMade, {outcome.destination, trouble->why}});
+    else
+        outcome.missing.push_back({gatherSentences::destinationGone, {outcome.destination}});
+}
+
+void GatherWatch::tellOfDatabase(GatherOutcome& outcome) const
+{
+    const Trouble* run = troubleAt(Stage::run);
+    if (!outcome.database) {
+        outcome.missing.push_back({gatherSentences::noDatabase, {run ? run->why : "it has gone"}});
+        return;
+    }
+    outcome.emptyFrame = !run && !hasRows(*outcome.database);
+    if (run) outcome.missing.push_back({gatherSentences::databaseIncomplete, {run->why}});
+    if (const Trouble* definitions = troubleAt(Stage::definitions))
+        outcome.missing.push_back({gatherSentences::definitionsIncomplete, {definitions->why}});
+    if (const Trouble* filters = troubleAt(Stage::filters))
+        outcome.missing.push_back({gatherSentences::filtersIncomplete, {filters->why}});
+}
+
+void GatherWatch::tellOfCabinet(GatherOutcome& outcome) const
+{
+    if (outcome.cabinet) return;
+    const std::string maker = tool_.platform.module.folder() + "\\cabmaker.exe";
+    if (!cabinetCanName(outcome.destination))
+        outcome.missing.push_back({gatherSentences::noCabinetForName, {}});
+    else if (!tool_.platform.files.fileExists(maker))
+        outcome.missing.push_back({gatherSentences::noCabinetMaker, {machinePath_(maker)}});
+    else
+        outcome.missing.push_back({gatherSentences::noCabinet, {}});
+}
+
+void GatherWatch::tellOfCurrentLog(GatherOutcome& outcome) const
+{
+    const std::string current =
+        getRegistryText(tool_, std::string(logManagerKey) + "\\Process\\" + standardGatherProcess,
+                        "CurrentLogFile");
+    if (current.empty())
+        outcome.missing.push_back({gatherSentences::noCurrentLog, {standardGatherProcess}});
+    else
+        outcome.missing.push_back(
+            {gatherSentences::currentLogGone, {standardGatherProcess, current}});
+}
+
+/// A cancel leaves logs untouched, which is no news; without a database no log had a chance.
+void GatherWatch::tellOfLogs(GatherOutcome& outcome) const
+{
+    if (standard_ && logs_.empty()) tellOfCurrentLog(outcome);
+    if (timeFrame_ && !tool_.platform.files.folderExists(tool_.g_strLogFolder))
+        outcome.missing.push_back({gatherSentences::noLogFolder, {tool_.g_strLogFolder}});
+    if (timeFrame_ && (!outcome.database || troubleAt(Stage::run))) return;
+    std::vector<Sentence> gaps;
+    for (const std::string& log : logs_)
+        if (const auto gap = gapOf(log, outcome)) gaps.push_back(*gap);
+    addTogether(outcome.missing, gaps);
+}
+
+std::optional<Sentence> GatherWatch::gapOf(const std::string& log,
+                                           const GatherOutcome& outcome) const
+{
+    const Trouble* trouble = troubleAt(Stage::serverLog, log);
+    const bool written = timeFrame_ || holds(outcome.files, formattedName(log));
+    if (!trouble) {
+        if (written || cancelled_) return {};
+        return Sentence{gatherSentences::logNotCopied, {log, "the copy has gone"}};
+    }
+    if (trouble->tooManyErrors) return Sentence{gatherSentences::tooManyMalformedLines, {log}};
+    if (trouble->why.empty())
+        return Sentence{gatherSentences::logNotFound, {log, tool_.g_strLogFolder}};
+    if (timeFrame_) return Sentence{gatherSentences::logReadInPart, {log, trouble->why}};
+    return Sentence{written ? gatherSentences::logCopiedInPart : gatherSentences::logNotCopied,
+                    {log, trouble->why}};
+}
+
+void GatherWatch::tellOfEventLogs(GatherOutcome& outcome) const
+{
+    for (const std::string& log : eventLogs_) {
+        const Trouble* trouble = troubleAt(Stage::eventLog, log);
+        if (trouble)
+            outcome.missing.push_back({gatherSentences::eventLogNotCaptured, {log, trouble->why}});
+        else if (!cancelled_ && !holds(outcome.files, captureName(log)))
+            outcome.missing.push_back(
+                {gatherSentences::eventLogNotCaptured, {log, "its file has gone"}});
+    }
+}

@@ -1,0 +1,169 @@
+#pragma once
+
+#include "hosts/common/sentence.h"
+#include "runtime/run_time_error.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class TreeNode;
+class TreeView;
+class ppgGatherLogs03Step;
+struct ToolContext;
+
+/// The sentences about a gather, for a host that translates them.
+namespace gatherSentences {
+constexpr std::string_view noCurrentLog = "The server names no current log of %1.";
+constexpr std::string_view currentLogGone = "The current log of %1, %2, is not there.";
+constexpr std::string_view noLogFolder = "The server's log folder %1 is not there.";
+constexpr std::string_view logNotFound = "%1 was not gathered: it is not in %2.";
+constexpr std::string_view logNotCopied = "%1 was not copied: %2.";
+constexpr std::string_view logCopiedInPart = "%1 was copied in part: %2.";
+constexpr std::string_view logReadInPart = "%1 was not gathered as a whole: %2.";
+constexpr std::string_view logsCutShort =
+    "%1 logs were not gathered as a whole, the first of them %2: %3.";
+constexpr std::string_view tooManyMalformedLines =
+    "%1 has too many malformed lines, and was read no further than the eleventh.";
+constexpr std::string_view eventLogNotCaptured = "The %1 event log was not captured: %2.";
+constexpr std::string_view destinationNotMade = "The destination %1 can't be made: %2.";
+constexpr std::string_view destinationGone = "The destination %1 has gone.";
+constexpr std::string_view noDatabase = "No trace database was made: %1.";
+constexpr std::string_view databaseIncomplete = "The trace database is not complete: %1.";
+constexpr std::string_view definitionsIncomplete =
+    "The macro trace definitions could not all be stored: %1.";
+constexpr std::string_view filtersIncomplete = "The filters could not all be stored: %1.";
+constexpr std::string_view noCabinet = "No cabinet was made.";
+constexpr std::string_view noCabinetMaker = "No cabinet was made: the cabinet maker %1 is missing.";
+constexpr std::string_view noCabinetForName =
+    "No cabinet was made: the destination's name has characters that Windows-1252 lacks.";
+constexpr std::string_view cancelled = "The gather was cancelled.";
+constexpr std::string_view emptyFrame = "No line lies in the time frame.";
+constexpr std::string_view kept = "What was gathered is kept in %1.";
+
+/// Each of them once.
+constexpr std::string_view all[] = {
+    noCurrentLog,
+    currentLogGone,
+    noLogFolder,
+    logNotFound,
+    logNotCopied,
+    logCopiedInPart,
+    logReadInPart,
+    logsCutShort,
+    tooManyMalformedLines,
+    eventLogNotCaptured,
+    destinationNotMade,
+    destinationGone,
+    noDatabase,
+    databaseIncomplete,
+    definitionsIncomplete,
+    filtersIncomplete,
+    noCabinet,
+    noCabinetMaker,
+    noCabinetForName,
+    cancelled,
+    emptyFrame,
+    kept,
+};
+} // namespace gatherSentences
+
+/// What a run of the gather pipeline left, and what it left undone.
+struct GatherOutcome {
+    std::string destination;             ///< as a path of this machine
+    bool destinationThere = false;       ///< whether that folder is there now
+    std::vector<std::string> files;      ///< names of what this run wrote there, sorted
+    std::optional<std::string> database; ///< paths of this machine; none when it was not made
+    std::optional<std::string> cabinet;
+    bool cancelled = false;
+    bool emptyFrame = false; ///< a database was made, and no line lies in the time frame
+
+    /// What was asked for and is not there as a whole, and why. Empty when the gather brought all.
+    std::vector<Sentence> missing;
+
+    /// What to tell the person beside the tool's own texts: a cancel, what is missing, an empty
+    /// time frame, and where the rest is kept. Empty when there is nothing to add.
+    std::vector<Sentence> sentences() const;
+};
+
+/// Follows one run of the gather pipeline, whose own texts tell of no failure.
+///
+/// Made before the run, while the progress page is on show with its steps; asked after it.
+class GatherWatch {
+public:
+    /// Where a path of the tool lies on this machine.
+    using MachinePath = std::function<std::string(const std::string&)>;
+
+    /// `tool`, and the page until the run has returned, outlive the watch. Raises 424 for a page
+    /// without a job, and 9 for a job whose lists were never cleared.
+    GatherWatch(ToolContext& tool, const ppgGatherLogs03Step& page, MachinePath machinePath);
+    ~GatherWatch();
+    GatherWatch(const GatherWatch&) = delete;
+    GatherWatch& operator=(const GatherWatch&) = delete;
+
+    /// To be called at each message box of the run: the one that the pipeline has tells of a log
+    /// that is not there.
+    void messageShown();
+
+    /// To be called when the person cancels.
+    void cancelled() { cancelled_ = true; }
+
+    /// What the run left. To be asked once it has returned.
+    GatherOutcome outcome() const;
+
+private:
+    struct Stamp {
+        std::filesystem::file_time_type written;
+        std::uintmax_t size;
+
+        bool operator==(const Stamp&) const = default;
+    };
+
+    enum class Stage { run, definitions, serverLog, eventLog, filters };
+
+    /// Why a part of the gather is not whole.
+    struct Trouble {
+        Stage stage;
+        std::string log; ///< empty but for the stages of a log
+        bool tooManyErrors;
+        std::string why;
+    };
+
+    void note(const RunTimeError& error, std::string_view procName);
+    void add(Trouble trouble);
+
+    /// Null when nothing went wrong there.
+    const Trouble* troubleAt(Stage stage, std::string_view log = {}) const;
+
+    std::map<std::string, Stamp> filesThere() const;
+    bool isOfThisRun(const std::string& name) const;
+    void findFiles(GatherOutcome& outcome) const;
+    void tellOfDestination(GatherOutcome& outcome) const;
+    void tellOfDatabase(GatherOutcome& outcome) const;
+    void tellOfCabinet(GatherOutcome& outcome) const;
+    void tellOfCurrentLog(GatherOutcome& outcome) const;
+    void tellOfLogs(GatherOutcome& outcome) const;
+    void tellOfEventLogs(GatherOutcome& outcome) const;
+    std::optional<Sentence> gapOf(const std::string& log, const GatherOutcome& outcome) const;
+
+    ToolContext& tool_;
+    const TreeView& steps_;
+    MachinePath machinePath_;
+    std::function<void(const RunTimeError&, std::string_view)> listenedBefore_;
+
+    bool standard_;
+    bool timeFrame_;
+    std::vector<std::string> logs_;
+    std::vector<std::string> eventLogs_;
+    std::string destination_; ///< as the tool's path
+    std::map<std::string, Stamp> before_;
+
+    std::vector<Trouble> troubles_; ///< the first of each log and stage
+    bool destinationMade_ = true;   ///< whether it was there when a stage had its first trouble
+    bool cancelled_ = false;
+};

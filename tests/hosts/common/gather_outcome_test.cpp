@@ -1,0 +1,215 @@
+#include "hosts/common/gather_outcome.h"
+
+#include "backends/portable/temporary_folder.h"
+#include "core/error_trap.h"
+#include "wizards/gather_wizard_fixture.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// A gather whose page is on show: a test plays what the run does, and asks what came of it.
+struct GatherOutcomeTest : GatherWizardTest {
+    TemporaryFolder machine;
+    std::string out = machine.makeFolder("Out");
+
+    /// Goes to the progress page with a job of its own.
+    void job(std::vector<std::string> logs, std::vector<std::string> windowsLogs)
+    {
+        sheet->show();
+        shared->clearOrvanLogs();
+        shared->clearWindowsLogs();
+        for (const auto& log : logs) shared->addOrvanLog(log);
+        for (const auto& log : windowsLogs) shared->addWindowsLog(log);
+        int button = 0;
+        bool back = false;
+        std::string text;
+        progress->IWizardPage_Activate(back, button, text);
+    }
+
+    GatherWatch watch()
+    {
+        return GatherWatch(tool.context, *progress, [this](const std::string& path) {
+            return machine.path() + "/" + path.substr(3);
+        });
+    }
+
+    /// An error in a routine of the pipeline, while a log is being gathered or between them.
+    void fail(int error, const char* routine = "processLogs", const std::string& log = {})
+    {
+        const auto mark = [&](bool bold) {
+            auto& steps = progress->treeviewSteps;
+            for (int index = 1; index <= steps.count(); ++index)
+                if (!log.empty() && steps.item(index).text() == log)
+                    steps.item(index).setBold(bold);
+        };
+        mark(true);
+        ErrorTrap step{tool.context, "mdlLogs", routine};
+        step([&] { throw RunTimeError(error); });
+        mark(false);
+    }
+
+    static std::vector<std::string> texts(const std::vector<Sentence>& sentences)
+    {
+        std::vector<std::string> all;
+        for (const auto& sentence : sentences) all.push_back(sentence.text());
+        return all;
+    }
+};
+
+TEST_F(GatherOutcomeTest, AGatherThatBroughtAllHasNothingToTell)
+{
+    job({"diag_A_1.txt"}, {"System"});
+    const GatherWatch watched = watch();
+    machine.write("Out/diag_A_1_fmtd.txt", "x");
+    machine.write("Out/System.csv", "x");
+    const GatherOutcome outcome = watched.outcome();
+    EXPECT_THAT(outcome.files, ElementsAre("System.csv", "diag_A_1_fmtd.txt"));
+    EXPECT_THAT(outcome.sentences(), IsEmpty());
+}
+
+TEST_F(GatherOutcomeTest, OnlyWhatThisRunWroteCounts)
+{
+    job({"diag_A_1.txt"}, {"System", "Application"});
+    machine.write("Out/diag_A_1_fmtd.txt", "of an earlier gather");
+    machine.write("Out/System.csv", "of an earlier gather, too");
+    machine.write("Out/notes.txt", "x");
+    const GatherWatch watched = watch();
+    machine.write("Out/System.csv", "new");
+    machine.write("Out/Application.csv", "new");
+    machine.write("Out/notes.txt", "another program's");
+    const GatherOutcome outcome = watched.outcome();
+    EXPECT_THAT(outcome.files, ElementsAre("Application.csv", "System.csv"));
+    EXPECT_THAT(texts(outcome.missing),
+                ElementsAre("diag_A_1.txt was not copied: the copy has gone."));
+}
+
+TEST_F(GatherOutcomeTest, TellsTheFirstErrorOfEachLogAndWhereTheRestIsKept)
+{
+    job({"diag_A_1.txt", "diag_B_1.txt"}, {"System"});
+    const GatherWatch watched = watch();
+    machine.write("Out/diag_A_1_fmtd.txt", "half of it");
+    fail(runTimeErrors::diskFull, "processOrvanLogFile", "diag_A_1.txt");
+    fail(runTimeErrors::deviceIo, "processOrvanLogFile", "diag_A_1.txt");
+    fail(runTimeErrors::permissionDenied, "processOrvanLogFile", "diag_B_1.txt");
+    fail(runTimeErrors::fileNotFound, "processWindowsEventLogFile", "System");
+    EXPECT_THAT(texts(watched.outcome().sentences()),
+                ElementsAre("diag_A_1.txt was copied in part: Disk full.",
+                            "diag_B_1.txt was not copied: Permission denied.",
+                            "The System event log was not captured: File not found.",
+                            "What was gathered is kept in " + out + "."));
+}
+
+TEST_F(GatherOutcomeTest, AMalformedLineCostsNothing)
+{
+    job({"diag_A_1.txt"}, {});
+    const GatherWatch watched = watch();
+    machine.write("Out/diag_A_1_fmtd.txt", "x");
+    fail(runTimeErrors::invalidCall, "processOrvanLogFile", "diag_A_1.txt");
+    EXPECT_THAT(watched.outcome().missing, IsEmpty());
+}
+
+TEST_F(GatherOutcomeTest, ABoxDuringALogTellsThatItIsNotThere)
+{
+    job({"diag_A_1.txt"}, {});
+    GatherWatch watched = watch();
+    progress->treeviewSteps.item(2).setBold(true);
+    watched.messageShown();
+    EXPECT_THAT(texts(watched.outcome().missing),
+                ElementsAre("diag_A_1.txt was not gathered: it is not in C:\\Logs."));
+}
+
+TEST_F(GatherOutcomeTest, AStandardGatherTellsWhyItHasNoCurrentLog)
+{
+    job({}, {});
+    shared->m_bStandardLogs = true;
+    withProcess("KoCSMgr");
+    EXPECT_THAT(texts(watch().outcome().missing),
+                ElementsAre("The server names no current log of KoCSMgr."));
+    tool.registry.withText(processKey("KoCSMgr"), "CurrentLogFile", "C:\\Logs\\diag_KoCSMgr_1.txt");
+    EXPECT_THAT(
+        texts(watch().outcome().missing),
+        ElementsAre("The current log of KoCSMgr, C:\\Logs\\diag_KoCSMgr_1.txt, is not there."));
+}
+
+TEST_F(GatherOutcomeTest, AGatherByHandMayHaveNoLogs)
+{
+    job({}, {"System"});
+    const GatherWatch watched = watch();
+    machine.write("Out/System.csv");
+    EXPECT_THAT(watched.outcome().missing, IsEmpty());
+}
+
+TEST_F(GatherOutcomeTest, AFrameTellsOfItsDatabaseItsCabinetAndTheLogFolder)
+{
+    job({"diag_A_1.txt"}, {});
+    shared->m_bTimeFrameLogs = true;
+    tool.context.g_strTraceDatabase = "C:\\Out\\PC_WPN_1.mdb";
+    tool.context.g_strLogFolder = "C:\\Gone";
+    const GatherWatch watched = watch();
+    fail(runTimeErrors::diskFull, "createNewDB");
+    fail(runTimeErrors::objectVariableNotSet, "processOrvanLogFileToDB", "diag_A_1.txt");
+    const GatherOutcome outcome = watched.outcome();
+    EXPECT_FALSE(outcome.database);
+    EXPECT_FALSE(outcome.cabinet);
+    EXPECT_THAT(texts(outcome.missing),
+                ElementsAre("No trace database was made: Disk full.",
+                            "The server's log folder C:\\Gone is not there.",
+                            testing::StartsWith("No cabinet was made: the cabinet maker ")));
+}
+
+TEST_F(GatherOutcomeTest, ManyLogsWithOneTroubleAreToldInOneSentence)
+{
+    std::vector<std::string> logs;
+    for (int number = 1; number <= 4; ++number)
+        logs.push_back("diag_A_" + std::to_string(number) + ".txt");
+    job(logs, {});
+    const GatherWatch watched = watch();
+    for (const auto& log : logs) fail(runTimeErrors::diskFull, "processOrvanLogFile", log);
+    EXPECT_THAT(
+        texts(watched.outcome().missing),
+        ElementsAre(
+            "4 logs were not gathered as a whole, the first of them diag_A_1.txt: Disk full."));
+}
+
+TEST_F(GatherOutcomeTest, ACancelIsToldWithWhatIsKeptAndNotWithWhatWasLeftOut)
+{
+    job({"diag_A_1.txt", "diag_B_1.txt"}, {"System"});
+    GatherWatch watched = watch();
+    machine.write("Out/diag_A_1_fmtd.txt", "half of it");
+    watched.cancelled();
+    EXPECT_THAT(
+        texts(watched.outcome().sentences()),
+        ElementsAre("The gather was cancelled.", "What was gathered is kept in " + out + "."));
+}
+
+TEST_F(GatherOutcomeTest, ADestinationThatWasNeverMadeIsToldOtherwiseThanOneThatHasGone)
+{
+    job({}, {"System"});
+    std::filesystem::remove(out);
+    const GatherWatch never = watch();
+    EXPECT_THAT(texts(never.outcome().missing),
+                ElementsAre("The destination " + out + " has gone."));
+    fail(runTimeErrors::permissionDenied);
+    EXPECT_THAT(texts(never.outcome().missing),
+                ElementsAre("The destination " + out + " can't be made: Permission denied."));
+}
+
+TEST_F(GatherOutcomeTest, WhoListenedBeforeListensAgain)
+{
+    job({}, {});
+    int heard = 0;
+    tool.context.onTrappedError = [&](const RunTimeError&, std::string_view) { ++heard; };
+    {
+        const GatherWatch watched = watch();
+        fail(runTimeErrors::diskFull);
+    }
+    EXPECT_EQ(0, heard);
+    fail(runTimeErrors::diskFull);
+    EXPECT_EQ(1, heard);
+}
+
+} // namespace
