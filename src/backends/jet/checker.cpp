@@ -47,7 +47,12 @@ private:
         std::uint32_t found = 0;
         Rows rows(pages_, table);
         for (; rows.next(); ++found) {
-            for (std::size_t column = 0; column < table.columns.size(); ++column) rows.text(column);
+            for (std::size_t place = 0; place < table.columns.size(); ++place) {
+                rows.text(place);
+                const Column& column = table.columns[place];
+                if (column.isLongValue() && !rows.isNull(place))
+                    checkLongValue(table.name + "." + column.name, rows.cell(place));
+            }
         }
         if (found != table.rowCount)
             report(table.name + ": " + std::to_string(found) + " rows, counted as " +
@@ -84,6 +89,54 @@ private:
         }
         checkMap(name, owned);
         checkMap(name, free);
+    }
+
+    /// A long value of its own pages lies on those of its column and takes as many bytes as its
+    /// head says; a chain begins on a page that carries the head's stamp. It has been read before.
+    void checkLongValue(const std::string& name, std::string_view cell)
+    {
+        if (cell.empty()) return;
+        const std::uint32_t head = load32(cell.data());
+        const std::size_t size = head & longValue::lengthMask;
+        const RowPointer first = RowPointer::load(cell.data() + 4);
+        std::size_t found = 0;
+        if ((head & longValue::inlineKind) != 0) {
+            found = cell.size() - longValue::head;
+            if (found > longValue::longestInline)
+                report(name + ": " + std::to_string(found) + " bytes lie in a row");
+        } else if ((head & longValue::oneRowKind) != 0) {
+            requireOwner(first.page, name);
+            found = pages_.row(first).size();
+        } else {
+            if (load32(pages_.at(first.page) + dataPage::stamp) != load32(cell.data() + 8))
+                report(name + ": another stamp on page " + std::to_string(first.page));
+            found = chainBytes(first, size, name);
+        }
+        if (found != size)
+            report(name + ": a long value of " + std::to_string(size) + " bytes has " +
+                   std::to_string(found));
+    }
+
+    /// The bytes of a chain, counted no further than past `size`.
+    std::size_t chainBytes(RowPointer at, std::size_t size, const std::string& name)
+    {
+        std::size_t found = 0;
+        while (at.page != 0 && found <= size) {
+            requireOwner(at.page, name);
+            const std::string_view piece = pages_.row(at);
+            if (piece.size() <= 4) break;
+            found += piece.size() - 4;
+            at = RowPointer::load(piece.data());
+        }
+        return found;
+    }
+
+    void requireOwner(std::uint32_t page, const std::string& name)
+    {
+        const auto owner = owners_.find(page);
+        if (owner == owners_.end() || owner->second != name)
+            report("page " + std::to_string(page) + " holds long values of " + name +
+                   " and does not belong to it");
     }
 
     void claim(std::uint32_t page, const std::string& name)

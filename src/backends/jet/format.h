@@ -36,6 +36,7 @@ constexpr std::uint32_t catalogPage = 2;
 namespace dataPage {
 constexpr std::size_t freeBytes = 0x02;
 constexpr std::size_t owner = 0x04;
+constexpr std::size_t stamp = 0x08; // of the chain that begins here
 constexpr std::size_t rowCount = 0x0C;
 constexpr std::size_t slots = 0x0E;
 constexpr std::uint16_t offsetMask = 0x1FFF;
@@ -52,11 +53,12 @@ constexpr std::size_t head = 12;
 constexpr std::uint32_t inlineKind = 0x8000'0000;
 constexpr std::uint32_t oneRowKind = 0x4000'0000;
 constexpr std::uint32_t lengthMask = 0x3FFF'FFFF;
-constexpr std::size_t longestInline = 64;
-constexpr std::size_t longestRow = 4076;
-constexpr std::size_t pieceBytes = longestRow - 4;
+constexpr std::size_t longestInline = 64; // as plain bytes, whatever the stored form takes
+constexpr std::size_t longestRow = 3804;  // likewise: the engine makes chains of longer ones
+constexpr std::size_t longestPiece = 4076;
+constexpr std::size_t pieceBytes = longestPiece - 4;
 constexpr std::size_t longest = 16'777'215;
-constexpr std::size_t longestCompressed = 1024; // characters
+constexpr std::size_t longestCompressed = 4096; // bytes in that form
 } // namespace longValue
 
 namespace tableDefinition {

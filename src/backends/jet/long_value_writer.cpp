@@ -83,9 +83,11 @@ RowPointer LongValueWriter::storeChain(const TextValue& text, const StoredForm& 
         std::memcpy(row + 4, bytes.data() + at, size);
         page.publish(4 + size);
     }
+    const RowPointer first = {pages.front(), 0};
+    store32(file_.page(first.page) + dataPage::stamp, chainStamp(first));
     inThisOrder();
     for (const std::uint32_t page : pages) own(page);
-    return {pages.front(), 0};
+    return first;
 }
 
 void LongValueWriter::own(std::uint32_t page)

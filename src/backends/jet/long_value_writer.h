@@ -31,6 +31,13 @@ private:
     std::uint32_t current_ = 0; ///< the page with room; 0 for none
 };
 
+/// The mark that a chain's head in the row and its first page share, so that a head that leads to
+/// another text shows. A page is never used for a second chain, which makes its number such a mark.
+inline std::uint32_t chainStamp(RowPointer first)
+{
+    return first.page;
+}
+
 /// The page that a free map and an owned map agree on, and that belongs to `owner`; 0 for none.
 std::uint32_t pageWithRoom(const PageFile& file, RowPointer owned, RowPointer free,
                            std::uint32_t owner);

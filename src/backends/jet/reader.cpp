@@ -5,18 +5,21 @@
 #include "runtime/text.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <charconv>
 
 namespace jet {
 
 namespace {
 
+/// 0 for a cell that is empty, as that of a column without a value is.
 template <typename Number>
 Number numberIn(std::string_view cell)
 {
-    Number number = 0;
-    std::memcpy(&number, cell.data(), std::min(cell.size(), sizeof number));
-    return number;
+    std::array<char, sizeof(Number)> bytes{};
+    cell.copy(bytes.data(), bytes.size());
+    return std::bit_cast<Number>(bytes);
 }
 
 std::string hexadecimal(std::string_view bytes)
@@ -91,6 +94,11 @@ std::string Rows::text(std::size_t place) const
     default:
         return hexadecimal(cell);
     }
+}
+
+std::string_view Rows::cell(std::size_t column) const
+{
+    return row_.cell(table_.columns[column]);
 }
 
 std::int64_t Rows::number(std::size_t place) const

@@ -28,6 +28,9 @@ public:
     /// text. Raises 3343.
     std::string text(std::size_t column) const;
 
+    /// A value's bytes as they are stored in the row: of a long value, its head. Raises 3343.
+    std::string_view cell(std::size_t column) const;
+
     /// The value of a column of whole numbers; 0 for Null and for other types. Raises 3343.
     std::int64_t number(std::size_t column) const;
 

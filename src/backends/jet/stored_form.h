@@ -33,13 +33,16 @@ inline StoredForm formOfText(const TextValue& text, bool mayCompress)
     return form;
 }
 
+/// The same for a Memo, whose place goes by the plain size in either form.
 inline StoredForm formOfMemo(const TextValue& text, bool mayCompress)
 {
     const std::size_t characters = text.characters();
-    StoredForm form = formOfText(text, mayCompress && characters <= longValue::longestCompressed);
-    if (plainSize(characters) > longValue::longestInline)
-        form.place = form.bytes <= longValue::longestRow ? StoredForm::Place::oneRow
-                                                         : StoredForm::Place::chain;
+    const std::size_t plain = plainSize(characters);
+    const bool worthIt = compressedSize(characters) <= longValue::longestCompressed;
+    StoredForm form = formOfText(text, mayCompress && worthIt);
+    if (plain > longValue::longestInline)
+        form.place =
+            plain <= longValue::longestRow ? StoredForm::Place::oneRow : StoredForm::Place::chain;
     return form;
 }
 

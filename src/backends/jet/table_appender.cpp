@@ -146,7 +146,7 @@ void TableAppender::writeRow(char* at, std::span<const Cell> cells, std::size_t 
         char* head = row.variable(slot.form.memoCellBytes());
         store32(head, size | kind);
         store32(head + 4, slot.form.place == Place::inRow ? 0 : slot.stored.stored());
-        store32(head + 8, 0);
+        store32(head + 8, slot.form.place == Place::chain ? chainStamp(slot.stored) : 0);
         if (slot.form.place == Place::inRow)
             writeText(head + longValue::head, text, slot.form.compressed);
     }

@@ -101,14 +101,15 @@ const Shape shapes[] = {
     {"numbers", addNumbers},
     {"memos at every threshold",
      [](TraceDatabase& database) {
-         addMemos(database, "x", {0,    1,    2,    3,    31,   32,   33,   60,    64,    65,
-                                  1023, 1024, 1025, 2000, 2036, 2037, 2038, 2039,  3804,  4000,
-                                  4072, 4076, 4077, 6108, 6109, 8144, 8145, 10180, 65'000});
+         addMemos(database, "x",
+                  {0,    1,    2,    3,    31,   32,   33,   60,   64,   65,    1023,
+                   1024, 1025, 1901, 1902, 1903, 2038, 2039, 3804, 4000, 4070,  4071,
+                   4072, 4076, 4093, 4094, 4095, 6108, 6109, 8144, 8145, 10180, 65'000});
      }},
     {"memos in other scripts",
      [](TraceDatabase& database) {
-         addMemos(database, "\xD0\x96", {1, 32, 33, 1024, 2038, 2039, 4000, 65'000});
-         addMemos(database, "\xC3\xAB", {1, 3, 32, 33, 1024, 1025, 4000});
+         addMemos(database, "\xD0\x96", {1, 32, 33, 1024, 1902, 1903, 2036, 2037, 4000, 65'000});
+         addMemos(database, "\xC3\xAB", {1, 3, 32, 33, 1024, 1025, 1902, 1903, 4094, 4095});
      }},
     {"foreign texts", addForeignTexts},
     {"texts at the column's limit", addTextsAtTheLimit},

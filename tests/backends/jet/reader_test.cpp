@@ -81,6 +81,27 @@ TEST(Reader, GivesNumbersAsNumbers)
     EXPECT_EQ(nullptr, reader.find("tblNone"));
 }
 
+TEST(Reader, GivesNullAsZero)
+{
+    ScratchDatabase scratch;
+    auto engine = machineEngine();
+    {
+        const auto database = engine.openDatabase(scratch.path().string());
+        const auto traces = database->openRecordset("tblTraces");
+        traces->addNew();
+        traces->update();
+    }
+    const std::string image = bytesOfFile(scratch.path());
+    const jet::Reader reader(image);
+    const jet::TableDefinition& table = *reader.find("tblTraces");
+    auto rows = reader.rows(table);
+    ASSERT_TRUE(rows.next());
+    const auto traceNumber = static_cast<std::size_t>(table.find("TraceNumber"));
+    EXPECT_TRUE(rows.isNull(traceNumber));
+    EXPECT_EQ(0, rows.number(traceNumber));
+    EXPECT_EQ("", rows.text(traceNumber));
+}
+
 TEST(Reader, RefusesWhatIsNoDatabase)
 {
     std::string encrypted = threeFilters();
@@ -154,6 +175,52 @@ TEST(Reader, TellsWhatIsWrongWithAFileThatCanBeRead)
         image[c.page * pageSize + c.at] = c.value;
         std::string problems;
         for (const auto& problem : jet::Reader(image).problems()) problems += problem + "\n";
+        EXPECT_NE(std::string::npos, problems.find(c.problem)) << problems;
+    }
+}
+
+TEST(Reader, TellsWhatIsWrongWithALongText)
+{
+    ScratchDatabase scratch;
+    auto engine = machineEngine();
+    for (const std::size_t length : {20u, 100u, 5000u}) {
+        const auto database = engine.openDatabase(scratch.path().string());
+        const auto macros = database->openRecordset("tblMacroTraces");
+        macros->addNew();
+        macros->field("Data").setText(std::string(length, 'x'));
+        macros->update();
+    }
+    const std::string sound = bytesOfFile(scratch.path());
+    const auto problemsOfImage = [](const std::string& image) {
+        std::string problems;
+        for (const auto& problem : jet::Reader(image).problems()) problems += problem + "\n";
+        return problems;
+    };
+    EXPECT_EQ("", problemsOfImage(sound));
+
+    // Page 23 has the rows, 24 the text of 100 characters, 25 to 27 the chain of 10,000 bytes.
+    constexpr std::size_t chain = 25 * pageSize;
+    ASSERT_EQ(25, sound[chain + 8]) << "the stamp is the number of the chain's first page";
+    const std::string head("\x10\x27\0\0\0\x19\0\0\x19\0\0\0", 12);
+    const std::size_t cell = sound.find(head);
+    ASSERT_EQ(cell / pageSize, 23u);
+    struct Case {
+        const char* because;
+        std::size_t at;
+        char value;
+        const char* problem;
+    };
+    const Case cases[] = {
+        {"a stamp of another chain", chain + 8, 7, "tblMacroTraces.Data: another stamp on page 25"},
+        {"a head that tells less than there is", cell, 0, "of 9984 bytes has 10000"},
+        {"a page of another column", 19 * pageSize + pageSize - 3 * 69 + 5 + 3, 0x0D,
+         "page 25 holds long values of tblMacroTraces.Data and does not belong to it"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        std::string image = sound;
+        image[c.at] = c.value;
+        const std::string problems = problemsOfImage(image);
         EXPECT_NE(std::string::npos, problems.find(c.problem)) << problems;
     }
 }

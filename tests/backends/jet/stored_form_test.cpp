@@ -59,10 +59,14 @@ TEST(FormOfMemo, GoesByItsSizeToTheRowToAPageOrToAChain)
         {"whatever their stored form takes", "x", 33, Place::oneRow, true, 35},
         {"the same without compression", "\xD0\x96", 32, Place::inRow, false, 64},
         {"a character more", "\xD0\x96", 33, Place::oneRow, false, 66},
-        {"the longest that is compressed", "x", 1024, Place::oneRow, true, 1026},
-        {"a longer one is plain", "x", 1025, Place::oneRow, false, 2050},
-        {"the longest on one page", "x", 2038, Place::oneRow, false, 4076},
-        {"a character more makes a chain", "x", 2039, Place::chain, false, 4078},
+        {"3,804 plain bytes are the last in a row of their own", "x", 1902, Place::oneRow, true,
+         1904},
+        {"whatever their stored form takes, more of them make a chain", "x", 1903, Place::chain,
+         true, 1905},
+        {"the same without compression", "\xD0\x96", 1902, Place::oneRow, false, 3804},
+        {"a character more", "\xD0\x96", 1903, Place::chain, false, 3806},
+        {"the longest that is compressed takes 4,096 bytes", "x", 4094, Place::chain, true, 4096},
+        {"a longer one is plain", "x", 4095, Place::chain, false, 8190},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.because);
