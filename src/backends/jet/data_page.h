@@ -17,7 +17,7 @@ public:
     DataPage() = default;
     explicit DataPage(char* page) : page_(page) {}
 
-    /// Makes an empty data page of a page of zeros.
+    /// Makes an empty data page of an empty one, or of a page of zeros.
     static DataPage begin(char* page, std::uint32_t owner)
     {
         page[0] = static_cast<char>(PageType::data);

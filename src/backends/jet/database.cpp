@@ -10,8 +10,8 @@ namespace jet {
 Database::Database(const std::string& path)
     : file_(path), globalMap_(checked(file_)), tables_(readCatalog(file_.pages()))
 {
-    file_.dropPartialPage();
     dropUnusedTail();
+    file_.trim();
 }
 
 const TableDefinition* Database::find(std::string_view name) const
@@ -31,9 +31,7 @@ PageFile& Database::checked(PageFile& file)
 void Database::dropUnusedTail()
 {
     const auto isUnused = [&](std::uint32_t number) {
-        const char* page = file_.page(number);
-        return std::all_of(page, page + pageSize, [](char byte) { return byte == 0; }) &&
-               !globalMap_.isUsed(number);
+        return file_.isEmpty(number) && !globalMap_.isUsed(number);
     };
     while (file_.count() > 1 && isUnused(file_.count() - 1)) file_.giveBack(1);
 }

@@ -16,8 +16,9 @@ static_assert(std::endian::native == std::endian::little,
 
 constexpr std::size_t pageSize = 4096;
 
-/// The largest file that a cabinet can carry, 2,147,450,880 bytes; the format ends 8 pages later.
-constexpr std::uint32_t largestFilePages = 524'280;
+/// The last safe size, 2,147,418,112 bytes: the format ends 16 pages later, and a cabinet carries
+/// no more than 8 of those.
+constexpr std::uint32_t largestFilePages = 524'272;
 constexpr std::uint32_t formatFilePages = 524'288;
 
 enum class PageType : unsigned char {

@@ -1,5 +1,6 @@
 #include "backends/jet/page_file.h"
 
+#include "backends/jet/data_page.h"
 #include "backends/jet/errors.h"
 #include "platform/trace_database.h"
 #include "runtime/run_time_error.h"
@@ -8,7 +9,6 @@
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/mman.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -29,6 +29,31 @@ std::uint64_t pagesAllowed()
     if (getrlimit(RLIMIT_FSIZE, &limit) != 0 || limit.rlim_cur == RLIM_INFINITY)
         return largestFilePages;
     return limit.rlim_cur / pageSize;
+}
+
+/// A run of pages as the file grows by them: empty data pages that belong to nothing. A file that
+/// ends with some of them has no page without a type.
+const std::array<char, pagesPerRun * pageSize>& emptyRun()
+{
+    static const auto run = [] {
+        std::array<char, pagesPerRun * pageSize> pages{};
+        for (std::size_t at = 0; at < pages.size(); at += pageSize)
+            DataPage::begin(pages.data() + at, 0);
+        return pages;
+    }();
+    return run;
+}
+
+/// Locks every byte that the file has or will have, until the file is closed. False where another
+/// program holds a lock on any of them; a file system without locks gives true.
+///
+/// This is the kind of lock that file servers carry from machine to machine.
+bool lockAgainstWriters(int file)
+{
+    struct flock all {};
+    all.l_type = F_WRLCK;
+    all.l_whence = SEEK_SET;
+    return fcntl(file, F_OFD_SETLK, &all) == 0 || (errno != EAGAIN && errno != EACCES);
 }
 
 /// Writes all bytes; what fails gives false.
@@ -55,7 +80,7 @@ PageFile::PageFile(const std::string& path)
         raiseCannotOpen(path);
     }
     try {
-        if (flock(file_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
+        if (!lockAgainstWriters(file_))
             throw RunTimeError(traceDatabaseErrors::fileInUse,
                                "Couldn't use '" + path + "'; file already in use.");
         readSize();
@@ -68,9 +93,7 @@ PageFile::PageFile(const std::string& path)
 
 PageFile::~PageFile()
 {
-    // Zeros left behind where this fails are what a kill leaves: no reader minds them.
-    if (extent_ > count_ && ftruncate(file_, static_cast<off_t>(std::size_t{count_} * pageSize)))
-        errno = 0;
+    if (extent_ > count_) trim();
     munmap(base_, mappedBytes);
     ::close(file_);
 }
@@ -121,20 +144,30 @@ void PageFile::extendTo(std::uint32_t pages)
 
 bool PageFile::extendBy(std::uint64_t run)
 {
-    static constexpr std::array<char, pagesPerRun * pageSize> zeros{};
     const std::uint64_t end = std::uint64_t{extent_} * pageSize;
-    if (writeAll(file_, zeros.data(), run * pageSize, end)) {
+    if (writeAll(file_, emptyRun().data(), run * pageSize, end)) {
         extent_ += static_cast<std::uint32_t>(run);
         return true;
     }
-    // What was written of the run goes; where that fails it is zeros, which no reader minds.
+    // What was written of the run goes; where that fails it is empty, which no reader minds.
     if (ftruncate(file_, static_cast<off_t>(end)) != 0) errno = 0;
     return false;
 }
 
-void PageFile::dropPartialPage()
+bool PageFile::isEmpty(std::uint32_t number) const
 {
-    if (ftruncate(file_, static_cast<off_t>(std::size_t{extent_} * pageSize)) != 0) errno = 0;
+    const char* content = page(number);
+    return std::memcmp(content, emptyRun().data(), pageSize) == 0 ||
+           std::all_of(content, content + pageSize, [](char byte) { return byte == 0; });
+}
+
+void PageFile::trim()
+{
+    // Where this fails, empty pages or a part of one stay: what a kill leaves, and no reader minds.
+    if (ftruncate(file_, static_cast<off_t>(std::size_t{count_} * pageSize)) == 0)
+        extent_ = count_;
+    else
+        errno = 0;
 }
 
 void PageFile::replace(std::uint32_t number, const char* content)

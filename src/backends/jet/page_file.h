@@ -22,7 +22,7 @@ public:
     PageFile(const PageFile&) = delete;
     PageFile& operator=(const PageFile&) = delete;
 
-    /// How many pages are in use; the file may be longer, with zeros that nothing leads to.
+    /// How many pages are in use; the file may be longer, with empty pages that nothing leads to.
     std::uint32_t count() const { return count_; }
 
     Pages pages() const { return Pages({base_, std::size_t{count_} * pageSize}); }
@@ -33,14 +33,18 @@ public:
     /// Makes sure that `more` pages can be taken. Raises 3026, 3183, and then nothing has changed.
     void reserve(std::uint32_t more);
 
-    /// Takes the page behind the last one, all zeros. Raises as `reserve`.
+    /// Takes the page behind the last one, an empty data page. Raises as `reserve`.
     std::uint32_t take();
 
-    /// Gives back pages at the end, which hold zeros.
+    /// Whether a page is one that the file grew by and nothing was stored in: an empty data page
+    /// that belongs to nothing, or zeros.
+    bool isEmpty(std::uint32_t number) const;
+
+    /// Gives back pages at the end, which are empty.
     void giveBack(std::uint32_t count) { count_ -= count; }
 
-    /// Cuts off a part of a page at the end of the file.
-    void dropPartialPage();
+    /// Cuts off what the file holds behind the pages in use: empty pages, a part of a page.
+    void trim();
 
     /// Replaces a page in one step that a kill can't divide. Raises 57.
     void replace(std::uint32_t number, const char* content);

@@ -38,9 +38,9 @@ char* bitmapBits(PageFile& file, std::uint32_t page)
 
 void beginBitmap(char* page, char fill)
 {
+    constexpr std::uint32_t head = static_cast<std::uint32_t>(PageType::usageBitmap) | 1u << 8;
+    store32(page, head); // at once: a page has a type at every moment
     std::memset(page + usageMap::bitmapHead, fill, pageSize - usageMap::bitmapHead);
-    page[0] = static_cast<char>(PageType::usageBitmap);
-    page[1] = 1;
 }
 
 } // namespace
@@ -135,13 +135,18 @@ void GlobalMap::convert()
     map_.convert(bitmaps);
 }
 
+/// Gives a group a bitmap page, which is marked as used itself before anything leads to it.
 std::uint32_t GlobalMap::addBitmap(std::uint32_t group)
 {
     const std::uint32_t bitmap = file_.take();
-    beginBitmap(file_.page(bitmap), '\xFF');
+    char* content = file_.page(bitmap);
+    beginBitmap(content, '\xFF');
+    if (groupOf(bitmap) == group)
+        assignBit(content + usageMap::bitmapHead, bitmap % usageMap::pagesPerBitmap, false);
+    else
+        markUsed(bitmap); // the page that needs the bitmap was the last of its group
     inThisOrder();
     map_.setBitmapOf(group, bitmap);
-    markUsed(bitmap);
     return bitmap;
 }
 

@@ -71,10 +71,30 @@ TEST(Growth, ReopeningUsesThePagesOfZerosThatAKilledWriterLeft)
     std::filesystem::resize_file(scratch.path(), (before + 40) * 4096);
     {
         const auto database = engine.openDatabase(scratch.path().string());
+        EXPECT_EQ(before, pagesOf(scratch.path()));
         addNumberedRow(*database->openRecordset("tblTraces"), 0);
+        EXPECT_EQ(0, pagesWithoutType(scratch.path()));
     }
     EXPECT_EQ(before + 1, pagesOf(scratch.path()));
     EXPECT_EQ("", problemsOf(scratch.path()));
+}
+
+TEST(Growth, ReopeningUsesTheEmptyPagesThatAKilledWriterLeft)
+{
+    ScratchDatabase scratch;
+    auto engine = machineEngine();
+    const auto before = pagesOf(scratch.path());
+    const auto copy = scratch.folder() / "killed.mdb";
+    {
+        const auto database = engine.openDatabase(scratch.path().string());
+        addNumberedRow(*database->openRecordset("tblTraces"), 0);
+        std::filesystem::copy_file(scratch.path(), copy);
+    }
+    EXPECT_GT(pagesOf(copy), before + 1);
+    EXPECT_EQ(0, pagesWithoutType(copy));
+    engine.openDatabase(copy.string());
+    EXPECT_EQ(before + 1, pagesOf(copy));
+    EXPECT_EQ(bytesOfFile(scratch.path()), bytesOfFile(copy));
 }
 
 TEST(Growth, OpeningATablePutsTheRowCountRight)
@@ -237,16 +257,7 @@ TEST(Growth, ALongTextThatDoesNotFitLeavesTheFileAsItWas)
     EXPECT_EQ(24u, pagesOf(scratch.path())) << "one more, for the row";
 }
 
-/// Makes a file so many pages long without the disk space, as if other things lay there.
-void lengthenTo(const std::filesystem::path& path, std::uint64_t pages)
-{
-    std::filesystem::resize_file(path, pages * 4096);
-    std::fstream file(path, std::ios::binary | std::ios::in | std::ios::out);
-    file.seekp(static_cast<std::streamoff>(pages * 4096 - 1));
-    file.put('x');
-}
-
-TEST(Growth, TheDatabaseStopsAtTheLargestFileThatACabinetCarries)
+TEST(Growth, TheDatabaseStopsAtTheLastSafeSizeOfTheFormat)
 {
     ScratchDatabase scratch;
     lengthenTo(scratch.path(), 524'200);
@@ -265,8 +276,8 @@ TEST(Growth, TheDatabaseStopsAtTheLargestFileThatACabinetCarries)
     }
     EXPECT_EQ(3183, error);
     database->close();
-    EXPECT_LE(std::filesystem::file_size(scratch.path()), 2'147'450'880u);
-    EXPECT_GT(std::filesystem::file_size(scratch.path()), 2'147'450'880u - 4 * 4096);
+    EXPECT_LE(std::filesystem::file_size(scratch.path()), 2'147'418'112u);
+    EXPECT_GT(std::filesystem::file_size(scratch.path()), 2'147'418'112u - 4 * 4096);
     EXPECT_EQ(stored, scratch.rows("tblMacroTraces").size());
     EXPECT_EQ("", problemsOf(scratch.path()));
 }

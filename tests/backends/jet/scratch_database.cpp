@@ -42,6 +42,32 @@ std::string problemsOf(const std::filesystem::path& path)
     return lines;
 }
 
+bool isHarmless(const std::string& problems)
+{
+    return problems.find("belongs to") == std::string::npos &&
+           problems.find("counts as free") == std::string::npos &&
+           problems.find("overlap") == std::string::npos &&
+           problems.find("Unrecognized") == std::string::npos;
+}
+
+int pagesWithoutType(const std::filesystem::path& path)
+{
+    const jet::MappedFile file(path.string());
+    const std::string_view bytes = file.bytes();
+    int found = 0;
+    for (std::size_t at = 4096; at < bytes.size(); at += 4096) // the header's type is 0
+        found += bytes[at] == 0 ? 1 : 0;
+    return found;
+}
+
+void lengthenTo(const std::filesystem::path& path, std::uint64_t pages)
+{
+    std::filesystem::resize_file(path, pages * 4096);
+    std::fstream file(path, std::ios::binary | std::ios::in | std::ios::out);
+    file.seekp(static_cast<std::streamoff>(pages * 4096 - 1));
+    file.put('x');
+}
+
 jet::Schema traceSchema()
 {
     return jet::parseSchema(bytesOfFile(ORVAN_TRACE_SCHEMA));

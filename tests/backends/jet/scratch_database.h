@@ -4,6 +4,7 @@
 #include "backends/jet/jet_engine.h"
 #include "backends/jet/reader.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <map>
 #include <string>
@@ -20,6 +21,16 @@ std::vector<TextRow> rowsOf(const std::filesystem::path& path, const std::string
 
 /// What the checker says of a file, one problem a line.
 std::string problemsOf(const std::filesystem::path& path);
+
+/// Whether problems are of the kind that a kill may leave: a row count or a page's free bytes one
+/// row behind.
+bool isHarmless(const std::string& problems);
+
+/// How many pages of a file say of no type what they are, as one that was never written would.
+int pagesWithoutType(const std::filesystem::path& path);
+
+/// Makes a file so many pages long without the disk space, as if other things lay there.
+void lengthenTo(const std::filesystem::path& path, std::uint64_t pages);
 
 /// The schema that the tool's template is made of.
 jet::Schema traceSchema();
