@@ -19,6 +19,7 @@ constexpr int noSuchTable = 3078;     ///< no table of that name
 constexpr int fieldTooSmall = 3163;   ///< a text is longer than its column
 constexpr int databaseFull = 3183;    ///< the file has its largest size
 constexpr int noSuchField = 3265;     ///< no column of that name
+constexpr int requiredField = 3314;   ///< the row has no value for a column that takes no Null
 constexpr int zeroLength = 3315;      ///< the column takes no zero-length text
 constexpr int unknownFormat = 3343;   ///< not a trace database, or a damaged one
 constexpr int objectClosed = 3420;    ///< the recordset, or its database, was closed
@@ -65,7 +66,7 @@ public:
 
     /// Stores the row. On return it is in the file, even if the program is killed at once. A failed
     /// update stores nothing, leaves the rows before it whole, and the row is still being added.
-    /// Raises 3020, 3026, 3047, 3183, 3420.
+    /// Raises 3020, 3026, 3047, 3183, 3314, 3420.
     virtual void update() = 0;
 
     /// Lets the table go; a row that was begun is dropped. Raises 3420 when it is closed already.

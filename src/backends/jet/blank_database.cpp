@@ -63,7 +63,7 @@ public:
         system_ = systemTables();
         image_.resize(systemPage::first * pageSize);
         for (const auto& table : schema_.tables) addTable(table);
-        addPropertyPage();
+        addProperties();
         addSystemRows();
         for (const auto& [table, marks] : system_)
             writeTableDefinition(page(table.page), table, marks);
@@ -125,22 +125,32 @@ private:
         tables_.push_back(std::move(table));
     }
 
-    /// Puts the tables' properties on a page of long values, and notes the cells that point there.
-    void addPropertyPage()
+    /// Notes the cells of the tables' properties. Short ones lie in the cells themselves, the
+    /// others on a page of long values.
+    void addProperties()
     {
         for (const auto& table : tables_) {
             const std::string block = encodeProperties(table.columns);
             if (block.empty()) continue;
-            if (propertyPage_ == 0) {
-                propertyPage_ = newPage();
-                DataPage::begin(page(propertyPage_), dataPage::longValueOwner);
-            }
-            const auto row = addRow(DataPage(page(propertyPage_)), block);
             const auto size = static_cast<std::uint32_t>(block.size());
-            propertyCells_[table.page] = bytesOf(size | longValue::oneRowKind) +
-                                         bytesOf(RowPointer{propertyPage_, row}.stored()) +
-                                         bytesOf(std::uint32_t{0});
+            const bool isShort = block.size() <= longValue::longestInline;
+            const RowPointer at = isShort ? RowPointer{} : addPropertyRow(block);
+            propertyCells_[table.page] =
+                bytesOf(size | (isShort ? longValue::inlineKind : longValue::oneRowKind)) +
+                bytesOf(at.stored()) + bytesOf(std::uint32_t{0}) +
+                (isShort ? block : std::string());
         }
+    }
+
+    RowPointer addPropertyRow(const std::string& block)
+    {
+        if (block.size() > longValue::longestRow)
+            throw RunTimeError(runTimeErrors::invalidCall, "The schema is too large.");
+        if (propertyPage_ == 0) {
+            propertyPage_ = newPage();
+            DataPage::begin(page(propertyPage_), dataPage::longValueOwner);
+        }
+        return {propertyPage_, addRow(DataPage(page(propertyPage_)), block)};
     }
 
     void addSystemRows()

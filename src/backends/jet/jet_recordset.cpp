@@ -141,6 +141,7 @@ JetRecordset::JetRecordset(std::shared_ptr<Session> session, const TableDefiniti
         const Column& column = table_.columns[place];
         fields_.emplace_back(*this, column, cells_[place]);
         defaults_.push_back(defaultCell(column));
+        if (column.required) required_.push_back(place);
     }
 }
 
@@ -165,6 +166,7 @@ void JetRecordset::addNew()
 void JetRecordset::update()
 {
     requireAdding(noAddInProgress);
+    checkRequired();
     appender_->append(cells_);
     adding_ = false;
 }
@@ -182,6 +184,15 @@ void JetRecordset::requireAdding(int otherwise) const
     requireOpen();
     if (otherwise == noCurrentRecord) throw RunTimeError(noCurrentRecord, "No current record.");
     throw RunTimeError(noAddInProgress, "Update or CancelUpdate without AddNew or Edit.");
+}
+
+void JetRecordset::checkRequired() const
+{
+    for (const std::size_t place : required_) {
+        if (cells_[place].kind == Cell::Kind::null)
+            throw RunTimeError(requiredField, "The field '" + table_.columns[place].name +
+                                                  "' cannot contain a Null value.");
+    }
 }
 
 void JetRecordset::requireOpen() const

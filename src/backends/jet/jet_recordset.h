@@ -63,12 +63,14 @@ public:
 
 private:
     void requireOpen() const;
+    void checkRequired() const;
 
     std::shared_ptr<Session> session_;
     TableDefinition table_;
     std::optional<TableAppender> appender_; ///< none when the recordset was closed
     std::vector<Cell> cells_;
     std::vector<Cell> defaults_;
+    std::vector<std::size_t> required_; ///< places of the columns that take no Null
     std::vector<JetField> fields_;
     bool adding_ = false;
 };

@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::string_view magic{"MR2\0", 4};
 constexpr std::string_view allowZeroLength = "AllowZeroLength";
+constexpr std::string_view required = "Required";
 constexpr std::string_view defaultValue = "DefaultValue";
 constexpr std::uint16_t namesKind = 0x80;
 constexpr std::uint16_t columnKind = 1;
@@ -53,6 +54,41 @@ void appendProperty(std::string& to, std::size_t index, char type, const std::st
     append16(to, index);
     append16(to, value.size());
     to += value;
+}
+
+std::string storedBoolean(bool value)
+{
+    return std::string(1, value ? '\1' : '\0');
+}
+
+/// The names of the properties that these columns have, as a block numbers them.
+std::vector<std::string_view> namesFor(const std::vector<Column>& columns)
+{
+    std::vector<std::string_view> names;
+    if (std::any_of(columns.begin(), columns.end(), [](const auto& c) { return c.isText(); }))
+        names.push_back(allowZeroLength);
+    names.push_back(required);
+    if (std::any_of(columns.begin(), columns.end(),
+                    [](const auto& c) { return !c.defaultValue.empty(); }))
+        names.push_back(defaultValue);
+    return names;
+}
+
+std::string columnProperties(const Column& column, const std::vector<std::string_view>& names)
+{
+    const auto indexOf = [&](std::string_view name) {
+        return static_cast<std::size_t>(std::find(names.begin(), names.end(), name) -
+                                        names.begin());
+    };
+    std::string properties;
+    if (column.isText())
+        appendProperty(properties, indexOf(allowZeroLength), booleanType,
+                       storedBoolean(column.allowZeroLength));
+    appendProperty(properties, indexOf(required), booleanType, storedBoolean(column.required));
+    if (!column.defaultValue.empty())
+        appendProperty(properties, indexOf(defaultValue), memoType,
+                       encodeName(column.defaultValue));
+    return properties;
 }
 
 struct Parts {
@@ -109,6 +145,8 @@ void applyColumnBlock(Parts body, const std::vector<std::string>& names, TableDe
         Column& column = table.columns[static_cast<std::size_t>(place)];
         if (names[index] == allowZeroLength)
             column.allowZeroLength = value.empty() || value[0] != 0;
+        else if (names[index] == required)
+            column.required = !value.empty() && value[0] != 0;
         else if (names[index] == defaultValue)
             column.defaultValue = decodeStoredText(value);
     }
@@ -118,31 +156,18 @@ void applyColumnBlock(Parts body, const std::vector<std::string>& names, TableDe
 
 std::string encodeProperties(const std::vector<Column>& columns)
 {
-    const bool texts = std::any_of(columns.begin(), columns.end(),
-                                   [](const Column& column) { return column.isText(); });
-    const bool defaults = std::any_of(columns.begin(), columns.end(), [](const Column& column) {
-        return !column.defaultValue.empty();
-    });
-    if (!texts && !defaults) return {};
-
+    if (columns.empty()) return {};
+    const auto properties = namesFor(columns);
     std::string names;
-    if (texts) appendName(names, allowZeroLength);
-    if (defaults) appendName(names, defaultValue);
+    for (const std::string_view name : properties) appendName(names, name);
     std::string block(magic);
     appendBlock(block, namesKind, names);
     for (const auto& column : columns) {
-        std::string properties;
-        if (column.isText())
-            appendProperty(properties, 0, booleanType,
-                           std::string(1, column.allowZeroLength ? '\1' : '\0'));
-        if (!column.defaultValue.empty())
-            appendProperty(properties, texts ? 1 : 0, memoType, encodeName(column.defaultValue));
-        if (properties.empty()) continue;
         std::string name;
         appendName(name, column.name);
         std::string body;
         append32(body, name.size() + 4);
-        appendBlock(block, columnKind, body + name + properties);
+        appendBlock(block, columnKind, body + name + columnProperties(column, properties));
     }
     return block;
 }

@@ -127,6 +127,9 @@ private:
             if (words[next] == "no-zero-length" && column.isText()) {
                 column.allowZeroLength = false;
                 ++next;
+            } else if (words[next] == "required") {
+                column.required = true;
+                ++next;
             } else if (words[next] == "default" && next + 1 < words.size()) {
                 column.defaultValue = words[next + 1];
                 next += 2;

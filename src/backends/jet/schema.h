@@ -26,10 +26,11 @@ struct Schema {
 ///     table tblSample
 ///     column Name text 255
 ///     column Note memo no-zero-length
-///     column Count long default 0
+///     column Count long required default 0
 ///
 /// Types are `text` with its characters (1 to 255), `memo`, `integer` (16 bits) and `long` (32).
-/// Names are letters, digits and `_`. Raises 5 with the number of a line that says something else.
+/// A `required` column takes no Null, a `no-zero-length` one no empty text. Names are letters,
+/// digits and `_`. Raises 5 with the number of a line that says something else.
 Schema parseSchema(std::string_view text);
 
 } // namespace jet

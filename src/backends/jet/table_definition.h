@@ -40,6 +40,7 @@ struct Column {
     RowPointer freePages;
 
     bool allowZeroLength = true; ///< from the table's properties
+    bool required = false;       ///< likewise: the column takes no Null
     std::string defaultValue;    ///< an expression such as `0` or `"x"`; empty for none
 
     bool isText() const { return type == ColumnType::text || type == ColumnType::memo; }

@@ -28,12 +28,14 @@ std::vector<std::uint32_t> pageSums(const std::string& image)
 
 TEST(BlankDatabase, IsTheFileThatOtherWritersOfTheFormatAgreedOnByteForByte)
 {
-    // Sums of the pages that independent generators made of the same three tables.
+    // Sums of the pages that independent generators made of the same three tables, the catalog's
+    // rows (page 14) and properties (page 22) by one that says of every column whether it is
+    // required.
     const std::vector<std::uint32_t> expected = {
         0xEC6A9F1D, 0x63CB95BA, 0x25B78BAF, 0x31CF1EF1, 0xCC462A2A, 0xBC028C0A,
         0x6C825B0F, 0x753E3368, 0x91CDA393, 0x72E7AE23, 0x40EF71E4, 0x5313D8FA,
-        0x5313D8FA, 0x5313D8FA, 0x1C74C30D, 0x48525808, 0x945009E0, 0x39AFB42B,
-        0xB470EA8B, 0x39AFB42B, 0x4EB5B6FF, 0x882DDDF1, 0xDD175FB4};
+        0x5313D8FA, 0x5313D8FA, 0x77C6C92F, 0x48525808, 0x945009E0, 0x39AFB42B,
+        0xB470EA8B, 0x39AFB42B, 0x4EB5B6FF, 0x882DDDF1, 0x1FA8E089};
     EXPECT_EQ(expected, pageSums(jet::blankDatabase(traceSchema())));
 }
 
@@ -85,6 +87,36 @@ TEST(BlankDatabase, SaysWhichColumnsTakeNoZeroLengthTextAndWhichHaveADefault)
     EXPECT_EQ((std::vector<std::string>{"Highlight=0"}), defaults);
 }
 
+TEST(BlankDatabase, SaysOfEveryColumnWhetherItIsRequired)
+{
+    const std::string image = jet::blankDatabase(jet::parseSchema("table tblOne\n"
+                                                                  "column Name text 50 required\n"
+                                                                  "column Note memo\n"
+                                                                  "column Count long required\n"));
+    const jet::Reader reader(image);
+    std::vector<bool> required;
+    for (const auto& column : reader.tables()[0].columns) required.push_back(column.required);
+    EXPECT_EQ((std::vector<bool>{true, false, true}), required);
+    const std::string name("R\0e\0q\0u\0i\0r\0e\0d\0", 16);
+    EXPECT_NE(std::string::npos, image.find(name));
+}
+
+TEST(BlankDatabase, KeepsPropertiesOfUpTo64BytesInTheCatalogsRow)
+{
+    // Beside its name, a number's properties take 49 bytes: 64 are reached within the 8th letter.
+    struct Case {
+        const char* column;
+        std::size_t pages;
+    };
+    for (const Case& c : {Case{"Count12", 18}, Case{"Count123", 19}}) {
+        SCOPED_TRACE(c.column);
+        const std::string image = jet::blankDatabase(
+            jet::parseSchema("table tblOne\ncolumn " + std::string(c.column) + " long required\n"));
+        EXPECT_EQ(c.pages, image.size() / 4096);
+        EXPECT_TRUE(jet::Reader(image).tables()[0].columns[0].required);
+    }
+}
+
 TEST(BlankDatabase, RefusesASchemaThatIsTooLarge)
 {
     struct Case {
@@ -104,6 +136,19 @@ TEST(BlankDatabase, RefusesASchemaThatIsTooLarge)
         }
         EXPECT_EQ(5, errorOf([&] { jet::blankDatabase(jet::parseSchema(text)); }));
     }
+}
+
+TEST(BlankDatabase, RefusesATableWhosePropertiesTakeMoreThanARow)
+{
+    const auto error = [](int columns) {
+        std::string text = "table tblOne\n";
+        for (int column = 0; column < columns; ++column)
+            text += "column C" + std::to_string(100 + column) + " text 9\n";
+        return errorOf([&] { jet::blankDatabase(jet::parseSchema(text)); });
+    };
+    // 60 bytes, and 38 for each column; its definition takes 35 of a page.
+    EXPECT_EQ(0, error(98));
+    EXPECT_EQ(5, error(99));
 }
 
 } // namespace

@@ -132,6 +132,24 @@ TEST(JetEngine, ARowBeginsWithTheDefaultsThatAreValues)
     EXPECT_EQ(std::vector<TextRow>{expected}, scratch.rows("tblOne"));
 }
 
+TEST(JetEngine, ARowWithoutAValueForARequiredColumnRaises3314AndIsStillBeingAdded)
+{
+    ScratchDatabase scratch(jet::parseSchema("table tblOne\n"
+                                             "column Name text 9 required\n"
+                                             "column Level integer required default 7\n"
+                                             "column Note memo\n"));
+    auto engine = machineEngine();
+    const auto database = engine.openDatabase(scratch.path().string());
+    const auto rows = database->openRecordset("tblOne");
+    rows->addNew();
+    EXPECT_EQ(3314, errorOf([&] { rows->update(); }));
+    EXPECT_TRUE(scratch.rows("tblOne").empty());
+    rows->field("Name").setText("x");
+    rows->update();
+    const TextRow expected = {{"Name", "x"}, {"Level", "7"}};
+    EXPECT_EQ(std::vector<TextRow>{expected}, scratch.rows("tblOne"));
+}
+
 /// Runs a part of a test in another process and gives its number.
 int inAnotherProcess(const std::function<int()>& part)
 {

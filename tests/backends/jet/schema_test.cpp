@@ -17,7 +17,7 @@ TEST(ParseSchema, ReadsTablesColumnsAndRules)
                                          "column Note  memo no-zero-length\n"
                                          "\n"
                                          "table tblTwo\n"
-                                         "column Level integer default -99\n"
+                                         "column Level integer required default -99\n"
                                          "column Count long");
     EXPECT_EQ(38633.5, schema.created.days);
     ASSERT_EQ(2u, schema.tables.size());
@@ -33,6 +33,8 @@ TEST(ParseSchema, ReadsTablesColumnsAndRules)
     EXPECT_FALSE(one.columns[1].allowZeroLength);
     const auto& two = schema.tables[1];
     EXPECT_EQ(ColumnType::integer, two.columns[0].type);
+    EXPECT_TRUE(two.columns[0].required);
+    EXPECT_FALSE(two.columns[1].required);
     EXPECT_EQ("-99", two.columns[0].defaultValue);
     EXPECT_EQ(ColumnType::longInteger, two.columns[1].type);
     EXPECT_TRUE(two.columns[1].fixed);
