@@ -28,6 +28,8 @@ struct TimeZoneInformation {
     std::string daylightName;
     SystemTime daylightDate;
     int daylightBias = 0;
+
+    friend bool operator==(const TimeZoneInformation&, const TimeZoneInformation&) = default;
 };
 
 /// Which part of the year is in force; the numbers are the platform's own.

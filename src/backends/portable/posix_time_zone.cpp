@@ -117,6 +117,16 @@ std::int64_t daysUntil(std::chrono::year_month_day date)
     return std::chrono::sys_days(date).time_since_epoch().count();
 }
 
+/// The last moment of a change that is not after `universal`. `offset` is the one in force before
+/// the change. A rule's time may carry it into the year beside its own, so those are looked at too.
+std::int64_t lastChange(const TimeZoneChange& change, int offset, std::int64_t universal)
+{
+    for (int year = yearOf(universal) + 2;; --year) {
+        const auto moment = dayOfChange(change, year) * secondsADay + change.seconds - offset;
+        if (moment <= universal) return moment;
+    }
+}
+
 /// Moments that the calendar here can hold: years 100 to 9999.
 std::int64_t withinCalendar(std::int64_t seconds)
 {
@@ -177,13 +187,8 @@ bool isDaylightTime(const PosixTimeZone& zone, std::int64_t universal)
 {
     if (!zone.hasDaylight) return false;
     universal = withinCalendar(universal);
-    const int year = yearOf(universal + zone.standardOffset);
-    const auto start = dayOfChange(zone.daylightStart, year) * secondsADay +
-                       zone.daylightStart.seconds - zone.standardOffset;
-    const auto end = dayOfChange(zone.daylightEnd, year) * secondsADay + zone.daylightEnd.seconds -
-                     zone.daylightOffset;
-    if (start < end) return start <= universal && universal < end;
-    return universal < end || universal >= start;
+    return lastChange(zone.daylightStart, zone.standardOffset, universal) >=
+           lastChange(zone.daylightEnd, zone.daylightOffset, universal);
 }
 
 int offsetAt(const PosixTimeZone& zone, std::int64_t universal)

@@ -24,31 +24,38 @@ int minutesOf(int seconds)
     return floorDivide(seconds + 30, 60);
 }
 
+/// The week of a day in its month, 5 for the last where the rule asks for the last.
+int weekOf(const year_month_day& date, const TimeZoneChange& change)
+{
+    constexpr int lastWeek = 5;
+    const year_month_day inAWeek{sys_days(date) + days(7)};
+    if (change.week == lastWeek && inAWeek.month() != date.month()) return lastWeek;
+    return static_cast<int>(unsigned(date.day()) - 1) / 7 + 1;
+}
+
 SystemTime ruleOf(const TimeZoneChange& change, int year)
 {
     const int minutes = minutesOf(change.seconds);
     const int daysOn = floorDivide(minutes, minutesADay);
     const int timeOfDay = minutes - daysOn * minutesADay;
-    SystemTime rule;
-    rule.hour = timeOfDay / 60;
-    rule.minute = timeOfDay % 60;
-    if (change.kind == TimeZoneChange::Day::weekOfMonth) {
-        rule.month = change.month;
-        rule.day = change.week;
-        rule.dayOfWeek = ((change.day + daysOn) % 7 + 7) % 7;
-        return rule;
-    }
     const sys_days first = std::chrono::year{year} / 1 / 1;
     const sys_days last = std::chrono::year{year} / 12 / 31;
     const sys_days wanted{days(static_cast<int>(dayOfChange(change, year)) + daysOn)};
     const auto day = std::clamp(wanted, first, last);
     const year_month_day date(day);
-    rule.year = year;
+    SystemTime rule;
     rule.month = static_cast<int>(unsigned(date.month()));
-    rule.day = static_cast<int>(unsigned(date.day()));
     rule.dayOfWeek = static_cast<int>(weekday(day).c_encoding());
+    rule.hour = timeOfDay / 60;
+    rule.minute = timeOfDay % 60;
     if (wanted > last) rule.hour = 23, rule.minute = 59, rule.second = 59;
     if (wanted < first) rule.hour = 0, rule.minute = 0;
+    if (change.kind == TimeZoneChange::Day::weekOfMonth) {
+        rule.day = weekOf(date, change);
+    } else {
+        rule.year = year;
+        rule.day = static_cast<int>(unsigned(date.day()));
+    }
     return rule;
 }
 
@@ -108,6 +115,21 @@ std::optional<std::int64_t> momentOf(const SystemTime& rule, int year)
     return date.time_since_epoch().count() * secondsADay + change.seconds;
 }
 
+/// A moment of universal time in the local time of a record, by the record alone.
+std::int64_t localMoment(const TimeZoneInformation& zone, std::int64_t moment)
+{
+    const auto standard = moment - (std::int64_t{zone.bias} + zone.standardBias) * 60;
+    const auto summer = moment - (std::int64_t{zone.bias} + zone.daylightBias) * 60;
+    const int year = systemTimeOf(standard).year;
+    const auto start = momentOf(zone.daylightDate, year);
+    const auto end = momentOf(zone.standardDate, year);
+    if (!start || !end) return moment - std::int64_t{zone.bias} * 60;
+    const bool begun = standard >= *start;
+    const bool over = summer >= *end;
+    const auto order = (*start - standard) - (*end - summer); // in universal time
+    return (order < 0 ? begun && !over : begun || !over) ? summer : standard;
+}
+
 } // namespace
 
 MomentSource machineMoments()
@@ -135,7 +157,8 @@ SiteTimeZone::SiteTimeZone(PosixTimeZone zone, MomentSource moments)
 TimeZoneState SiteTimeZone::read(TimeZoneInformation& zone) const
 {
     const auto now = moments_();
-    zone = timeZoneRecord(zone_, systemTimeOf(now + zone_.standardOffset).year);
+    given_ = timeZoneRecord(zone_, systemTimeOf(now + zone_.standardOffset).year);
+    zone = *given_;
     if (!zone_.hasDaylight) return TimeZoneState::unknown;
     return isDaylightTime(zone_, now) ? TimeZoneState::daylightTime : TimeZoneState::standardTime;
 }
@@ -144,20 +167,8 @@ SystemTime SiteTimeZone::toLocal(const TimeZoneInformation& zone, const SystemTi
 {
     if (!isDate(universal)) throw RunTimeError(runTimeErrors::invalidCall);
     const auto moment = secondsOf(universal);
-    const auto standard = moment - (std::int64_t{zone.bias} + zone.standardBias) * 60;
-    const auto summer = moment - (std::int64_t{zone.bias} + zone.daylightBias) * 60;
-    const int year = systemTimeOf(standard).year;
-    const auto start = momentOf(zone.daylightDate, year);
-    const auto end = momentOf(zone.standardDate, year);
-    auto local = standard;
-    if (!start || !end) {
-        local = moment - std::int64_t{zone.bias} * 60;
-    } else {
-        const bool begun = standard >= *start;
-        const bool over = summer >= *end;
-        const auto order = (*start - standard) - (*end - summer); // in universal time
-        if (order < 0 ? begun && !over : begun || !over) local = summer;
-    }
+    const auto local =
+        given_ == zone ? moment + offsetAt(zone_, moment) : localMoment(zone, moment);
     auto result = systemTimeOf(local);
     result.milliseconds = universal.milliseconds;
     return result;

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 /// Seconds since 1970, universal time; a test gives its own.
 using MomentSource = std::function<std::int64_t()>;
@@ -12,8 +13,9 @@ using MomentSource = std::function<std::int64_t()>;
 /// The machine's own clock.
 MomentSource machineMoments();
 
-/// The record of a zone, its biases in minutes. A rule for a numbered day, which the record has no
-/// form for, stands as the day of `year`; a time of day outside its day moves to the day beside it.
+/// The record of a zone, its biases in minutes. The record has no form for a rule of a numbered day
+/// or for one whose time lies outside its day: such a rule stands as the day that it comes to in
+/// `year`, the first as a date, the second as the week of that day in its month.
 TimeZoneInformation timeZoneRecord(const PosixTimeZone& zone, int year);
 
 /// The zone of a site.
@@ -23,11 +25,13 @@ public:
 
     TimeZoneState read(TimeZoneInformation& zone) const override;
 
-    /// A rule with a year of its own holds for its month and day in every year; a rule that is no
-    /// date counts as none.
+    /// The record that `read` gave last stands for the zone itself, so that it is right in every
+    /// year. Of another record, a rule with a year of its own holds for its month and day in every
+    /// year; a rule that is no date counts as none.
     SystemTime toLocal(const TimeZoneInformation& zone, const SystemTime& universal) const override;
 
 private:
     PosixTimeZone zone_;
     MomentSource moments_;
+    mutable std::optional<TimeZoneInformation> given_; ///< by the last `read`
 };

@@ -176,6 +176,19 @@ TEST(IsDaylightTime, CanLastTheWholeYear)
         EXPECT_TRUE(isDaylightTime(zone, at(2003, 12, 1) + day * secondsADay + 43200));
 }
 
+TEST(IsDaylightTime, BeginsInTheYearBesideItsRulesWhereTheTimeSaysSo)
+{
+    const auto early = parsePosixTimeZone("AAA0BBB,M1.1.0/-1,M7.1.0/0");
+    EXPECT_FALSE(isDaylightTime(early, at(2005, 12, 31, 23) - 1)); // 1 January 2006 is a Sunday
+    EXPECT_TRUE(isDaylightTime(early, at(2005, 12, 31, 23)));
+    EXPECT_TRUE(isDaylightTime(early, at(2006, 1, 1)));
+
+    const auto late = parsePosixTimeZone("AAA0BBB,M7.1.0/0,M12.5.0/25");
+    EXPECT_TRUE(isDaylightTime(late, at(2007, 1, 1, 0) - 1)); // 31 December 2006 is a Sunday
+    EXPECT_FALSE(isDaylightTime(late, at(2007, 1, 1, 0)));
+    EXPECT_FALSE(isDaylightTime(late, at(2007, 1, 1, 1)));
+}
+
 TEST(LocalDate, IsTheDateOnTheServersWall)
 {
     const auto zone = parsePosixTimeZone("PST8PDT,M3.2.0,M11.1.0");
