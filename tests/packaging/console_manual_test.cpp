@@ -1,0 +1,41 @@
+#ifdef ORVANDIAG_CONSOLE
+
+#include "end_to_end/program.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+#include <iterator>
+#include <regex>
+#include <set>
+
+namespace {
+
+std::set<std::string> longOptions(const std::string& text)
+{
+    static const std::regex option("--[a-z][a-z-]+");
+    return {std::sregex_token_iterator(text.begin(), text.end(), option),
+            std::sregex_token_iterator()};
+}
+
+/// The console's manual page as the reader sees it: a hyphen that is not broken is written `\-`.
+std::string manualPage()
+{
+    std::ifstream file(ORVAN_PACKAGING "/orvandiag-console.1");
+    const std::string source{std::istreambuf_iterator<char>(file), {}};
+    return std::regex_replace(source, std::regex(R"(\\-)"), "-");
+}
+
+TEST(ConsoleManual, HasTheOptionsThatTheProgramTells)
+{
+    const Outcome help = runProgram({ORVANDIAG_CONSOLE, "--help"});
+    ASSERT_EQ(0, help.status) << help.err;
+    auto told = longOptions(help.out);
+    told.erase("--development-host"); // for who builds the tool
+    EXPECT_GT(told.size(), 5u);
+    EXPECT_EQ(told, longOptions(manualPage()));
+}
+
+} // namespace
+
+#endif
