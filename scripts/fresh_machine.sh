@@ -23,11 +23,13 @@ cannot() {
   exit 77
 }
 
-install_missing git mmdebstrap || cannot "mmdebstrap is not installed"
+install_missing git mmdebstrap uidmap || cannot "mmdebstrap is not installed"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 chmod 755 "$work" # in a user namespace the hooks are somebody else
-git -c safe.directory='*' clone --quiet --no-hardlinks . "$work/orvandiag"
+# Whoever runs this may be another one than the folder's owner, as in a container.
+git config --file "$work/git" safe.directory '*'
+GIT_CONFIG_GLOBAL=$work/git git clone --quiet --no-hardlinks . "$work/orvandiag"
 cp "$inside" scripts/fresh_machine/prepare.sh "$work"
 mkdir "$work/packages"
 if [ "$mode" = package ]; then
