@@ -23,6 +23,8 @@ public:
 struct ControlFont {
     int charset = 1;
     std::string name;
+
+    friend bool operator==(const ControlFont&, const ControlFont&) = default;
 };
 
 /// A control of a page: holds the state that a host renders and carries the person's actions back.
@@ -50,12 +52,10 @@ public:
 
     const ControlFont& font() const { return font_; }
 
-    /// Takes a language's font; one without a name leaves the font alone.
+    /// Takes a language's font; one without a name gives the host's own back.
     void setFont(const LanguageFont& font) override
     {
-        if (font.name.empty()) return;
-        font_ = {font.charset, std::string(font.name)};
-        notify();
+        assign(font_, ControlFont{font.charset, std::string(font.name)});
     }
 
     /// Asks whoever shows the control to do so now.

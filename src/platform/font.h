@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-/// The font that a language's characters need; an empty name leaves the font alone.
+/// The font that a language's characters need; an empty name is the host's own font.
 struct LanguageFont {
     int charset = 1;
     std::string_view name;

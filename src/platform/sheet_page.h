@@ -86,7 +86,7 @@ public:
     const ControlFont& font() const { return font_; }
     void setFont(const LanguageFont& font) override
     {
-        if (!font.name.empty()) font_ = {font.charset, std::string(font.name)};
+        font_ = {font.charset, std::string(font.name)};
     }
 
 protected:

@@ -65,16 +65,22 @@ TEST(ControlObserver, TakesARefreshForAChangeUnlessItWantsToKnow)
     EXPECT_EQ(1, observer.changes);
 }
 
-TEST(Control, TakesALanguagesFontAndIsLeftAloneByOneWithoutAName)
+TEST(Control, TakesALanguagesFontAndTheHostsOwnBackByOneWithoutAName)
 {
     Button button;
     button.setFont({128, "MS UI Gothic"});
     EXPECT_EQ(128, button.font().charset);
     EXPECT_EQ("MS UI Gothic", button.font().name);
 
-    button.setFont({204, ""});
-    EXPECT_EQ(128, button.font().charset);
-    EXPECT_EQ("MS UI Gothic", button.font().name);
+    RecordingObserver observer;
+    button.observe(&observer);
+    button.setFont({1, ""});
+    EXPECT_EQ(1, button.font().charset);
+    EXPECT_EQ("", button.font().name);
+    EXPECT_EQ(1, observer.changes);
+
+    button.setFont({1, ""});
+    EXPECT_EQ(1, observer.changes) << "it has that font already";
 }
 
 TEST(Button, ReportsAClickUnlessDisabledOrHidden)

@@ -116,12 +116,12 @@ TEST_F(PlainSheetTest, AClosedSheetIgnoresEverything)
     EXPECT_EQ(Heard{}, heard);
 }
 
-TEST_F(PlainSheetTest, AFontReachesThePageItself)
+TEST_F(PlainSheetTest, AFontReachesThePageItselfAndGoesAgain)
 {
     first.setFont({128, "Gothic"});
     EXPECT_EQ("Gothic", first.font().name);
     first.setFont({1, ""});
-    EXPECT_EQ(128, first.font().charset);
+    EXPECT_EQ((ControlFont{1, ""}), first.font());
 }
 
 } // namespace

@@ -27,10 +27,19 @@ void ControlView::applyCommonState()
     widget_->setVisible(control_.visible());
     widget_->setEnabled(control_.enabled());
     widget_->setToolTip(QString::fromStdString(control_.toolTip()));
-    const std::string& family = control_.font().name;
-    if (family.empty()) return;
-    QFont font = widget_->font();
-    font.setFamily(QString::fromStdString(family));
+    showFont(QString::fromStdString(control_.font().name));
+}
+
+void ControlView::showFont(const QString& family)
+{
+    if (family.isEmpty()) {
+        if (ownFont_) widget_->setFont(*ownFont_);
+        ownFont_.reset();
+        return;
+    }
+    if (!ownFont_) ownFont_ = widget_->font();
+    QFont font = *ownFont_;
+    font.setFamily(family);
     widget_->setFont(font);
 }
 

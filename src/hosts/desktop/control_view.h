@@ -2,12 +2,14 @@
 
 #include "platform/control.h"
 
+#include <QFont>
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 /// Runs what the person does to a control, and looks after what it raises.
 using ActOnControl = std::function<void(const std::function<void()>& act)>;
@@ -52,8 +54,12 @@ private:
     void refreshed(Control& control) override;
     void applyCommonState();
 
+    /// Gives the widget a language's font, or its own back for none.
+    void showFont(const QString& family);
+
     Control& control_;
     QPointer<QWidget> widget_;
+    std::optional<QFont> ownFont_; ///< while the widget shows a language's
     ActOnControl act_;
     bool waiting_ = false;
     bool rendering_ = false;

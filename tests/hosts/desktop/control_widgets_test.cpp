@@ -251,12 +251,27 @@ TEST(ControlWidgets, ATreeAnswersWhichNodeIsUnderThePointer)
     EXPECT_GT(moves, 0);
 }
 
-TEST(ControlWidgets, ALanguagesFontReachesTheWidget)
+TEST(ControlWidgets, ALanguagesFontReachesTheWidgetAndTheNextLanguageGivesItsOwnBack)
 {
     ShownSheet<WizardSheet> shown;
-    shown.page().check.setFont({128, "Noto Sans CJK JP"});
+    EveryKindPage& page = shown.page();
+    const auto fonts = [&] {
+        std::vector<QFont> all;
+        for (const auto* widget : shown.dialog->findChildren<QWidget*>())
+            all.push_back(widget->font());
+        return all;
+    };
+    const std::vector<QFont> own = fonts();
+
+    for (const LanguageFont& font : {LanguageFont{128, "Noto Sans CJK JP"}, {129, "Gulim"}})
+        for (const PageControl& declared : page.controls()) declared.control->setFont(font);
     settle();
-    EXPECT_EQ(QStringLiteral("Noto Sans CJK JP"), shown.only<QCheckBox>().font().family());
+    EXPECT_EQ(QStringLiteral("Gulim"), shown.only<QCheckBox>().font().family());
+    EXPECT_NE(own, fonts());
+
+    for (const PageControl& declared : page.controls()) declared.control->setFont({1, ""});
+    settle();
+    EXPECT_EQ(own, fonts());
 }
 
 TEST(PageWidget, LettersAreUniqueOnAPageAndBesideTheSheetsButtons)
