@@ -1,6 +1,6 @@
 #include "core/language_table.h"
 
-#include "core/language_names.h"
+#include "runtime/text.h"
 
 #include <algorithm>
 #include <iterator>
@@ -36,20 +36,10 @@ std::string codeFromLanguageId(std::int32_t id)
 
 std::int32_t languageIdFromCode(std::string_view code)
 {
-    const auto* row = std::find_if(std::begin(rows), std::end(rows),
-                                   [&](const Row& candidate) { return candidate.code == code; });
+    const auto* row = std::find_if(std::begin(rows), std::end(rows), [&](const Row& candidate) {
+        return equalIgnoringCase(candidate.code, code);
+    });
     return row == std::end(rows) ? english : row->id;
-}
-
-std::string languageName(std::int32_t id)
-{
-    const std::string_view name = nameOfLanguageId(id);
-    return name.empty() ? "Language Neutral" : std::string(name);
-}
-
-std::string languageNameFromCode(std::string_view code)
-{
-    return languageName(languageIdFromCode(code));
 }
 
 LanguageFont fontOfLanguage(std::int32_t id)

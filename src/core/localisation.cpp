@@ -91,6 +91,17 @@ void applyLanguageFontToAll(ToolContext& tool, const std::vector<FontTarget*>& c
     for (FontTarget* control : controls) applyLanguageFont(tool, *control);
 }
 
+std::string languageName(ToolContext& tool, std::int32_t id)
+{
+    std::string name = tool.platform.languages.languageName(id);
+    return name.empty() ? "(error)" : name;
+}
+
+std::string languageNameFromCode(ToolContext& tool, std::string_view code)
+{
+    return languageName(tool, languageIdFromCode(code));
+}
+
 std::string userLanguageCode(ToolContext& tool)
 {
     return codeFromLanguageId(tool.platform.languages.userDefaultLanguage());

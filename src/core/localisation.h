@@ -2,7 +2,9 @@
 
 #include "core/language_table.h"
 
+#include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 struct ToolContext;
@@ -38,6 +40,11 @@ std::vector<std::string> libraryCodes(ToolContext& tool);
 /// Gives the font of the current language to one object or to many. Raises nothing.
 void applyLanguageFont(ToolContext& tool, FontTarget& control);
 void applyLanguageFontToAll(ToolContext& tool, const std::vector<FontTarget*>& controls);
+
+/// The language's name in the system's words, such as "French (France)"; "(error)" where the system
+/// gives none. A code without a row is English.
+std::string languageName(ToolContext& tool, std::int32_t id);
+std::string languageNameFromCode(ToolContext& tool, std::string_view code);
 
 /// The code of the user's default language.
 std::string userLanguageCode(ToolContext& tool);

@@ -80,8 +80,8 @@ void frmAbout::fillLanguageMenu()
     }
     mnuLanguageList_.clear();
     for (const std::string& code : codes)
-        mnuLanguageList_.push_back(
-            {languageNameFromCode(code), numberText(std::int64_t{languageIdFromCode(code)})});
+        mnuLanguageList_.push_back({languageNameFromCode(tool_, code),
+                                    numberText(std::int64_t{languageIdFromCode(code)})});
 }
 
 void frmAbout::lblChangeLanguage_Click()

@@ -250,3 +250,20 @@ TEST(UserLanguageCode, IsThatOfTheUserAndNotOfTheTool)
     tool.languages.userDefault = 1042;
     EXPECT_EQ("ERROR", userLanguageCode(tool.context));
 }
+
+TEST(LanguageName, IsTheSystems)
+{
+    TestTool tool;
+    tool.languages.names = {{1033, "Anglais"}, {1036, "Fran\u00e7ais"}};
+    EXPECT_EQ("Fran\u00e7ais", languageName(tool.context, 1036));
+    EXPECT_EQ("Fran\u00e7ais", languageNameFromCode(tool.context, "fra"));
+    EXPECT_EQ("Anglais", languageNameFromCode(tool.context, "ZZZ")) << "a code without a row";
+}
+
+TEST(LanguageName, IsErrorWhereTheSystemGivesNone)
+{
+    TestTool tool;
+    tool.languages.names.clear();
+    EXPECT_EQ("(error)", languageName(tool.context, 1036));
+    EXPECT_EQ("(error)", languageNameFromCode(tool.context, "FRA"));
+}

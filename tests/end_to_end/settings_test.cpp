@@ -245,6 +245,18 @@ TEST_F(LanguageCommand, ListsTheLanguagesAndChoosesOneForARun)
     EXPECT_NE(run({"language", "ENU"}).out, run({"language", "DEU"}).out);
 }
 
+TEST_F(LanguageCommand, TakesALibrarysCodeWithoutRegardToCase)
+{
+    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied";
+    const auto tool = drive("OrvanDiagnostics");
+    fs::rename(tool / "ZMKbrandingres_FRA.txt", tool / "zmkbrandingres_fra.txt");
+    const Outcome listed = run({"language"});
+    EXPECT_THAT(listed.out, testing::ContainsRegex("fra +French \\(France\\)"));
+    const json chosen = runJson({"language", "FRA"}).json();
+    EXPECT_EQ("FRA", chosen["current"]);
+    EXPECT_NE(listed.out, run({"language", "fra"}).out);
+}
+
 TEST_F(LanguageCommand, FollowsTheSitesOwnLanguage)
 {
     std::string ini = read(site / "site.ini");

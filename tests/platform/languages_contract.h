@@ -52,6 +52,14 @@ TYPED_TEST_P(LanguagesContract, TheUserHasALanguage)
     EXPECT_GT(this->machine.languages().userDefaultLanguage(), 0);
 }
 
+TYPED_TEST_P(LanguagesContract, ALanguageHasANameInTheSystemsWords)
+{
+    const Languages& languages = this->machine.languages();
+    EXPECT_NE("", languages.languageName(1033));
+    EXPECT_NE(languages.languageName(1033), languages.languageName(1036));
+}
+
 REGISTER_TYPED_TEST_SUITE_P(LanguagesContract, ALibraryGivesItsTexts,
                             AMissingLibraryHasNoHandleAndNoTexts,
-                            AFreedLibraryHasNoTextsAndAnotherKeepsIts, TheUserHasALanguage);
+                            AFreedLibraryHasNoTextsAndAnotherKeepsIts, TheUserHasALanguage,
+                            ALanguageHasANameInTheSystemsWords);

@@ -113,6 +113,19 @@ TEST_F(AboutBox, ListsEachLanguageByTheSystemsNameWhenThereAreTwoLibrariesOrMore
     EXPECT_THAT(tags(form), ElementsAre("1036", "1041", "1033"));
 }
 
+TEST_F(AboutBox, TakesALibrarysCodeWithoutRegardToCase)
+{
+    withLibrary("fra", {{1062, "D'accord"}});
+    withLibrary("jpn");
+    frmAbout form(tool.context);
+    form.show();
+    EXPECT_THAT(captions(form), ElementsAre("French (France)", "Japanese (Japan)"));
+    EXPECT_THAT(tags(form), ElementsAre("1036", "1041"));
+
+    form.mnuLanguageList_Click(0);
+    EXPECT_EQ("D'accord", form.cmdOK.caption());
+}
+
 TEST_F(AboutBox, OneLibraryLooksLikeNone)
 {
     for (const bool one : {false, true}) {
@@ -157,6 +170,10 @@ TEST_F(AboutBox, AChoiceOfLanguageReachesEveryOpenForm)
     EXPECT_EQ(128, other.label.font().charset);
     EXPECT_EQ(128, form.cmdOK.font().charset);
     EXPECT_EQ("OK", form.cmdOK.caption()) << "the library has no text of its own";
+
+    form.mnuLanguageList_Click(0);
+    EXPECT_EQ((ControlFont{1, ""}), other.label.font()) << "of a language without a font";
+    EXPECT_EQ((ControlFont{1, ""}), form.cmdOK.font());
     form.lblTrademark.observe(nullptr);
 }
 

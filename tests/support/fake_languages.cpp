@@ -10,6 +10,12 @@ FakeLanguages& FakeLanguages::with(const std::string& path, std::map<int, std::s
     return *this;
 }
 
+std::string FakeLanguages::languageName(std::int32_t id) const
+{
+    const auto name = names.find(id);
+    return name == names.end() ? std::string() : name->second;
+}
+
 std::int32_t FakeLanguages::loadLibrary(const std::string& path)
 {
     loads_.push_back(path);

@@ -1,5 +1,6 @@
 #include "backends/portable/site_languages.h"
 
+#include "backends/portable/language_names.h"
 #include "backends/portable/site_paths.h"
 #include "backends/portable/whole_file.h"
 #include "runtime/run_time_error.h"
@@ -68,6 +69,11 @@ std::int32_t SiteLanguages::userDefaultLanguage() const
     if (language_) return *language_;
     const char* variable = std::getenv("LANG");
     return languageOfLocale(variable == nullptr ? "" : variable);
+}
+
+std::string SiteLanguages::languageName(std::int32_t id) const
+{
+    return std::string(nameOfLanguageId(id));
 }
 
 std::int32_t SiteLanguages::loadLibrary(const std::string& path)

@@ -21,6 +21,7 @@ public:
     SiteLanguages(std::optional<std::int32_t> language, const SitePaths& paths);
 
     std::int32_t userDefaultLanguage() const override;
+    std::string languageName(std::int32_t id) const override;
     std::int32_t loadLibrary(const std::string& path) override;
     void freeLibrary(std::int32_t handle) override;
     std::optional<std::string> text(std::int32_t handle, int id) const override;

@@ -67,6 +67,10 @@ public:
         if (!code_.empty()) box.mnuLanguageList_Click(menuPlace(available, code_));
         const std::int32_t current = tool.context().language.g_lngCurrentLanguage;
         const std::string title = box.caption();
+        const std::string name = languageName(tool.context(), current);
+        Table table({"Code", "Language"});
+        for (const std::string& code : available)
+            table.row({code, languageNameFromCode(tool.context(), code)});
         box.cmdOK.click();
         tool.close();
 
@@ -74,9 +78,7 @@ public:
             output.value({{"current", codeFromLanguageId(current)}, {"available", available}});
             return;
         }
-        output.line(languageName(current) + ": " + title);
-        Table table({"Code", "Language"});
-        for (const std::string& code : available) table.row({code, languageNameFromCode(code)});
+        output.line(name + ": " + title);
         output.text(table.text());
     }
 

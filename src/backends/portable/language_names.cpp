@@ -1,4 +1,4 @@
-#include "core/language_names.h"
+#include "backends/portable/language_names.h"
 
 #include <algorithm>
 #include <iterator>
@@ -159,6 +159,8 @@ constexpr Name names[] = {
     {21514, "Spanish (United States)"},
 };
 
+constexpr std::string_view neutral = "Language Neutral";
+
 constexpr bool isBefore(const Name& left, const Name& right)
 {
     return left.id < right.id;
@@ -171,5 +173,5 @@ std::string_view nameOfLanguageId(std::int32_t id)
 {
     const auto* found =
         std::lower_bound(std::begin(names), std::end(names), Name{id, ""}, isBefore);
-    return found != std::end(names) && found->id == id ? found->name : std::string_view();
+    return found != std::end(names) && found->id == id ? found->name : neutral;
 }

@@ -1,8 +1,0 @@
-#pragma once
-
-#include <cstdint>
-#include <string_view>
-
-/// The name that the operating system gives to a language identifier, in English and UTF-8; empty
-/// for an identifier that names no language and place.
-std::string_view nameOfLanguageId(std::int32_t id);
