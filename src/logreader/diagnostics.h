@@ -23,8 +23,9 @@ constexpr std::string_view dataFileComponent = "Data File";
 /// the tail when the formatter fails.
 std::string formatLineSafe(ToolContext& tool, std::string_view rawLine);
 
-/// The same into a text whose room is used again. `rawLine` must not lie in `formatted`.
-void formatLineSafe(ToolContext& tool, std::string_view rawLine, std::string& formatted);
+/// The same into a text whose room is used again. `rawLine` must not lie in `formatted`. False for
+/// a line that has none of the forms that the formatter knows, so that its fields will be empty.
+bool formatLineSafe(ToolContext& tool, std::string_view rawLine, std::string& formatted);
 
 /// Splits `<time> (<source>,<traceNumber>,<component>,<traceLevel>) <trace>`.
 ///

@@ -13,16 +13,21 @@ std::string mdlDiagnostics::formatLineSafe(ToolContext& tool, std::string_view r
     return formatted;
 }
 
-void mdlDiagnostics::formatLineSafe(ToolContext& tool, std::string_view rawLine,
+bool mdlDiagnostics::formatLineSafe(ToolContext& tool, std::string_view rawLine,
                                     std::string& formatted)
 {
     ErrorTrap step{tool, "mdlDiagnostics", "formatLineSafe"};
     formatted.clear();
-    if (rawLine.size() < shortestLogLine) return;
+    bool known = false;
+    if (rawLine.size() < shortestLogLine) return known;
 
     const std::string_view head = rawLine.substr(0, EventReporter::traceLineLimit);
     const std::string_view tail = rawLine.substr(head.size());
-    step([&] { tool.platform.eventReporter.formatTraceLine(head, formatted); });
+    step([&] {
+        tool.platform.eventReporter.formatTraceLine(head, formatted);
+        known = true;
+    });
     formatted += ' ';
     formatted += tail;
+    return known;
 }

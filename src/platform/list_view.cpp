@@ -52,6 +52,16 @@ void ListItem::addSubItem(int index, std::string_view text)
     list_->addCell(row_, index, text);
 }
 
+std::string_view ListItem::note() const
+{
+    return list_->view(list_->rows_[row_].note);
+}
+
+void ListItem::setNote(std::string_view note)
+{
+    list_->rows_[row_].note = list_->store(note);
+}
+
 ListView::ListView(const ListViewDefinition& definition) : definition_(definition)
 {
     for (const auto& column : definition.columns)
@@ -73,7 +83,7 @@ ColumnHeader& ListView::column(std::string_view key)
 ListItem ListView::addItem(int index, std::string_view text)
 {
     const std::size_t place = checkedPosition(index, rows_.size() + 1);
-    const Row row{store(text), static_cast<std::uint32_t>(cells_.size()), 0};
+    const Row row{store(text), static_cast<std::uint32_t>(cells_.size()), 0, {}};
     order_.clear();
     if (place == rows_.size()) {
         rows_.push_back(row);

@@ -34,6 +34,12 @@ public:
     /// past the one behind the last.
     void addSubItem(int index, std::string_view text);
 
+    /// A text that goes with the row and that no column shows; empty unless one was given.
+    std::string_view note() const;
+
+    /// Raises 14 when the list's texts pass 4 GiB.
+    void setNote(std::string_view note);
+
 private:
     friend class ListView;
     ListItem(ListView& list, std::size_t row) : list_(&list), row_(row) {}
@@ -91,10 +97,11 @@ private:
         Text text;
         std::uint32_t firstCell = 0;
         std::uint32_t cellCount = 0;
+        Text note;
     };
 
     Text store(std::string_view text);
-    std::string_view view(Text text) const { return {&bytes_[text.start], text.length}; }
+    std::string_view view(Text text) const { return {bytes_.data() + text.start, text.length}; }
     std::string_view cell(std::size_t row, int index) const;
     void addCell(std::size_t row, int index, std::string_view text);
 

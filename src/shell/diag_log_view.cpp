@@ -119,7 +119,8 @@ public:
 private:
     void addLine()
     {
-        step_([&] { mdlDiagnostics::formatLineSafe(tool_, line_, formatted_); });
+        known_ = false;
+        step_([&] { known_ = mdlDiagnostics::formatLineSafe(tool_, line_, formatted_); });
         charactersRead_ += static_cast<std::int64_t>(line_.size());
         if (lineNumber_ == 1 || lineNumber_ % linesBetweenReports == 0) reportProgress();
         step_([&] { mdlDiagnostics::parseDiagnostic(tool_, formatted_, line_, false, record_); });
@@ -149,6 +150,8 @@ private:
             add(record_.callId);
         }
         add(record_.trace);
+        // The columns of such a line are blank: the line itself goes with its row.
+        if (!known_ && row) step_([&] { row->setNote(line_); });
     }
 
     void reportProgress()
@@ -169,6 +172,7 @@ private:
     std::int32_t lineNumber_ = 1;
     std::string line_;
     std::string formatted_;
+    bool known_ = false; ///< whether the line has a form that the formatter knows
     std::string number_;
     DiagnosticLine record_;
 };

@@ -60,6 +60,25 @@ TEST_F(ReadCommand, TakesARawLineApart)
     EXPECT_EQ("formatted already ", all[2]["trace"]);
 }
 
+TEST_F(ReadCommand, ShowsALineOfNoKnownFormAsItIs)
+{
+    const std::string file = put("2005-10-08 22:23:07,Conv,12,caf\xE9 \"opened\"\r\n"
+                                 "15:23:07:123,Conv,1234,CallFlow,7,Call answered\r\n"
+                                 "*** lost\r\n");
+    const auto all = rows(file);
+    ASSERT_EQ(3u, all.size());
+    EXPECT_EQ("2005-10-08 22:23:07,Conv,12,caf\u00e9 \"opened\"", all[0]["raw"]);
+    EXPECT_EQ("", all[0]["timeStamp"]) << "the row itself stays blank";
+    EXPECT_EQ(0, all[0]["traceNumber"]);
+    EXPECT_EQ("", all[0]["trace"]);
+    EXPECT_FALSE(all[1].contains("raw"));
+    EXPECT_EQ("*** lost", all[2]["raw"]);
+
+    const Outcome plain = run({"read", file});
+    EXPECT_THAT(plain.out, HasSubstr(" 2005-10-08 22:23:07,Conv,12,caf\u00e9 \"opened\"\n"));
+    EXPECT_THAT(plain.out, HasSubstr(" *** lost\n"));
+}
+
 TEST_F(ReadCommand, WritesEveryTextAsJsonReadsIt)
 {
     const struct {

@@ -69,6 +69,17 @@ TEST(FormatLineSafe, KeepsWhatStandsBehind510BytesAsATailAfterABlank)
     EXPECT_TRUE(tool.failures().empty());
 }
 
+TEST(FormatLineSafe, TellsWhetherTheLineHasAKnownForm)
+{
+    TestTool tool;
+    std::string formatted;
+    EXPECT_TRUE(formatLineSafe(tool.context, "15:23:07:123,Conv,1234,CallFlow,7,Call", formatted));
+    const std::string again = formatted;
+    EXPECT_TRUE(formatLineSafe(tool.context, again, formatted)) << again;
+    EXPECT_FALSE(formatLineSafe(tool.context, "this is not a line of any log", formatted));
+    EXPECT_FALSE(formatLineSafe(tool.context, "too short", formatted));
+}
+
 TEST(FormatLineSafe, GivesABlankAndTheTailWhenTheFormatterFails)
 {
     TestTool tool;

@@ -149,6 +149,22 @@ TEST(ListView, TakesSubItemsForARowThatIsNotTheLast)
     EXPECT_EQ((Texts{"x", "y"}), cells(2));
 }
 
+TEST(ListView, CarriesANoteThatNoColumnShows)
+{
+    const auto definition = twoColumns();
+    ListView list(definition);
+    EXPECT_EQ("", list.addItem(1, "").note());
+    list.item(1).setNote("as it was read");
+    list.item(1).addSubItem(1, "a");
+    list.addItem(1, "before");
+
+    EXPECT_EQ("as it was read", list.item(2).note());
+    EXPECT_EQ("", list.item(2).text());
+    EXPECT_EQ("a", list.item(2).subItem(1));
+    EXPECT_EQ(1, list.item(2).subItemCount());
+    EXPECT_EQ("", list.item(1).note());
+}
+
 TEST(ListView, SortsOnLoadByTheTextOfTheColumnThatItsDefinitionNames)
 {
     struct Case {

@@ -150,6 +150,25 @@ TEST_F(DiagLogView, NumbersOnlyTheLinesThatAreNotEmpty)
     EXPECT_THAT(column(4), ElementsAre("1", "2", "3"));
 }
 
+TEST_F(DiagLogView, KeepsALineWithoutAKnownFormBesideItsBlankRow)
+{
+    const std::string dataLine = "2005-10-08 22:23:07,Conv,12,caf\xE9 opened";
+    const std::string longLine = std::string(510, '?') + "tail";
+    withContent(dataLine + "\r\n" + rawLine(1) + "\r\nshort\r\n" + longLine + "\r\n");
+
+    show();
+
+    ASSERT_EQ(4, list().itemCount());
+    EXPECT_THAT(row(1), ElementsAre("000001", "", "", "0", "", "0", ""));
+    EXPECT_EQ(" ", list().item(1).text());
+    EXPECT_EQ(dataLine, list().item(1).note());
+    EXPECT_EQ("", list().item(2).note()) << "its columns show all of it";
+    EXPECT_THAT(row(3), ElementsAre("000003", "", "", "0", "", "0", ""));
+    EXPECT_EQ("short", list().item(3).note());
+    EXPECT_THAT(row(4), ElementsAre("000004", "", "", "0", "", "0", "tail"));
+    EXPECT_EQ(longLine, list().item(4).note());
+}
+
 TEST_F(DiagLogView, EndsAnEmptyLogWithAnEmptyListAndItsText)
 {
     withContent("");

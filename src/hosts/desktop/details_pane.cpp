@@ -53,7 +53,8 @@ void DetailsPane::show(const ListModel& rows, int row)
                            value.toHtmlEscaped());
     }
     fields_->setText(fields.join(QStringLiteral("&nbsp;&nbsp; ")));
-    trace_->setPlainText(rows.text(row, columns.trace));
+    const QString line = rows.note(row);
+    trace_->setPlainText(line.isEmpty() ? rows.text(row, columns.trace) : line);
 }
 
 void DetailsPane::setTextFont(const QFont& font)

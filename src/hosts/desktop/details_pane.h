@@ -6,7 +6,8 @@ class ListModel;
 class QLabel;
 class QPlainTextEdit;
 
-/// All of one log line: its fields in a line, and the trace in as many as it takes.
+/// All of one log line: its fields in a line, and the trace in as many as it takes. A line that has
+/// none of the known forms has no trace and is shown as it stands in the log.
 class DetailsPane final : public QWidget {
     Q_OBJECT
 

@@ -99,7 +99,15 @@ QString ListModel::rowText(int row) const
 {
     const auto place = placeOfRow(row);
     if (place == 0) return {};
-    return decoder_.text(list_->shown(static_cast<int>(place)).text());
+    const ListItem shown = list_->shown(static_cast<int>(place));
+    return decoder_.text(shown.note().empty() ? shown.text() : shown.note());
+}
+
+QString ListModel::note(int row) const
+{
+    const auto place = placeOfRow(row);
+    if (place == 0) return {};
+    return decoder_.text(list_->shown(static_cast<int>(place)).note());
 }
 
 int ListModel::rowCount(const QModelIndex& parent) const

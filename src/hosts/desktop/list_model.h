@@ -41,8 +41,12 @@ public:
     std::string_view bytes(int row, int column) const;
     QString text(int row, int column) const;
 
-    /// The row's own text, which for a log is the whole line.
+    /// The row's own text, which for a log is the whole line, as it was read where its columns
+    /// can't show it.
     QString rowText(int row) const;
+
+    /// The row's note, which its columns do not show; for a log the line that has no known form.
+    QString note(int row) const;
 
     /// What a view may show beside the text of a cell; takes row, column from 1 and role.
     std::function<QVariant(int row, int column, int role)> decoration;

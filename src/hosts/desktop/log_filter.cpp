@@ -22,7 +22,7 @@ bool holds(ListItem row, const TextMatcher& matcher)
 {
     for (int column = 2; column <= row.subItemCount(); ++column)
         if (matcher.in(row.subItem(column))) return true;
-    return false;
+    return matcher.in(row.note());
 }
 
 } // namespace

@@ -18,7 +18,8 @@ struct ColumnCondition {
 /// Which rows of a log are on show: each condition must hold, and the text too.
 struct LogFilter {
     std::vector<ColumnCondition> columns;
-    TextMatcher text; ///< in any column but the number; an empty one lets every row pass
+    TextMatcher text; ///< in any column but the number, or in the note; an empty one lets every row
+                      ///< pass
     bool excludeText = false;
 
     /// Whether every row passes.
@@ -28,7 +29,8 @@ struct LogFilter {
     std::vector<std::uint32_t> places(ListView& list) const;
 };
 
-/// Whether `matcher` is found in a row at a place, in any column but the first.
+/// Whether `matcher` is found in a row at a place, in any column but the first or in the row's
+/// note.
 bool rowHolds(ListView& list, std::uint32_t place, const TextMatcher& matcher);
 
 /// A value of a column and the number of rows that have it.

@@ -45,6 +45,18 @@ TextMatcher text(const char16_t* wanted)
     return {windows1252(), wanted};
 }
 
+TEST(LogFilter, FindsTheTextOfALineThatItsColumnsDoNotShow)
+{
+    Lines lines;
+    lines.add("", "", "", "0", "");
+    lines.list.item(6).setNote("2005-10-08 22:23:07,Data,12,disk full");
+    LogFilter filter;
+    filter.text = text(u"Disk");
+    EXPECT_THAT(lines.places(filter), ElementsAre(6u));
+    EXPECT_TRUE(rowHolds(lines.list, 6, filter.text));
+    EXPECT_FALSE(rowHolds(lines.list, 5, filter.text));
+}
+
 TEST(LogFilter, ShowsOrHidesRowsByColumnsAndText)
 {
     struct Case {

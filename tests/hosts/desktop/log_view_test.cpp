@@ -6,6 +6,8 @@
 #include "hosts/desktop/test_window.h"
 #include "platform/list_view.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,6 +15,8 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <fstream>
 
 namespace {
 
@@ -208,6 +212,27 @@ TEST(LogView, ShowsAllOfTheCurrentLineBelow)
 
     shown.window->action(Command::details).trigger();
     EXPECT_FALSE(log.detailsShown());
+}
+
+TEST(LogView, ShowsALineOfNoKnownFormAsItIsBelowAndCopiesIt)
+{
+    const QString line = QStringLiteral("2005-10-08 22:23:07,Data,12,disk full");
+    TestWindow shown;
+    std::ofstream(shown.server.logs() + "/" + shown.server.currentLog("KoCSMgr"))
+        << line.toStdString() << "\r\n15:23:07:123,Conv,1234,CallFlow,7,Call answered\r\n";
+    shown.showLog("KoCSMgr");
+    LogView& log = shown.log();
+    ASSERT_EQ(2, log.model().rowCount());
+    const auto* below = log.findChild<QPlainTextEdit*>();
+
+    log.table().goTo(0);
+    EXPECT_EQ(line, below->toPlainText());
+    EXPECT_EQ(QString(), log.model().text(0, 7)) << "the row itself stays blank";
+    shown.window->action(Command::copy).trigger();
+    EXPECT_EQ(line + '\n', QGuiApplication::clipboard()->text());
+
+    log.table().goTo(1);
+    EXPECT_EQ(QStringLiteral("Call answered "), below->toPlainText());
 }
 
 TEST(LogView, ALogThatShrankIsReadAnewByRefresh)

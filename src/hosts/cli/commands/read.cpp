@@ -34,7 +34,8 @@ std::int64_t wholeNumber(std::string_view text)
     return number;
 }
 
-/// One JSON object a row. A log has tens of thousands of rows, so one text buffer serves for all.
+/// One JSON object a row, with the line itself where the columns can't show it. A log has tens of
+/// thousands of rows, so one text buffer serves for all.
 void printJson(Output& output, ListView& list, const CodePage& codePage)
 {
     const Columns* columns = list.columnCount() == 10 ? extendedColumns : basicColumns;
@@ -54,11 +55,18 @@ void printJson(Output& output, ListView& list, const CodePage& codePage)
             codePage.appendUtf8(cell, bytes);
             appendJsonText(text, cell);
         }
+        if (!row.note().empty()) {
+            cell.clear();
+            codePage.appendUtf8(cell, row.note());
+            text.append(",\"raw\":");
+            appendJsonText(text, cell);
+        }
         text += "}\n";
         output.text(text);
     }
 }
 
+/// A line that the columns can't show stands in the place of its trace.
 void printColumns(Output& output, ListView& list, const CodePage& codePage)
 {
     const int count = list.columnCount();
@@ -83,7 +91,8 @@ void printColumns(Output& output, ListView& list, const CodePage& codePage)
     for (int place = 1; place <= list.itemCount(); ++place) {
         line.clear();
         const ListItem row = list.shown(place);
-        for (int column = 1; column <= count; ++column) cell(column, row.subItem(column), true);
+        for (int column = 1; column < count; ++column) cell(column, row.subItem(column), true);
+        cell(count, row.note().empty() ? row.subItem(count) : row.note(), true);
         output.line(line);
     }
 }
@@ -98,8 +107,13 @@ public:
     {
         return "A bare name is looked for in the server's log folder, a path where it says. Raw "
                "lines\n"
-               "are formatted on the way; the file is left as it is. Logs of more than 2,500,000\n"
-               "bytes are not shown: gather them, and read the formatted copy in an editor.\n\n"
+               "are formatted on the way; the file is left as it is. A line of another form, such "
+               "as\n"
+               "those of data files, has blank columns and stands behind them as it is (with "
+               "--json as\n"
+               "\"raw\"). Logs of more than 2,500,000 bytes are not shown: gather them, and read "
+               "the\n"
+               "formatted copy in an editor.\n\n"
                "  orvandiag logs KoCSMgr\n"
                "  orvandiag read diag_KoCSMgr_20250220_153011.txt | less -S\n"
                "  orvandiag --json read ./old.txt | grep '\"level\":2'";
