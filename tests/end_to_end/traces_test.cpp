@@ -3,6 +3,11 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <chrono>
+#include <functional>
+#include <thread>
+
+#include <sqlite3.h>
 
 namespace {
 
@@ -212,6 +217,85 @@ TEST_F(TraceCommands, WithoutADatabaseNothingCanBeChanged)
         }
         EXPECT_EQ(0, run({"macro"}).status) << "the definitions need no database";
     }
+}
+
+/// Another program that holds the site's directory database for itself until it lets go.
+class HeldDatabase {
+public:
+    explicit HeldDatabase(const fs::path& site)
+    {
+        EXPECT_EQ(SQLITE_OK, sqlite3_open((site / "OrvanDirDb.sqlite").c_str(), &database_));
+        EXPECT_EQ(SQLITE_OK, sqlite3_exec(database_, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr));
+    }
+    HeldDatabase(const fs::path& site, std::chrono::milliseconds time) : HeldDatabase(site)
+    {
+        release_ = std::thread([this, time] {
+            std::this_thread::sleep_for(time);
+            sqlite3_exec(database_, "ROLLBACK", nullptr, nullptr, nullptr);
+        });
+    }
+    ~HeldDatabase()
+    {
+        if (release_.joinable()) release_.join();
+        sqlite3_close(database_);
+    }
+    HeldDatabase(const HeldDatabase&) = delete;
+    HeldDatabase& operator=(const HeldDatabase&) = delete;
+
+private:
+    sqlite3* database_ = nullptr;
+    std::thread release_;
+};
+
+double secondsOf(const std::function<void()>& act)
+{
+    const auto before = std::chrono::steady_clock::now();
+    act();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - before).count();
+}
+
+TEST_F(TraceCommands, ALockOfAnotherProgramIsWaitedForOnceAndToldOf)
+{
+    const std::string component = runJson({"flags"}).json()[0]["name"];
+    const int level = runJson({"micro", component}).json()[0]["levels"][0]["level"];
+    const std::vector<std::vector<std::string>> commands = {
+        {"status"}, {"micro", "set", "--on", component + ":" + std::to_string(level)}};
+    const HeldDatabase held(site);
+    for (const auto& words : commands) {
+        SCOPED_TRACE(words[0]);
+        Outcome outcome;
+        const double seconds = secondsOf([&] { outcome = run(words); });
+        EXPECT_GE(seconds, 10.0);
+        EXPECT_LT(seconds, 13.0);
+        EXPECT_EQ(words[0] == "status" ? 0 : 1, outcome.status);
+        EXPECT_THAT(outcome.out + outcome.err,
+                    HasSubstr("OrvanDirDb.sqlite: another program holds it and did not let go"));
+    }
+}
+
+TEST_F(TraceCommands, ALockThatIsReleasedInTimeLosesNothing)
+{
+    const std::string component = runJson({"flags"}).json()[0]["name"];
+    const int defaults = runJson({"flags", component}).json()[0]["defaultFlags"];
+    const json levels = runJson({"micro", component}).json()[0]["levels"];
+    const auto level = std::find_if(levels.begin(), levels.end(), [&](const json& shown) {
+        return (defaults >> shown["level"].get<int>() & 1) == 0;
+    });
+    ASSERT_NE(levels.end(), level);
+    const int number = (*level)["level"];
+    sql("UPDATE tbl_LoggerDiagnosticGrid SET Flags = DefaultFlags");
+    {
+        const HeldDatabase held(site, std::chrono::seconds(2));
+        const Outcome set = run({"micro", "set", "--on", component + ":" + std::to_string(number)});
+        EXPECT_EQ(0, set.status) << set.err;
+    }
+    EXPECT_EQ(defaults | 1 << number, flags(component));
+    {
+        const HeldDatabase held(site, std::chrono::seconds(2));
+        const Outcome reset = run({"reset"});
+        EXPECT_EQ(0, reset.status) << reset.err;
+    }
+    EXPECT_EQ(defaults, flags(component));
 }
 
 TEST_F(TraceCommands, ADatabaseThatRefusesIsToldOf)

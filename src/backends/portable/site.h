@@ -50,6 +50,7 @@ public:
     CodePage codePage() const;
 
     SitePaths& paths() { return paths_; }
+    const SiteDatabase& database() const { return database_; }
     SiteFileSystem& files() { return files_; }
     SiteRegistry& registry() { return registry_; }
 

@@ -105,8 +105,12 @@ private:
 
 } // namespace
 
-SiteDatabase::SiteDatabase(std::string file, int patience)
-    : file_(std::move(file)), patience_(patience)
+SiteDatabase::SiteDatabase(std::string file, std::chrono::milliseconds patience)
+    : SiteDatabase(std::move(file), std::make_shared<LockPatience>(patience))
+{}
+
+SiteDatabase::SiteDatabase(std::string file, std::shared_ptr<LockPatience> patience)
+    : file_(std::move(file)), patience_(std::move(patience))
 {}
 
 SiteDatabase::~SiteDatabase() = default;

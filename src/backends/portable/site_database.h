@@ -2,9 +2,11 @@
 
 #include "platform/database.h"
 
+#include <chrono>
 #include <memory>
 #include <string>
 
+class LockPatience;
 class SqliteHandle;
 
 /// The directory database of a site: an SQLite file.
@@ -13,12 +15,19 @@ class SqliteHandle;
 /// calls it. A file that has been removed, replaced or damaged is a broken connection.
 class SiteDatabase final : public DatabaseConnection {
 public:
-    /// Milliseconds that a statement waits while another program holds the database.
-    static constexpr int usualPatience = 10000;
+    /// How long the statements of a run wait, all together, while another program holds the
+    /// database.
+    static constexpr std::chrono::seconds usualPatience{10};
 
     /// `file` is a path of this machine; it is opened by `open` alone.
-    explicit SiteDatabase(std::string file, int patience = usualPatience);
+    explicit SiteDatabase(std::string file, std::chrono::milliseconds patience = usualPatience);
+
+    /// Another connection to the same file, closed yet, that shares the patience of this one.
+    SiteDatabase another() const { return SiteDatabase(file_, patience_); }
+
     ~SiteDatabase() override;
+    SiteDatabase(const SiteDatabase&) = delete;
+    SiteDatabase& operator=(const SiteDatabase&) = delete;
 
     int state() const override;
     void open(const std::string& connectionString, const std::string& user,
@@ -32,8 +41,10 @@ public:
     std::shared_ptr<SqliteHandle> handle();
 
 private:
+    SiteDatabase(std::string file, std::shared_ptr<LockPatience> patience);
+
     std::string file_;
-    int patience_;
+    std::shared_ptr<LockPatience> patience_;
     std::shared_ptr<SqliteHandle> handle_;
     int errors_ = 0;
 };

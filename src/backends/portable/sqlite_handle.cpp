@@ -50,6 +50,23 @@ unsigned long long inodeOf(const std::string& file)
     return stat(file.c_str(), &facts) == 0 ? facts.st_ino : 0;
 }
 
+int waitForLock(void* patience, int tries)
+{
+    return static_cast<LockPatience*>(patience)->wait(tries) ? 1 : 0;
+}
+
+int failureCode(sqlite3* database)
+{
+    return sqlite3_errcode(database) & 0xff;
+}
+
+std::string failureText(sqlite3* database)
+{
+    if (failureCode(database) == SQLITE_BUSY)
+        return "another program holds it and did not let go in time";
+    return sqlite3_errmsg(database);
+}
+
 } // namespace
 
 SqliteStatement::SqliteStatement(sqlite3_stmt* statement, std::shared_ptr<void> owner)
@@ -84,23 +101,23 @@ void SqliteStatement::release()
     owner_.reset();
 }
 
-SqliteHandle::SqliteHandle(const std::string& file, int patience)
-    : file_(file), inode_(inodeOf(file))
+SqliteHandle::SqliteHandle(const std::string& file, std::shared_ptr<LockPatience> patience)
+    : file_(file), patience_(std::move(patience)), inode_(inodeOf(file))
 {
+    patience_->begin();
     if (inode_ == 0) throw RunTimeError(databaseErrors::unspecified, "Cannot open " + file);
     const int result = sqlite3_open_v2(file.c_str(), &database_,
                                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     std::string failure;
     if (result == SQLITE_OK) {
         sqlite3_extended_result_codes(database_, 1);
-        sqlite3_busy_timeout(database_, patience);
-        char* text = nullptr;
-        if (sqlite3_exec(database_, "PRAGMA schema_version", nullptr, nullptr, &text) == SQLITE_OK)
+        sqlite3_busy_handler(database_, waitForLock, patience_.get());
+        if (sqlite3_exec(database_, "PRAGMA schema_version", nullptr, nullptr, nullptr) ==
+            SQLITE_OK)
             return;
-        failure = text ? text : "";
-        sqlite3_free(text);
+        failure = failureText(database_);
     } else {
-        failure = database_ ? sqlite3_errmsg(database_) : "out of memory";
+        failure = database_ ? failureText(database_) : "out of memory";
     }
     sqlite3_close(database_);
     throw RunTimeError(databaseErrors::unspecified, "Cannot open " + file + ": " + failure);
@@ -114,6 +131,7 @@ SqliteHandle::~SqliteHandle()
 
 SqliteStatement SqliteHandle::prepare(const std::string& sql)
 {
+    patience_->begin();
     const auto shared = templateOf(sql);
     if (!shared) return unshared(sql);
     auto found = statements_.find(shared->sql);
@@ -147,8 +165,10 @@ sqlite3_stmt* SqliteHandle::compile(const std::string& sql) const
 
 void SqliteHandle::fail() const
 {
-    const std::string text = sqlite3_errmsg(database_);
-    switch (sqlite3_errcode(database_) & 0xff) {
+    const std::string text = failureText(database_);
+    switch (failureCode(database_)) {
+    case SQLITE_BUSY:
+        throw RunTimeError(databaseErrors::statementRefused, file_ + ": " + text);
     case SQLITE_IOERR:
     case SQLITE_CANTOPEN:
     case SQLITE_NOTADB:

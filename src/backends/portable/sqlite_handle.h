@@ -1,5 +1,7 @@
 #pragma once
 
+#include "backends/portable/lock_patience.h"
+
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -31,9 +33,10 @@ private:
 /// share one compiled statement.
 class SqliteHandle {
 public:
-    /// `patience` is how many milliseconds a statement waits for another program's lock. Raises
-    /// -2147467259 for a file that is missing, is no database or may not be read.
-    SqliteHandle(const std::string& file, int patience);
+    /// Statements wait for another program's lock as long as `patience` allows, the opening too.
+    /// Raises -2147467259 for a file that is missing, is no database, may not be read or stays
+    /// locked.
+    SqliteHandle(const std::string& file, std::shared_ptr<LockPatience> patience);
     ~SqliteHandle();
     SqliteHandle(const SqliteHandle&) = delete;
     SqliteHandle& operator=(const SqliteHandle&) = delete;
@@ -56,6 +59,7 @@ private:
     SqliteStatement unshared(const std::string& sql) const;
 
     std::string file_;
+    std::shared_ptr<LockPatience> patience_;
     unsigned long long inode_ = 0;
     sqlite3* database_ = nullptr;
     mutable bool broken_ = false;

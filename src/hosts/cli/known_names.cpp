@@ -59,7 +59,7 @@ std::vector<std::string> knownNames::macroTraces(OpenTool& tool)
 bool knownNames::hasComponent(OpenTool& tool, const std::string& component)
 {
     try {
-        SiteDatabase database(tool.site().databaseFile());
+        SiteDatabase database = tool.site().database().another();
         database.open("", "", "");
         const auto rows = database.openRecordset("SELECT Name FROM vw_LoggerDiagnosticGrid",
                                                  CursorKind::forwardOnly, LockKind::readOnly);

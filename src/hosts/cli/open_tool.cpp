@@ -46,8 +46,12 @@ OpenTool::OpenTool(const GlobalOptions& options, const Check& check)
       codePage_(site_.codePage())
 {
     if (check) check(*this);
+    context_.onTrappedError = [this](const RunTimeError& error, std::string_view procName) {
+        if (procName == "[mdlOrvanDatabase]openOrvanDB") databaseFailure_ = error.description();
+    };
     console_.load(snapIn_);
     loaded_ = true;
+    context_.onTrappedError = {};
 }
 
 OpenTool::~OpenTool()
@@ -71,6 +75,13 @@ std::string OpenTool::toolPath(const std::string& typed) const
                        std::isalpha(static_cast<unsigned char>(typed[0])) != 0;
     if (drive || typed.empty()) return typed;
     return fs::absolute(typed).lexically_normal().string();
+}
+
+void OpenTool::requireDatabase()
+{
+    if (context_.g_connection.state() == 1) return;
+    throw CommandFailure("cannot connect to the server's database" +
+                         (databaseFailure_.empty() ? "" : ": " + databaseFailure_));
 }
 
 ScopeItem& OpenTool::processes()

@@ -46,6 +46,13 @@ public:
     /// A path as a person types it: a drive's path stays, another one is this machine's own.
     std::string toolPath(const std::string& typed) const;
 
+    /// Raises CommandFailure, with the reason, when the tool has no connection to the server's
+    /// database.
+    void requireDatabase();
+
+    /// Why the database could not be opened when the tool started; empty when it was.
+    const std::string& databaseFailure() const { return databaseFailure_; }
+
     /// The open Processes node. Its processes' names are those of its children.
     ScopeItem& processes();
 
@@ -59,5 +66,6 @@ private:
     Console console_;
     snapinOrvanDiagnostics snapIn_;
     CodePage codePage_;
+    std::string databaseFailure_;
     bool loaded_ = false;
 };

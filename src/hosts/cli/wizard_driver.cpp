@@ -1,6 +1,5 @@
 #include "hosts/cli/wizard_driver.h"
 
-#include "platform/database.h"
 #include "runtime/text.h"
 
 WizardDriver::WizardDriver(OpenTool& tool, const std::string& taskKey)
@@ -43,8 +42,7 @@ void WizardDriver::missing(const std::string& name) const
 
 TraceChange::TraceChange(OpenTool& tool) : tool_(tool)
 {
-    if (tool.context().g_connection.state() != 1)
-        throw CommandFailure("cannot connect to the server's database: no trace can be changed");
+    tool.requireDatabase();
     tool.context().onTrappedError = [this](const RunTimeError& error, std::string_view procName) {
         if (failure_.empty() &&
             (beginsWith(procName, "[mdlOrvanDatabase]") || beginsWith(procName, "[mdlTraces]")))

@@ -237,7 +237,7 @@ void setFlags(SiteDatabase& database, const std::string& objectId, std::int32_t 
 
 TEST_F(SiteDatabaseTest, RefusesAStatementWhenAnotherProgramHoldsTheDatabaseTooLong)
 {
-    SiteDatabase impatient{file, 30};
+    SiteDatabase impatient{file, std::chrono::milliseconds(30)};
     impatient.open("", "", "");
     const auto read = [&] {
         return impatient
@@ -248,15 +248,36 @@ TEST_F(SiteDatabaseTest, RefusesAStatementWhenAnotherProgramHoldsTheDatabaseTooL
     {
         const Lock lock(file);
         EXPECT_EQ(databaseErrors::statementRefused, errorOf([&] { read(); }));
-        EXPECT_EQ("database is locked", errorTextOf([&] { setFlags(impatient, "1", 64); }));
+        EXPECT_EQ(file + ": another program holds it and did not let go in time",
+                  errorTextOf([&] { setFlags(impatient, "1", 64); }));
         EXPECT_EQ(1, impatient.state()) << "the connection stays open";
 
-        SiteDatabase second{file, 30};
+        SiteDatabase second = impatient.another();
+        EXPECT_EQ("Cannot open " + file + ": another program holds it and did not let go in time",
+                  errorTextOf([&] { second.open("", "", ""); }));
         EXPECT_EQ(databaseErrors::unspecified, errorOf([&] { second.open("", "", ""); }));
     }
     EXPECT_EQ(Value(5), read());
     setFlags(impatient, "1", 64);
     EXPECT_EQ(Value(64), read());
+}
+
+TEST_F(SiteDatabaseTest, WaitsOnceForAllStatementsAndConnectionsOfARun)
+{
+    SiteDatabase first{file, std::chrono::milliseconds(300)};
+    first.open("", "", "");
+    SiteDatabase second = first.another();
+    const Lock lock(file);
+    const auto before = std::chrono::steady_clock::now();
+
+    for (int statement = 0; statement < 20; ++statement) {
+        EXPECT_EQ(databaseErrors::statementRefused, errorOf([&] { setFlags(first, "1", 64); }));
+        EXPECT_EQ(databaseErrors::unspecified, errorOf([&] { second.open("", "", ""); }));
+    }
+
+    const auto waited = std::chrono::steady_clock::now() - before;
+    EXPECT_GE(waited, std::chrono::milliseconds(300));
+    EXPECT_LT(waited, std::chrono::milliseconds(2 * 300));
 }
 
 TEST_F(SiteDatabaseTest, WaitsForAnotherProgramThatLetsGoInTime)

@@ -37,8 +37,7 @@ public:
             if (!component_.empty() && !knownNames::hasComponent(opened, component_))
                 throw noSuchComponent(component_);
         });
-        if (tool.context().g_connection.state() != 1)
-            throw CommandFailure("cannot connect to the server's database");
+        tool.requireDatabase();
         const auto words = read(tool.context().g_connection);
         tool.close();
         if (!component_.empty() && words.empty()) throw noSuchComponent(component_);

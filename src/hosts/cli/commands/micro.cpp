@@ -4,7 +4,6 @@
 #include "hosts/cli/output.h"
 #include "hosts/cli/wizard_driver.h"
 #include "platform/controls.h"
-#include "platform/database.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "server/diagnostic_grid_catalogue.h"
@@ -133,8 +132,7 @@ private:
 
     void list(OpenTool& tool, Output& output) const
     {
-        if (tool.context().g_connection.state() != 1)
-            throw CommandFailure("cannot connect to the server's database");
+        tool.requireDatabase();
         Json all = Json::array();
         std::string text;
         {

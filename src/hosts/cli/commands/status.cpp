@@ -49,6 +49,8 @@ public:
                     (version.version.empty() ? "" : "  (" + version.version + ")"));
         output.line(std::string("Database         ") +
                     (connected ? "connected" : "cannot connect: traces can't be changed"));
+        if (!tool.databaseFailure().empty())
+            output.line("                 " + tool.databaseFailure());
         output.line("Log folder       " + tool.context().g_strLogFolder);
         output.line(std::string("Log lines        ") + (tool.context().g_bExtendedLogFields
                                                             ? "with thread, port and call id"

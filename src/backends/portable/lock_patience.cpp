@@ -1,0 +1,34 @@
+#include "backends/portable/lock_patience.h"
+
+#include <algorithm>
+#include <thread>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto pauseBetweenRuns = 3s;
+constexpr auto longestNap = 50ms;
+
+} // namespace
+
+void LockPatience::begin()
+{
+    const auto now = Clock::now();
+    if (now - latest_ >= pauseBetweenRuns) left_ = whole_;
+    latest_ = now;
+}
+
+bool LockPatience::wait(int tries)
+{
+    const auto before = Clock::now();
+    if (left_ <= Clock::duration::zero()) {
+        latest_ = before;
+        return false;
+    }
+    const Clock::duration nap = std::min<Clock::duration>(longestNap, 1ms * (tries + 1));
+    std::this_thread::sleep_for(std::min(nap, left_));
+    latest_ = Clock::now();
+    left_ -= latest_ - before;
+    return true;
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <chrono>
+
+/// How long statements wait, all together, while another program holds their database.
+///
+/// The tool logs a failed statement and goes on with the next, so that a wait for each would add up
+/// to minutes. Statements that follow each other closely are one run and share one patience; after
+/// a pause, such as a person's between two actions, there is a new one.
+class LockPatience {
+public:
+    using Clock = std::chrono::steady_clock;
+
+    explicit LockPatience(std::chrono::milliseconds whole) : whole_(whole), left_(whole) {}
+
+    LockPatience(const LockPatience&) = delete;
+    LockPatience& operator=(const LockPatience&) = delete;
+
+    /// Notes that a statement begins.
+    void begin();
+
+    /// Waits a little, the longer the more `tries` there were; false, at once, when the run's
+    /// patience has come to its end.
+    bool wait(int tries);
+
+    std::chrono::milliseconds whole() const { return whole_; }
+
+private:
+    std::chrono::milliseconds whole_;
+    Clock::duration left_;
+    Clock::time_point latest_ = Clock::now(); ///< when a statement of the run was last at work
+};
