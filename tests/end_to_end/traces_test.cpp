@@ -266,7 +266,7 @@ TEST_F(TraceCommands, ALockOfAnotherProgramIsWaitedForOnceAndToldOf)
         Outcome outcome;
         const double seconds = secondsOf([&] { outcome = run(words); });
         EXPECT_GE(seconds, 10.0);
-        EXPECT_LT(seconds, 13.0);
+        EXPECT_LT(seconds, 19.0) << "less than two waits, on a busy machine too";
         EXPECT_EQ(words[0] == "status" ? 0 : 1, outcome.status);
         EXPECT_THAT(outcome.out + outcome.err,
                     HasSubstr("OrvanDirDb.sqlite: another program holds it and did not let go"));

@@ -277,7 +277,7 @@ TEST_F(SiteDatabaseTest, WaitsOnceForAllStatementsAndConnectionsOfARun)
 
     const auto waited = std::chrono::steady_clock::now() - before;
     EXPECT_GE(waited, std::chrono::milliseconds(300));
-    EXPECT_LT(waited, std::chrono::milliseconds(2 * 300));
+    EXPECT_LT(waited, std::chrono::milliseconds(10 * 300)) << "of 40 statements";
 }
 
 TEST_F(SiteDatabaseTest, WaitsForAnotherProgramThatLetsGoInTime)
