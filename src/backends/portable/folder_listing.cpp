@@ -49,12 +49,20 @@ std::string pathIn(const std::string& folder, std::string_view name)
 
 std::vector<std::string> namesInFolder(const std::string& machinePath)
 {
+    auto names = unsortedNames(machinePath);
+    std::erase_if(names,
+                  [](const std::string& name) { return name.find('\\') != std::string::npos; });
+    return sortedNames(std::move(names));
+}
+
+std::vector<std::string> sortedNames(std::vector<std::string> names)
+{
     std::vector<std::pair<std::string, std::string>> keyed;
-    for (auto& name : unsortedNames(machinePath))
-        if (name.find('\\') == std::string::npos) keyed.emplace_back(foldCase(name), name);
+    keyed.reserve(names.size());
+    for (auto& name : names) keyed.emplace_back(foldCase(name), std::move(name));
     std::sort(keyed.begin(), keyed.end());
-    std::vector<std::string> names;
-    names.reserve(keyed.size());
+    keyed.erase(std::unique(keyed.begin(), keyed.end()), keyed.end());
+    names.clear();
     for (auto& [key, name] : keyed) names.push_back(std::move(name));
     return names;
 }

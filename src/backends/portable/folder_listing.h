@@ -12,6 +12,9 @@ std::string pathIn(const std::string& folder, std::string_view name);
 /// with a backslash, which no Windows path reaches, is left out. Raises 76, 70.
 std::vector<std::string> namesInFolder(const std::string& machinePath);
 
+/// Names in the order of `namesInFolder`, each of them once.
+std::vector<std::string> sortedNames(std::vector<std::string> names);
+
 /// The size of all files in a folder of the machine and below; links are not followed. Raises 76,
 /// 70.
 std::int64_t sizeOfFolder(const std::string& machinePath);

@@ -3,6 +3,7 @@
 #include "backends/portable/code_pages.h"
 
 #include "backends/portable/posix_errors.h"
+#include "backends/portable/sqlite_handle.h"
 #include "backends/portable/tool_folder.h"
 
 #include <cerrno>
@@ -43,11 +44,11 @@ bool isSite(const std::string& folder)
     return ::stat((folder + "/drive_c").c_str(), &facts) == 0 && S_ISDIR(facts.st_mode);
 }
 
-Site::Site(const std::string& folder, const std::string& installedData, HostFacts host)
-    : paths_(requireSite(folder)), settings_(readSiteSettings(paths_.siteFolder() + "/site.ini")),
-      zone_(zoneOf(settings_)), files_(paths_, zone_),
-      registry_(paths_.siteFolder() + "/registry.reg"), clock_(zone_), timeZone_(zone_),
-      workstation_(settings_),
+Site::Site(const std::string& folder, std::string installedData, HostFacts host, SiteUse use)
+    : installedData_(std::move(installedData)), paths_(requireSite(folder)),
+      settings_(readSiteSettings(paths_.siteFolder() + "/site.ini")), zone_(zoneOf(settings_)),
+      files_(paths_, zone_), registry_(paths_.siteFolder() + "/registry.reg"), clock_(zone_),
+      timeZone_(zone_), workstation_(settings_),
       eventReporter_(paths_.siteFolder() + "/eventlogs", workstation_.details()->computerName,
                      settings_.logFields, clock_),
       eventLogExporter_(paths_.siteFolder() + "/eventlogs", paths_), processes_(paths_),
@@ -55,9 +56,19 @@ Site::Site(const std::string& folder, const std::string& installedData, HostFact
       database_(databaseFile()), xml_(files_)
 {
     registry_.keyExists(HKEY_LOCAL_MACHINE, ""); // a damaged registry shows here, before any change
+    const std::string& toolFolder = settings_.toolFolder;
+    paths_.standIn(toolFolder, lackingInToolFolder(paths_.machinePath(toolFolder), installedData_));
+    database_.openFor(DatabaseUse::look);
+    if (use == SiteUse::change) startChanges();
+}
+
+void Site::startChanges()
+{
+    paths_.standIn(settings_.toolFolder, {});
     makeServerFolder(paths_.siteFolder() + "/drive_c");
     makeServerFolder(paths_.machinePath(files_.specialFolder(SpecialFolder::temporary)));
-    supplyToolFolder(paths_.machinePath(settings_.toolFolder), installedData);
+    supplyToolFolder(paths_.machinePath(settings_.toolFolder), installedData_);
+    database_.openFor(DatabaseUse::change);
 }
 
 Platform Site::platform(Desktop& desktop, TraceDatabaseEngine& traceDatabases)

@@ -22,19 +22,31 @@
 /// Whether a folder of the machine is a site: it holds `site.ini`, `registry.reg` or `drive_c`.
 bool isSite(const std::string& folder);
 
+/// What a site is opened for.
+enum class SiteUse {
+    change,
+    look, ///< nothing is made, supplied or changed by the opening, nor by what is asked afterwards
+};
+
 /// A server in a folder: every platform service but the desktop, which is the host's, and the trace
 /// databases, which are another backend's.
 class Site {
 public:
     /// Opens the site in a folder of the machine. What its tool folder lacks is supplied from
     /// `installedData`, a folder of the machine; a place there that is empty or missing supplies
-    /// nothing.
+    /// nothing. For a look, what is missing is read there instead, and the directory database is
+    /// one that may be read alone; what the other services are told to write is still written.
     /// Raises 76 for a folder that is no site, 321 for a damaged `site.ini` or `registry.reg`, and
     /// 70, 61, 57.
-    Site(const std::string& folder, const std::string& installedData, HostFacts host);
+    Site(const std::string& folder, std::string installedData, HostFacts host,
+         SiteUse use = SiteUse::change);
 
     Site(const Site&) = delete;
     Site& operator=(const Site&) = delete;
+
+    /// Makes a site that was opened for a look one to change, as if it had been opened so. Its
+    /// database must be closed still. Raises 70, 61, 57.
+    void startChanges();
 
     /// The services, with the desktop and the trace databases that the host composes. They live as
     /// long as the site.
@@ -55,6 +67,7 @@ public:
     SiteRegistry& registry() { return registry_; }
 
 private:
+    std::string installedData_;
     SitePaths paths_;
     SiteSettings settings_;
     PosixTimeZone zone_;

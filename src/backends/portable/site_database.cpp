@@ -110,7 +110,7 @@ SiteDatabase::SiteDatabase(std::string file, std::chrono::milliseconds patience)
 {}
 
 SiteDatabase::SiteDatabase(std::string file, std::shared_ptr<LockPatience> patience)
-    : file_(std::move(file)), patience_(std::move(patience))
+    : file_(std::move(file)), patience_(std::move(patience)), use_(DatabaseUse::change)
 {}
 
 SiteDatabase::~SiteDatabase() = default;
@@ -125,7 +125,7 @@ void SiteDatabase::open(const std::string&, const std::string&, const std::strin
     if (state() != 0) throw RunTimeError(databaseErrors::alreadyOpen);
     handle_.reset();
     errors_ = 1;
-    handle_ = std::make_shared<SqliteHandle>(file_, patience_);
+    handle_ = std::make_shared<SqliteHandle>(file_, patience_, use_);
     errors_ = 0;
 }
 

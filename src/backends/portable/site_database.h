@@ -8,6 +8,7 @@
 
 class LockPatience;
 class SqliteHandle;
+enum class DatabaseUse;
 
 /// The directory database of a site: an SQLite file.
 ///
@@ -29,6 +30,9 @@ public:
     SiteDatabase(const SiteDatabase&) = delete;
     SiteDatabase& operator=(const SiteDatabase&) = delete;
 
+    /// What later calls of `open` open the file for; at first to change it.
+    void openFor(DatabaseUse use) { use_ = use; }
+
     int state() const override;
     void open(const std::string& connectionString, const std::string& user,
               const std::string& password) override;
@@ -45,6 +49,7 @@ private:
 
     std::string file_;
     std::shared_ptr<LockPatience> patience_;
+    DatabaseUse use_;
     std::shared_ptr<SqliteHandle> handle_;
     int errors_ = 0;
 };

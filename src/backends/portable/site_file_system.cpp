@@ -97,13 +97,27 @@ std::int64_t SiteFileSystem::folderSize(const std::string& path) const
     return sizeOfFolder(paths_.machinePath(path));
 }
 
+/// Names in a folder, and of what stands in for its missing contents. Raises 76.
+std::vector<std::string> SiteFileSystem::namesIn(const std::string& folder) const
+{
+    const auto machineFolder = paths_.machinePath(folder);
+    const auto& standIns = paths_.standInsOf(folder);
+    if (standIns.empty()) return namesInFolder(machineFolder);
+    std::vector<std::string> names;
+    if (folderExists(folder)) names = namesInFolder(machineFolder);
+    for (const auto& standIn : standIns) names.push_back(standIn.first);
+    return sortedNames(std::move(names));
+}
+
 std::vector<FileInfo> SiteFileSystem::entries(const std::string& folder) const
 {
     const auto machineFolder = paths_.machinePath(folder);
+    const auto& standIns = paths_.standInsOf(folder);
     std::vector<FileInfo> found;
-    for (auto& name : namesInFolder(machineFolder)) {
+    for (auto& name : namesIn(folder)) {
         struct stat facts {};
-        auto path = pathIn(machineFolder, name);
+        const auto standIn = standIns.find(name);
+        auto path = standIn == standIns.end() ? pathIn(machineFolder, name) : standIn->second;
         if (::lstat(path.c_str(), &facts) != 0) continue; // gone since the listing
         if (S_ISLNK(facts.st_mode)) {
             if (modeOf(paths_, std::string(folder).append("\\").append(name)) == 0) continue;
@@ -121,12 +135,15 @@ std::vector<std::string> SiteFileSystem::matching(const std::string& pattern) co
     const auto folder = lastName == 0 ? "." : pattern.substr(0, lastName);
     const FilePattern wanted(std::string_view(pattern).substr(lastName));
     std::vector<std::string> found;
-    if (!folderExists(folder)) return found;
+    const auto& standIns = paths_.standInsOf(folder);
+    if (standIns.empty() && !folderExists(folder)) return found;
     const auto machineFolder = paths_.machinePath(folder);
-    for (auto& name : namesInFolder(machineFolder)) {
+    for (auto& name : namesIn(folder)) {
         if (!wanted.matches(name)) continue;
         struct stat facts {};
-        if (::lstat(pathIn(machineFolder, name).c_str(), &facts) != 0) continue;
+        const auto standIn = standIns.find(name);
+        const auto path = standIn == standIns.end() ? pathIn(machineFolder, name) : standIn->second;
+        if (::lstat(path.c_str(), &facts) != 0) continue;
         if (S_ISREG(facts.st_mode) ||
             (S_ISLNK(facts.st_mode) && fileExists(std::string(folder).append("\\").append(name))))
             found.push_back(std::move(name));

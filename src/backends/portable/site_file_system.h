@@ -12,7 +12,8 @@
 /// The files of a site, and the machine's own behind a leading `/`.
 ///
 /// A file without its owner's leave to write is read-only, whoever runs the tool. Links out of a
-/// drive, and what is neither file nor folder, are in no listing.
+/// drive, and what is neither file nor folder, are in no listing. What stands in for missing files
+/// (`SitePaths::standIn`) is there in every way.
 class SiteFileSystem final : public FileSystem {
 public:
     /// `paths` keeps the current folder, which started programs share, and outlives this. File
@@ -41,6 +42,7 @@ public:
     void changeFolder(const std::string& path) override;
 
 private:
+    std::vector<std::string> namesIn(const std::string& folder) const;
     std::string existingFile(const std::string& path) const;
     FileInfo describe(const std::string& machinePath, std::string name,
                       const struct stat& facts) const;

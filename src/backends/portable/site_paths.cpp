@@ -5,6 +5,7 @@
 #include "backends/portable/utf8.h"
 #include "runtime/windows_path.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <dirent.h>
@@ -60,6 +61,15 @@ std::string followLink(const std::string& link, const std::string& drive)
     return real;
 }
 
+bool beginsWithNames(const std::vector<std::string>& path, const std::vector<std::string>& folder)
+{
+    return path.size() >= folder.size() &&
+           std::equal(folder.begin(), folder.end(), path.begin(),
+                      [](const std::string& one, const std::string& other) {
+                          return foldCase(one) == foldCase(other);
+                      });
+}
+
 bool isLink(const std::string& path, bool& exists)
 {
     struct stat facts {};
@@ -109,12 +119,45 @@ std::string SitePaths::driveFolder(char drive) const
     return siteFolder_ + "/drive_" + static_cast<char>(drive + 32);
 }
 
+void SitePaths::standIn(std::string_view folder, StandIns standIns)
+{
+    standInFolder_ = locate(folder);
+    standIns_ = std::move(standIns);
+}
+
+const SitePaths::StandIns& SitePaths::standInsOf(std::string_view folder) const
+{
+    static const StandIns none;
+    if (standIns_.empty()) return none;
+    const Location location = locate(folder);
+    const bool same = location.names.size() == standInFolder_.names.size() &&
+                      beginsWithNames(location.names, standInFolder_.names);
+    return same && location.drive == standInFolder_.drive ? standIns_ : none;
+}
+
+/// What stands in for the file or folder that a path leads to or through; null for none.
+const std::string* SitePaths::standInFor(const Location& location) const
+{
+    const std::size_t depth = standInFolder_.names.size();
+    if (standIns_.empty() || location.drive != standInFolder_.drive ||
+        location.names.size() <= depth || !beginsWithNames(location.names, standInFolder_.names))
+        return nullptr;
+    const std::string wanted = foldCase(location.names[depth]);
+    for (const auto& [name, machinePath] : standIns_)
+        if (foldCase(name) == wanted) return &machinePath;
+    return nullptr;
+}
+
 std::string SitePaths::machinePathOf(const Location& location) const
 {
+    const std::string* standIn = standInFor(location);
+    const bool onDrive = location.drive != 0 && standIn == nullptr;
     const auto drive = driveFolder(location.drive);
-    std::string path = drive;
+    std::string path = standIn ? *standIn : drive;
     bool exists = true;
-    for (const auto& name : location.names) {
+    const auto first = standIn ? standInFolder_.names.size() + 1 : 0;
+    for (std::size_t level = first; level < location.names.size(); ++level) {
+        const auto& name = location.names[level];
         std::string next = pathIn(path, name);
         bool link = false;
         if (exists) {
@@ -126,7 +169,7 @@ std::string SitePaths::machinePathOf(const Location& location) const
                 link = isLink(next, exists);
             }
         }
-        path = link && location.drive != 0 ? followLink(next, drive) : next;
+        path = link && onDrive ? followLink(next, drive) : next;
     }
     return path.empty() ? "/" : path;
 }
@@ -134,6 +177,12 @@ std::string SitePaths::machinePathOf(const Location& location) const
 std::string SitePaths::machinePath(std::string_view path) const
 {
     return machinePathOf(locate(path));
+}
+
+bool SitePaths::isOfSite(std::string_view path) const
+{
+    const Location location = locate(path);
+    return location.drive != 0 || isWithin(machinePathOf(location), siteFolder_);
 }
 
 bool SitePaths::isRoot(std::string_view path) const

@@ -23,6 +23,10 @@ public:
     /// Raises 52 for the empty path and one with a zero byte, 76 for a share, 70.
     std::string machinePath(std::string_view path) const;
 
+    /// Whether a path is one of the site's: on a drive, or in the site's folder by the machine's
+    /// own names. Raises as `machinePath`.
+    bool isOfSite(std::string_view path) const;
+
     /// Whether a path is the root of a drive or of the machine. Raises as `machinePath`.
     bool isRoot(std::string_view path) const;
 
@@ -37,6 +41,16 @@ public:
     /// drives. Raises 76 when there is no such folder, and as `machinePath`.
     void changeFolder(std::string_view path);
 
+    /// By name, where files and folders of the machine lie that stand in for missing ones.
+    using StandIns = std::map<std::string, std::string>;
+
+    /// From now on `standIns` are taken for what `folder` lacks, in the place of those before. What
+    /// is below them is found, and nothing of the site is touched for it.
+    void standIn(std::string_view folder, StandIns standIns);
+
+    /// What stands in for the contents of a folder; nothing for another one than that of `standIn`.
+    const StandIns& standInsOf(std::string_view folder) const;
+
     /// "C:" of "C:\x"; the empty text when a path names no drive.
     static std::string driveName(std::string_view path);
 
@@ -47,6 +61,7 @@ private:
         Names names;
     };
 
+    const std::string* standInFor(const Location& location) const;
     Location locate(std::string_view path) const;
     std::string machinePathOf(const Location& location) const;
     std::string driveFolder(char drive) const;
@@ -54,4 +69,6 @@ private:
     std::string siteFolder_;
     char currentDrive_ = 'C';
     std::map<char, Names> currentFolders_;
+    Location standInFolder_;
+    StandIns standIns_;
 };

@@ -1,8 +1,10 @@
 #include "backends/portable/sqlite_handle.h"
 
+#include "backends/portable/database_copy.h"
 #include "platform/database.h"
 #include "runtime/run_time_error.h"
 
+#include <fstream>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -67,6 +69,16 @@ std::string failureText(sqlite3* database)
     return sqlite3_errmsg(database);
 }
 
+/// Whether changes go to a log beside the database first: then even a reader writes there.
+bool hasWriteAheadLog(const std::string& file)
+{
+    constexpr std::size_t versionForReading = 19;
+    constexpr char writeAhead = 2;
+    char header[versionForReading + 1] = {};
+    std::ifstream(file, std::ios::binary).read(header, sizeof header);
+    return header[versionForReading] == writeAhead;
+}
+
 } // namespace
 
 SqliteStatement::SqliteStatement(sqlite3_stmt* statement, std::shared_ptr<void> owner)
@@ -101,26 +113,53 @@ void SqliteStatement::release()
     owner_.reset();
 }
 
-SqliteHandle::SqliteHandle(const std::string& file, std::shared_ptr<LockPatience> patience)
+SqliteHandle::SqliteHandle(const std::string& file, std::shared_ptr<LockPatience> patience,
+                           DatabaseUse use)
     : file_(file), patience_(std::move(patience)), inode_(inodeOf(file))
 {
     patience_->begin();
     if (inode_ == 0) throw RunTimeError(databaseErrors::unspecified, "Cannot open " + file);
-    const int result = sqlite3_open_v2(file.c_str(), &database_,
-                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     std::string failure;
+    if (use == DatabaseUse::change) {
+        if (connect(file, SQLITE_OPEN_READWRITE, failure) == SQLITE_OK) return;
+    } else if (hasWriteAheadLog(file)) {
+        if (connectToCopy(file, failure)) return;
+    } else {
+        const int result = connect(file, SQLITE_OPEN_READONLY, failure);
+        if (result == SQLITE_OK) return;
+        if (result == SQLITE_READONLY_ROLLBACK && connectToCopy(file, failure)) return;
+    }
+    throw RunTimeError(databaseErrors::unspecified, "Cannot open " + file + ": " + failure);
+}
+
+/// Opens a database that can't be read without writing beside it: what was left undone by a writer
+/// is undone in a copy, which is read in its place.
+bool SqliteHandle::connectToCopy(const std::string& file, std::string& failure)
+{
+    try {
+        const DatabaseCopy copy(file);
+        return connect(copy.path(), SQLITE_OPEN_READWRITE, failure) == SQLITE_OK;
+    } catch (const RunTimeError& error) {
+        failure = error.description();
+        return false;
+    }
+}
+
+/// Opens a file and reads it once. Gives the result of the database library; what failed is closed
+/// again and told.
+int SqliteHandle::connect(const std::string& file, int flags, std::string& failure)
+{
+    int result = sqlite3_open_v2(file.c_str(), &database_, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     if (result == SQLITE_OK) {
         sqlite3_extended_result_codes(database_, 1);
         sqlite3_busy_handler(database_, waitForLock, patience_.get());
-        if (sqlite3_exec(database_, "PRAGMA schema_version", nullptr, nullptr, nullptr) ==
-            SQLITE_OK)
-            return;
-        failure = failureText(database_);
-    } else {
-        failure = database_ ? failureText(database_) : "out of memory";
+        result = sqlite3_exec(database_, "PRAGMA schema_version", nullptr, nullptr, nullptr);
+        if (result == SQLITE_OK) return result;
     }
+    failure = database_ ? failureText(database_) : "out of memory";
     sqlite3_close(database_);
-    throw RunTimeError(databaseErrors::unspecified, "Cannot open " + file + ": " + failure);
+    database_ = nullptr;
+    return result;
 }
 
 SqliteHandle::~SqliteHandle()

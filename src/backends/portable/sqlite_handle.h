@@ -27,6 +27,10 @@ private:
     std::shared_ptr<void> owner_; ///< keeps a statement that is not kept for reuse
 };
 
+/// What a database is opened for. A look leaves no trace beside it, whatever its writers left
+/// there.
+enum class DatabaseUse { change, look };
+
 /// An open SQLite database and the statements compiled for it so far.
 ///
 /// A query's text literals are bound as parameters, so that queries that differ in a name alone
@@ -36,7 +40,8 @@ public:
     /// Statements wait for another program's lock as long as `patience` allows, the opening too.
     /// Raises -2147467259 for a file that is missing, is no database, may not be read or stays
     /// locked.
-    SqliteHandle(const std::string& file, std::shared_ptr<LockPatience> patience);
+    SqliteHandle(const std::string& file, std::shared_ptr<LockPatience> patience,
+                 DatabaseUse use = DatabaseUse::change);
     ~SqliteHandle();
     SqliteHandle(const SqliteHandle&) = delete;
     SqliteHandle& operator=(const SqliteHandle&) = delete;
@@ -53,6 +58,8 @@ public:
     sqlite3* get() const { return database_; }
 
 private:
+    bool connectToCopy(const std::string& file, std::string& failure);
+    int connect(const std::string& file, int flags, std::string& failure);
     sqlite3_stmt* compile(const std::string& sql) const;
 
     /// A statement of its own, for a query that can't share one or whose shared one is in use.

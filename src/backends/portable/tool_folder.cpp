@@ -77,16 +77,31 @@ void supply(const std::string& source, const std::string& target)
 
 } // namespace
 
+std::map<std::string, std::string> lackingInToolFolder(const std::string& toolFolder,
+                                                       const std::string& installedData)
+{
+    std::map<std::string, std::string> lacking;
+    try {
+        std::set<std::string> there;
+        if (isFolder(toolFolder))
+            for (const auto& name : namesInFolder(toolFolder)) there.insert(foldCase(name));
+        if (!isFolder(installedData)) return lacking;
+        for (const auto& name : namesInFolder(installedData))
+            if (isSupplied(name) && there.count(foldCase(name)) == 0)
+                lacking.emplace(name, pathIn(installedData, name));
+    } catch (const RunTimeError& error) {
+        if (error.number() != runTimeErrors::permissionDenied) throw;
+        lacking.clear();
+    }
+    return lacking;
+}
+
 void supplyToolFolder(const std::string& toolFolder, const std::string& installedData)
 {
     try {
         makeFolders(toolFolder);
-        std::set<std::string> there;
-        for (const auto& name : namesInFolder(toolFolder)) there.insert(foldCase(name));
-        if (!isFolder(installedData)) return;
-        for (const auto& name : namesInFolder(installedData))
-            if (isSupplied(name) && there.count(foldCase(name)) == 0)
-                supply(pathIn(installedData, name), pathIn(toolFolder, name));
+        for (const auto& [name, source] : lackingInToolFolder(toolFolder, installedData))
+            supply(source, pathIn(toolFolder, name));
     } catch (const RunTimeError& error) {
         if (error.number() != runTimeErrors::permissionDenied) throw;
     }

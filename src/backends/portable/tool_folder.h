@@ -1,6 +1,13 @@
 #pragma once
 
+#include <map>
 #include <string>
+
+/// Of what the tool finds beside it at run time, what `toolFolder` lacks and `installedData` has:
+/// by name, where it lies in `installedData`. Both are folders of the machine and need not be
+/// there; a name that differs in case alone is there. A folder that may not be read gives nothing.
+std::map<std::string, std::string> lackingInToolFolder(const std::string& toolFolder,
+                                                       const std::string& installedData);
 
 /// Copies to `toolFolder` what the tool finds there at run time, as far as it lies in
 /// `installedData` and the folder lacks it: macro trace definitions, the blank trace database, the

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <thread>
 
 #include <sqlite3.h>
@@ -305,6 +306,95 @@ TEST_F(SiteDatabaseTest, RefusesWritesToADatabaseThatMayOnlyBeRead)
 
     EXPECT_EQ(1, database.state());
     EXPECT_EQ(Value(5), flags("A"));
+}
+
+/// Names and sizes of what lies in the test's folder.
+std::map<std::string, std::uintmax_t> filesIn(const fs::path& folder)
+{
+    std::map<std::string, std::uintmax_t> files;
+    for (const auto& entry : fs::directory_iterator(folder))
+        files[entry.path().filename().string()] = entry.file_size();
+    return files;
+}
+
+TEST_F(SiteDatabaseTest, ALookReadsAndWritesNothing)
+{
+    const auto before = filesIn(folder);
+    database.openFor(DatabaseUse::look);
+    open();
+
+    EXPECT_EQ(Value(5), flags("A"));
+    EXPECT_EQ("attempt to write a readonly database",
+              errorTextOf([&] { setFlags(database, "1", 64); }));
+    EXPECT_EQ(Value(5), flags("A"));
+    EXPECT_EQ(before, filesIn(folder));
+}
+
+TEST_F(SiteDatabaseTest, ALookSeesWhatAWriteAheadLogHoldsAndLeavesItAsItIs)
+{
+    sqlite3* other = nullptr;
+    ASSERT_EQ(SQLITE_OK, sqlite3_open(file.c_str(), &other));
+    ASSERT_EQ(SQLITE_OK, sqlite3_exec(other,
+                                      "PRAGMA journal_mode=WAL;"
+                                      "UPDATE grid SET Flags = 77 WHERE Name = 'A'",
+                                      nullptr, nullptr, nullptr));
+    const auto before = filesIn(folder);
+    database.openFor(DatabaseUse::look);
+    open();
+    EXPECT_EQ(Value(77), flags("A"));
+    EXPECT_EQ(before, filesIn(folder));
+    sqlite3_close(other);
+
+    const auto closed = filesIn(folder);
+    EXPECT_EQ(1u, closed.size());
+    SiteDatabase later{file};
+    later.openFor(DatabaseUse::look);
+    later.open("", "", "");
+    EXPECT_EQ(1, later.state());
+    EXPECT_EQ(closed, filesIn(folder));
+}
+
+TEST_F(SiteDatabaseTest, ALookSeesNothingOfWhatAKilledWriterLeftUndone)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        sqlite3* writer = nullptr;
+        sqlite3_open(file.c_str(), &writer);
+        sqlite3_exec(
+            writer,
+            "PRAGMA cache_size=1; PRAGMA cache_spill=1; BEGIN;"
+            "UPDATE grid SET Flags = 99;"
+            "CREATE TABLE much(text TEXT);"
+            "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 2000)"
+            "INSERT INTO much SELECT hex(randomblob(200)) FROM n;",
+            nullptr, nullptr, nullptr);
+        raise(SIGKILL);
+    }
+    waitpid(child, nullptr, 0);
+    const auto before = filesIn(folder);
+    ASSERT_EQ(2u, before.size()) << "a journal that nobody has rolled back";
+
+    database.openFor(DatabaseUse::look);
+    open();
+    EXPECT_EQ(Value(5), flags("A"));
+    EXPECT_EQ(before, filesIn(folder));
+
+    constexpr auto read = fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
+    constexpr auto enter = fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
+    for (const auto& entry : fs::directory_iterator(folder)) fs::permissions(entry.path(), read);
+    fs::permissions(folder, read | enter);
+    const bool superuser = geteuid() == 0; // who may write everywhere
+    if (superuser) {
+        ASSERT_EQ(0, seteuid(65534));
+    }
+    SiteDatabase readOnly{file};
+    readOnly.openFor(DatabaseUse::look);
+    EXPECT_NO_THROW(readOnly.open("", "", ""));
+    EXPECT_EQ(1, readOnly.state());
+    if (superuser) {
+        ASSERT_EQ(0, seteuid(0));
+    }
+    fs::permissions(folder, fs::perms::owner_all);
 }
 
 TEST_F(SiteDatabaseTest, OpensAnotherProgramsDatabaseAndRefusesWhatItLacks)

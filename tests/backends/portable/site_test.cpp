@@ -106,6 +106,58 @@ TEST_F(SiteTest, LeavesAloneWhatTheToolFolderHas)
     EXPECT_TRUE(folder.exists(tool + "cabmaker.exe"));
 }
 
+TEST_F(SiteTest, ALookMakesNothingAndFindsWhatWouldBeSupplied)
+{
+    folder.write("drive_c/ORVANDIAGNOSTICS/zmkxml/HTOwn.xml", "own");
+    Site site(folder.path(), data.path(), hostFacts(), SiteUse::look);
+
+    EXPECT_EQ(1, std::distance(fs::directory_iterator(folder.path()), {}));
+    EXPECT_EQ(1, std::distance(fs::directory_iterator(folder / "drive_c"), {}));
+    EXPECT_EQ(1, std::distance(fs::directory_iterator(folder / "drive_c/ORVANDIAGNOSTICS"), {}));
+    const auto& files = site.files();
+    const std::string tool = "C:\\OrvanDiagnostics";
+    EXPECT_EQ("blank", files.openForReading(tool + "\\BlankWPNDB.mdb")->readLine());
+    EXPECT_EQ("help", files.openForReading(tool + "\\help\\INDEX.html")->readLine());
+    EXPECT_EQ((std::vector<std::string>{"ZMKbrandingres_FRA.txt"}),
+              files.matching(tool + "\\ZMKbrandingres_*"));
+    EXPECT_EQ((std::vector<std::string>{"HTOwn.xml"}), files.matching(tool + "\\ZMKXML\\HT*.xml"))
+        << "what is there is left alone";
+    std::vector<std::string> names;
+    for (const auto& entry : files.entries(tool + "\\")) names.push_back(entry.name);
+    EXPECT_EQ((std::vector<std::string>{"blankWPNDB.mdb", "cabmaker.exe", "help",
+                                        "ZMKbrandingres_FRA.txt", "zmkxml"}),
+              names);
+    EXPECT_EQ(data / "cabmaker.exe", site.paths().machinePath(tool + "\\cabmaker.exe"));
+    EXPECT_FALSE(files.fileExists(tool + "\\sample\\sample.sql"));
+    EXPECT_TRUE(site.paths().isOfSite(tool + "\\cabmaker.exe")) << "nobody may write to it";
+}
+
+TEST_F(SiteTest, ALookWithoutAToolFolderFindsAllThatWouldBeSupplied)
+{
+    folder.write("site.ini", "[site]\n");
+    Site site(folder.path(), data.path(), hostFacts(), SiteUse::look);
+
+    EXPECT_EQ((std::vector<std::string>{"HTCalls.xml", "HTPorts.xml"}),
+              site.files().matching("C:\\OrvanDiagnostics\\ZMKXML\\*.xml"));
+    EXPECT_EQ(5u, site.files().entries("C:\\OrvanDiagnostics").size());
+    EXPECT_EQ((std::vector<std::string>{"ZMKbrandingres_FRA.txt"}),
+              site.files().matching("C:\\OrvanDiagnostics\\ZMKbrandingres_*"));
+    EXPECT_EQ(76, errorOf([&] { site.files().entries("C:\\Elsewhere"); }));
+    EXPECT_FALSE(folder.exists("drive_c"));
+}
+
+TEST_F(SiteTest, ChangesStartWithWhatAnOpeningForThemDoes)
+{
+    folder.write("site.ini", "[site]\n");
+    Site site(folder.path(), data.path(), hostFacts(), SiteUse::look);
+    site.startChanges();
+
+    EXPECT_EQ("blank", folder.read("drive_c/OrvanDiagnostics/blankWPNDB.mdb"));
+    EXPECT_EQ(folder / "drive_c/OrvanDiagnostics/blankWPNDB.mdb",
+              site.paths().machinePath("C:\\OrvanDiagnostics\\blankWPNDB.mdb"));
+    EXPECT_TRUE(folder.exists("drive_c/Temp"));
+}
+
 TEST_F(SiteTest, OpensWithoutInstalledData)
 {
     folder.makeFolder("drive_c");

@@ -1,0 +1,62 @@
+#include "backends/portable/database_copy.h"
+
+#include "backends/portable/posix_errors.h"
+#include "backends/portable/whole_file.h"
+#include "runtime/run_time_error.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string newTemporaryFolder()
+{
+    std::error_code none;
+    std::string name = (fs::temp_directory_path(none) / "orvandiag-XXXXXX").string();
+    if (::mkdtemp(name.data()) == nullptr) throw posixError(errno, runTimeErrors::pathNotFound);
+    return name;
+}
+
+/// The copy may be written to, whoever may write to what it was made from.
+void copyForWriting(const std::string& source, const std::string& target)
+{
+    copyWholeFile(source, target);
+    std::error_code none;
+    fs::permissions(target, fs::perms::owner_write, fs::perm_options::add, none);
+}
+
+void copyIfThere(const std::string& source, const std::string& target)
+{
+    try {
+        copyForWriting(source, target);
+    } catch (const RunTimeError& error) {
+        if (error.number() != runTimeErrors::fileNotFound) throw;
+    }
+}
+
+} // namespace
+
+DatabaseCopy::DatabaseCopy(const std::string& file)
+    : folder_(newTemporaryFolder()), path_(folder_ + "/database")
+{
+    try {
+        // A log that is copied first holds what the database may have taken over since, which does
+        // no harm; the other way round rows would be lost.
+        for (const char* ending : {"-wal", "-journal"}) copyIfThere(file + ending, path_ + ending);
+        copyForWriting(file, path_);
+    } catch (...) {
+        std::error_code none;
+        fs::remove_all(folder_, none);
+        throw;
+    }
+}
+
+DatabaseCopy::~DatabaseCopy()
+{
+    std::error_code none;
+    fs::remove_all(folder_, none);
+}
