@@ -43,9 +43,12 @@ std::string readText(ToolContext& tool, const std::string& source, const char* n
     return getRegistryText(tool, sourceKey(source), name);
 }
 
+/// Writes a text where it differs from what is stored. Most changes of a language put back what
+/// stands there, and writing that anew would make a plain text of one that is to be expanded.
 void writeText(ToolContext& tool, const std::string& source, const char* name,
                const std::string& text)
 {
+    if (readText(tool, source, name) == text) return;
     setRegistryValue(tool, HKEY_LOCAL_MACHINE, sourceKey(source), name, REG_SZ, text);
 }
 

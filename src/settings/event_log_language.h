@@ -28,8 +28,9 @@ std::string determineCurrentLanguage(ToolContext& tool, const std::string& messa
 std::string replaceLanguage(ToolContext& tool, const std::string& path,
                             const std::string& language);
 
-/// Writes "EventMessageFile" and "CategoryMessageFile" of each source anew; the empty language
-/// changes nothing. A key that may not be written to is passed over.
+/// Swaps the language of "EventMessageFile" and "CategoryMessageFile" of each source, and writes
+/// those that differ then; the empty language changes nothing. A key that may not be written to is
+/// passed over.
 void changeEventLogLanguage(ToolContext& tool, const std::string& language,
                             const std::vector<std::string>& keys);
 

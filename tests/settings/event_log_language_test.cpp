@@ -117,6 +117,20 @@ TEST_F(EventLogLanguage, AMissingCategoryFileIsMadeOfTheLanguageAlone)
     EXPECT_EQ("JPN", categoryFile("A"));
 }
 
+TEST_F(EventLogLanguage, AFileThatStaysTheSameIsNotWritten)
+{
+    const std::string key = sourceKey("Expanded");
+    const std::string stored = englishFile + '\0';
+    constexpr int expandable = 2;
+    tool.registry.withText(key, "CategoryMessageFile", "C:\\Windows\\System3ENUbc.dll")
+        .withValue(key, "EventMessageFile", {expandable, {stored.begin(), stored.end()}});
+    changeEventLogLanguage(tool.context, "ENU", {"Expanded"});
+    EXPECT_TRUE(tool.registry.written().empty());
+    changeEventLogLanguage(tool.context, "FRA", {"Expanded"});
+    EXPECT_EQ((std::vector<std::string>{key + "\\EventMessageFile", key + "\\CategoryMessageFile"}),
+              tool.registry.written());
+}
+
 TEST_F(EventLogLanguage, TheEmptyLanguageChangesNothing)
 {
     withSource("A", englishFile, "");
