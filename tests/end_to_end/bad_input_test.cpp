@@ -44,7 +44,6 @@ TEST_F(BadInput, ADamagedSiteFileIsRefusedWithItsLine)
 
 TEST_F(BadInput, AnUnknownProcessOrLogIsRefusedAndNothingChanges)
 {
-    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
     const std::string before = fingerprint();
     const struct {
         const char* because;
@@ -70,10 +69,16 @@ TEST_F(BadInput, AnUnknownProcessOrLogIsRefusedAndNothingChanges)
 
 TEST_F(BadInput, ACommandThatFailsInItsWorkStillUnloadsTheTool)
 {
-    write(folder / "large.txt", std::string(2'500'001, 'x'));
-    expectOneLine(run({"read", (folder / "large.txt").string()}), 1, "is too large");
+    fs::remove(site / "OrvanDirDb.sqlite");
+    expectOneLine(run({"settings", "--max-megabytes", "500"}), 1, "can't be read");
     const std::string events = read(site / "eventlogs/Application.jsonl");
     EXPECT_NE(std::string::npos, events.rfind("10003"));
+}
+
+TEST_F(BadInput, ALogThatIsTooLargeToBeShownIsRefused)
+{
+    write(folder / "large.txt", std::string(2'500'001, 'x'));
+    expectOneLine(run({"read", (folder / "large.txt").string()}), 1, "is too large");
 }
 
 TEST_F(BadInput, AResultThatCantBeWrittenIsAFailure)

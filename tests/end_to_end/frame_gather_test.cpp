@@ -149,7 +149,7 @@ TEST_F(FrameGather, StoresTheFiltersAndTheMacroTracesOnce)
 
 TEST_F(FrameGather, StoresADefinitionInTheServersCodePageByItsCharacters)
 {
-    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
+    ASSERT_EQ(0, run({"cycle"}).status) << "the tool's folder is supplied once";
     const std::string head = "<?xml version='1.0' encoding='windows-1252'?><GA NAME='Caf";
     const std::string tail = "'/>\r\n";
     write(drive("OrvanDiagnostics/ZMKXML/HTcafe.xml"), head + "\xE9 \x80" + tail);
@@ -286,7 +286,7 @@ TEST_F(FrameGather, TellsOfWhatIsMissing)
         {"a cabinet maker that fails", "cabmaker.exe", "#!/bin/sh\nexit 1\n", "no cabinet was made",
          true},
     };
-    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
+    ASSERT_EQ(0, run({"cycle"}).status) << "the tool's folder is supplied once";
     const fs::path tools = drive("OrvanDiagnostics");
     for (const auto& c : cases) {
         SCOPED_TRACE(c.because);
@@ -374,7 +374,7 @@ TEST_F(FrameGather, TellsOfFiltersThatCouldNotAllBeStored)
 
 TEST_F(FrameGather, TellsOfDefinitionsThatCouldNotAllBeStored)
 {
-    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
+    ASSERT_EQ(0, run({"cycle"}).status) << "the tool's folder is supplied once";
     write(drive("OrvanDiagnostics/ZMKXML/HTa.xml"), "");
     const Outcome gathered = run(gatherWords("2025-02-20 16:42", "1", target));
     EXPECT_EQ(1, gathered.status);

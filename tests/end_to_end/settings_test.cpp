@@ -193,9 +193,13 @@ TEST_F(EventLanguageCommand, TheFirstLanguageComesBackOnExit)
 TEST_F(EventLanguageCommand, KeepLeavesTheNewLanguageForLaterRunsToo)
 {
     const int all = messageFiles("ENU");
-    ASSERT_EQ(0, run({"event-language", "jpn", "--keep"}).status);
+    const Outcome kept = runJson({"event-language", "jpn", "--keep"});
+    ASSERT_EQ(0, kept.status);
+    EXPECT_EQ("ENU", kept.json()["original"]) << "the first language is still told";
+    EXPECT_EQ("JPN", kept.json()["current"]);
+    EXPECT_THAT(kept.err, HasSubstr("orvandiag event-language ENU --keep")) << "the way back";
     EXPECT_EQ(all, messageFiles("JPN")) << "the folder's own spelling counts";
-    ASSERT_EQ(0, run({"status"}).status);
+    ASSERT_EQ(0, run({"cycle"}).status);
     EXPECT_EQ(all, messageFiles("JPN"));
     EXPECT_EQ("JPN", runJson({"event-language"}).json()["original"]);
 
@@ -208,13 +212,38 @@ TEST_F(EventLanguageCommand, AToolThatWasKilledIsMadeGoodByTheNextRun)
     ASSERT_EQ(0, run({"event-language", "FRA", "--keep"}).status);
     setInRegistry("\"OriginalEventLogLanguage\"=\"FRA\"", "\"OriginalEventLogLanguage\"=\"ENU\"");
     const int all = messageFiles("FRA");
-    ASSERT_EQ(0, run({"status"}).status);
+    ASSERT_EQ(0, run({"cycle"}).status);
     EXPECT_EQ(all, messageFiles("ENU"));
+}
+
+TEST_F(EventLanguageCommand, ALookArmsNoLaterCommandToRewriteTheServersSources)
+{
+    setInRegistry("\"CategoryMessageFile\"=\"C:\\\\KelmaOrvan\\\\Localize\\\\Messaging\\\\ENU\\\\"
+                  "KoMessages.dll\"",
+                  "\"CategoryMessageFile\"=\"C:\\\\Windows\\\\System32\\\\abc.dll\"");
+    const std::string before = registry();
+    ASSERT_EQ(0, run({"event-language"}).status);
+    EXPECT_EQ(before, registry());
+    ASSERT_EQ(0, run({"cycle"}).status);
+    EXPECT_THAT(registry(), HasSubstr("C:\\\\Windows\\\\System32\\\\abc.dll"));
+    EXPECT_THAT(registry(), Not(HasSubstr("OriginalEventLogLanguage")));
+}
+
+TEST_F(EventLanguageCommand, AServerWithoutEventSourcesSaysSoAndIsLeftAlone)
+{
+    std::string text = registry();
+    for (auto place = text.find("Localize\\\\Messaging"); place != std::string::npos;
+         place = text.find("Localize\\\\Messaging"))
+        text.replace(place, 8, "Elsewher");
+    write(site / "registry.reg", text);
+    const std::string before = fingerprint();
+    expectRefused({"event-language", "FRA"}, 1, "no event source of the server is registered");
+    EXPECT_EQ(before, fingerprint());
+    EXPECT_EQ("", runJson({"event-language"}).json()["current"]);
 }
 
 TEST_F(EventLanguageCommand, AnUnknownLanguageIsRefusedAndChangesNothing)
 {
-    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
     const int all = messageFiles("ENU");
     const std::string before = fingerprint();
     const auto logs = toolLogs();
@@ -247,7 +276,7 @@ TEST_F(LanguageCommand, ListsTheLanguagesAndChoosesOneForARun)
 
 TEST_F(LanguageCommand, TakesALibrarysCodeWithoutRegardToCase)
 {
-    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied";
+    ASSERT_EQ(0, run({"cycle"}).status) << "the tool's folder is supplied";
     const auto tool = drive("OrvanDiagnostics");
     fs::rename(tool / "ZMKbrandingres_FRA.txt", tool / "zmkbrandingres_fra.txt");
     const Outcome listed = run({"language"});
@@ -268,7 +297,6 @@ TEST_F(LanguageCommand, FollowsTheSitesOwnLanguage)
 
 TEST_F(LanguageCommand, AnUnknownLanguageIsRefusedAndChangesNothing)
 {
-    ASSERT_EQ(0, run({"status"}).status) << "the tool's folder is supplied once";
     const std::string before = fingerprint();
     const auto logs = toolLogs();
     for (const char* wrong : {"QQQ", "ITA", "1036"})

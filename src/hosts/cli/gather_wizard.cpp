@@ -48,7 +48,7 @@ void tickBox(CheckBox& box, bool ticked)
 
 GatherWizard::GatherWizard(OpenTool& tool, const GatherRequest& request) : driver_(tool, taskKey)
 {
-    chooseDestination(tool, request.destination);
+    chooseDestination(tool, request);
     driver_.control<OptionButtonGroup>("optGatherLogs").click(request.option);
     driver_.next();
     if (request.option == gatherOption::byHand) tickLogs(request);
@@ -61,15 +61,15 @@ GatherWizard::GatherWizard(OpenTool& tool, const GatherRequest& request) : drive
     overall_ = &driver_.control<ProgressBar>("progressbarOverall");
 }
 
-void GatherWizard::chooseDestination(OpenTool& tool, const std::string& folder)
+void GatherWizard::chooseDestination(OpenTool& tool, const GatherRequest& request)
 {
-    if (!folder.empty()) {
-        tool.desktop().answerPickers(folder);
+    if (!request.destination.empty()) {
+        tool.desktop().answerPickers(request.destination);
         driver_.control<Button>("cmdChangeDestinationDirectory").click();
         tool.desktop().answerPickers({});
     }
     destination_ = belowCaption(driver_.control<Label>("lblDestinationDirectory"));
-    requireUsableDestination(tool, destination_);
+    if (!request.dryRun) requireUsableDestination(tool, destination_);
 }
 
 void GatherWizard::tickLogs(const GatherRequest& request)

@@ -1,6 +1,7 @@
 #include "hosts/cli/known_names.h"
 
 #include "backends/portable/site_database.h"
+#include "backends/portable/sqlite_handle.h"
 #include "core/localisation.h"
 #include "core/utility.h"
 #include "platform/file_system.h"
@@ -60,6 +61,7 @@ bool knownNames::hasComponent(OpenTool& tool, const std::string& component)
 {
     try {
         SiteDatabase database = tool.site().database().another();
+        database.openFor(DatabaseUse::look);
         database.open("", "", "");
         const auto rows = database.openRecordset("SELECT Name FROM vw_LoggerDiagnosticGrid",
                                                  CursorKind::forwardOnly, LockKind::readOnly);

@@ -23,35 +23,43 @@ HostFacts hostFacts(const GlobalOptions& options)
     return facts;
 }
 
-/// The site's folder, once it is sure that the tool can keep its log and its registry there.
-const std::string& usableSite(const std::string& folder)
+/// The site's folder, once it is sure that a tool that changes something can keep its log and its
+/// registry there.
+const std::string& usableSite(const std::string& folder, ToolUse use)
 {
     if (!isSite(folder))
         throw CommandFailure(folder +
                              " is not a site (no site.ini, registry.reg or drive_c in it); " +
                              "orvandiag sample makes one to try things on");
-    if (::access(folder.c_str(), W_OK) != 0)
+    if (use == ToolUse::change && ::access(folder.c_str(), W_OK) != 0)
         throw CommandFailure("the site " + folder + " is read-only");
     return folder;
 }
 
 } // namespace
 
-OpenTool::OpenTool(const GlobalOptions& options, const Check& check)
-    : site_(usableSite(options.site), installedDataFolder(), hostFacts(options)),
+OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check)
+    : site_(usableSite(options.site, use), installedDataFolder(), hostFacts(options),
+            SiteUse::look),
       traceDatabases_([this](const std::string& path) { return machinePath(path); },
                       site_.codePage()),
-      platform_(site_.platform(desktop_, traceDatabases_)), context_(platform_),
-      definition_(snapinDefinition()), console_(definition_), snapIn_(context_, console_),
-      codePage_(site_.codePage())
+      platform_(site_.platform(desktop_, traceDatabases_)),
+      looking_(platform_, [this](const std::string& path) { return site_.paths().isOfSite(path); }),
+      definition_(snapinDefinition()), console_(definition_), codePage_(site_.codePage())
 {
-    if (check) check(*this);
-    context_.onTrappedError = [this](const RunTimeError& error, std::string_view procName) {
+    if (check) {
+        context_.emplace(looking_.platform());
+        check(*this);
+    }
+    if (use == ToolUse::change) site_.startChanges();
+    context_.emplace(use == ToolUse::change ? platform_ : looking_.platform());
+    snapIn_.emplace(*context_, console_);
+    context_->onTrappedError = [this](const RunTimeError& error, std::string_view procName) {
         if (procName == "[mdlOrvanDatabase]openOrvanDB") databaseFailure_ = error.description();
     };
-    console_.load(snapIn_);
+    console_.load(*snapIn_);
     loaded_ = true;
-    context_.onTrappedError = {};
+    context_->onTrappedError = {};
 }
 
 OpenTool::~OpenTool()
@@ -79,7 +87,7 @@ std::string OpenTool::toolPath(const std::string& typed) const
 
 void OpenTool::requireDatabase()
 {
-    if (context_.g_connection.state() == 1) return;
+    if (context_->g_connection.state() == 1) return;
     throw CommandFailure("cannot connect to the server's database" +
                          (databaseFailure_.empty() ? "" : ": " + databaseFailure_));
 }

@@ -5,12 +5,20 @@
 #include "core/tool_context.h"
 #include "hosts/cli/command.h"
 #include "hosts/cli/terminal_desktop.h"
+#include "hosts/common/looking_services.h"
 #include "platform/code_page.h"
 #include "platform/console.h"
 #include "shell/snapin_orvan_diagnostics.h"
 
 #include <functional>
+#include <optional>
 #include <string>
+
+/// What a command opens the tool for.
+enum class ToolUse {
+    change,
+    look, ///< leaves no event, log or value, and needs no leave to write
+};
 
 /// The tool at work on a site: from its loading to its unloading, with a terminal for a desktop.
 class OpenTool {
@@ -18,11 +26,13 @@ public:
     using Check = std::function<void(OpenTool&)>;
 
     /// Opens the site, and loads the snap-in into a console. Raises CommandFailure for a folder
-    /// that is no site or may not be written to, RunTimeError for a damaged one.
+    /// that is no site, or may not be written to by a command that changes it; RunTimeError for a
+    /// damaged one.
     ///
-    /// `check` looks at the command's arguments on the open site, before the tool starts: what it
-    /// raises ends the command with nothing changed.
-    explicit OpenTool(const GlobalOptions& options, const Check& check = {});
+    /// `check` looks at the command's arguments on the open site, before the tool starts and before
+    /// anything is made there: what it raises ends the command with nothing changed. Its context
+    /// is one of a tool that looks, and goes afterwards.
+    OpenTool(const GlobalOptions& options, ToolUse use, const Check& check = {});
 
     OpenTool(const OpenTool&) = delete;
     OpenTool& operator=(const OpenTool&) = delete;
@@ -34,9 +44,9 @@ public:
     void close();
 
     Site& site() { return site_; }
-    ToolContext& context() { return context_; }
+    ToolContext& context() { return *context_; }
     Console& console() { return console_; }
-    snapinOrvanDiagnostics& snapIn() { return snapIn_; }
+    snapinOrvanDiagnostics& snapIn() { return *snapIn_; }
     TerminalDesktop& desktop() { return desktop_; }
     const CodePage& codePage() const { return codePage_; }
 
@@ -61,10 +71,11 @@ private:
     TerminalDesktop desktop_;
     jet::JetEngine traceDatabases_;
     Platform platform_;
-    ToolContext context_;
+    LookingServices looking_;
+    std::optional<ToolContext> context_;
     SnapInDefinition definition_;
     Console console_;
-    snapinOrvanDiagnostics snapIn_;
+    std::optional<snapinOrvanDiagnostics> snapIn_;
     CodePage codePage_;
     std::string databaseFailure_;
     bool loaded_ = false;

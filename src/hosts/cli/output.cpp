@@ -61,6 +61,11 @@ void Output::line(std::string_view content)
     text("\n");
 }
 
+void Output::message(const std::string& text)
+{
+    std::fprintf(stderr, "orvandiag: %s\n", text.c_str());
+}
+
 void Output::finish()
 {
     if (std::fflush(stdout) != 0) failed_ = true;

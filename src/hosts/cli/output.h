@@ -29,6 +29,9 @@ public:
 
     void line(std::string_view text);
 
+    /// A line for the person on standard error, beside the results.
+    void message(const std::string& text);
+
     /// Hands everything to the system. Raises CommandFailure when standard output can't take it.
     void finish();
 

@@ -20,7 +20,7 @@ public:
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        OpenTool tool(options);
+        OpenTool tool(options, ToolUse::look);
         const SnapInIdentity identity = tool.console().identity();
         const std::string name = tool.console().displayName();
         frmAbout& box = tool.snapIn().showAbout();

@@ -20,7 +20,7 @@ public:
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        OpenTool tool(options);
+        OpenTool tool(options, ToolUse::change);
         tool.console().clickTask(taskKey);
         const RegistryData stored = getRegistryValue(tool.context(), HKEY_LOCAL_MACHINE,
                                                      std::string(logManagerKey) + "\\BroadCast",

@@ -13,6 +13,33 @@ namespace {
 
 constexpr const char* menuItem = "mnuChangeLanguage";
 
+/// What the sheet of the event log's language tells.
+struct EventLanguages {
+    std::string original;
+    std::string current;
+    std::vector<std::string> available;
+};
+
+/// The languages as they are, without the sheet: opening that records the original language, and
+/// the tool's end then puts it back.
+EventLanguages presentLanguages(ToolContext& context)
+{
+    EventLanguages languages;
+    const auto sources = mdlLanguage::getEventLogKeys(context);
+    if (!sources.empty()) {
+        const std::string file = mdlLanguage::eventMessageFile(context, sources.front());
+        languages.current = mdlLanguage::determineCurrentLanguage(context, file);
+    }
+    languages.original = mdlLanguage::originalLanguage(context);
+    if (languages.original.empty()) languages.original = languages.current;
+    try {
+        languages.available = mdlLanguage::installedLanguages(context);
+    } catch (const RunTimeError&) {
+        // A server without a folder of messages has no language to offer.
+    }
+    return languages;
+}
+
 /// The installed language of that name in the folder's own spelling. Raises CommandFailure.
 std::string installedLanguage(OpenTool& tool, const std::string& wanted)
 {
@@ -40,7 +67,9 @@ public:
                "files\n"
                "are registered. On exit the original language comes back, as it does when the "
                "console is\n"
-               "closed. With --keep the new one stays: it becomes the language that comes back.\n\n"
+               "closed. With --keep the new one stays: it becomes the language that comes back, "
+               "and the way\n"
+               "back to the one before is told. Without a language nothing is changed.\n\n"
                "  orvandiag event-language\n"
                "  orvandiag event-language FRA --keep";
     }
@@ -54,16 +83,22 @@ public:
     void run(const GlobalOptions& options, Output& output) override
     {
         if (keep_ && code_.empty()) throw UsageError("event-language --keep needs a language");
+        if (code_.empty()) {
+            OpenTool tool(options, ToolUse::look);
+            const EventLanguages present = presentLanguages(tool.context());
+            tool.close();
+            return report(output, present);
+        }
         std::string language;
-        OpenTool tool(options, [&](OpenTool& opened) {
-            if (!code_.empty()) language = installedLanguage(opened, code_);
+        OpenTool tool(options, ToolUse::change, [&](OpenTool& opened) {
+            language = installedLanguage(opened, code_);
+            if (mdlLanguage::getEventLogKeys(opened.context()).empty())
+                throw CommandFailure("no event source of the server is registered");
         });
-        if (!language.empty() && mdlLanguage::getEventLogKeys(tool.context()).empty())
-            throw CommandFailure("no event source of the server is registered");
-        Shown shown;
+        EventLanguages shown;
         {
             SheetDriver sheet(tool, menuItem);
-            if (!language.empty()) change(tool, sheet, language);
+            change(tool, sheet, language);
             shown = {sheet.control<TextBox>("txtOriginalLanguage").text(),
                      sheet.control<TextBox>("txtCurrentLanguage").text(),
                      sheet.control<ListBox>("lstAvailableLangs").items()};
@@ -71,15 +106,13 @@ public:
         if (keep_) mdlLanguage::recordOriginalLanguage(tool.context(), language);
         tool.close();
         report(output, shown);
+        if (keep_ && shown.original != language)
+            output.message("the event log stays in " + language + "; to go back to " +
+                           shown.original + ": orvandiag event-language " + shown.original +
+                           " --keep");
     }
 
 private:
-    struct Shown {
-        std::string original;
-        std::string current;
-        std::vector<std::string> available;
-    };
-
     static void change(OpenTool& tool, SheetDriver& sheet, const std::string& language)
     {
         auto& list = sheet.control<ListBox>("lstAvailableLangs");
@@ -94,7 +127,7 @@ private:
         }
     }
 
-    void report(Output& output, const Shown& shown) const
+    void report(Output& output, const EventLanguages& shown) const
     {
         if (output.json()) {
             output.value({{"original", shown.original},

@@ -33,7 +33,7 @@ public:
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        OpenTool tool(options, [this](OpenTool& opened) {
+        OpenTool tool(options, ToolUse::look, [this](OpenTool& opened) {
             if (!component_.empty() && !knownNames::hasComponent(opened, component_))
                 throw noSuchComponent(component_);
         });

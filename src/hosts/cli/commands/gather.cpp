@@ -67,12 +67,15 @@ public:
     {
         if (logs_->parsed() && orvanLogs_.empty() && windowsLogs_.empty())
             throw UsageError("gather logs needs a --log or an --event-log");
+        if (gathersTo() && trim(to_).empty()) throw UsageError("gather --to needs a folder");
         GatherRequest request;
+        request.dryRun = dryRun_;
         request.option = option();
         request.logs = orvanLogs_;
         request.eventLogs = windowsLogs_;
         if (frame_->parsed()) request.frame = frameChoice();
-        OpenTool tool(options, [&](OpenTool& opened) { requireSound(opened, request.frame); });
+        OpenTool tool(options, dryRun_ ? ToolUse::look : ToolUse::change,
+                      [&](OpenTool& opened) { requireSound(opened, request.frame); });
         if (!to_.empty()) request.destination = tool.toolPath(to_);
         std::optional<GatherOutcome> outcome;
         {
@@ -91,6 +94,13 @@ private:
     {
         if (frame_->parsed()) return gatherOption::timeFrame;
         return logs_->parsed() ? gatherOption::byHand : gatherOption::standard;
+    }
+
+    /// Whether a destination is given, though it may be the empty text.
+    bool gathersTo() const
+    {
+        const auto given = [](const CLI::App* mode) { return mode->count("--to") > 0; };
+        return given(standard_) || given(logs_) || given(frame_);
     }
 
     TimeFrameChoice frameChoice() const

@@ -59,9 +59,11 @@ public:
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        OpenTool tool(options, [this](OpenTool& opened) {
-            if (!code_.empty()) menuPlace(offered(libraryCodes(opened.context())), code_);
-        });
+        OpenTool tool(options, code_.empty() ? ToolUse::look : ToolUse::change,
+                      [this](OpenTool& opened) {
+                          if (!code_.empty())
+                              menuPlace(offered(libraryCodes(opened.context())), code_);
+                      });
         frmAbout& box = tool.snapIn().showAbout();
         const Codes available = offered(tool.context().language.g_astrLanguages);
         if (!code_.empty()) box.mnuLanguageList_Click(menuPlace(available, code_));

@@ -55,7 +55,7 @@ public:
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        OpenTool tool(options, [this](OpenTool& opened) { requireProcess(opened); });
+        OpenTool tool(options, ToolUse::look, [this](OpenTool& opened) { requireProcess(opened); });
         const auto files = logFilesOf(tool, process_);
         tool.close();
         if (output.json()) {

@@ -80,7 +80,8 @@ public:
     {
         if (set_->parsed() && on_.empty() && off_.empty())
             throw UsageError("macro set needs an --on or an --off");
-        OpenTool tool(options, [this](OpenTool& opened) { requireMacroTraces(opened); });
+        OpenTool tool(options, set_->parsed() ? ToolUse::change : ToolUse::look,
+                      [this](OpenTool& opened) { requireMacroTraces(opened); });
         if (set_->parsed())
             set(tool, output);
         else

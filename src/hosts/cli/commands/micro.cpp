@@ -106,11 +106,12 @@ public:
         std::vector<LevelName> off;
         for (const auto& name : on_) on.push_back(levelName(name));
         for (const auto& name : off_) off.push_back(levelName(name));
-        OpenTool tool(options, [&](OpenTool& opened) {
-            if (!component_.empty()) requireComponent(opened, component_);
-            for (const auto* names : {&on, &off})
-                for (const auto& name : *names) requireLevel(opened, name);
-        });
+        OpenTool tool(options, set_->parsed() ? ToolUse::change : ToolUse::look,
+                      [&](OpenTool& opened) {
+                          if (!component_.empty()) requireComponent(opened, component_);
+                          for (const auto* names : {&on, &off})
+                              for (const auto& name : *names) requireLevel(opened, name);
+                      });
         if (set_->parsed())
             set(tool, output, on, off);
         else

@@ -127,7 +127,7 @@ public:
     void run(const GlobalOptions& options, Output& output) override
     {
         std::string path;
-        OpenTool tool(options, [&](OpenTool& opened) { path = location(opened); });
+        OpenTool tool(options, ToolUse::look, [&](OpenTool& opened) { path = location(opened); });
         std::string failure;
         tool.context().onTrappedError = [&](const RunTimeError& error, std::string_view procName) {
             if (failure.empty() && procName == "[mdlSnapIn]populateListViewDiagLog")

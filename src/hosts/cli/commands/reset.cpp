@@ -27,7 +27,7 @@ public:
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        OpenTool tool(options);
+        OpenTool tool(options, ToolUse::change);
         const TraceChange change(tool);
         {
             WizardDriver wizard(tool, taskKey);

@@ -4,6 +4,7 @@
 #include "platform/controls.h"
 #include "platform/database.h"
 #include "runtime/numbers.h"
+#include "runtime/text.h"
 #include "server/configuration_database.h"
 
 #include <CLI/CLI.hpp>
@@ -88,9 +89,11 @@ public:
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        OpenTool tool(options);
-        bool rebootRequired = false;
-        if (megabytes_->count() > 0 || folder_->count() > 0) rebootRequired = change(tool);
+        if (folder_->count() > 0 && trim(logFolder_).empty())
+            throw UsageError("settings --log-folder needs a folder");
+        const bool changes = megabytes_->count() > 0 || folder_->count() > 0;
+        OpenTool tool(options, changes ? ToolUse::change : ToolUse::look);
+        const bool rebootRequired = changes && change(tool);
         const ShownSettings shown = read(tool);
         tool.close();
         requireWritten(shown);

@@ -22,7 +22,7 @@ public:
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        OpenTool tool(options);
+        OpenTool tool(options, ToolUse::look);
         const ServerVersion version = mdlOrvan::getVersion(tool.context());
         const bool connected = tool.context().g_connection.state() == 1;
         std::vector<std::string> processes;

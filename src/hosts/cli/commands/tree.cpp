@@ -40,7 +40,7 @@ public:
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        OpenTool tool(options);
+        OpenTool tool(options, ToolUse::look);
         ScopeItem& root = tool.console().scopeItems().item(1);
         expandAll(tool.console(), root);
         if (output.json())
