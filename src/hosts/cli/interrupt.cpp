@@ -4,27 +4,32 @@
 
 namespace {
 
+constexpr int signals[] = {SIGINT, SIGTERM, SIGHUP};
+
 volatile std::sig_atomic_t wished = 0;
+volatile std::sig_atomic_t repeatedEnds = 1;
 
 extern "C" void rememberWish(int signal)
 {
     wished = 1;
-    std::signal(signal, SIG_DFL);
+    if (repeatedEnds != 0) std::signal(signal, SIG_DFL);
 }
 
 } // namespace
 
-InterruptWish::InterruptWish()
+InterruptWish::InterruptWish(Repeated repeated)
 {
     wished = 0;
-    std::signal(SIGINT, rememberWish);
-    std::signal(SIGTERM, rememberWish);
+    repeatedEnds = repeated == Repeated::ends ? 1 : 0;
+    for (const int signal : signals)
+        if (std::signal(signal, rememberWish) == SIG_IGN && signal == SIGHUP)
+            std::signal(signal, SIG_IGN);
 }
 
 InterruptWish::~InterruptWish()
 {
-    std::signal(SIGINT, SIG_DFL);
-    std::signal(SIGTERM, SIG_DFL);
+    for (const int signal : signals)
+        if (std::signal(signal, SIG_DFL) == SIG_IGN) std::signal(signal, SIG_IGN);
 }
 
 bool InterruptWish::made() const

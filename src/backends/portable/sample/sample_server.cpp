@@ -13,6 +13,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::size_t fewestLines = 100;
+constexpr std::size_t linesBetweenTellings = 1000;
 
 fs::path targetOf(const SampleOptions& options)
 {
@@ -69,13 +70,23 @@ private:
     fs::path path_;
 };
 
+void tell(const SampleOptions& options, double done)
+{
+    if (options.onProgress) options.onProgress(done);
+}
+
 void writeLogs(const fs::path& folder, const std::vector<sample::LogPeriod>& plan,
                const SampleOptions& options, sample::Random& random)
 {
     fs::create_directories(folder);
     sample::LogWriter writer(folder, plan, options.logFields == LogFields::extended);
-    sample::Traffic traffic(random, plan, std::max(options.lines, fewestLines),
-                            [&](const sample::LogLine& line) { writer.write(line); });
+    const std::size_t lines = std::max(options.lines, fewestLines);
+    std::size_t written = 0; // records of data files among them, so that the end comes early
+    sample::Traffic traffic(random, plan, lines, [&](const sample::LogLine& line) {
+        writer.write(line);
+        if (++written % linesBetweenTellings == 0)
+            tell(options, std::min(1.0, static_cast<double>(written) / static_cast<double>(lines)));
+    });
     traffic.run();
     writer.close();
 }
@@ -110,6 +121,7 @@ void makeSampleServer(const SampleOptions& options)
         refuseUnlessFree(target);
         PartialFolder partial(target);
         fill(partial.path(), options);
+        tell(options, 1);
         partial.keepAs(target);
     } catch (const fs::filesystem_error& error) {
         throw RunTimeError(runTimeErrors::deviceIo, error.what());

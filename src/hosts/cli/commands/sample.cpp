@@ -1,7 +1,10 @@
 #include "backends/portable/sample/sample_server.h"
 #include "hosts/cli/commands/commands.h"
+#include "hosts/cli/interrupt.h"
 #include "hosts/cli/output.h"
 #include "hosts/cli/program.h"
+#include "hosts/cli/progress_line.h"
+#include "runtime/text.h"
 
 #include <CLI/CLI.hpp>
 
@@ -32,7 +35,9 @@ public:
         app.add_option("--lines", lines_, "lines of all diagnostic logs together")
             ->capture_default_str()
             ->check(CLI::Range(std::uint64_t{100}, std::uint64_t{1'000'000'000}));
-        app.add_option("--seed", seed_, "another seed makes another server")->capture_default_str();
+        app.add_option("--seed", seed_, "another seed makes another server")
+            ->capture_default_str()
+            ->check(notNegative());
         app.add_option("--fields", fields_, "what a log line carries: basic or extended")
             ->capture_default_str()
             ->check(CLI::IsMember({"basic", "extended"}));
@@ -47,7 +52,7 @@ public:
         options.lines = lines_;
         options.seed = seed_;
         options.logFields = fields_ == "extended" ? LogFields::extended : LogFields::basic;
-        makeSampleServer(options);
+        make(options);
         if (output.json())
             output.value({{"site", options.folder}});
         else
@@ -55,6 +60,27 @@ public:
     }
 
 private:
+    /// A number that is read without its sign would be another one.
+    static CLI::Validator notNegative()
+    {
+        return {[](const std::string& text) {
+                    return trim(text).substr(0, 1) == "-" ? text + " is less than 0" : "";
+                },
+                ""};
+    }
+
+    /// A wish to stop leaves nothing behind.
+    static void make(SampleOptions& options)
+    {
+        const InterruptWish interrupt(InterruptWish::Repeated::isIgnored);
+        ProgressLine progress;
+        options.onProgress = [&](double done) {
+            if (interrupt.made()) throw CommandFailure("interrupted; no sample server was made");
+            progress.show(done, "Making a sample server");
+        };
+        makeSampleServer(options);
+    }
+
     std::string folder_;
     std::uint64_t lines_ = SampleOptions{}.lines;
     std::uint64_t seed_ = SampleOptions{}.seed;
