@@ -118,6 +118,36 @@ TEST_F(TraceCommands, AMicroTraceIsOneBitOfAComponentsWord)
     FAIL() << "every level is on";
 }
 
+TEST_F(TraceCommands, ALevelThatIsOnByDefaultIsToldToStayOn)
+{
+    const Outcome set = run({"micro", "set", "--off", "CallFlow:1", "--off", "CallFlow:2"});
+    EXPECT_EQ(0, set.status);
+    EXPECT_EQ("orvandiag: CallFlow:1 stays on: it is on by default\n", set.err);
+    EXPECT_EQ(3, flags("CallFlow") & 7);
+    EXPECT_EQ("", run({"micro", "set", "--on", "CallFlow:1", "--off", "CallFlow:2"}).err);
+}
+
+TEST_F(TraceCommands, ANameThatIsToBeTurnedOnAndOffIsRefused)
+{
+    const std::string trace = macroTrace();
+    std::string other = trace;
+    std::transform(other.begin(), other.end(), other.begin(), ::toupper);
+    const std::vector<std::vector<std::string>> cases = {
+        {"macro", "set", "--on", trace, "--off", trace},
+        {"macro", "set", "--on", trace, "--off", other},
+        {"micro", "set", "--on", "CallFlow:5", "--off", "Codec:5", "--off", "CallFlow:5"},
+        {"micro", "set", "--on", "CallFlow:5", "--off", "callflow:05"},
+    };
+    const std::string before = fingerprint();
+    for (const auto& words : cases) {
+        SCOPED_TRACE(testing::PrintToString(words));
+        const Outcome refused = run(words);
+        EXPECT_EQ(2, refused.status);
+        EXPECT_THAT(refused.err, HasSubstr("is to be turned on and off"));
+        EXPECT_EQ(before, fingerprint());
+    }
+}
+
 TEST_F(TraceCommands, AskingForWhatIsInForceAlreadyIsDoneAndTold)
 {
     const std::string trace = macroTrace();

@@ -80,6 +80,10 @@ public:
     {
         if (set_->parsed() && on_.empty() && off_.empty())
             throw UsageError("macro set needs an --on or an --off");
+        for (const auto& on : on_)
+            for (const auto& off : off_)
+                if (equalIgnoringCase(on, off))
+                    throw UsageError("\"" + on + "\" is to be turned on and off");
         OpenTool tool(options, set_->parsed() ? ToolUse::change : ToolUse::look,
                       [this](OpenTool& opened) { requireMacroTraces(opened); });
         if (set_->parsed())

@@ -50,6 +50,31 @@ LevelName levelName(const std::string& wanted)
     return {wanted.substr(0, colon), std::stoi(digits)};
 }
 
+std::string textOf(const LevelName& name)
+{
+    return name.component + ":" + numberText(std::int64_t{name.level});
+}
+
+/// Those of the levels that every change of traces turns on again.
+std::vector<LevelName> defaultLevels(DatabaseConnection& connection,
+                                     const std::vector<LevelName>& levels)
+{
+    std::vector<LevelName> found;
+    const auto rows =
+        connection.openRecordset("SELECT Name, DefaultFlags FROM vw_LoggerDiagnosticGrid",
+                                 CursorKind::forwardOnly, LockKind::readOnly);
+    for (; !rows->atEnd(); rows->moveNext()) {
+        const std::string component = valueAsText(rows->field("Name"));
+        const auto flags =
+            static_cast<std::uint32_t>(valueAsInteger32(rows->field("DefaultFlags")));
+        for (const LevelName& level : levels)
+            if (level.level < 32 && trim(component) == level.component &&
+                (flags >> level.level) & 1)
+                found.push_back(level);
+    }
+    return found;
+}
+
 CommandFailure noSuchComponent(const std::string& component)
 {
     return CommandFailure("no component " + component +
@@ -106,6 +131,10 @@ public:
         std::vector<LevelName> off;
         for (const auto& name : on_) on.push_back(levelName(name));
         for (const auto& name : off_) off.push_back(levelName(name));
+        for (const auto& name : on)
+            for (const auto& other : off)
+                if (name.level == other.level && equalIgnoringCase(name.component, other.component))
+                    throw UsageError(textOf(name) + " is to be turned on and off");
         OpenTool tool(options, set_->parsed() ? ToolUse::change : ToolUse::look,
                       [&](OpenTool& opened) {
                           if (!component_.empty()) requireComponent(opened, component_);
@@ -170,6 +199,8 @@ private:
     {
         std::string summary;
         const TraceChange change(tool);
+        std::vector<LevelName> staying;
+        if (!off.empty()) staying = defaultLevels(tool.context().g_connection, off);
         {
             WizardDriver wizard(tool, taskKey);
             wizard.next();
@@ -188,6 +219,8 @@ private:
             output.value({{"summary", summary}});
         else
             output.line(summary);
+        for (const LevelName& level : staying)
+            output.message(textOf(level) + " stays on: it is on by default");
     }
 
     CLI::App* set_ = nullptr;
