@@ -59,10 +59,10 @@ double valueOf(const NumberCharacters& number)
     return number.negative ? -value : value;
 }
 
-/// A text's characters one by one, without those that the scan for a leading number passes over.
-class LeadingCharacters {
+/// A text's characters one by one.
+class Characters {
 public:
-    explicit LeadingCharacters(std::string_view text) : rest_(text) { passOver(); }
+    explicit Characters(std::string_view text) : rest_(text) {}
 
     /// A zero byte at the end: like one within, it belongs to no number.
     char peek() const { return rest_.empty() ? '\0' : rest_.front(); }
@@ -71,16 +71,10 @@ public:
     {
         const char taken = rest_.front();
         rest_.remove_prefix(1);
-        passOver();
         return taken;
     }
 
 private:
-    void passOver()
-    {
-        rest_.remove_prefix(std::min(rest_.find_first_not_of(" \t\n"), rest_.size()));
-    }
-
     std::string_view rest_;
 };
 
@@ -173,7 +167,8 @@ bool isNumeric(std::string_view text)
 
 double leadingNumber(std::string_view text)
 {
-    LeadingCharacters characters(text);
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\n"), text.size()));
+    Characters characters(text);
     NumberCharacters number;
     if (characters.peek() == '+' || characters.peek() == '-') {
         number.negative = characters.take() == '-';

@@ -21,10 +21,10 @@ double toNumber(std::string_view text);
 /// Whether `toNumber` would accept the text.
 bool isNumeric(std::string_view text);
 
-/// The number that a text begins with: the scan passes over blanks, tabs and line feeds, takes
-/// sign, digits, one decimal point and an exponent, and stops at the first character that cannot
-/// belong to a number. No leading number gives 0. Never raises but for 6, past the range of a
-/// double.
+/// The number that a text begins with: the scan passes over leading blanks, tabs and line feeds,
+/// takes sign, digits, one decimal point and an exponent, and stops at the first character that
+/// cannot belong to a number; a blank is one. No leading number gives 0. Never raises but for 6,
+/// past the range of a double.
 double leadingNumber(std::string_view text);
 
 /// A whole number as plain decimal text: "-5", "0", "1033".

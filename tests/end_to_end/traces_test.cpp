@@ -148,6 +148,33 @@ TEST_F(TraceCommands, ANameThatIsToBeTurnedOnAndOffIsRefused)
     }
 }
 
+TEST_F(TraceCommands, TheTextOfALevelDoesNotChangeItsNumber)
+{
+    const fs::path catalogue =
+        drive("KelmaOrvan/GuiResources/Resources/ENU/DiagnosticGrids_ENU.xml");
+    std::string text = read(catalogue);
+    for (const auto& [old, other] : {std::pair("level=\"1\" text=\"Warnings\"", "1st stage"),
+                                     std::pair("level=\"2\" text=\"Name searches\"", "E1 trunk"),
+                                     std::pair("level=\"4\" text=\"Private lists\"", "32 bit"),
+                                     std::pair("level=\"5\" text=\"System lists\"", ".5 s")}) {
+        const std::string shown = old;
+        ASSERT_NE(std::string::npos, text.find(shown));
+        text.replace(text.find(shown), shown.size(), shown.substr(0, 16) + other + '"');
+    }
+    write(catalogue, text);
+    sql("UPDATE tbl_LoggerDiagnosticGrid SET Flags=1, DefaultFlags=1 WHERE Name='AddressBook'");
+
+    ASSERT_EQ(0, run({"micro", "set", "--on", "AddressBook:1", "--on", "AddressBook:2", "--on",
+                      "AddressBook:4", "--on", "AddressBook:5"})
+                     .status);
+    EXPECT_EQ(0b110111, flags("AddressBook"));
+    ASSERT_EQ(0, run({"micro", "set", "--off", "AddressBook:2"}).status);
+    EXPECT_EQ(0b110011, flags("AddressBook")) << "the other levels stay set";
+    const auto levels = runJson({"micro", "AddressBook"}).json()[0]["levels"];
+    EXPECT_EQ(4, levels[4]["level"]);
+    EXPECT_EQ("32 bit", levels[4]["text"]);
+}
+
 TEST_F(TraceCommands, AskingForWhatIsInForceAlreadyIsDoneAndTold)
 {
     const std::string trace = macroTrace();

@@ -100,6 +100,20 @@ TEST_F(MicroTraces, ReportsEachTickedLevelOnEveryRunWithoutItsComponent)
     EXPECT_THAT(events(), ElementsAre("10006  (03  three)", "10006  (03  three)"));
 }
 
+TEST_F(MicroTraces, ReadsALevelsNumberWhateverItsTextBeginsWith)
+{
+    tool.database.withComponent("A", 0, 0);
+
+    configure({{true, "Alpha (A)"},
+               {false, "01  1st stage", true},
+               {false, "02  E1 trunk", true},
+               {false, "04  32 bit", true},
+               {false, "05  .5 s", true}});
+
+    EXPECT_EQ(0b110110, flags("A"));
+    EXPECT_THAT(ownFailures(), IsEmpty());
+}
+
 TEST_F(MicroTraces, WritesOnlyComponentsWhoseFlagsChange)
 {
     tool.database.withComponent("A", 8, 0).withComponent("B", 8, 0).withComponent("C", 0, 5);
