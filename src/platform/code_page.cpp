@@ -6,11 +6,11 @@
 namespace {
 
 constexpr char missing = '?';
+constexpr char32_t replacement = 0xFFFD; ///< stands where there is no character
 
 /// One character of UTF-8, taken off the front of a text; 0xFFFD for a byte that begins none.
 char32_t takeCharacter(std::string_view& text)
 {
-    constexpr char32_t replacement = 0xFFFD;
     constexpr char32_t least[] = {0, 0x80, 0x800, 0x10000};
     const auto first = static_cast<unsigned char>(text.front());
     text.remove_prefix(1);
@@ -66,7 +66,7 @@ char CodePage::byteOf(char32_t character) const
 {
     if (character < 0x80) return static_cast<char>(character);
     const auto place = std::find(characters_.begin() + 0x80, characters_.end(), character);
-    if (place == characters_.end()) return missing;
+    if (character == replacement || place == characters_.end()) return missing;
     return static_cast<char>(place - characters_.begin());
 }
 

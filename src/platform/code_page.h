@@ -7,7 +7,8 @@
 /// A single-byte code page, in which the server writes its logs.
 class CodePage {
 public:
-    /// The character of each byte. ASCII bytes stand for themselves, whatever the table says.
+    /// The character of each byte; U+FFFD for a byte that has none. ASCII bytes stand for
+    /// themselves, whatever the table says.
     using Table = std::array<char16_t, 256>;
 
     explicit CodePage(const Table& characters) : characters_(characters) {}
@@ -15,7 +16,7 @@ public:
     /// The character of a byte.
     char16_t character(char byte) const { return characters_[static_cast<unsigned char>(byte)]; }
 
-    /// Appends the characters of `bytes` in UTF-8. Every byte has one.
+    /// Appends the characters of `bytes` in UTF-8.
     void appendUtf8(std::string& target, std::string_view bytes) const;
 
     /// The bytes of a text in UTF-8, with "?" for each character that the code page lacks and for

@@ -41,6 +41,14 @@ TEST(CodePage, FollowsTheTableThatItWasGiven)
     EXPECT_EQ(0x0391, greek.character('\xC1'));
 }
 
+TEST(CodePage, AnUnusedByteIsNoCharactersByte)
+{
+    CodePage::Table table{};
+    table.fill(0xFFFD);
+    const CodePage unused(table);
+    EXPECT_EQ("??", unused.bytesOf("\xEF\xBF\xBD\xFF"));
+}
+
 TEST(CodePage, GivesTheBytesOfAText)
 {
     struct Case {

@@ -2,6 +2,13 @@
 
 #include "platform/code_page.h"
 
-/// The single-byte code page of a number, such as 1252 or 437; Windows-1252 for a number that the
-/// machine does not know as a single-byte one.
-CodePage codePageOf(int number);
+#include <optional>
+
+/// The single-byte code page of a number, such as 1252, 437 or 28591; nothing for a number that
+/// this machine does not know, and for a page that takes several bytes for a character or other
+/// ASCII characters than ASCII has.
+///
+/// Each byte stands for its own character, never for one that it makes with its neighbours: a mark
+/// that a letter carries follows the letter. A byte without a character gives the control character
+/// of its number up to 0x9F, beyond that U+FFFD.
+std::optional<CodePage> codePageOf(int number);

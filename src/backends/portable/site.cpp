@@ -80,5 +80,5 @@ Platform Site::platform(Desktop& desktop, TraceDatabaseEngine& traceDatabases)
 
 CodePage Site::codePage() const
 {
-    return codePageOf(settings_.codePage);
+    return codePageOf(settings_.codePage).value();
 }

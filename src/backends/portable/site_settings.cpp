@@ -1,5 +1,6 @@
 #include "backends/portable/site_settings.h"
 
+#include "backends/portable/code_pages.h"
 #include "backends/portable/posix_time_zone.h"
 #include "backends/portable/utf8.h"
 #include "backends/portable/whole_file.h"
@@ -92,7 +93,7 @@ private:
         } else if (sameName(key, "timeZone")) {
             if (given) settings_.timeZone = timeZone(value);
         } else if (sameName(key, "codePage")) {
-            if (given) settings_.codePage = number(key, value);
+            if (given) settings_.codePage = codePage(key, value);
         } else if (sameName(key, "language")) {
             if (given) settings_.language = number(key, value);
         } else if (sameName(key, "toolFolder")) {
@@ -112,6 +113,15 @@ private:
         if (error != std::errc{} || stop != end || result < 1 || result > 65535)
             fail(std::string(key) + " is no number from 1 to 65535: " + value);
         return result;
+    }
+
+    int codePage(std::string_view key, const std::string& value) const
+    {
+        const int page = number(key, value);
+        if (!codePageOf(page))
+            fail("codePage is no single-byte code page that this machine knows, such as 1252: " +
+                 value);
+        return page;
     }
 
     std::string timeZone(const std::string& value) const

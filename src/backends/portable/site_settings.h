@@ -14,7 +14,7 @@ struct SiteSettings {
     std::optional<std::string> computer;
     std::optional<std::string> user;
     std::optional<std::string> timeZone; ///< a POSIX TZ text
-    int codePage = 1252;                 ///< of log texts
+    int codePage = 1252;                 ///< of log texts, one that `codePageOf` knows
     std::optional<std::int32_t> language;
     std::string toolFolder = "C:\\OrvanDiagnostics"; ///< without a separator at its end
     LogFields logFields = LogFields::basic;
