@@ -9,11 +9,20 @@
 constexpr std::uint32_t HKEY_LOCAL_MACHINE = 0x80000002;
 
 constexpr int REG_SZ = 1;
+constexpr int REG_EXPAND_SZ = 2; ///< a text with names of variables in it
 constexpr int REG_BINARY = 3;
 constexpr int REG_DWORD = 4;
+constexpr int REG_MULTI_SZ = 7; ///< texts, each with a zero behind it, and one zero more
 
-/// A stored value. A text's bytes are UTF-8 and end in a zero byte, which the store adds when a
-/// writer leaves it out; the empty text has no bytes. A number has four, lowest first.
+/// Whether a type's values are texts.
+constexpr bool isTextType(int type)
+{
+    return type == REG_SZ || type == REG_EXPAND_SZ || type == REG_MULTI_SZ;
+}
+
+/// A stored value. A text's bytes, of whatever text type, are UTF-8 and end in a zero byte, which
+/// the store adds when a writer leaves it out; the empty text and the empty list of texts have no
+/// bytes. A number has four, lowest first.
 struct RegistryValue {
     int type = REG_SZ;
     std::vector<std::uint8_t> bytes;

@@ -97,6 +97,21 @@ TYPED_TEST_P(RegistryContract, ATextGetsItsTerminatingZero)
     }
 }
 
+TYPED_TEST_P(RegistryContract, EveryKindOfTextEndsInAZeroAndIsWithoutBytesWhenEmpty)
+{
+    auto& registry = this->registry();
+    registry.createKey(this->hive, "A");
+    for (const int type : {REG_SZ, REG_EXPAND_SZ, REG_MULTI_SZ}) {
+        SCOPED_TRACE(type);
+        EXPECT_TRUE(registry.setValue(this->hive, "A", "v", {type, {'a'}}));
+        EXPECT_EQ((RegistryValue{type, {'a', 0}}), this->stored("A", "v"));
+        EXPECT_TRUE(registry.setValue(this->hive, "A", "v", {type, {0}}));
+        EXPECT_EQ((RegistryValue{type, {}}), this->stored("A", "v"));
+    }
+    EXPECT_TRUE(registry.setValue(this->hive, "A", "v", {REG_MULTI_SZ, {0, 0}}));
+    EXPECT_EQ((RegistryValue{REG_MULTI_SZ, {}}), this->stored("A", "v"));
+}
+
 TYPED_TEST_P(RegistryContract, BytesAndNumbersComeBackAsWritten)
 {
     auto& registry = this->registry();
@@ -145,5 +160,6 @@ REGISTER_TYPED_TEST_SUITE_P(RegistryContract, AKeyIsMadeWithThoseAboveIt,
                             KeyNamesMatchWithoutRegardToCaseAndKeepTheirSpelling,
                             ATrailingSeparatorMeansNothing, AMissingKeyHasNeitherValuesNorSubkeys,
                             AMissingValueIsNothing, ATextGetsItsTerminatingZero,
+                            EveryKindOfTextEndsInAZeroAndIsWithoutBytesWhenEmpty,
                             BytesAndNumbersComeBackAsWritten, AValueIsReplacedWithItsType,
                             SubkeysComeInTheOrderOfTheStore, AnotherHiveHasNothing);

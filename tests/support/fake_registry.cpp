@@ -30,6 +30,16 @@ RegistryValue textValue(const std::string& text)
     return value;
 }
 
+/// A text ends in a zero; one that is nothing else, and a list of nothing, has no bytes.
+void keepAsText(RegistryValue& value)
+{
+    auto& bytes = value.bytes;
+    if (!bytes.empty() && bytes.back() != 0) bytes.push_back(0);
+    const bool isZeros =
+        std::all_of(bytes.begin(), bytes.end(), [](auto byte) { return byte == 0; });
+    if (isZeros && (bytes.size() == 1 || value.type == REG_MULTI_SZ)) bytes.clear();
+}
+
 template <typename Key>
 Key* childOf(const Key& above, const std::string& name)
 {
@@ -174,8 +184,7 @@ bool FakeRegistry::setValue(std::uint32_t hive, const std::string& path, const s
     const Found found = find(hive, path);
     if (!found.key || !found.writable) return false;
     RegistryValue stored = value;
-    if (stored.type == REG_SZ && !stored.bytes.empty() && stored.bytes.back() != 0)
-        stored.bytes.push_back(0);
+    if (isTextType(stored.type)) keepAsText(stored);
     written_.push_back(path + "\\" + name);
     for (auto& [valueName, old] : found.key->values) {
         if (lower(valueName) != lower(name)) continue;

@@ -25,12 +25,6 @@ bool isBlank(char c)
     return c == ' ' || c == '\t';
 }
 
-/// Whether a type's bytes are a text in UTF-16: strings, expandable ones and lists of them.
-bool isTextType(int type)
-{
-    return type == REG_SZ || type == 2 || type == 7;
-}
-
 class Parser {
 public:
     RegistryTree parse(std::string_view text)
@@ -219,6 +213,7 @@ private:
         return true;
     }
 
+    /// Texts are UTF-16 in the file.
     static void decodeText(RegistryValue& value)
     {
         if (!isTextType(value.type)) return;

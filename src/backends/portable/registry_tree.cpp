@@ -207,11 +207,13 @@ void RegistryTree::remove(std::string_view path)
 
 RegistryValue normalised(RegistryValue value)
 {
-    if (value.type != REG_SZ) return value;
+    if (!isTextType(value.type)) return value;
     std::string text(value.bytes.begin(), value.bytes.end());
     if (!isUtf8(text)) text = validUtf8(text);
     if (!text.empty() && text.back() != '\0') text += '\0';
-    if (text.size() == 1) text.clear();
+    const bool isEmptyList =
+        value.type == REG_MULTI_SZ && text.find_first_not_of('\0') == std::string::npos;
+    if (text.size() == 1 || isEmptyList) text.clear();
     value.bytes.assign(text.begin(), text.end());
     return value;
 }

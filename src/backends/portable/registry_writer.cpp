@@ -59,9 +59,8 @@ private:
             writeBytes(start + "hex:", text);
         } else {
             text.assign(bytes.begin(), bytes.end());
-            const bool isText = type == REG_SZ || type == 2 || type == 7;
             writeBytes(start + "hex(" + hexOf(static_cast<std::uint32_t>(type)) + "):",
-                       isText ? utf16LittleEndian(text) : text);
+                       isTextType(type) ? utf16LittleEndian(text) : text);
         }
     }
 
