@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <nlohmann/json.hpp>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -62,8 +63,9 @@ std::string joinedInserts(const Json& event)
     if (inserts == event.end()) return {};
     if (!inserts->is_array()) return cellText(*inserts);
     std::string joined;
+    bool first = true;
     for (const auto& insert : *inserts) {
-        if (!joined.empty()) joined += ", ";
+        if (!std::exchange(first, false)) joined += ", ";
         joined += cellText(insert);
     }
     return joined;

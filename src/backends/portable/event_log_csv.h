@@ -6,6 +6,10 @@
 /// The first line of an exported event log.
 constexpr std::string_view eventLogCsvHeader = "Time,Type,Source,Event ID,Computer,Message\r\n";
 
+/// What stands in an exported event log for a line that is too long to hold.
+constexpr std::string_view eventLogCsvGap =
+    ",,,,,An event of more than 64 MiB was left out here.\r\n";
+
 /// A line of an event log, a JSON object, as a line of comma-separated text (RFC 4180, UTF-8).
 ///
 /// The message of the tool's own events is their sentence; that of others is their texts, joined by

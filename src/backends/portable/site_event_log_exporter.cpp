@@ -26,14 +26,14 @@ std::string fileOf(const std::string& eventLogs, const std::string& logName)
     throw RunTimeError(runTimeErrors::fileNotFound);
 }
 
-/// The next line, or the empty one in place of a line that is too long to hold.
-std::string_view nextLine(SiteTextReader& log)
+/// The next line as comma-separated text, with a mark in place of one that is too long to hold.
+std::string nextCsvLine(SiteTextReader& log)
 {
     try {
-        return log.readLine();
+        return eventLogCsvLine(log.readLine());
     } catch (const RunTimeError& error) {
         if (error.number() != runTimeErrors::outOfStringSpace) throw;
-        return {};
+        return std::string(eventLogCsvGap);
     }
 }
 
@@ -61,7 +61,7 @@ void SiteEventLogExporter::exportEventLog(const std::string& logName, const std:
     ReplacementFile csv(machineTarget, 0666);
     std::string text(eventLogCsvHeader);
     while (!log.atEnd()) {
-        text += eventLogCsvLine(nextLine(log));
+        text += nextCsvLine(log);
         if (text.size() < enough) continue;
         csv.write(text);
         text.clear();

@@ -136,6 +136,17 @@ TEST_F(SiteEventsTest, ExportsALargeLog)
     EXPECT_NE(std::string::npos, text.find(",,,19999,,a text of some length\r\n"));
 }
 
+TEST_F(SiteEventsTest, MarksALineThatIsTooLongToHold)
+{
+    folder.write("eventlogs/System.jsonl",
+                 "{\"id\":1}\n" + std::string((64U << 20) + 1, 'x') + "\n{\"id\":2}\n");
+    exporter.exportEventLog("System", "C:\\s.csv", 0);
+
+    EXPECT_EQ(header + ",,,1,,\r\n,,,,,An event of more than 64 MiB was left out here.\r\n"
+                       ",,,2,,\r\n",
+              folder.read("drive_c/s.csv"));
+}
+
 TEST_F(SiteEventsTest, AMissingLogRaises53)
 {
     for (const char* name : {"System", "", "..", "../registry", "Application\0"})
