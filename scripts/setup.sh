@@ -3,7 +3,7 @@
 # Packages for the command line, and for the window besides; the tests need some readers more, the
 # benchmarks some peers, and packing some tools of Debian's.
 build_packages=(
-  ccache cmake g++ libcli11-dev libpugixml-dev libsqlite3-dev ninja-build nlohmann-json3-dev
+  ccache cmake g++ libcli11-dev libxml2-dev libsqlite3-dev ninja-build nlohmann-json3-dev
   zlib1g-dev
 )
 desktop_packages=(qt6-base-dev qt6-l10n-tools qt6-svg-dev qt6-translations-l10n)

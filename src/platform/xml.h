@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class XmlElement;
@@ -67,6 +68,10 @@ public:
     virtual ~XmlService() = default;
 
     virtual std::unique_ptr<XmlDocument> newDocument() = 0;
+
+    /// The text of an XML file in UTF-8, by its own encoding, else that of the server; well-formed
+    /// or not. Where the bytes do not fit their encoding, they are read in the server's.
+    virtual std::string textOf(std::string_view bytes) const = 0;
 };
 
 /// The element of a look-up that may have found none. Raises 91.

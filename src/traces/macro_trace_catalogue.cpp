@@ -4,7 +4,6 @@
 #include "platform/file_system.h"
 #include "platform/trace_database.h"
 #include "runtime/numbers.h"
-#include "runtime/text.h"
 #include "traces/macro_trace_record.h"
 
 namespace {
@@ -19,15 +18,6 @@ std::vector<std::string> definitionFiles(const ToolContext& tool)
 std::string definitionPath(const ToolContext& tool, const std::string& fileName)
 {
     return tool.g_strMacroTraceFolder + "\\" + fileName;
-}
-
-/// A definition's text is UTF-8, or in the server's code page when it can't be that.
-void setWholeText(TraceField& field, const std::string& text)
-{
-    if (isUtf8(text))
-        field.setUtf8(text);
-    else
-        field.setText(text);
 }
 
 /// One building of the catalogue. What a failed step should have read is still that of the step
@@ -117,7 +107,7 @@ void mdlTraces::storeMacroTraceFiles(ToolContext& tool, TraceRecordset& target)
         const auto stream = tool.platform.files.openForReading(definitionPath(tool, fileName));
         target.addNew();
         target.field("Name").setUtf8(fileName);
-        setWholeText(target.field("Data"), stream->readAll());
+        target.field("Data").setUtf8(tool.platform.xml.textOf(stream->readAll()));
         target.update();
         stream->close();
     }

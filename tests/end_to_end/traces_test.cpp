@@ -94,6 +94,28 @@ TEST_F(TraceCommands, AMacroTraceGoesOnAndIsRememberedAndGoesOffAgain)
     EXPECT_EQ(before, sql("SELECT Name, Flags FROM vw_LoggerDiagnosticGrid ORDER BY Name"));
 }
 
+TEST_F(TraceCommands, AMacroTraceInAnEncodingOfItsOwnGoesOnAndOffAgain)
+{
+    ASSERT_EQ(0, run({"reset"}).status);
+    write(drive("OrvanDiagnostics/ZMKXML/HTdeclared.xml"),
+          "<?xml version='1.0' encoding='windows-1252'?><GA NAME='Caf\xE9'><TRACE NAME='Na\xEFve'>"
+          "<DIAG GROUP='CallFlow'><FLAG ID='9'/></DIAG></TRACE></GA>");
+    write(drive("OrvanDiagnostics/ZMKXML/HTnone.xml"),
+          "<GA NAME='Stra\xDF\x65'><TRACE NAME='\xDC\x62\x65r'>"
+          "<DIAG GROUP='CallFlow'><FLAG ID='8'/></DIAG></TRACE></GA>");
+    const int before = flags("CallFlow");
+    for (const char* trace :
+         {"Caf\xC3\xA9 - Na\xC3\xAFve", "Stra\xC3\x9F\x65 - \xC3\x9C\x62\x65r"}) {
+        SCOPED_TRACE(trace);
+        ASSERT_EQ(0, run({"macro", "set", "--on", trace}).status);
+        EXPECT_TRUE(shown(trace)["enabled"]);
+        EXPECT_NE(before, flags("CallFlow"));
+        ASSERT_EQ(0, run({"macro", "set", "--off", trace}).status);
+        EXPECT_FALSE(shown(trace)["enabled"]);
+        EXPECT_EQ(before, flags("CallFlow"));
+    }
+}
+
 TEST_F(TraceCommands, AMicroTraceIsOneBitOfAComponentsWord)
 {
     const auto components = runJson({"micro"}).json();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/portable/pugi_xml.h"
+#include "backends/portable/libxml_documents.h"
 #include "core/tool_context.h"
 #include "support/error_of.h"
 #include "support/fake_clock.h"
@@ -51,7 +51,7 @@ struct TestTool {
     FakeLanguages languages;
     FakeDesktop desktop;
     FakeDatabase database;
-    PugiXml xml{files};
+    LibxmlDocuments xml{files};
     FakeTraceDatabaseEngine traceDatabases;
     Platform platform;
     ToolContext context;

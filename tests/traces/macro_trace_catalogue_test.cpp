@@ -333,6 +333,24 @@ TEST_F(StoreMacroTraceFiles, AddsARowForEachFileWithItsWholeText)
                                     FakeTraceRow{{"Name", "HTb.xml"}, {"Data", "not even xml"}}));
 }
 
+TEST_F(StoreMacroTraceFiles, ReadsATextInItsOwnEncodingElseInTheServersCodePage)
+{
+    const std::string cyrillic = "<?xml version='1.0' encoding='windows-1251'?>";
+    const std::string unknown = "<?xml version='1.0' encoding='x-none'?>";
+    withFile("HTa.xml", cyrillic + "\xE9");
+    withFile("HTb.xml", cyrillic + "\xC3\xA9");
+    withFile("HTc.xml", unknown + "\xE9");
+    withFile("HTd.xml", "\xE9");
+
+    store();
+
+    EXPECT_THAT(rows(),
+                ElementsAre(FakeTraceRow{{"Name", "HTa.xml"}, {"Data", cyrillic + "\xD0\xB9"}},
+                            FakeTraceRow{{"Name", "HTb.xml"}, {"Data", cyrillic + "\xC3\xA9"}},
+                            FakeTraceRow{{"Name", "HTc.xml"}, {"Data", unknown + "\xC3\xA9"}},
+                            FakeTraceRow{{"Name", "HTd.xml"}, {"Data", "\xC3\xA9"}}));
+}
+
 TEST_F(StoreMacroTraceFiles, AddsNoneForAnEmptyFolder)
 {
     store();

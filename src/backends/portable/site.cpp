@@ -53,7 +53,7 @@ Site::Site(const std::string& folder, std::string installedData, HostFacts host,
                      settings_.logFields, clock_),
       eventLogExporter_(paths_.siteFolder() + "/eventlogs", paths_), processes_(paths_),
       module_(settings_.toolFolder, std::move(host)), languages_(settings_.language, paths_),
-      database_(databaseFile()), xml_(files_)
+      database_(databaseFile()), xml_(files_, codePage())
 {
     registry_.keyExists(HKEY_LOCAL_MACHINE, ""); // a damaged registry shows here, before any change
     const std::string& toolFolder = settings_.toolFolder;

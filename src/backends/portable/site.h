@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/portable/pugi_xml.h"
+#include "backends/portable/libxml_documents.h"
 #include "backends/portable/site_clock.h"
 #include "backends/portable/site_database.h"
 #include "backends/portable/site_event_log_exporter.h"
@@ -82,5 +82,5 @@ private:
     SiteHostModule module_;
     SiteLanguages languages_;
     SiteDatabase database_;
-    PugiXml xml_;
+    LibxmlDocuments xml_;
 };

@@ -1,4 +1,6 @@
 #include "backends/portable/sample_site.h"
+#include "backends/portable/whole_file.h"
+#include "runtime/run_time_error.h"
 
 #include <gmock/gmock.h>
 #include <memory>
@@ -80,12 +82,13 @@ TEST(SampleGridCatalogue, ExplainsAtLeast25ComponentsWith8To32LevelsInTwoLanguag
 TEST(SampleGridCatalogue, ShowsComponentsWithoutParentheses)
 {
     for (const char* language : {"ENU", "FRA"}) {
-        pugi::xml_document document;
-        const std::string file =
-            std::string(ORVAN_DATA_OUTPUT) + "/sample/DiagnosticGrids_" + language + ".xml";
-        ASSERT_TRUE(document.load_file(file.c_str()));
-        for (const auto& component : document.child("DiagnosticGrids")) {
-            const std::string text = component.attribute("text").value();
+        const XmlFile file(readWholeFile(std::string(ORVAN_DATA_OUTPUT) +
+                                             "/sample/DiagnosticGrids_" + language + ".xml",
+                                         runTimeErrors::fileNotFound));
+        const auto components = file.document->selectNodes("DiagnosticGrids/*");
+        EXPECT_FALSE(components.empty());
+        for (const auto& component : components) {
+            const std::string text = requiredAttribute(component, "text");
             EXPECT_FALSE(text.empty());
             EXPECT_EQ(std::string::npos, text.find_first_of("()")) << text;
         }
@@ -101,20 +104,20 @@ TEST(SampleMacroTraces, AreInGroupsOfFourOrMoreOverLevelsThatExist)
     const std::string folder = site.path("drive_c/OrvanDiagnostics/ZMKXML");
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
         SCOPED_TRACE(entry.path().filename().string());
-        pugi::xml_document document;
-        ASSERT_TRUE(document.load_file(entry.path().c_str()));
-        const auto group = document.child("GA");
-        const std::string name = group.attribute("NAME").value();
+        const XmlFile file(readWholeFile(entry.path(), runTimeErrors::fileNotFound));
+        const auto group = file.document->selectSingleNode("GA");
+        const std::string name = requiredAttribute(group, "NAME");
         ++filesOfGroup[name];
-        if (group.attribute("DONTSHOW")) hidden.insert(name);
-        const auto traces = group.children("TRACE");
-        EXPECT_GE(std::distance(traces.begin(), traces.end()), 4);
-        for (const auto& flag : document.select_nodes("//FLAG")) {
-            const std::string component = flag.node().parent().attribute("GROUP").value();
+        if (group->attribute("DONTSHOW")) hidden.insert(name);
+        EXPECT_GE(group->selectNodes("TRACE").size(), 4U);
+        for (const auto& diag : group->selectNodes("TRACE/DIAG")) {
+            const std::string component = requiredAttribute(diag, "GROUP");
             ASSERT_EQ(1U, grid.count(component)) << component;
-            const auto level = static_cast<std::size_t>(flag.node().attribute("ID").as_int(-1));
-            ASSERT_LT(level, grid.at(component).size()) << component;
-            EXPECT_FALSE(isPlaceholder(grid.at(component)[level])) << component << ' ' << level;
+            for (const auto& flag : diag->selectNodes("FLAG")) {
+                const auto level = std::stoul(requiredAttribute(flag, "ID"));
+                ASSERT_LT(level, grid.at(component).size()) << component;
+                EXPECT_FALSE(isPlaceholder(grid.at(component)[level])) << component << ' ' << level;
+            }
         }
     }
     EXPECT_GE(filesOfGroup.size() - hidden.size(), 5U);

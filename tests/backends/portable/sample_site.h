@@ -1,10 +1,13 @@
 #pragma once
 
+#include "backends/portable/libxml_documents.h"
 #include "backends/portable/sample/sample_server.h"
 #include "backends/portable/temporary_folder.h"
+#include "support/fake_clock.h"
+#include "support/fake_file_system.h"
 
 #include <map>
-#include <pugixml.hpp>
+#include <memory>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -13,6 +16,20 @@ inline constexpr const char* sampleLogs = "drive_c/KelmaOrvan/Logs/";
 
 /// The grid of a catalogue: level texts by component.
 using SampleGrid = std::map<std::string, std::vector<std::string>>;
+
+/// An XML file as a document; an empty one when it is not well-formed.
+struct XmlFile {
+    explicit XmlFile(const std::string& bytes)
+    {
+        files.with("C:\\a.xml", bytes);
+        document->load("C:\\a.xml");
+    }
+
+    FakeClock clock;
+    FakeFileSystem files{clock};
+    LibxmlDocuments xml{files};
+    std::unique_ptr<XmlDocument> document = xml.newDocument();
+};
 
 /// A sample server in a folder of its own, with what tests want to know of it.
 class SampleSite {
@@ -62,16 +79,14 @@ public:
 
     SampleGrid grid(const std::string& language) const
     {
-        pugi::xml_document document;
-        SampleGrid grid;
         const std::string folder = "drive_c/KelmaOrvan/GuiResources/Resources/" + language;
-        if (!document.load_file(path(folder + "/DiagnosticGrids_" + language + ".xml").c_str()))
-            return grid;
-        for (const auto& component : document.child("DiagnosticGrids")) {
-            auto& levels = grid[component.attribute("name").value()];
-            for (const auto& level : component.child("DiagnosticLevels")) {
-                const auto number = static_cast<std::size_t>(level.attribute("level").as_int(-1));
-                if (number == levels.size()) levels.push_back(level.attribute("text").value());
+        const XmlFile file(read(folder + "/DiagnosticGrids_" + language + ".xml"));
+        SampleGrid grid;
+        for (const auto& component : file.document->selectNodes("DiagnosticGrids/*")) {
+            auto& levels = grid[requiredAttribute(component, "name")];
+            for (const auto& level : component->selectNodes("DiagnosticLevels/*")) {
+                const auto number = std::stoul(requiredAttribute(level, "level"));
+                if (number == levels.size()) levels.push_back(requiredAttribute(level, "text"));
             }
         }
         return grid;
