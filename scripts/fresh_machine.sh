@@ -25,7 +25,7 @@ cannot() {
 
 install_missing git mmdebstrap uidmap || cannot "mmdebstrap is not installed"
 work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+trap 'rm -rf "$work" 2>/dev/null' EXIT # mmdebstrap too removes what it made
 chmod 755 "$work" # in a user namespace the hooks are somebody else
 # Whoever runs this may be another one than the folder's owner, as in a container.
 git config --file "$work/git" safe.directory '*'
@@ -58,8 +58,14 @@ suite=$(. /etc/os-release && echo "${VERSION_CODENAME:-}")
 # A system without /proc is none to try things on; once it has it, a failure is ours.
 : >"$work/made"
 chmod 666 "$work/made"
+# Root's mounts would stay when this is ended from outside, so they have a world of their own.
+alone=()
+if [ "$(id -u)" = 0 ] && unshare --mount true 2>/dev/null; then
+  alone=(unshare --mount)
+  export TMPDIR=$work
+fi
 say "making a bare $suite system"
-mmdebstrap --quiet --variant=apt --format=null \
+"${alone[@]}" mmdebstrap --quiet --variant=apt --format=null \
   --dpkgopt=force-unsafe-io --setup-hook="sh '$work/prepare.sh' \"\$1\"" \
   --customize-hook='test -e "$1/proc/self/exe"' \
   --customize-hook="echo yes >'$work/made'" \
