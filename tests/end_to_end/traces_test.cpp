@@ -1,4 +1,4 @@
-#include "end_to_end/sample_site.h"
+#include "end_to_end/trace_commands.h"
 
 #include <gmock/gmock.h>
 
@@ -14,42 +14,6 @@ namespace {
 namespace fs = std::filesystem;
 using nlohmann::json;
 using testing::HasSubstr;
-
-struct TraceCommands : SampleSite {
-    std::string sql(const std::string& statement) const
-    {
-        const Outcome shell =
-            runProgram({"sqlite3", (site / "OrvanDirDb.sqlite").string(), statement});
-        EXPECT_EQ(0, shell.status) << shell.err;
-        return shell.out.substr(0, shell.out.find_last_not_of('\n') + 1);
-    }
-
-    int flags(const std::string& component) const
-    {
-        return std::stoi(
-            sql("SELECT Flags FROM vw_LoggerDiagnosticGrid WHERE Name='" + component + "'"));
-    }
-
-    /// A macro trace that is off, as "GROUP - TRACE".
-    std::string macroTrace() const
-    {
-        for (const auto& trace : runJson({"macro"}).json())
-            if (!trace["enabled"])
-                return trace["group"].get<std::string>() + " - " +
-                       trace["trace"].get<std::string>();
-        ADD_FAILURE() << "no macro trace is off";
-        return {};
-    }
-
-    json shown(const std::string& macroTrace) const
-    {
-        for (const auto& trace : runJson({"macro"}).json())
-            if (trace["group"].get<std::string>() + " - " + trace["trace"].get<std::string>() ==
-                macroTrace)
-                return trace;
-        return {};
-    }
-};
 
 TEST_F(TraceCommands, StatusShowsTheConnection)
 {
@@ -375,14 +339,6 @@ TEST_F(TraceCommands, ALockThatIsReleasedInTimeLosesNothing)
         EXPECT_EQ(0, reset.status) << reset.err;
     }
     EXPECT_EQ(defaults, flags(component));
-}
-
-TEST_F(TraceCommands, ADatabaseThatRefusesIsToldOf)
-{
-    sql("DROP VIEW csp_LoggerDiagnosticGridModify");
-    const Outcome refused = run({"reset"});
-    EXPECT_EQ(1, refused.status);
-    EXPECT_THAT(refused.err, HasSubstr("csp_LoggerDiagnosticGridModify"));
 }
 
 } // namespace

@@ -12,18 +12,57 @@
 #include "server/diagnostic_grid_catalogue.h"
 #include "wizards/micro_trace_wizard.h"
 
-#include <map>
+#include <memory>
 
 namespace {
 
-/// Of the files of one group the first says whether the group is shown.
-struct ShownGroups {
-    std::map<std::string, bool> shown;
-
-    bool operator()(const XmlElement& group, const std::string& name)
+/// Definition files, put together as the tool does when it starts: without its log, which is not
+/// to be begun for a look.
+class MergedDefinitions {
+public:
+    explicit MergedDefinitions(XmlService& xml)
+        : merged_(xml.newDocument()), file_(xml.newDocument())
     {
-        return shown.emplace(name, !group.attribute("DONTSHOW")).first->second;
+        top_ = merged_->appendDocumentElement("HYBRIDTRACES");
     }
+
+    /// False for a file that is no definition, and brings nothing.
+    bool add(const std::string& path)
+    {
+        const XmlElementPtr group = file_->load(path) ? file_->selectSingleNode("GA") : nullptr;
+        if (!group) return false;
+        name_ = group->attribute("NAME").value_or(name_); // else it counts to the group before
+        if (const XmlElementPtr known = groupNamed(name_))
+            for (const auto& trace : group->selectNodes("TRACE")) known->appendChild(trace);
+        else
+            top_->appendChild(group);
+        return true;
+    }
+
+    std::vector<std::string> shown() const
+    {
+        std::vector<std::string> names;
+        for (const auto& group : merged_->selectNodes("HYBRIDTRACES/GA"))
+            if (!group->attribute("DONTSHOW"))
+                for (const auto& trace : group->selectNodes("TRACE"))
+                    names.push_back(group->attribute("NAME").value_or("") + " - " +
+                                    trace->attribute("NAME").value_or(""));
+        return names;
+    }
+
+private:
+    /// By the tool's own path: a name that breaks it finds no group, and begins another one.
+    XmlElementPtr groupNamed(const std::string& name) const
+    try {
+        return merged_->selectSingleNode("HYBRIDTRACES/GA[@NAME='" + name + "']");
+    } catch (const RunTimeError&) {
+        return nullptr;
+    }
+
+    std::unique_ptr<XmlDocument> merged_;
+    std::unique_ptr<XmlDocument> file_;
+    XmlElementPtr top_;
+    std::string name_;
 };
 
 /// The catalogue in the user's language, or else in English.
@@ -37,23 +76,16 @@ std::string catalogueFile(ToolContext& context)
 
 } // namespace
 
-std::vector<std::string> knownNames::macroTraces(OpenTool& tool)
+knownNames::MacroTraces knownNames::macroTraces(OpenTool& tool)
 {
     const Platform& platform = tool.context().platform;
     const std::string folder = platform.module.folder() + "\\ZMKXML\\";
-    std::vector<std::string> names;
-    ShownGroups isShown;
-    for (const std::string& file : platform.files.matching(folder + "HT*.xml")) {
-        const auto definitions = platform.xml.newDocument();
-        if (!definitions->load(folder + file)) continue;
-        const XmlElementPtr group = definitions->selectSingleNode("GA");
-        if (!group) continue;
-        const std::string groupName = group->attribute("NAME").value_or("");
-        if (!isShown(*group, groupName)) continue;
-        for (const XmlElementPtr& trace : group->selectNodes("TRACE"))
-            names.push_back(groupName + " - " + trace->attribute("NAME").value_or(""));
-    }
-    return names;
+    MacroTraces traces;
+    MergedDefinitions definitions(platform.xml);
+    for (const std::string& file : platform.files.matching(folder + "HT*.xml"))
+        if (!definitions.add(folder + file)) traces.passedOver.push_back(file);
+    traces.shown = definitions.shown();
+    return traces;
 }
 
 /// By a connection of its own: the tool opens its connection when it starts, and never closes it.

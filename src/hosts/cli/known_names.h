@@ -9,8 +9,12 @@
 /// starts. Looking leaves the site as it is.
 namespace knownNames {
 
-/// "GROUP - TRACE" of each macro trace that its wizard shows.
-std::vector<std::string> macroTraces(OpenTool& tool);
+struct MacroTraces {
+    std::vector<std::string> shown;      ///< "GROUP - TRACE" of each that the wizard shows
+    std::vector<std::string> passedOver; ///< files that are no definitions, by name
+};
+
+MacroTraces macroTraces(OpenTool& tool);
 
 /// Whether the diagnostic grid has a component. A database that can't be asked is taken to have it:
 /// that is for the command to tell.

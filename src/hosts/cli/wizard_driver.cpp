@@ -1,7 +1,5 @@
 #include "hosts/cli/wizard_driver.h"
 
-#include "runtime/text.h"
-
 WizardDriver::WizardDriver(OpenTool& tool, const std::string& taskKey)
 {
     tool.console().clickTask(taskKey);
@@ -38,24 +36,4 @@ void WizardDriver::choose(TreeView& tree, TreeNode& node, bool ticked)
 void WizardDriver::missing(const std::string& name) const
 {
     throw CommandFailure("the page " + sheet_->currentPage().name() + " has no " + name);
-}
-
-TraceChange::TraceChange(OpenTool& tool) : tool_(tool)
-{
-    tool.requireDatabase();
-    tool.context().onTrappedError = [this](const RunTimeError& error, std::string_view procName) {
-        if (failure_.empty() &&
-            (beginsWith(procName, "[mdlOrvanDatabase]") || beginsWith(procName, "[mdlTraces]")))
-            failure_ = error.description();
-    };
-}
-
-TraceChange::~TraceChange()
-{
-    tool_.context().onTrappedError = {};
-}
-
-void TraceChange::requireSuccess() const
-{
-    if (!failure_.empty()) throw CommandFailure("not every trace was changed: " + failure_);
 }

@@ -43,20 +43,3 @@ private:
     std::shared_ptr<OpenSheet> open_;
     WizardSheet* sheet_ = nullptr;
 };
-
-/// Hears of what goes wrong while traces are changed, and lets nobody try without a database.
-class TraceChange {
-public:
-    /// Raises CommandFailure when the tool has no connection.
-    explicit TraceChange(OpenTool& tool);
-    ~TraceChange();
-    TraceChange(const TraceChange&) = delete;
-    TraceChange& operator=(const TraceChange&) = delete;
-
-    /// Raises CommandFailure when something did not work.
-    void requireSuccess() const;
-
-private:
-    OpenTool& tool_;
-    std::string failure_;
-};

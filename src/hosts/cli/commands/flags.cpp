@@ -1,4 +1,5 @@
 #include "hosts/cli/commands/commands.h"
+#include "hosts/cli/flag_words.h"
 #include "hosts/cli/known_names.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
@@ -7,13 +8,6 @@
 #include <CLI/CLI.hpp>
 
 namespace {
-
-struct FlagWords {
-    std::string name;
-    std::string objectId;
-    std::int32_t flags;
-    std::int32_t defaultFlags;
-};
 
 CommandFailure noSuchComponent(const std::string& component)
 {
@@ -38,7 +32,9 @@ public:
                 throw noSuchComponent(component_);
         });
         tool.requireDatabase();
-        const auto words = read(tool.context().g_connection);
+        auto words = readFlagWords(tool.context().g_connection);
+        if (!component_.empty())
+            std::erase_if(words, [this](const FlagWords& word) { return word.name != component_; });
         tool.close();
         if (!component_.empty() && words.empty()) throw noSuchComponent(component_);
         if (output.json())
@@ -48,22 +44,6 @@ public:
     }
 
 private:
-    std::vector<FlagWords> read(DatabaseConnection& connection) const
-    {
-        const auto rows = connection.openRecordset(
-            "SELECT Name, ObjectId, Flags, DefaultFlags FROM vw_LoggerDiagnosticGrid ORDER BY Name",
-            CursorKind::forwardOnly, LockKind::optimistic);
-        std::vector<FlagWords> words;
-        for (; !rows->atEnd(); rows->moveNext()) {
-            const std::string name = valueAsText(rows->field("Name"));
-            if (!component_.empty() && name != component_) continue;
-            words.push_back({name, valueAsText(rows->field("ObjectId")),
-                             valueAsInteger32(rows->field("Flags")),
-                             valueAsInteger32(rows->field("DefaultFlags"))});
-        }
-        return words;
-    }
-
     static void printJson(Output& output, const std::vector<FlagWords>& words)
     {
         Json all = Json::array();
@@ -79,15 +59,9 @@ private:
     {
         Table table({"Component", "Flags", "Default", "Object"});
         for (const auto& word : words)
-            table.row({word.name, hex(word.flags), hex(word.defaultFlags), word.objectId});
+            table.row({word.name, hexadecimal(word.flags), hexadecimal(word.defaultFlags),
+                       word.objectId});
         output.text(table.text());
-    }
-
-    static std::string hex(std::int32_t word)
-    {
-        char text[12];
-        std::snprintf(text, sizeof text, "0x%08X", static_cast<unsigned>(word));
-        return text;
     }
 
     std::string component_;

@@ -2,6 +2,7 @@
 #include "hosts/cli/known_names.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
+#include "hosts/cli/trace_check.h"
 #include "hosts/cli/wizard_driver.h"
 #include "platform/controls.h"
 #include "platform/xml.h"
@@ -85,7 +86,7 @@ public:
                 if (equalIgnoringCase(on, off))
                     throw UsageError("\"" + on + "\" is to be turned on and off");
         OpenTool tool(options, set_->parsed() ? ToolUse::change : ToolUse::look,
-                      [this](OpenTool& opened) { requireMacroTraces(opened); });
+                      [&](OpenTool& opened) { requireMacroTraces(opened, output); });
         if (set_->parsed())
             set(tool, output);
         else
@@ -93,10 +94,12 @@ public:
     }
 
 private:
-    void requireMacroTraces(OpenTool& tool) const
+    void requireMacroTraces(OpenTool& tool, Output& output) const
     {
+        const auto [known, passedOver] = knownNames::macroTraces(tool);
+        for (const auto& file : passedOver)
+            output.message(file + " is passed over: it is no definition of macro traces");
         if (!set_->parsed()) return;
-        const auto known = knownNames::macroTraces(tool);
         for (const auto* names : {&on_, &off_})
             for (const auto& name : *names)
                 if (std::find(known.begin(), known.end(), name) == known.end())
@@ -129,7 +132,7 @@ private:
     void set(OpenTool& tool, Output& output) const
     {
         std::string summary;
-        const TraceChange change(tool);
+        TraceCheck check(tool);
         {
             WizardDriver wizard(tool, taskKey);
             wizard.next();
@@ -138,12 +141,13 @@ private:
                 for (const auto& name : *names) macroTraceNode(tree, name);
             for (const auto& name : off_) wizard.choose(tree, macroTraceNode(tree, name), false);
             for (const auto& name : on_) wizard.choose(tree, macroTraceNode(tree, name), true);
+            check.expect(expectedOfMacroTraces(tool.context(), tree, check.present()));
             wizard.next();
             summary = wizard.control<Label>("lblSummary").caption();
             wizard.finish();
         }
+        check.requireSuccess();
         tool.close();
-        change.requireSuccess();
         if (output.json())
             output.value({{"summary", summary}});
         else

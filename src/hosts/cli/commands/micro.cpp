@@ -2,6 +2,7 @@
 #include "hosts/cli/known_names.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
+#include "hosts/cli/trace_check.h"
 #include "hosts/cli/wizard_driver.h"
 #include "platform/controls.h"
 #include "runtime/numbers.h"
@@ -87,6 +88,16 @@ CommandFailure noSuchLevel(const LevelName& wanted)
                           numberText(std::int64_t{wanted.level}));
 }
 
+/// Where a list of components stopped being filled, as its page hides it then.
+std::string whereTheListEnds(const TreeView& tree)
+{
+    const std::string failed = "the list can't be filled";
+    if (tree.roots().empty()) return failed;
+    const TreeNode& last = *tree.roots().back();
+    return failed + " past " + last.key() +
+           (last.child() ? "" : ", which has no levels in the catalogue of level texts");
+}
+
 /// Raises CommandFailure for a level that the wizard does not show.
 TreeNode& levelNode(const TreeView& tree, const LevelName& wanted)
 {
@@ -169,8 +180,11 @@ private:
             WizardDriver wizard(tool, taskKey);
             wizard.next();
             const auto& tree = wizard.control<TreeView>(treeName);
+            if (!tree.visible())
+                output.message("not every component is listed: " + whereTheListEnds(tree));
             if (!component_.empty() && !componentNode(tree, component_))
-                throw noSuchComponent(component_);
+                throw tree.visible() ? noSuchComponent(component_)
+                                     : CommandFailure(component_ + " is not listed");
             for (const TreeNode* node : tree.roots()) {
                 if (!component_.empty() && node->key() != component_) continue;
                 Json levels = Json::array();
@@ -198,23 +212,28 @@ private:
                     const std::vector<LevelName>& off)
     {
         std::string summary;
-        const TraceChange change(tool);
+        TraceCheck check(tool);
         std::vector<LevelName> staying;
         if (!off.empty()) staying = defaultLevels(tool.context().g_connection, off);
         {
             WizardDriver wizard(tool, taskKey);
             wizard.next();
             auto& tree = wizard.control<TreeView>(treeName);
+            if (!tree.visible())
+                throw CommandFailure("no level can be changed: " + whereTheListEnds(tree));
             for (const auto* names : {&on, &off})
                 for (const auto& name : *names) levelNode(tree, name);
             for (const auto& name : off) wizard.choose(tree, levelNode(tree, name), false);
             for (const auto& name : on) wizard.choose(tree, levelNode(tree, name), true);
+            check.expect(expectedOfMicroTraces(tool.context(), tree, check.present()));
+            for (const auto& [component, level] : off) check.expectLevel(component, level, false);
+            for (const auto& [component, level] : on) check.expectLevel(component, level, true);
             wizard.next();
             summary = wizard.control<Label>("lblCompletionStatment").caption();
             wizard.finish();
         }
+        check.requireSuccess();
         tool.close();
-        change.requireSuccess();
         if (output.json())
             output.value({{"summary", summary}});
         else

@@ -1,6 +1,7 @@
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
+#include "hosts/cli/trace_check.h"
 #include "hosts/cli/wizard_driver.h"
 #include "platform/controls.h"
 
@@ -28,14 +29,15 @@ public:
     void run(const GlobalOptions& options, Output& output) override
     {
         OpenTool tool(options, ToolUse::change);
-        const TraceChange change(tool);
+        TraceCheck check(tool);
         {
             WizardDriver wizard(tool, taskKey);
             wizard.control<CheckBox>("chkDisableAllTraces").click();
+            check.expect(expectedOfReset(tool.context(), check.present()));
             wizard.finish();
         }
+        check.requireSuccess();
         tool.close();
-        change.requireSuccess();
         const std::string summary = "All traces are back to the default.";
         if (output.json())
             output.value({{"summary", summary}});

@@ -1,0 +1,154 @@
+#include "hosts/cli/trace_check.h"
+
+#include "hosts/cli/output.h"
+#include "platform/database.h"
+#include "traces/trace_bits.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t toldAtMost = 5;
+
+std::vector<FlagWords> wordsOf(OpenTool& tool, const std::string& failure)
+try {
+    return readFlagWords(tool.context().g_connection);
+} catch (const RunTimeError& error) {
+    throw CommandFailure(failure + ": " + error.description());
+}
+
+std::string told(const std::vector<std::string>& wrong)
+{
+    std::string text;
+    for (std::size_t i = 0; i < wrong.size() && i < toldAtMost; ++i)
+        text += (i > 0 ? "; " : "") + wrong[i];
+    if (wrong.size() > toldAtMost)
+        text += "; and " + std::to_string(wrong.size() - toldAtMost) + " more";
+    return text;
+}
+
+/// The event of a line of the event log; an id of 0 for a line that is none.
+TraceEvent eventOf(const std::string& line)
+{
+    const auto event = Json::parse(line, nullptr, false);
+    if (!event.is_object() || !event.contains("id") || !event["id"].is_number_integer()) return {};
+    TraceEvent found{event["id"].get<std::int32_t>(), ""};
+    const auto inserts = event.find("inserts");
+    if (inserts != event.end() && inserts->is_array() && !inserts->empty() &&
+        inserts->front().is_string())
+        found.insert = inserts->front().get<std::string>();
+    return found;
+}
+
+} // namespace
+
+TraceCheck::TraceCheck(OpenTool& tool) : tool_(tool)
+{
+    tool.requireDatabase();
+    present_ = wordsOf(tool, "the flags can't be read: no trace can be changed");
+}
+
+TraceCheck::~TraceCheck()
+{
+    tool_.context().onTrappedError = {};
+}
+
+void TraceCheck::expect(TraceExpectation expected)
+{
+    expected_ = std::move(expected);
+    for (const std::string& part : expected_.impossible)
+        std::fprintf(stderr,
+                     "orvandiag: a macro trace asks for what this server does not have: %s\n",
+                     part.c_str());
+    std::error_code none;
+    const auto size = fs::file_size(eventLogFile(), none);
+    eventsBefore_ = none ? 0 : size;
+    tool_.context().onTrappedError = [this](const RunTimeError& error, std::string_view) {
+        if (firstError_.empty()) firstError_ = error.description();
+    };
+}
+
+void TraceCheck::expectLevel(const std::string& component, int level, bool on)
+{
+    levels_.push_back({component, level, on});
+}
+
+void TraceCheck::requireSuccess()
+{
+    std::vector<std::string> wrong;
+    compareWords(wrong);
+    compareRecords(wrong);
+    compareEvents(wrong);
+    if (wrong.empty()) return;
+    throw CommandFailure("not every trace was changed: " + told(wrong) +
+                         (firstError_.empty() ? "" : ": " + firstError_));
+}
+
+void TraceCheck::compareWords(std::vector<std::string>& wrong)
+{
+    std::map<std::string, FlagWords> words;
+    for (auto& component : wordsOf(tool_, "the flags can't be read back"))
+        words[component.name] = component;
+    for (const auto& [name, word] : expected_.words) {
+        const auto found = words.find(name);
+        if (found == words.end())
+            wrong.push_back("the component " + name + " has gone");
+        else if (found->second.flags != word)
+            wrong.push_back(name + " has the flags " + hexadecimal(found->second.flags) +
+                            " instead of " + hexadecimal(word));
+    }
+    for (const auto& [component, level, on] : levels_) {
+        const auto found = words.find(component);
+        if (found == words.end()) continue;
+        if (level >= 32) {
+            wrong.push_back(component + " has no place for level " + std::to_string(level));
+            continue;
+        }
+        const std::int32_t mask = mdlTraces::levelMask(tool_.context(), level);
+        const bool isOn = (found->second.flags & mask) != 0;
+        if (isOn != on && (on || (found->second.defaultFlags & mask) == 0))
+            wrong.push_back("level " + std::to_string(level) + " of " + component + " is still " +
+                            (on ? "off" : "on"));
+    }
+}
+
+void TraceCheck::compareRecords(std::vector<std::string>& wrong)
+{
+    for (const auto& [names, on] : expected_.records)
+        if (isRecordedAsOn(tool_.context(), names.first, names.second) != on)
+            wrong.push_back("\"" + names.first + " - " + names.second + "\" is not recorded as " +
+                            (on ? "on" : "off"));
+}
+
+/// Others may report events meanwhile: each of the operation's own is to be among the new ones.
+void TraceCheck::compareEvents(std::vector<std::string>& wrong) const
+{
+    std::vector<TraceEvent> events = newEvents();
+    for (const TraceEvent& event : expected_.events) {
+        const auto found = std::find(events.begin(), events.end(), event);
+        if (found == events.end())
+            wrong.push_back("the event of \"" + event.insert + "\" is not in the event log");
+        else
+            events.erase(found);
+    }
+}
+
+std::vector<TraceEvent> TraceCheck::newEvents() const
+{
+    std::vector<TraceEvent> events;
+    std::ifstream log(eventLogFile(), std::ios::binary);
+    log.seekg(static_cast<std::streamoff>(eventsBefore_));
+    for (std::string line; std::getline(log, line);)
+        if (const TraceEvent event = eventOf(line); event.id != 0) events.push_back(event);
+    return events;
+}
+
+std::string TraceCheck::eventLogFile() const
+{
+    return tool_.site().folder() + "/eventlogs/Application.jsonl";
+}

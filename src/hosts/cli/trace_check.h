@@ -1,0 +1,54 @@
+#pragma once
+
+#include "hosts/cli/open_tool.h"
+#include "hosts/cli/trace_expectation.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+/// Looks at what a trace operation left, as its wizard tells of no failure; and lets nobody try
+/// without a database.
+class TraceCheck {
+public:
+    /// Raises CommandFailure when the tool has no connection, or the flags can't be read.
+    explicit TraceCheck(OpenTool& tool);
+    ~TraceCheck();
+    TraceCheck(const TraceCheck&) = delete;
+    TraceCheck& operator=(const TraceCheck&) = delete;
+
+    /// The flag words before the operation.
+    const std::vector<FlagWords>& present() const { return present_; }
+
+    /// To be called right before the operation is applied. What no server can give is a warning
+    /// on standard error.
+    void expect(TraceExpectation expected);
+
+    /// One level that the person asked for: off, it may stay on by default. To be called after
+    /// `expect`.
+    void expectLevel(const std::string& component, int level, bool on);
+
+    /// Reads back flags, records and events. Raises CommandFailure when one of them is not as
+    /// expected.
+    void requireSuccess();
+
+private:
+    struct Level {
+        std::string component;
+        int level;
+        bool on;
+    };
+
+    void compareWords(std::vector<std::string>& wrong);
+    void compareRecords(std::vector<std::string>& wrong);
+    void compareEvents(std::vector<std::string>& wrong) const;
+    std::vector<TraceEvent> newEvents() const;
+    std::string eventLogFile() const;
+
+    OpenTool& tool_;
+    std::vector<FlagWords> present_;
+    TraceExpectation expected_;
+    std::vector<Level> levels_;
+    std::uintmax_t eventsBefore_ = 0; ///< bytes of the event log before the operation
+    std::string firstError_;          ///< that the operation logged and went on after
+};

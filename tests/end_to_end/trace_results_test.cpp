@@ -1,0 +1,153 @@
+#include "end_to_end/trace_commands.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+namespace {
+
+namespace fs = std::filesystem;
+using nlohmann::json;
+using testing::HasSubstr;
+
+/// What the commands say of what they did.
+struct TraceResults : TraceCommands {};
+
+TEST_F(TraceResults, AStrayDefinitionFileIsAWarningAndNoFailure)
+{
+    ASSERT_EQ(0, run({"reset"}).status) << "the tool's folder is supplied once";
+    const std::string trace = macroTrace();
+    for (const char* name : {"HTbroken.xml", "HTother.xml"})
+        write(drive("OrvanDiagnostics/ZMKXML/" + std::string(name)),
+              name == std::string("HTother.xml") ? "<OTHER/>" : "<GA NAME='X'><TRACE");
+    const std::string warnings =
+        "orvandiag: HTbroken.xml is passed over: it is no definition of macro traces\n"
+        "orvandiag: HTother.xml is passed over: it is no definition of macro traces\n";
+    const Outcome set = run({"macro", "set", "--on", trace});
+    EXPECT_EQ(0, set.status);
+    EXPECT_EQ(warnings, set.err);
+    EXPECT_TRUE(shown(trace)["enabled"]);
+    const Outcome listed = run({"macro"});
+    EXPECT_EQ(0, listed.status);
+    EXPECT_EQ(warnings, listed.err);
+    const Outcome reset = run({"reset"});
+    EXPECT_EQ(0, reset.status) << reset.err;
+}
+
+TEST_F(TraceResults, WhatADefinitionAsksForInVainIsAWarning)
+{
+    ASSERT_EQ(0, run({"reset"}).status);
+    write(drive("OrvanDiagnostics/ZMKXML/HTzz.xml"),
+          "<GA NAME='Vain'><TRACE NAME='T'><DESCRIPTION/>"
+          "<DIAG GROUP='NoSuchComponent'><FLAG ID='1'/></DIAG>"
+          "<DIAG GROUP='CallFlow'><FLAG ID='40'/></DIAG></TRACE></GA>");
+    const Outcome set = run({"macro", "set", "--on", "Vain - T"});
+    EXPECT_EQ(0, set.status);
+    EXPECT_EQ("orvandiag: a macro trace asks for what this server does not have: no component "
+              "NoSuchComponent\n"
+              "orvandiag: a macro trace asks for what this server does not have: no level 40 of "
+              "CallFlow\n",
+              set.err);
+}
+
+TEST_F(TraceResults, FlagsAreReadBackAfterAChange)
+{
+    const std::string trace = macroTrace();
+    const std::string component = runJson({"flags"}).json()[0]["name"];
+    const json levels = runJson({"micro", component}).json()[0]["levels"];
+    const auto level = std::find_if(levels.begin(), levels.end(),
+                                    [](const json& each) { return !each["enabled"]; });
+    ASSERT_NE(levels.end(), level);
+    // A procedure that takes every call and changes nothing.
+    sql("DROP TRIGGER csp_LoggerDiagnosticGridModify_execute;"
+        "CREATE TRIGGER idle INSTEAD OF INSERT ON csp_LoggerDiagnosticGridModify BEGIN "
+        "INSERT INTO tbl_ProcedureAudit (ProcedureName) VALUES ('idle'); END;");
+    const std::vector<std::vector<std::string>> commands = {
+        {"macro", "set", "--on", trace},
+        {"micro", "set", "--on", component + ":" + std::to_string((*level)["level"].get<int>())},
+        {"reset"},
+    };
+    for (const auto& words : commands) {
+        SCOPED_TRACE(words[0]);
+        const Outcome refused = run(words);
+        EXPECT_EQ(1, refused.status);
+        EXPECT_EQ("", refused.out);
+        EXPECT_THAT(refused.err, testing::ContainsRegex("orvandiag: not every trace was changed: "
+                                                        "[A-Za-z]+ has the flags 0x[0-9A-F]+ "
+                                                        "instead of 0x[0-9A-F]+"));
+    }
+    EXPECT_NE("0", sql("SELECT count(*) FROM tbl_ProcedureAudit WHERE ProcedureName = 'idle'"));
+}
+
+TEST_F(TraceResults, AnEventThatIsNotThereIsAFailure)
+{
+    const std::string trace = macroTrace();
+    fs::remove(site / "eventlogs/Application.jsonl");
+    fs::create_directory(site / "eventlogs/Application.jsonl");
+    const Outcome set = run({"macro", "set", "--on", trace});
+    EXPECT_EQ(1, set.status);
+    EXPECT_THAT(set.err, testing::StartsWith("orvandiag: not every trace was changed: the event of "
+                                             "\"" +
+                                             trace + "\" is not in the event log"));
+    EXPECT_TRUE(shown(trace)["enabled"]) << "the rest was done";
+}
+
+TEST_F(TraceResults, ANameWithAnApostropheIsKnownAndItsFailureIsTold)
+{
+    ASSERT_EQ(0, run({"reset"}).status) << "the tool's folder is supplied once";
+    write(drive("OrvanDiagnostics/ZMKXML/HTy1.xml"),
+          "<GA NAME=\"A caller's\" DONTSHOW='1'><TRACE NAME='Hidden'><DESCRIPTION/></TRACE></GA>");
+    write(drive("OrvanDiagnostics/ZMKXML/HTy2.xml"),
+          "<GA NAME=\"A caller's\"><TRACE NAME='Shown'><DESCRIPTION/><DIAG GROUP='CallFlow'>"
+          "<FLAG ID='9'/></DIAG></TRACE></GA>");
+    ASSERT_FALSE(shown("A caller's - Shown").is_null()) << "the tool's look-up breaks on the name";
+    ASSERT_EQ(0, flags("CallFlow") & 1 << 9);
+    const Outcome set = run({"macro", "set", "--on", "A caller's - Shown"});
+    EXPECT_EQ(1, set.status);
+    EXPECT_THAT(set.err, HasSubstr("not every trace was changed: CallFlow has the flags "));
+    EXPECT_TRUE(shown("A caller's - Shown")["enabled"]) << "it is recorded all the same";
+    EXPECT_EQ(1, run({"macro", "set", "--on", "A caller's - Hidden"}).status);
+}
+
+TEST_F(TraceResults, AComponentWithoutLevelsEndsTheListAndThatIsTold)
+{
+    const auto components = runJson({"micro"}).json();
+    ASSERT_GE(components.size(), 3u);
+    const std::string last = components[1]["component"];
+    const std::string cut = components[2]["component"];
+    const fs::path catalogue =
+        drive("KelmaOrvan/GuiResources/Resources/ENU/DiagnosticGrids_ENU.xml");
+    std::string text = read(catalogue);
+    const auto at = text.find("<DiagnosticLevels>", text.find("name=\"" + last + "\""));
+    const auto end = text.find("</DiagnosticLevels>", at);
+    ASSERT_NE(std::string::npos, end);
+    write(catalogue, text.erase(at, end - at).insert(at, "<DiagnosticLevels>"));
+
+    const std::string where = "the list can't be filled past " + last +
+                              ", which has no levels in the catalogue of level texts\n";
+    const Outcome listed = runJson({"micro"});
+    EXPECT_EQ(0, listed.status);
+    EXPECT_EQ("orvandiag: not every component is listed: " + where, listed.err);
+    ASSERT_EQ(2U, listed.json().size());
+    EXPECT_EQ(components[0], listed.json()[0]);
+    EXPECT_EQ(last, listed.json()[1]["component"]);
+
+    const std::string words = sql("SELECT * FROM vw_LoggerDiagnosticGrid ORDER BY Name");
+    const Outcome one = run({"micro", cut});
+    EXPECT_EQ(1, one.status);
+    EXPECT_THAT(one.err, HasSubstr(cut + " is not listed\n"));
+    const Outcome set = run({"micro", "set", "--on", cut + ":0"});
+    EXPECT_EQ(1, set.status);
+    EXPECT_EQ("orvandiag: no level can be changed: " + where, set.err);
+    EXPECT_EQ(words, sql("SELECT * FROM vw_LoggerDiagnosticGrid ORDER BY Name"));
+}
+
+TEST_F(TraceResults, ADatabaseThatRefusesIsToldOf)
+{
+    sql("DROP VIEW csp_LoggerDiagnosticGridModify");
+    const Outcome refused = run({"reset"});
+    EXPECT_EQ(1, refused.status);
+    EXPECT_THAT(refused.err, HasSubstr("csp_LoggerDiagnosticGridModify"));
+}
+
+} // namespace
