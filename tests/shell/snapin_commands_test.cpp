@@ -147,6 +147,29 @@ TEST_F(SnapInCommands, TheTaskStartsNewLogFilesWithoutMovingTheSelection)
     EXPECT_EQ(3u, node("RoCsMgr").children().size());
 }
 
+TEST_F(SnapInCommands, TheTaskRenewsEveryProcessThatWasOpenedAndNoOther)
+{
+    withProcess("KoNotify");
+    withProcess("KoIdle");
+    withLog("diag_KoNotify_20051007_000000.txt");
+    openProcess();
+    console.expand(node("KoNotify"));
+    view().select(node("Static Node"));
+    for (const char* process : {"RoCsMgr", "KoNotify", "KoIdle"})
+        withLog("diag_" + std::string(process) + "_20051009_000000.txt");
+
+    console.clickTask("4");
+
+    EXPECT_TRUE(signalled());
+    EXPECT_EQ("New log files started.", view().statusBarText());
+    EXPECT_EQ("Static Node", selected());
+    EXPECT_EQ(3u, node("RoCsMgr").children().size());
+    EXPECT_THAT(below(node("KoNotify")), ElementsAre("diag_KoNotify_20051009_000000.txt",
+                                                     "diag_KoNotify_20051007_000000.txt"));
+    EXPECT_THAT(below(node("KoIdle")), IsEmpty());
+    EXPECT_THAT(tool.clock.sleeps(), ElementsAre(500, 500, 500, 500)) << "two opened, two renewed";
+}
+
 TEST_F(SnapInCommands, TheMenuItemRebuildsAListOfLogs)
 {
     openProcess();

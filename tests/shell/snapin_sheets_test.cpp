@@ -1,5 +1,6 @@
 #include "platform/controls.h"
 #include "platform/pages.h"
+#include "platform/plain_sheet.h"
 #include "platform/wizard_sheet.h"
 #include "shell/sheet_definitions.h"
 #include "shell/shell_fixture.h"
@@ -259,4 +260,32 @@ TEST_F(SnapinSheets, TheResetWizardWorksFromTheTaskPadToItsEnd)
     ASSERT_TRUE(wizard().finish());
     EXPECT_EQ(4, tool.database.flagsOf("A"));
     EXPECT_TRUE(sheets().openSheets().empty());
+}
+
+TEST_F(SnapinSheets, AChangedLogFolderReachesTheListsAtTheNextStartAlone)
+{
+    withProcess("RoCsMgr");
+    withLog("diag_RoCsMgr_20051001_080000.txt");
+    tool.files.with("D:\\New\\diag_RoCsMgr_20051002_080000.txt", "");
+    console.clickTask("6");
+    const auto settings = sheets().lastSheet();
+    dynamic_cast<TextBox&>(*settings->currentPage().control("txtLocationOfLogFiles"))
+        .setByPerson("D:\\New");
+    settings->plainSheet()->apply();
+    ASSERT_EQ("D:\\New", tool.registry.text(logManagerKey, "Output Path"));
+
+    console.expand(processes());
+    console.expand(node("RoCsMgr"));
+    EXPECT_EQ((Texts{"diag_RoCsMgr_20051001_080000.txt"}), below(node("RoCsMgr")));
+    snapIn.refreshScopeItems();
+    EXPECT_EQ((Texts{"diag_RoCsMgr_20051001_080000.txt"}), below(node("RoCsMgr")));
+
+    ToolContext restarted(tool.platform);
+    Console other(definition);
+    snapinOrvanDiagnostics again(restarted, other);
+    other.load(again);
+    other.expand(other.scopeItems().item(2));
+    other.expand(other.scopeItems().item("RoCsMgr"));
+    EXPECT_EQ((Texts{"diag_RoCsMgr_20051002_080000.txt"}),
+              below(other.scopeItems().item("RoCsMgr")));
 }

@@ -31,6 +31,20 @@ struct GatherProgressPage : GatherWizardTest {
         });
     }
 
+    /// The sheet as a page sees it while the person works in another program: the keystroke that
+    /// is to press Next goes astray.
+    struct SheetInTheBackground final : PropertySheet {
+        explicit SheetInTheBackground(PropertySheet& behind) : sheet(behind) {}
+        void SetWizardButtons(bool enableBack, int nextOrFinish) override
+        {
+            sheet.SetWizardButtons(enableBack, nextOrFinish);
+        }
+        void pressNext() override { ++keystrokes; }
+
+        PropertySheet& sheet;
+        int keystrokes = 0;
+    };
+
     std::size_t eventLogsCaptured() const { return tool.eventLogExporter.exports().size(); }
 };
 
@@ -82,6 +96,22 @@ TEST_F(GatherProgressPage, GoesOnByItselfWhenTheRunHasReturned)
     EXPECT_TRUE(tool.files.fileExists(copy));
     EXPECT_EQ(3.0F, progress->progressbarOverall.value());
     EXPECT_EQ(0, progress->timerCheckForCancel.interval());
+}
+
+TEST_F(GatherProgressPage, StaysWithNextEnabledWhenTheKeystrokeReachesAnotherProgram)
+{
+    arrive();
+    SheetInTheBackground background(*sheet);
+    progress->IMMCPropertyPage_Initialize(nullptr, background);
+    ASSERT_EQ(wizardButton::nextDisabled, forward());
+
+    runStarts();
+
+    EXPECT_EQ(1, background.keystrokes);
+    EXPECT_EQ("ppgGatherLogs03Step", onShow());
+    EXPECT_EQ(wizardButton::nextEnabled, forward());
+    EXPECT_TRUE(sheet->next()) << "the person can click it";
+    EXPECT_EQ("ppgGatherLogs99Final", onShow());
 }
 
 TEST_F(GatherProgressPage, UnderTheDevelopmentHostNextIsEnabledThroughoutAndItGoesOnToo)

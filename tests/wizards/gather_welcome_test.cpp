@@ -75,6 +75,24 @@ TEST_F(GatherWelcome, KeepsTheDestinationOfTheJobWhenItIsShownAgain)
     EXPECT_EQ("Destination Directory\r\nC:\\Out", destination());
 }
 
+TEST_F(GatherWelcome, ASecondRunOfTheWizardUsesTheFolderOfTheFirst)
+{
+    shared->m_LogDestinationDirectory = "";
+    start(gatherOption::standard);
+    const std::string folder = shared->m_LogDestinationDirectory;
+    runStarts();
+    ASSERT_EQ("ppgGatherLogs99Final", onShow());
+    tool.clock.advance(60);
+    sheet->back();
+    ASSERT_EQ("ppgGatherLogs00Welcome", onShow());
+    tool.eventLogExporter.with("System", "as it is a minute later");
+    ASSERT_TRUE(sheet->next());
+    runStarts();
+    EXPECT_EQ("ppgGatherLogs99Final", onShow());
+    EXPECT_EQ(folder, shared->m_LogDestinationDirectory);
+    EXPECT_THAT(tool.files.content(folder + "\\System.csv"), HasSubstr("as it is a minute later"));
+}
+
 TEST_F(GatherWelcome, ShowsThePickedFolder)
 {
     sheet->show();
