@@ -89,6 +89,15 @@ TEST_F(DiagnosticGridCatalogue, FallsBackToEnglishForALanguageWithoutAFile)
     EXPECT_THAT(tool.failures(), IsEmpty());
 }
 
+TEST_F(DiagnosticGridCatalogue, FallsBackToEnglishForALanguageThatTheTableLacks)
+{
+    tool.languages.userDefault = 1028;
+    open("<DiagnosticGrid name='A' text='One'/>");
+
+    EXPECT_EQ("One", text("A"));
+    EXPECT_THAT(tool.files.asked(), testing::Contains(cataloguePath("C:\\Orvan", "ERROR")));
+}
+
 TEST_F(DiagnosticGridCatalogue, DoesNotFallBackFromAMalformedFileOfTheUsersLanguage)
 {
     tool.languages.userDefault = 1036;

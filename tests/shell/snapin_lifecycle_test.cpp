@@ -37,6 +37,35 @@ TEST_F(SnapInLifecycle, GivesTheConsoleItsIdentity)
               console.identity().description);
 }
 
+TEST_F(SnapInLifecycle, LooksTheUsersLanguageUpBeforeItsFirstText)
+{
+    struct Case {
+        const char* because;
+        std::int32_t language;
+        const char* displayName;
+    };
+    const Case cases[] = {
+        {"a language with its library", 1036,
+         "Diagnostics en fran\xC3\xA7"
+         "ais"},
+        {"one without", 1041, "Kelma Orvan Diagnostics"},
+        {"one that the table of languages lacks", 1028, "Kelma Orvan Diagnostics"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        tool.context.language.g_lngCurrentLanguage = 0;
+        tool.languages.userDefault = c.language;
+        tool.languages.with("C:\\OrvanDiagnostics\\ZMKbrandingres_FRA.dll",
+                            {{1015, "Diagnostics en fran\xC3\xA7"
+                                    "ais"}});
+
+        snapIn.SnapIn_Initialize();
+
+        EXPECT_EQ(c.displayName, console.displayName());
+        EXPECT_EQ(c.language, tool.context.language.g_lngCurrentLanguage);
+    }
+}
+
 TEST_F(SnapInLifecycle, ShowsItsVersionWithALeadingBlankAndSingleBlanksAroundBuild)
 {
     struct Case {
@@ -301,6 +330,22 @@ TEST_F(SnapInLifecycle, PutsTheFirstEventLogLanguageBackOnUnloading)
         EXPECT_EQ("C:\\Windows\\x.dll", tool.registry.text(sources + "Other", name));
     }
     EXPECT_EQ("ENU", tool.registry.text(toolKey, "OriginalEventLogLanguage")) << "it stays";
+    EXPECT_EQ(10003, reportedIds(tool).back());
+}
+
+TEST_F(SnapInLifecycle, AnAbsentFirstEventLogLanguageChangesNothingOnUnloading)
+{
+    tool.registry.withText("System\\CurrentControlSet\\Services\\EventLog\\Application\\Server",
+                           "EventMessageFile", "C:\\Localize\\Messaging\\JPN\\x.dll");
+    load();
+    ASSERT_FALSE(tool.registry.has(toolKey, "OriginalEventLogLanguage"));
+    const auto written = tool.registry.written();
+
+    console.unload();
+
+    EXPECT_EQ(written, tool.registry.written());
+    EXPECT_FALSE(tool.logged("Entering [mdlLanguage]"));
+    EXPECT_FALSE(tool.registry.has(toolKey, "OriginalEventLogLanguage"));
     EXPECT_EQ(10003, reportedIds(tool).back());
 }
 
