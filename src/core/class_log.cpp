@@ -97,7 +97,7 @@ bool classLog::retriesAfter(const RunTimeError& error, std::string_view procName
     reportingOwnFailure_ = true;
     log(errorText(error), logLevel::error, procName);
     reportingOwnFailure_ = false;
-    return DebugMode() && tries < mostTries;
+    return DebugMode(tries) && tries < mostTries;
 }
 
 std::string classLog::makeLogFileName()
@@ -190,9 +190,9 @@ std::string classLog::logLine(std::string_view message, std::int32_t level,
     return line.append(indentText_).append(message);
 }
 
-bool classLog::DebugMode() const
+bool classLog::DebugMode(int failuresInARow) const
 {
-    return platform_.module.isDevelopmentHost();
+    return platform_.module.isDevelopmentHost(failuresInARow);
 }
 
 void classLog::setNestingDepth(std::int32_t depth)

@@ -40,8 +40,9 @@ public:
     /// failure.
     void log(std::string_view message, std::int32_t level, std::string_view procName);
 
-    /// Whether the development environment hosts the tool.
-    bool DebugMode() const;
+    /// Whether the development environment hosts the tool; of a statement that has failed so often
+    /// in a row, whether it runs again.
+    bool DebugMode(int failuresInARow = 0) const;
 
     /// Logs the entry of a traced routine and indents what follows. Raises nothing: past 32,767
     /// open calls of one name the failure is logged alone.

@@ -6,7 +6,7 @@ namespace {
 constexpr int errorsAllowed = 10;
 }
 
-bool ErrorTrap::retriesAfter(const RunTimeError& error, int line)
+bool ErrorTrap::retriesAfter(const RunTimeError& error, int line, int failures)
 {
     if (kind_.counted && ++errors_ > errorsAllowed) {
         report(error, errorText(error));
@@ -14,14 +14,14 @@ bool ErrorTrap::retriesAfter(const RunTimeError& error, int line)
         report(RunTimeError(errorCountExceeded, exceeded), exceeded);
         throw ForcedExit{this};
     }
-    if (specialCase_) {
-        const Resume resume = specialCase_(error);
-        if (resume != Resume::asUsual) return resume == Resume::retry;
+    const Resume resume = specialCase_ ? specialCase_(error) : Resume::asUsual;
+    if (resume == Resume::next || resume == Resume::retry) return resume == Resume::retry;
+    if (resume == Resume::asUsual) {
+        std::string text = errorText(error);
+        if (kind_.tellsLine) text += " Line: " + numberText(std::int64_t{line});
+        report(error, text);
     }
-    std::string text = errorText(error);
-    if (kind_.tellsLine) text += " Line: " + numberText(std::int64_t{line});
-    report(error, text);
-    return tool_.g_log.exists() && tool_.g_log->DebugMode();
+    return tool_.g_log.exists() && tool_.g_log->DebugMode(failures);
 }
 
 void ErrorTrap::report(const RunTimeError& error, std::string_view text)

@@ -13,6 +13,7 @@
 /// What follows a failed statement.
 enum class Resume {
     asUsual, ///< log it; retry in the development host, else go on
+    logged,  ///< the same, but it has been logged already
     next,    ///< go on with the next statement
     retry,   ///< run the same statement again
 };
@@ -63,12 +64,12 @@ public:
     template <std::invocable Statement>
     void operator()(Statement&& statement, int line = __builtin_LINE())
     {
-        for (;;) {
+        for (int failures = 1;; ++failures) {
             try {
                 statement();
                 return;
             } catch (const RunTimeError& error) {
-                if (!retriesAfter(error, line)) return;
+                if (!retriesAfter(error, line, failures)) return;
             }
         }
     }
@@ -104,8 +105,9 @@ public:
     int errors() const { return errors_; }
 
 private:
-    /// Counts, logs, and tells whether the statement runs again. Throws ForcedExit.
-    bool retriesAfter(const RunTimeError& error, int line);
+    /// Counts, logs, and tells whether the statement, which has failed so often in a row, runs
+    /// again. Throws ForcedExit.
+    bool retriesAfter(const RunTimeError& error, int line, int failures);
 
     /// Logs an error and tells whoever asked to hear of it.
     void report(const RunTimeError& error, std::string_view text);

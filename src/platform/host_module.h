@@ -21,7 +21,10 @@ public:
     virtual std::string commandLine() const = 0;
 
     /// Whether the development environment hosts the tool.
-    virtual bool isDevelopmentHost() const = 0;
+    ///
+    /// A failed statement runs again when the answer to it is true. `failuresInARow` is how often
+    /// it has failed by now, so that a developer may give it up; 0 when the tool asks for itself.
+    virtual bool isDevelopmentHost(int failuresInARow) const = 0;
 
     /// Sends a text to whoever debugs the host; nobody listening is no error.
     virtual void debugOutput(const std::string& text) = 0;

@@ -69,7 +69,7 @@ bool mdlOrvanDatabase::openOrvanDB(ToolContext& tool, DatabaseConnection& connec
         step.log(errorText(error), logLevel::error);
         if (tool.onTrappedError) tool.onTrappedError(error, step.procName());
         step.log("Connection String Used = " + connectionString, logLevel::error);
-        return tool.g_log.exists() && tool.g_log->DebugMode() ? Resume::retry : Resume::next;
+        return Resume::logged;
     });
     step.body([&] {
         step.enterProc();

@@ -210,7 +210,10 @@ TEST_F(ClassLogTest, DebugModeIsTheHostsAnswer)
 {
     EXPECT_FALSE(log().DebugMode());
     tool.module.developmentHost = true;
+    tool.module.patience = 2;
     EXPECT_TRUE(log().DebugMode());
+    EXPECT_TRUE(log().DebugMode(1));
+    EXPECT_FALSE(log().DebugMode(2));
 }
 
 TEST_F(ClassLogTest, EntryAndExitStandAtTheCallersIndentationAndLinesBetweenOneStepFurther)

@@ -204,6 +204,58 @@ TEST(DevelopmentHost, RunsAFailedStatementAgainUntilItSucceeds)
     EXPECT_EQ(Texts(4, overflowText), tool.failures());
 }
 
+TEST(DevelopmentHost, RunsAFailedStatementAgainForAsLongAsTheHostSaysSo)
+{
+    TestTool tool;
+    tool.module.developmentHost = true;
+    ErrorTrap step{tool.context, "m", "r"};
+    int tries = 0;
+    bool next = false;
+    step([&] {
+        if (++tries == 200) tool.module.developmentHost = false;
+        overflow();
+    });
+    step([&] { next = true; });
+    EXPECT_EQ(200, tries);
+    EXPECT_TRUE(next);
+    EXPECT_EQ(Texts(200, overflowText), tool.failures());
+}
+
+TEST(DevelopmentHost, HearsHowOftenEachStatementHasFailedInARow)
+{
+    TestTool tool;
+    tool.module.developmentHost = true;
+    tool.module.patience = 7;
+    ErrorTrap step{tool.context, "m", "r"};
+    for (int round = 0; round < 2; ++round) {
+        int tries = 0;
+        step([&] {
+            ++tries;
+            overflow();
+        });
+        EXPECT_EQ(7, tries) << "it gives up, and each statement is counted anew";
+    }
+}
+
+TEST(DevelopmentHost, RunsAStatementAgainWhoseErrorTheRoutineHasLoggedItself)
+{
+    TestTool tool;
+    tool.module.developmentHost = true;
+    tool.module.patience = 3;
+    ErrorTrap step{tool.context, "m", "r"};
+    step.specialCase([&](const RunTimeError&) {
+        step.log("in its own words", logLevel::error);
+        return Resume::logged;
+    });
+    int tries = 0;
+    step([&] {
+        ++tries;
+        overflow();
+    });
+    EXPECT_EQ(3, tries);
+    EXPECT_EQ(Texts(3, "in its own words"), tool.failures());
+}
+
 TEST(DevelopmentHost, LeavesACountedRoutineOnTheEleventhErrorOfOneStatement)
 {
     TestTool tool;

@@ -125,6 +125,16 @@ TEST(ManualPage, HasEveryCommandAndNoHiddenOne)
     EXPECT_THAT(orvandiag({"--help"}).out, Not(HasSubstr("manual page")));
 }
 
+TEST(HiddenOptions, AreTakenAndToldNowhere)
+{
+    EXPECT_EQ(0, orvandiag({"--development-host", "man"}).status);
+    for (const Words& teaching : {Words{"--help"}, {"man"}, {"completion", "bash"}}) {
+        const std::string told = orvandiag(teaching).out;
+        EXPECT_THAT(told, testing::ContainsRegex("json")) << "what all of them tell";
+        EXPECT_THAT(told, Not(testing::ContainsRegex("development"))) << teaching.back();
+    }
+}
+
 TEST(ManualPage, NoLineOfTextIsTakenForARequest)
 {
     std::istringstream lines(orvandiag({"man"}).out);

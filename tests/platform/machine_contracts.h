@@ -110,7 +110,7 @@ TYPED_TEST_P(IdentityContract, TheModuleHasANameAFolderAndAVersion)
     EXPECT_GE(module.majorVersion(), 1);
     EXPECT_GE(module.minorVersion(), 0);
     EXPECT_GE(module.revision(), 0);
-    EXPECT_FALSE(module.isDevelopmentHost());
+    EXPECT_FALSE(module.isDevelopmentHost(0));
     module.debugOutput("nobody listens");
 }
 

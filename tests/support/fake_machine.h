@@ -29,6 +29,7 @@ public:
     int build = 17;
     std::string command = "mmc.exe OrvanDiagnostics.msc";
     bool developmentHost = false;
+    int patience = 0; ///< failures of a statement after which the developer gives up; 0 for never
     std::vector<std::string> debugTexts; ///< what was sent to the debugger
 
     std::string folder() const override { return folderPath; }
@@ -37,6 +38,9 @@ public:
     int minorVersion() const override { return minor; }
     int revision() const override { return build; }
     std::string commandLine() const override { return command; }
-    bool isDevelopmentHost() const override { return developmentHost; }
+    bool isDevelopmentHost(int failuresInARow) const override
+    {
+        return developmentHost && (patience == 0 || failuresInARow < patience);
+    }
     void debugOutput(const std::string& text) override { debugTexts.push_back(text); }
 };

@@ -16,10 +16,17 @@ struct ModuleVersion {
 struct HostFacts {
     ModuleVersion version;
     std::string commandLine;
+
+    /// Stands for a developer at a debugger, who gives a statement up that has failed ten times in
+    /// a row: a switch may never be turned off, and no run is to be endless.
     bool developmentHost = false;
 
     /// Takes what the tool sends to whoever debugs the host; empty when nobody listens.
     std::function<void(std::string_view)> debugListener;
+
+    /// Whether the person wants the program to end; empty when the host can't tell. The developer
+    /// then lets every statement go.
+    std::function<bool()> interrupted;
 };
 
 /// The tool's module, which lies in a folder of the site.
@@ -33,7 +40,7 @@ public:
     int minorVersion() const override { return facts_.version.minor; }
     int revision() const override { return facts_.version.revision; }
     std::string commandLine() const override { return facts_.commandLine; }
-    bool isDevelopmentHost() const override { return facts_.developmentHost; }
+    bool isDevelopmentHost(int failuresInARow) const override;
     void debugOutput(const std::string& text) override;
 
 private:

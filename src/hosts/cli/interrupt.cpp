@@ -34,5 +34,10 @@ InterruptWish::~InterruptWish()
 
 bool InterruptWish::made() const
 {
+    return interruptNoted();
+}
+
+bool interruptNoted()
+{
     return wished != 0;
 }

@@ -15,3 +15,6 @@ public:
 
     bool made() const;
 };
+
+/// Whether a wish was made since the latest `InterruptWish` came to life.
+bool interruptNoted();

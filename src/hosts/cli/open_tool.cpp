@@ -1,5 +1,6 @@
 #include "hosts/cli/open_tool.h"
 
+#include "hosts/cli/interrupt.h"
 #include "hosts/cli/program.h"
 #include "shell/snapin_definition.h"
 
@@ -20,6 +21,7 @@ HostFacts hostFacts(const GlobalOptions& options)
     facts.version = moduleVersion();
     facts.commandLine = "orvandiag";
     facts.developmentHost = options.developmentHost;
+    facts.interrupted = interruptNoted;
     return facts;
 }
 

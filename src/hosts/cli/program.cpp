@@ -25,6 +25,9 @@ constexpr const char* introduction =
     "  export ORVAN_SITE=~/orvan-sample\n"
     "  orvandiag status";
 
+/// The group that help, completion and manual page leave out.
+constexpr const char* hidden = "";
+
 std::string closing()
 {
     std::string text;
@@ -47,13 +50,14 @@ std::unique_ptr<CLI::App> describeCommandLine(GlobalOptions& options,
         ->type_name("DIR");
     app->add_flag("--json", options.json, "print one JSON value instead of text");
     app->add_flag("--development-host", options.developmentHost,
-                  "answer the tool's debug-mode test with true");
+                  "answer the tool's debug-mode test with true")
+        ->group(hidden);
     app->set_version_flag("--version", versionText());
     app->require_subcommand(1);
     app->fallthrough();
     for (const auto& command : commands) {
         CLI::App* sub = app->add_subcommand(command->name(), command->summary());
-        if (command->hidden()) sub->group("");
+        if (command->hidden()) sub->group(hidden);
         sub->footer(command->explanation());
         command->declare(*sub);
     }

@@ -24,7 +24,7 @@ public:
                                       (extended ? "logFields=extended\n" : ""));
         folder_.write("eventlogs/Application.jsonl", "{\"id\":1}\n");
         folder_.makeFolder("drive_c/Windows");
-        site_ = std::make_unique<Site>(folder_.path(), "", HostFacts{{1, 0, 0}, "", false, {}});
+        site_ = std::make_unique<Site>(folder_.path(), "", HostFacts{{1, 0, 0}, "", false, {}, {}});
         fs::remove(folder_ / "drive_c/OrvanDiagnostics");
     }
 

@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 HostFacts hostFacts()
 {
-    return {{2, 1, 23}, "orvandiag status", false, {}};
+    return {{2, 1, 23}, "orvandiag status", false, {}, {}};
 }
 
 class SiteTest : public testing::Test {
@@ -251,16 +251,44 @@ TEST_F(SiteTest, AFolderNamedFromHereIsFoundFromAnywhere)
 TEST_F(SiteTest, SendsDebugOutputToTheListenerIfThereIsOne)
 {
     std::string heard;
-    SiteHostModule listened("C:\\x", {{}, "", true, [&](std::string_view text) { heard = text; }});
+    HostFacts facts = hostFacts();
+    facts.debugListener = [&](std::string_view text) { heard = text; };
+    SiteHostModule listened("C:\\x", facts);
     SiteHostModule alone("C:\\x", hostFacts());
 
     listened.debugOutput("text");
     alone.debugOutput("text");
 
     EXPECT_EQ("text", heard);
-    EXPECT_TRUE(listened.isDevelopmentHost());
-    EXPECT_FALSE(alone.isDevelopmentHost());
     EXPECT_EQ("OrvanDiagnostics", alone.name());
+}
+
+TEST(DevelopmentHostOfASite, GivesAStatementUpThatHasFailedTenTimesInARow)
+{
+    HostFacts facts;
+    EXPECT_FALSE(SiteHostModule("C:\\x", facts).isDevelopmentHost(0));
+    EXPECT_FALSE(SiteHostModule("C:\\x", facts).isDevelopmentHost(1));
+
+    facts.developmentHost = true;
+    const SiteHostModule module("C:\\x", facts);
+    for (int failures = 0; failures < 10; ++failures)
+        EXPECT_TRUE(module.isDevelopmentHost(failures)) << failures;
+    EXPECT_FALSE(module.isDevelopmentHost(10));
+    EXPECT_TRUE(module.isDevelopmentHost(1)) << "the next one gets its ten tries too";
+}
+
+TEST(DevelopmentHostOfASite, LetsEveryStatementGoOnceThePersonWantsTheEnd)
+{
+    bool interrupted = false;
+    HostFacts facts;
+    facts.developmentHost = true;
+    facts.interrupted = [&] { return interrupted; };
+    const SiteHostModule module("C:\\x", facts);
+    EXPECT_TRUE(module.isDevelopmentHost(1));
+
+    interrupted = true;
+
+    EXPECT_FALSE(module.isDevelopmentHost(1));
 }
 
 } // namespace
