@@ -110,9 +110,9 @@ void MainWindow::setTool(OpenTool* tool)
         language_.choose(spoken_);
         rebuildConsoleItems();
         sayLanguage();
-        if (!tool_->writable())
+        if (tool_->looksOnly())
             showProblem([this] {
-                if (!tool_ || tool_->writable()) return QString();
+                if (!tool_ || !tool_->looksOnly()) return QString();
                 return tr("This site is read-only: logs can be read, but traces and settings "
                           "cannot be changed. Make its folder writable, or open a copy.");
             });
@@ -291,6 +291,9 @@ void MainWindow::run(Command command)
 
 void MainWindow::refresh()
 {
+    // A tool that looks at a site only goes on doing so; another one takes its place.
+    if (tool_->looksOnly() && tool_->writable() && mayLeaveSite())
+        return void(emit siteAsked(QString::fromStdString(tool_->site().folder())));
     pane_->perform([](Console& console) {
         const std::string key = console.currentScopeItem().key();
         console.refresh();

@@ -8,13 +8,26 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+namespace {
+
+/// As the process may write now, which is not always as the one who started it may.
+bool mayWrite(const std::string& folder)
+{
+    return ::faccessat(AT_FDCWD, folder.c_str(), W_OK, AT_EACCESS) == 0;
+}
+
+} // namespace
+
 OpenTool::OpenTool(const std::string& folder, const std::string& installedData, HostFacts facts,
                    Desktop& desktop)
-    : site_(folder, installedData, std::move(facts)),
+    : use_(mayWrite(folder) ? SiteUse::change : SiteUse::look),
+      site_(folder, installedData, std::move(facts), use_),
       traceDatabases_([this](const std::string& path) { return site_.paths().machinePath(path); },
                       site_.codePage()),
-      platform_(site_.platform(desktop, traceDatabases_)), context_(platform_),
-      definition_(snapinDefinition()), console_(definition_), snapIn_(context_, console_)
+      platform_(site_.platform(desktop, traceDatabases_)),
+      looking_(platform_, [this](const std::string& path) { return site_.paths().isOfSite(path); }),
+      context_(looksOnly() ? looking_.platform() : platform_), definition_(snapinDefinition()),
+      console_(definition_), snapIn_(context_, console_)
 {}
 
 void OpenTool::load()
@@ -32,8 +45,7 @@ void OpenTool::close()
 
 bool OpenTool::writable() const
 {
-    // As the process may write now, which is not always as the one who started it may.
-    return ::faccessat(AT_FDCWD, site_.folder().c_str(), W_OK, AT_EACCESS) == 0;
+    return mayWrite(site_.folder());
 }
 
 bool OpenTool::present() const

@@ -3,6 +3,7 @@
 #include "backends/jet/jet_engine.h"
 #include "backends/portable/site.h"
 #include "core/tool_context.h"
+#include "hosts/common/looking_services.h"
 #include "platform/console.h"
 #include "shell/snapin_orvan_diagnostics.h"
 
@@ -14,7 +15,8 @@ class Desktop;
 class OpenTool {
 public:
     /// Opens a site; `desktop` outlives the tool. Raises what `Site` raises. The console is there,
-    /// for a window to observe, and the snap-in is not loaded yet.
+    /// for a window to observe, and the snap-in is not loaded yet. A site that may not be written
+    /// to is opened for a look, which leaves nothing there.
     OpenTool(const std::string& folder, const std::string& installedData, HostFacts facts,
              Desktop& desktop);
     OpenTool(const OpenTool&) = delete;
@@ -30,7 +32,10 @@ public:
     Console& console() { return console_; }
     snapinOrvanDiagnostics& snapIn() { return snapIn_; }
 
-    /// Whether the site can be written to.
+    /// Whether the tool was opened on a site that it only looks at.
+    bool looksOnly() const { return use_ == SiteUse::look; }
+
+    /// Whether the site can be written to now.
     bool writable() const;
 
     /// Whether the site's folder still is one.
@@ -41,9 +46,11 @@ public:
     std::string toolPath(const std::string& machinePath) const;
 
 private:
+    SiteUse use_;
     Site site_;
     jet::JetEngine traceDatabases_;
     Platform platform_;
+    LookingServices looking_;
     ToolContext context_;
     SnapInDefinition definition_;
     Console console_;

@@ -1,3 +1,4 @@
+#include "end_to_end/site_record.h"
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_view.h"
 #include "hosts/desktop/open_program.h"
@@ -93,6 +94,7 @@ TEST_F(ReadOnlySite, IsReadAndSaysWhatCannotBeDone)
 
 TEST_F(ReadOnlySite, StaysAsItIsWhateverIsTried)
 {
+    const auto before = recordOf(shown.server.site());
     const auto flags = site.flags();
     const std::string registry = site.text("registry.reg");
     for (const char* key : {"Ctrl+1", "Ctrl+2"}) {
@@ -117,8 +119,10 @@ TEST_F(ReadOnlySite, StaysAsItIsWhateverIsTried)
 
     EXPECT_EQ(flags, site.flags());
     EXPECT_EQ(registry, site.text("registry.reg"));
-    EXPECT_TRUE(shown.window().isVisible());
     EXPECT_THAT(problem(), HasSubstr("read-only"));
+    shown.program.close();
+    EXPECT_EQ(before, recordOf(shown.server.site()));
+    EXPECT_TRUE(shown.window().isVisible());
 }
 
 TEST_F(ReadOnlySite, IsGatheredToAFolderElsewhere)
@@ -142,8 +146,11 @@ TEST_F(ReadOnlySite, IsGatheredToAFolderElsewhere)
 TEST_F(ReadOnlySite, BecomesWritableAtTheNextF5)
 {
     locked.reset();
+    const auto before = site.text("registry.reg");
     person::press(QKeySequence("F5"));
     EXPECT_THAT(problem(), IsEmpty());
+    person::press(QKeySequence("Ctrl+4"));
+    EXPECT_NE(before, site.text("registry.reg")) << "new log files are asked for";
 }
 
 } // namespace
