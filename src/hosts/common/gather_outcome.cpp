@@ -46,6 +46,14 @@ bool costsAResult(const RunTimeError& error, std::string_view procName)
            !isOfAMalformedLine(error.number());
 }
 
+/// What an error tells, as a part of a sentence: some end in a point of their own.
+std::string causeOf(const RunTimeError& error)
+{
+    std::string cause = error.description();
+    while (!cause.empty() && cause.back() == '.') cause.pop_back();
+    return cause;
+}
+
 /// The leaf that stands in bold; null between the logs.
 const TreeNode* currentLeaf(const TreeView& steps)
 {
@@ -148,8 +156,7 @@ void GatherWatch::note(const RunTimeError& error, std::string_view procName)
     const TreeNode* leaf = currentLeaf(steps_);
     if (leaf) {
         const bool server = leaf->parent() && leaf->parent()->text() == mdlLogs::orvanLogsBranch;
-        add({server ? Stage::serverLog : Stage::eventLog, leaf->text(), tooMany,
-             error.description()});
+        add({server ? Stage::serverLog : Stage::eventLog, leaf->text(), tooMany, causeOf(error)});
         return;
     }
     if (!troubleAt(Stage::run) && procName == pipelineProc)
@@ -160,18 +167,14 @@ void GatherWatch::note(const RunTimeError& error, std::string_view procName)
         stage = Stage::filters;
     else if (procName == pipelineProc && error.number() == runTimeErrors::inputPastEnd)
         stage = Stage::definitions;
-    add({stage, "", tooMany, tooMany ? "too many errors" : error.description()});
+    add({stage, "", tooMany, tooMany ? "too many errors" : causeOf(error)});
 }
 
-/// A counted trap tells of its errors one by one before it gives up, and that is what counts then.
+/// The first trouble is the cause: that a trap gives up behind it says no more. Malformed lines,
+/// which are no trouble each, come here when a trap gives up for them alone.
 void GatherWatch::add(Trouble trouble)
 {
-    for (Trouble& known : troubles_) {
-        if (known.stage != trouble.stage || known.log != trouble.log) continue;
-        if (trouble.tooManyErrors) known = std::move(trouble);
-        return;
-    }
-    troubles_.push_back(std::move(trouble));
+    if (!troubleAt(trouble.stage, trouble.log)) troubles_.push_back(std::move(trouble));
 }
 
 const GatherWatch::Trouble* GatherWatch::troubleAt(Stage stage, std::string_view log) const

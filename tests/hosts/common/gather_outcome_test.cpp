@@ -2,9 +2,12 @@
 
 #include "backends/portable/temporary_folder.h"
 #include "core/error_trap.h"
+#include "platform/trace_database.h"
 #include "wizards/gather_wizard_fixture.h"
 
 #include <gmock/gmock.h>
+
+#include <algorithm>
 
 namespace {
 
@@ -33,12 +36,14 @@ struct GatherOutcomeTest : GatherWizardTest {
     GatherWatch watch()
     {
         return GatherWatch(tool.context, *progress, [this](const std::string& path) {
-            return machine.path() + "/" + path.substr(3);
+            std::string below = path.substr(3);
+            std::replace(below.begin(), below.end(), '\\', '/');
+            return machine.path() + "/" + below;
         });
     }
 
     /// An error in a routine of the pipeline, while a log is being gathered or between them.
-    void fail(int error, const char* routine = "processLogs", const std::string& log = {})
+    void fail(const RunTimeError& error, const char* routine, const std::string& log = {})
     {
         const auto mark = [&](bool bold) {
             auto& steps = progress->treeviewSteps;
@@ -48,8 +53,13 @@ struct GatherOutcomeTest : GatherWizardTest {
         };
         mark(true);
         ErrorTrap step{tool.context, "mdlLogs", routine};
-        step([&] { throw RunTimeError(error); });
+        step([&] { throw error; });
         mark(false);
+    }
+
+    void fail(int error, const char* routine = "processLogs", const std::string& log = {})
+    {
+        fail(RunTimeError(error), routine, log);
     }
 
     static std::vector<std::string> texts(const std::vector<Sentence>& sentences)
@@ -110,6 +120,29 @@ TEST_F(GatherOutcomeTest, AMalformedLineCostsNothing)
     machine.write("Out/diag_A_1_fmtd.txt", "x");
     fail(runTimeErrors::invalidCall, "processOrvanLogFile", "diag_A_1.txt");
     EXPECT_THAT(watched.outcome().missing, IsEmpty());
+}
+
+TEST_F(GatherOutcomeTest, ATrapThatGivesUpTellsOfMalformedLinesOnlyWhereNothingElseFailed)
+{
+    job({"diag_A_1.txt", "diag_B_1.txt"}, {});
+    shared->m_bTimeFrameLogs = true;
+    tool.context.g_strTraceDatabase = "C:\\Out\\PC_WPN_1.mdb";
+    const GatherWatch watched = watch();
+    const RunTimeError noRoom(traceDatabaseErrors::diskFull, "Not enough space on disk.");
+    machine.write("Out/PC_WPN_1.mdb");
+    for (const char* log : {"diag_A_1.txt", "diag_B_1.txt"}) {
+        if (log == std::string_view("diag_B_1.txt")) fail(noRoom, "processOrvanLogFileToDB", log);
+        fail(runTimeErrors::invalidCall, "processOrvanLogFileToDB", log);
+        fail(errorCountExceeded, "processOrvanLogFileToDB", log);
+    }
+    fail(noRoom, "saveUniqueFilters");
+    fail(errorCountExceeded, "saveUniqueFilters");
+    EXPECT_THAT(texts(watched.outcome().missing),
+                testing::IsSupersetOf(
+                    {"The filters could not all be stored: Not enough space on disk.",
+                     "diag_A_1.txt has too many malformed lines, and was read no further "
+                     "than the eleventh.",
+                     "diag_B_1.txt was not gathered as a whole: Not enough space on disk."}));
 }
 
 TEST_F(GatherOutcomeTest, ABoxDuringALogTellsThatItIsNotThere)
