@@ -8,6 +8,7 @@ namespace {
 
 const std::string file = "data_RoCsMgr_20051008_093000.txt";
 const std::string path = "C:\\Logs\\" + file;
+const std::string closedPath = "c:\\logs\\data_rocsmgr_20051008_093000.txt";
 const std::string proc = "[mdlLogs]processOrvanDataFileToDB";
 const Date morning = dateOf(2005, 10, 8, 9, 30, 0);
 using Texts = std::vector<std::string>;
@@ -20,6 +21,14 @@ struct DataTool : ImportTool {
         timeZone.read(context.g_timeZone);
     }
 };
+
+/// Lines of 30 bytes that lie in the frame.
+std::string inside(int count)
+{
+    std::string text;
+    for (int number = 0; number < count; ++number) text += "2005-10-08 22:00:00,S,1,a line\r\n";
+    return text;
+}
 
 } // namespace
 
@@ -90,6 +99,66 @@ TEST(ProcessOrvanDataFileToDB, EndsAtTheFirstLineBehindTheFrame)
                   "2005-10-08 22:30:00,S,1,too late"});
     tool.importData(file);
     EXPECT_EQ((Texts{"first", "last"}), tool.column("Trace"));
+    EXPECT_EQ("Processing", tool.label.caption()) << "with the common ending";
+    EXPECT_EQ(tool.current.maximum(), tool.current.value());
+    EXPECT_EQ((Texts{closedPath}), tool.files.closed());
+    EXPECT_TRUE(tool.logged("Exiting " + proc));
+}
+
+TEST(ProcessOrvanDataFileToDB, TheLineThatEndsTheReadingHasNoProgressPoint)
+{
+    DataTool tool;
+    tool.end = dateOf(2005, 10, 8, 16, 0, 0);
+    tool.files.with(path, inside(999) + "2005-10-08 23:30:00,S,1,behind\r\n" + inside(1))
+        .created(path, morning);
+    tool.importData(file);
+    EXPECT_EQ(999U, tool.rows().size());
+    EXPECT_EQ(1, tool.desktop.pumps()) << "line 1 alone, not line 1000";
+    EXPECT_EQ(9U, tool.clock.sleeps().size());
+}
+
+TEST(ProcessOrvanDataFileToDB, LinesOutsideTheFrameHaveProgressPointsToo)
+{
+    DataTool tool;
+    tool.start = dateOf(2010, 1, 1);
+    tool.end = dateOf(2010, 1, 2);
+    tool.files.with(path, inside(2'000)).created(path, morning);
+    tool.importData(file);
+    EXPECT_EQ(3, tool.desktop.pumps());
+    EXPECT_EQ(20U, tool.clock.sleeps().size());
+    EXPECT_TRUE(tool.rows().empty());
+}
+
+TEST(ProcessOrvanDataFileToDB, ACancelTakesEffectAtTheNextMultipleOf1000AndHasTheCommonEnding)
+{
+    DataTool tool;
+    tool.files.with(path, inside(2'500)).created(path, morning);
+    tool.clock.onSleep([&] {
+        if (tool.clock.sleeps().size() == 3) mdlLogs::cancelCurrentProcess(tool.context, true);
+    });
+    tool.importData(file);
+    EXPECT_EQ(1'000U, tool.rows().size());
+    EXPECT_EQ("Processing", tool.label.caption());
+    EXPECT_EQ(tool.current.maximum(), tool.current.value());
+    EXPECT_EQ((Texts{closedPath}), tool.files.closed());
+    EXPECT_TRUE(tool.logged("Exiting " + proc));
+    EXPECT_TRUE(mdlLogs::cancelCurrentProcess(tool.context)) << "the walk resets it";
+}
+
+TEST(ProcessOrvanDataFileToDB, PutsTheCaptionBackFillsTheBarAndClosesTheFileAtItsEnd)
+{
+    DataTool tool;
+    tool.files.with(path, inside(3)).created(path, morning);
+    tool.current.setVisible(false);
+    std::string captionAtWork;
+    tool.desktop.onPump([&] { captionAtWork = tool.label.caption(); });
+    tool.importData(file);
+    EXPECT_EQ("Processing 66 Bytes Left", captionAtWork);
+    EXPECT_EQ("Processing", tool.label.caption());
+    EXPECT_TRUE(tool.current.visible());
+    EXPECT_EQ(96.0F, tool.current.maximum());
+    EXPECT_EQ(96.0F, tool.current.value());
+    EXPECT_EQ((Texts{closedPath}), tool.files.closed());
 }
 
 TEST(ProcessOrvanDataFileToDB, AnEmptySourceOrTraceIsNotChanged)

@@ -183,6 +183,19 @@ TEST(DatabaseGather, ASecondOneKeepsTheFirstOnesValuesOfAKey)
               tool.traceDatabases.rows("tblUniqueFilters"));
 }
 
+TEST(DatabaseGather, ACommaInAProcessNameShiftsTheColumnsOfItsFilterAlone)
+{
+    FrameTool tool;
+    tool.withLog("diag_Ro,Cs_1.txt", "15:23:07:123,Conv,1,CallFlow,7,x\r\n").gatherFrame();
+    EXPECT_EQ("Ro,Cs", tool.traceDatabases.rows("tblTraces").at(0).at("Process"));
+    EXPECT_EQ((std::vector<FakeTraceRow>{{{"qrvIndex", "CallFlow_Ro,Cs_7_Conv"},
+                                          {"Process", "Ro"},
+                                          {"Source", "Cs"},
+                                          {"Component", "Conv"},
+                                          {"TraceLevel", "CallFlow"}}}),
+              tool.traceDatabases.rows("tblUniqueFilters"));
+}
+
 TEST(DatabaseGather, AStandardOneAfterwardsLeavesItsPath)
 {
     FrameTool tool;

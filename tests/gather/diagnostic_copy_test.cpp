@@ -17,6 +17,10 @@ TEST(ProcessOrvanLogFile, WritesAFormattedCopy)
     EXPECT_TRUE(tool.failures().empty());
     EXPECT_TRUE(tool.logged("Entering [mdlLogs]processOrvanLogFile"));
     EXPECT_TRUE(tool.logged("Exiting [mdlLogs]processOrvanLogFile"));
+    EXPECT_EQ((std::vector<std::string>{"c:\\logs\\diag_rocsmgr_20051008_152307.txt",
+                                        "c:\\out\\diag_rocsmgr_20051008_152307_fmtd.txt"}),
+              tool.files.closed())
+        << "the log first, and then its copy";
 }
 
 TEST(ProcessOrvanLogFile, WritesOverAnEarlierCopy)

@@ -83,6 +83,8 @@ TEST(ProcessOrvanLogFileToDBErrors, TheEleventhErrorEndsTheFileAtOnce)
         tool.failures(proc));
     EXPECT_FALSE(tool.logged("Exiting " + proc)) << "there is no common ending";
     EXPECT_NE("Processing", tool.label.caption());
+    EXPECT_TRUE(tool.files.closed().empty());
+    EXPECT_FALSE(tool.files.isOpen(path)) << "the stream is let go all the same";
 }
 
 TEST(ProcessOrvanLogFileToDBErrors, TenErrorsEndNothing)
@@ -214,6 +216,21 @@ TEST(ProcessOrvanLogFileToDBErrors, ARowWhoseFilterCannotBeReadBackCountsToTheRo
     EXPECT_EQ(2U, tool.rows().size());
     EXPECT_EQ(Texts{"CallFlow_RoCsMgr_7_Conv"}, tool.context.g_dictUniqueFilters.keys());
     EXPECT_EQ(1U, tool.failures(proc).size());
+}
+
+TEST(ProcessOrvanLogFileToDBErrors, ARefusedIndexReadsBackEmptyAndIsOneFilterOfTheFirstSuchRow)
+{
+    ImportTool tool;
+    tool.context.g_bDebugMode = true;
+    const std::string longName(241, 'c');
+    tool.withLog(logName, morning,
+                 {"10:00:00:000 (Conv,1," + longName + ",7) a",
+                  "10:00:00:000 (Conv,1," + longName + ",8) b", "10:00:00:000 (Conv,1,F,7) c"});
+    tool.importLog(logName);
+    EXPECT_EQ((Texts{"Null", "Null", "F_RoCsMgr_7_Conv"}), tool.column("qrvIndex"));
+    EXPECT_EQ((Texts{"", "F_RoCsMgr_7_Conv"}), tool.context.g_dictUniqueFilters.keys());
+    EXPECT_EQ("RoCsMgr,Conv," + longName + ",7", tool.context.g_dictUniqueFilters.item(""));
+    EXPECT_EQ(2U, tool.failures(proc).size());
 }
 
 TEST(ProcessOrvanLogFileToDBErrors, AFailedUpdateLosesThatRowAlone)

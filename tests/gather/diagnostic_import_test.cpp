@@ -6,6 +6,7 @@
 
 namespace {
 const std::string log = "diag_RoCsMgr_20051008_093000.txt";
+const std::string closedPath = "c:\\logs\\diag_rocsmgr_20051008_093000.txt";
 const Date morning = dateOf(2005, 10, 8, 9, 30, 0);
 using Texts = std::vector<std::string>;
 
@@ -125,6 +126,7 @@ TEST(ProcessOrvanLogFileToDB, TheFirstLineBehindTheFrameEndsTheReading)
     EXPECT_EQ(2, tool.eventReporter.linesFormatted());
     EXPECT_EQ("Processing", tool.label.caption());
     EXPECT_EQ(tool.current.maximum(), tool.current.value());
+    EXPECT_EQ((Texts{closedPath}), tool.files.closed());
 }
 
 TEST(ProcessOrvanLogFileToDB, ALineOutOfOrderAfterTheFrameHasBegunEndsTheReading)
@@ -196,6 +198,18 @@ TEST(ProcessOrvanLogFileToDB, CarriesTheDateOverMidnights)
          dateOf(2005, 10, 8, 9, 0, 0),
          {"1999-12-31 10:00:00"},
          {"10/8/2005 10:00:00:000"}},
+        {"a gap of two days between dated stamps is not noticed",
+         dateOf(2005, 10, 8, 9, 0, 0),
+         {"2005-10-08 10:00:00", "2005-10-10 11:00:00", "2005-10-12 10:30:00"},
+         {"10/8/2005 10:00:00:000", "10/8/2005 11:00:00:000", "10/9/2005 10:30:00:000"}},
+        {"what stands behind the milliseconds is dropped",
+         dateOf(2005, 10, 8, 9, 0, 0),
+         {"10:00:00:123456", "10:00:01:7890123"},
+         {"10/8/2005 10:00:00:123", "10/8/2005 10:00:01:789"}},
+        {"a stamp may end before its last digit",
+         dateOf(2005, 10, 8, 9, 0, 0),
+         {"10:00:00:12"},
+         {"10/8/2005 10:00:00:12"}},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.because);
@@ -283,6 +297,7 @@ TEST(ProcessOrvanLogFileToDB, ACancelTakesEffectAtTheNextMultipleOf1000)
     tool.importLog(log);
     EXPECT_EQ(1'000U, tool.rows().size());
     EXPECT_EQ("Processing", tool.label.caption());
+    EXPECT_EQ((Texts{closedPath}), tool.files.closed());
 }
 
 TEST(ProcessOrvanLogFileToDB, LinesOutsideTheFrameHaveProgressPointsToo)
@@ -336,4 +351,31 @@ TEST(ProcessOrvanLogFileToDB, LinesBeforeTheFrameAreParsedAsTheyStandInTheDevelo
     const std::string toolLog = quick.files.content(quick.sureContext.g_log->strLogFile());
     EXPECT_NE(std::string::npos, toolLog.find("Could not format: " + lineAt("10:00:00:000")))
         << "a raw line is none that can be parsed, though its time could be told";
+}
+
+TEST(ProcessOrvanLogFileToDB, TheCountOfCharactersHas32BitsAndKeepsTheSumBeforeItsOverflow)
+{
+    QuickTool quick;
+    const std::size_t width = 2'150'000;
+    std::string line = "09:40:00:000 before the frame";
+    line.resize(width - 1, 'x');
+    quick.files.withRepeated("C:\\Logs\\" + log, line + "\n", 1'000)
+        .created("C:\\Logs\\" + log, morning);
+    quick.start = dateOf(2005, 10, 8, 10, 0, 0);
+    float shown = 0;
+    quick.desktop.onPump([&] { shown = quick.current.value(); });
+    CaptionRecorder captions(quick.label);
+
+    quick.importSurely(log);
+
+    const std::string toolLog = quick.files.content(quick.sureContext.g_log->strLogFile());
+    const std::size_t first = toolLog.find("Err.Number = 6 Err.Description = Overflow Line: ");
+    ASSERT_NE(std::string::npos, first) << "line 999 makes more than 2,147,483,647";
+    const std::size_t second = toolLog.find("Err.Number = 6 ", first + 1);
+    ASSERT_NE(std::string::npos, second) << "and so does line 1000";
+    EXPECT_EQ(std::string::npos, toolLog.find("Err.Number", second + 1));
+    EXPECT_EQ(998.0F * (width - 1), shown);
+    EXPECT_EQ(
+        (Texts{"Processing 2147850001 Bytes Left", "Processing 4300998 Bytes Left", "Processing"}),
+        captions.captions);
 }

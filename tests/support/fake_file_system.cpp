@@ -127,6 +127,17 @@ FakeFileSystem& FakeFileSystem::withSize(const std::string& path, std::int64_t s
     return *this;
 }
 
+FakeFileSystem& FakeFileSystem::withRepeated(const std::string& path, std::string content,
+                                             int times)
+{
+    const auto size = static_cast<std::int64_t>(content.size()) * times;
+    with(path, std::move(content));
+    const auto node = find(keyOf(path));
+    node->claimedSize = size;
+    node->timesOver = times;
+    return *this;
+}
+
 FakeFileSystem& FakeFileSystem::withFolder(const std::string& path)
 {
     const std::string fullPath = fakePaths::full(path, currentFolder_);

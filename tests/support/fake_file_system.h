@@ -26,6 +26,9 @@ public:
 
     /// Makes a file that is said to be `size` bytes long, whatever reading it gives.
     FakeFileSystem& withSize(const std::string& path, std::int64_t size);
+
+    /// Makes a file that reads as `content` so many times over, and holds it once.
+    FakeFileSystem& withRepeated(const std::string& path, std::string content, int times);
     FakeFileSystem& withFolder(const std::string& path);
 
     /// Makes a drive such as "D:", or sets the space of one that is there.
@@ -57,6 +60,9 @@ public:
 
     /// Whether a stream of a file is still open.
     bool isOpen(const std::string& path) const;
+
+    /// Paths of the streams that were closed, and not just let go, oldest first, in lower case.
+    const std::vector<std::string>& closed() const { return closed_; }
 
     /// Paths asked for, oldest first, as the asker wrote them.
     const std::vector<std::string>& asked() const { return asked_; }
@@ -90,6 +96,7 @@ public:
         FileInfo info;
         std::string content;
         std::optional<std::int64_t> claimedSize;
+        int timesOver = 1; ///< how often the content follows upon itself
 
         std::int64_t size() const
         {
@@ -100,6 +107,7 @@ public:
     /// What an open stream asks of its file system.
     void checkOpenFile(const std::string& key, int linesRead) const;
     void takeRoom(std::size_t bytes);
+    void noteClosed(const std::string& key) const { closed_.push_back(key); }
     Date moment() const;
 
 private:
@@ -127,4 +135,5 @@ private:
     std::optional<std::int64_t> room_;
     std::string currentFolder_ = "C:\\";
     mutable std::vector<std::string> asked_;
+    mutable std::vector<std::string> closed_;
 };

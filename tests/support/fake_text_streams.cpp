@@ -24,12 +24,16 @@ const std::string& FakeTextReader::content() const
 bool FakeTextReader::atEnd()
 {
     if (!node_) throw RunTimeError(runTimeErrors::objectVariableNotSet);
-    return position_ >= node_->content.size();
+    return position_ >= node_->content.size() && timesRead_ >= node_->timesOver;
 }
 
 std::string_view FakeTextReader::readLine()
 {
     const std::string& text = content();
+    if (position_ >= text.size() && timesRead_ < node_->timesOver) {
+        position_ = 0;
+        ++timesRead_;
+    }
     if (position_ >= text.size()) throw RunTimeError(runTimeErrors::inputPastEnd);
     const std::size_t end = text.find('\n', position_);
     const bool ended = end != std::string::npos;
@@ -49,6 +53,12 @@ std::string FakeTextReader::readAll()
     const std::size_t start = std::exchange(position_, text.size());
     if (text.size() - start > longestText) throw RunTimeError(runTimeErrors::outOfStringSpace);
     return text.substr(start);
+}
+
+void FakeTextReader::close()
+{
+    if (node_) files_.noteClosed(key_);
+    node_.reset();
 }
 
 FakeTextWriter::FakeTextWriter(FakeFileSystem& files, std::string key,
@@ -73,4 +83,10 @@ void FakeTextWriter::flush()
 {
     if (!node_) throw RunTimeError(runTimeErrors::objectVariableNotSet);
     files_.checkOpenFile(key_, 0);
+}
+
+void FakeTextWriter::close()
+{
+    if (node_) files_.noteClosed(key_);
+    node_.reset();
 }

@@ -15,7 +15,7 @@ public:
     bool atEnd() override;
     std::string_view readLine() override;
     std::string readAll() override;
-    void close() override { node_.reset(); }
+    void close() override;
 
 private:
     const std::string& content() const;
@@ -24,6 +24,7 @@ private:
     std::string key_;
     std::shared_ptr<FakeFileSystem::Node> node_;
     std::size_t position_ = 0;
+    int timesRead_ = 1;
     int linesRead_ = 0;
     std::string line_;
 };
@@ -37,7 +38,7 @@ public:
     void write(std::string_view text) override;
     void writeLine(std::string_view text) override;
     void flush() override;
-    void close() override { node_.reset(); }
+    void close() override;
 
 private:
     FakeFileSystem& files_;
