@@ -215,14 +215,30 @@ TEST(InitalizeLanguages, AFormThatFailsDoesNotKeepTheNextFromItsFont)
     EXPECT_EQ(129, form.first.charset);
 }
 
-TEST(InitalizeLanguages, JapaneseWithoutItsLibraryIsEnglishInTheJapaneseFont)
+TEST(InitalizeLanguages, ASavedLanguageGivesWayToTheUsersAtTheNextStart)
+{
+    TestTool tool;
+    tool.registry.withText(toolKey, "CurrentLocalizationLanguage", "1041");
+    tool.languages.userDefault = 1036;
+    InitalizeLanguages(tool.context);
+    EXPECT_EQ(1036, tool.context.language.g_lngCurrentLanguage);
+    EXPECT_EQ("1036", tool.registry.text(toolKey, "CurrentLocalizationLanguage"));
+}
+
+TEST(InitalizeLanguages, ASavedJapaneseWithoutItsLibraryIsEnglishInTheJapaneseFont)
 {
     TestTool tool;
     RecordingForm form;
+    tool.registry.withText(toolKey, "CurrentLocalizationLanguage", "1041");
+    tool.languages.with(frenchLibrary, {{1062, "D'accord"}});
     tool.context.language.openForms = {&form};
     tool.context.language.g_lngCurrentLanguage = 1041;
     InitalizeLanguages(tool.context);
+    EXPECT_EQ("1041", tool.registry.text(toolKey, "CurrentLocalizationLanguage"));
+    EXPECT_EQ((Codes{"C:\\OrvanDiagnostics\\ZMKbrandingres_JPN.dll"}), tool.languages.loads());
+    EXPECT_EQ(0, tool.context.language.g_hResourceLibrary);
     EXPECT_EQ("OK", myLoadResString(tool.context, 1062));
+    EXPECT_EQ(englishText(1048), myLoadResString(tool.context, 1048));
     EXPECT_EQ(128, form.first.charset);
     EXPECT_EQ("ＭＳ Ｐゴシック", form.first.name);
     EXPECT_TRUE(tool.desktop.messages().empty());
