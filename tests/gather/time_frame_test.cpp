@@ -133,6 +133,7 @@ TEST(DetermineSelectedLogs, ListsDiagnosticLogsBeforeDataFilesWithoutFormattedCo
     EXPECT_EQ(end, tool.frame.end);
     EXPECT_TRUE(tool.logged(
         "Gathering logs with data between: 10/8/2005 10:00:00 AM - 10/8/2005 12:00:00 PM"));
+    EXPECT_TRUE(tool.logged("Entering " + proc));
     EXPECT_TRUE(tool.logged("Exiting " + proc));
 }
 

@@ -1,6 +1,7 @@
 #include "logreader/diagnostics.h"
 
 #include "support/test_tool.h"
+#include "support/traced_pairs.h"
 
 #include <gtest/gtest.h>
 
@@ -36,6 +37,14 @@ TEST(GetCurrentDiagnosticFile, GivesNothingForAProcessWithoutAKey)
     TestTool tool;
     EXPECT_EQ("", getCurrentDiagnosticFile(tool.context, "RoCsMgr"));
     EXPECT_TRUE(tool.failures().empty());
+}
+
+TEST(GetCurrentDiagnosticFile, TakesEitherSeparatorForTheEndOfTheFolder)
+{
+    TestTool tool;
+    tool.files.with("C:\\Logs\\a.txt", "x");
+    tool.registry.withText(processKey, "CurrentLogFile", "C:\\Logs/a.txt");
+    EXPECT_EQ("a.txt", getCurrentDiagnosticFile(tool.context, "RoCsMgr"));
 }
 
 TEST(GetCurrentDiagnosticFile, LogsAFileSystemThatFails)
@@ -108,4 +117,19 @@ TEST(AppendFormattedTagToFile, ANameWithoutAPointIsLoggedAndGivesNothing)
     EXPECT_EQ((std::vector<std::string>{
                   "Err.Number = 5 Err.Description = Invalid procedure call or argument"}),
               tool.failures("[mdlDiagnostics]appendFormattedTagToFile"));
+}
+
+TEST(LogFileNames, EachRoutineIsTracedWhenItEndsWellAndWhenItFails)
+{
+    TestTool tool;
+    getCurrentDiagnosticFile(tool.context, "RoCsMgr");
+    for (const std::string name : {"diag_RoCsMgr_20051008_152307.txt", "nothing"}) {
+        parseDateFromFileName(tool.context, "RoCsMgr", name);
+        appendFormattedTagToFile(tool.context, name);
+    }
+    EXPECT_EQ(2U, tool.failures().size());
+    for (const std::string routine :
+         {"getCurrentDiagnosticFile", "parseDateFromFileName", "appendFormattedTagToFile"})
+        EXPECT_TRUE(tool.logged("Entering [mdlDiagnostics]" + routine + "_0")) << routine;
+    EXPECT_EQ(std::vector<std::string>{}, tracesOutOfPairs(tool));
 }
