@@ -76,6 +76,14 @@ void nameAllAsWritten(const Tree& tree)
 /// Takes no notice of an entity that a document declares.
 void passOverEntity(void*, const xmlChar*, int, const xmlChar*, const xmlChar*, xmlChar*) {}
 
+/// Refuses a document that refers to an entity other than those of XML itself. The parser would let
+/// it pass, without the text it stands for, where a definition elsewhere might declare it.
+xmlEntity* refuseEntity(void* parser, const xmlChar*)
+{
+    static_cast<xmlParserCtxt*>(parser)->wellFormed = 0;
+    return nullptr;
+}
+
 /// The document of a text in UTF-8; null when it is not well-formed.
 Tree parsed(const std::string& text)
 {
@@ -85,6 +93,7 @@ Tree parsed(const std::string& text)
                                                                               xmlFreeParserCtxt);
     if (!parser) throw std::bad_alloc();
     parser->sax->entityDecl = passOverEntity;
+    parser->sax->getEntity = refuseEntity;
     constexpr int options = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING |
                             XML_PARSE_NODICT | XML_PARSE_IGNORE_ENC;
     Tree tree(xmlCtxtReadMemory(parser.get(), text.data(), static_cast<int>(text.size()), nullptr,

@@ -8,8 +8,9 @@ class FileSystem;
 /// XML documents read through a file system, with libxml2.
 ///
 /// A file is decoded as `xmlText` tells. One that is not well-formed is refused, and so is one
-/// nested deeper than 256 levels or with a reference to an entity of its own: nothing is fetched,
-/// no entity is expanded. Namespaces mean nothing: a name is what the file says, prefix and all.
+/// nested deeper than 256 levels or with a reference to an entity other than XML's own: nothing is
+/// fetched, no entity is expanded. Namespaces mean nothing: a name is what the file says, prefix
+/// and all.
 class LibxmlDocuments final : public XmlService {
 public:
     /// `codePage` is that of the server.
