@@ -50,6 +50,26 @@ TEST_F(TraceResults, WhatADefinitionAsksForInVainIsAWarning)
               set.err);
 }
 
+TEST_F(TraceResults, ALevelThatIsNoNumberOfSixteenBitsIsAWarningAndCountsAsTheOneBeforeIt)
+{
+    ASSERT_EQ(0, run({"reset"}).status);
+    const int before = flags("CallFlow");
+    ASSERT_EQ(0, before & (1 << 7 | 1 << 9));
+    write(drive("OrvanDiagnostics/ZMKXML/HTzz.xml"),
+          "<GA NAME='Vain'><TRACE NAME='T'><DESCRIPTION/>"
+          "<DIAG GROUP='NoSuchComponent'><FLAG ID='7'/></DIAG>"
+          "<DIAG GROUP='CallFlow'><FLAG/><FLAG ID='99999'/><FLAG ID='9'/></DIAG></TRACE></GA>");
+    const Outcome set = run({"macro", "set", "--on", "Vain - T"});
+    EXPECT_EQ(0, set.status);
+    EXPECT_EQ("orvandiag: a macro trace asks for what this server does not have: no component "
+              "NoSuchComponent\n"
+              "orvandiag: a macro trace asks for what this server does not have: no level 99999 of "
+              "CallFlow\n",
+              set.err);
+    EXPECT_EQ(before | 1 << 7 | 1 << 9, flags("CallFlow"));
+    EXPECT_TRUE(shown("Vain - T")["enabled"]);
+}
+
 TEST_F(TraceResults, FlagsAreReadBackAfterAChange)
 {
     const std::string trace = macroTrace();

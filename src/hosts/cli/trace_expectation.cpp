@@ -49,6 +49,17 @@ XmlElementPtr traceNamed(const ToolContext& tool, const std::string& group,
     return nullptr;
 }
 
+/// Reads the number of a level. False for one past 16 bits, which leaves `level` as it was.
+bool readLevel(const std::string& id, int& level)
+{
+    try {
+        level = mdlTraces::leadingLevel(id);
+        return true;
+    } catch (const RunTimeError&) {
+        return false;
+    }
+}
+
 /// Puts the levels of a macro trace into the words. A part of a definition that has no name or
 /// number counts as the one before it.
 void combine(const ToolContext& tool, const XmlElementPtr& trace, bool on,
@@ -60,18 +71,18 @@ void combine(const ToolContext& tool, const XmlElementPtr& trace, bool on,
     for (const auto& component : trace->selectNodes("DIAG")) {
         name = component->attribute("GROUP").value_or(name);
         const auto word = expected.words.find(name);
-        if (word == expected.words.end()) {
-            expected.impossible.push_back("no component " + name);
-            continue;
-        }
+        const bool known = word != expected.words.end();
+        if (!known) expected.impossible.push_back("no component " + name);
         for (const auto& flag : component->selectNodes("FLAG")) {
-            if (const auto id = flag->attribute("ID")) level = mdlTraces::leadingLevel(*id);
+            const auto id = flag->attribute("ID");
+            const bool readable = !id || readLevel(*id, level);
+            if (!known) continue;
             const auto mask = maskOf(tool, level);
-            if (!mask)
-                expected.impossible.push_back("no level " + numberText(std::int64_t{level}) +
+            if (!mask || !readable)
+                expected.impossible.push_back("no level " +
+                                              (readable ? numberText(std::int64_t{level}) : *id) +
                                               " of " + name);
-            else
-                word->second = on ? word->second | *mask : word->second ^ *mask;
+            if (mask) word->second = on ? word->second | *mask : word->second ^ *mask;
         }
     }
 }
