@@ -129,6 +129,28 @@ TEST_F(TraceResults, ANameWithAnApostropheIsKnownAndItsFailureIsTold)
     EXPECT_EQ(1, run({"macro", "set", "--on", "A caller's - Hidden"}).status);
 }
 
+TEST_F(TraceResults, ANameThatBreaksTheLookUpIsKnownInTheGroupWhereTheTreeShowsIt)
+{
+    ASSERT_EQ(0, run({"reset"}).status) << "the tool's folder is supplied once";
+    const auto define = [&](const char* file, const std::string& group) {
+        write(drive("OrvanDiagnostics/ZMKXML/" + std::string(file)), group);
+    };
+    define("HTy1.xml", "<GA NAME='Twice'><TRACE NAME='One'><DESCRIPTION/></TRACE></GA>");
+    define("HTy2.xml", "<GA NAME='Twice'><TRACE NAME='Two'><DESCRIPTION/></TRACE></GA>");
+    define("HTy3.xml", "<GA NAME=\"A caller's\"><TRACE NAME='Three'><DESCRIPTION/></TRACE></GA>");
+    define("HTy4.xml", "<GA NAME='Once'><TRACE NAME='Four'><DESCRIPTION/></TRACE></GA>");
+    define("HTy5.xml", "<OTHER/>");
+    define("HTy6.xml", "<GA NAME=\"A caller's\"><TRACE NAME='Six'><DESCRIPTION/></TRACE></GA>");
+    for (const char* name : {"Twice - Three", "Once - Six"}) {
+        SCOPED_TRACE(name);
+        ASSERT_FALSE(shown(name).is_null()) << "it counts to the group that was found before";
+        const Outcome set = run({"macro", "set", "--on", name});
+        EXPECT_EQ(0, set.status) << set.err;
+    }
+    for (const char* name : {"A caller's - Three", "A caller's - Six"})
+        EXPECT_EQ(1, run({"macro", "set", "--on", name}).status);
+}
+
 TEST_F(TraceResults, AComponentWithoutLevelsEndsTheListAndThatIsTold)
 {
     const auto components = runJson({"micro"}).json();

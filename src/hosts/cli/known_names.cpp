@@ -30,38 +30,50 @@ public:
     bool add(const std::string& path)
     {
         const XmlElementPtr group = file_->load(path) ? file_->selectSingleNode("GA") : nullptr;
+        if (group) name_ = group->attribute("NAME").value_or(name_); // else that of the file before
+        const XmlElementPtr& known = groupNamed(name_);
         if (!group) return false;
-        name_ = group->attribute("NAME").value_or(name_); // else it counts to the group before
-        if (const XmlElementPtr known = groupNamed(name_))
+        if (known)
             for (const auto& trace : group->selectNodes("TRACE")) known->appendChild(trace);
         else
             top_->appendChild(group);
         return true;
     }
 
+    /// As the wizard's tree names them: what has no name is shown by the one read before it.
     std::vector<std::string> shown() const
     {
         std::vector<std::string> names;
-        for (const auto& group : merged_->selectNodes("HYBRIDTRACES/GA"))
-            if (!group->attribute("DONTSHOW"))
-                for (const auto& trace : group->selectNodes("TRACE"))
-                    names.push_back(group->attribute("NAME").value_or("") + " - " +
-                                    trace->attribute("NAME").value_or(""));
+        std::string name;
+        for (const auto& group : merged_->getElementsByTagName("GA")) {
+            if (group->attribute("DONTSHOW")) continue;
+            name = group->attribute("NAME").value_or(name);
+            const std::string shownGroup = name;
+            for (const auto& trace : group->selectNodes("TRACE")) {
+                name = trace->attribute("NAME").value_or(name);
+                names.push_back(shownGroup + " - " + name);
+            }
+        }
         return names;
     }
 
 private:
-    /// By the tool's own path: a name that breaks it finds no group, and begins another one.
-    XmlElementPtr groupNamed(const std::string& name) const
-    try {
-        return merged_->selectSingleNode("HYBRIDTRACES/GA[@NAME='" + name + "']");
-    } catch (const RunTimeError&) {
-        return nullptr;
+    /// By the tool's own path. A name that breaks it counts to what was found for the one before,
+    /// as it does where the tool puts them together.
+    const XmlElementPtr& groupNamed(const std::string& name)
+    {
+        try {
+            known_ = merged_->selectSingleNode("HYBRIDTRACES/GA[@NAME='" + name + "']");
+        } catch (const RunTimeError&) {
+            // The group before, or none.
+        }
+        return known_;
     }
 
     std::unique_ptr<XmlDocument> merged_;
     std::unique_ptr<XmlDocument> file_;
     XmlElementPtr top_;
+    XmlElementPtr known_; ///< the group that is there already; null where there was none
     std::string name_;
 };
 
