@@ -77,10 +77,12 @@ void nameAllAsWritten(const Tree& tree)
 void passOverEntity(void*, const xmlChar*, int, const xmlChar*, const xmlChar*, xmlChar*) {}
 
 /// Refuses a document that refers to an entity other than those of XML itself. The parser would let
-/// it pass, without the text it stands for, where a definition elsewhere might declare it.
-xmlEntity* refuseEntity(void* parser, const xmlChar*)
+/// it pass, without the text it stands for, where a definition elsewhere might declare it. Among
+/// declarations the parser asks for each entity that it has just read, which is no reference.
+xmlEntity* refuseEntity(void* context, const xmlChar*)
 {
-    static_cast<xmlParserCtxt*>(parser)->wellFormed = 0;
+    auto* parser = static_cast<xmlParserCtxt*>(context);
+    if (parser->inSubset == 0) parser->wellFormed = 0;
     return nullptr;
 }
 

@@ -151,6 +151,19 @@ TEST_F(LibxmlDocumentsTest, RefusesWhatIsNotWellFormed)
     }
 }
 
+TEST_F(LibxmlDocumentsTest, LoadsDeclarationsOfEntitiesThatItDoesNotReferTo)
+{
+    for (const char* declarations :
+         {"[<!ENTITY e 'x'>]", "SYSTEM 'g.dtd'", "[<!ENTITY e SYSTEM 'e.txt'>]",
+          "[<!ENTITY lt '&#38;#60;'><!ENTITY amp '&#38;#38;'>]"}) {
+        SCOPED_TRACE(declarations);
+        ASSERT_TRUE(load("<!DOCTYPE G " + std::string(declarations) +
+                         "><G a='1 &lt; 2'>3 &amp;&#32;4</G>"));
+        EXPECT_EQ("1 < 2", document->documentElement()->attribute("a"));
+        EXPECT_EQ("3 & 4", document->documentElement()->text());
+    }
+}
+
 TEST_F(LibxmlDocumentsTest, ReadsTheDeclaredEncodingElseTheServersCodePage)
 {
     CodePage::Table table{};
