@@ -89,11 +89,6 @@ void FilterBar::offer(ListView& list, const TextDecoder& decoder)
         buttons_[place]->offer(QString::fromStdString(list.column(column).text), column, values,
                                decoder);
     }
-    const QSignalBlocker quietText(text_);
-    const QSignalBlocker quietExclude(excludeText_);
-    text_->clear();
-    excludeText_->setChecked(false);
-    typing_.stop();
 }
 
 void FilterBar::showTitles(ListView& list)

@@ -23,7 +23,7 @@ class FilterBar final : public QWidget {
 public:
     explicit FilterBar(QWidget* parent = nullptr);
 
-    /// Offers the values of a list; nothing is filtered then. The text in the field is dropped.
+    /// Offers the values of a list. What the person has ticked and typed stays.
     void offer(ListView& list, const TextDecoder& decoder);
 
     /// Takes the columns' headers anew; what is filtered stays.

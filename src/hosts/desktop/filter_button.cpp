@@ -78,17 +78,25 @@ FilterButton::FilterButton(QWidget* parent) : QToolButton(parent)
 void FilterButton::offer(const QString& title, int column, const std::vector<ColumnValue>& values,
                          const TextDecoder& decoder)
 {
+    const ColumnCondition kept = column == column_ ? condition() : ColumnCondition{};
+    const auto isKept = [&](const ColumnValue& value) {
+        return std::find(kept.values.begin(), kept.values.end(), value.text) != kept.values.end();
+    };
     filling_ = true;
     column_ = column;
     values_ = values;
+    for (const auto& text : kept.values) {
+        const auto same = [&](const ColumnValue& value) { return value.text == text; };
+        if (std::none_of(values.begin(), values.end(), same)) values_.push_back({text, 0});
+    }
     list_->clear();
-    for (const auto& value : values) {
+    for (const auto& value : values_) {
         auto* item = new QListWidgetItem(list_);
         item->setData(Qt::UserRole, decoder.text(value.text));
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-        item->setCheckState(Qt::Unchecked);
+        item->setCheckState(isKept(value) ? Qt::Checked : Qt::Unchecked);
     }
-    exclude_->setChecked(false);
+    exclude_->setChecked(kept.exclude);
     filling_ = false;
     showValues();
     setTitle(title);

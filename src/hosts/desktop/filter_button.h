@@ -15,7 +15,8 @@ class FilterButton final : public QToolButton {
 public:
     explicit FilterButton(QWidget* parent = nullptr);
 
-    /// Offers the values of a column, none of them ticked. `title` is the column's header.
+    /// Offers the values of a column. `title` is the column's header. What was ticked in the same
+    /// column before stays, a value that no row has any more too.
     void offer(const QString& title, int column, const std::vector<ColumnValue>& values,
                const TextDecoder& decoder);
 

@@ -43,7 +43,7 @@ private:
     QLineEdit* text_ = nullptr;
     QLineEdit* time_ = nullptr;
     QLabel* count_ = nullptr;
-    Sentence counted_;         ///< what stands in the place of the count
+    Sentence counted_;     ///< what stands in the place of the count
     QList<QWidget*> findPart_; ///< what serves to find, and to go to a time
     QList<QWidget*> timePart_;
     bool timeWanted_ = false;

@@ -9,13 +9,15 @@ ListModel::ListModel(const CodePage& codePage, QObject* parent)
     : QAbstractTableModel(parent), codePage_(codePage), decoder_(codePage, ListText::utf8)
 {}
 
-void ListModel::show(ListView& list)
+void ListModel::show(ListView& list, LogFilter filter)
 {
     beginResetModel();
     list_ = &list;
     decoder_ = TextDecoder(codePage_, list.definition().text);
-    filter_ = {};
-    sortColumn_ = -1;
+    filter_ = std::move(filter);
+    const std::string kind = list.definition().name + '/' + std::to_string(list.columnCount());
+    if (kind != kind_) sortColumn_ = -1;
+    kind_ = kind;
     arrange();
     endResetModel();
     emit rowsChanged();
@@ -43,12 +45,36 @@ void ListModel::filter(LogFilter filter)
 void ListModel::sort(int column, Qt::SortOrder order)
 {
     if (column == sortColumn_ && order == sortOrder_) return;
-    beginResetModel();
+    emit layoutAboutToBeChanged({}, VerticalSortHint);
+    const std::vector<std::uint32_t> before = places_;
     sortColumn_ = column;
     sortOrder_ = order;
     arrange();
-    endResetModel();
+    moveMarks(before);
+    emit layoutChanged({}, VerticalSortHint);
     emit rowsChanged();
+}
+
+/// Lets what the views hold by its row, such as the selection, follow to where its place is now.
+void ListModel::moveMarks(const std::vector<std::uint32_t>& before)
+{
+    const QModelIndexList held = persistentIndexList();
+    if (held.empty()) return;
+    std::vector<int> rowOf(static_cast<std::size_t>(list_->itemCount()) + 1, -1);
+    for (std::size_t row = 0; row < places_.size(); ++row)
+        rowOf[places_[row]] = static_cast<int>(row);
+    QModelIndexList moved;
+    moved.reserve(held.size());
+    for (const QModelIndex& index : held)
+        moved << this->index(rowOf[before[static_cast<std::size_t>(index.row())]], index.column());
+    changePersistentIndexList(held, moved);
+}
+
+std::vector<std::uint32_t> ListModel::placesInOrder() const
+{
+    std::vector<std::uint32_t> places = places_;
+    if (sortColumn_ >= 0) std::sort(places.begin(), places.end());
+    return places;
 }
 
 void ListModel::arrange()

@@ -22,9 +22,10 @@ class ListModel final : public QAbstractTableModel {
 public:
     explicit ListModel(const CodePage& codePage, QObject* parent = nullptr);
 
-    /// Shows a list as the console has filled it, with every row and in its own order. The list
+    /// Shows the rows of a list that pass the filter. They stand as the console has filled them in,
+    /// unless a list of the same kind was sorted before: then by that column again. The list
     /// outlives the model's look at it, which `leave` ends.
-    void show(ListView& list);
+    void show(ListView& list, LogFilter filter = {});
     void leave();
 
     /// Null when no list is on show.
@@ -32,6 +33,9 @@ public:
     const TextDecoder& decoder() const { return decoder_; }
 
     void filter(LogFilter filter);
+
+    /// The places of the rows on show, in the console's own order.
+    std::vector<std::uint32_t> placesInOrder() const;
 
     /// The row of a place of the console's list, and back; -1 and 0 where there is none.
     int rowOfPlace(std::uint32_t place) const;
@@ -59,8 +63,10 @@ public:
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /// By column from 0; -1 for the console's own order.
+    /// By column from 0; -1 for the console's own order. Selected rows stay selected.
     void sort(int column, Qt::SortOrder order) override;
+    int sortColumn() const { return sortColumn_; }
+    Qt::SortOrder sortOrder() const { return sortOrder_; }
 
 signals:
     /// Other rows are on show, or the same in another order.
@@ -68,10 +74,12 @@ signals:
 
 private:
     void arrange();
+    void moveMarks(const std::vector<std::uint32_t>& before);
 
     CodePage codePage_;
     TextDecoder decoder_;
     ListView* list_ = nullptr;
+    std::string kind_; ///< of the lists that `sortColumn_` is for
     LogFilter filter_;
     std::vector<std::uint32_t> places_; ///< of the rows on show
     int sortColumn_ = -1;

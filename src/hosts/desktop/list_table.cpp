@@ -54,6 +54,8 @@ ListTable::ListTable(ListModel& model, QSettings& settings, QWidget* parent)
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSortIndicatorClearable(true);
     horizontalHeader()->setMinimumSectionSize(24);
+    horizontalHeader()->setSectionsClickable(true);
+    connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, &ListTable::sortRows);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
         if (arranging_ || !rows_.list()) return;
         rememberWidths();
@@ -80,15 +82,7 @@ void ListTable::listShown()
     if (!list) return;
     arranging_ = true;
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-    // The console has sorted the rows itself: the mark says how, and a click sorts otherwise.
-    const ListSort& sort = list->definition().sort;
-    setSortingEnabled(false);
-    horizontalHeader()->setSortIndicatorShown(true);
-    horizontalHeader()->setSortIndicator(sort.onLoad ? sort.column - 1 : -1,
-                                         sort.ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
-    horizontalHeader()->setSectionsClickable(true);
-    connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, &rows_, &ListModel::sort,
-            Qt::UniqueConnection);
+    markOrder();
     const QVariantList remembered = settings_.value(widthsKey()).toList();
     for (int column = 0; column < list->columnCount(); ++column) {
         if (column + 1 == list->columnCount()) continue;
@@ -101,6 +95,26 @@ void ListTable::listShown()
         std::max(std::min(firstWidth(last), fontMetrics().averageCharWidth() * automaticCharacters),
                  horizontalHeader()->sectionSizeHint(last));
     fillLastColumn();
+}
+
+/// The mark in the header tells the order of the rows: the person's, or the console's own until a
+/// click sorts otherwise.
+void ListTable::markOrder()
+{
+    const ListSort& own = rows_.list()->definition().sort;
+    const bool sorted = rows_.sortColumn() >= 0;
+    const int column = sorted ? rows_.sortColumn() : own.onLoad ? own.column - 1 : -1;
+    const Qt::SortOrder ownOrder = own.ascending ? Qt::AscendingOrder : Qt::DescendingOrder;
+    horizontalHeader()->setSortIndicatorShown(true);
+    horizontalHeader()->setSortIndicator(column, sorted ? rows_.sortOrder() : ownOrder);
+}
+
+/// The current row stays in sight, wherever it goes.
+void ListTable::sortRows(int column, Qt::SortOrder order)
+{
+    if (arranging_) return;
+    rows_.sort(column, order);
+    if (currentIndex().isValid()) scrollTo(currentIndex(), PositionAtCenter);
 }
 
 /// The last column takes what the others leave, and at least what it needs itself.

@@ -41,6 +41,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void markOrder();
+    void sortRows(int column, Qt::SortOrder order);
     QString widthsKey() const;
     int firstWidth(int column) const;
     void rememberWidths();

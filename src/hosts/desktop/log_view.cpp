@@ -19,6 +19,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <charconv>
 #include <string_view>
 
 namespace {
@@ -28,6 +29,16 @@ constexpr const char* splitterKey = "window/logSplitter";
 constexpr std::string_view errorLevel = "0";
 constexpr std::string_view warningLevel = "1";
 constexpr int longestTip = 160; ///< characters of a trace
+
+/// 0 for a text that is no number.
+int numberIn(std::string_view text)
+{
+    const auto blanks = text.find_first_not_of(' ');
+    if (blanks == text.npos) return 0;
+    int number = 0;
+    std::from_chars(text.data() + blanks, text.data() + text.size(), number);
+    return number;
+}
 
 } // namespace
 
@@ -119,18 +130,14 @@ void LogView::show(ListView& list, const QString& log)
 {
     bookmarks_.reset();
     columns_ = LogColumns::of(list);
-    model_.show(list);
+    // What the person looks for may be in several logs, so that filter and order stay.
+    model_.show(list, filterBar_->filter(codePage_));
     filterBar_->offer(list, model_.decoder());
     table_->listShown();
-    const auto timeOfLine = [&](int line) {
-        // Line n is the n-th row, unless rows came in another order than their numbers.
-        const int row = line - 1;
-        return lineOfRow(row) == line ? model_.text(row, columns_.timeStamp) : QString();
-    };
-    bookmarks_.emplace(settings_, log, timeOfLine);
+    bookmarks_.emplace(settings_, log, [this](int line) { return timeOfLine(line); });
     showBookmarks();
     // The log that was left last is taken up again where it was left.
-    table_->goTo(log == log_ ? std::clamp(line_ - 1, 0, std::max(0, model_.rowCount() - 1)) : 0);
+    table_->goTo(log == log_ ? rowOfLine(line_) : 0);
     log_ = log;
     details_->show(model_, table_->currentIndex().row());
 }
@@ -152,7 +159,33 @@ void LogView::renewHeaders()
 
 int LogView::lineOfRow(int row) const
 {
-    return model_.text(row, columns_.number).toInt();
+    return numberIn(model_.bytes(row, columns_.number));
+}
+
+/// The row of a line; of one that is not on show, that of the nearest line before it, or else the
+/// first row.
+int LogView::rowOfLine(int line) const
+{
+    int nearest = 0;
+    int found = 0;
+    for (int row = 0; row < model_.rowCount(); ++row) {
+        const int here = lineOfRow(row);
+        if (here > line || here <= nearest) continue;
+        nearest = here;
+        found = row;
+    }
+    return found;
+}
+
+/// The empty text for a line that is not there. Line n is at the n-th place, unless rows came in
+/// another order than their numbers.
+QString LogView::timeOfLine(int line) const
+{
+    ListView& list = *model_.list();
+    if (line < 1 || line > list.itemCount()) return {};
+    const ListItem row = list.shown(line);
+    if (numberIn(row.subItem(columns_.number)) != line) return {};
+    return model_.decoder().text(row.subItem(columns_.timeStamp));
 }
 
 QVariant LogView::decoration(int row, int column, int role) const

@@ -71,6 +71,8 @@ private:
     Severity severityOfRow(int row) const;
     QVariant decoration(int row, int column, int role) const;
     int lineOfRow(int row) const;
+    int rowOfLine(int line) const;
+    QString timeOfLine(int line) const;
     void endFind();
     void filterChanged();
     void rowsChanged();

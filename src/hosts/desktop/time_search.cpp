@@ -1,6 +1,7 @@
 #include "hosts/desktop/time_search.h"
 
 #include "hosts/desktop/list_model.h"
+#include "platform/list_view.h"
 #include "runtime/dates.h"
 #include "runtime/run_time_error.h"
 
@@ -55,17 +56,19 @@ std::optional<std::string> typedTime(std::string_view text)
 
 int rowAtTime(const ListModel& rows, int timeColumn, std::string_view time, int from)
 {
-    int firstMatch = -1;
+    if (!rows.list()) return -1;
+    const auto current = rows.placeOfRow(from);
+    std::uint32_t firstMatch = 0;
     std::string_view before;
-    const int count = rows.rowCount();
-    for (int row = 0; row < count; ++row) {
-        const auto now = timeOfDay(rows.bytes(row, timeColumn));
+    for (const auto place : rows.placesInOrder()) {
+        const ListItem line = rows.list()->shown(static_cast<int>(place));
+        const auto now = timeOfDay(line.subItem(timeColumn));
         if (now.empty()) continue;
         const bool reached = now >= time && (before.empty() || before < time || before > now);
         before = now;
         if (!reached) continue;
-        if (row > from) return row;
-        if (firstMatch < 0) firstMatch = row;
+        if (place > current) return rows.rowOfPlace(place);
+        if (firstMatch == 0) firstMatch = place;
     }
-    return firstMatch;
+    return firstMatch == 0 ? -1 : rows.rowOfPlace(firstMatch);
 }

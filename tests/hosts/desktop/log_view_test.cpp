@@ -125,14 +125,6 @@ TEST(LogView, ShowsOrHidesAComponentOfItsRows)
     EXPECT_EQ(all, log.model().rowCount());
 }
 
-TEST(LogView, StartsWithoutAFilterWhenAnotherLogIsShown)
-{
-    OpenLog shown;
-    shown.log().filterBar().tick(5, "RuleEngine", false);
-    shown.showLog("KoNotify");
-    EXPECT_EQ(shown.shownList().itemCount(), shown.log().model().rowCount());
-}
-
 TEST(LogView, GoesToATimeAndSaysWhenThereIsNone)
 {
     OpenLog shown;
