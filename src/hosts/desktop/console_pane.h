@@ -76,7 +76,7 @@ signals:
     /// The tool's text for the status bar; to be painted at once.
     void statusText(const QString& text);
     void said(const QString& sentence);
-    void failed(const Sentence& sentence);
+    void failed(const LiveSentence& sentence);
     void viewChanged();
     void callDone();
     void helpAsked(int topic);

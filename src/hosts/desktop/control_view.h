@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hosts/desktop/interface_language.h"
 #include "platform/control.h"
 
 #include <QFont>
@@ -37,6 +38,13 @@ public:
     /// Shows the control's state now.
     void showState();
 
+    /// Takes what the person has begun to type. False where that is no value: then the control
+    /// shows the last good one, and has said so.
+    virtual bool finishEditing() { return true; }
+
+    /// Says in a sentence what was not done; an empty one has nothing more to say.
+    std::function<void(const LiveSentence& sentence)> onSaid;
+
     /// Runs behind each showing.
     std::function<void()> onShown;
 
@@ -47,6 +55,10 @@ protected:
     virtual void noted() {}
 
     void act(const std::function<void()>& what);
+    void say(const LiveSentence& sentence)
+    {
+        if (onSaid) onSaid(sentence);
+    }
     bool rendering() const { return rendering_; }
 
 private:

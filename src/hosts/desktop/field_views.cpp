@@ -1,9 +1,9 @@
 #include "hosts/desktop/field_views.h"
 
+#include "hosts/desktop/moment_field.h"
 #include "hosts/desktop/roomy_delegate.h"
 
 #include <QComboBox>
-#include <QDateTimeEdit>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -127,21 +127,46 @@ void ListBoxView::render()
 }
 
 PickerView::PickerView(DateTimePicker& picker, QWidget* parent, const ActOnControl& act)
-    : ControlView(picker, new QDateTimeEdit(parent), act), model_(picker),
-      edit_(static_cast<QDateTimeEdit*>(widget()))
+    : ControlView(picker,
+                  new MomentField(picker.kind() == PickerKind::date ? MomentField::Part::date
+                                                                    : MomentField::Part::time,
+                                  parent),
+                  act),
+      model_(picker), field_(static_cast<MomentField*>(widget()))
 {
     const bool date = model_.kind() == PickerKind::date;
-    // A clock without a summer time: the hours that this machine leaves out may be the server's.
-    edit_->setTimeSpec(Qt::UTC);
-    // Qt's own range is that of this machine's time zone.
-    edit_->setDateTimeRange(QDateTime(QDate(100, 1, 1), QTime(0, 0), Qt::UTC),
-                            QDateTime(QDate(9999, 12, 31), QTime(23, 59, 59), Qt::UTC));
-    edit_->setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
-    edit_->setDisplayFormat(date ? QStringLiteral("M/d/yyyy") : QStringLiteral("h:mm:ss AP"));
-    edit_->setCalendarPopup(date);
-    edit_->setAccessibleName(date ? QObject::tr("Date") : QObject::tr("Time"));
-    connect(edit_, &QDateTimeEdit::dateTimeChanged, this, [this] {
-        if (!rendering()) ControlView::act([this] { model_.setByPerson(picked()); });
+    field_->setAccessibleName(date ? QObject::tr("Date") : QObject::tr("Time"));
+    connect(field_, &MomentField::picked, this, &PickerView::take);
+    connect(field_, &MomentField::refused, this, [this, date](const QString& text) {
+        const QString kept = field_->textOf(field_->date(), field_->time());
+        say([date, text, kept] {
+            return date ? QObject::tr("\"%1\" is not a date, so %2 stays. Type a date as it is "
+                                      "written there.")
+                              .arg(text, kept)
+                        : QObject::tr("\"%1\" is not a time, so %2 stays. Type a time as it is "
+                                      "written there.")
+                              .arg(text, kept);
+        });
+    });
+}
+
+bool PickerView::finishEditing()
+{
+    return field_->finishEditing();
+}
+
+/// Gives the page what was picked, and says when the page makes something else of it.
+void PickerView::take()
+{
+    if (rendering()) return;
+    const QString wanted = field_->textOf(field_->date(), field_->time());
+    say({});
+    ControlView::act([this] { model_.setByPerson(picked()); });
+    showState();
+    const QString shown = field_->textOf(field_->date(), field_->time());
+    if (shown == wanted) return;
+    say([wanted, shown] {
+        return QObject::tr("%1 can't be chosen here. The field now holds %2.").arg(wanted, shown);
     });
 }
 
@@ -149,8 +174,8 @@ PickerView::PickerView(DateTimePicker& picker, QWidget* parent, const ActOnContr
 Date PickerView::picked() const
 {
     const DateParts held = partsOf(model_.value());
-    const QDate day = edit_->date();
-    const QTime time = edit_->time();
+    const QDate day = field_->date();
+    const QTime time = field_->time();
     if (model_.kind() == PickerKind::date)
         return dateOf(day.year(), day.month(), day.day(), held.hour, held.minute, held.second);
     return dateOf(held.year, held.month, held.day, time.hour(), time.minute(), time.second());
@@ -159,9 +184,10 @@ Date PickerView::picked() const
 void PickerView::render()
 {
     const DateParts value = partsOf(model_.value());
-    const QDateTime shown(QDate(value.year, value.month, value.day),
-                          QTime(value.hour, value.minute, value.second), Qt::UTC);
-    if (shown != edit_->dateTime()) edit_->setDateTime(shown);
+    const QDate day(value.year, value.month, value.day);
+    const QTime time(value.hour, value.minute, value.second);
+    // What the person is typing stays while the value is the one that was there before.
+    if (day != field_->date() || time != field_->time()) field_->show(day, time);
 }
 
 SpinView::SpinView(SpinControl& spin, QWidget* parent, const ActOnControl& act)

@@ -3,8 +3,8 @@
 #include "hosts/desktop/control_view.h"
 #include "platform/controls.h"
 
+class MomentField;
 class QComboBox;
-class QDateTimeEdit;
 class QLineEdit;
 class QListWidget;
 class QToolButton;
@@ -49,12 +49,15 @@ class PickerView final : public ControlView {
 public:
     PickerView(DateTimePicker& picker, QWidget* parent, const ActOnControl& act);
 
+    bool finishEditing() override;
+
 private:
     void render() override;
+    void take();
     Date picked() const;
 
     DateTimePicker& model_;
-    QDateTimeEdit* edit_;
+    MomentField* field_;
 };
 
 /// Two arrows.

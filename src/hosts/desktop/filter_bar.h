@@ -63,6 +63,6 @@ private:
     QLineEdit* text_ = nullptr;
     QCheckBox* excludeText_ = nullptr;
     QLabel* counts_ = nullptr;
-    Sentence counted_;
+    LiveSentence counted_;
     QTimer typing_; ///< runs while the person types on
 };

@@ -135,7 +135,7 @@ void FindBar::showHits(int current, int count)
     });
 }
 
-void FindBar::say(Sentence sentence)
+void FindBar::say(LiveSentence sentence)
 {
     counted_ = std::move(sentence);
     count_->setText(counted_());

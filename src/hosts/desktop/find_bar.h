@@ -24,7 +24,7 @@ public:
     void showHits(int current, int count);
 
     /// Says a sentence in the place of the count.
-    void say(Sentence sentence);
+    void say(LiveSentence sentence);
 
 signals:
     void textChanged(const QString& text);
@@ -43,7 +43,7 @@ private:
     QLineEdit* text_ = nullptr;
     QLineEdit* time_ = nullptr;
     QLabel* count_ = nullptr;
-    Sentence counted_;     ///< what stands in the place of the count
+    LiveSentence counted_;     ///< what stands in the place of the count
     QList<QWidget*> findPart_; ///< what serves to find, and to go to a time
     QList<QWidget*> timePart_;
     bool timeWanted_ = false;

@@ -9,7 +9,7 @@
 class QWidget;
 
 /// A sentence in the interface language of the moment in which it is asked for.
-using Sentence = std::function<QString()>;
+using LiveSentence = std::function<QString()>;
 
 /// Runs `show` now, and again at each change of the interface language while `widget` lives.
 void showInLanguage(QWidget* widget, std::function<void()> show);

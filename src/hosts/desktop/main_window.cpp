@@ -205,7 +205,7 @@ void MainWindow::sayLanguage()
     if (!languageProblem().isEmpty()) showProblem([this] { return languageProblem(); });
 }
 
-void MainWindow::showProblem(Sentence sentence)
+void MainWindow::showProblem(LiveSentence sentence)
 {
     notice_->say(std::move(sentence));
 }

@@ -31,7 +31,7 @@ public:
     void setTool(OpenTool* tool);
 
     /// Says in a sentence what went wrong and what to do about it.
-    void showProblem(Sentence sentence);
+    void showProblem(LiveSentence sentence);
     QString problem() const;
 
     /// Null while no tool is open.

@@ -33,7 +33,7 @@ NoticeBar::NoticeBar(QWidget* parent) : QWidget(parent), text_(new QLabel(this))
     });
 }
 
-void NoticeBar::say(Sentence sentence)
+void NoticeBar::say(LiveSentence sentence)
 {
     said_ = std::move(sentence);
     show();

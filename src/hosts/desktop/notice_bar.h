@@ -14,7 +14,7 @@ class NoticeBar final : public QWidget {
 public:
     explicit NoticeBar(QWidget* parent = nullptr);
 
-    void say(Sentence sentence);
+    void say(LiveSentence sentence);
     QString sentence() const;
 
     /// Asks for the sentence on show again; an empty one takes the strip away.
@@ -24,6 +24,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    Sentence said_;
+    LiveSentence said_;
     QLabel* text_ = nullptr;
 };

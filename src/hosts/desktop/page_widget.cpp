@@ -34,7 +34,11 @@ PageWidget::PageWidget(SheetPage& page, bool banner, QStringList taken, const Ac
 {
     for (const PageControl& declared : page_.controls()) {
         views_.push_back(makeControlView(declared, this, act));
-        if (views_.back()) views_.back()->onShown = [this] { markLetters(); };
+        if (!views_.back()) continue;
+        views_.back()->onShown = [this] { markLetters(); };
+        views_.back()->onSaid = [this](const LiveSentence& sentence) {
+            if (onSaid) onSaid(sentence);
+        };
     }
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
@@ -209,6 +213,16 @@ void PageWidget::markLetters()
         at += count;
     }
     marking_ = false;
+}
+
+bool PageWidget::finishEditing()
+{
+    for (const auto& view : views_) {
+        if (!view || view->finishEditing()) continue;
+        view->focusTarget()->setFocus(Qt::OtherFocusReason);
+        return false;
+    }
+    return true;
 }
 
 bool PageWidget::focusFirst()

@@ -24,6 +24,13 @@ public:
     /// Shows all controls as they stand.
     void showState();
 
+    /// Takes what the person has begun to type. False where that is no value: then its control,
+    /// which has said so, has the focus.
+    bool finishEditing();
+
+    /// Says in a sentence what was not done; an empty one has nothing more to say.
+    std::function<void(const LiveSentence& sentence)> onSaid;
+
     /// Puts the focus on the first control that takes it; false when there is none.
     bool focusFirst();
 

@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-Sentence notOpened(const std::string& folder, const Sentence& why)
+LiveSentence notOpened(const std::string& folder, const LiveSentence& why)
 {
     return [folder = QString::fromStdString(folder), why] {
         return QObject::tr(
@@ -21,7 +21,7 @@ Sentence notOpened(const std::string& folder, const Sentence& why)
     };
 }
 
-Sentence as(const std::string& text)
+LiveSentence as(const std::string& text)
 {
     return [text = QString::fromStdString(text)] { return text; };
 }
@@ -66,7 +66,7 @@ void Program::openSite(const std::string& folder)
     } catch (const RunTimeError& error) {
         return window_.showProblem(notOpened(folder, as(error.description())));
     }
-    const Sentence failure = letGo();
+    const LiveSentence failure = letGo();
     tool_ = std::move(opened);
     rememberSite(settings_, QString::fromStdString(tool_->site().folder()));
     window_.setTool(tool_.get());
@@ -109,11 +109,11 @@ void Program::openDefault(const std::string& folder)
 
 void Program::close()
 {
-    if (const Sentence failure = letGo()) window_.showProblem(failure);
+    if (const LiveSentence failure = letGo()) window_.showProblem(failure);
 }
 
 /// The failure, if there was one, as a sentence; else none.
-Sentence Program::letGo()
+LiveSentence Program::letGo()
 {
     window_.setTool(nullptr);
     if (!tool_) return {};

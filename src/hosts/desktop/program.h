@@ -38,7 +38,7 @@ public:
     DesktopServices& desktop() { return desktop_; }
 
 private:
-    Sentence letGo();
+    LiveSentence letGo();
 
     QSettings& settings_;
     std::string installedData_;

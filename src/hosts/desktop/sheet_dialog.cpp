@@ -60,7 +60,10 @@ SheetDialog::SheetDialog(std::shared_ptr<OpenSheet> sheet, QWidget* parent)
     sheet_->observe(this);
     connect(tabs_, &QTabBar::currentChanged, this, [this](int tab) {
         if (sheet_->plainSheet() && tab + 1 != sheet_->currentPlace())
-            act([&] { sheet_->plainSheet()->selectPage(tab + 1); });
+            act([&] {
+                if (finishEditing()) sheet_->plainSheet()->selectPage(tab + 1);
+                tabs_->setCurrentIndex(sheet_->currentPlace() - 1);
+            });
     });
     showPage();
     resizeWithinScreen(*this,
@@ -87,22 +90,42 @@ void SheetDialog::makeButtons()
         row->addWidget(made);
         return made;
     };
+    // What is typed counts before a page is left or applied.
+    const auto addTaking = [&](const QString& text, auto&& press) {
+        return add(text, [this, press] {
+            if (finishEditing()) press();
+        });
+    };
     help_ = add(tr("Help"), [this] { sheet_->help(); });
     row->addStretch(1);
     if (WizardSheet* wizard = sheet_->wizard()) {
-        back_ = add(wizardCaptions()[0], [wizard] { wizard->back(); });
-        next_ = add(wizardCaptions()[1], [wizard] { wizard->next(); });
-        finish_ = add(wizardCaptions()[2], [wizard] { wizard->finish(); });
+        back_ = addTaking(wizardCaptions()[0], [wizard] { wizard->back(); });
+        next_ = addTaking(wizardCaptions()[1], [wizard] { wizard->next(); });
+        finish_ = addTaking(wizardCaptions()[2], [wizard] { wizard->finish(); });
         row->addSpacing(8);
     } else {
-        ok_ = add(tr("OK"), [this] { sheet_->plainSheet()->ok(); });
+        ok_ = addTaking(tr("OK"), [this] { sheet_->plainSheet()->ok(); });
     }
     cancel_ = add(tr("Cancel"), [this] { sheet_->cancel(); });
     if (sheet_->plainSheet()) {
-        apply_ = add(plainCaptions()[0], [this] { sheet_->plainSheet()->apply(); });
+        apply_ = addTaking(plainCaptions()[0], [this] { sheet_->plainSheet()->apply(); });
         ok_->setDefault(true);
     }
     static_cast<QVBoxLayout*>(layout())->addLayout(row);
+}
+
+void SheetDialog::say(const LiveSentence& sentence)
+{
+    if (sentence)
+        notice_->say(sentence);
+    else
+        notice_->hide();
+}
+
+bool SheetDialog::finishEditing()
+{
+    const auto page = shown_.find(sheet_->currentPlace());
+    return page == shown_.end() || page->second->finishEditing();
 }
 
 void SheetDialog::act(const std::function<void()>& what)
@@ -134,9 +157,12 @@ void SheetDialog::showPage()
         page = new PageWidget(
             sheet_->page(place), wizard, wizard ? wizardCaptions() : plainCaptions(),
             [this](const std::function<void()>& what) { act(what); }, pages_);
+        page->onSaid = [this](const LiveSentence& sentence) { say(sentence); };
         pages_->addWidget(page);
     }
     page->showState();
+    // What was said belongs to the page that is left.
+    if (pages_->currentWidget() != page) say({});
     pages_->setCurrentWidget(page);
     tabs_->setCurrentIndex(place - 1);
     setWindowTitle(QString::fromStdString(sheet_->pageTitle(place)));

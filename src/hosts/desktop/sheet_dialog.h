@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hosts/desktop/interface_language.h"
 #include "platform/open_sheet.h"
 
 #include <QDialog>
@@ -27,6 +28,10 @@ public:
 
     OpenSheet& sheet() { return *sheet_; }
 
+    /// Says in a sentence above the page what was not done, until another page comes; a null one
+    /// has nothing more to say.
+    void say(const LiveSentence& sentence);
+
     /// Escape and the window's own cross: asks the pages, as Cancel does.
     void reject() override;
 
@@ -48,6 +53,7 @@ private:
     void makeButtons();
     void showPage();
     void showButtons();
+    bool finishEditing();
     void act(const std::function<void()>& what);
     void runTimers();
 

@@ -1,10 +1,10 @@
 #include "hosts/desktop/page_widget.h"
 
 #include "hosts/desktop/every_kind_page.h"
+#include "hosts/desktop/moment_field.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateTimeEdit>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,6 +20,14 @@
 #include <set>
 
 namespace {
+
+/// Types over what is in a field, and ends with Enter.
+void typeInto(MomentField& field, const char* text)
+{
+    field.selectAll();
+    QTest::keyClicks(&field, text);
+    QTest::keyClick(&field, Qt::Key_Return);
+}
 
 TEST(ControlWidgets, EveryKindShowsItsStateAndCarriesThePersonsActionsBack)
 {
@@ -149,13 +157,13 @@ TEST(ControlWidgets, TypingInTheMiddleOfAChoiceStaysThere)
 TEST(ControlWidgets, APickerKeepsTheOtherPartOfItsMoment)
 {
     ShownSheet<WizardSheet> shown;
-    const auto pickers = shown.dialog->findChildren<QDateTimeEdit*>();
+    const auto pickers = shown.dialog->findChildren<MomentField*>();
     ASSERT_EQ(2, pickers.size());
     EXPECT_EQ(QStringLiteral("2/20/2025"), pickers[0]->text());
     EXPECT_EQ(QStringLiteral("5:42:05 PM"), pickers[1]->text());
-    pickers[0]->setDate(QDate(2025, 2, 19));
+    typeInto(*pickers[0], "2/19/2025");
     EXPECT_EQ("2025-02-19 17:42:05", sortableDateTime(shown.page().date.value()));
-    pickers[1]->setTime(QTime(8, 1, 0));
+    typeInto(*pickers[1], "8:01:00 AM");
     EXPECT_EQ("2025-02-20 08:01:00", sortableDateTime(shown.page().time.value()));
 }
 
@@ -165,18 +173,17 @@ TEST(ControlWidgets, APickerKnowsTheHourThatTheMachinesOwnClockLeavesOut)
     tzset();
     {
         ShownSheet<WizardSheet> shown;
-        const auto pickers = shown.dialog->findChildren<QDateTimeEdit*>();
+        const auto pickers = shown.dialog->findChildren<MomentField*>();
         ASSERT_EQ(2, pickers.size());
         shown.page().time.setValue(dateOf(2025, 3, 9, 2, 30, 0));
         settle();
         EXPECT_EQ(QStringLiteral("2:30:00 AM"), pickers[1]->text());
-        pickers[1]->setTime(QTime(2, 15, 0));
+        typeInto(*pickers[1], "2:15:00 AM");
         EXPECT_EQ("2025-03-09 02:15:00", sortableDateTime(shown.page().time.value()))
             << "the server has a time zone of its own";
-        for (const QTime end : {QTime(0, 0, 0), QTime(23, 59, 59)}) {
-            pickers[1]->setTime(end);
-            EXPECT_EQ("2025-03-09 " + end.toString("HH:mm:ss").toStdString(),
-                      sortableDateTime(shown.page().time.value()));
+        for (const std::string end : {"00:00:00", "23:59:59"}) {
+            typeInto(*pickers[1], end.c_str());
+            EXPECT_EQ("2025-03-09 " + end, sortableDateTime(shown.page().time.value()));
         }
     }
     qunsetenv("TZ");

@@ -4,7 +4,6 @@
 #include "hosts/desktop/sheet_dialog.h"
 
 #include <QAbstractButton>
-#include <QDateTimeEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -77,8 +76,8 @@ struct GatherAtWork : testing::Test {
         begin();
         person::clickButton(shown.sheet(), "Process logs over specified time frame");
         person::clickButton(shown.sheet(), "Next >");
-        for (auto* edit : shown.sheet().findChildren<QDateTimeEdit*>())
-            edit->setDateTime(QDateTime(QDate(2025, 2, 17), QTime(0, 0)));
+        person::typeInto(OpenProgram::picker(shown.sheet(), MomentField::Part::date), "2/17/2025");
+        person::typeInto(OpenProgram::picker(shown.sheet(), MomentField::Part::time), "0:00:00");
         person::click(OpenProgram::field(shown.sheet(), "Duration (Hours):"));
         person::press(Qt::Key_Home);
         person::press(Qt::Key_Delete);

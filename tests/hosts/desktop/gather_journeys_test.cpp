@@ -6,7 +6,6 @@
 #include "hosts/desktop/sheet_dialog.h"
 
 #include <QAbstractButton>
-#include <QDateTimeEdit>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTreeView>
@@ -151,14 +150,8 @@ TEST_F(GatherJourney, ATimeFrameMakesADatabaseAndACabinetThatOthersCanRead)
     begin();
     person::clickButton(shown.sheet(), "Process logs over specified time frame");
     person::clickButton(shown.sheet(), "Next >");
-    QDateTimeEdit* date = nullptr;
-    QDateTimeEdit* time = nullptr;
-    for (auto* edit : shown.sheet().findChildren<QDateTimeEdit*>())
-        (edit->accessibleName() == "Start Time:" || !date ? date : time) = edit;
-    ASSERT_NE(nullptr, date);
-    ASSERT_NE(nullptr, time);
-    date->setDate(QDate(2025, 2, 18));
-    time->setTime(QTime(8, 0));
+    person::typeInto(OpenProgram::picker(shown.sheet(), MomentField::Part::date), "2/18/2025");
+    person::typeInto(OpenProgram::picker(shown.sheet(), MomentField::Part::time), "8:00 AM");
     auto& hours = OpenProgram::field(shown.sheet(), "Duration (Hours):");
     person::click(hours);
     person::press(Qt::Key_Home);

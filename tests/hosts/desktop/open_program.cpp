@@ -53,6 +53,13 @@ void OpenProgram::showLog(const std::string& process)
     settle();
 }
 
+MomentField& OpenProgram::picker(const QWidget& inside, MomentField::Part part)
+{
+    for (auto* field : inside.findChildren<MomentField*>())
+        if (field->isVisible() && field->part() == part) return *field;
+    throw std::runtime_error("the page asks for no date and time");
+}
+
 QLineEdit& OpenProgram::field(const QWidget& inside, const char* accessibleName)
 {
     for (auto* edit : inside.findChildren<QLineEdit*>())

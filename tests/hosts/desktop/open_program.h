@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hosts/desktop/moment_field.h"
 #include "hosts/desktop/program.h"
 #include "hosts/desktop/test_window.h"
 
@@ -24,6 +25,9 @@ struct OpenProgram {
 
     /// Shows the current log of a process.
     void showLog(const std::string& process);
+
+    /// The field of the page on show for a date or for a time. Raises std::runtime_error.
+    static MomentField& picker(const QWidget& inside, MomentField::Part part);
 
     /// A field of a bar or a page by its accessible name. Raises std::runtime_error.
     static QLineEdit& field(const QWidget& inside, const char* accessibleName);

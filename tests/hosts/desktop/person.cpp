@@ -3,6 +3,7 @@
 #include "hosts/desktop/test_window.h"
 
 #include <QAbstractButton>
+#include <QClipboard>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -19,7 +20,8 @@
 
 namespace {
 
-constexpr int lookAgain = 5; ///< milliseconds before another look for a window
+constexpr int fieldStart = 12; ///< pixels from a field's edge to its text
+constexpr int lookAgain = 5;   ///< milliseconds before another look for a window
 
 /// How often a person has left: what one was waiting for then is no concern of the next one.
 int visits = 0;
@@ -94,6 +96,21 @@ void person::type(const QString& text)
 {
     for (const QChar letter : text) QTest::keyClick(&focusWindow(), letter.toLatin1());
     settle();
+}
+
+void person::typeInto(QWidget& field, const QString& text)
+{
+    click(field, {fieldStart, field.height() / 2});
+    press(QKeySequence(QStringLiteral("Ctrl+A")));
+    type(text);
+}
+
+void person::pasteInto(QWidget& field, const QString& text)
+{
+    click(field, {fieldStart, field.height() / 2});
+    press(QKeySequence(QStringLiteral("Ctrl+A")));
+    QGuiApplication::clipboard()->setText(text);
+    press(QKeySequence(QStringLiteral("Ctrl+V")));
 }
 
 void person::click(QWidget& widget, const QPoint& place)

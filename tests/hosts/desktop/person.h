@@ -22,6 +22,10 @@ namespace person {
 void press(const QKeySequence& keys);
 void type(const QString& text);
 
+/// Clicks a field and types over what is in it, or pastes a text over it.
+void typeInto(QWidget& field, const QString& text);
+void pasteInto(QWidget& field, const QString& text);
+
 /// Clicks the middle of a widget, or a place in it.
 void click(QWidget& widget);
 void click(QWidget& widget, const QPoint& place);

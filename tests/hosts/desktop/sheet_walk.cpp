@@ -1,10 +1,10 @@
 #include "hosts/desktop/sheet_walk.h"
 
+#include "hosts/desktop/moment_field.h"
 #include "hosts/desktop/sheet_dialog.h"
 #include "platform/wizard_sheet.h"
 
 #include <QAction>
-#include <QDateTimeEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -108,10 +108,13 @@ void SheetWalk::tickALeaf()
 
 void SheetWalk::setStart(const QDateTime& start)
 {
-    const auto pickers = onShow<QDateTimeEdit>(dialog());
+    const auto pickers = onShow<MomentField>(dialog());
     if (pickers.size() != 2) throw std::runtime_error("the page asks for no date and time");
-    pickers[0]->setDate(start.date());
-    pickers[1]->setTime(start.time());
+    for (auto* field : pickers) {
+        field->selectAll();
+        QTest::keyClicks(field, field->textOf(start.date(), start.time()));
+        if (!field->finishEditing()) throw std::runtime_error("no date or time was understood");
+    }
     settle();
 }
 

@@ -708,6 +708,30 @@ Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
     </message>
 </context>
 <context>
+    <name>MomentField</name>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>Pick a day from a calendar (F4)</source>
+        <translation>Einen Tag aus einem Kalender wählen (F4)</translation>
+    </message>
+    <message>
+        <source>M/d/yyyy</source>
+        <translation>dd.MM.yyyy</translation>
+    </message>
+    <message>
+        <source>h:mm:ss AP</source>
+        <translation>HH:mm:ss</translation>
+    </message>
+    <message>
+        <source>en_US</source>
+        <extracomment>The language and country by which a calendar names its days.</extracomment>
+        <translation>de_DE</translation>
+    </message>
+</context>
+<context>
     <name>NoticeBar</name>
     <message>
         <source>Close this notice</source>
@@ -775,6 +799,18 @@ Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
     <message>
         <source>Choices</source>
         <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date, so %2 stays. Type a date as it is written there.</source>
+        <translation>„%1“ ist kein Datum, deshalb bleibt es bei %2. Geben Sie ein Datum in dieser Schreibweise ein.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time, so %2 stays. Type a time as it is written there.</source>
+        <translation>„%1“ ist keine Uhrzeit, deshalb bleibt es bei %2. Geben Sie eine Uhrzeit in dieser Schreibweise ein.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be chosen here. The field now holds %2.</source>
+        <translation>%1 kann hier nicht gewählt werden. Im Feld steht jetzt %2.</translation>
     </message>
 </context>
 <context>

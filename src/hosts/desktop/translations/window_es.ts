@@ -708,6 +708,30 @@ Abra uno con Control+Mayúsculas+O o cree un servidor de ejemplo con Control+May
     </message>
 </context>
 <context>
+    <name>MomentField</name>
+    <message>
+        <source>Calendar</source>
+        <translation>Calendario</translation>
+    </message>
+    <message>
+        <source>Pick a day from a calendar (F4)</source>
+        <translation>Elegir un día en un calendario (F4)</translation>
+    </message>
+    <message>
+        <source>M/d/yyyy</source>
+        <translation>d/M/yyyy</translation>
+    </message>
+    <message>
+        <source>h:mm:ss AP</source>
+        <translation>H:mm:ss</translation>
+    </message>
+    <message>
+        <source>en_US</source>
+        <extracomment>The language and country by which a calendar names its days.</extracomment>
+        <translation>es_ES</translation>
+    </message>
+</context>
+<context>
     <name>NoticeBar</name>
     <message>
         <source>Close this notice</source>
@@ -775,6 +799,18 @@ Abra uno con Control+Mayúsculas+O o cree un servidor de ejemplo con Control+May
     <message>
         <source>Choices</source>
         <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date, so %2 stays. Type a date as it is written there.</source>
+        <translation>«%1» no es una fecha, así que se mantiene %2. Escriba la fecha con ese formato.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time, so %2 stays. Type a time as it is written there.</source>
+        <translation>«%1» no es una hora, así que se mantiene %2. Escriba la hora con ese formato.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be chosen here. The field now holds %2.</source>
+        <translation>%1 no se puede elegir aquí. El campo contiene ahora %2.</translation>
     </message>
 </context>
 <context>

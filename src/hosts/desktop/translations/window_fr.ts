@@ -708,6 +708,30 @@ Ouvrez-en un avec Ctrl+Maj+O, ou créez un serveur d&apos;exemple avec Ctrl+Maj+
     </message>
 </context>
 <context>
+    <name>MomentField</name>
+    <message>
+        <source>Calendar</source>
+        <translation>Calendrier</translation>
+    </message>
+    <message>
+        <source>Pick a day from a calendar (F4)</source>
+        <translation>Choisir un jour dans un calendrier (F4)</translation>
+    </message>
+    <message>
+        <source>M/d/yyyy</source>
+        <translation>dd/MM/yyyy</translation>
+    </message>
+    <message>
+        <source>h:mm:ss AP</source>
+        <translation>HH:mm:ss</translation>
+    </message>
+    <message>
+        <source>en_US</source>
+        <extracomment>The language and country by which a calendar names its days.</extracomment>
+        <translation>fr_FR</translation>
+    </message>
+</context>
+<context>
     <name>NoticeBar</name>
     <message>
         <source>Close this notice</source>
@@ -775,6 +799,18 @@ Ouvrez-en un avec Ctrl+Maj+O, ou créez un serveur d&apos;exemple avec Ctrl+Maj+
     <message>
         <source>Choices</source>
         <translation>Choix</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date, so %2 stays. Type a date as it is written there.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une date, %2 est donc conservé. Saisissez une date sous cette forme.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time, so %2 stays. Type a time as it is written there.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une heure, %2 est donc conservé. Saisissez une heure sous cette forme.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be chosen here. The field now holds %2.</source>
+        <translation>%1 ne peut pas être choisi ici. Le champ contient maintenant %2.</translation>
     </message>
 </context>
 <context>

@@ -708,6 +708,30 @@ Ctrl+Shift+O でサイトを開くか、Ctrl+Shift+N でサンプル サーバ�
     </message>
 </context>
 <context>
+    <name>MomentField</name>
+    <message>
+        <source>Calendar</source>
+        <translation>カレンダー</translation>
+    </message>
+    <message>
+        <source>Pick a day from a calendar (F4)</source>
+        <translation>カレンダーから日を選択します (F4)</translation>
+    </message>
+    <message>
+        <source>M/d/yyyy</source>
+        <translation>yyyy/MM/dd</translation>
+    </message>
+    <message>
+        <source>h:mm:ss AP</source>
+        <translation>H:mm:ss</translation>
+    </message>
+    <message>
+        <source>en_US</source>
+        <extracomment>The language and country by which a calendar names its days.</extracomment>
+        <translation>ja_JP</translation>
+    </message>
+</context>
+<context>
     <name>NoticeBar</name>
     <message>
         <source>Close this notice</source>
@@ -775,6 +799,18 @@ Ctrl+Shift+O でサイトを開くか、Ctrl+Shift+N でサンプル サーバ�
     <message>
         <source>Choices</source>
         <translation>選択肢</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date, so %2 stays. Type a date as it is written there.</source>
+        <translation>「%1」は日付ではないため、%2 のままです。同じ形式で日付を入力してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time, so %2 stays. Type a time as it is written there.</source>
+        <translation>「%1」は時刻ではないため、%2 のままです。同じ形式で時刻を入力してください。</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be chosen here. The field now holds %2.</source>
+        <translation>%1 はここでは選択できません。現在の値は %2 です。</translation>
     </message>
 </context>
 <context>
