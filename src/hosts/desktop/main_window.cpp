@@ -416,15 +416,29 @@ void MainWindow::showAbout()
     sayLanguage();
 }
 
+void MainWindow::cancelWork()
+{
+    if (pane_->sheet()) pane_->sheet()->reject();
+    // The page at work may be another one than the sheet asked, or its sheet is closed.
+    ToolContext& context = tool_->context();
+    if (pane_->sheetAtWork() && !context.cancelRequested)
+        mdlLogs::cancelCurrentProcess(context, true);
+}
+
+void MainWindow::end()
+{
+    if (pane_) cancelWork();
+    close();
+    // Not by the last window alone: a box may be open, whose own loop ends too.
+    QCoreApplication::exit();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     if (pane_ && pane_->sheetAtWork()) {
         // The work below would go on with controls that have gone.
         closing_ = true;
-        if (pane_->sheet()) pane_->sheet()->reject();
-        // The page at work may be another one than the sheet asked, or its sheet is closed.
-        ToolContext& context = tool_->context();
-        if (!context.cancelRequested) mdlLogs::cancelCurrentProcess(context, true);
+        cancelWork();
         statusBar()->showMessage(tr("The gather is being ended. The window closes in a moment."));
         return event->ignore();
     }

@@ -48,6 +48,10 @@ public:
 
     void run(Command command);
 
+    /// Ends the program without asking: work that runs is cancelled as by its button, a sheet is
+    /// cancelled, boxes go. The event loop ends when the work has come to its end.
+    void end();
+
 signals:
     void siteAsked(const QString& folder);
     void sampleAsked(const QString& folder);
@@ -79,6 +83,7 @@ private:
     void chooseTheme(Command command);
     void changeTextSize(int step);
     bool mayLeaveSite();
+    void cancelWork();
     void pickSite();
     void pickSampleFolder();
     void showKeys();

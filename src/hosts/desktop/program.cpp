@@ -115,8 +115,8 @@ void Program::close()
 /// The failure, if there was one, as a sentence; else none.
 LiveSentence Program::letGo()
 {
-    window_.setTool(nullptr);
     if (!tool_) return {};
+    window_.setTool(nullptr);
     const std::unique_ptr<OpenTool> leaving = std::move(tool_);
     try {
         leaving->close();

@@ -1,6 +1,7 @@
 #include "hosts/desktop/run_console.h"
 
 #include "hosts/desktop/console_options.h"
+#include "hosts/desktop/end_wish.h"
 #include "hosts/desktop/places.h"
 #include "hosts/desktop/program.h"
 #include "hosts/desktop/screenshot.h"
@@ -69,8 +70,12 @@ int run(const ConsoleOptions& options, const std::function<void(Program&)>& open
     if (options.size) program.window().resize(*options.size);
     program.window().show();
     if (!options.screenshot.isEmpty()) takeScreenshot(program.window(), options.screenshot);
+    const EndWish wish([&program] { program.window().end(); });
+    // What unloading puts back is put back however the program ends.
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &program.window(),
+                     [&program] { program.close(); });
     if (opened) opened(program);
-    const int result = QApplication::exec();
+    const int result = wish.made() ? 0 : QApplication::exec();
     program.close();
     // The window has gone, so what it would say goes to the terminal.
     const QString problem = program.window().problem();

@@ -1,0 +1,148 @@
+#include "hosts/desktop/end_wish.h"
+
+#include "hosts/desktop/outside_view.h"
+#include "hosts/desktop/test_window.h"
+
+#include <QProcess>
+#include <QSessionManager>
+
+#include <gmock/gmock.h>
+
+#include <csignal>
+#include <fstream>
+
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+
+constexpr int patience = 60'000; ///< milliseconds
+
+std::string fileText(const fs::path& path)
+{
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+std::ptrdiff_t linesOf(const fs::path& path)
+{
+    const std::string text = fileText(path);
+    return std::count(text.begin(), text.end(), '\n');
+}
+
+/// A server whose event log was left in another language than its first one.
+struct EndedFromOutside : testing::Test {
+    EndedFromOutside()
+    {
+        std::string registry = fileText(server.site() + "/registry.reg");
+        const std::string english = "Messaging\\\\ENU\\\\";
+        for (auto at = registry.find(english); at != registry.npos; at = registry.find(english))
+            registry.replace(at, english.size(), "Messaging\\\\JPN\\\\");
+        registry += "\n[HKEY_LOCAL_MACHINE\\Software\\Kelma Systems\\Kelma Orvan\\"
+                    "OrvanDiagnostics]\n\"OriginalEventLogLanguage\"=\"ENU\"\n";
+        server.folder().write("site/registry.reg", registry);
+    }
+
+    std::string messageFile() const
+    {
+        return OutsideView(server.site())
+            .registryValue("EventLog\\Application\\KoCSMgr", "EventMessageFile");
+    }
+
+    std::ptrdiff_t events() const
+    {
+        return linesOf(server.site() + "/eventlogs/Application.jsonl");
+    }
+
+    /// Starts the window, waits until it is ready, sends it a signal, and waits for its end.
+    void run(const char* what, int signal)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QT_QPA_PLATFORM", "offscreen");
+        environment.insert("XDG_CONFIG_HOME", QString::fromStdString(server.folder() / "config"));
+        process.setProcessEnvironment(environment);
+        process.setProcessChannelMode(QProcess::SeparateChannels);
+        process.start(CONSOLE_TO_END, {what, "--site", QString::fromStdString(server.site())});
+        ASSERT_TRUE(process.waitForStarted());
+        while (!process.canReadLine())
+            ASSERT_TRUE(process.waitForReadyRead(patience))
+                << process.readAllStandardError().data();
+        ASSERT_EQ("ready", process.readLine().trimmed());
+        EXPECT_THAT(messageFile(), HasSubstr("\\JPN\\"));
+        eventsOpen = events();
+        ASSERT_EQ(0, ::kill(static_cast<pid_t>(process.processId()), signal));
+        ASSERT_TRUE(process.waitForFinished(patience));
+    }
+
+    void expectUnloaded()
+    {
+        EXPECT_EQ(QProcess::NormalExit, process.exitStatus());
+        EXPECT_EQ(0, process.exitCode()) << process.readAllStandardError().data();
+        EXPECT_THAT(messageFile(), HasSubstr("\\ENU\\"));
+        EXPECT_EQ(eventsOpen + 1, events()) << "the event of the end";
+    }
+
+    QApplication& application = testApplication();
+    TestServer server{60'000};
+    QProcess process;
+    std::ptrdiff_t eventsOpen = 0;
+};
+
+TEST_F(EndedFromOutside, ASignalPutsBackWhatUnloadingPutsBack)
+{
+    run("idle", SIGTERM);
+    expectUnloaded();
+}
+
+TEST_F(EndedFromOutside, SoDoesTheEndOfTheTerminal)
+{
+    run("idle", SIGHUP);
+    expectUnloaded();
+}
+
+TEST_F(EndedFromOutside, SoDoesOneWhileABoxIsOpen)
+{
+    run("box", SIGTERM);
+    expectUnloaded();
+}
+
+TEST_F(EndedFromOutside, AGatherIsCancelledAndKeepsWhatItRead)
+{
+    run("gather", SIGTERM);
+    expectUnloaded();
+    std::vector<fs::path> copies;
+    for (const auto& entry : fs::recursive_directory_iterator(server.site() + "/drive_c/Temp"))
+        if (entry.path().filename().string().find("_fmtd") != std::string::npos)
+            copies.push_back(entry.path());
+    ASSERT_EQ(1U, copies.size());
+    const auto all = linesOf(server.logs() + "/" + server.currentLog("KoCSMgr"));
+    EXPECT_GT(linesOf(copies.front()), 100);
+    EXPECT_LT(linesOf(copies.front()), all);
+}
+
+TEST_F(EndedFromOutside, ASignalThatWasIgnoredStaysIgnored)
+{
+    const auto before = std::signal(SIGHUP, SIG_IGN);
+    {
+        const EndWish wish([] {});
+        struct sigaction now = {};
+        ::sigaction(SIGHUP, nullptr, &now);
+        EXPECT_EQ(SIG_IGN, now.sa_handler);
+    }
+    std::signal(SIGHUP, before);
+}
+
+TEST(EndWish, HearsOfTheEndOfTheSession)
+{
+    testApplication();
+    int heard = 0;
+    const EndWish wish([&] { ++heard; });
+    EXPECT_FALSE(wish.made());
+    ASSERT_TRUE(QMetaObject::invokeMethod(
+        qApp, "commitDataRequest", Qt::DirectConnection,
+        QGenericArgument("QSessionManager&", static_cast<const void*>(&heard))));
+    EXPECT_EQ(1, heard);
+    EXPECT_TRUE(wish.made());
+}
+
+} // namespace
