@@ -331,6 +331,7 @@ void ConsolePane::sheetShown(OpenSheet& sheet)
     sheet_ = dialog;
     connect(dialog, &SheetDialog::over, this, &ConsolePane::callDone);
     connect(dialog, &SheetDialog::helpAsked, this, &ConsolePane::helpAsked);
+    emit sheetMade(dialog);
     if (!sheet.closed()) dialog->show();
 }
 

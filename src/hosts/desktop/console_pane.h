@@ -80,6 +80,9 @@ signals:
     void viewChanged();
     void callDone();
     void helpAsked(int topic);
+    /// Before the sheet is on show.
+    void sheetMade(SheetDialog* dialog);
+
     void treeMenuAsked(const QPoint& globalPlace);
 
 private:

@@ -53,6 +53,11 @@ void DesktopServices::setManualMissing(std::function<void()> said)
     manualMissing_ = std::move(said);
 }
 
+void DesktopServices::setMessageShown(std::function<void()> shown)
+{
+    messageShown_ = std::move(shown);
+}
+
 void DesktopServices::setManual(std::string folder)
 {
     manual_ = std::move(folder);
@@ -73,6 +78,7 @@ std::string DesktopServices::named(const QString& picked) const
 void DesktopServices::messageBox(const std::string& text, const std::string& title,
                                  MessageIcon icon)
 {
+    if (messageShown_) messageShown_();
     const ArrowPointer arrow;
     QMessageBox box(
         boxIcon(icon), QString::fromStdString(title),

@@ -25,6 +25,9 @@ public:
     /// Called when the manual is asked for and is not there.
     void setManualMissing(std::function<void()> said);
 
+    /// Called before each box.
+    void setMessageShown(std::function<void()> shown);
+
     /// The folder of the manual, on the machine.
     void setManual(std::string folder);
 
@@ -41,6 +44,7 @@ private:
     QPointer<QWidget> window_;
     std::function<std::string(const std::string&)> toolPath_;
     std::function<void()> manualMissing_;
+    std::function<void()> messageShown_;
     std::string manual_;
     std::unique_ptr<HelpWindow> help_;
 };

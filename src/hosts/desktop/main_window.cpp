@@ -91,6 +91,7 @@ void MainWindow::setTool(OpenTool* tool)
 {
     delete pane_;
     pane_ = nullptr;
+    if (tool_) tool_->context().onTrappedError = {};
     tool_ = tool;
     status_->clear();
     siteName_->clear();
@@ -106,6 +107,10 @@ void MainWindow::setTool(OpenTool* tool)
         connectPane();
         changeTextSize(0);
         pane_->perform([this](Console&) { tool_->load(); });
+        tool_->context().onTrappedError = [this](const RunTimeError& error,
+                                                 std::string_view procName) {
+            undone_.note(error, procName);
+        };
         spoken_ = spokenByTool();
         language_.choose(spoken_);
         rebuildConsoleItems();
@@ -139,6 +144,8 @@ void MainWindow::connectPane()
         updateTitle();
     });
     connect(pane_, &ConsolePane::callDone, this, &MainWindow::afterCall);
+    connect(pane_, &ConsolePane::sheetMade, this,
+            [this](SheetDialog* dialog) { watchSheet(*dialog); });
     connect(pane_, &ConsolePane::helpAsked, this, &MainWindow::helpAsked);
     connect(pane_, &ConsolePane::treeMenuAsked, this, [this](const QPoint& at) {
         rebuildConsoleItems();
@@ -146,9 +153,48 @@ void MainWindow::connectPane()
     });
 }
 
+void MainWindow::watchSheet(SheetDialog& dialog)
+{
+    connect(&dialog, &SheetDialog::acted, this, [this, &dialog] { tellUndone(&dialog); });
+    connect(&dialog, &SheetDialog::cancelling, this,
+            [this, &dialog] { gathers_.cancelled(dialog.sheet().currentPage()); });
+    dialog.aroundTick = [this, &dialog](const SheetPage& page, const Timer& timer,
+                                        const std::function<void()>& run) {
+        const auto machinePath = [this](const std::string& path) {
+            return tool_->site().paths().machinePath(path);
+        };
+        sayWhereThePersonIs(&dialog,
+                            gathers_.tick(tool_->context(), page, timer, machinePath, run));
+    };
+    if (!tool_->looksOnly()) return;
+    const bool gathers = dialog.sheet().page(1).name() == "ppgGatherLogs00Welcome";
+    dialog.alwaysSay([gathers] {
+        return gathers ? tr("This site is read-only: choose a destination outside of it.")
+                       : tr("This site is read-only: what is chosen here is not written.");
+    });
+}
+
+void MainWindow::tellUndone(SheetDialog* dialog)
+{
+    const LiveSentence sentence = undone_.take(dialog ? &dialog->sheet() : nullptr);
+    // Of a site that is only read, or that has gone, more was said already.
+    if (tool_ && tool_->present() && !tool_->looksOnly()) sayWhereThePersonIs(dialog, sentence);
+}
+
+/// In the sheet, or in the window when the sheet has gone.
+void MainWindow::sayWhereThePersonIs(SheetDialog* dialog, const LiveSentence& sentence)
+{
+    if (!sentence) return;
+    if (dialog && dialog->isVisible())
+        dialog->say(sentence);
+    else
+        showProblem(sentence);
+}
+
 void MainWindow::afterCall()
 {
     checkSite();
+    tellUndone(nullptr);
     // Not from within the call of a dialog or a view that goes with the window.
     if (closing_ && !pane_->sheetAtWork())
         QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
@@ -421,8 +467,9 @@ void MainWindow::cancelWork()
     if (pane_->sheet()) pane_->sheet()->reject();
     // The page at work may be another one than the sheet asked, or its sheet is closed.
     ToolContext& context = tool_->context();
-    if (pane_->sheetAtWork() && !context.cancelRequested)
-        mdlLogs::cancelCurrentProcess(context, true);
+    if (!pane_->sheetAtWork()) return;
+    gathers_.cancelled();
+    if (!context.cancelRequested) mdlLogs::cancelCurrentProcess(context, true);
 }
 
 void MainWindow::end()

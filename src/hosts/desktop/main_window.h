@@ -1,7 +1,9 @@
 #pragma once
 
 #include "hosts/desktop/commands.h"
+#include "hosts/desktop/gather_report.h"
 #include "hosts/desktop/interface_language.h"
+#include "hosts/desktop/undone.h"
 
 #include <QMainWindow>
 
@@ -16,6 +18,7 @@ class QMenu;
 class QSettings;
 class QStackedWidget;
 class QToolBar;
+class SheetDialog;
 
 /// The console's window: menus, tool bar, panes and status bar, over the tool that is open.
 class MainWindow final : public QMainWindow {
@@ -52,6 +55,9 @@ public:
     /// cancelled, boxes go. The event loop ends when the work has come to its end.
     void end();
 
+    /// A box of the tool's was shown.
+    void messageShown() { gathers_.messageShown(); }
+
 signals:
     void siteAsked(const QString& folder);
     void sampleAsked(const QString& folder);
@@ -72,6 +78,9 @@ private:
     void updateTitle();
     void refresh();
     void afterCall();
+    void watchSheet(SheetDialog& dialog);
+    void tellUndone(SheetDialog* dialog);
+    void sayWhereThePersonIs(SheetDialog* dialog, const LiveSentence& sentence);
     void checkSite();
     void showTexts();
     std::int32_t spokenByTool() const;
@@ -102,6 +111,8 @@ private:
     QToolBar* toolBar_ = nullptr;
     std::map<CommandMenu, QMenu*> menus_;
     QMenu* recent_ = nullptr;
+    Undone undone_;
+    GatherReport gathers_;
     bool closing_ = false; ///< as soon as the work at hand is done
     std::map<Command, QAction*> actions_;
     std::map<std::string, QAction*> consoleActions_;

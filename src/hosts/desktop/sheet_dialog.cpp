@@ -106,7 +106,7 @@ void SheetDialog::makeButtons()
     } else {
         ok_ = addTaking(tr("OK"), [this] { sheet_->plainSheet()->ok(); });
     }
-    cancel_ = add(tr("Cancel"), [this] { sheet_->cancel(); });
+    cancel_ = add(tr("Cancel"), [this] { cancel(); });
     if (sheet_->plainSheet()) {
         apply_ = addTaking(plainCaptions()[0], [this] { sheet_->plainSheet()->apply(); });
         ok_->setDefault(true);
@@ -118,8 +118,16 @@ void SheetDialog::say(const LiveSentence& sentence)
 {
     if (sentence)
         notice_->say(sentence);
+    else if (always_)
+        notice_->say(always_);
     else
         notice_->hide();
+}
+
+void SheetDialog::alwaysSay(LiveSentence sentence)
+{
+    always_ = std::move(sentence);
+    if (notice_->sentence().isEmpty()) say({});
 }
 
 bool SheetDialog::finishEditing()
@@ -141,6 +149,7 @@ void SheetDialog::act(const std::function<void()>& what)
     --calls_;
     showButtons();
     runTimers();
+    emit acted();
     if (gone_ && calls_ == 0) {
         emit over();
         deleteLater();
@@ -203,8 +212,7 @@ void SheetDialog::runTimers()
         QTimer*& clock = timers_[timer];
         if (!clock) {
             clock = new QTimer(this);
-            connect(clock, &QTimer::timeout, this,
-                    [this, timer] { act([&] { sheet_->tick(*timer); }); });
+            connect(clock, &QTimer::timeout, this, [this, timer] { act([&] { tick(*timer); }); });
         }
         if (!timer->running())
             clock->stop();
@@ -213,9 +221,24 @@ void SheetDialog::runTimers()
     }
 }
 
+void SheetDialog::tick(Timer& timer)
+{
+    const auto run = [&] { sheet_->tick(timer); };
+    if (aroundTick && !sheet_->closed())
+        aroundTick(sheet_->currentPage(), timer, run);
+    else
+        run();
+}
+
+void SheetDialog::cancel()
+{
+    emit cancelling();
+    sheet_->cancel();
+}
+
 void SheetDialog::reject()
 {
-    act([this] { sheet_->cancel(); });
+    act([this] { cancel(); });
 }
 
 void SheetDialog::closeEvent(QCloseEvent* event)

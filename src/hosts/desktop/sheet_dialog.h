@@ -32,10 +32,23 @@ public:
     /// has nothing more to say.
     void say(const LiveSentence& sentence);
 
+    /// What is said on every page that has nothing else to say.
+    void alwaysSay(LiveSentence sentence);
+
     /// Escape and the window's own cross: asks the pages, as Cancel does.
     void reject() override;
 
+    /// Runs each tick of a timer of the page on show; null: ticks run by themselves.
+    std::function<void(const SheetPage& page, const Timer& timer, const std::function<void()>& run)>
+        aroundTick;
+
 signals:
+    /// The person cancels, on the page on show.
+    void cancelling();
+
+    /// The person has done something with the sheet, and the tool has done its part.
+    void acted();
+
     /// The sheet is closed and none of its pages is at work.
     void over();
 
@@ -55,10 +68,13 @@ private:
     void showButtons();
     bool finishEditing();
     void act(const std::function<void()>& what);
+    void cancel();
+    void tick(Timer& timer);
     void runTimers();
 
     std::shared_ptr<OpenSheet> sheet_;
     NoticeBar* notice_ = nullptr;
+    LiveSentence always_;
     QTabBar* tabs_ = nullptr;
     QStackedWidget* pages_ = nullptr;
     std::map<int, PageWidget*> shown_; ///< by place

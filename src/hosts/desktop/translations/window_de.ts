@@ -424,6 +424,97 @@
     </message>
 </context>
 <context>
+    <name>GatherReport</name>
+    <message>
+        <source>The server names no current log of %1.</source>
+        <translation>Der Server nennt kein aktuelles Protokoll von %1.</translation>
+    </message>
+    <message>
+        <source>The current log of %1, %2, is not there.</source>
+        <translation>Das aktuelle Protokoll von %1, %2, ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s log folder %1 is not there.</source>
+        <translation>Der Protokollordner %1 des Servers ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>%1 was not gathered: it is not in %2.</source>
+        <translation>%1 wurde nicht gesammelt: Es ist nicht in %2.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied: %2.</source>
+        <translation>%1 wurde nicht kopiert: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was copied in part: %2.</source>
+        <translation>%1 wurde nur teilweise kopiert: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was not gathered as a whole: %2.</source>
+        <translation>%1 wurde nicht vollständig gesammelt: %2.</translation>
+    </message>
+    <message>
+        <source>%1 logs were not gathered as a whole, the first of them %2: %3.</source>
+        <translation>%1 Protokolle wurden nicht vollständig gesammelt, als erstes %2: %3.</translation>
+    </message>
+    <message>
+        <source>%1 has too many malformed lines, and was read no further than the eleventh.</source>
+        <translation>%1 hat zu viele fehlerhafte Zeilen und wurde nur bis zur elften gelesen.</translation>
+    </message>
+    <message>
+        <source>The %1 event log was not captured: %2.</source>
+        <translation>Das Ereignisprotokoll %1 wurde nicht erfasst: %2.</translation>
+    </message>
+    <message>
+        <source>The destination %1 can&apos;t be made: %2.</source>
+        <translation>Das Ziel %1 kann nicht angelegt werden: %2.</translation>
+    </message>
+    <message>
+        <source>The destination %1 has gone.</source>
+        <translation>Das Ziel %1 ist nicht mehr vorhanden.</translation>
+    </message>
+    <message>
+        <source>No trace database was made: %1.</source>
+        <translation>Es wurde keine Trace-Datenbank angelegt: %1.</translation>
+    </message>
+    <message>
+        <source>The trace database is not complete: %1.</source>
+        <translation>Die Trace-Datenbank ist nicht vollständig: %1.</translation>
+    </message>
+    <message>
+        <source>The macro trace definitions could not all be stored: %1.</source>
+        <translation>Nicht alle Makro-Trace-Definitionen konnten gespeichert werden: %1.</translation>
+    </message>
+    <message>
+        <source>The filters could not all be stored: %1.</source>
+        <translation>Nicht alle Filter konnten gespeichert werden: %1.</translation>
+    </message>
+    <message>
+        <source>No cabinet was made.</source>
+        <translation>Es wurde kein Archiv (.cab) angelegt.</translation>
+    </message>
+    <message>
+        <source>No cabinet was made: the cabinet maker %1 is missing.</source>
+        <translation>Es wurde kein Archiv (.cab) angelegt: Das Programm %1 fehlt.</translation>
+    </message>
+    <message>
+        <source>No cabinet was made: the destination&apos;s name has characters that Windows-1252 lacks.</source>
+        <translation>Es wurde kein Archiv (.cab) angelegt: Der Name des Ziels hat Zeichen, die es in Windows-1252 nicht gibt.</translation>
+    </message>
+    <message>
+        <source>The gather was cancelled.</source>
+        <translation>Das Sammeln wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>No line lies in the time frame.</source>
+        <translation>Im Zeitraum liegt keine Zeile.</translation>
+    </message>
+    <message>
+        <source>What was gathered is kept in %1.</source>
+        <translation>Was gesammelt wurde, bleibt in %1.</translation>
+    </message>
+</context>
+<context>
     <name>HelpWindow</name>
     <message>
         <source>Help - Orvan Diagnostic Tool</source>
@@ -706,6 +797,14 @@ Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
         <source>The gather is being ended. Try again in a moment.</source>
         <translation>Das Sammeln wird beendet. Versuchen Sie es gleich noch einmal.</translation>
     </message>
+    <message>
+        <source>This site is read-only: choose a destination outside of it.</source>
+        <translation>Diese Site ist schreibgeschützt: Wählen Sie ein Ziel außerhalb von ihr.</translation>
+    </message>
+    <message>
+        <source>This site is read-only: what is chosen here is not written.</source>
+        <translation>Diese Site ist schreibgeschützt: Was hier gewählt wird, wird nicht geschrieben.</translation>
+    </message>
 </context>
 <context>
     <name>MomentField</name>
@@ -811,6 +910,14 @@ Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
     <message>
         <source>%1 can&apos;t be chosen here. The field now holds %2.</source>
         <translation>%1 kann hier nicht gewählt werden. Im Feld steht jetzt %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of megabytes, so the space for diagnostic files stays as it was.</source>
+        <translation>„%1“ ist keine Anzahl von Megabyte, deshalb bleibt der Platz für Diagnosedateien, wie er war.</translation>
+    </message>
+    <message>
+        <source>Not all of it was done: %1.</source>
+        <translation>Nicht alles wurde ausgeführt: %1.</translation>
     </message>
 </context>
 <context>

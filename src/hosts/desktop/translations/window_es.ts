@@ -424,6 +424,97 @@
     </message>
 </context>
 <context>
+    <name>GatherReport</name>
+    <message>
+        <source>The server names no current log of %1.</source>
+        <translation>El servidor no indica ningún registro actual de %1.</translation>
+    </message>
+    <message>
+        <source>The current log of %1, %2, is not there.</source>
+        <translation>El registro actual de %1, %2, no está.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s log folder %1 is not there.</source>
+        <translation>La carpeta de registros %1 del servidor no está.</translation>
+    </message>
+    <message>
+        <source>%1 was not gathered: it is not in %2.</source>
+        <translation>%1 no se recopiló: no está en %2.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied: %2.</source>
+        <translation>%1 no se copió: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was copied in part: %2.</source>
+        <translation>%1 se copió en parte: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was not gathered as a whole: %2.</source>
+        <translation>%1 no se recopiló por completo: %2.</translation>
+    </message>
+    <message>
+        <source>%1 logs were not gathered as a whole, the first of them %2: %3.</source>
+        <translation>%1 registros no se recopilaron por completo, el primero %2: %3.</translation>
+    </message>
+    <message>
+        <source>%1 has too many malformed lines, and was read no further than the eleventh.</source>
+        <translation>%1 tiene demasiadas líneas mal formadas y solo se leyó hasta la undécima.</translation>
+    </message>
+    <message>
+        <source>The %1 event log was not captured: %2.</source>
+        <translation>El registro de eventos %1 no se capturó: %2.</translation>
+    </message>
+    <message>
+        <source>The destination %1 can&apos;t be made: %2.</source>
+        <translation>No se puede crear el destino %1: %2.</translation>
+    </message>
+    <message>
+        <source>The destination %1 has gone.</source>
+        <translation>El destino %1 ya no está.</translation>
+    </message>
+    <message>
+        <source>No trace database was made: %1.</source>
+        <translation>No se creó ninguna base de datos de trazas: %1.</translation>
+    </message>
+    <message>
+        <source>The trace database is not complete: %1.</source>
+        <translation>La base de datos de trazas no está completa: %1.</translation>
+    </message>
+    <message>
+        <source>The macro trace definitions could not all be stored: %1.</source>
+        <translation>No se pudieron guardar todas las definiciones de macrotrazas: %1.</translation>
+    </message>
+    <message>
+        <source>The filters could not all be stored: %1.</source>
+        <translation>No se pudieron guardar todos los filtros: %1.</translation>
+    </message>
+    <message>
+        <source>No cabinet was made.</source>
+        <translation>No se creó ningún archivo .cab.</translation>
+    </message>
+    <message>
+        <source>No cabinet was made: the cabinet maker %1 is missing.</source>
+        <translation>No se creó ningún archivo .cab: falta el programa %1.</translation>
+    </message>
+    <message>
+        <source>No cabinet was made: the destination&apos;s name has characters that Windows-1252 lacks.</source>
+        <translation>No se creó ningún archivo .cab: el nombre del destino tiene caracteres que no existen en Windows-1252.</translation>
+    </message>
+    <message>
+        <source>The gather was cancelled.</source>
+        <translation>La recopilación se canceló.</translation>
+    </message>
+    <message>
+        <source>No line lies in the time frame.</source>
+        <translation>Ninguna línea está dentro del intervalo de tiempo.</translation>
+    </message>
+    <message>
+        <source>What was gathered is kept in %1.</source>
+        <translation>Lo recopilado se conserva en %1.</translation>
+    </message>
+</context>
+<context>
     <name>HelpWindow</name>
     <message>
         <source>Help - Orvan Diagnostic Tool</source>
@@ -706,6 +797,14 @@ Abra uno con Control+Mayúsculas+O o cree un servidor de ejemplo con Control+May
         <source>The gather is being ended. Try again in a moment.</source>
         <translation>Se está terminando la recopilación. Vuelva a intentarlo dentro de un momento.</translation>
     </message>
+    <message>
+        <source>This site is read-only: choose a destination outside of it.</source>
+        <translation>Este sitio es de solo lectura: elija un destino fuera de él.</translation>
+    </message>
+    <message>
+        <source>This site is read-only: what is chosen here is not written.</source>
+        <translation>Este sitio es de solo lectura: lo que se elija aquí no se escribe.</translation>
+    </message>
 </context>
 <context>
     <name>MomentField</name>
@@ -811,6 +910,14 @@ Abra uno con Control+Mayúsculas+O o cree un servidor de ejemplo con Control+May
     <message>
         <source>%1 can&apos;t be chosen here. The field now holds %2.</source>
         <translation>%1 no se puede elegir aquí. El campo contiene ahora %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of megabytes, so the space for diagnostic files stays as it was.</source>
+        <translation>«%1» no es un número de megabytes, así que el espacio para los archivos de diagnóstico queda como estaba.</translation>
+    </message>
+    <message>
+        <source>Not all of it was done: %1.</source>
+        <translation>No se hizo todo: %1.</translation>
     </message>
 </context>
 <context>

@@ -424,6 +424,97 @@
     </message>
 </context>
 <context>
+    <name>GatherReport</name>
+    <message>
+        <source>The server names no current log of %1.</source>
+        <translation>Le serveur n&apos;indique aucun journal actuel de %1.</translation>
+    </message>
+    <message>
+        <source>The current log of %1, %2, is not there.</source>
+        <translation>Le journal actuel de %1, %2, est introuvable.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s log folder %1 is not there.</source>
+        <translation>Le dossier des journaux %1 du serveur est introuvable.</translation>
+    </message>
+    <message>
+        <source>%1 was not gathered: it is not in %2.</source>
+        <translation>%1 n&apos;a pas été collecté&#xa0;: il n&apos;est pas dans %2.</translation>
+    </message>
+    <message>
+        <source>%1 was not copied: %2.</source>
+        <translation>%1 n&apos;a pas été copié&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was copied in part: %2.</source>
+        <translation>%1 n&apos;a été copié qu&apos;en partie&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was not gathered as a whole: %2.</source>
+        <translation>%1 n&apos;a pas été collecté en entier&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1 logs were not gathered as a whole, the first of them %2: %3.</source>
+        <translation>%1 journaux n&apos;ont pas été collectés en entier, le premier étant %2&#xa0;: %3.</translation>
+    </message>
+    <message>
+        <source>%1 has too many malformed lines, and was read no further than the eleventh.</source>
+        <translation>%1 contient trop de lignes mal formées et n&apos;a été lu que jusqu&apos;à la onzième.</translation>
+    </message>
+    <message>
+        <source>The %1 event log was not captured: %2.</source>
+        <translation>Le journal d&apos;événements %1 n&apos;a pas été capturé&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The destination %1 can&apos;t be made: %2.</source>
+        <translation>La destination %1 ne peut pas être créée&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The destination %1 has gone.</source>
+        <translation>La destination %1 n&apos;existe plus.</translation>
+    </message>
+    <message>
+        <source>No trace database was made: %1.</source>
+        <translation>Aucune base de données de traces n&apos;a été créée&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The trace database is not complete: %1.</source>
+        <translation>La base de données de traces est incomplète&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The macro trace definitions could not all be stored: %1.</source>
+        <translation>Les définitions de macro-traces n&apos;ont pas toutes pu être enregistrées&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The filters could not all be stored: %1.</source>
+        <translation>Les filtres n&apos;ont pas tous pu être enregistrés&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>No cabinet was made.</source>
+        <translation>Aucune archive .cab n&apos;a été créée.</translation>
+    </message>
+    <message>
+        <source>No cabinet was made: the cabinet maker %1 is missing.</source>
+        <translation>Aucune archive .cab n&apos;a été créée&#xa0;: le programme %1 est absent.</translation>
+    </message>
+    <message>
+        <source>No cabinet was made: the destination&apos;s name has characters that Windows-1252 lacks.</source>
+        <translation>Aucune archive .cab n&apos;a été créée&#xa0;: le nom de la destination contient des caractères absents de Windows-1252.</translation>
+    </message>
+    <message>
+        <source>The gather was cancelled.</source>
+        <translation>La collecte a été annulée.</translation>
+    </message>
+    <message>
+        <source>No line lies in the time frame.</source>
+        <translation>Aucune ligne ne se trouve dans la période.</translation>
+    </message>
+    <message>
+        <source>What was gathered is kept in %1.</source>
+        <translation>Ce qui a été collecté est conservé dans %1.</translation>
+    </message>
+</context>
+<context>
     <name>HelpWindow</name>
     <message>
         <source>Help - Orvan Diagnostic Tool</source>
@@ -706,6 +797,14 @@ Ouvrez-en un avec Ctrl+Maj+O, ou créez un serveur d&apos;exemple avec Ctrl+Maj+
         <source>The gather is being ended. Try again in a moment.</source>
         <translation>La collecte se termine. Réessayez dans un instant.</translation>
     </message>
+    <message>
+        <source>This site is read-only: choose a destination outside of it.</source>
+        <translation>Ce site est en lecture seule&#xa0;: choisissez une destination hors de celui-ci.</translation>
+    </message>
+    <message>
+        <source>This site is read-only: what is chosen here is not written.</source>
+        <translation>Ce site est en lecture seule&#xa0;: ce qui est choisi ici n&apos;est pas enregistré.</translation>
+    </message>
 </context>
 <context>
     <name>MomentField</name>
@@ -811,6 +910,14 @@ Ouvrez-en un avec Ctrl+Maj+O, ou créez un serveur d&apos;exemple avec Ctrl+Maj+
     <message>
         <source>%1 can&apos;t be chosen here. The field now holds %2.</source>
         <translation>%1 ne peut pas être choisi ici. Le champ contient maintenant %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of megabytes, so the space for diagnostic files stays as it was.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas un nombre de mégaoctets, l&apos;espace des fichiers de diagnostic reste donc inchangé.</translation>
+    </message>
+    <message>
+        <source>Not all of it was done: %1.</source>
+        <translation>Tout n&apos;a pas été effectué&#xa0;: %1.</translation>
     </message>
 </context>
 <context>

@@ -424,6 +424,97 @@
     </message>
 </context>
 <context>
+    <name>GatherReport</name>
+    <message>
+        <source>The server names no current log of %1.</source>
+        <translation>サーバーに %1 の現在のログがありません。</translation>
+    </message>
+    <message>
+        <source>The current log of %1, %2, is not there.</source>
+        <translation>%1 の現在のログ %2 が見つかりません。</translation>
+    </message>
+    <message>
+        <source>The server&apos;s log folder %1 is not there.</source>
+        <translation>サーバーのログ フォルダー %1 が見つかりません。</translation>
+    </message>
+    <message>
+        <source>%1 was not gathered: it is not in %2.</source>
+        <translation>%1 は収集されませんでした。%2 にありません。</translation>
+    </message>
+    <message>
+        <source>%1 was not copied: %2.</source>
+        <translation>%1 はコピーされませんでした: %2。</translation>
+    </message>
+    <message>
+        <source>%1 was copied in part: %2.</source>
+        <translation>%1 は一部だけコピーされました: %2。</translation>
+    </message>
+    <message>
+        <source>%1 was not gathered as a whole: %2.</source>
+        <translation>%1 は全体が収集されませんでした: %2。</translation>
+    </message>
+    <message>
+        <source>%1 logs were not gathered as a whole, the first of them %2: %3.</source>
+        <translation>%1 個のログは全体が収集されませんでした。最初は %2 です: %3。</translation>
+    </message>
+    <message>
+        <source>%1 has too many malformed lines, and was read no further than the eleventh.</source>
+        <translation>%1 には不正な行が多すぎるため、11 行目までしか読み取られませんでした。</translation>
+    </message>
+    <message>
+        <source>The %1 event log was not captured: %2.</source>
+        <translation>イベント ログ %1 は取得されませんでした: %2。</translation>
+    </message>
+    <message>
+        <source>The destination %1 can&apos;t be made: %2.</source>
+        <translation>保存先 %1 を作成できません: %2。</translation>
+    </message>
+    <message>
+        <source>The destination %1 has gone.</source>
+        <translation>保存先 %1 がなくなりました。</translation>
+    </message>
+    <message>
+        <source>No trace database was made: %1.</source>
+        <translation>トレース データベースは作成されませんでした: %1。</translation>
+    </message>
+    <message>
+        <source>The trace database is not complete: %1.</source>
+        <translation>トレース データベースは完全ではありません: %1。</translation>
+    </message>
+    <message>
+        <source>The macro trace definitions could not all be stored: %1.</source>
+        <translation>マクロ トレースの定義の一部を保存できませんでした: %1。</translation>
+    </message>
+    <message>
+        <source>The filters could not all be stored: %1.</source>
+        <translation>フィルターの一部を保存できませんでした: %1。</translation>
+    </message>
+    <message>
+        <source>No cabinet was made.</source>
+        <translation>キャビネットは作成されませんでした。</translation>
+    </message>
+    <message>
+        <source>No cabinet was made: the cabinet maker %1 is missing.</source>
+        <translation>キャビネットは作成されませんでした。作成プログラム %1 がありません。</translation>
+    </message>
+    <message>
+        <source>No cabinet was made: the destination&apos;s name has characters that Windows-1252 lacks.</source>
+        <translation>キャビネットは作成されませんでした。保存先の名前に Windows-1252 にない文字が含まれています。</translation>
+    </message>
+    <message>
+        <source>The gather was cancelled.</source>
+        <translation>収集はキャンセルされました。</translation>
+    </message>
+    <message>
+        <source>No line lies in the time frame.</source>
+        <translation>この期間に該当する行はありません。</translation>
+    </message>
+    <message>
+        <source>What was gathered is kept in %1.</source>
+        <translation>収集された内容は %1 に残されています。</translation>
+    </message>
+</context>
+<context>
     <name>HelpWindow</name>
     <message>
         <source>Help - Orvan Diagnostic Tool</source>
@@ -706,6 +797,14 @@ Ctrl+Shift+O でサイトを開くか、Ctrl+Shift+N でサンプル サーバ�
         <source>The gather is being ended. Try again in a moment.</source>
         <translation>ログの収集を終了しています。しばらくしてから、もう一度実行してください。</translation>
     </message>
+    <message>
+        <source>This site is read-only: choose a destination outside of it.</source>
+        <translation>このサイトは読み取り専用です。サイトの外の保存先を選択してください。</translation>
+    </message>
+    <message>
+        <source>This site is read-only: what is chosen here is not written.</source>
+        <translation>このサイトは読み取り専用です。ここで選択した内容は書き込まれません。</translation>
+    </message>
 </context>
 <context>
     <name>MomentField</name>
@@ -811,6 +910,14 @@ Ctrl+Shift+O でサイトを開くか、Ctrl+Shift+N でサンプル サーバ�
     <message>
         <source>%1 can&apos;t be chosen here. The field now holds %2.</source>
         <translation>%1 はここでは選択できません。現在の値は %2 です。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of megabytes, so the space for diagnostic files stays as it was.</source>
+        <translation>「%1」はメガバイト数ではないため、診断ファイルの容量は変更されません。</translation>
+    </message>
+    <message>
+        <source>Not all of it was done: %1.</source>
+        <translation>一部が実行されませんでした: %1。</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "hosts/desktop/interface_language.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+class GatherWatch;
+class SheetPage;
+class Timer;
+struct ToolContext;
+
+/// Follows the gathers that a person has the tool do, and tells what each left undone: the tool's
+/// own texts tell of no failure.
+class GatherReport {
+public:
+    using MachinePath = std::function<std::string(const std::string&)>;
+
+    /// Lets a timer of a page tick. Where that runs a gather: gives, when it has come to its end,
+    /// what there is to say, and null for nothing. `tool` and the page outlive the call.
+    LiveSentence tick(ToolContext& tool, const SheetPage& page, const Timer& timer,
+                      MachinePath machinePath, const std::function<void()>& run);
+
+    /// A box was shown; the person cancels on a page. Both count for the gather that runs.
+    void messageShown();
+    void cancelled(const SheetPage& page);
+
+    /// The gather that runs is cancelled, from wherever.
+    void cancelled();
+
+private:
+    GatherWatch* watch_ = nullptr; ///< null while no gather runs
+};
+
+/// The sentences about gathers that the window has translations of, in English.
+std::vector<std::string> translatedGatherSentences();

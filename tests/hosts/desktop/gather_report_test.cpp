@@ -1,0 +1,121 @@
+#include "hosts/desktop/gather_report.h"
+
+#include "hosts/common/gather_outcome.h"
+#include "hosts/desktop/notice_bar.h"
+#include "hosts/desktop/open_program.h"
+#include "hosts/desktop/person.h"
+#include "hosts/desktop/sheet_dialog.h"
+
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QTimer>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+TEST(GatherReport, HasEverySentenceInTheWindowsOwnTexts)
+{
+    const std::vector<std::string> all(std::begin(gatherSentences::all),
+                                       std::end(gatherSentences::all));
+    EXPECT_THAT(translatedGatherSentences(), testing::UnorderedElementsAreArray(all));
+}
+
+/// A person who gathers, and reads what stands beside the required texts.
+struct GatherTold : testing::Test {
+    OpenProgram shown{20'000};
+    std::string target = shown.server.folder() / "gathered";
+
+    void begin()
+    {
+        fs::create_directories(target);
+        person::press(QKeySequence("Ctrl+5"));
+        person::pickNext(target);
+        person::clickButton(shown.sheet(), "Browse...");
+    }
+
+    void frame(const char* date)
+    {
+        person::clickButton(shown.sheet(), "Process logs over specified time frame");
+        person::clickButton(shown.sheet(), "Next >");
+        person::typeInto(OpenProgram::picker(shown.sheet(), MomentField::Part::date), date);
+        person::typeInto(OpenProgram::picker(shown.sheet(), MomentField::Part::time), "8:00 AM");
+        person::clickButton(shown.sheet(), "Next >");
+    }
+
+    /// Waits for the last page, looks at its required text, and gives what is said beside it.
+    std::string end()
+    {
+        const auto* summary = shown.sheet().findChild<QPlainTextEdit*>();
+        EXPECT_TRUE(waitUntil(
+            [&] {
+                summary = shown.sheet().findChild<QPlainTextEdit*>();
+                return summary && summary->isVisible();
+            },
+            20'000));
+        if (!summary) return "no last page";
+        EXPECT_THAT(summary->toPlainText().toStdString(),
+                    HasSubstr("The specified logs have been placed in the following directory:"));
+        const std::string said = shown.sheet().findChild<NoticeBar*>()->sentence().toStdString();
+        person::clickButton(shown.sheet(), "Finish");
+        return said;
+    }
+};
+
+TEST_F(GatherTold, NothingIsSaidOfAGatherThatBroughtAll)
+{
+    begin();
+    person::clickButton(shown.sheet(), "Next >");
+    EXPECT_THAT(end(), IsEmpty());
+    EXPECT_THAT(shown.window().problem().toStdString(), IsEmpty());
+}
+
+TEST_F(GatherTold, AnEmptyTimeFrameIsSaid)
+{
+    begin();
+    frame("2/18/2001");
+    EXPECT_THAT(end(), HasSubstr("No line lies in the time frame."));
+}
+
+TEST_F(GatherTold, ADestinationThatCannotBeMadeIsSaidAndWhy)
+{
+    begin();
+    fs::remove_all(target);
+    shown.server.folder().write("gathered", "a file where the folder was");
+    frame("2/18/2025");
+    EXPECT_THAT(end(), AllOf(HasSubstr("destination"), HasSubstr("gathered")));
+}
+
+TEST_F(GatherTold, ACancelAndWhatWasKeptAreSaidInTheLanguage)
+{
+    for (const bool german : {false, true}) {
+        ASSERT_TRUE(!german || person::chooseLanguage("German"));
+        person::press(QKeySequence("Ctrl+5"));
+        auto* sheet = &shown.sheet();
+        person::press(Qt::Key_Return);
+        // Behind the first painting of the page at work.
+        ASSERT_TRUE(waitUntil([&] { return sheet->sheet().currentPlace() == 4; }));
+        bool cancelled = false;
+        std::function<void()> cancelWhenAtWork = [&] {
+            if (!shown.pane().sheetAtWork())
+                return QTimer::singleShot(0, &shown.window(), cancelWhenAtWork);
+            cancelled = true;
+            person::press(Qt::Key_Escape);
+        };
+        QTimer::singleShot(0, &shown.window(), cancelWhenAtWork);
+        ASSERT_TRUE(waitUntil([&] { return cancelled && !shown.pane().sheetAtWork(); }, 20'000));
+        settle();
+        EXPECT_THAT(
+            shown.window().problem().toStdString(),
+            HasSubstr(german ? "Das Sammeln wurde abgebrochen." : "The gather was cancelled."));
+        fs::remove_all(target);
+    }
+}
+
+} // namespace
