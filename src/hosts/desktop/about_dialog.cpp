@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int symbolSize = 64;
@@ -106,7 +108,19 @@ void AboutDialog::showForm()
     for (const auto& view : views_)
         if (!view->captions().isEmpty()) view->showCaptions(view->captions());
     emit formShown();
+    // The texts come with the next events, and a language may need more room than the one before.
+    QMetaObject::invokeMethod(this, &AboutDialog::grow, Qt::QueuedConnection);
     if (!about_.visible()) QDialog::accept();
+}
+
+void AboutDialog::grow()
+{
+    for (const auto& view : views_) view->showState();
+    layout()->activate();
+    const int width = std::max(this->width(), layout()->totalMinimumSize().width());
+    const int height = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width)
+                                                     : layout()->totalMinimumSize().height();
+    resize(width, std::max(this->height(), height));
 }
 
 void AboutDialog::reject()

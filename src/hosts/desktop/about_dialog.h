@@ -28,6 +28,7 @@ private:
     QWidget* textColumn();
     void popUpLanguages();
     void showForm();
+    void grow();
 
     frmAbout& about_;
     std::vector<std::unique_ptr<ControlView>> views_;

@@ -236,10 +236,7 @@ void ConsolePane::switchPane()
     if (!tree_->hasFocus()) return tree_->setFocus(Qt::ShortcutFocusReason);
     QWidget* shown = views_->currentWidget();
     if (logShown()) shown = &log_->table();
-    if (shown == taskPad_) {
-        taskPad_->setFocus();
-        return void(shown->nextInFocusChain()->setFocus(Qt::ShortcutFocusReason));
-    }
+    if (shown == taskPad_) return taskPad_->focusCard();
     shown->setFocus(Qt::ShortcutFocusReason);
 }
 

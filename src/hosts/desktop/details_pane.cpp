@@ -3,15 +3,15 @@
 #include "hosts/desktop/interface_language.h"
 #include "hosts/desktop/list_model.h"
 #include "hosts/desktop/log_columns.h"
+#include "hosts/desktop/spoken_label.h"
 #include "hosts/desktop/theme.h"
 #include "platform/list_view.h"
 
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
 DetailsPane::DetailsPane(QWidget* parent)
-    : QWidget(parent), fields_(new QLabel(this)), trace_(new QPlainTextEdit(this))
+    : QWidget(parent), fields_(new SpokenLabel(this)), trace_(new QPlainTextEdit(this))
 {
     fields_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     fields_->setWordWrap(true);

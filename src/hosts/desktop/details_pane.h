@@ -3,8 +3,8 @@
 #include <QWidget>
 
 class ListModel;
-class QLabel;
 class QPlainTextEdit;
+class SpokenLabel;
 
 /// All of one log line: its fields in a line, and the trace in as many as it takes. A line that has
 /// none of the known forms has no trace and is shown as it stands in the log.
@@ -20,6 +20,6 @@ public:
     void setTextFont(const QFont& font);
 
 private:
-    QLabel* fields_ = nullptr;
+    SpokenLabel* fields_ = nullptr;
     QPlainTextEdit* trace_ = nullptr;
 };

@@ -7,7 +7,7 @@ namespace {
 constexpr int fewestCharacters = 8;
 }
 
-ElidedLabel::ElidedLabel(Qt::TextElideMode mode, QWidget* parent) : QLabel(parent), mode_(mode)
+ElidedLabel::ElidedLabel(Qt::TextElideMode mode, QWidget* parent) : SpokenLabel(parent), mode_(mode)
 {
     setTextFormat(Qt::PlainText);
     setProperty("elides", true);

@@ -1,9 +1,11 @@
 #pragma once
 
-#include <QLabel>
+#include "hosts/desktop/spoken_label.h"
 
 /// A line of text that gives way where there is little room: what is left out is in the tool tip.
-class ElidedLabel final : public QLabel {
+class ElidedLabel final : public SpokenLabel {
+    Q_OBJECT
+
 public:
     ElidedLabel(Qt::TextElideMode mode, QWidget* parent);
 

@@ -1,6 +1,7 @@
 #include "hosts/desktop/find_bar.h"
 
 #include "hosts/desktop/icons.h"
+#include "hosts/desktop/spoken_label.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -33,7 +34,7 @@ void name(QToolButton* button, const QString& text)
 
 FindBar::FindBar(QWidget* parent)
     : QWidget(parent), text_(new QLineEdit(this)), time_(new QLineEdit(this)),
-      count_(new QLabel(this))
+      count_(new SpokenLabel(this))
 {
     auto* findLabel = new QLabel(this);
     findLabel->setBuddy(text_);

@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-class QLabel;
+class SpokenLabel;
 class QLineEdit;
 
 /// The line in which a person looks for a text, or goes to a time.
@@ -42,7 +42,7 @@ private:
 
     QLineEdit* text_ = nullptr;
     QLineEdit* time_ = nullptr;
-    QLabel* count_ = nullptr;
+    SpokenLabel* count_ = nullptr;
     LiveSentence counted_;     ///< what stands in the place of the count
     QList<QWidget*> findPart_; ///< what serves to find, and to go to a time
     QList<QWidget*> timePart_;

@@ -188,8 +188,21 @@ QString LogView::timeOfLine(int line) const
     return model_.decoder().text(row.subItem(columns_.timeStamp));
 }
 
+/// A cell as a screen reader tells it: with the name of the sign beside its text.
+QVariant LogView::spoken(int row, int column) const
+{
+    QString sign;
+    if (column == columns_.number && bookmarks_ && bookmarks_->has(lineOfRow(row)))
+        sign = tr("bookmark");
+    if (column == columns_.level && severityOfRow(row) == Severity::error) sign = tr("error");
+    if (column == columns_.level && severityOfRow(row) == Severity::warning) sign = tr("warning");
+    if (sign.isEmpty()) return {};
+    return QStringLiteral("%1, %2").arg(model_.text(row, column).trimmed(), sign);
+}
+
 QVariant LogView::decoration(int row, int column, int role) const
 {
+    if (role == Qt::AccessibleTextRole) return spoken(row, column);
     if (role == Qt::DecorationRole) {
         const bool marked = column == columns_.number && bookmarks_ && bookmarks_->count() > 0 &&
                             bookmarks_->has(lineOfRow(row));

@@ -70,6 +70,7 @@ private:
     void connectParts();
     Severity severityOfRow(int row) const;
     QVariant decoration(int row, int column, int role) const;
+    QVariant spoken(int row, int column) const;
     int lineOfRow(int row) const;
     int rowOfLine(int line) const;
     QString timeOfLine(int line) const;

@@ -11,6 +11,7 @@
 #include <string>
 
 class ConsolePane;
+class ElidedLabel;
 class NoticeBar;
 class OpenTool;
 class QLabel;
@@ -106,8 +107,8 @@ private:
     NoticeBar* notice_ = nullptr;
     QStackedWidget* centre_ = nullptr;
     QLabel* empty_ = nullptr;
-    QLabel* status_ = nullptr;
-    QLabel* siteName_ = nullptr;
+    ElidedLabel* status_ = nullptr;
+    ElidedLabel* siteName_ = nullptr;
     QToolBar* toolBar_ = nullptr;
     std::map<CommandMenu, QMenu*> menus_;
     QMenu* recent_ = nullptr;

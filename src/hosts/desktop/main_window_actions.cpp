@@ -1,4 +1,5 @@
 #include "hosts/desktop/console_pane.h"
+#include "hosts/desktop/elided_label.h"
 #include "hosts/desktop/icons.h"
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_view.h"

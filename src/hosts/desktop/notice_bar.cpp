@@ -3,6 +3,7 @@
 #include "hosts/desktop/icons.h"
 #include "hosts/desktop/theme.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -38,6 +39,9 @@ void NoticeBar::say(LiveSentence sentence)
     said_ = std::move(sentence);
     show();
     renew();
+    if (isHidden()) return;
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 void NoticeBar::renew()

@@ -134,6 +134,15 @@ void drawing::button(const QStyleOption& option, QPainter& painter)
     painter.drawRoundedRect(room.adjusted(2, 2, -2, -2), corner - 1, corner - 1);
 }
 
+void drawing::itemFocus(const QStyleOption& option, QPainter& painter)
+{
+    const bool selected = is(option, QStyle::State_Selected);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(
+        option.palette.color(selected ? QPalette::HighlightedText : QPalette::Highlight));
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(1.5, 1.5, -1.5, -1.5), 2, 2);
+}
+
 void drawing::field(const QStyleOption& option, QPainter& painter)
 {
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(&option);

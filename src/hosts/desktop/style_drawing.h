@@ -26,6 +26,9 @@ void fieldEdge(const QStyleOption& option, QPainter& painter);
 /// Behind an arrow at the end of a field, under the pointer or pressed.
 void arrowGround(const QStyleOption& option, QPainter& painter);
 
+/// Around the item of a list or a tree that keys go to.
+void itemFocus(const QStyleOption& option, QPainter& painter);
+
 /// Around a list, a tree or a text.
 void frame(const QStyleOption& option, QPainter& painter);
 

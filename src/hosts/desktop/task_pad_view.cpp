@@ -5,6 +5,7 @@
 #include "hosts/desktop/theme.h"
 #include "platform/task_pad.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QScrollArea>
@@ -70,10 +71,24 @@ void TaskPadView::show(TaskPad& pad)
         const QString key = QString::fromStdString(task.key);
         card->setObjectName(QStringLiteral("task-") + key);
         connect(card, &QAbstractButton::clicked, this, [this, key] { emit taskClicked(key); });
+        card->installEventFilter(this);
         cards_ << card;
     }
     columns_ = 0;
     arrange();
+}
+
+void TaskPadView::focusCard()
+{
+    if (cards_.empty()) return setFocus(Qt::ShortcutFocusReason);
+    QWidget* card = focused_ ? focused_.data() : cards_.front();
+    card->setFocus(Qt::ShortcutFocusReason);
+}
+
+bool TaskPadView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn) focused_ = static_cast<QWidget*>(watched);
+    return QWidget::eventFilter(watched, event);
 }
 
 void TaskPadView::resizeEvent(QResizeEvent* event)

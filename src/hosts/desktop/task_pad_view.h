@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 class QGridLayout;
@@ -16,10 +17,14 @@ public:
     /// Makes the cards of a pad that the console has filled.
     void show(TaskPad& pad);
 
+    /// Puts the focus on the card that had it last, or else on the first one.
+    void focusCard();
+
 signals:
     void taskClicked(const QString& key);
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
@@ -30,5 +35,6 @@ private:
     QWidget* board_ = nullptr;
     QGridLayout* grid_ = nullptr;
     QList<QWidget*> cards_;
+    QPointer<QWidget> focused_; ///< the card that had the focus last
     int columns_ = 0;
 };

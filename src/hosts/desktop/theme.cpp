@@ -106,6 +106,11 @@ QColor noticeTint(const QPalette& palette)
     return byTheme(palette, QColor(0xfff1cc), QColor(0x4a3d1c));
 }
 
+QColor restingSelection(const QPalette& palette)
+{
+    return byTheme(palette, QColor(0x66737f), QColor(0x4a5560));
+}
+
 QColor errorMark(const QPalette& palette)
 {
     return byTheme(palette, QColor(0xc4302b), QColor(0xf0807a));

@@ -27,6 +27,10 @@ QColor warningTint(const QPalette& palette);
 QColor hitTint(const QPalette& palette);
 QColor noticeTint(const QPalette& palette);
 
+/// Behind the selected rows of a view that does not have the focus; their text is that of a
+/// selection.
+QColor restingSelection(const QPalette& palette);
+
 /// The marks of a log's overview: rows of an error, of a warning, and with the text looked for.
 QColor errorMark(const QPalette& palette);
 QColor warningMark(const QPalette& palette);

@@ -2,7 +2,9 @@
 
 #include "hosts/desktop/icons.h"
 #include "hosts/desktop/style_drawing.h"
+#include "hosts/desktop/theme.h"
 
+#include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QPainter>
 #include <QScrollArea>
@@ -146,6 +148,22 @@ Option asSelected(const Option& option)
     return changed;
 }
 
+/// Whether an option is of a selected row in a view that keys do not go to.
+bool rests(const QStyleOption& option, const QWidget* widget)
+{
+    const auto* view = qobject_cast<const QAbstractItemView*>(widget);
+    return view && (option.state & QStyle::State_Selected) && !view->hasFocus() &&
+           view->window()->windowType() != Qt::Popup;
+}
+
+/// The same option with a selection that steps back behind the one that keys go to.
+QStyleOptionViewItem asResting(const QStyleOptionViewItem& option)
+{
+    QStyleOptionViewItem changed = option;
+    changed.palette.setColor(QPalette::Highlight, theme::restingSelection(option.palette));
+    return changed;
+}
+
 } // namespace
 
 ToolStyle::ToolStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -156,6 +174,16 @@ void ToolStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     if (const Draw draw = drawingOf(element)) {
         const Kept kept(*painter);
         return draw(*option, *painter);
+    }
+    if (element == PE_FrameFocusRect && (option->state & State_Item)) {
+        const Kept kept(*painter);
+        return drawing::itemFocus(*option, *painter);
+    }
+    const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+    if ((element == PE_PanelItemViewRow || element == PE_PanelItemViewItem) && item &&
+        rests(*option, widget)) {
+        const QStyleOptionViewItem resting = asResting(*item);
+        return QProxyStyle::drawPrimitive(element, &resting, painter, widget);
     }
     const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
     if (element == PE_IndicatorHeaderArrow && header) {

@@ -722,6 +722,18 @@
         <source>Warning in line %1: %2</source>
         <translation>Warnung in Zeile %1: %2</translation>
     </message>
+    <message>
+        <source>bookmark</source>
+        <translation>Lesezeichen</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>Warnung</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -722,6 +722,18 @@
         <source>Warning in line %1: %2</source>
         <translation>Advertencia en la línea %1: %2</translation>
     </message>
+    <message>
+        <source>bookmark</source>
+        <translation>marcador</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>error</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>advertencia</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -722,6 +722,18 @@
         <source>Warning in line %1: %2</source>
         <translation>Avertissement à la ligne %1&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>bookmark</source>
+        <translation>signet</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>erreur</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>avertissement</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -722,6 +722,18 @@
         <source>Warning in line %1: %2</source>
         <translation>警告の行 %1: %2</translation>
     </message>
+    <message>
+        <source>bookmark</source>
+        <translation>ブックマーク</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>警告</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
