@@ -37,8 +37,11 @@ void ControlView::showFont(const QString& family)
         ownFont_.reset();
         return;
     }
-    if (!ownFont_) ownFont_ = widget_->font();
-    QFont font = *ownFont_;
+    // A widget without a font of its own has that of the widget it stands in, which may be a
+    // language's by now.
+    const bool inherits = !widget_->testAttribute(Qt::WA_SetFont);
+    if (!ownFont_) ownFont_ = inherits ? QFont() : widget_->font();
+    QFont font = widget_->font();
     font.setFamily(family);
     widget_->setFont(font);
 }
