@@ -42,8 +42,10 @@ void declare(QCommandLineParser& parser)
         option("theme", "Look: system, light or dark.", "NAME"),
         option("size", "Size of the window, such as 1280x760.", "WIDTHxHEIGHT"),
         option("screenshot", "Write a picture of the window and end.", "FILE"),
-        option("development-host", "Answer the tool's debug-mode test with true."),
     });
+    QCommandLineOption developmentHost(QStringLiteral("development-host"));
+    developmentHost.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(developmentHost);
 }
 
 std::optional<QSize> sizeOf(const QString& text)

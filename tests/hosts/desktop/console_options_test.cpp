@@ -85,6 +85,8 @@ TEST(ConsoleOptions, HelpAndVersionAreTextsThatNeedNoDisplay)
     const auto help = read({"--help"});
     for (const char* part : {"--site", "--show", "--command", "--theme", "--size", "--screenshot"})
         EXPECT_THAT(std::get<NoWindow>(help).text, HasSubstr(part));
+    EXPECT_THAT(std::get<NoWindow>(help).text, testing::Not(HasSubstr("development")))
+        << "which is for those who work on the program";
 }
 
 } // namespace
