@@ -151,6 +151,23 @@ TEST_F(TraceResults, ANameThatBreaksTheLookUpIsKnownInTheGroupWhereTheTreeShowsI
         EXPECT_EQ(1, run({"macro", "set", "--on", name}).status);
 }
 
+TEST_F(TraceResults, EveryNameThatIsListedCanBeTurnedOn)
+{
+    ASSERT_EQ(0, run({"reset"}).status) << "the tool's folder is supplied once";
+    write(drive("OrvanDiagnostics/ZMKXML/HTzz.xml"),
+          "<GA NAME='Last'><TRACE NAME='Named'><DESCRIPTION/></TRACE>"
+          "<TRACE><DESCRIPTION>Nameless</DESCRIPTION></TRACE></GA>");
+    const auto listed = runJson({"macro"}).json();
+    ASSERT_FALSE(listed.empty());
+    EXPECT_EQ("Named", listed.back()["trace"]) << "a nameless one is shown by the name before it";
+    for (const auto& one : listed) {
+        const std::string name =
+            one["group"].get<std::string>() + " - " + one["trace"].get<std::string>();
+        const Outcome set = run({"macro", "set", "--on", name});
+        EXPECT_THAT(set.err, testing::Not(HasSubstr("no macro trace"))) << name;
+    }
+}
+
 TEST_F(TraceResults, AComponentWithoutLevelsEndsTheListAndThatIsTold)
 {
     const auto components = runJson({"micro"}).json();

@@ -40,22 +40,7 @@ public:
         return true;
     }
 
-    /// As the wizard's tree names them: what has no name is shown by the one read before it.
-    std::vector<std::string> shown() const
-    {
-        std::vector<std::string> names;
-        std::string name;
-        for (const auto& group : merged_->getElementsByTagName("GA")) {
-            if (group->attribute("DONTSHOW")) continue;
-            name = group->attribute("NAME").value_or(name);
-            const std::string shownGroup = name;
-            for (const auto& trace : group->selectNodes("TRACE")) {
-                name = trace->attribute("NAME").value_or(name);
-                names.push_back(shownGroup + " - " + name);
-            }
-        }
-        return names;
-    }
+    const XmlDocument& merged() const { return *merged_; }
 
 private:
     /// By the tool's own path. A name that breaks it counts to what was found for the one before,
@@ -88,6 +73,22 @@ std::string catalogueFile(ToolContext& context)
 
 } // namespace
 
+std::vector<knownNames::ShownTrace> knownNames::shownTraces(const XmlDocument& catalogue)
+{
+    std::vector<ShownTrace> traces;
+    std::string name;
+    for (const auto& group : catalogue.getElementsByTagName("GA")) {
+        if (group->attribute("DONTSHOW")) continue;
+        name = group->attribute("NAME").value_or(name);
+        const std::string groupName = name;
+        for (const auto& trace : group->selectNodes("TRACE")) {
+            name = trace->attribute("NAME").value_or(name);
+            traces.push_back({groupName, name, trace});
+        }
+    }
+    return traces;
+}
+
 knownNames::MacroTraces knownNames::macroTraces(OpenTool& tool)
 {
     const Platform& platform = tool.context().platform;
@@ -96,7 +97,8 @@ knownNames::MacroTraces knownNames::macroTraces(OpenTool& tool)
     MergedDefinitions definitions(platform.xml);
     for (const std::string& file : platform.files.matching(folder + "HT*.xml"))
         if (!definitions.add(folder + file)) traces.passedOver.push_back(file);
-    traces.shown = definitions.shown();
+    for (const ShownTrace& shown : shownTraces(definitions.merged()))
+        traces.shown.push_back(shown.group + " - " + shown.trace);
     return traces;
 }
 

@@ -2,12 +2,25 @@
 
 #include "hosts/cli/open_tool.h"
 
+#include "platform/xml.h"
+
 #include <string>
 #include <vector>
 
 /// What the server of a site knows by name, for a look at a command's arguments before the tool
 /// starts. Looking leaves the site as it is.
 namespace knownNames {
+
+/// A macro trace by the names under which the wizard's tree shows it.
+struct ShownTrace {
+    std::string group;
+    std::string trace;
+    XmlElementPtr element;
+};
+
+/// The macro traces of a catalogue, in the order of the tree. What has no name is shown by the one
+/// that was read before it.
+std::vector<ShownTrace> shownTraces(const XmlDocument& catalogue);
 
 struct MacroTraces {
     std::vector<std::string> shown;      ///< "GROUP - TRACE" of each that the wizard shows

@@ -26,14 +26,10 @@ struct MacroTrace {
 std::vector<MacroTrace> shownMacroTraces(const XmlDocument& catalogue)
 {
     std::vector<MacroTrace> traces;
-    for (const auto& group : catalogue.selectNodes("HYBRIDTRACES/GA")) {
-        if (group->attribute("DONTSHOW")) continue;
-        for (const auto& trace : group->selectNodes("TRACE")) {
-            const auto description = trace->selectSingleNode("DESCRIPTION");
-            traces.push_back(
-                {group->attribute("NAME").value_or(""), trace->attribute("NAME").value_or(""),
-                 description ? description->text() : "", trace->attribute("Enabled") == "1"});
-        }
+    for (const auto& shown : knownNames::shownTraces(catalogue)) {
+        const auto description = shown.element->selectSingleNode("DESCRIPTION");
+        traces.push_back({shown.group, shown.trace, description ? description->text() : "",
+                          shown.element->attribute("Enabled") == "1"});
     }
     return traces;
 }
@@ -67,7 +63,7 @@ public:
                "levels;\n"
                "levels that another enabled macro trace needs, and default levels, come back.\n\n"
                "  orvandiag macro\n"
-               "  orvandiag macro set --on \"Message Waiting - Lamp not lit\"";
+               "  orvandiag macro set --on \"Call Flow - Transfers\"";
     }
 
     void declare(CLI::App& app) override
