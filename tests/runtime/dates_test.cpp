@@ -111,6 +111,10 @@ TEST(DateOf, RaisesInvalidCallForPartsOutOfTheirRanges)
         SCOPED_TRACE(c.because);
         EXPECT_EQ(5, errorOf([&] { dateOf(c.year, c.month, c.day, c.hour, c.minute, c.second); }));
     }
+    for (const int month : {1, 3, 5, 7, 8, 10, 12})
+        EXPECT_EQ(5, errorOf([&] { dateOf(2005, month, 32); })) << "month " << month;
+    for (const int month : {4, 6, 9, 11})
+        EXPECT_EQ(5, errorOf([&] { dateOf(2005, month, 31); })) << "month " << month;
     EXPECT_EQ(0, errorOf([] { dateOf(2000, 2, 29); }));
     EXPECT_EQ(-1.25, dateOf(1899, 12, 29, 6).days);
 }

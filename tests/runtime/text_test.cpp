@@ -150,6 +150,8 @@ TEST(Utf8CharacterLength, CountsTheBytesOfAWholeCharacterAndNoneOfABrokenOne)
         {"nothing begins with no character", "", 0},
         {"ASCII", "ab", 1},
         {"two bytes", "\xC3\xA9 and more", 2},
+        {"the first character of two bytes", "\xC2\x80", 2},
+        {"an overlong form of two bytes", "\xC1\xBF", 0},
         {"three bytes", "\xE2\x82\xAC", 3},
         {"four bytes", "\xF0\x9F\x93\x81", 4},
         {"a byte that only continues", "\x80", 0},

@@ -149,12 +149,16 @@ TEST_F(GatherLogSelection, NextTakesBothKindsInTheOrderOfTheTreeAndSkipsTheTimeF
 TEST_F(GatherLogSelection, EachNextTakesTheTicksAnew)
 {
     open();
+    tick(tree, "diag_KoCSMgr_2.txt");
     tick(tree, "Security");
     sheet->next();
     sheet->back();
+    tick(tree, "diag_KoCSMgr_2.txt", false);
+    tick(tree, "diag_KoNotify_1.txt");
     tick(tree, "Application");
     tick(tree, "Security", false);
     sheet->next();
+    EXPECT_THAT(serverLogs(), ElementsAre("diag_KoNotify_1.txt"));
     EXPECT_THAT(eventLogs(), ElementsAre("Application"));
 }
 
