@@ -22,6 +22,9 @@ public:
     bool isOpen() const { return descriptor_ >= 0; }
     int get() const { return descriptor_; }
 
+    /// Gives the file out of hand; whoever takes it closes it.
+    int release() { return std::exchange(descriptor_, -1); }
+
     /// Closes the file now, and gives the system's error number or 0.
     int close();
 

@@ -1,0 +1,311 @@
+#include "backends/portable/root_folder.h"
+
+#include "backends/portable/posix_errors.h"
+#include "backends/portable/utf8.h"
+
+#include <cerrno>
+#include <climits>
+#include <dirent.h>
+#include <fcntl.h>
+#include <string_view>
+#include <unistd.h>
+#include <utility>
+
+namespace {
+
+using namespace runTimeErrors;
+
+constexpr int folderFlags = O_PATH | O_DIRECTORY | O_CLOEXEC;
+constexpr int listingFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+
+std::string joined(const std::string& folder, const std::string& name)
+{
+    if (folder.empty() || name.empty()) return folder + name;
+    return folder + (folder.back() == '/' ? "" : "/") + name;
+}
+
+/// Names in an open folder, without "." and "..". Raises 76, 70.
+std::vector<std::string> namesOf(FileDescriptor folder)
+{
+    if (!folder.isOpen()) throw posixError(errno, pathNotFound);
+    const std::unique_ptr<DIR, int (*)(DIR*)> listing(::fdopendir(folder.get()), ::closedir);
+    if (!listing) throw posixError(errno, pathNotFound);
+    folder.release();
+    std::vector<std::string> names;
+    for (;;) {
+        errno = 0;
+        const dirent* entry = ::readdir(listing.get());
+        if (entry == nullptr && errno != 0) throw posixError(errno, pathNotFound);
+        if (entry == nullptr) return names;
+        const std::string_view name = entry->d_name;
+        if (name != "." && name != "..") names.emplace_back(name);
+    }
+}
+
+FileDescriptor openListing(int folder, const std::string& name)
+{
+    return FileDescriptor(::openat(folder, name.c_str(), listingFlags | O_NOFOLLOW));
+}
+
+std::int64_t sizeOf(FileDescriptor folder)
+{
+    std::int64_t size = 0;
+    FileDescriptor present(::fcntl(folder.get(), F_DUPFD_CLOEXEC, 0));
+    for (const auto& name : namesOf(std::move(folder))) {
+        struct stat facts {};
+        if (::fstatat(present.get(), name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) != 0)
+            continue; // gone since the listing
+        if (S_ISREG(facts.st_mode)) size += facts.st_size;
+        if (S_ISDIR(facts.st_mode)) size += sizeOf(openListing(present.get(), name));
+    }
+    return size;
+}
+
+void removeContents(FileDescriptor folder)
+{
+    FileDescriptor present(::fcntl(folder.get(), F_DUPFD_CLOEXEC, 0));
+    for (const auto& name : namesOf(std::move(folder))) {
+        struct stat facts {};
+        if (::fstatat(present.get(), name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) != 0)
+            throw posixError(errno, pathNotFound);
+        const bool isFolder = S_ISDIR(facts.st_mode);
+        if (isFolder) removeContents(openListing(present.get(), name));
+        if (S_ISREG(facts.st_mode) && (facts.st_mode & S_IWUSR) == 0)
+            throw RunTimeError(permissionDenied);
+        if (::unlinkat(present.get(), name.c_str(), isFolder ? AT_REMOVEDIR : 0) != 0)
+            throw posixError(errno, pathNotFound);
+    }
+}
+
+/// The first name that differs from `wanted` in case alone; nothing when there is none, or the
+/// folder may not be read.
+std::optional<std::string> nameIgnoringCase(FileDescriptor folder, const std::string& wanted)
+{
+    if (!folder.isOpen()) return {};
+    const auto folded = foldCase(wanted);
+    std::optional<std::string> found;
+    for (auto& name : namesOf(std::move(folder)))
+        if ((!found || name < *found) && foldCase(name) == folded) found = std::move(name);
+    return found;
+}
+
+/// What the system calls an open file.
+std::string nameOfDescriptor(int descriptor)
+{
+    char text[PATH_MAX];
+    const std::string link = "/proc/self/fd/" + std::to_string(descriptor);
+    const ssize_t length = ::readlink(link.c_str(), text, sizeof text);
+    return length <= 0 ? std::string() : std::string(text, static_cast<std::size_t>(length));
+}
+
+} // namespace
+
+std::string lastNameOf(const std::string& path)
+{
+    return path.substr(path.rfind('/') + 1);
+}
+
+std::string folderPathOf(const std::string& path)
+{
+    const auto slash = path.rfind('/');
+    return slash == std::string::npos ? std::string() : path.substr(0, slash);
+}
+
+RootFolder::RootFolder(const std::string& path, Bounds bounds)
+    : folder_(std::make_shared<FileDescriptor>(::open(path.c_str(), folderFlags))), path_(path),
+      bounds_(bounds)
+{
+    if (!folder_->isOpen()) throw posixError(errno, pathNotFound);
+}
+
+RootFolder::RootFolder(std::shared_ptr<FileDescriptor> folder, std::string path, Bounds bounds)
+    : folder_(std::move(folder)), path_(std::move(path)), bounds_(bounds)
+{}
+
+RootFolder RootFolder::below(const std::string& path) const
+{
+    auto folder = std::make_shared<FileDescriptor>(open(path, folderFlags));
+    if (!folder->isOpen()) fail(path, pathNotFound);
+    return {std::move(folder), shown(path), bounds_};
+}
+
+std::string RootFolder::shown(const std::string& path) const
+{
+    return joined(path_, path);
+}
+
+std::string RootFolder::machinePath(const std::string& path) const
+{
+    if (bounds_ == Bounds::machine) return shown(path);
+    const std::string top = nameOfDescriptor(folder_->get());
+    std::string rest;
+    for (std::string there = path;; there = folderPathOf(there)) {
+        const FileDescriptor file = open(there, O_PATH);
+        if (!file.isOpen() && errno != ENOENT && errno != ENOTDIR && errno != EACCES)
+            fail(there, permissionDenied);
+        const std::string name = file.isOpen() ? nameOfDescriptor(file.get()) : std::string();
+        if (top.empty() || (there.empty() && name.empty())) return shown(path);
+        if (name == top || (top == "/" && name.size() == 1)) return shown(rest);
+        const std::size_t start = top == "/" ? 0 : top.size();
+        if (!name.empty() && name.compare(0, start, top, 0, start) == 0 && name[start] == '/')
+            return shown(joined(name.substr(start + 1), rest));
+        rest = joined(lastNameOf(there), rest);
+    }
+}
+
+std::string RootFolder::pathIgnoringCase(const std::vector<std::string>& names) const
+{
+    std::string exact;
+    for (const auto& name : names) exact = joined(exact, name);
+    if (open(exact, O_PATH).isOpen()) return exact;
+    if (errno != ENOENT && errno != ENOTDIR && errno != EACCES) fail(exact, permissionDenied);
+    std::string path;
+    bool exists = true;
+    for (const auto& name : names) {
+        if (exists) {
+            const FileDescriptor folder = open(path, folderFlags);
+            if (!folder.isOpen() && (errno == EXDEV || errno == ELOOP))
+                fail(path, permissionDenied);
+            struct stat facts {};
+            exists = folder.isOpen() &&
+                     ::fstatat(folder.get(), name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) == 0;
+            if (!exists && folder.isOpen() && errno == ENOENT)
+                if (const auto other = nameIgnoringCase(openListing(folder.get(), "."), name)) {
+                    exists = true;
+                    path = joined(path, *other);
+                    continue;
+                }
+        }
+        path = joined(path, name);
+    }
+    if (exists && !open(path, O_PATH).isOpen() && (errno == EXDEV || errno == ELOOP))
+        fail(path, permissionDenied);
+    return path;
+}
+
+FileDescriptor RootFolder::open(const std::string& path, int flags, mode_t mode, Links links) const
+{
+    if (bounds_ == Bounds::beneath) return openBeneath(folder_->get(), path, flags, mode, links);
+    const char* name = path.empty() ? "." : path.c_str();
+    return FileDescriptor(::openat(folder_->get(), name, flags | O_CLOEXEC, mode));
+}
+
+FileDescriptor RootFolder::openFile(const std::string& path, int flags, int missing,
+                                    mode_t mode) const
+{
+    // What is no plain file is not waited for: a pipe has a writer, or none, that does not come.
+    FileDescriptor file = open(path, flags | O_NONBLOCK | O_NOCTTY, mode);
+    if (!file.isOpen() && errno != ENXIO && errno != ENODEV) fail(path, missing);
+    struct stat facts {};
+    if (!file.isOpen() || ::fstat(file.get(), &facts) != 0 ||
+        (!S_ISREG(facts.st_mode) && !S_ISDIR(facts.st_mode)))
+        throw RunTimeError(permissionDenied,
+                           "Permission denied: " + shown(path) + " is no plain file");
+    if (S_ISDIR(facts.st_mode)) throw RunTimeError(permissionDenied);
+    return file;
+}
+
+std::optional<struct stat> RootFolder::facts(const std::string& path) const
+{
+    struct stat facts {};
+    // A single name that is no link can't lead anywhere else.
+    if (path.find('/') == std::string::npos && !path.empty() && path != "..") {
+        if (::fstatat(folder_->get(), path.c_str(), &facts, AT_SYMLINK_NOFOLLOW) == 0) {
+            if (!S_ISLNK(facts.st_mode)) return facts;
+        } else if (errno == ENOENT) {
+            return {};
+        }
+    }
+    const FileDescriptor file = open(path, O_PATH);
+    if (file.isOpen() && ::fstat(file.get(), &facts) == 0) return facts;
+    if (errno == ENOENT || errno == ENOTDIR) return {};
+    fail(path, fileNotFound);
+}
+
+std::optional<struct stat> RootFolder::ownFacts(const std::string& path) const
+{
+    const FileDescriptor file = open(path, O_PATH | O_NOFOLLOW);
+    struct stat facts {};
+    if (file.isOpen() && ::fstat(file.get(), &facts) == 0) return facts;
+    if (errno == ENOENT || errno == ENOTDIR) return {};
+    fail(path, fileNotFound);
+}
+
+bool RootFolder::isFile(const std::string& path) const
+{
+    const FileDescriptor file = open(path, O_PATH);
+    struct stat facts {};
+    return file.isOpen() && ::fstat(file.get(), &facts) == 0 && S_ISREG(facts.st_mode);
+}
+
+bool RootFolder::isFolder(const std::string& path) const
+{
+    return open(path, folderFlags).isOpen();
+}
+
+std::vector<std::string> RootFolder::names(const std::string& path) const
+{
+    FileDescriptor folder = open(path, listingFlags);
+    if (!folder.isOpen()) fail(path, pathNotFound);
+    return namesOf(std::move(folder));
+}
+
+std::int64_t RootFolder::size(const std::string& path) const
+{
+    FileDescriptor folder = open(path, listingFlags);
+    if (!folder.isOpen()) fail(path, pathNotFound);
+    return sizeOf(std::move(folder));
+}
+
+FileDescriptor RootFolder::parentOf(const std::string& path, Links links) const
+{
+    FileDescriptor folder = open(folderPathOf(path), folderFlags, 0, links);
+    if (!folder.isOpen()) fail(folderPathOf(path), pathNotFound);
+    return folder;
+}
+
+void RootFolder::makeFolder(const std::string& path, mode_t mode) const
+{
+    if (path.empty()) throw RunTimeError(fileAlreadyExists);
+    const FileDescriptor parent = parentOf(path, Links::within);
+    if (::mkdirat(parent.get(), lastNameOf(path).c_str(), mode) != 0) fail(path, pathNotFound);
+}
+
+void RootFolder::makeFolders(const std::string& path) const
+{
+    if (path.empty() || isFolder(path)) return;
+    makeFolders(folderPathOf(path));
+    try {
+        makeFolder(path);
+    } catch (const RunTimeError& error) {
+        if (error.number() != fileAlreadyExists || !isFolder(path)) throw;
+    }
+}
+
+void RootFolder::removeFile(const std::string& path) const
+{
+    const FileDescriptor parent = parentOf(path, Links::none);
+    if (::unlinkat(parent.get(), lastNameOf(path).c_str(), 0) != 0) fail(path, fileNotFound);
+}
+
+void RootFolder::removeFolder(const std::string& path) const
+{
+    FileDescriptor folder = open(path, listingFlags | O_NOFOLLOW, 0, Links::none);
+    if (!folder.isOpen()) fail(path, pathNotFound);
+    const FileDescriptor parent = parentOf(path, Links::none);
+    removeContents(std::move(folder));
+    if (::unlinkat(parent.get(), lastNameOf(path).c_str(), AT_REMOVEDIR) != 0)
+        fail(path, pathNotFound);
+}
+
+void RootFolder::fail(const std::string& path, int missing) const
+{
+    const int error = errno;
+    if (error == EXDEV)
+        throw RunTimeError(permissionDenied,
+                           "Permission denied: " + shown(path) + " leads out of the site");
+    if (error == ELOOP)
+        throw RunTimeError(permissionDenied,
+                           "Permission denied: " + shown(path) + " is a link that is not followed");
+    throw posixError(error, missing);
+}
