@@ -6,6 +6,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
+using Words = std::vector<std::string>;
 
 struct BadInput : SampleSite {
     void expectOneLine(const Outcome& refused, int status, const std::string& part)
@@ -152,6 +153,25 @@ TEST_F(BadInput, AnEmptySiteShowsEmptyViews)
     EXPECT_EQ(0, status.json()["version"]["major"]);
     EXPECT_EQ(1u, orvandiag({"--json", "--site", bare.string(), "tree"}).json().size());
     expectOneLine(orvandiag({"--site", bare.string(), "cycle"}), 1, "BroadCast");
+}
+
+TEST_F(BadInput, ARegistryThatTakesNothingIsTheReasonWhyACommandFails)
+{
+    fs::permissions(site / "registry.reg", fs::perms::owner_read);
+    const std::string before = read(site / "registry.reg");
+    const std::string refused = "the registry did not take the value ";
+    expectOneLine(run({"cycle"}), 1, refused + "\"Cycle Diag File Time Set\": Permission denied");
+    for (const Words& words : {Words{"reset"}, Words{"micro", "set", "--on", "CallFlow:4"}}) {
+        SCOPED_TRACE(testing::PrintToString(words));
+        expectOneLine(run(words), 1,
+                      "the server was not told: " + refused + "\"Diagnostic Grid Time Set\"");
+    }
+    const std::string source = "the event source KoCSMgr could not be changed: the registry ";
+    expectOneLine(run({"event-language", "FRA"}), 1, source);
+    const Outcome moved = run({"settings", "--log-folder", "D:\\Other"});
+    EXPECT_EQ(1, moved.status);
+    EXPECT_THAT(moved.err, HasSubstr("the log folder could not be written: " + refused));
+    EXPECT_EQ(before, read(site / "registry.reg"));
 }
 
 } // namespace

@@ -38,6 +38,18 @@ const std::string& usableSite(const std::string& folder, ToolUse use)
     return folder;
 }
 
+/// The services with another registry.
+Platform withRegistry(const Platform& services, Registry& registry)
+{
+    return {services.files,         registry,
+            services.clock,         services.timeZone,
+            services.eventReporter, services.eventLogExporter,
+            services.processes,     services.workstation,
+            services.module,        services.languages,
+            services.desktop,       services.connection,
+            services.xml,           services.traceDatabases};
+}
+
 } // namespace
 
 OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check)
@@ -45,7 +57,8 @@ OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check
             SiteUse::look),
       traceDatabases_([this](const std::string& path) { return machinePath(path); },
                       site_.codePage()),
-      platform_(site_.platform(desktop_, traceDatabases_)),
+      registry_(site_.platform(desktop_, traceDatabases_).registry),
+      platform_(withRegistry(site_.platform(desktop_, traceDatabases_), registry_)),
       looking_(platform_, [this](const std::string& path) { return site_.paths().isOfSite(path); }),
       definition_(snapinDefinition()), console_(definition_), codePage_(site_.codePage())
 {

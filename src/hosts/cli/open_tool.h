@@ -5,6 +5,7 @@
 #include "core/tool_context.h"
 #include "hosts/cli/command.h"
 #include "hosts/cli/terminal_desktop.h"
+#include "hosts/cli/watched_registry.h"
 #include "hosts/common/looking_services.h"
 #include "platform/code_page.h"
 #include "platform/console.h"
@@ -49,6 +50,7 @@ public:
     snapinOrvanDiagnostics& snapIn() { return *snapIn_; }
     TerminalDesktop& desktop() { return desktop_; }
     const CodePage& codePage() const { return codePage_; }
+    WatchedRegistry& registry() { return registry_; }
 
     /// Where a path of the tool lies on this machine.
     std::string machinePath(const std::string& path) { return site_.paths().machinePath(path); }
@@ -70,6 +72,7 @@ private:
     Site site_;
     TerminalDesktop desktop_;
     jet::JetEngine traceDatabases_;
+    WatchedRegistry registry_;
     Platform platform_;
     LookingServices looking_;
     std::optional<ToolContext> context_;

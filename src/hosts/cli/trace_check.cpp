@@ -68,6 +68,7 @@ void TraceCheck::expect(TraceExpectation expected)
     std::error_code none;
     const auto size = fs::file_size(eventLogFile(), none);
     eventsBefore_ = none ? 0 : size;
+    tool_.registry().forget();
     tool_.context().onTrappedError = [this](const RunTimeError& error, std::string_view) {
         if (firstError_.empty()) firstError_ = error.description();
     };
@@ -84,9 +85,13 @@ void TraceCheck::requireSuccess()
     compareWords(wrong);
     compareRecords(wrong);
     compareEvents(wrong);
-    if (wrong.empty()) return;
+    const std::string& refusal = tool_.registry().refusal();
+    if (wrong.empty() && refusal.empty()) return;
+    if (wrong.empty())
+        throw CommandFailure("the traces were changed, but the server was not told: " + refusal);
+    const std::string& why = firstError_.empty() ? refusal : firstError_;
     throw CommandFailure("not every trace was changed: " + told(wrong) +
-                         (firstError_.empty() ? "" : ": " + firstError_));
+                         (why.empty() ? "" : ": " + why));
 }
 
 void TraceCheck::compareWords(std::vector<std::string>& wrong)

@@ -29,7 +29,7 @@ public:
     void expectLevel(const std::string& component, int level, bool on);
 
     /// Reads back flags, records and events. Raises CommandFailure when one of them is not as
-    /// expected.
+    /// expected, or the registry refused the signal to the server.
     void requireSuccess();
 
 private:

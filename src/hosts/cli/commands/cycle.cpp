@@ -21,7 +21,9 @@ public:
     void run(const GlobalOptions& options, Output& output) override
     {
         OpenTool tool(options, ToolUse::change);
+        tool.registry().forget();
         tool.console().clickTask(taskKey);
+        const std::string refusal = tool.registry().refusal();
         const RegistryData stored = getRegistryValue(tool.context(), HKEY_LOCAL_MACHINE,
                                                      std::string(logManagerKey) + "\\BroadCast",
                                                      signalName, REG_BINARY, {});
@@ -31,6 +33,7 @@ public:
         if (!bytes)
             throw CommandFailure("the signal could not be written: the site's registry has no key "
                                  "RoLogMgr\\BroadCast that takes it");
+        if (!refusal.empty()) throw CommandFailure("the signal was not given: " + refusal);
         if (output.json())
             output.value({{"signal", signalName}, {"bytes", hex(*bytes)}});
         else

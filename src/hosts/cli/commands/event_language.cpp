@@ -115,15 +115,18 @@ public:
 private:
     static void change(OpenTool& tool, SheetDriver& sheet, const std::string& language)
     {
+        tool.registry().forget();
         auto& list = sheet.control<ListBox>("lstAvailableLangs");
         const auto place = std::find(list.items().begin(), list.items().end(), language);
         list.chooseByPerson(static_cast<int>(place - list.items().begin()));
         sheet.apply();
+        const std::string& refusal = tool.registry().refusal();
         const auto sources = mdlLanguage::getEventLogKeys(tool.context());
         for (const std::string& source : sources) {
             const std::string file = mdlLanguage::eventMessageFile(tool.context(), source);
             if (mdlLanguage::determineCurrentLanguage(tool.context(), file) != language)
-                throw CommandFailure("the event source " + source + " could not be changed");
+                throw CommandFailure("the event source " + source + " could not be changed" +
+                                     (refusal.empty() ? "" : ": " + refusal));
         }
     }
 

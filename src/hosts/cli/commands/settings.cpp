@@ -93,10 +93,12 @@ public:
             throw UsageError("settings --log-folder needs a folder");
         const bool changes = megabytes_->count() > 0 || folder_->count() > 0;
         OpenTool tool(options, changes ? ToolUse::change : ToolUse::look);
+        tool.registry().forget();
         const bool rebootRequired = changes && change(tool);
         const ShownSettings shown = read(tool);
+        const std::string refusal = tool.registry().refusal();
         tool.close();
-        requireWritten(shown);
+        requireWritten(shown, refusal);
         report(output, shown, rebootRequired);
     }
 
@@ -126,13 +128,14 @@ private:
         return folder_->count() > 0 && logFolder_ != before.logFolder;
     }
 
-    void requireWritten(const ShownSettings& shown) const
+    void requireWritten(const ShownSettings& shown, const std::string& refusal) const
     {
         if (megabytes_->count() > 0 && shown.maxMegabytes != maxMegabytes_)
             throw CommandFailure("the server did not take the new space");
         if (folder_->count() > 0 && shown.logFolder != logFolder_)
-            throw CommandFailure("the log folder could not be written: this server has no key of "
-                                 "its log manager");
+            throw CommandFailure(
+                "the log folder could not be written: " +
+                (refusal.empty() ? "this server has no key of its log manager" : refusal));
     }
 
     static void report(Output& output, const ShownSettings& shown, bool rebootRequired)

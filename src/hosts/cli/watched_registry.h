@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/registry.h"
+
+#include <string>
+
+/// The site's registry, with a note of what it refused: the tool goes on after a value that was not
+/// written, and tells nobody.
+class WatchedRegistry final : public Registry {
+public:
+    /// `registry` outlives it.
+    explicit WatchedRegistry(Registry& registry) : registry_(registry) {}
+
+    bool keyExists(std::uint32_t hive, const std::string& path) const override;
+    std::optional<bool> createKey(std::uint32_t hive, const std::string& path) override;
+    std::optional<RegistryValue> value(std::uint32_t hive, const std::string& path,
+                                       const std::string& name) const override;
+    bool setValue(std::uint32_t hive, const std::string& path, const std::string& name,
+                  const RegistryValue& value) override;
+    std::optional<std::vector<std::string>> subkeys(std::uint32_t hive,
+                                                    const std::string& path) const override;
+
+    /// The first write since `forget` that was refused, and why, as the end of a sentence; empty
+    /// when there was none. A value of a key that is not there is none: no one was to write it.
+    const std::string& refusal() const { return refusal_; }
+
+    void forget() { refusal_.clear(); }
+
+private:
+    void note(const std::string& what, const std::string& why);
+
+    Registry& registry_;
+    std::string refusal_;
+};
