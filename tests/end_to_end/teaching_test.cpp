@@ -7,7 +7,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <regex>
 #include <sstream>
+
+#include <unistd.h>
 
 namespace {
 
@@ -132,6 +135,53 @@ TEST(HiddenOptions, AreTakenAndToldNowhere)
         const std::string told = orvandiag(teaching).out;
         EXPECT_THAT(told, testing::ContainsRegex("json")) << "what all of them tell";
         EXPECT_THAT(told, Not(testing::ContainsRegex("development"))) << teaching.back();
+    }
+}
+
+TEST(WrongUsage, NamesTheUnknownCommandAndTheHelpThatTellsMore)
+{
+    const struct {
+        Words words;
+        const char* told;
+    } cases[] = {
+        {{"statsu"}, "no command \"statsu\" (see orvandiag --help)"},
+        {{"gather", "frames"}, "no command \"frames\" (see orvandiag gather --help)"},
+        {{"--jsn"}, "no option \"--jsn\" (see orvandiag --help)"},
+        {{}, "A subcommand is required (see orvandiag --help)"},
+        {{"logs"}, "PROCESS is required (see orvandiag logs --help)"},
+        {{"gather", "frame"}, "--from is required (see orvandiag gather frame --help)"},
+        {{"macro", "set"}, "macro set needs an --on or an --off (see orvandiag macro set --help)"},
+    };
+    for (const auto& c : cases) {
+        const Outcome refused = orvandiag(c.words);
+        EXPECT_EQ(2, refused.status);
+        EXPECT_EQ("orvandiag: " + std::string(c.told) + "\n", refused.err);
+    }
+}
+
+TEST(Help, ExamplesNameWhatTheSampleHas)
+{
+    const auto folder = std::filesystem::temp_directory_path() /
+                        ("orvandiag-examples-" + std::to_string(::getpid()));
+    const std::string site = folder.string();
+    ASSERT_EQ(0, orvandiag({"sample", site}).status);
+    const std::string logs = orvandiag({"--site", site, "tree"}).out;
+    const std::string traces = orvandiag({"--site", site, "macro"}).out;
+    std::filesystem::remove_all(folder);
+    const struct {
+        Words command;
+        std::regex example;
+        const std::string& there;
+    } cases[] = {
+        {{"read", "--help"}, std::regex("read (diag_[^ ]*)"), logs},
+        {{"gather", "--help"}, std::regex("--log (diag_[^ ]*)"), logs},
+        {{"macro", "--help"}, std::regex("--on \"([^\"]*)\""), traces},
+    };
+    for (const auto& c : cases) {
+        const std::string help = orvandiag(c.command).out;
+        std::smatch found;
+        ASSERT_TRUE(std::regex_search(help, found, c.example)) << help;
+        EXPECT_THAT(c.there, HasSubstr(found.str(1)));
     }
 }
 

@@ -17,6 +17,12 @@ int refuse(const std::string& text, int status)
     return status;
 }
 
+/// Says what makes no sense, and which help tells more.
+int refuseUsage(const CLI::App& app, const std::string& text)
+{
+    return refuse(text + " (see " + chosenCommand(app) + " --help)", 2);
+}
+
 int run(int argc, char** argv)
 {
     GlobalOptions options;
@@ -31,12 +37,17 @@ int run(int argc, char** argv)
         std::printf("%s\n", versionText().c_str());
         return 0;
     } catch (const CLI::ParseError& error) {
-        return refuse(std::string(error.what()) + " (see orvandiag --help)", 2);
+        const std::string unknown = unknownCommand(*app);
+        return refuseUsage(*app, unknown.empty() ? error.what() : unknown);
     }
-    Output output(options.json);
-    for (auto& command : commands)
-        if (app->got_subcommand(command->name())) command->run(options, output);
-    output.finish();
+    try {
+        Output output(options.json);
+        for (auto& command : commands)
+            if (app->got_subcommand(command->name())) command->run(options, output);
+        output.finish();
+    } catch (const UsageError& error) {
+        return refuseUsage(*app, error.what());
+    }
     return 0;
 }
 
@@ -49,8 +60,6 @@ int main(int argc, char** argv)
     std::signal(SIGXFSZ, SIG_IGN);
     try {
         return run(argc, argv);
-    } catch (const UsageError& error) {
-        return refuse(std::string(error.what()) + " (see orvandiag --help)", 2);
     } catch (const RunTimeError& error) {
         return refuse(error.description(), 1);
     } catch (const std::bad_alloc&) {

@@ -64,6 +64,23 @@ std::unique_ptr<CLI::App> describeCommandLine(GlobalOptions& options,
     return app;
 }
 
+std::string chosenCommand(const CLI::App& app)
+{
+    const auto chosen = app.get_subcommands();
+    return chosen.empty() ? app.get_name() : app.get_name() + " " + chosenCommand(*chosen.front());
+}
+
+std::string unknownCommand(const CLI::App& app)
+{
+    const CLI::App* innermost = &app;
+    while (!innermost->get_subcommands().empty()) innermost = innermost->get_subcommands().front();
+    // The words that no command took wait in the outermost one.
+    const auto words = app.remaining(true);
+    if (innermost->get_require_subcommand_min() == 0 || words.empty()) return {};
+    const bool option = words.front().front() == '-';
+    return (option ? "no option \"" : "no command \"") + words.front() + "\"";
+}
+
 ModuleVersion moduleVersion()
 {
     return {ORVAN_VERSION_MAJOR, ORVAN_VERSION_MINOR, ORVAN_VERSION_PATCH};

@@ -34,7 +34,7 @@ public:
                "cancels,\n"
                "and keeps what was read. --dry-run lists what would be taken.\n\n"
                "  orvandiag gather standard --to ~/case-4711\n"
-               "  orvandiag gather logs --log diag_KoCSMgr_20250220_153011.txt --event-log System\n"
+               "  orvandiag gather logs --log diag_KoCSMgr_20250219_144115.txt --event-log System\n"
                "  orvandiag gather frame --from \"2025-02-20 16:42\" --hours 1 --to ~/case-4711";
     }
 

@@ -115,7 +115,7 @@ public:
                "the\n"
                "formatted copy in an editor.\n\n"
                "  orvandiag logs KoCSMgr\n"
-               "  orvandiag read diag_KoCSMgr_20250220_153011.txt | less -S\n"
+               "  orvandiag read diag_KoCSMgr_20250219_144115.txt | less -S\n"
                "  orvandiag --json read ./old.txt | grep '\"level\":2'";
     }
 
