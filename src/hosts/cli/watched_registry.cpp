@@ -38,13 +38,15 @@ std::optional<RegistryValue> WatchedRegistry::value(std::uint32_t hive, const st
 bool WatchedRegistry::setValue(std::uint32_t hive, const std::string& path, const std::string& name,
                                const RegistryValue& value)
 {
-    const std::string what = "value \"" + name + "\"";
+    const auto noteValue = [&](const std::string& why) {
+        ofValues_.emplace(name, note("value \"" + name + "\"", why));
+    };
     try {
         const bool written = registry_.setValue(hive, path, name, value);
-        if (!written && registry_.keyExists(hive, path)) note(what, permissionDenied());
+        if (!written && registry_.keyExists(hive, path)) noteValue(permissionDenied());
         return written;
     } catch (const RunTimeError& error) {
-        note(what, error.description());
+        noteValue(error.description());
         throw;
     }
 }
@@ -55,7 +57,21 @@ std::optional<std::vector<std::string>> WatchedRegistry::subkeys(std::uint32_t h
     return registry_.subkeys(hive, path);
 }
 
-void WatchedRegistry::note(const std::string& what, const std::string& why)
+std::string WatchedRegistry::refusalOf(const std::string& value) const
 {
-    if (refusal_.empty()) refusal_ = "the registry did not take the " + what + ": " + why;
+    const auto noted = ofValues_.find(value);
+    return noted == ofValues_.end() ? "" : noted->second;
+}
+
+void WatchedRegistry::forget()
+{
+    first_.clear();
+    ofValues_.clear();
+}
+
+std::string WatchedRegistry::note(const std::string& what, const std::string& why)
+{
+    std::string refusal = "the registry did not take the " + what + ": " + why;
+    if (first_.empty()) first_ = refusal;
+    return refusal;
 }

@@ -2,6 +2,7 @@
 
 #include "platform/registry.h"
 
+#include <map>
 #include <string>
 
 /// The site's registry, with a note of what it refused: the tool goes on after a value that was not
@@ -22,13 +23,17 @@ public:
 
     /// The first write since `forget` that was refused, and why, as the end of a sentence; empty
     /// when there was none. A value of a key that is not there is none: no one was to write it.
-    const std::string& refusal() const { return refusal_; }
+    const std::string& refusal() const { return first_; }
 
-    void forget() { refusal_.clear(); }
+    /// The same for the values of one name.
+    std::string refusalOf(const std::string& value) const;
+
+    void forget();
 
 private:
-    void note(const std::string& what, const std::string& why);
+    std::string note(const std::string& what, const std::string& why);
 
     Registry& registry_;
-    std::string refusal_;
+    std::string first_;
+    std::map<std::string, std::string> ofValues_;
 };

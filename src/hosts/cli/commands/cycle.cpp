@@ -23,7 +23,7 @@ public:
         OpenTool tool(options, ToolUse::change);
         tool.registry().forget();
         tool.console().clickTask(taskKey);
-        const std::string refusal = tool.registry().refusal();
+        const std::string refusal = tool.registry().refusalOf(signalName);
         const RegistryData stored = getRegistryValue(tool.context(), HKEY_LOCAL_MACHINE,
                                                      std::string(logManagerKey) + "\\BroadCast",
                                                      signalName, REG_BINARY, {});

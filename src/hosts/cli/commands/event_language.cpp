@@ -103,7 +103,7 @@ public:
                      sheet.control<TextBox>("txtCurrentLanguage").text(),
                      sheet.control<ListBox>("lstAvailableLangs").items()};
         }
-        if (keep_) mdlLanguage::recordOriginalLanguage(tool.context(), language);
+        if (keep_) keep(tool, language);
         tool.close();
         report(output, shown);
         if (keep_ && shown.original != language)
@@ -120,7 +120,7 @@ private:
         const auto place = std::find(list.items().begin(), list.items().end(), language);
         list.chooseByPerson(static_cast<int>(place - list.items().begin()));
         sheet.apply();
-        const std::string& refusal = tool.registry().refusal();
+        const std::string refusal = tool.registry().refusalOf("EventMessageFile");
         const auto sources = mdlLanguage::getEventLogKeys(tool.context());
         for (const std::string& source : sources) {
             const std::string file = mdlLanguage::eventMessageFile(tool.context(), source);
@@ -128,6 +128,13 @@ private:
                 throw CommandFailure("the event source " + source + " could not be changed" +
                                      (refusal.empty() ? "" : ": " + refusal));
         }
+    }
+
+    static void keep(OpenTool& tool, const std::string& language)
+    {
+        mdlLanguage::recordOriginalLanguage(tool.context(), language);
+        const std::string refusal = tool.registry().refusalOf("OriginalEventLogLanguage");
+        if (!refusal.empty()) throw CommandFailure(language + " can't be kept: " + refusal);
     }
 
     void report(Output& output, const EventLanguages& shown) const

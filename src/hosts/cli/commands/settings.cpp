@@ -96,7 +96,7 @@ public:
         tool.registry().forget();
         const bool rebootRequired = changes && change(tool);
         const ShownSettings shown = read(tool);
-        const std::string refusal = tool.registry().refusal();
+        const std::string refusal = tool.registry().refusalOf("Output Path");
         tool.close();
         requireWritten(shown, refusal);
         report(output, shown, rebootRequired);
