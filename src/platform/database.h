@@ -6,7 +6,9 @@
 #include <memory>
 #include <string>
 
-/// How a recordset moves through its rows; the numbers are the data provider's own.
+/// How a recordset moves through its rows; the numbers are the data provider's own. A keyset holds
+/// which rows there were at its opening, and shows each as it is when the cursor comes to it; a row
+/// that has gone by then is passed over. Rows that nothing tells apart it shows as they were.
 enum class CursorKind { forwardOnly = 0, keyset = 1 };
 
 /// Whether and when a recordset's rows are locked.
@@ -29,7 +31,7 @@ public:
     /// Raises 3021 at the end.
     virtual void moveNext() = 0;
 
-    /// The number of rows; -1 for a forward-only cursor, which can't tell.
+    /// The number of rows at the opening; -1 for a forward-only cursor, which can't tell.
     virtual int rowCount() const = 0;
 
     /// A second call raises 3704.

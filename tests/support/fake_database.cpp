@@ -10,8 +10,13 @@ namespace {
 
 class FakeRecordset final : public DatabaseRecordset {
 public:
-    FakeRecordset(std::vector<FakeDatabase::Row> rows, CursorKind cursor, std::shared_ptr<int> open)
-        : rows_(std::move(rows)), cursor_(cursor), open_(std::move(open))
+    /// Gives a row as it is now, by its place.
+    using Reading = std::function<FakeDatabase::Row(std::size_t)>;
+
+    FakeRecordset(std::vector<FakeDatabase::Row> rows, Reading present, CursorKind cursor,
+                  std::shared_ptr<int> open)
+        : rows_(std::move(rows)), present_(std::move(present)), cursor_(cursor),
+          open_(std::move(open))
     {
         ++*open_;
     }
@@ -39,6 +44,7 @@ public:
     {
         if (atEnd()) throw RunTimeError(databaseErrors::noCurrentRow);
         ++position_;
+        if (cursor_ == CursorKind::keyset && !atEnd()) rows_[position_] = present_(position_);
     }
 
     int rowCount() const override
@@ -61,6 +67,7 @@ private:
     }
 
     std::vector<FakeDatabase::Row> rows_;
+    Reading present_;
     CursorKind cursor_;
     std::shared_ptr<int> open_;
     std::size_t position_ = 0;
@@ -213,6 +220,12 @@ std::int32_t FakeDatabase::flagsOf(const std::string& component) const
     return 0;
 }
 
+void FakeDatabase::setFlags(const std::string& component, std::int32_t flags)
+{
+    for (auto& row : views_.at("vw_LoggerDiagnosticGrid"))
+        if (row.at("Name") == Value(component)) row["Flags"] = flags;
+}
+
 void FakeDatabase::open(const std::string& connectionString, const std::string&, const std::string&)
 {
     connectionStrings_.push_back(connectionString);
@@ -241,16 +254,23 @@ std::unique_ptr<DatabaseRecordset> FakeDatabase::openRecordset(const std::string
     if (view == views_.end())
         throw RunTimeError(databaseErrors::noSuchTable,
                            "Invalid object name '" + parts[2].str() + "'.");
-    std::vector<Row> source = view->second;
+    std::vector<std::size_t> places;
+    for (std::size_t place = 0; place < view->second.size(); ++place)
+        if (!parts[3].matched || view->second[place].at(parts[3]) == Value(parts[4].str()))
+            places.push_back(place);
     if (parts[5].matched)
-        std::stable_sort(source.begin(), source.end(), [&](const Row& left, const Row& right) {
-            return sortKey(left.at(parts[5])) < sortKey(right.at(parts[5]));
+        std::stable_sort(places.begin(), places.end(), [&](std::size_t left, std::size_t right) {
+            return sortKey(view->second[left].at(parts[5])) <
+                   sortKey(view->second[right].at(parts[5]));
         });
+    const auto present = [this, places, name = parts[2].str(),
+                          list = parts[1].str()](std::size_t position) {
+        return selected(views_.at(name)[places[position]], list);
+    };
     std::vector<Row> rows;
-    for (const auto& row : source)
-        if (!parts[3].matched || row.at(parts[3]) == Value(parts[4].str()))
-            rows.push_back(selected(row, parts[1]));
-    return std::make_unique<FakeRecordset>(std::move(rows), cursor, openRecordsets_);
+    for (std::size_t position = 0; position < places.size(); ++position)
+        rows.push_back(present(position));
+    return std::make_unique<FakeRecordset>(std::move(rows), present, cursor, openRecordsets_);
 }
 
 std::unique_ptr<DatabaseCommand> FakeDatabase::createCommand()

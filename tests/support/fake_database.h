@@ -59,6 +59,9 @@ public:
 
     std::int32_t flagsOf(const std::string& component) const;
 
+    /// Changes a component's word, as another program does.
+    void setFlags(const std::string& component, std::int32_t flags);
+
     int state() const override { return state_; }
     void open(const std::string& connectionString, const std::string& user,
               const std::string& password) override;

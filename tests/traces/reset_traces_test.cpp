@@ -68,6 +68,25 @@ TEST_F(ResetTraces, WritesEveryComponentOnceInTheOrderOfTheirNamesAlsoWithoutACh
     EXPECT_EQ("csp_LoggerDiagnosticGridModify", tool.database.calls()[1].procedure);
 }
 
+TEST_F(ResetTraces, KeepsWhatAnotherProgramChangedWhileTheRowsWereWalked)
+{
+    tool.database.withComponent("A", 0, 1).withComponent("B", 0, 1);
+    tool.database.withProcedure("csp_LoggerDiagnosticGridModify",
+                                {"@AuditAlias", "@AuditComponent", "@Name", "@ObjectId", "@Flags"},
+                                [this, others = true](const FakeDatabase::Call& call) mutable {
+                                    tool.database.setFlags(
+                                        valueAsText(call.parameters.at("@ObjectId")).substr(3),
+                                        valueAsInteger32(call.parameters.at("@Flags")));
+                                    if (std::exchange(others, false))
+                                        tool.database.setFlags("B", 64);
+                                });
+
+    restore();
+
+    EXPECT_EQ(1, flags("A"));
+    EXPECT_EQ(65, flags("B"));
+}
+
 TEST_F(ResetTraces, ReadsFlagWordsByWayOfTheirText)
 {
     tool.database.withComponent("A", 0, 0).withRow("vw_LoggerDiagnosticGrid",

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <unordered_set>
 #include <utility>
 
 #include <sqlite3.h>
@@ -43,13 +44,37 @@ SqliteRecordset::SqliteRecordset(std::shared_ptr<SqliteHandle> handle, const std
     for (int column = 0; column < count; ++column)
         columns_.emplace_back(sqlite3_column_name(statement_.get(), column));
     row_ = step();
-    if (cursor_ != CursorKind::keyset) return;
+    if (cursor_ == CursorKind::keyset) findKeys(query);
+}
+
+/// Reads all rows, and finds out what tells them apart.
+void SqliteRecordset::findKeys(const std::string& query)
+{
+    std::vector<bool> texts(columns_.size(), true);
     for (; row_; row_ = step()) {
-        auto& row = rows_.emplace_back();
-        for (int column = 0; column < count; ++column)
-            row.push_back(columnValue(statement_.get(), column));
+        for (std::size_t column = 0; column < columns_.size(); ++column)
+            if (sqlite3_column_type(statement_.get(), static_cast<int>(column)) != SQLITE_TEXT)
+                texts[column] = false;
+        rows_.push_back(rowAtHand(statement_.get()));
     }
     statement_ = {};
+    for (std::size_t column = 0; column < columns_.size() && !keyColumn_; ++column) {
+        std::unordered_set<std::string> different;
+        for (const Row& row : rows_)
+            if (texts[column]) different.insert(std::get<std::string>(row[column]));
+        if (different.size() == rows_.size()) keyColumn_ = column;
+    }
+    if (rows_.empty() || !keyColumn_) return;
+    again_ = handle_->prepare("SELECT * FROM (" + query + ") WHERE \"" +
+                              replaceAll(columns_[*keyColumn_], "\"", "\"\"") + "\" IS ?");
+}
+
+SqliteRecordset::Row SqliteRecordset::rowAtHand(sqlite3_stmt* statement) const
+{
+    Row row;
+    for (std::size_t column = 0; column < columns_.size(); ++column)
+        row.push_back(columnValue(statement, static_cast<int>(column)));
+    return row;
 }
 
 bool SqliteRecordset::atEnd() const
@@ -67,17 +92,45 @@ Value SqliteRecordset::field(const std::string& name) const
     if (found == columns_.end()) throw RunTimeError(runTimeErrors::itemNotInCollection);
     if (atEnd()) throw RunTimeError(databaseErrors::noCurrentRow);
     const auto column = found - columns_.begin();
-    return cursor_ == CursorKind::keyset ? rows_[position_][static_cast<std::size_t>(column)]
+    return cursor_ == CursorKind::keyset ? present()[static_cast<std::size_t>(column)]
                                          : columnValue(statement_.get(), static_cast<int>(column));
+}
+
+/// The row at hand of a keyset. One that could not be read when it was come to is read now: what
+/// it was at the opening may be long out of date.
+const SqliteRecordset::Row& SqliteRecordset::present() const
+{
+    if (!read_ && !readAgain()) throw RunTimeError(databaseErrors::noCurrentRow);
+    return rows_[position_];
+}
+
+/// Reads the row at hand as it is now. False when it has gone.
+bool SqliteRecordset::readAgain() const
+{
+    if (!again_.get()) return read_ = true;
+    const auto& key = std::get<std::string>(rows_[position_][*keyColumn_]);
+    sqlite3_bind_text(again_.get(), 1, key.data(), static_cast<int>(key.size()), SQLITE_TRANSIENT);
+    const int result = sqlite3_step(again_.get());
+    if (result == SQLITE_ROW) {
+        rows_[position_] = rowAtHand(again_.get());
+        read_ = true;
+    }
+    sqlite3_reset(again_.get());
+    if (result != SQLITE_ROW && result != SQLITE_DONE) handle_->fail();
+    return read_;
 }
 
 void SqliteRecordset::moveNext()
 {
     if (atEnd()) throw RunTimeError(databaseErrors::noCurrentRow);
-    if (cursor_ == CursorKind::keyset)
-        ++position_;
-    else
+    if (cursor_ == CursorKind::forwardOnly) {
         row_ = step();
+        return;
+    }
+    do {
+        ++position_;
+        read_ = false;
+    } while (position_ < rows_.size() && !readAgain());
 }
 
 int SqliteRecordset::rowCount() const
@@ -91,6 +144,7 @@ void SqliteRecordset::close()
     requireOpen();
     open_ = false;
     statement_ = {};
+    again_ = {};
     rows_.clear();
 }
 

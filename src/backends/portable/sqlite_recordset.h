@@ -3,12 +3,17 @@
 #include "backends/portable/sqlite_handle.h"
 #include "platform/database.h"
 
+#include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
-/// The rows of a query on an SQLite database. A keyset cursor reads all rows at once, so that the
-/// table may be written to while it is walked; a forward-only one reads them one by one.
+/// The rows of a query on an SQLite database. A keyset cursor finds all rows at once, so that the
+/// table may be written to while it is walked, and reads each again when it comes to it; a
+/// forward-only one reads them one by one.
+///
+/// What tells the rows of a keyset apart is the first column that holds a text of its own for each.
 class SqliteRecordset final : public DatabaseRecordset {
 public:
     /// Raises as DatabaseConnection::openRecordset.
@@ -22,7 +27,13 @@ public:
     void close() override;
 
 private:
+    using Row = std::vector<Value>;
+
     void requireOpen() const;
+    Row rowAtHand(sqlite3_stmt* statement) const;
+    void findKeys(const std::string& query);
+    const Row& present() const;
+    bool readAgain() const;
 
     /// Moves the statement on. True for a row.
     bool step();
@@ -33,6 +44,11 @@ private:
     bool open_ = true;
     bool row_ = false; ///< the statement stands on a row
     std::vector<std::string> columns_;
-    std::vector<std::vector<Value>> rows_; ///< of a keyset
     std::size_t position_ = 0;
+
+    // Of a keyset.
+    mutable std::vector<Row> rows_;        ///< those the cursor has come to as they were then
+    std::optional<std::size_t> keyColumn_; ///< nothing where no column tells the rows apart
+    SqliteStatement again_;                ///< finds a row by its key
+    mutable bool read_ = true;             ///< the row at hand is as it was when it was come to
 };

@@ -63,6 +63,11 @@ struct SiteDatabaseTest : testing::Test {
         return one("SELECT Flags FROM vw_LoggerDiagnosticGrid WHERE Name = '" + name + "'");
     }
 
+    std::unique_ptr<DatabaseRecordset> keyset(const std::string& query)
+    {
+        return database.openRecordset(query, CursorKind::keyset, LockKind::optimistic);
+    }
+
     const fs::path folder =
         fs::temp_directory_path() / ("orvan_database_" + std::to_string(getpid()));
     const std::string file = (folder / "OrvanDirDb.sqlite").string();
@@ -139,6 +144,56 @@ TEST_F(SiteDatabaseTest, CountsAndKeepsTheRowsOfAKeysetWhileTheTableChanges)
     }
     EXPECT_EQ(3, seen);
     EXPECT_EQ(Value(64), flags("B"));
+}
+
+TEST_F(SiteDatabaseTest, ShowsARowOfAKeysetAsItIsWhenTheCursorComesToIt)
+{
+    open();
+    auto rows = keyset("SELECT ObjectId, DefaultFlags, Flags FROM vw_LoggerDiagnosticGrid "
+                       "ORDER BY Name");
+    execute(file, "UPDATE grid SET Flags = 70 WHERE Name = 'A';"
+                  "UPDATE grid SET Flags = 71 WHERE Name = 'B'");
+    EXPECT_EQ(Value(5), rows->field("Flags")) << "come to at the opening";
+    rows->moveNext();
+    EXPECT_EQ(Value(std::string("2")), rows->field("ObjectId"));
+    EXPECT_EQ(Value(71), rows->field("Flags"));
+    execute(file, "UPDATE grid SET Flags = 72 WHERE Name IN ('B', 'O''Brien')");
+    EXPECT_EQ(Value(71), rows->field("Flags")) << "while the cursor stands there";
+    rows->moveNext();
+    EXPECT_EQ(Value(72), rows->field("Flags"));
+    rows->moveNext();
+    EXPECT_TRUE(rows->atEnd());
+}
+
+TEST_F(SiteDatabaseTest, PassesOverARowOfAKeysetThatHasGone)
+{
+    open();
+    auto rows = keyset("SELECT Name, Flags FROM vw_LoggerDiagnosticGrid ORDER BY Name");
+    execute(file, "DELETE FROM grid WHERE Name = 'B';"
+                  "INSERT INTO grid VALUES('C','4',1,1)");
+    rows->moveNext();
+    EXPECT_EQ(Value(std::string("O'Brien")), rows->field("Name"));
+    execute(file, "DELETE FROM grid");
+    EXPECT_EQ(Value(7), rows->field("Flags"));
+    rows->moveNext();
+    EXPECT_TRUE(rows->atEnd());
+    EXPECT_EQ(3, rows->rowCount());
+}
+
+TEST_F(SiteDatabaseTest, ShowsRowsOfAKeysetThatNothingTellsApartAsTheyWere)
+{
+    execute(file, "UPDATE grid SET Name = 'A'");
+    open();
+    for (const char* query : {"SELECT Name, Flags FROM vw_LoggerDiagnosticGrid ORDER BY ObjectId",
+                              "SELECT CAST(ObjectId AS BLOB) Id, Flags FROM grid ORDER BY Id"}) {
+        SCOPED_TRACE(query);
+        execute(file, "UPDATE grid SET Flags = 5");
+        auto rows = keyset(query);
+        execute(file, "UPDATE grid SET Flags = 6");
+        int seen = 0;
+        for (; !rows->atEnd(); rows->moveNext(), ++seen) EXPECT_EQ(Value(5), rows->field("Flags"));
+        EXPECT_EQ(3, seen);
+    }
 }
 
 TEST_F(SiteDatabaseTest, KeepsARecordsetWhenAnotherOfItsQueryIsClosed)
@@ -261,6 +316,24 @@ TEST_F(SiteDatabaseTest, RefusesAStatementWhenAnotherProgramHoldsTheDatabaseTooL
     EXPECT_EQ(Value(5), read());
     setFlags(impatient, "1", 64);
     EXPECT_EQ(Value(64), read());
+}
+
+TEST_F(SiteDatabaseTest, ShowsNoRowOfAKeysetThatItCouldNotReadAgain)
+{
+    SiteDatabase impatient{file, std::chrono::milliseconds(30)};
+    impatient.open("", "", "");
+    auto rows = impatient.openRecordset("SELECT Name, Flags FROM vw_LoggerDiagnosticGrid",
+                                        CursorKind::keyset, LockKind::optimistic);
+    {
+        const Lock lock(file);
+        EXPECT_EQ(databaseErrors::statementRefused, errorOf([&] { rows->moveNext(); }));
+        EXPECT_FALSE(rows->atEnd());
+        EXPECT_EQ(databaseErrors::statementRefused, errorOf([&] { rows->field("Flags"); }));
+    }
+    execute(file, "UPDATE grid SET Flags = 6 WHERE Name = 'B'");
+    EXPECT_EQ(Value(6), rows->field("Flags"));
+    rows->moveNext();
+    EXPECT_EQ(Value(std::string("O'Brien")), rows->field("Name"));
 }
 
 TEST_F(SiteDatabaseTest, WaitsOnceForAllStatementsAndConnectionsOfARun)
