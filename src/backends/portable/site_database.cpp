@@ -47,6 +47,7 @@ public:
     {
         const auto handle = database_.handle();
         parameters_.clear();
+        handle->beginCall();
         SqliteRecordset columns(handle,
                                 "SELECT name FROM pragma_table_info('" +
                                     replaceAll(procedure_, "'", "''") + "')",

@@ -202,6 +202,27 @@ sqlite3_stmt* SqliteHandle::compile(const std::string& sql) const
     return statement;
 }
 
+void SqliteHandle::beginCall()
+{
+    if (walks_ == 0 || sqlite3_get_autocommit(database_) == 0) return;
+    patience_->begin();
+    if (sqlite3_exec(database_, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) != SQLITE_OK) fail();
+    ++change_;
+}
+
+void SqliteHandle::endWalk()
+{
+    if (--walks_ > 0 || sqlite3_get_autocommit(database_) != 0) return;
+    patience_->begin();
+    if (sqlite3_exec(database_, "COMMIT", nullptr, nullptr, nullptr) == SQLITE_OK) return;
+    try {
+        fail();
+    } catch (const RunTimeError&) {
+        sqlite3_exec(database_, "ROLLBACK", nullptr, nullptr, nullptr);
+        throw;
+    }
+}
+
 void SqliteHandle::fail() const
 {
     const std::string text = failureText(database_);

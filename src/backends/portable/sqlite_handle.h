@@ -49,6 +49,18 @@ public:
     /// A statement ready to step. Raises as DatabaseConnection::openRecordset.
     SqliteStatement prepare(const std::string& sql);
 
+    /// While a walk is under way, from `beginWalk` to `endWalk`, the calls of procedures are one
+    /// change, which begins with the first `beginCall`: nobody else changes a row between its
+    /// reading and its writing, and each row needs no writing to the disk by itself. The end of the
+    /// last walk makes the change lasting. `beginCall` and `endWalk` raise as a statement; a change
+    /// that can't be made lasting is undone.
+    void beginWalk() { ++walks_; }
+    void beginCall();
+    void endWalk();
+
+    /// The number of the change under way, or of the next one.
+    unsigned change() const { return change_; }
+
     /// The present failure as an error. A file that can't be read any more breaks the connection.
     [[noreturn]] void fail() const;
 
@@ -71,4 +83,6 @@ private:
     sqlite3* database_ = nullptr;
     mutable bool broken_ = false;
     std::unordered_map<std::string, sqlite3_stmt*> statements_;
+    int walks_ = 0;
+    unsigned change_ = 0;
 };

@@ -44,7 +44,25 @@ SqliteRecordset::SqliteRecordset(std::shared_ptr<SqliteHandle> handle, const std
     for (int column = 0; column < count; ++column)
         columns_.emplace_back(sqlite3_column_name(statement_.get(), column));
     row_ = step();
-    if (cursor_ == CursorKind::keyset) findKeys(query);
+    if (cursor_ != CursorKind::keyset) return;
+    findKeys(query);
+    readIn_ = handle_->change();
+    walking_ = !rows_.empty();
+    if (walking_) handle_->beginWalk();
+}
+
+SqliteRecordset::~SqliteRecordset()
+{
+    try {
+        endWalk();
+    } catch (const RunTimeError&) {
+        // Who left the walk before its end has met with trouble already.
+    }
+}
+
+void SqliteRecordset::endWalk()
+{
+    if (std::exchange(walking_, false)) handle_->endWalk();
 }
 
 /// Reads all rows, and finds out what tells them apart.
@@ -97,9 +115,11 @@ Value SqliteRecordset::field(const std::string& name) const
 }
 
 /// The row at hand of a keyset. One that could not be read when it was come to is read now: what
-/// it was at the opening may be long out of date.
+/// it was at the opening may be long out of date. So is one that was read before others were kept
+/// from changing it.
 const SqliteRecordset::Row& SqliteRecordset::present() const
 {
+    if (readIn_ != handle_->change()) read_ = false;
     if (!read_ && !readAgain()) throw RunTimeError(databaseErrors::noCurrentRow);
     return rows_[position_];
 }
@@ -107,6 +127,7 @@ const SqliteRecordset::Row& SqliteRecordset::present() const
 /// Reads the row at hand as it is now. False when it has gone.
 bool SqliteRecordset::readAgain() const
 {
+    readIn_ = handle_->change();
     if (!again_.get()) return read_ = true;
     const auto& key = std::get<std::string>(rows_[position_][*keyColumn_]);
     sqlite3_bind_text(again_.get(), 1, key.data(), static_cast<int>(key.size()), SQLITE_TRANSIENT);
@@ -131,6 +152,7 @@ void SqliteRecordset::moveNext()
         ++position_;
         read_ = false;
     } while (position_ < rows_.size() && !readAgain());
+    if (position_ >= rows_.size()) endWalk();
 }
 
 int SqliteRecordset::rowCount() const
@@ -146,6 +168,7 @@ void SqliteRecordset::close()
     statement_ = {};
     again_ = {};
     rows_.clear();
+    endWalk();
 }
 
 void SqliteRecordset::requireOpen() const

@@ -13,12 +13,16 @@
 /// table may be written to while it is walked, and reads each again when it comes to it; a
 /// forward-only one reads them one by one.
 ///
+/// What is changed while the rows of a keyset are walked is one change (SqliteHandle::beginWalk)
+/// until the cursor is past the last row, or the recordset is closed or gone.
+///
 /// What tells the rows of a keyset apart is the first column that holds a text of its own for each.
 class SqliteRecordset final : public DatabaseRecordset {
 public:
     /// Raises as DatabaseConnection::openRecordset.
     SqliteRecordset(std::shared_ptr<SqliteHandle> handle, const std::string& query,
                     CursorKind cursor);
+    ~SqliteRecordset() override;
 
     bool atEnd() const override;
     Value field(const std::string& name) const override;
@@ -34,6 +38,7 @@ private:
     void findKeys(const std::string& query);
     const Row& present() const;
     bool readAgain() const;
+    void endWalk();
 
     /// Moves the statement on. True for a row.
     bool step();
@@ -51,4 +56,6 @@ private:
     std::optional<std::size_t> keyColumn_; ///< nothing where no column tells the rows apart
     SqliteStatement again_;                ///< finds a row by its key
     mutable bool read_ = true;             ///< the row at hand is as it was when it was come to
+    mutable unsigned readIn_ = 0;          ///< the handle's change at that time
+    bool walking_ = false;
 };

@@ -33,7 +33,7 @@ const std::string& usableSite(const std::string& folder, ToolUse use)
         throw CommandFailure(folder +
                              " is not a site (no site.ini, registry.reg or drive_c in it); " +
                              "orvandiag sample makes one to try things on");
-    if (use == ToolUse::change && ::access(folder.c_str(), W_OK) != 0)
+    if (use != ToolUse::look && ::access(folder.c_str(), W_OK) != 0)
         throw CommandFailure("the site " + folder + " is read-only");
     return folder;
 }
@@ -53,8 +53,8 @@ Platform withRegistry(const Platform& services, Registry& registry)
 } // namespace
 
 OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check)
-    : site_(usableSite(options.site, use), installedDataFolder(), hostFacts(options),
-            SiteUse::look),
+    : use_(use), site_(usableSite(options.site, use), installedDataFolder(), hostFacts(options),
+                       SiteUse::look),
       traceDatabases_([this](const std::string& path) { return machinePath(path); },
                       site_.codePage()),
       registry_(site_.platform(desktop_, traceDatabases_).registry),
@@ -66,8 +66,9 @@ OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check
         context_.emplace(looking_.platform());
         check(*this);
     }
-    if (use == ToolUse::change) site_.startChanges();
-    context_.emplace(use == ToolUse::change ? platform_ : looking_.platform());
+    if (use == ToolUse::change) turn_.emplace(site_.folder());
+    if (use != ToolUse::look) site_.startChanges();
+    context_.emplace(use == ToolUse::look ? looking_.platform() : platform_);
     snapIn_.emplace(*context_, console_);
     context_->onTrappedError = [this](const RunTimeError& error, std::string_view procName) {
         if (procName == "[mdlOrvanDatabase]openOrvanDB") databaseFailure_ = error.description();
@@ -89,7 +90,17 @@ OpenTool::~OpenTool()
 void OpenTool::close()
 {
     loaded_ = false;
+    // What the tool puts back as it goes is changed like anything else.
+    if (use_ == ToolUse::add) takeTurnIfItComes();
     console_.unload();
+    turn_.reset();
+}
+
+void OpenTool::takeTurnIfItComes()
+try {
+    turn_.emplace(site_.folder());
+} catch (const RunTimeError&) {
+    // What was gathered is not lost for it.
 }
 
 std::string OpenTool::toolPath(const std::string& typed) const

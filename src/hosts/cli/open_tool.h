@@ -2,6 +2,7 @@
 
 #include "backends/jet/jet_engine.h"
 #include "backends/portable/site.h"
+#include "backends/portable/site_turn.h"
 #include "core/tool_context.h"
 #include "hosts/cli/command.h"
 #include "hosts/cli/terminal_desktop.h"
@@ -17,8 +18,9 @@
 
 /// What a command opens the tool for.
 enum class ToolUse {
-    change,
-    look, ///< leaves no event, log or value, and needs no leave to write
+    change, ///< one program at a time: what is read stays so until it is written
+    add,    ///< events, logs and gathered files, beside programs that change something
+    look,   ///< leaves no event, log or value, and needs no leave to write
 };
 
 /// The tool at work on a site: from its loading to its unloading, with a terminal for a desktop.
@@ -28,7 +30,7 @@ public:
 
     /// Opens the site, and loads the snap-in into a console. Raises CommandFailure for a folder
     /// that is no site, or may not be written to by a command that changes it; RunTimeError for a
-    /// damaged one.
+    /// damaged one, and for one that another program keeps on changing.
     ///
     /// `check` looks at the command's arguments on the open site, before the tool starts and before
     /// anything is made there: what it raises ends the command with nothing changed. Its context
@@ -41,7 +43,7 @@ public:
     /// Unloads the snap-in when a failure kept the command from `close`.
     ~OpenTool();
 
-    /// Unloads the snap-in. Raises what it raises.
+    /// Unloads the snap-in, and lets others change the site. Raises what the snap-in raises.
     void close();
 
     Site& site() { return site_; }
@@ -69,6 +71,10 @@ public:
     ScopeItem& processes();
 
 private:
+    void takeTurnIfItComes();
+
+    ToolUse use_;
+    std::optional<SiteTurn> turn_;
     Site site_;
     TerminalDesktop desktop_;
     jet::JetEngine traceDatabases_;

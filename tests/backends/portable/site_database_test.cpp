@@ -336,6 +336,82 @@ TEST_F(SiteDatabaseTest, ShowsNoRowOfAKeysetThatItCouldNotReadAgain)
     EXPECT_EQ(Value(std::string("O'Brien")), rows->field("Name"));
 }
 
+/// What another program's statement comes to.
+int othersResult(const std::string& file, const char* sql)
+{
+    sqlite3* other = nullptr;
+    sqlite3_open(file.c_str(), &other);
+    const int result = sqlite3_exec(other, sql, nullptr, nullptr, nullptr);
+    sqlite3_close(other);
+    return result;
+}
+
+constexpr const char* walkedQuery =
+    "SELECT Name, ObjectId, Flags FROM vw_LoggerDiagnosticGrid ORDER BY Name";
+constexpr const char* othersChange = "UPDATE grid SET Flags = Flags | 256 WHERE Name = 'A'";
+
+TEST_F(SiteDatabaseTest, NobodyChangesARowBetweenItsReadingAndItsWritingInAWalk)
+{
+    open();
+    auto rows = keyset(walkedQuery);
+    auto command = database.createCommand();
+    command->setProcedure("csp_LoggerDiagnosticGridModify");
+    EXPECT_EQ(SQLITE_OK, othersResult(file, othersChange)) << "nothing is to be written yet";
+    for (; !rows->atEnd(); rows->moveNext()) {
+        command->refreshParameters();
+        const auto word = valueAsInteger32(rows->field("Flags"));
+        command->assign("@ObjectId", rows->field("ObjectId"));
+        command->assign("@Flags", word | 64);
+        EXPECT_EQ(SQLITE_BUSY, othersResult(file, othersChange));
+        EXPECT_EQ(SQLITE_OK, othersResult(file, "SELECT * FROM grid")) << "who looks goes on";
+        command->execute();
+    }
+    EXPECT_EQ(SQLITE_OK, othersResult(file, "BEGIN EXCLUSIVE")) << "the change is made";
+    EXPECT_EQ(Value(5 | 256 | 64), flags("A")) << "the first row was read again";
+    EXPECT_EQ(Value(7 | 64), flags("O''Brien"));
+}
+
+TEST_F(SiteDatabaseTest, KeepsWhatWasChangedInAWalkThatIsLeftEarly)
+{
+    open();
+    for (const bool closed : {true, false}) {
+        SCOPED_TRACE(closed);
+        auto rows = keyset(walkedQuery);
+        setFlags(database, "1", closed ? 8 : 9);
+        if (closed) rows->close();
+        rows.reset();
+        SiteDatabase other{file};
+        other.open("", "", "");
+        EXPECT_EQ(Value(closed ? 8 : 9),
+                  other
+                      .openRecordset("SELECT Flags FROM grid WHERE Name = 'A'",
+                                     CursorKind::forwardOnly, LockKind::readOnly)
+                      ->field("Flags"));
+        EXPECT_EQ(SQLITE_OK, othersResult(file, "BEGIN EXCLUSIVE"));
+    }
+}
+
+TEST_F(SiteDatabaseTest, SaysAtTheEndOfAWalkThatItsChangeCouldNotBeMadeLasting)
+{
+    SiteDatabase impatient{file, std::chrono::milliseconds(30)};
+    impatient.open("", "", "");
+    auto rows = impatient.openRecordset("SELECT Name FROM grid WHERE Name = 'A'",
+                                        CursorKind::keyset, LockKind::optimistic);
+    setFlags(impatient, "1", 64);
+    sqlite3* reader = nullptr;
+    sqlite3_open(file.c_str(), &reader);
+    sqlite3_exec(reader, "BEGIN; SELECT * FROM grid", nullptr, nullptr, nullptr);
+
+    EXPECT_EQ(file + ": another program holds it and did not let go in time",
+              errorTextOf([&] { rows->moveNext(); }));
+
+    sqlite3_close(reader);
+    EXPECT_TRUE(rows->atEnd());
+    EXPECT_EQ(SQLITE_OK, othersResult(file, "BEGIN EXCLUSIVE")) << "nothing is held any more";
+    open();
+    EXPECT_EQ(Value(5), flags("A"));
+}
+
 TEST_F(SiteDatabaseTest, WaitsOnceForAllStatementsAndConnectionsOfARun)
 {
     SiteDatabase first{file, std::chrono::milliseconds(300)};

@@ -74,7 +74,7 @@ public:
         request.logs = orvanLogs_;
         request.eventLogs = windowsLogs_;
         if (frame_->parsed()) request.frame = frameChoice();
-        OpenTool tool(options, dryRun_ ? ToolUse::look : ToolUse::change,
+        OpenTool tool(options, dryRun_ ? ToolUse::look : ToolUse::add,
                       [&](OpenTool& opened) { requireSound(opened, request.frame); });
         if (!to_.empty()) request.destination = tool.toolPath(to_);
         std::optional<GatherOutcome> outcome;
