@@ -1,6 +1,7 @@
 #include "server/configuration_database.h"
 
 #include "support/test_tool.h"
+#include "support/traced_pairs.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -56,6 +57,9 @@ public:
 
 struct ConfigurationDatabase : testing::Test {
     TestTool tool;
+
+    /// Whatever a test does, each traced routine that was entered was left.
+    void TearDown() override { EXPECT_EQ(std::vector<std::string>{}, tracesOutOfPairs(tool)); }
 
     bool open() { return openOrvanDB(tool.context, tool.database, "(local)"); }
 

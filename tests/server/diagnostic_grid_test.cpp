@@ -3,6 +3,7 @@
 #include "runtime/text.h"
 #include "server/diagnostic_grid_catalogue.h"
 #include "support/test_tool.h"
+#include "support/traced_pairs.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -22,6 +23,9 @@ constexpr std::int32_t bit31 = std::numeric_limits<std::int32_t>::min();
 
 struct DiagnosticGrid : testing::Test {
     TestTool tool;
+
+    /// Whatever a test does, each traced routine that was entered was left.
+    void TearDown() override { EXPECT_EQ(std::vector<std::string>{}, tracesOutOfPairs(tool)); }
 
     DiagnosticGrid() { tool.database.opened(); }
 
@@ -212,6 +216,14 @@ TEST_F(DiagnosticGrid, KeepsComponentsOfOneTextInTheOrderOfTheirNames)
     withCatalogue("<DiagnosticGrid name='a' text='SAME'/><DiagnosticGrid name='b' text='same'/>");
 
     EXPECT_THAT(listed("name"), ElementsAre("a", "b"));
+}
+
+TEST_F(DiagnosticGrid, ListsTheOneComponentOfAGrid)
+{
+    tool.database.withComponent("CallFlow", 0, 0);
+
+    EXPECT_THAT(listed("name"), ElementsAre("CallFlow"));
+    EXPECT_THAT(tool.failures("[mdlOrvanDatabase]EnumComponents"), IsEmpty());
 }
 
 TEST_F(DiagnosticGrid, PadsBothColumnsOfTheListTo255Characters)

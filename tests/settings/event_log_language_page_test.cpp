@@ -40,6 +40,7 @@ TEST_F(EventLogLanguagePage, ShowsItsTexts)
               "Note: The original language will be restored once you exit the Orvan Diagnostic "
               "Tool.",
               page.lblDescription.caption());
+    EXPECT_EQ(&page.lblAvailableLangs, page.control("lblAvailableLangs"));
     EXPECT_TRUE(page.txtOriginalLanguage.readOnly());
     EXPECT_TRUE(page.txtCurrentLanguage.readOnly());
 }

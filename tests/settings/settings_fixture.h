@@ -3,6 +3,7 @@
 #include "core/registry_store.h"
 #include "platform/plain_sheet.h"
 #include "support/test_tool.h"
+#include "support/traced_pairs.h"
 
 #include <gtest/gtest.h>
 
@@ -19,6 +20,9 @@ constexpr const char* eventSourcesKey =
 struct SettingsTest : testing::Test {
     TestTool tool;
     std::shared_ptr<PlainSheet> sheet = std::make_shared<PlainSheet>("Sheet");
+
+    /// Whatever a test does, each traced routine that was entered was left.
+    void TearDown() override { EXPECT_EQ(std::vector<std::string>{}, tracesOutOfPairs(tool)); }
 
     /// Opens a sheet with a fresh page.
     template <typename Page>

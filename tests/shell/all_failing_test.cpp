@@ -78,6 +78,55 @@ TEST_F(AllFailing, StartUpAndEveryEventGoOnPastAllErrors)
     EXPECT_EQ(429, errorOf([&] { console.unload(); }));
 }
 
+TEST_F(AllFailing, EachTracedRoutineLeavesItsEntryInTheLog)
+{
+    tool.files.with("C:\\Temp\\opened.txt");
+    load();
+    console.expand(processes());
+    console.expand(node("RoCsMgr"));
+    useEverything();
+    view().select(node("RoCsMgr"));
+    console.doubleClickRow(1);
+    for (const char* item :
+         {"mnuConfigureMacroTrace", "mnuConfigureMicroTraces", "mnuDisableAllTraces",
+          "mnuGatherLogFiles", "mnuConfigureLogSettings", "mnuChangeLanguage"})
+        console.clickMenuItem(item);
+
+    Texts routines = {"[mdlInitialize]initGlobalVariables", "[mdlSnapIn]populateListViewAllLogs",
+                      "[mdlSnapIn]populateListViewDiagLog", "[mdlSnapIn]populateScopeAllLogs",
+                      "[mdlSnapIn]populateScopeProcesses",  "[mdlSnapIn]populateTaskPadDefault"};
+    for (const char* handler : {"SnapIn_Help",
+                                "SnapIn_Initialize",
+                                "SnapIn_Load",
+                                "ScopeItems_Expand",
+                                "refreshScopeItems",
+                                "ResultViews_Initialize",
+                                "ResultViews_ListItemDblClick",
+                                "ResultViews_TaskClick",
+                                "Views_AddTaskMenuItems",
+                                "Views_AddTopMenuItems",
+                                "Views_AddViewMenuItems",
+                                "Views_CreatePropertyPages",
+                                "Views_Refresh",
+                                "Views_Select",
+                                "startConfigureMacroTraceWizard",
+                                "startConfigureMicroTracesWizard",
+                                "startDisableAllTracesWizard",
+                                "startGatherLogFilesWizard",
+                                "displayConfigureLogSettingsPSheet",
+                                "displayEventLogLanguagePSheet",
+                                "mnuconfigureMacroTrace_Click",
+                                "mnuConfigureMicroTraces_Click",
+                                "mnuDisableAllTraces_Click",
+                                "mnuGatherLogFiles_Click",
+                                "mnuStartNewLogFiles_Click",
+                                "mnuConfigureLogSettings_Click",
+                                "mnuChangeLanguage_Click",
+                                "mnuOpenLogFile_click"})
+        routines.push_back("[snapinOrvanDiagnostics]" + std::string(handler));
+    EXPECT_EQ(Texts{}, notTraced(tool, routines));
+}
+
 TEST_F(AllFailing, EveryEventGoesOnPastErrorsThatBeginAfterTheStart)
 {
     load();

@@ -4,6 +4,7 @@
 #include "shell/snapin_definition.h"
 #include "shell/snapin_orvan_diagnostics.h"
 #include "support/test_tool.h"
+#include "support/traced_pairs.h"
 
 #include <gtest/gtest.h>
 
@@ -25,6 +26,12 @@ struct ShellTest : testing::Test {
             .withKey(std::string(logManagerKey) + "\\BroadCast");
         tool.files.withFolder("C:\\Logs");
     }
+
+    /// Entries of routines that an error left; else none.
+    Texts outOfPairs;
+
+    /// Whatever a test does, each traced routine that was entered was left.
+    void TearDown() override { EXPECT_EQ(outOfPairs, tracesOutOfPairs(tool)); }
 
     void load() { console.load(snapIn); }
 

@@ -307,4 +307,7 @@ TEST_F(SnapInCommands, RaiseForAProcessThatHasTheKeyOfSavedLogs)
 
     EXPECT_EQ(35601, errorOf([&] { console.clickMenuItem("mnuOpenLogFile"); }))
         << "the handler removes the opened log's key, which stands in nobody's way";
+    EXPECT_THAT(below(node("Static Node")), ElementsAre("Processes"));
+    EXPECT_EQ("Static Node", selected()) << "a removal that fails leaves the tree as it was";
+    outOfPairs = {"Entering [snapinOrvanDiagnostics]mnuOpenLogFile_click_0"};
 }

@@ -154,6 +154,12 @@ TEST(SnapinDefinition, DeclaresTheTaskMenuTheMainMenuAndAnEmptyToolbar)
                                         "mnuDisableAllTraces", "mnuStartNewLogFiles",
                                         "mnuGatherLogFiles", "mnuConfigureLogSettings"}),
               names(definition.menus[0]));
+    std::vector<std::string> captions;
+    for (const auto& item : definition.menus[0].items) captions.push_back(item.caption);
+    EXPECT_EQ((std::vector<std::string>{"Enable Macro Trace*", "Configure Micro Traces*",
+                                        "Disable All Traces*", "Start New Log Files*",
+                                        "Gather Log Files*", "Configure Log Settings*"}),
+              captions);
     EXPECT_EQ("mnuMain", definition.menus[1].name);
     EXPECT_EQ("", definition.menus[1].caption);
     EXPECT_EQ((std::vector<std::string>{"mnuOpenLogFile", "mnuChangeLanguage"}),

@@ -21,11 +21,6 @@ public:
         ++*open_;
     }
 
-    ~FakeRecordset() override
-    {
-        if (!closed_) --*open_;
-    }
-
     bool atEnd() const override
     {
         requireOpen();

@@ -55,6 +55,8 @@ public:
     /// How each of `queries` was opened.
     const std::vector<std::pair<CursorKind, LockKind>>& cursors() const { return cursors_; }
     const std::vector<std::string>& connectionStrings() const { return connectionStrings_; }
+
+    /// Recordsets that nobody closed, also those that were let go without it.
     int openRecordsets() const { return *openRecordsets_; }
 
     std::int32_t flagsOf(const std::string& component) const;

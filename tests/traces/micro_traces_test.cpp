@@ -173,6 +173,16 @@ TEST_F(MicroTraces, TakesTheFirstPairOfParenthesesForTheName)
     EXPECT_THAT(tool.failures(), ElementsAre(notInGrid("outdated")));
 }
 
+TEST_F(MicroTraces, TakesAnEmptyPairOfParenthesesForAnEmptyName)
+{
+    tool.database.withComponent("A", 0, 0);
+
+    configure({{true, "Alpha () (A)"}, {false, "04  four", true}});
+
+    EXPECT_EQ(0, flags("A"));
+    EXPECT_THAT(tool.failures(), ElementsAre(notInGrid("")));
+}
+
 TEST_F(MicroTraces, CountsATextWithoutAPairOfParenthesesToTheComponentBeforeIt)
 {
     for (const char* text : {"Alpha", "Alpha (A", "Alpha A)", ")A(", ""}) {

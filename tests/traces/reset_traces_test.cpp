@@ -122,6 +122,19 @@ TEST_F(ResetTraces, TakesAWordThatCannotBeReadForThatOfTheRowBefore)
                             "Err.Number = 13 Err.Description = Type mismatch"));
 }
 
+TEST_F(ResetTraces, TakesAWordOfTheFirstRowThatCannotBeReadForZero)
+{
+    tool.database.withComponent("B", 0, 0).withRow("vw_LoggerDiagnosticGrid",
+                                                   {{"Name", std::string("A")},
+                                                    {"ObjectId", std::string("id-A")},
+                                                    {"Flags", Null{}},
+                                                    {"DefaultFlags", 4}});
+
+    restore();
+
+    EXPECT_EQ(4, flags("A"));
+}
+
 TEST_F(ResetTraces, GoesOnPastAComponentThatTheServerRefuses)
 {
     tool.database.withComponent("A", 0, 1).withComponent("B", 0, 1);

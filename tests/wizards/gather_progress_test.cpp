@@ -154,6 +154,22 @@ TEST_F(GatherProgressPage, StoresTheFolderThatTheRunMade)
     EXPECT_EQ("C:\\Out\\new", shared->m_LogDestinationDirectory);
 }
 
+TEST_F(GatherProgressPage, ShowsItsTreeInTheLanguagesFont)
+{
+    tool.context.language.g_lngCurrentLanguage = 1041;
+    arrive();
+    EXPECT_EQ(&progress->treeviewSteps, progress->control("treeviewSteps"));
+    EXPECT_EQ(128, progress->font().charset);
+}
+
+TEST_F(GatherProgressPage, BackLeadsToThePageOfTheWayWhateverComesBeforeIt)
+{
+    shared->m_bTimeFrameLogs = true;
+    int nextPage = 0;
+    progress->IWizardPage_Back(nextPage);
+    EXPECT_EQ(3, nextPage);
+}
+
 TEST_F(GatherProgressPage, BackLeadsToThePageOfTheWay)
 {
     struct Case {

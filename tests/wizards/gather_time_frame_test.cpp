@@ -1,3 +1,4 @@
+#include "platform/recording_observer.h"
 #include "wizards/gather_wizard_fixture.h"
 
 #include <algorithm>
@@ -77,6 +78,16 @@ TEST_F(GatherTimeFrame, TheClockShowsLongDateAndMediumTimeEverySecond)
     tool.clock.advance(60);
     sheet->tick(frame->timerUpdateTime);
     EXPECT_EQ("Saturday, October 8, 2005 03:24 PM", frame->lblCurrentTime.caption());
+}
+
+TEST_F(GatherTimeFrame, TheClockIsShownAtOnceAlsoByABusyTool)
+{
+    open();
+    RecordingObserver observer;
+    frame->lblCurrentTime.observe(&observer);
+    sheet->tick(frame->timerUpdateTime);
+    EXPECT_EQ(1, observer.refreshes);
+    frame->lblCurrentTime.observe(nullptr);
 }
 
 TEST_F(GatherTimeFrame, BackLeadsToTheWelcomePage)

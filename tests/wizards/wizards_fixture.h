@@ -2,6 +2,7 @@
 
 #include "gather/trace_object.h"
 #include "platform/wizard_sheet.h"
+#include "support/traced_pairs.h"
 #include "traces/traces_fixture.h"
 #include "wizards/wizard_page.h"
 
@@ -25,6 +26,9 @@ struct Caption {
 struct WizardTest : TracesTest {
     std::shared_ptr<classTraceObject> shared = std::make_shared<classTraceObject>();
     std::shared_ptr<WizardSheet> sheet = std::make_shared<WizardSheet>("Wizard");
+
+    /// Whatever a test does, each traced routine that was entered was left.
+    void TearDown() override { EXPECT_EQ(Texts{}, tracesOutOfPairs(tool)); }
 
     template <typename Page>
     Page& add()
