@@ -40,7 +40,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     try {
         const cabmaker::Directives directives = cabmaker::parseDirectives(text, "f.ddf");
-        require(!cabmaker::baseName(directives.cabinetName).empty());
+        for (const std::size_t number : {1, 2, 65535}) {
+            const std::string name = cabmaker::cabinetNameOf(directives, number);
+            require(!cabmaker::baseName(name).empty() && cabmaker::isUtf8(name));
+            require(cabmaker::isUtf8(cabmaker::diskFolderOf(directives, number)));
+        }
+        for (const auto& member : directives.members) require(cabmaker::isUtf8(member.name));
         for (const auto& member : directives.members) checkMember(member, paths);
     } catch (const RunTimeError& error) {
         require(error.number() == runTimeErrors::invalidCall);

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "cabmaker/cabinet_head.h"
 #include "cabmaker/data_block.h"
 
 namespace cabmaker {
@@ -19,24 +20,14 @@ constexpr std::size_t nameBytes = 255;
 constexpr std::uint64_t cabinetBytes = 0x7fffffff;
 } // namespace formatLimits
 
-/// A moment in the form in which cabinets keep it, local time.
-struct CabinetTime {
-    std::uint16_t date = 0x21; ///< 1 January 1980
-    std::uint16_t time = 0;
-};
-
-/// What is known of a member before its bytes are read.
-struct MemberFacts {
-    std::string name; ///< UTF-8, 1 to 255 bytes, `\` between folders
-    std::uint64_t bytes = 0;
-    CabinetTime modified{};
-    bool readOnly = false;
-};
+/// Whether members share folders, or each that has bytes has its own.
+enum class FolderUse { shared, own };
 
 /// The members of one cabinet and their places in its folders, in the order in which they came.
 ///
 /// A folder is filled up to the blocks that the format lets it have; a member that would not fit
-/// opens the next one, since no member may cross from folder to folder.
+/// opens the next one, since no member may cross from folder to folder. Members that share a folder
+/// pack better; in a set of cabinets each that has bytes needs its own.
 class CabinetLayout {
 public:
     struct Folder {
@@ -49,7 +40,8 @@ public:
 
     /// `blocksPerFolder` is the format's limit or a smaller one.
     explicit CabinetLayout(Compression compression,
-                           std::uint32_t blocksPerFolder = formatLimits::blocksPerFolder);
+                           std::uint32_t blocksPerFolder = formatLimits::blocksPerFolder,
+                           FolderUse folders = FolderUse::shared);
 
     /// Raises 6 (overflow) for a member that is too large or one too many, 5 for a name that the
     /// format can't hold; the layout then stays as it was.
@@ -71,10 +63,9 @@ private:
         std::size_t folder = 0;
     };
 
-    static void writeMember(const Place& place, std::uint8_t* target);
-
     Compression compression_;
     std::uint32_t blocksPerFolder_;
+    FolderUse folderUse_;
     std::vector<Folder> folders_;
     std::vector<Place> members_;
     std::size_t memberRecordBytes_ = 0;

@@ -2,11 +2,12 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <optional>
+#include <memory>
 #include <system_error>
 #include <utility>
 #include <vector>
 
+#include "cabmaker/cabinet_set.h"
 #include "cabmaker/cabinet_writer.h"
 #include "cabmaker/directive_file.h"
 #include "cabmaker/file_error.h"
@@ -95,13 +96,114 @@ std::string beneath(const std::string& folder, const std::string& path)
     return absolute || folder.empty() ? path : folder + "\\" + path;
 }
 
-void writeReport(std::optional<OutputFile>& report, const SitePaths& paths, const std::string& name,
-                 const std::string& text)
+/// A run's outputs: what they may not take the place of, and what they are called.
+class Outputs {
+public:
+    Outputs(const Directives& directives, const SitePaths& paths)
+        : directives_(directives), paths_(paths)
+    {}
+
+    /// A file that no output may be.
+    void protect(const std::string& path, const std::string& shownName)
+    {
+        sources_.emplace_back(path, shownName);
+    }
+
+    /// The machine's path of an output. Raises 75 for one that would take the place of a file that
+    /// is read or of an earlier output, and for what is no plain file.
+    std::string place(const std::string& name)
+    {
+        const std::string path = paths_.machinePath(name);
+        std::error_code none;
+        const fs::file_status status = fs::symlink_status(path, none);
+        if (fs::exists(status) && !fs::is_regular_file(status))
+            throw RunTimeError(runTimeErrors::pathFileAccess,
+                               "cannot write " + path + ": it is not a plain file");
+        for (const auto& [source, shownName] : sources_)
+            if (path == source || fs::equivalent(path, source, none))
+                throw RunTimeError(runTimeErrors::pathFileAccess,
+                                   "cannot write " + path + ": " + shownName + " would be lost");
+        sources_.emplace_back(path, name);
+        return path;
+    }
+
+    std::string placeOfCabinet(std::size_t number)
+    {
+        return place(
+            beneath(diskFolderOf(directives_, number), cabinetNameOf(directives_, number)));
+    }
+
+    CabinetHead::Neighbour called(std::size_t number) const
+    {
+        return {std::string(baseName(cabinetNameOf(directives_, number))),
+                "Disk " + std::to_string(number)};
+    }
+
+private:
+    const Directives& directives_;
+    const SitePaths& paths_;
+    std::vector<std::pair<std::string, std::string>> sources_;
+};
+
+std::unique_ptr<OutputFile> makeReport(const std::string& path, const std::string& text)
 {
-    if (name.empty()) return;
-    report.emplace(paths.machinePath(name));
+    if (path.empty()) return nullptr;
+    auto report = std::make_unique<OutputFile>(path);
     report->append(text);
     report->close();
+    return report;
+}
+
+/// The cabinets of one run, closed, under names of their own still.
+struct Cabinets {
+    std::vector<std::unique_ptr<OutputFile>> files;
+    std::vector<std::unique_ptr<DiskFolder>> folders; ///< that had to be made for them
+    std::vector<std::size_t> firstMembers;            ///< that begin in each
+    std::uint64_t bytes = 0;
+};
+
+SetWish setWishOf(const Directives& directives, const Outputs& outputs)
+{
+    SetWish wish{.called = [&](std::size_t number) { return outputs.called(number); }};
+    if (directives.largestCabinet != 0)
+        wish.largestCabinet = std::min(wish.largestCabinet, directives.largestCabinet);
+    return wish;
+}
+
+/// Divides what was packed, as its size asks for.
+Cabinets cabinetsOf(const PackedCabinet& packed, const OutputFile& whole,
+                    const Directives& directives, const SitePaths& paths, Outputs& outputs,
+                    const std::function<void()>& checkpoint)
+{
+    const SetWish wish = setWishOf(directives, outputs);
+    const std::vector<SetPart> plan = planSet(packed, wish);
+    Cabinets cabinets;
+    for (std::size_t number = 1; number <= plan.size(); ++number) {
+        checkpoint();
+        if (number > 1)
+            cabinets.folders.push_back(
+                std::make_unique<DiskFolder>(paths.machinePath(diskFolderOf(directives, number))));
+        auto file = std::make_unique<OutputFile>(number == 1 ? whole.path()
+                                                             : outputs.placeOfCabinet(number));
+        writeSetPart(packed, whole, directives.compression, plan, number, wish, *file);
+        cabinets.bytes += file->size();
+        file->close();
+        cabinets.files.push_back(std::move(file));
+        const SetPart& part = plan[number - 1];
+        cabinets.firstMembers.push_back(part.firstMember + part.membersFromPrevious);
+    }
+    return cabinets;
+}
+
+ReportSubject subjectOf(const Cabinets& cabinets, const Directives& directives,
+                        const PackedCabinet& packed)
+{
+    ReportSubject subject{
+        .bytes = cabinets.bytes, .compression = directives.compression, .packed = packed};
+    for (std::size_t i = 0; i < cabinets.files.size(); ++i)
+        subject.cabinets.push_back({std::string(baseName(cabinetNameOf(directives, i + 1))),
+                                    diskFolderOf(directives, i + 1), cabinets.firstMembers[i]});
+    return subject;
 }
 
 } // namespace
@@ -109,40 +211,56 @@ void writeReport(std::optional<OutputFile>& report, const SitePaths& paths, cons
 MadeCabinet makeCabinet(const std::string& directivePath, const Surroundings& surroundings)
 {
     const SitePaths paths(surroundings.drives, surroundings.workingFolder);
-    const Directives directives = parseDirectives(
-        readDirectiveFile(paths.machinePath(directivePath), directivePath), directivePath);
+    const std::string directiveFile = paths.machinePath(directivePath);
+    const Directives directives =
+        parseDirectives(readDirectiveFile(directiveFile, directivePath), directivePath);
     const std::vector<CabinetSource> sources = sourcesOf(directives, paths, directivePath);
 
+    Outputs outputs(directives, paths);
+    outputs.protect(directiveFile, directivePath);
+    for (const CabinetSource& source : sources) outputs.protect(source.path, source.shownName);
+    const std::string path = outputs.placeOfCabinet(1);
+    const auto placeOfReport = [&](const std::string& name) {
+        return name.empty() ? std::string() : outputs.place(name);
+    };
+    const std::string infPath = placeOfReport(directives.infFile);
+    const std::string rptPath = placeOfReport(directives.rptFile);
+
+    DiskFolder diskFolder(paths.machinePath(diskFolderOf(directives, 1)));
     Packing packing{.compression = directives.compression,
                     .threads = surroundings.threads,
                     .checkpoint = surroundings.checkpoint};
-    if (directives.largestCabinet != 0)
-        packing.largestCabinet = std::min(packing.largestCabinet, directives.largestCabinet);
+    Cabinets cabinets;
+    auto whole = std::make_unique<OutputFile>(path);
+    PackedCabinet packed = writeCabinet(sources, packing, *whole);
+    if (packed.bytes <= setWishOf(directives, outputs).largestCabinet) {
+        whole->close();
+        cabinets.bytes = packed.bytes;
+        cabinets.files.push_back(std::move(whole));
+        cabinets.firstMembers = {0};
+    } else {
+        packing.folders = FolderUse::own;
+        whole = std::make_unique<OutputFile>(path);
+        packed = writeCabinet(sources, packing, *whole);
+        cabinets = cabinetsOf(packed, *whole, directives, paths, outputs, surroundings.checkpoint);
+    }
+    const ReportSubject subject = subjectOf(cabinets, directives, packed);
+    const auto inf = makeReport(infPath, setupInf(subject));
+    const auto rpt = makeReport(rptPath, setupRpt(subject));
 
-    DiskFolder diskFolder(paths.machinePath(directives.diskFolder));
-    const std::string path =
-        paths.machinePath(beneath(directives.diskFolder, directives.cabinetName));
-    OutputFile cabinetFile(path);
-    const PackedCabinet cabinet = writeCabinet(sources, packing, cabinetFile);
-    cabinetFile.close();
-
-    const ReportSubject subject{.cabinetName = std::string(baseName(directives.cabinetName)),
-                                .diskFolder = directives.diskFolder,
-                                .compression = directives.compression,
-                                .cabinet = cabinet};
-    std::optional<OutputFile> inf;
-    std::optional<OutputFile> rpt;
-    writeReport(inf, paths, directives.infFile, setupInf(subject));
-    writeReport(rpt, paths, directives.rptFile, setupRpt(subject));
-
-    // The cabinet comes last: where it is, the whole run went well.
+    // The first cabinet comes last: where it is, the whole run went well.
     if (inf) inf->publish();
     if (rpt) rpt->publish();
-    cabinetFile.publish();
+    std::for_each(cabinets.files.rbegin(), cabinets.files.rend(),
+                  [](const auto& file) { file->publish(); });
+    for (const auto& folder : cabinets.folders) folder->keep();
     diskFolder.keep();
 
-    MadeCabinet made{.path = path, .members = cabinet.members.size(), .bytes = cabinet.bytes};
-    for (const MemberFacts& member : cabinet.members) made.plainBytes += member.bytes;
+    MadeCabinet made{.path = path,
+                     .members = packed.members.size(),
+                     .bytes = cabinets.bytes,
+                     .cabinets = cabinets.files.size()};
+    for (const MemberFacts& member : packed.members) made.plainBytes += member.bytes;
     return made;
 }
 

@@ -26,7 +26,7 @@ class Writer {
 public:
     Writer(const std::vector<CabinetSource>& sources, const Packing& packing, OutputFile& target)
         : sources_(sources), packing_(packing), target_(target),
-          layout_(packing.compression, packing.blocksPerFolder),
+          layout_(packing.compression, packing.blocksPerFolder, packing.folders),
           pipeline_(packing.compression, packing.threads,
                     [this](std::span<const std::uint8_t> blocks) { append(blocks); })
     {}
@@ -45,6 +45,7 @@ private:
     BlockPipeline pipeline_;
     std::vector<SourceFacts> facts_;
     std::vector<MemberFacts> members_;
+    std::vector<std::uint32_t> blocks_;
 };
 
 // The head has a known size but not yet all of its contents, so its place is kept free until the
@@ -55,7 +56,7 @@ PackedCabinet Writer::write()
         packing_.checkpoint();
         blaming(source, [&] { place(source); });
     }
-    append(std::vector<std::uint8_t>(layout_.headSize()));
+    target_.append(std::vector<std::uint8_t>(layout_.headSize()));
     std::vector<std::uint32_t> folderStarts;
     for (const CabinetLayout::Folder& folder : layout_.folders()) {
         folderStarts.push_back(static_cast<std::uint32_t>(target_.size()));
@@ -64,7 +65,7 @@ PackedCabinet Writer::write()
         pipeline_.endFolder();
     }
     target_.overwrite(0, layout_.head(folderStarts, static_cast<std::uint32_t>(target_.size())));
-    return {std::move(members_), layout_.folders(), target_.size()};
+    return {std::move(members_), layout_.folders(), std::move(blocks_), target_.size()};
 }
 
 void Writer::place(const CabinetSource& source)
@@ -93,10 +94,8 @@ void Writer::pack(const CabinetSource& source, const SourceFacts& facts)
 
 void Writer::append(std::span<const std::uint8_t> bytes)
 {
-    if (target_.size() + bytes.size() > packing_.largestCabinet)
-        throw RunTimeError(runTimeErrors::overflow,
-                           "the cabinet would pass " + std::to_string(packing_.largestCabinet) +
-                               " bytes, and a set of several cabinets is not made");
+    for (std::size_t at = 0; at < bytes.size(); at += blockHeadSize + blocks_.back())
+        blocks_.push_back(packedSizeOf(bytes.subspan(at)));
     target_.append(bytes);
 }
 

@@ -22,8 +22,8 @@ struct CabinetSource {
 struct Packing {
     Compression compression = Compression::mszip;
     unsigned threads = 1;
-    std::uint64_t largestCabinet = formatLimits::cabinetBytes;
     std::uint32_t blocksPerFolder = formatLimits::blocksPerFolder;
+    FolderUse folders = FolderUse::shared;
     std::function<void()> checkpoint = [] {}; ///< called now and then; what it throws ends the work
 };
 
@@ -31,13 +31,15 @@ struct Packing {
 struct PackedCabinet {
     std::vector<MemberFacts> members;
     std::vector<CabinetLayout::Folder> folders;
-    std::uint64_t bytes = 0; ///< of the cabinet itself
+    std::vector<std::uint32_t> blocks; ///< bytes of each data block behind its head, in order
+    std::uint64_t bytes = 0;           ///< of the cabinet itself
 };
 
 /// Writes a cabinet with `sources`, in their order, to `target`, which is empty.
 ///
-/// Raises what the source and the target raise, 75 for a source that doesn't stay as it is, and 6
-/// for what passes a limit; the bytes in `target` are then no cabinet.
+/// One larger than the format allows has no true head: a set of cabinets is to be made of its
+/// blocks. Raises what the source and the target raise, 75 for a source that doesn't stay as it is,
+/// and 6 for what passes a limit; the bytes in `target` are then no cabinet.
 PackedCabinet writeCabinet(const std::vector<CabinetSource>& sources, const Packing& packing,
                            OutputFile& target);
 

@@ -12,7 +12,6 @@ namespace cabmaker {
 
 namespace {
 
-constexpr std::size_t blockHeadSize = 8;
 constexpr std::size_t storedHeadSize = 5;
 
 // A reader gives a block a fixed buffer, so bytes that don't deflate go into one stored part, which
@@ -27,6 +26,19 @@ void store(std::span<const std::uint8_t> plain, std::uint8_t* target)
 }
 
 } // namespace
+
+std::uint32_t packedSizeOf(std::span<const std::uint8_t> block)
+{
+    return block[4] | static_cast<std::uint32_t>(block[5]) << 8;
+}
+
+void sealBlock(std::span<std::uint8_t> block, std::uint32_t plainSize)
+{
+    const std::span<std::uint8_t> packed = block.subspan(blockHeadSize);
+    store16(&block[4], static_cast<std::uint32_t>(packed.size()));
+    store16(&block[6], plainSize);
+    store32(block.data(), checksum(block.subspan(4, 4), checksum(packed)));
+}
 
 class BlockPress::Deflater {
 public:
@@ -76,8 +88,7 @@ void BlockPress::append(std::span<const std::uint8_t> plain, std::span<const std
     const std::size_t start = out.size();
     const std::size_t storedSize = storedHeadSize + plain.size();
     out.resize(start + blockHeadSize + 2 + storedSize);
-    std::uint8_t* const head = out.data() + start;
-    std::uint8_t* const payload = head + blockHeadSize;
+    std::uint8_t* const payload = out.data() + start + blockHeadSize;
 
     std::size_t payloadSize = plain.size();
     if (deflater_) {
@@ -93,10 +104,8 @@ void BlockPress::append(std::span<const std::uint8_t> plain, std::span<const std
         std::copy(plain.begin(), plain.end(), payload);
     }
 
-    store16(head + 4, static_cast<std::uint32_t>(payloadSize));
-    store16(head + 6, static_cast<std::uint32_t>(plain.size()));
-    store32(head, checksum({head + 4, 4}, checksum({payload, payloadSize})));
     out.resize(start + blockHeadSize + payloadSize);
+    sealBlock(std::span(out).subspan(start), static_cast<std::uint32_t>(plain.size()));
 }
 
 } // namespace cabmaker

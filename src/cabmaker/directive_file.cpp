@@ -49,13 +49,16 @@ std::uint64_t diskBytes(const std::string& value)
     return bytesOf(value);
 }
 
-// One cabinet on one disk is made, so the number in every template is 1.
-std::string numbered(std::string name)
+const std::string& requireTemplate(const std::string& name)
+{
+    if (std::count(name.begin(), name.end(), '*') > 1) refuse("a template has one * at most");
+    return name;
+}
+
+std::string numbered(std::string name, std::size_t number)
 {
     const std::size_t star = name.find('*');
-    if (star != std::string::npos) name[star] = '1';
-    if (name.find('*') != std::string::npos) refuse("a template has one * at most");
-    return name;
+    return star == std::string::npos ? name : name.replace(star, 1, std::to_string(number));
 }
 
 std::string fileOrNone(const std::string& name)
@@ -84,6 +87,8 @@ std::string memberName(std::string name)
     return name;
 }
 
+constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
+
 class Parser {
 public:
     void line(std::string_view bytes, unsigned number);
@@ -103,12 +108,21 @@ private:
     void setVariable(DirectiveLine& line);
     void member(DirectiveLine& line, unsigned number);
 
+    /// UTF-8 of bytes of the file.
+    std::string decoded(const std::string& bytes) const
+    {
+        return utf8_ ? bytes : utf8FromWindows1252(bytes);
+    }
+
     void setCabinet(const std::string& value);
     void setCabinetName(const std::string& value);
     void setCompress(const std::string& value);
     void setCompressionType(const std::string& value);
     void setDestinationFolder(const std::string& value) { destinationFolder_ = value; }
-    void setDiskFolder(const std::string& value) { directives_.diskFolder = numbered(value); }
+    void setDiskFolder(const std::string& value)
+    {
+        directives_.diskFolder = requireTemplate(value);
+    }
     void setInfFile(const std::string& value) { directives_.infFile = fileOrNone(value); }
     void setMaxCabinetSize(const std::string& value) { largestCabinet_ = bytesOf(value); }
     void setMaxDiskSize(const std::string& value) { largestDisk_ = diskBytes(value); }
@@ -122,6 +136,7 @@ private:
     std::uint64_t largestCabinet_ = 0;
     std::uint64_t largestDisk_ = 0;
     bool uniqueFiles_ = true;
+    bool utf8_ = false;
     std::set<std::string> names_;
 };
 
@@ -144,8 +159,11 @@ const Parser::Variable Parser::variables[] = {
 
 void Parser::line(std::string_view bytes, unsigned number)
 {
-    if (number == 1 && bytes.starts_with("\xEF\xBB\xBF"))
-        refuse("the file begins with a byte order mark; text in Windows-1252 is expected");
+    if (number == 1 && bytes.starts_with(utf8Mark)) {
+        bytes.remove_prefix(utf8Mark.size());
+        utf8_ = true;
+    }
+    if (utf8_ && !isUtf8(bytes)) refuse("the file begins as UTF-8, which this line is not");
     for (const char c : bytes)
         if (static_cast<unsigned char>(c) < 0x20 && c != '\t') refuse("a control character");
 
@@ -174,14 +192,13 @@ void Parser::directive(DirectiveLine& line)
     else if (folded == "set")
         setVariable(line);
     else
-        refuse("the directive ." + utf8FromWindows1252(name) + " is not known");
+        refuse("the directive ." + decoded(name) + " is not known");
 }
 
 void Parser::option(DirectiveLine& line)
 {
     const std::string name = line.atEnd() ? std::string() : line.word();
-    if (foldedName(name) != "explicit")
-        refuse("the option \"" + utf8FromWindows1252(name) + "\" is not known");
+    if (foldedName(name) != "explicit") refuse("the option \"" + decoded(name) + "\" is not known");
     if (!line.atEnd()) refuse("something follows the option");
 }
 
@@ -192,9 +209,9 @@ void Parser::setVariable(DirectiveLine& line)
     const auto variable = std::find_if(std::begin(variables), std::end(variables),
                                        [&](const Variable& v) { return v.name == folded; });
     if (variable == std::end(variables))
-        refuse("the variable \"" + utf8FromWindows1252(name) + "\" is not known");
+        refuse("the variable \"" + decoded(name) + "\" is not known");
     if (!line.take('=')) refuse("= is missing");
-    const std::string value = utf8FromWindows1252(line.value());
+    const std::string value = decoded(line.value());
     if (value.empty() && !variable->mayBeEmpty) refuse("the value is missing");
     if (variable->ofTheWholeCabinet && !directives_.members.empty())
         refuse(name + " is of the whole cabinet and must stand before the first file");
@@ -206,12 +223,12 @@ void Parser::member(DirectiveLine& line, unsigned number)
     if (directives_.members.size() == formatLimits::members)
         refuse("a cabinet can't hold more than " + std::to_string(formatLimits::members) +
                " files");
-    const std::string source = utf8FromWindows1252(line.word());
+    const std::string source = decoded(line.word());
     if (baseName(source).empty()) refuse("the file has no name");
     std::string name(baseName(source));
     if (!line.atEnd()) {
         if (line.next() == '/') refuse("parameters of a file are not known");
-        name = utf8FromWindows1252(line.word());
+        name = decoded(line.word());
     }
     if (!line.atEnd()) refuse("a name with blanks must stand in quotes");
 
@@ -228,7 +245,7 @@ void Parser::setCabinet(const std::string& value)
 
 void Parser::setCabinetName(const std::string& value)
 {
-    directives_.cabinetName = numbered(value);
+    directives_.cabinetName = requireTemplate(value);
     const std::string_view name = baseName(directives_.cabinetName);
     if (name.empty() || name == "." || name == "..") refuse("the cabinet has no name");
 }
@@ -244,6 +261,20 @@ void Parser::setCompressionType(const std::string& value)
 }
 
 } // namespace
+
+std::string cabinetNameOf(const Directives& directives, std::size_t number)
+{
+    const std::string& name = directives.cabinetName;
+    if (number == 1 || name.find('*') != std::string::npos) return numbered(name, number);
+    const std::size_t dot = name.size() - baseName(name).size() + baseName(name).rfind('.');
+    const std::size_t end = baseName(name).find('.') == std::string::npos ? name.size() : dot;
+    return name.substr(0, end) + "_" + std::to_string(number) + name.substr(end);
+}
+
+std::string diskFolderOf(const Directives& directives, std::size_t number)
+{
+    return numbered(directives.diskFolder, number);
+}
 
 Directives parseDirectives(std::string_view bytes, const std::string& fileName)
 {

@@ -18,8 +18,8 @@ struct DirectiveMember {
 
 /// What a directive file asks for. All text is UTF-8; paths are as written there.
 struct Directives {
-    std::string cabinetName = "1.cab"; ///< relative to the disk folder
-    std::string diskFolder = "disk1";  ///< relative to the working folder
+    std::string cabinetName = "*.cab"; ///< relative to the disk folder, with one * at most
+    std::string diskFolder = "disk1";  ///< relative to the working folder, with one * at most
     std::string infFile = "setup.inf"; ///< relative to the working folder; empty: none is wanted
     std::string rptFile = "setup.rpt"; ///< likewise
     Compression compression = Compression::mszip;
@@ -27,13 +27,22 @@ struct Directives {
     std::vector<DirectiveMember> members;
 };
 
-/// Reads a directive file: one item a line, names without regard to case, in Windows-1252.
+/// The name of cabinet `number`, from 1, of a set. Where the template has no `*` to stand for the
+/// number, the first cabinet has it as it is, and the others' have "_" and the number before their
+/// ending.
+std::string cabinetNameOf(const Directives& directives, std::size_t number);
+
+/// The folder of cabinet `number`: the same for all where there is no `*`.
+std::string diskFolderOf(const Directives& directives, std::size_t number);
+
+/// Reads a directive file: one item a line, names without regard to case, in Windows-1252, or in
+/// UTF-8 behind its byte order mark.
 ///
 /// A line is empty, a comment (`;`), `.Option EXPLICIT`, `.Set NAME=VALUE`, or a file to pack with,
 /// optionally, its name in the cabinet. The variables:
 ///
 /// | Cabinet              | on: cabinets are all that is made                               |
-/// | CabinetNameTemplate  | a `*` in it is the cabinet's number, 1; also CabinetName1       |
+/// | CabinetNameTemplate  | a `*` in it is the cabinet's number; also CabinetName1          |
 /// | Compress             | on, or off                                                      |
 /// | CompressionType      | MSZIP                                                           |
 /// | DestinationDir       | folder that the following files have in the cabinet             |

@@ -26,7 +26,8 @@ constexpr const char* help =
     "  --help                    shows this text\n"
     "  --version                 shows the version\n"
     "\n"
-    "A directive file has an item a line, in Windows-1252; names know no case:\n"
+    "A directive file has an item a line, in Windows-1252, or in UTF-8 behind its\n"
+    "byte order mark; names know no case:\n"
     "\n"
     "  .Option EXPLICIT\n"
     "  .Set CabinetNameTemplate=..\\NAME.cab   relative to the output folder\n"
@@ -40,6 +41,10 @@ constexpr const char* help =
     "DiskDirectory1 and DiskDirectoryTemplate (the output folder, disk1),\n"
     "InfFileName (setup.inf), MaxCabinetSize, RptFileName (setup.rpt), SourceDir,\n"
     "UniqueFiles (on).\n"
+    "\n"
+    "What is larger than MaxDiskSize or MaxCabinetSize becomes a set of cabinets.\n"
+    "A * in CabinetNameTemplate and in DiskDirectoryTemplate is the cabinet's\n"
+    "number; without one the second cabinet of NAME.cab is NAME_2.cab.\n"
     "\n"
     "A path on a drive, such as C:\\x, is drive_c/x in the folder that the\n"
     "environment variable ORVAN_SITE_DRIVES names; a path that begins with / is\n"
@@ -89,9 +94,11 @@ int makeCabinet(const std::string& directivePath, Interruption& interruption)
                         .drives = drives != nullptr ? drives : "",
                         .threads = std::thread::hardware_concurrency(),
                         .checkpoint = [&] { interruption.check(); }});
-    std::printf("%s: %zu files, %llu bytes packed into %llu\n", made.path.c_str(), made.members,
+    const std::string cabinets =
+        made.cabinets == 1 ? "" : " in " + std::to_string(made.cabinets) + " cabinets";
+    std::printf("%s: %zu files, %llu bytes packed into %llu%s\n", made.path.c_str(), made.members,
                 static_cast<unsigned long long>(made.plainBytes),
-                static_cast<unsigned long long>(made.bytes));
+                static_cast<unsigned long long>(made.bytes), cabinets.c_str());
     return statusDone;
 }
 

@@ -56,6 +56,26 @@ std::string utf8FromWindows1252(std::string_view bytes)
     return text;
 }
 
+bool isUtf8(std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const auto lead = static_cast<unsigned char>(bytes.front());
+        std::size_t length = 1;
+        if (lead >= 0x80) length = lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+        if ((lead >= 0x80 && lead < 0xC2) || lead > 0xF4 || bytes.size() < length) return false;
+        std::uint32_t code = lead & (length == 1 ? 0x7FU : 0xFFU >> (length + 1));
+        for (std::size_t i = 1; i < length; ++i) {
+            const auto byte = static_cast<unsigned char>(bytes[i]);
+            if ((byte & 0xC0) != 0x80) return false;
+            code = code << 6 | (byte & 0x3F);
+        }
+        const bool shortest = length < 3 || code >= (length == 3 ? 0x800U : 0x10000U);
+        if (!shortest || (code >= 0xD800 && code < 0xE000) || code > 0x10FFFF) return false;
+        bytes.remove_prefix(length);
+    }
+    return true;
+}
+
 std::string foldedName(std::string_view name)
 {
     std::string folded;

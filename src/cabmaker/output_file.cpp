@@ -16,7 +16,7 @@ OutputFile::OutputFile(std::string path) : path_(std::move(path))
     const std::string stem = path_ + "." + std::to_string(getpid());
     for (int attempt = 0; descriptor_ < 0; ++attempt) {
         temporaryPath_ = stem + "-" + std::to_string(attempt) + ".tmp";
-        descriptor_ = ::open(temporaryPath_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        descriptor_ = ::open(temporaryPath_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
         if (descriptor_ < 0 && errno != EEXIST) throw fileError("cannot write " + path_, errno);
     }
 }
@@ -41,6 +41,18 @@ void OutputFile::append(std::string_view text)
 void OutputFile::overwrite(std::uint64_t offset, std::span<const std::uint8_t> bytes)
 {
     write(offset, bytes);
+}
+
+void OutputFile::readBack(std::uint64_t offset, std::span<std::uint8_t> bytes) const
+{
+    while (!bytes.empty()) {
+        const ssize_t count =
+            ::pread(descriptor_, bytes.data(), bytes.size(), static_cast<off_t>(offset));
+        if (count < 0 && errno == EINTR) continue;
+        if (count <= 0) throw fileError("cannot read " + path_, count < 0 ? errno : EIO);
+        bytes = bytes.subspan(static_cast<std::size_t>(count));
+        offset += static_cast<std::uint64_t>(count);
+    }
 }
 
 void OutputFile::close()

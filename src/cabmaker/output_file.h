@@ -25,11 +25,17 @@ public:
     /// Replaces bytes that have been written before.
     void overwrite(std::uint64_t offset, std::span<const std::uint8_t> bytes);
 
+    /// Reads bytes back that have been written before.
+    void readBack(std::uint64_t offset, std::span<std::uint8_t> bytes) const;
+
     /// Bytes written so far.
     std::uint64_t size() const { return size_; }
 
     /// No more bytes: what the system still had to say of them has been said.
     void close();
+
+    /// The name that the file is to have.
+    const std::string& path() const { return path_; }
 
     /// Closes the file and gives it its name, in place of a file that had it.
     void publish();

@@ -41,14 +41,24 @@ void reportLine(std::string& text, const char* title, const std::string& value)
 
 std::string setupInf(const ReportSubject& subject)
 {
-    std::string text = std::string("[disks]") + lineEnd + "; number,folder" + lineEnd;
-    text += "1,\"" + subject.diskFolder + "\"" + lineEnd + lineEnd;
-    text += std::string("[cabinets]") + lineEnd + "; number,disk,file" + lineEnd;
-    text += "1,1,\"" + subject.cabinetName + "\"" + lineEnd + lineEnd;
+    std::string disks = std::string("[disks]") + lineEnd + "; number,folder" + lineEnd;
+    std::string cabinets = std::string("[cabinets]") + lineEnd + "; number,disk,file" + lineEnd;
+    for (std::size_t i = 0; i < subject.cabinets.size(); ++i) {
+        const std::string number = std::to_string(i + 1);
+        disks += number + ",\"" + subject.cabinets[i].diskFolder + "\"" + lineEnd;
+        cabinets += number + "," + number + ",\"" + subject.cabinets[i].name + "\"" + lineEnd;
+    }
+    std::string text = disks + lineEnd + cabinets + lineEnd;
     text += std::string("[files]") + lineEnd + "; cabinet,file,bytes,date,time" + lineEnd;
-    for (const MemberFacts& member : subject.cabinet.members)
-        text += "1,\"" + member.name + "\"," + std::to_string(member.bytes) + "," +
-                dateText(member.modified) + "," + timeText(member.modified) + lineEnd;
+    std::size_t cabinet = 1;
+    for (std::size_t i = 0; i < subject.packed.members.size(); ++i) {
+        const MemberFacts& member = subject.packed.members[i];
+        while (cabinet < subject.cabinets.size() && subject.cabinets[cabinet].firstMember <= i)
+            ++cabinet;
+        text += std::to_string(cabinet) + ",\"" + member.name + "\"," +
+                std::to_string(member.bytes) + "," + dateText(member.modified) + "," +
+                timeText(member.modified) + lineEnd;
+    }
     return text;
 }
 
@@ -56,19 +66,19 @@ std::string setupRpt(const ReportSubject& subject)
 {
     std::uint64_t plainBytes = 0;
     std::uint64_t blocks = 0;
-    for (const CabinetLayout::Folder& folder : subject.cabinet.folders) {
+    for (const CabinetLayout::Folder& folder : subject.packed.folders) {
         plainBytes += folder.bytes;
         blocks += folder.blocks();
     }
     std::string text;
-    reportLine(text, "Cabinet", subject.cabinetName);
+    for (const auto& cabinet : subject.cabinets) reportLine(text, "Cabinet", cabinet.name);
     reportLine(text, "Compression", subject.compression == Compression::mszip ? "MSZIP" : "none");
-    reportLine(text, "Files", std::to_string(subject.cabinet.members.size()));
-    reportLine(text, "Folders", std::to_string(subject.cabinet.folders.size()));
+    reportLine(text, "Files", std::to_string(subject.packed.members.size()));
+    reportLine(text, "Folders", std::to_string(subject.packed.folders.size()));
     reportLine(text, "Blocks", std::to_string(blocks));
     reportLine(text, "Bytes before", std::to_string(plainBytes));
-    reportLine(text, "Bytes after", std::to_string(subject.cabinet.bytes));
-    reportLine(text, "After/before", percent(subject.cabinet.bytes, plainBytes));
+    reportLine(text, "Bytes after", std::to_string(subject.bytes));
+    reportLine(text, "After/before", percent(subject.bytes, plainBytes));
     return text;
 }
 

@@ -144,8 +144,8 @@ TEST_F(MakeCabinetTest, FailsWithAMessageAndLeavesTheFolderAsItWas)
         {"a folder", "\"C:\\Temp\\Logs\"\r\n",
          "C:\\Temp\\Logs\\zmk.ddf:3: cannot read C:\\Temp\\Logs: it is not a plain file"},
         {"nothing to pack", "; nothing\r\n", "C:\\Temp\\Logs\\zmk.ddf names no file to pack"},
-        {"a disk that is too small", ".Set MaxDiskSize=1000\r\n\"Application.csv\"\r\n",
-         "the cabinet would pass 1000 bytes, and a set of several cabinets is not made"},
+        {"a disk that is too small", ".Set MaxDiskSize=60\r\n\"Application.csv\"\r\n",
+         "the files can't be divided among cabinets of 60 bytes"},
         {"an output folder that is a file",
          ".Set DiskDirectory1=Application.csv\r\n\"ZMK.DDF\"\r\n", nullptr},
         {"a cabinet's folder that isn't there", ".Set CabinetName1=no\\x.cab\r\n\"ZMK.DDF\"\r\n",
@@ -175,6 +175,73 @@ TEST_F(MakeCabinetTest, KeepsTheCabinetOfBeforeWhenItFails)
               }));
     EXPECT_EQ("before", site_.read("drive_c/Temp/Logs/VM_WPN_2.cab"));
     EXPECT_EQ((Names{"Application.csv", "VM_WPN_1.mdb", "VM_WPN_2.cab", "ZMK.DDF"}), listing());
+}
+
+TEST_F(MakeCabinetTest, MakesASetOfWhatIsTooLargeForOneCabinet)
+{
+    write("big.mdb", noise(200'000));
+    direct(".Set MaxDiskSize=90000\r\n\"Application.csv\"\r\n\"big.mdb\"\r\n");
+    const MadeCabinet made = make();
+    EXPECT_EQ(3U, made.cabinets);
+    EXPECT_EQ((Names{"Application.csv", "VM_WPN_1.mdb", "VM_WPN_2.cab", "VM_WPN_2_2.cab",
+                     "VM_WPN_2_3.cab", "ZMK.DDF", "big.mdb", "disk1/", "setup.inf", "setup.rpt"}),
+              listing());
+    const CommandResult extracted =
+        runCommand(working(), "cabextract -q -d x VM_WPN_2.cab && cmp Application.csv "
+                              "x/Application.csv && cmp big.mdb x/big.mdb");
+    EXPECT_EQ(0, extracted.status) << extracted.errors;
+}
+
+TEST_F(MakeCabinetTest, NumbersCabinetsAndFoldersByTheirTemplates)
+{
+    write("big.mdb", noise(100'000));
+    write("ZMK.DDF", ".Set CabinetNameTemplate=a*.cab\r\n.Set DiskDirectoryTemplate=out*\r\n"
+                     ".Set MaxCabinetSize=60000\r\n.Set RptFileName=nul\r\n"
+                     ".Set InfFileName=nul\r\n\"big.mdb\"\r\n");
+    EXPECT_EQ(2U, make().cabinets);
+    EXPECT_EQ((Names{"Application.csv", "VM_WPN_1.mdb", "ZMK.DDF", "big.mdb", "out1/",
+                     "out1/a1.cab", "out2/", "out2/a2.cab"}),
+              listing());
+}
+
+TEST_F(MakeCabinetTest, TakesTheNamesOfADirectiveFileInUtf8)
+{
+    write("ケー €.csv", "x");
+    write("ZMK.DDF", "\xEF\xBB\xBF.Set CabinetNameTemplate=..\\ケー.cab\r\n"
+                     "\"C:\\Temp\\Logs\\ケー €.csv\"\r\n");
+    make();
+    EXPECT_EQ(0, runCommand(working(), "cabextract -q -d x ケー.cab").status);
+    EXPECT_EQ("x", site_.read("drive_c/Temp/Logs/x/ケー €.csv"));
+}
+
+TEST_F(MakeCabinetTest, WritesOverNoneOfItsSources)
+{
+    const std::string logs = "C:\\Temp\\Logs\\";
+    fs::create_symlink("VM_WPN_1.mdb", working() + "/link.cab");
+    fs::create_hard_link(working() + "/VM_WPN_1.mdb", working() + "/same.cab");
+    const struct {
+        const char* lines;
+        std::string message;
+    } cases[] = {
+        {".Set CabinetName1=..\\vm_wpn_1.MDB\r\n\"VM_WPN_1.mdb\"\r\n",
+         "VM_WPN_1.mdb: VM_WPN_1.mdb would be lost"},
+        {".Set CabinetName1=..\\same.cab\r\n\"VM_WPN_1.mdb\"\r\n",
+         "same.cab: VM_WPN_1.mdb would be lost"},
+        {".Set CabinetName1=..\\link.cab\r\n\"VM_WPN_1.mdb\"\r\n",
+         "link.cab: it is not a plain file"},
+        {".Set InfFileName=Application.csv\r\n\"Application.csv\"\r\n",
+         "Application.csv: Application.csv would be lost"},
+        {".Set RptFileName=ZMK.DDF\r\n\"Application.csv\"\r\n",
+         "ZMK.DDF: C:\\Temp\\Logs\\zmk.ddf would be lost"},
+        {".Set RptFileName=VM_WPN_2.cab\r\n\"Application.csv\"\r\n",
+         "VM_WPN_2.cab: disk1\\..\\VM_WPN_2.cab would be lost"},
+    };
+    const Names before = {"Application.csv", "VM_WPN_1.mdb", "ZMK.DDF", "link.cab", "same.cab"};
+    for (const auto& c : cases) {
+        direct(c.lines);
+        EXPECT_EQ("cannot write " + fs::canonical(working()).string() + "/" + c.message, failure());
+        EXPECT_EQ(before, listing());
+    }
 }
 
 TEST_F(MakeCabinetTest, NeedsADirectiveFile)

@@ -171,20 +171,6 @@ TEST(WriteCabinet, RefusesASourceThatDoesNotStayAsItIs)
     }
 }
 
-TEST(WriteCabinet, StopsAtTheLargestCabinetThatIsWanted)
-{
-    const ScratchFolder scratch;
-    Shape shape{"", {{"a", noise(200'000)}}};
-    const std::uint64_t size = pack(scratch, shape, "c.cab").bytes;
-
-    shape.packing.largestCabinet = size;
-    EXPECT_EQ(size, pack(scratch, shape, "c.cab").bytes);
-
-    shape.packing.largestCabinet = size - 1;
-    EXPECT_THROW(pack(scratch, shape, "d.cab"), RunTimeError);
-    EXPECT_FALSE(std::filesystem::exists(scratch.path() / "d.cab"));
-}
-
 TEST(WriteCabinet, RefusesAMemberThatIsTooLargeBeforeReadingIt)
 {
     const ScratchFolder scratch;

@@ -50,13 +50,34 @@ TEST(ParseDirectives, ReadsTheFileOfAGather)
 TEST(ParseDirectives, HasADefaultForEverything)
 {
     const Directives directives = parseDirectives("", "a.ddf");
-    EXPECT_EQ("1.cab", directives.cabinetName);
+    EXPECT_EQ("1.cab", cabinetNameOf(directives, 1));
+    EXPECT_EQ("12.cab", cabinetNameOf(directives, 12));
     EXPECT_EQ("disk1", directives.diskFolder);
     EXPECT_EQ("setup.inf", directives.infFile);
     EXPECT_EQ("setup.rpt", directives.rptFile);
     EXPECT_EQ(Compression::mszip, directives.compression);
     EXPECT_EQ(0U, directives.largestCabinet);
     EXPECT_TRUE(directives.members.empty());
+}
+
+TEST(CabinetNameOf, NumbersTheCabinetsOfASet)
+{
+    const struct {
+        const char* wished;
+        const char* names[2]; ///< of cabinets 1 and 2
+    } cases[] = {
+        {"..\\PC_WPN_1.cab", {"..\\PC_WPN_1.cab", "..\\PC_WPN_1_2.cab"}},
+        {"a*.cab", {"a1.cab", "a2.cab"}},
+        {"x.y\\*", {"x.y\\1", "x.y\\2"}},
+        {"x.y\\noending", {"x.y\\noending", "x.y\\noending_2"}},
+    };
+    for (const auto& c : cases) {
+        const auto directives =
+            parseDirectives(std::string(".Set CabinetNameTemplate=") + c.wished, "a.ddf");
+        EXPECT_EQ(c.names[0], cabinetNameOf(directives, 1));
+        EXPECT_EQ(c.names[1], cabinetNameOf(directives, 2));
+        EXPECT_EQ("disk1", diskFolderOf(directives, 2)) << "no * in its template";
+    }
 }
 
 TEST(ParseDirectives, UnderstandsTheLinesOfTheLanguage)
@@ -67,8 +88,8 @@ TEST(ParseDirectives, UnderstandsTheLinesOfTheLanguage)
         std::string (*look)(const Directives&);
         const char* expected;
     };
-    const auto cabinet = [](const Directives& d) { return d.cabinetName; };
-    const auto disk = [](const Directives& d) { return d.diskFolder; };
+    const auto cabinet = [](const Directives& d) { return cabinetNameOf(d, 1); };
+    const auto disk = [](const Directives& d) { return diskFolderOf(d, 1); };
     const auto limit = [](const Directives& d) { return std::to_string(d.largestCabinet); };
     const auto compression = [](const Directives& d) {
         return std::to_string(static_cast<int>(d.compression));
@@ -190,8 +211,8 @@ TEST(ParseDirectives, RefusesWhatItDoesNotKnowWithTheLine)
         {"x\\a.csv\ny\\A.CSV", "a.ddf:2: the cabinet already has a file A.CSV"},
         {"a\rb", "a.ddf:1: a control character"},
         {"a.csv\x1A", "a.ddf:1: a control character"},
-        {"\xEF\xBB\xBF.Option EXPLICIT", "a.ddf:1: the file begins with a byte order mark; text in "
-                                         "Windows-1252 is expected"},
+        {"\xEF\xBB\xBF\"ok\"\n\"\xE9.csv\"",
+         "a.ddf:2: the file begins as UTF-8, which this line is not"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.text);

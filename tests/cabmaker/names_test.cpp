@@ -52,6 +52,16 @@ TEST(FoldedName, BringsTheLettersOfTheCodePageToLowerCase)
     }
 }
 
+TEST(IsUtf8, TakesWholeCharactersInTheirShortestForm)
+{
+    for (const char* text : {"", "a", "é€", "日本", "\xF0\x9F\x98\x80", "\xF4\x8F\xBF\xBF"})
+        EXPECT_TRUE(isUtf8(text)) << text;
+    for (const char* text :
+         {"\x80", "\xC0\x80", "\xC3", "\xC3(", "\xE0\x9F\xBF", "\xED\xA0\x80", "\xF0\x8F\xBF\xBF",
+          "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xE2\x82"})
+        EXPECT_FALSE(isUtf8(text)) << text;
+}
+
 TEST(BaseName, IsWhatStandsBehindTheLastSeparatorOfEitherKind)
 {
     EXPECT_EQ("a.csv", baseName("C:\\Temp\\a.csv"));

@@ -34,7 +34,20 @@ TEST(SetupInf, NamesDiskCabinetAndMembers)
               "; cabinet,file,bytes,date,time\r\n"
               "1,\"Ärger.csv\",40000,2005-10-08,15:23:06\r\n"
               "1,\"b.mdb\",60000,1980-01-01,00:00:00\r\n",
-              setupInf({.cabinetName = "x.cab", .diskFolder = "disk1", .cabinet = cabinet}));
+              setupInf({.cabinets = {{"x.cab", "disk1", 0}}, .bytes = 12345, .packed = cabinet}));
+}
+
+TEST(SetupInf, NamesTheCabinetOfASetInWhichAMemberBegins)
+{
+    const PackedCabinet cabinet = sample();
+    const std::string text = setupInf(
+        {.cabinets = {{"x.cab", "disk1", 0}, {"x_2.cab", "disk2", 1}, {"x_3.cab", "disk3", 2}},
+         .bytes = 1,
+         .packed = cabinet});
+    EXPECT_NE(std::string::npos, text.find("1,\"disk1\"\r\n2,\"disk2\"\r\n3,\"disk3\"\r\n"));
+    EXPECT_NE(std::string::npos, text.find("1,1,\"x.cab\"\r\n2,2,\"x_2.cab\"\r\n3,3,"));
+    EXPECT_NE(std::string::npos, text.find("1,\"Ärger.csv\"")) << text;
+    EXPECT_NE(std::string::npos, text.find("2,\"b.mdb\"")) << text;
 }
 
 TEST(SetupRpt, TellsWhatWentInAndCameOut)
@@ -48,16 +61,14 @@ TEST(SetupRpt, TellsWhatWentInAndCameOut)
               "Bytes before    100000\r\n"
               "Bytes after     12345\r\n"
               "After/before    12.3 %\r\n",
-              setupRpt({.cabinetName = "x.cab", .diskFolder = "disk1", .cabinet = cabinet}));
+              setupRpt({.cabinets = {{"x.cab", "disk1", 0}}, .bytes = 12345, .packed = cabinet}));
 }
 
 TEST(SetupRpt, HasNoShareOfNothing)
 {
     const PackedCabinet cabinet;
-    const std::string text = setupRpt({.cabinetName = "x.cab",
-                                       .diskFolder = "",
-                                       .compression = Compression::none,
-                                       .cabinet = cabinet});
+    const std::string text = setupRpt(
+        {.cabinets = {{"x.cab", "", 0}}, .compression = Compression::none, .packed = cabinet});
     EXPECT_NE(std::string::npos, text.find("Compression     none\r\n"));
     EXPECT_NE(std::string::npos, text.find("After/before    -\r\n"));
 }
