@@ -24,35 +24,81 @@ std::string resultName(ToolContext& tool, const std::string& ending)
            ending;
 }
 
-/// The line of a file to pack; none when the file is not there.
-void writeMember(ToolContext& tool, ErrorTrap& step, const std::unique_ptr<TextWriter>& directives,
-                 const std::string& path)
+/// Whether the single-byte encoding has every character of a text.
+bool fitsOneByte(const std::string& text)
 {
-    bool exists = false;
-    step([&] { exists = tool.platform.files.fileExists(path); });
-    if (exists)
-        step([&] { objectOf(directives).writeLine(windows1252().bytesOf("\"" + path + "\"")); });
+    std::string shown;
+    windows1252().appendUtf8(shown, windows1252().bytesOf(text));
+    return shown == text;
 }
+
+/// A text in quotation marks, with those that it has itself doubled.
+std::string quoted(const std::string& text)
+{
+    std::string all = "\"";
+    for (const char c : text) all += c == '"' ? "\"\"" : std::string(1, c);
+    return all + "\"";
+}
+
+/// The directive file's lines: in the single-byte encoding where that can name the results, else in
+/// UTF-8 behind its mark.
+class Directives {
+public:
+    Directives(ToolContext& tool, ErrorTrap& step, bool utf8)
+        : tool_(tool), step_(step), utf8_(utf8)
+    {}
+
+    void create(const std::string& path)
+    {
+        step_([&] { file_ = tool_.platform.files.createTextFile(path); });
+    }
+
+    void line(const std::string& text)
+    {
+        const std::string mark = utf8_ && first_ ? "\xEF\xBB\xBF" : "";
+        first_ = false;
+        step_([&] {
+            objectOf(file_).writeLine(mark + (utf8_ ? text : windows1252().bytesOf(text)));
+        });
+    }
+
+    /// The line of a file to pack; none when the file is not there.
+    void member(const std::string& path)
+    {
+        bool exists = false;
+        step_([&] { exists = tool_.platform.files.fileExists(path); });
+        if (exists) line(quoted(path));
+    }
+
+    void close()
+    {
+        step_([&] { objectOf(file_).close(); });
+    }
+
+private:
+    ToolContext& tool_;
+    ErrorTrap& step_;
+    bool utf8_;
+    bool first_ = true;
+    std::unique_ptr<TextWriter> file_;
+};
 
 void writeDirectives(ToolContext& tool, ErrorTrap& step, const std::string& destination,
                      const std::string& databasePath)
 {
-    std::unique_ptr<TextWriter> directives;
     std::string cabinet;
-    const auto write = [&](const std::string& line) {
-        step([&] { objectOf(directives).writeLine(line); });
-    };
-    step([&] { directives = tool.platform.files.createTextFile(destination + directiveName); });
+    Directives directives(tool, step, !fitsOneByte(destination + databasePath));
+    directives.create(destination + directiveName);
     step([&] { cabinet = resultName(tool, ".cab"); });
-    write(".Option EXPLICIT");
-    write(".Set CabinetNameTemplate=..\\" + windows1252().bytesOf(cabinet));
-    write(".Set Cabinet=on");
-    write(".Set Compress=on");
-    write(".Set MaxDiskSize=CDROM");
-    writeMember(tool, step, directives, destination + "\\Application.csv");
-    writeMember(tool, step, directives, destination + "\\System.csv");
-    writeMember(tool, step, directives, databasePath);
-    step([&] { objectOf(directives).close(); });
+    directives.line(".Option EXPLICIT");
+    directives.line(".Set CabinetNameTemplate=..\\" + cabinet);
+    directives.line(".Set Cabinet=on");
+    directives.line(".Set Compress=on");
+    directives.line(".Set MaxDiskSize=CDROM");
+    directives.member(destination + "\\Application.csv");
+    directives.member(destination + "\\System.csv");
+    directives.member(databasePath);
+    directives.close();
 }
 
 /// Runs the cabinet maker from beside its input: its paths are relative to there.
@@ -66,7 +112,7 @@ void runCabinetMaker(ToolContext& tool, ErrorTrap& step, const std::string& dest
     step([&] { files.changeFolder(destination); });
     step([&] { files.copyFile(tool.platform.module.folder() + program, destination + program); });
     const std::string command =
-        "\"" + destination + cabinetMaker + "\" /f \"" + destination + directiveName + "\"";
+        quoted(destination + cabinetMaker) + " /f " + quoted(destination + directiveName);
     step.log("Command: " + command, logLevel::info);
     step([&] { process = tool.platform.processes.start(command, WindowStyle::hidden); });
     step([&] { waitForProcess(tool, process, endlessly); });

@@ -144,6 +144,25 @@ TEST(CompressResults, RemovesAllButTheResults)
     EXPECT_TRUE(tool.files.fileExists("C:\\OrvanDiagnostics\\cabmaker.exe"));
 }
 
+TEST(CompressResults, NamesWhatTheSingleByteEncodingLacksInUtf8BehindItsMark)
+{
+    PackagingTool tool;
+    std::string directives;
+    tool.processes.onStart([&](const std::string&) {
+        directives = tool.files.content("C:\\\xE3\x82\xB1 \"\xC3\xBC\\ZMK.DDF");
+    });
+    const std::string folder = "C:\\\xE3\x82\xB1 \"\xC3\xBC";
+    tool.files.with(folder + "\\x.mdb", "x");
+    mdlLogs::compressResults(tool.context, folder, folder + "\\x.mdb");
+    EXPECT_TRUE(directives.starts_with("\xEF\xBB\xBF.Option EXPLICIT\r\n")) << directives;
+    EXPECT_NE(std::string::npos,
+              directives.find("\r\n\"C:\\\xE3\x82\xB1 \"\"\xC3\xBC\\x.mdb\"\r\n"))
+        << directives;
+    EXPECT_EQ("\"C:\\\xE3\x82\xB1 \"\"\xC3\xBC\\cabmaker\" /f \"C:\\\xE3\x82\xB1 \"\"\xC3\xBC"
+              "\\ZMK.DDF\"",
+              tool.processes.commandLines().back());
+}
+
 TEST(CompressResults, ChangesToTheDriveAndThenToTheFolder)
 {
     PackagingTool tool;

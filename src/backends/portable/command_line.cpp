@@ -58,10 +58,15 @@ CommandLine parseCommandLine(std::string_view text)
     text = withoutLeadingBlanks(text);
     if (text.empty()) return line;
     if (text.front() == '"') {
-        const auto end = std::min(text.find('"', 1), text.size());
+        std::string program;
+        std::size_t end = 1;
+        for (; end < text.size(); ++end) {
+            if (text[end] == '"' && text.substr(end, 2) != "\"\"") break;
+            if (text[end] == '"') ++end;
+            program += text[end];
+        }
         const auto rest = text.substr(std::min(end + 1, text.size()));
-        if (end > 1)
-            line.readings.push_back({std::string(text.substr(1, end - 1)), splitArguments(rest)});
+        if (!program.empty()) line.readings.push_back({program, splitArguments(rest)});
         return line;
     }
     constexpr std::size_t mostReadings = 64;

@@ -6,7 +6,8 @@
 
 /// A command line taken apart by the platform's quoting rules.
 struct CommandLine {
-    /// What may be the program, likeliest first: a quoted name is one; of a name without quotes
+    /// What may be the program, likeliest first: a quoted name is one, in which
+    /// two quotation marks stand for one; of a name without quotes
     /// each blank may be its end, so `C:\My Tools\x -a` gives `C:\My`, `C:\My Tools\x` and the
     /// whole.
     struct Reading {

@@ -44,6 +44,11 @@ TEST(ParseCommandLine, AQuotedProgramHasOneReading)
     ASSERT_EQ(1u, line.readings.size());
     EXPECT_EQ(R"(C:\My Tools\cabmaker)", line.readings[0].program);
     EXPECT_THAT(line.readings[0].arguments, ElementsAre("/f", "a b"));
+
+    const auto marks = parseCommandLine(R"("/a ""b""/cabmaker" "c")");
+    ASSERT_EQ(1u, marks.readings.size());
+    EXPECT_EQ(R"(/a "b"/cabmaker)", marks.readings[0].program);
+    EXPECT_THAT(marks.readings[0].arguments, ElementsAre("c"));
 }
 
 TEST(ParseCommandLine, AProgramWithoutQuotesMayEndAtAnyBlank)
