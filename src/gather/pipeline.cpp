@@ -44,7 +44,7 @@ void makeDestination(Gather& run)
 {
     bool exists = false;
     run.step([&] { exists = run.tool.platform.files.folderExists(run.destination); });
-    if (!exists) run.step([&] { run.tool.platform.files.createFolder(run.destination); });
+    if (!exists) run.step([&] { run.tool.platform.files.createPrivateFolder(run.destination); });
 }
 
 void gatherServerLog(Gather& run, const std::string& fileName)

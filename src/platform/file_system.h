@@ -53,11 +53,15 @@ public:
     /// Makes the last level. Raises 58 (exists), 76 (its parent is missing).
     virtual void createFolder(const std::string& path) = 0;
 
-    /// Removes a folder with what it holds. Raises 76.
+    /// As `createFolder`, for this user alone where the machine knows of users.
+    virtual void createPrivateFolder(const std::string& path) = 0;
+
+    /// Removes an empty folder; a link to one is none. Raises 76; 70 for one that holds something.
     virtual void removeFolder(const std::string& path) = 0;
 
-    /// Copies over whatever stands at `target`. Raises 53, 76, 61 (disk full), 70 for a read-only
-    /// target.
+    /// Copies over a plain file at `target`, or makes one, whose use the user's own settings
+    /// restrict. Raises 53, 76, 61 (disk full), 70 for a read-only target and one that is no plain
+    /// file.
     virtual void copyFile(const std::string& source, const std::string& target) = 0;
 
     /// Raises 53; 70 for a read-only file.
@@ -72,7 +76,7 @@ public:
     /// Opens for writing at the end, and makes the file when it is missing. Raises 76.
     virtual std::unique_ptr<TextWriter> openForAppending(const std::string& path) = 0;
 
-    /// Makes the file, over an existing one. Raises 76.
+    /// Makes the file, over an existing one. Raises 76; 70 for what is no plain file.
     virtual std::unique_ptr<TextWriter> createTextFile(const std::string& path) = 0;
 
     virtual std::string specialFolder(SpecialFolder folder) const = 0;

@@ -238,7 +238,7 @@ TEST(DatabaseGather, ADestinationThatVanishesDuringTheWalkDoesNotStopIt)
     FrameTool tool;
     tool.withLog("diag_A_1.txt", logOf(1)).withEventLog("System");
     tool.desktop.onPump([&] {
-        if (tool.files.folderExists("C:\\Out")) tool.files.removeFolder("C:\\Out");
+        if (tool.files.folderExists("C:\\Out")) tool.files.withoutFolder("C:\\Out");
     });
     tool.gatherFrame();
     EXPECT_EQ(2.0F, tool.overall.value());

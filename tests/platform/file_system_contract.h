@@ -191,15 +191,19 @@ TYPED_TEST_P(FileSystemContract, AFolderIsAsBigAsAllFilesBelow)
     EXPECT_EQ(5, this->files().folderSize("C:\\F"));
 }
 
-TYPED_TEST_P(FileSystemContract, RemovingAFolderTakesAllBelowWithIt)
+TYPED_TEST_P(FileSystemContract, AFolderIsRemovedOnceItIsEmpty)
 {
     this->files().createFolder("C:\\F");
     this->files().createFolder("C:\\F\\G");
     this->files().createFolder("C:\\Fother");
     this->write("C:\\F\\G\\b", "x");
+    EXPECT_EQ(70, errorOf([&] { this->files().removeFolder("C:\\F"); }));
+    EXPECT_EQ(70, errorOf([&] { this->files().removeFolder("C:\\F\\G"); }));
+    EXPECT_TRUE(this->files().fileExists("C:\\F\\G\\b"));
+    this->files().deleteFile("C:\\F\\G\\b");
+    this->files().removeFolder("C:\\F\\G");
     this->files().removeFolder("C:\\F");
     EXPECT_FALSE(this->files().folderExists("C:\\F"));
-    EXPECT_FALSE(this->files().fileExists("C:\\F\\G\\b"));
     EXPECT_TRUE(this->files().folderExists("C:\\Fother"));
 }
 
@@ -380,18 +384,15 @@ TYPED_TEST_P(FileSystemContract, ANameThatIsNotShortenedStays)
     EXPECT_EQ("C:\\none.txt", this->files().longPathName("C:\\none.txt"));
 }
 
-REGISTER_TYPED_TEST_SUITE_P(FileSystemContract, AFileThatWasWrittenIsThere,
-                            NamesMatchWithoutRegardToCase, WritingAnotherSpellingKeepsOneFile,
-                            BothSeparatorsSeparate, APathCannotClimbOutOfItsDrive,
-                            AMissingFileRaises53, AFolderIsNoFile, AMissingFolderRaises76,
-                            AFolderIsMadeOneLevelAtATimeAndOnce, EntriesAreFilesAndFoldersByName,
-                            APatternFindsPlainFilesByName, AFolderIsAsBigAsAllFilesBelow,
-                            RemovingAFolderTakesAllBelowWithIt, ACopyReplacesItsTarget,
-                            AReadOnlyFileStaysAsItIs, ClearedAttributesMakeAFileWritable,
-                            ALineEndsWithALineFeedOrBothSigns, AFinalLineEndBeginsNoLine,
-                            AnEmptyFileIsAtItsEnd, BytesAreReadAsTheyWereWritten,
-                            ReadingAllGivesWhatLinesLeft, ALongLineComesWhole,
-                            AClosedStreamRaises91, AppendingGoesOnAtTheEnd,
-                            FlushedTextIsThereForOthers, ANewFileIsModifiedNow,
-                            APathWithoutADriveStartsInTheCurrentFolder, ADriveHasANameAndSpace,
-                            SpecialFoldersAreThere, ANameThatIsNotShortenedStays);
+REGISTER_TYPED_TEST_SUITE_P(
+    FileSystemContract, AFileThatWasWrittenIsThere, NamesMatchWithoutRegardToCase,
+    WritingAnotherSpellingKeepsOneFile, BothSeparatorsSeparate, APathCannotClimbOutOfItsDrive,
+    AMissingFileRaises53, AFolderIsNoFile, AMissingFolderRaises76,
+    AFolderIsMadeOneLevelAtATimeAndOnce, EntriesAreFilesAndFoldersByName,
+    APatternFindsPlainFilesByName, AFolderIsAsBigAsAllFilesBelow, AFolderIsRemovedOnceItIsEmpty,
+    ACopyReplacesItsTarget, AReadOnlyFileStaysAsItIs, ClearedAttributesMakeAFileWritable,
+    ALineEndsWithALineFeedOrBothSigns, AFinalLineEndBeginsNoLine, AnEmptyFileIsAtItsEnd,
+    BytesAreReadAsTheyWereWritten, ReadingAllGivesWhatLinesLeft, ALongLineComesWhole,
+    AClosedStreamRaises91, AppendingGoesOnAtTheEnd, FlushedTextIsThereForOthers,
+    ANewFileIsModifiedNow, APathWithoutADriveStartsInTheCurrentFolder, ADriveHasANameAndSpace,
+    SpecialFoldersAreThere, ANameThatIsNotShortenedStays);

@@ -138,6 +138,15 @@ FakeFileSystem& FakeFileSystem::withRepeated(const std::string& path, std::strin
     return *this;
 }
 
+FakeFileSystem& FakeFileSystem::withoutFolder(const std::string& path)
+{
+    const std::string key = use(path);
+    std::erase_if(nodes_, [&](const auto& entry) {
+        return entry.first == key || entry.first.rfind(key + "\\", 0) == 0;
+    });
+    return *this;
+}
+
 FakeFileSystem& FakeFileSystem::withFolder(const std::string& path)
 {
     const std::string fullPath = fakePaths::full(path, currentFolder_);
@@ -290,10 +299,8 @@ void FakeFileSystem::createFolder(const std::string& path)
 void FakeFileSystem::removeFolder(const std::string& path)
 {
     const std::string key = use(path);
-    childrenOf(key);
-    std::erase_if(nodes_, [&](const auto& entry) {
-        return entry.first == key || entry.first.rfind(key + "\\", 0) == 0;
-    });
+    if (!childrenOf(key).empty()) throw RunTimeError(runTimeErrors::permissionDenied);
+    nodes_.erase(key);
 }
 
 void FakeFileSystem::copyFile(const std::string& source, const std::string& target)

@@ -31,6 +31,9 @@ public:
     FakeFileSystem& withRepeated(const std::string& path, std::string content, int times);
     FakeFileSystem& withFolder(const std::string& path);
 
+    /// Takes a folder away with all that is below it.
+    FakeFileSystem& withoutFolder(const std::string& path);
+
     /// Makes a drive such as "D:", or sets the space of one that is there.
     FakeFileSystem& withDrive(const std::string& drive, DiskSpace space);
 
@@ -77,6 +80,7 @@ public:
     std::vector<FileInfo> entries(const std::string& folder) const override;
     std::vector<std::string> matching(const std::string& pattern) const override;
     void createFolder(const std::string& path) override;
+    void createPrivateFolder(const std::string& path) override { createFolder(path); }
     void removeFolder(const std::string& path) override;
     void copyFile(const std::string& source, const std::string& target) override;
     void deleteFile(const std::string& path) override;

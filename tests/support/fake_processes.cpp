@@ -40,6 +40,12 @@ FakeProcesses& FakeProcesses::running(std::int32_t processId)
     return *this;
 }
 
+FakeProcesses& FakeProcesses::reporting(ProcessReport report)
+{
+    report_ = std::move(report);
+    return *this;
+}
+
 std::int32_t FakeProcesses::start(const std::string& commandLine, WindowStyle window)
 {
     commandLines_.push_back(commandLine);

@@ -23,6 +23,9 @@ public:
     /// A process that a test pretends is running.
     FakeProcesses& running(std::int32_t processId);
 
+    /// What is known of the process that was waited for.
+    FakeProcesses& reporting(ProcessReport report);
+
     const std::vector<std::string>& commandLines() const { return commandLines_; }
     const std::vector<WindowStyle>& windows() const { return windows_; }
 
@@ -34,7 +37,10 @@ public:
     /// A process ends with its wait, so that a second wait for it gives false.
     bool wait(std::int32_t processId, std::int32_t milliseconds) override;
 
+    ProcessReport lastReport() const override { return report_; }
+
 private:
+    ProcessReport report_;
     std::function<void(const std::string&)> program_;
     int fault_ = 0;
     std::set<std::string> missing_;

@@ -74,7 +74,8 @@ bool writeAll(int file, const char* bytes, std::size_t size, std::uint64_t at)
 
 PageFile::PageFile(const std::string& path)
 {
-    file_ = open(path.c_str(), O_RDWR | O_CLOEXEC);
+    // A link that was put in the place of the fresh copy would lead the rows elsewhere.
+    file_ = open(path.c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW);
     if (file_ < 0) {
         if (errno == ENOENT || errno == ENOTDIR) raiseFileNotFound(path);
         raiseCannotOpen(path);

@@ -7,6 +7,7 @@
 #include "backends/portable/tool_folder.h"
 
 #include <cerrno>
+#include <filesystem>
 #include <sys/stat.h>
 #include <utility>
 
@@ -34,6 +35,17 @@ void makeServerFolder(const std::string& path)
     throw posixError(errno, runTimeErrors::pathNotFound);
 }
 
+/// What may be started. The viewer is installed beside the program that runs, where there is one.
+InstalledPrograms installedPrograms(const std::string& installedData)
+{
+    InstalledPrograms programs;
+    if (!installedData.empty()) programs.cabinetMaker = installedData + "/cabmaker.exe";
+    std::error_code none;
+    const auto running = std::filesystem::read_symlink("/proc/self/exe", none);
+    if (!none) programs.viewer = running.parent_path() / "orvandiag-viewer";
+    return programs;
+}
+
 } // namespace
 
 bool isSite(const std::string& folder)
@@ -51,7 +63,8 @@ Site::Site(const std::string& folder, std::string installedData, HostFacts host,
       timeZone_(zone_), workstation_(settings_),
       eventReporter_(paths_.siteFolder() + "/eventlogs", workstation_.details()->computerName,
                      settings_.logFields, clock_),
-      eventLogExporter_(paths_.siteFolder() + "/eventlogs", paths_), processes_(paths_),
+      eventLogExporter_(paths_.siteFolder() + "/eventlogs", paths_),
+      processes_(paths_, installedPrograms(installedData_)),
       module_(settings_.toolFolder, std::move(host)), languages_(settings_.language, paths_),
       database_(databaseFile()), xml_(files_, codePage())
 {

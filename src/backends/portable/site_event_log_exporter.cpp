@@ -41,7 +41,7 @@ std::string nextCsvLine(SiteTextReader& log)
 void checkTarget(const std::string& target)
 {
     struct stat facts {};
-    if (::stat(target.c_str(), &facts) != 0) return;
+    if (::lstat(target.c_str(), &facts) != 0) return;
     if (!S_ISREG(facts.st_mode) || (facts.st_mode & S_IWUSR) == 0)
         throw RunTimeError(runTimeErrors::permissionDenied);
 }

@@ -9,6 +9,8 @@
 #include "backends/portable/whole_file.h"
 
 #include <cerrno>
+#include <cstdlib>
+#include <fstream>
 #include <sys/statvfs.h>
 #include <unistd.h>
 #include <utility>
@@ -38,6 +40,17 @@ mode_t modeOf(const SitePaths& paths, const std::string& path)
 bool isReadOnly(mode_t mode)
 {
     return (mode & S_IWUSR) == 0;
+}
+
+/// What the user's settings keep from new files. To ask the system itself would change them for a
+/// moment, for every thread.
+mode_t fileModeMask()
+{
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.rfind("Umask:", 0) == 0)
+            return static_cast<mode_t>(std::strtoul(line.c_str() + 6, nullptr, 8));
+    return 0077;
 }
 
 /// Where the last name of a path begins.
@@ -156,12 +169,16 @@ void SiteFileSystem::createFolder(const std::string& path)
     if (::mkdir(paths_.machinePath(path).c_str(), 0777) != 0) throw posixError(errno, pathNotFound);
 }
 
+void SiteFileSystem::createPrivateFolder(const std::string& path)
+{
+    if (::mkdir(paths_.machinePath(path).c_str(), 0700) != 0) throw posixError(errno, pathNotFound);
+}
+
 void SiteFileSystem::removeFolder(const std::string& path)
 {
     const auto machinePath = paths_.machinePath(path);
-    if (!S_ISDIR(factsOf(machinePath, pathNotFound).st_mode)) throw RunTimeError(pathNotFound);
     if (paths_.isRoot(path)) throw RunTimeError(permissionDenied);
-    removeWholeFolder(machinePath);
+    if (::rmdir(machinePath.c_str()) != 0) throw posixError(errno, pathNotFound);
 }
 
 void SiteFileSystem::copyFile(const std::string& source, const std::string& target)
@@ -169,7 +186,7 @@ void SiteFileSystem::copyFile(const std::string& source, const std::string& targ
     const auto from = existingFile(source);
     const auto to = paths_.machinePath(target);
     struct stat there {};
-    if (::stat(to.c_str(), &there) == 0) {
+    if (::lstat(to.c_str(), &there) == 0) {
         const auto facts = factsOf(from, fileNotFound);
         const bool same = facts.st_dev == there.st_dev && facts.st_ino == there.st_ino;
         if (same || !S_ISREG(there.st_mode) || isReadOnly(there.st_mode))
@@ -190,7 +207,8 @@ void SiteFileSystem::clearAttributes(const std::string& path)
 {
     const auto machinePath = existingFile(path);
     const auto mode = factsOf(machinePath, fileNotFound).st_mode & 07777;
-    if (::chmod(machinePath.c_str(), mode | S_IRUSR | S_IWUSR) != 0)
+    const mode_t ordinary = 0666 & ~fileModeMask();
+    if (::chmod(machinePath.c_str(), mode | ordinary | S_IRUSR | S_IWUSR) != 0)
         throw posixError(errno, fileNotFound);
 }
 

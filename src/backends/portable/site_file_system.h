@@ -27,6 +27,7 @@ public:
     std::vector<FileInfo> entries(const std::string& folder) const override;
     std::vector<std::string> matching(const std::string& pattern) const override;
     void createFolder(const std::string& path) override;
+    void createPrivateFolder(const std::string& path) override;
     void removeFolder(const std::string& path) override;
     void copyFile(const std::string& source, const std::string& target) override;
     void deleteFile(const std::string& path) override;

@@ -1,27 +1,37 @@
 #pragma once
 
+#include "backends/portable/file_descriptor.h"
 #include "platform/processes.h"
 
-#include <functional>
+#include <map>
 #include <optional>
-#include <set>
 #include <string>
-#include <string_view>
 #include <sys/types.h>
 #include <vector>
 
 class SitePaths;
 
-/// Programs on a site, and the machine's own behind a leading `/`.
+/// The programs that a site may have started, as paths of the machine; empty where there is none.
+struct InstalledPrograms {
+    std::string cabinetMaker;
+    std::string viewer;
+};
+
+/// The programs that a site asks for: of those, only what is installed on this machine runs.
 ///
-/// A program runs without a shell, with nothing to read and its output thrown away, in a process
-/// group of its own, so that Ctrl-C reaches the tool alone. It finds the site's folder in the
-/// variable `ORVAN_SITE_DRIVES`. Where the site has no file explorer, the machine's own opens the
-/// folder, when there is a screen for it.
+/// A site is often a copy that somebody sent, and a folder with results one that others write to,
+/// so no file of either is ever run. A program called `cabmaker` that is there stands for the
+/// installed one, which runs in its place, whether or not the two are the same: a site may have got
+/// its own from an older tool. The explorer stands for the machine's own, which opens a folder when
+/// there is a screen for it. Everything else must be the installed viewer itself.
+///
+/// A program runs without a shell, with nothing to read and its output thrown away, but for what
+/// the cabinet maker says of its failure, in a process group of its own, so that Ctrl-C reaches the
+/// tool alone. It finds the site's folder in the variable `ORVAN_SITE_DRIVES`.
 class SiteProcesses final : public Processes {
 public:
     /// `paths` gives the current folder and outlives this.
-    explicit SiteProcesses(const SitePaths& paths);
+    SiteProcesses(const SitePaths& paths, InstalledPrograms installed);
     ~SiteProcesses() override;
 
     std::int32_t start(const std::string& commandLine, WindowStyle window) override;
@@ -29,11 +39,24 @@ public:
     /// A process is there until it was waited for to its end.
     bool wait(std::int32_t processId, std::int32_t milliseconds) override;
 
+    ProcessReport lastReport() const override { return lastReport_; }
+
 private:
-    std::optional<std::string> programOf(const std::string& name) const;
-    std::int32_t spawn(const std::string& program, std::vector<std::string> arguments);
+    /// A process that runs.
+    struct Running {
+        FileDescriptor words; ///< what it writes to standard error; not open for most
+        bool replaced = false;
+    };
+
+    std::optional<std::string> fileOf(const std::string& name) const;
+    std::int32_t startCabinetMaker(const std::string& asked,
+                                   const std::vector<std::string>& arguments);
     std::int32_t openFolder(const std::vector<std::string>& arguments);
+    std::int32_t spawn(const std::string& program, std::vector<std::string> arguments,
+                       Running running);
 
     const SitePaths& paths_;
-    std::set<pid_t> started_;
+    InstalledPrograms installed_;
+    std::map<pid_t, Running> running_;
+    ProcessReport lastReport_;
 };

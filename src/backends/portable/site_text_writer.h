@@ -12,7 +12,8 @@ class SiteTextWriter final : public TextWriter {
 public:
     enum class Mode { create, append };
 
-    /// Raises 76 when the folder is missing, 70 for a read-only file and for a folder, 61, 57.
+    /// Raises 76 when the folder is missing, 70 for a read-only file and for a folder, to create
+    /// also for a link and whatever else is no plain file, 61, 57.
     SiteTextWriter(const std::string& machinePath, Mode mode);
     ~SiteTextWriter() override;
 
@@ -22,6 +23,7 @@ public:
     void close() override;
 
 private:
+    void emptyPlainFile();
     void requireOpen() const;
     void makeRoom(std::size_t length);
 

@@ -117,7 +117,7 @@ void copyWholeFile(const std::string& source, const std::string& target)
     if (::fstat(from.get(), &facts) != 0) throw posixError(errno, runTimeErrors::fileNotFound);
     if (S_ISDIR(facts.st_mode)) throw RunTimeError(runTimeErrors::fileNotFound);
 
-    ReplacementFile copy(target, S_IRUSR | S_IWUSR);
+    ReplacementFile copy(target, facts.st_mode & 0777);
     int way = 0;
     for (;;) {
         const ssize_t count = copySome(from.get(), copy.descriptor(), way);
@@ -126,6 +126,5 @@ void copyWholeFile(const std::string& source, const std::string& target)
     }
     const timespec times[] = {facts.st_atim, facts.st_mtim};
     ::futimens(copy.descriptor(), times);
-    ::fchmod(copy.descriptor(), facts.st_mode & 0777);
     copy.commit(false);
 }

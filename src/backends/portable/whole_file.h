@@ -40,6 +40,7 @@ private:
     FileDescriptor file_;
 };
 
-/// Copies a file of the machine whole, with its mode and its modified time, over what stands at
+/// Copies a file of the machine whole, with its modified time and its mode as far as the user's
+/// settings leave it to new files, over what stands at
 /// `target`. Raises 53 for the source, 76 for the target's folder, 70, 61, 57.
 void copyWholeFile(const std::string& source, const std::string& target);

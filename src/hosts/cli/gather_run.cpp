@@ -73,6 +73,7 @@ GatherOutcome runGather(OpenTool& tool, GatherWizard& wizard)
 {
     GatherWatch watch(tool.context(), wizard.progressPage(),
                       [&tool](const std::string& path) { return tool.machinePath(path); });
+    if (const auto refusal = watch.refusal()) throw CommandFailure(asClause(*refusal));
     {
         const RunProgress progress(tool, wizard, watch);
         wizard.run();
@@ -129,6 +130,8 @@ void report(Output& output, const GatherOutcome& outcome)
     const std::string missing = joined(outcome.missing);
     if (!outcome.destinationThere) throw CommandFailure(missing);
     print(output, outcome);
+    if (outcome.cabinetMakerReplaced)
+        output.message(asClause({gatherSentences::cabinetMakerReplaced, {}}));
     if (outcome.cancelled)
         throw CommandFailure("cancelled; what was read until then is kept in " +
                              outcome.destination + (missing.empty() ? "" : "; " + missing));

@@ -4,9 +4,9 @@
 #include "core/registry_store.h"
 #include "gather/logs.h"
 #include "hosts/common/row_counts.h"
-#include "platform/code_page.h"
 #include "platform/file_system.h"
 #include "platform/host_module.h"
+#include "platform/processes.h"
 #include "platform/trace_database.h"
 #include "runtime/text.h"
 #include "wizards/gather_progress.h"
@@ -38,12 +38,11 @@ bool isOfAMalformedLine(int error)
     }
 }
 
-/// Whether an error that a gather went on after cost the person a result. Whether packing did, its
-/// cabinet tells.
+/// Whether an error that a gather went on after may have cost the person a result.
 bool costsAResult(const RunTimeError& error, std::string_view procName)
 {
-    return beginsWith(procName, "[mdlLogs]") && procName != packingProc &&
-           !isOfAMalformedLine(error.number());
+    return beginsWith(procName, "[mdlLogs]") &&
+           (procName == packingProc || !isOfAMalformedLine(error.number()));
 }
 
 /// What an error tells, as a part of a sentence: some end in a point of their own.
@@ -88,12 +87,15 @@ bool holds(const std::vector<std::string>& names, const std::string& wanted)
                        [&](const std::string& name) { return equalIgnoringCase(name, wanted); });
 }
 
-/// Whether directives, which have one byte a character, can name a file there.
-bool cabinetCanName(const std::string& path)
+/// What packing makes beside its input and removes again.
+constexpr std::string_view passingNames[] = {"setup.rpt", "setup.inf", "ZMK.DDF", "disk1",
+                                             "cabmaker.exe"};
+
+bool isPassing(const std::string& name)
 {
-    std::string named;
-    windows1252().appendUtf8(named, windows1252().bytesOf(path));
-    return named == path;
+    return std::any_of(std::begin(passingNames), std::end(passingNames), [&](std::string_view own) {
+        return equalIgnoringCase(name, std::string(own));
+    });
 }
 
 /// Logs that failed in one way are told in one sentence.
@@ -121,6 +123,7 @@ std::vector<Sentence> GatherOutcome::sentences() const
     if (cancelled) all.push_back({gatherSentences::cancelled, {}});
     all.insert(all.end(), missing.begin(), missing.end());
     if (emptyFrame) all.push_back({gatherSentences::emptyFrame, {}});
+    if (cabinetMakerReplaced) all.push_back({gatherSentences::cabinetMakerReplaced, {}});
     if ((cancelled || !missing.empty()) && !files.empty())
         all.push_back({gatherSentences::kept, {destination}});
     return all;
@@ -153,6 +156,7 @@ void GatherWatch::note(const RunTimeError& error, std::string_view procName)
 {
     if (!costsAResult(error, procName)) return;
     const bool tooMany = error.number() == errorCountExceeded;
+    if (procName == packingProc) return add({Stage::packing, "", tooMany, causeOf(error)});
     const TreeNode* leaf = currentLeaf(steps_);
     if (leaf) {
         const bool server = leaf->parent() && leaf->parent()->text() == mdlLogs::orvanLogsBranch;
@@ -195,12 +199,41 @@ std::map<std::string, GatherWatch::Stamp> GatherWatch::filesThere() const
     return files;
 }
 
+std::optional<Sentence> GatherWatch::refusal() const
+{
+    const std::string folder = machinePath_(destination_);
+    std::error_code none;
+    for (const auto& entry : fs::directory_iterator(folder, none)) {
+        const std::string name = entry.path().filename().string();
+        if (timeFrame_ && isPassing(name))
+            return Sentence{gatherSentences::wouldBeLost, {name, folder}};
+        if (mayBeOfThisRun(name) && !fs::is_regular_file(entry.symlink_status(none)))
+            return Sentence{gatherSentences::notPlain, {name, folder}};
+    }
+    return {};
+}
+
+bool GatherWatch::isCapture(const std::string& name) const
+{
+    return std::any_of(eventLogs_.begin(), eventLogs_.end(), [&](const std::string& log) {
+        return equalIgnoringCase(name, captureName(log));
+    });
+}
+
+/// The moments in the names of a time frame's results are not known before they are made.
+bool GatherWatch::mayBeOfThisRun(const std::string& name) const
+{
+    const fs::path ending = fs::path(name).extension();
+    const bool named = ending == ".mdb" || ending == ".cab";
+    if (timeFrame_ && named && name.find("_WPN_") != std::string::npos) return true;
+    return isCapture(name) || (!timeFrame_ && isOfThisRun(name));
+}
+
 /// Another program may write to the folder too: only a gather's own names count.
 bool GatherWatch::isOfThisRun(const std::string& name) const
 {
     const auto named = [&](const std::string& wanted) { return equalIgnoringCase(name, wanted); };
-    const auto isCaptured = [&](const std::string& log) { return named(captureName(log)); };
-    if (std::any_of(eventLogs_.begin(), eventLogs_.end(), isCaptured)) return true;
+    if (isCapture(name)) return true;
     if (timeFrame_)
         return name == fs::path(machinePath_(tool_.g_strTraceDatabase)).filename() ||
                (name.find("_WPN_") != std::string::npos && fs::path(name).extension() == ".cab");
@@ -220,7 +253,7 @@ void GatherWatch::findFiles(GatherOutcome& outcome) const
         const fs::path path = fs::path(outcome.destination) / name;
         if (!timeFrame_) continue;
         if (path.extension() == ".cab")
-            outcome.cabinet = path.string();
+            outcome.cabinet = outcome.cabinet.value_or(path.string());
         else if (path.extension() == ".mdb")
             outcome.database = path.string();
     }
@@ -272,12 +305,17 @@ void GatherWatch::tellOfDatabase(GatherOutcome& outcome) const
 
 void GatherWatch::tellOfCabinet(GatherOutcome& outcome) const
 {
+    const ProcessReport maker = tool_.platform.processes.lastReport();
+    outcome.cabinetMakerReplaced = outcome.cabinet && maker.replaced;
     if (outcome.cabinet) return;
-    const std::string maker = tool_.platform.module.folder() + "\\cabmaker.exe";
-    if (!cabinetCanName(outcome.destination))
-        outcome.missing.push_back({gatherSentences::noCabinetForName, {}});
-    else if (!tool_.platform.files.fileExists(maker))
-        outcome.missing.push_back({gatherSentences::noCabinetMaker, {machinePath_(maker)}});
+    const std::string program = tool_.platform.module.folder() + "\\cabmaker.exe";
+    const Trouble* packing = troubleAt(Stage::packing);
+    if (!maker.failure.empty())
+        outcome.missing.push_back({gatherSentences::noCabinetBecause, {maker.failure}});
+    else if (!tool_.platform.files.fileExists(program))
+        outcome.missing.push_back({gatherSentences::noCabinetMaker, {machinePath_(program)}});
+    else if (packing)
+        outcome.missing.push_back({gatherSentences::noCabinetBecause, {packing->why}});
     else
         outcome.missing.push_back({gatherSentences::noCabinet, {}});
 }

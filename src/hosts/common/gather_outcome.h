@@ -40,8 +40,14 @@ constexpr std::string_view definitionsIncomplete =
 constexpr std::string_view filtersIncomplete = "The filters could not all be stored: %1.";
 constexpr std::string_view noCabinet = "No cabinet was made.";
 constexpr std::string_view noCabinetMaker = "No cabinet was made: the cabinet maker %1 is missing.";
-constexpr std::string_view noCabinetForName =
-    "No cabinet was made: the destination's name has characters that Windows-1252 lacks.";
+constexpr std::string_view noCabinetBecause = "No cabinet was made: %1.";
+constexpr std::string_view cabinetMakerReplaced =
+    "The site's cabinet maker is not the installed one, which made the cabinet in its place.";
+constexpr std::string_view wouldBeLost =
+    "%1 in the destination %2 would be lost: the gather makes a file or folder of that name and "
+    "removes it again.";
+constexpr std::string_view notPlain =
+    "%1 in the destination %2 is not a plain file, and nothing is written to such a one.";
 constexpr std::string_view cancelled = "The gather was cancelled.";
 constexpr std::string_view emptyFrame = "No line lies in the time frame.";
 constexpr std::string_view kept = "What was gathered is kept in %1.";
@@ -66,7 +72,10 @@ constexpr std::string_view all[] = {
     filtersIncomplete,
     noCabinet,
     noCabinetMaker,
-    noCabinetForName,
+    noCabinetBecause,
+    cabinetMakerReplaced,
+    wouldBeLost,
+    notPlain,
     cancelled,
     emptyFrame,
     kept,
@@ -79,7 +88,8 @@ struct GatherOutcome {
     bool destinationThere = false;       ///< whether that folder is there now
     std::vector<std::string> files;      ///< names of what this run wrote there, sorted
     std::optional<std::string> database; ///< paths of this machine; none when it was not made
-    std::optional<std::string> cabinet;
+    std::optional<std::string> cabinet;  ///< the first one of a set
+    bool cabinetMakerReplaced = false;   ///< the installed one ran, and the site's is another one
     bool cancelled = false;
     bool emptyFrame = false; ///< a database was made, and no line lies in the time frame
 
@@ -87,7 +97,8 @@ struct GatherOutcome {
     std::vector<Sentence> missing;
 
     /// What to tell the person beside the tool's own texts: a cancel, what is missing, an empty
-    /// time frame, and where the rest is kept. Empty when there is nothing to add.
+    /// time frame, another cabinet maker, and where the rest is kept. Empty when there is nothing
+    /// to add.
     std::vector<Sentence> sentences() const;
 };
 
@@ -105,6 +116,10 @@ public:
     ~GatherWatch();
     GatherWatch(const GatherWatch&) = delete;
     GatherWatch& operator=(const GatherWatch&) = delete;
+
+    /// Why the run must not begin, if so: it would take away what lies in the destination, or write
+    /// to what is not a plain file there. To be asked before the run.
+    std::optional<Sentence> refusal() const;
 
     /// To be called at each message box of the run: the one that the pipeline has tells of a log
     /// that is not there.
@@ -124,7 +139,7 @@ private:
         bool operator==(const Stamp&) const = default;
     };
 
-    enum class Stage { run, definitions, serverLog, eventLog, filters };
+    enum class Stage { run, definitions, serverLog, eventLog, filters, packing };
 
     /// Why a part of the gather is not whole.
     struct Trouble {
@@ -142,6 +157,8 @@ private:
 
     std::map<std::string, Stamp> filesThere() const;
     bool isOfThisRun(const std::string& name) const;
+    bool isCapture(const std::string& name) const;
+    bool mayBeOfThisRun(const std::string& name) const;
     void findFiles(GatherOutcome& outcome) const;
     void tellOfDestination(GatherOutcome& outcome) const;
     void tellOfDatabase(GatherOutcome& outcome) const;

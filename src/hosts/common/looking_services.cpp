@@ -152,6 +152,11 @@ void LookingFileSystem::createFolder(const std::string& path)
     if (mayWrite(path)) files_.createFolder(path);
 }
 
+void LookingFileSystem::createPrivateFolder(const std::string& path)
+{
+    if (mayWrite(path)) files_.createPrivateFolder(path);
+}
+
 void LookingFileSystem::removeFolder(const std::string& path)
 {
     if (mayWrite(path)) files_.removeFolder(path);

@@ -37,9 +37,15 @@ constexpr const char* texts[] = {
     QT_TRANSLATE_NOOP("GatherReport", "The filters could not all be stored: %1."),
     QT_TRANSLATE_NOOP("GatherReport", "No cabinet was made."),
     QT_TRANSLATE_NOOP("GatherReport", "No cabinet was made: the cabinet maker %1 is missing."),
+    QT_TRANSLATE_NOOP("GatherReport", "No cabinet was made: %1."),
     QT_TRANSLATE_NOOP(
         "GatherReport",
-        "No cabinet was made: the destination's name has characters that Windows-1252 lacks."),
+        "The site's cabinet maker is not the installed one, which made the cabinet in its place."),
+    QT_TRANSLATE_NOOP("GatherReport",
+                      "%1 in the destination %2 would be lost: the gather makes a file or folder "
+                      "of that name and removes it again."),
+    QT_TRANSLATE_NOOP("GatherReport", "%1 in the destination %2 is not a plain file, and nothing "
+                                      "is written to such a one."),
     QT_TRANSLATE_NOOP("GatherReport", "The gather was cancelled."),
     QT_TRANSLATE_NOOP("GatherReport", "No line lies in the time frame."),
     QT_TRANSLATE_NOOP("GatherReport", "What was gathered is kept in %1."),
@@ -71,7 +77,7 @@ std::vector<std::string> translatedGatherSentences()
     return {std::begin(texts), std::end(texts)};
 }
 
-LiveSentence GatherReport::tick(ToolContext& tool, const SheetPage& page, const Timer& timer,
+LiveSentence GatherReport::tick(ToolContext& tool, const SheetPage& page, Timer& timer,
                                 MachinePath machinePath, const std::function<void()>& run)
 {
     const auto* progress = dynamic_cast<const ppgGatherLogs03Step*>(&page);
@@ -83,6 +89,10 @@ LiveSentence GatherReport::tick(ToolContext& tool, const SheetPage& page, const 
     } catch (const RunTimeError&) {
         // A page without a job has nothing to gather.
         return run(), nullptr;
+    }
+    if (const auto refusal = watch->refusal()) {
+        timer.setEnabled(false); // until the person comes back to the page
+        return [sentence = *refusal] { return inLanguage(sentence); };
     }
     const Running running(watch_, *watch);
     run();

@@ -18,8 +18,9 @@ public:
     using MachinePath = std::function<std::string(const std::string&)>;
 
     /// Lets a timer of a page tick. Where that runs a gather: gives, when it has come to its end,
-    /// what there is to say, and null for nothing. `tool` and the page outlive the call.
-    LiveSentence tick(ToolContext& tool, const SheetPage& page, const Timer& timer,
+    /// what there is to say, and null for nothing; a gather that would harm its destination is not
+    /// run, and why is said at once. `tool` and the page outlive the call.
+    LiveSentence tick(ToolContext& tool, const SheetPage& page, Timer& timer,
                       MachinePath machinePath, const std::function<void()>& run);
 
     /// A box was shown; the person cancels on a page. Both count for the gather that runs.

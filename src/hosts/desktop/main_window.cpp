@@ -158,7 +158,7 @@ void MainWindow::watchSheet(SheetDialog& dialog)
     connect(&dialog, &SheetDialog::acted, this, [this, &dialog] { tellUndone(&dialog); });
     connect(&dialog, &SheetDialog::cancelling, this,
             [this, &dialog] { gathers_.cancelled(dialog.sheet().currentPage()); });
-    dialog.aroundTick = [this, &dialog](const SheetPage& page, const Timer& timer,
+    dialog.aroundTick = [this, &dialog](const SheetPage& page, Timer& timer,
                                         const std::function<void()>& run) {
         const auto machinePath = [this](const std::string& path) {
             return tool_->site().paths().machinePath(path);

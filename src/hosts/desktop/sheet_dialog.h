@@ -39,7 +39,7 @@ public:
     void reject() override;
 
     /// Runs each tick of a timer of the page on show; null: ticks run by themselves.
-    std::function<void(const SheetPage& page, const Timer& timer, const std::function<void()>& run)>
+    std::function<void(const SheetPage& page, Timer& timer, const std::function<void()>& run)>
         aroundTick;
 
 signals:

@@ -10,16 +10,24 @@
 
 namespace {
 
-/// The routines that write what the person chose. Errors of the others leave something out of
-/// sight, and gathers tell of theirs themselves.
-constexpr std::string_view writingRoutines[] = {
-    "SetConfigurationSetting",   "SetFlags",
-    "changeEventLogLanguage",    "configureMacroTrace",
-    "configureMicroTrace",       "disableAllTraces",
-    "disableMacroTrace",         "enableMacroTrace",
-    "enableStandardTraces",      "getFlags",
-    "mnuStartNewLogFiles_Click", "openOrvanDB",
-    "PropertyPage_ApplyChanges", "recordMacroTrace",
+/// The routines that do what the person chose: they write, or start the viewer. Errors of the
+/// others leave something out of sight, and gathers tell of theirs themselves.
+constexpr std::string_view doingRoutines[] = {
+    "SetConfigurationSetting",
+    "SetFlags",
+    "changeEventLogLanguage",
+    "cmdLaunchQRV_Click",
+    "configureMacroTrace",
+    "configureMicroTrace",
+    "disableAllTraces",
+    "disableMacroTrace",
+    "enableMacroTrace",
+    "enableStandardTraces",
+    "getFlags",
+    "mnuStartNewLogFiles_Click",
+    "openOrvanDB",
+    "PropertyPage_ApplyChanges",
+    "recordMacroTrace",
     "setAuditParameters",
 };
 
@@ -41,9 +49,9 @@ std::optional<QString> wrongMegabytes(const OpenSheet* sheet)
 void Undone::note(const RunTimeError& error, std::string_view procName)
 {
     const auto name = procName.substr(procName.find(']') + 1);
-    const bool writes = std::find(std::begin(writingRoutines), std::end(writingRoutines), name) !=
-                        std::end(writingRoutines);
-    if (writes && !why_) why_ = error.description();
+    const bool does = std::find(std::begin(doingRoutines), std::end(doingRoutines), name) !=
+                      std::end(doingRoutines);
+    if (does && !why_) why_ = error.description();
 }
 
 LiveSentence Undone::take(const OpenSheet* sheet)

@@ -24,7 +24,8 @@ public:
                                       (extended ? "logFields=extended\n" : ""));
         folder_.write("eventlogs/Application.jsonl", "{\"id\":1}\n");
         folder_.makeFolder("drive_c/Windows");
-        site_ = std::make_unique<Site>(folder_.path(), "", HostFacts{{1, 0, 0}, "", false, {}, {}});
+        site_ = std::make_unique<Site>(folder_.path(), installed_.path(),
+                                       HostFacts{{1, 0, 0}, "", false, {}, {}});
         fs::remove(folder_ / "drive_c/OrvanDiagnostics");
     }
 
@@ -47,8 +48,8 @@ public:
 
     std::string program()
     {
-        fs::create_directories(folder_ / "drive_c/Tools");
-        fs::copy_file("/bin/true", folder_ / "drive_c/Tools/cabmaker.exe",
+        folder_.write("drive_c/Tools/cabmaker.exe");
+        fs::copy_file("/bin/true", installed_ / "cabmaker.exe",
                       fs::copy_options::overwrite_existing);
         return "C:\\Tools\\cabmaker.exe";
     }
@@ -66,6 +67,7 @@ private:
     Platform platform() { return site_->platform(desktop_, traceDatabases_); }
 
     TemporaryFolder folder_;
+    TemporaryFolder installed_;
     FakeDesktop desktop_;
     FakeTraceDatabaseEngine traceDatabases_;
     std::unique_ptr<Site> site_;

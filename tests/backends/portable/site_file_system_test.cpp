@@ -189,31 +189,74 @@ TEST_F(SiteFileSystemTest, MakesTheLastLevelOfAFolder)
     EXPECT_EQ(58, errorOf([&] { files.createFolder("C:\\"); }));
 }
 
-TEST_F(SiteFileSystemTest, RemovesAFolderWithWhatItHolds)
+TEST_F(SiteFileSystemTest, RemovesNothingButAnEmptyFolder)
 {
     const TemporaryFolder outside;
-    outside.write("keep.txt");
+    outside.makeFolder("empty");
     put("a/b/c.txt");
-    fs::create_directory_symlink(outside.path(), folder / "drive_c/a/link");
-
-    files.removeFolder("C:\\A");
-
-    EXPECT_FALSE(folder.exists("drive_c/a"));
-    EXPECT_TRUE(outside.exists("keep.txt"));
-    EXPECT_EQ(76, errorOf([&] { files.removeFolder("C:\\a"); }));
     put("file");
+    fs::create_directory_symlink(outside / "empty", outside / "link");
+
+    EXPECT_EQ(70, errorOf([&] { files.removeFolder("C:\\A"); }));
+    EXPECT_EQ(76, errorOf([&] { files.removeFolder(outside / "link"); }));
     EXPECT_EQ(76, errorOf([&] { files.removeFolder("C:\\file"); }));
+    EXPECT_EQ(76, errorOf([&] { files.removeFolder("C:\\none"); }));
     EXPECT_EQ(70, errorOf([&] { files.removeFolder("C:\\"); }));
     EXPECT_EQ(70, errorOf([&] { files.removeFolder("C:\\x\\.."); }));
-    EXPECT_TRUE(folder.exists("drive_c/file"));
+    EXPECT_TRUE(folder.exists("drive_c/a/b/c.txt"));
+    EXPECT_TRUE(outside.exists("empty"));
+    EXPECT_TRUE(outside.exists("link"));
+
+    fs::remove(folder / "drive_c/a/b/c.txt");
+    files.removeFolder("C:\\A\\b");
+    EXPECT_FALSE(folder.exists("drive_c/a/b"));
 }
 
-TEST_F(SiteFileSystemTest, StopsRemovingAtAReadOnlyFile)
+TEST_F(SiteFileSystemTest, WritesOverPlainFilesAlone)
 {
-    fs::permissions(put("a/b.txt"), fs::perms::owner_read);
+    const TemporaryFolder outside;
+    outside.write("kept", "kept");
+    put("source", "new");
+    fs::create_symlink(outside / "kept", outside / "link");
+    fs::create_symlink(outside / "made", outside / "dangling");
+    ASSERT_EQ(0, ::mkfifo((outside / "pipe").c_str(), 0600));
+    for (const char* name : {"link", "dangling", "pipe"}) {
+        EXPECT_EQ(70, errorOf([&] { files.copyFile("C:\\source", outside / name); })) << name;
+        EXPECT_EQ(70, errorOf([&] { files.createTextFile(outside / name); })) << name;
+    }
+    EXPECT_EQ("kept", outside.read("kept"));
+    EXPECT_FALSE(outside.exists("made"));
+}
 
-    EXPECT_EQ(70, errorOf([&] { files.removeFolder("C:\\a"); }));
-    EXPECT_TRUE(folder.exists("drive_c/a/b.txt"));
+TEST_F(SiteFileSystemTest, WhatItMakesHasTheUsersOwnModes)
+{
+    const struct {
+        mode_t mask;
+        fs::perms file;
+    } cases[] = {
+        {0077, fs::perms(0600)},
+        {0022, fs::perms(0644)},
+        {0002, fs::perms(0664)},
+    };
+    fs::permissions(put("template", "x"), fs::perms(0444));
+    for (const auto& c : cases) {
+        const auto before = ::umask(c.mask);
+        files.copyFile("C:\\template", "C:\\copy");
+        EXPECT_TRUE(files.file("C:\\copy").readOnly);
+        files.clearAttributes("C:\\copy");
+        files.createTextFile("C:\\text");
+        files.createPrivateFolder("C:\\private");
+        ::umask(before);
+        const auto modeOf = [&](const std::string& name) {
+            return fs::status(folder / ("drive_c/" + name)).permissions();
+        };
+        EXPECT_EQ(c.file, modeOf("copy"));
+        EXPECT_EQ(c.file, modeOf("text"));
+        EXPECT_EQ(fs::perms::owner_all, modeOf("private"));
+        fs::remove(folder / "drive_c/copy");
+        fs::remove(folder / "drive_c/text");
+        fs::remove(folder / "drive_c/private");
+    }
 }
 
 TEST_F(SiteFileSystemTest, CopiesAFileWholeOverAnother)

@@ -222,8 +222,8 @@ TEST_F(SiteTest, FallsBackToTheMachinesOwnNames)
 TEST_F(SiteTest, ItsServicesShareTheCurrentFolder)
 {
     folder.write("drive_c/Result/x");
-    const auto program = folder.write("drive_c/Result/run.exe", "#!/bin/sh\necho > made\n");
-    fs::permissions(program, fs::perms::owner_all);
+    folder.write("drive_c/Result/cabmaker.exe");
+    data.write("cabmaker.exe", "#!/bin/sh\necho > made\n");
     Site site(folder.path(), data.path(), hostFacts());
     FakeDesktop desktop;
     FakeTraceDatabaseEngine traceDatabases;
@@ -231,7 +231,7 @@ TEST_F(SiteTest, ItsServicesShareTheCurrentFolder)
 
     platform.files.changeDrive("C:");
     platform.files.changeFolder("C:\\Result");
-    platform.processes.wait(platform.processes.start("run", WindowStyle::hidden), -1);
+    platform.processes.wait(platform.processes.start("cabmaker", WindowStyle::hidden), -1);
 
     EXPECT_TRUE(folder.exists("drive_c/Result/made"));
 }

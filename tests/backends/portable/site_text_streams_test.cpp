@@ -194,7 +194,7 @@ TEST(SiteTextWriter, Raises61WhenTheDiskIsFull)
 {
     const std::string large(300'000, 'x');
     {
-        SiteTextWriter writer("/dev/full", Mode::create);
+        SiteTextWriter writer("/dev/full", Mode::append);
         writer.write("buffered");
         EXPECT_EQ(61, errorOf([&] { writer.flush(); }));
         EXPECT_EQ(61, errorOf([&] { writer.close(); }));

@@ -194,6 +194,96 @@ TEST_F(GatherOutcomeTest, AFrameTellsOfItsDatabaseItsCabinetAndTheLogFolder)
                             testing::StartsWith("No cabinet was made: the cabinet maker ")));
 }
 
+struct CabinetOutcomeTest : GatherOutcomeTest {
+    CabinetOutcomeTest()
+    {
+        job({}, {});
+        shared->m_bTimeFrameLogs = true;
+        tool.context.g_strTraceDatabase = "C:\\Out\\PC_WPN_1.mdb";
+        tool.context.g_strLogFolder = "C:\\Logs";
+        tool.files.withFolder("C:\\Logs").with("C:\\OrvanDiagnostics\\cabmaker.exe", "x");
+    }
+
+    std::string lastMissing(const GatherWatch& watched)
+    {
+        machine.write("Out/PC_WPN_1.mdb");
+        const auto missing = texts(watched.outcome().missing);
+        return missing.empty() ? "" : missing.back();
+    }
+};
+
+TEST_F(CabinetOutcomeTest, AMissingCabinetIsToldInTheCabinetMakersOwnWords)
+{
+    const GatherWatch watched = watch();
+    fail(runTimeErrors::fileNotFound, "compressResults");
+    tool.processes.reporting({"a.ddf:6: it changed", false});
+    EXPECT_EQ("No cabinet was made: a.ddf:6: it changed.", lastMissing(watched));
+}
+
+TEST_F(CabinetOutcomeTest, AMissingCabinetIsToldByTheFirstStatementThatFailed)
+{
+    const GatherWatch watched = watch();
+    fail(runTimeErrors::diskFull, "compressResults");
+    fail(runTimeErrors::fileNotFound, "compressResults");
+    EXPECT_EQ("No cabinet was made: Disk full.", lastMissing(watched));
+}
+
+TEST_F(CabinetOutcomeTest, ACabinetOfAnotherMakerIsNoted)
+{
+    const GatherWatch watched = watch();
+    machine.write("Out/PC_WPN_2.cab", "x");
+    machine.write("Out/PC_WPN_2_2.cab", "x");
+    tool.processes.reporting({"", true});
+    EXPECT_EQ("", lastMissing(watched));
+    const GatherOutcome outcome = watched.outcome();
+    EXPECT_EQ(out + "/PC_WPN_2.cab", outcome.cabinet) << "the first of a set";
+    EXPECT_THAT(texts(outcome.sentences()),
+                testing::Contains("The site's cabinet maker is not the installed one, which made "
+                                  "the cabinet in its place."));
+}
+
+TEST_F(CabinetOutcomeTest, WhatAFrameWouldTakeAwayMakesItRefuseTheDestination)
+{
+    for (const std::string name : {"setup.inf", "SETUP.RPT", "zmk.ddf", "CabMaker.exe", "Disk1"}) {
+        machine.write("Out/" + name);
+        const auto refusal = watch().refusal();
+        ASSERT_TRUE(refusal) << name;
+        EXPECT_EQ(name + " in the destination " + out +
+                      " would be lost: the gather makes a file or folder of that name and removes "
+                      "it again.",
+                  refusal->text());
+        std::filesystem::remove(out + "/" + name);
+    }
+    machine.write("Out/ZMK.DDF");
+    shared->m_bTimeFrameLogs = false;
+    EXPECT_FALSE(watch().refusal()) << "a gather without a cabinet does not touch it";
+}
+
+TEST_F(CabinetOutcomeTest, WhatIsNoPlainFileUnderAResultsNameMakesItRefuseTheDestination)
+{
+    const auto refused = [&](const std::string& name) {
+        std::filesystem::create_symlink("/dev/null", out + "/" + name);
+        const auto refusal = watch().refusal();
+        std::filesystem::remove(out + "/" + name);
+        return refusal && refusal->text() == name + " in the destination " + out +
+                                                 " is not a plain file, and nothing is written to "
+                                                 "such a one.";
+    };
+    shared->addOrvanLog("diag_A_1.txt");
+    shared->addWindowsLog("System");
+    tool.context.g_strTraceDatabase.clear(); // as before the first one of a run
+    EXPECT_TRUE(refused("system.CSV"));
+    EXPECT_TRUE(refused("PC_WPN_20250101_000000.mdb"));
+    EXPECT_TRUE(refused("PC_WPN_20250101_000000.cab"));
+    EXPECT_FALSE(refused("diag_A_1_fmtd.txt")) << "a frame writes no copies";
+    EXPECT_FALSE(refused("notes.txt"));
+    shared->m_bTimeFrameLogs = false;
+    EXPECT_TRUE(refused("diag_A_1_fmtd.txt"));
+    EXPECT_FALSE(refused("PC_WPN_20250101_000000.mdb"));
+    machine.write("Out/System.csv", "of an earlier gather");
+    EXPECT_FALSE(watch().refusal());
+}
+
 TEST_F(GatherOutcomeTest, ManyLogsWithOneTroubleAreToldInOneSentence)
 {
     std::vector<std::string> logs;

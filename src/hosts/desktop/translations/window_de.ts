@@ -498,8 +498,20 @@
         <translation>Es wurde kein Archiv (.cab) angelegt: Das Programm %1 fehlt.</translation>
     </message>
     <message>
-        <source>No cabinet was made: the destination&apos;s name has characters that Windows-1252 lacks.</source>
-        <translation>Es wurde kein Archiv (.cab) angelegt: Der Name des Ziels hat Zeichen, die es in Windows-1252 nicht gibt.</translation>
+        <source>No cabinet was made: %1.</source>
+        <translation>Es wurde kein Archiv (.cab) angelegt: %1.</translation>
+    </message>
+    <message>
+        <source>The site&apos;s cabinet maker is not the installed one, which made the cabinet in its place.</source>
+        <translation>Das Programm cabmaker der Site ist nicht das installierte; dieses hat das Archiv an seiner Stelle angelegt.</translation>
+    </message>
+    <message>
+        <source>%1 in the destination %2 would be lost: the gather makes a file or folder of that name and removes it again.</source>
+        <translation>%1 im Ziel %2 ginge verloren: Das Sammeln legt eine Datei oder einen Ordner dieses Namens an und entfernt sie wieder.</translation>
+    </message>
+    <message>
+        <source>%1 in the destination %2 is not a plain file, and nothing is written to such a one.</source>
+        <translation>%1 im Ziel %2 ist keine gewöhnliche Datei; in eine solche wird nichts geschrieben.</translation>
     </message>
     <message>
         <source>The gather was cancelled.</source>

@@ -498,8 +498,20 @@
         <translation>No se creó ningún archivo .cab: falta el programa %1.</translation>
     </message>
     <message>
-        <source>No cabinet was made: the destination&apos;s name has characters that Windows-1252 lacks.</source>
-        <translation>No se creó ningún archivo .cab: el nombre del destino tiene caracteres que no existen en Windows-1252.</translation>
+        <source>No cabinet was made: %1.</source>
+        <translation>No se creó ningún archivo .cab: %1.</translation>
+    </message>
+    <message>
+        <source>The site&apos;s cabinet maker is not the installed one, which made the cabinet in its place.</source>
+        <translation>El programa cabmaker del sitio no es el instalado, que creó el archivo .cab en su lugar.</translation>
+    </message>
+    <message>
+        <source>%1 in the destination %2 would be lost: the gather makes a file or folder of that name and removes it again.</source>
+        <translation>%1 en el destino %2 se perdería: la recopilación crea un archivo o una carpeta con ese nombre y lo elimina después.</translation>
+    </message>
+    <message>
+        <source>%1 in the destination %2 is not a plain file, and nothing is written to such a one.</source>
+        <translation>%1 en el destino %2 no es un archivo normal, y no se escribe nada en él.</translation>
     </message>
     <message>
         <source>The gather was cancelled.</source>

@@ -498,8 +498,20 @@
         <translation>Aucune archive .cab n&apos;a été créée&#xa0;: le programme %1 est absent.</translation>
     </message>
     <message>
-        <source>No cabinet was made: the destination&apos;s name has characters that Windows-1252 lacks.</source>
-        <translation>Aucune archive .cab n&apos;a été créée&#xa0;: le nom de la destination contient des caractères absents de Windows-1252.</translation>
+        <source>No cabinet was made: %1.</source>
+        <translation>Aucune archive .cab n&apos;a été créée&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The site&apos;s cabinet maker is not the installed one, which made the cabinet in its place.</source>
+        <translation>Le programme cabmaker du site n&apos;est pas celui qui est installé&#xa0;; ce dernier a créé l&apos;archive .cab à sa place.</translation>
+    </message>
+    <message>
+        <source>%1 in the destination %2 would be lost: the gather makes a file or folder of that name and removes it again.</source>
+        <translation>%1 dans la destination %2 serait perdu&#xa0;: la collecte crée un fichier ou un dossier de ce nom, puis le supprime.</translation>
+    </message>
+    <message>
+        <source>%1 in the destination %2 is not a plain file, and nothing is written to such a one.</source>
+        <translation>%1 dans la destination %2 n&apos;est pas un fichier ordinaire, et rien n&apos;y est écrit.</translation>
     </message>
     <message>
         <source>The gather was cancelled.</source>

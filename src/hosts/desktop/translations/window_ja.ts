@@ -498,8 +498,20 @@
         <translation>キャビネットは作成されませんでした。作成プログラム %1 がありません。</translation>
     </message>
     <message>
-        <source>No cabinet was made: the destination&apos;s name has characters that Windows-1252 lacks.</source>
-        <translation>キャビネットは作成されませんでした。保存先の名前に Windows-1252 にない文字が含まれています。</translation>
+        <source>No cabinet was made: %1.</source>
+        <translation>キャビネットは作成されませんでした。%1。</translation>
+    </message>
+    <message>
+        <source>The site&apos;s cabinet maker is not the installed one, which made the cabinet in its place.</source>
+        <translation>サイトの cabmaker はインストールされているものと異なるため、インストールされているものがキャビネットを作成しました。</translation>
+    </message>
+    <message>
+        <source>%1 in the destination %2 would be lost: the gather makes a file or folder of that name and removes it again.</source>
+        <translation>保存先 %2 の %1 は失われます。収集ではこの名前のファイルまたはフォルダーを作成し、後で削除します。</translation>
+    </message>
+    <message>
+        <source>%1 in the destination %2 is not a plain file, and nothing is written to such a one.</source>
+        <translation>保存先 %2 の %1 は通常のファイルではないため、書き込みは行われません。</translation>
     </message>
     <message>
         <source>The gather was cancelled.</source>
