@@ -109,10 +109,10 @@ TEST(CompressResults, WritesTheDirectivesLineByLine)
 TEST(CompressResults, WritesTheDirectivesInTheSingleByteEncoding)
 {
     PackagingTool tool;
-    const std::string path = "C:\\Out\\caf\xC3\xA9 \xE6\xBC\xA2.mdb";
+    const std::string path = "C:\\Out\\caf\xC3\xA9 \xE2\x82\xAC.mdb";
     tool.files.with(path, "x");
     mdlLogs::compressResults(tool.context, "C:\\Out", path);
-    EXPECT_EQ(head + "\"C:\\Out\\caf\xE9 ?.mdb\"\r\n", tool.directives);
+    EXPECT_EQ(head + "\"C:\\Out\\caf\xE9 \x80.mdb\"\r\n", tool.directives);
 }
 
 TEST(CompressResults, RunsTheCopiedCabinetMakerHiddenAndWaitsForItsEnd)
