@@ -179,6 +179,10 @@ TEST(InitalizeLanguages, AFolderOfALibrarysNameIsNone)
     tool.files.withFolder("C:\\OrvanDiagnostics\\ZMKbrandingres_FRA");
     InitalizeLanguages(tool.context);
     EXPECT_EQ((Codes{""}), tool.context.language.g_astrLanguages);
+
+    tool.files.with("C:\\OrvanDiagnostics\\ZMKbrandingres_JPN.dll");
+    InitalizeLanguages(tool.context);
+    EXPECT_EQ((Codes{"JPN"}), tool.context.language.g_astrLanguages) << "it hides none behind it";
 }
 
 TEST(InitalizeLanguages, ShowsEachFailureAndGoesOn)

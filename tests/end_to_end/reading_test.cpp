@@ -79,6 +79,25 @@ TEST_F(ReadCommand, ShowsALineOfNoKnownFormAsItIs)
     EXPECT_THAT(plain.out, HasSubstr(" *** lost\n"));
 }
 
+TEST_F(ReadCommand, AlignsItsColumnsUnderHeadersOfWideLetters)
+{
+    std::string settings = read(site / "site.ini");
+    settings.replace(settings.find("language=1033"), 13, "language=1041");
+    write(site / "site.ini", settings);
+    const std::string file = put("15:23:07:123,Conv,12,Call,7,end\r\n");
+
+    std::istringstream lines(run({"read", file}).out);
+    std::string header;
+    std::string row;
+    std::getline(lines, header);
+    std::getline(lines, row);
+    ASSERT_EQ('\xE3', header[header.rfind(' ') + 1]) << "a Japanese letter in " << header;
+    std::size_t shown = 0; // each of these letters has three bytes and two columns
+    for (const unsigned char byte : header.substr(0, header.rfind(' ') + 1))
+        shown += byte < 0x80 ? 1 : byte >= 0xC0 ? 2 : 0;
+    EXPECT_EQ(row.find("end"), shown) << header << "\n" << row;
+}
+
 TEST_F(ReadCommand, WritesEveryTextAsJsonReadsIt)
 {
     const struct {

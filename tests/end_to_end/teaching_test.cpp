@@ -159,6 +159,13 @@ TEST(WrongUsage, NamesTheUnknownCommandAndTheHelpThatTellsMore)
     }
 }
 
+TEST(Help, SetsWhatAProgramIsForOffFromItsUsage)
+{
+    EXPECT_THAT(orvandiag({"--help"}).out, HasSubstr("\n  orvandiag status\n\nUsage: orvandiag "));
+    EXPECT_THAT(orvandiag({"read", "--help"}).out,
+                HasSubstr("Show the lines of a log as columns\n\nUsage: orvandiag read "));
+}
+
 TEST(Help, ExamplesNameWhatTheSampleHas)
 {
     const auto folder = std::filesystem::temp_directory_path() /

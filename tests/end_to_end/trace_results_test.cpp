@@ -50,6 +50,16 @@ TEST_F(TraceResults, WhatADefinitionAsksForInVainIsAWarning)
               set.err);
 }
 
+TEST_F(TraceResults, AComponentWithoutANameIsToldAsSuch)
+{
+    write(drive("OrvanDiagnostics/ZMKXML/HTzz.xml"),
+          "<GA NAME='Vain'><TRACE NAME='T'><DESCRIPTION/><DIAG GROUP=' '/></TRACE></GA>");
+    const Outcome set = run({"macro", "set", "--on", "Vain - T"});
+    EXPECT_EQ("orvandiag: a macro trace asks for what this server does not have: a component "
+              "without a name\n",
+              set.err);
+}
+
 TEST_F(TraceResults, ALevelThatIsNoNumberOfSixteenBitsIsAWarningAndCountsAsTheOneBeforeIt)
 {
     ASSERT_EQ(0, run({"reset"}).status);

@@ -15,7 +15,7 @@ constexpr auto longestNap = 50ms;
 void LockPatience::begin()
 {
     const auto now = Clock::now();
-    if (now - latest_ >= pauseBetweenRuns) left_ = whole_;
+    if (!oneRun_ && now - latest_ >= pauseBetweenRuns) left_ = whole_;
     latest_ = now;
 }
 

@@ -6,7 +6,8 @@
 ///
 /// The tool logs a failed statement and goes on with the next, so that a wait for each would add up
 /// to minutes. Statements that follow each other closely are one run and share one patience; after
-/// a pause, such as a person's between two actions, there is a new one.
+/// a pause, such as a person's between two actions, there is a new one. A program that does one
+/// thing and ends is one run throughout.
 class LockPatience {
 public:
     using Clock = std::chrono::steady_clock;
@@ -15,6 +16,9 @@ public:
 
     LockPatience(const LockPatience&) = delete;
     LockPatience& operator=(const LockPatience&) = delete;
+
+    /// No pause brings a new patience any more.
+    void holdForOneRun() { oneRun_ = true; }
 
     /// Notes that a statement begins.
     void begin();
@@ -28,5 +32,6 @@ public:
 private:
     std::chrono::milliseconds whole_;
     Clock::duration left_;
+    bool oneRun_ = false;
     Clock::time_point latest_ = Clock::now(); ///< when a statement of the run was last at work
 };

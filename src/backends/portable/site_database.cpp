@@ -116,6 +116,11 @@ SiteDatabase::SiteDatabase(std::string file, std::shared_ptr<LockPatience> patie
 
 SiteDatabase::~SiteDatabase() = default;
 
+void SiteDatabase::waitAsOneRun()
+{
+    patience_->holdForOneRun();
+}
+
 int SiteDatabase::state() const
 {
     return handle_ && handle_->isUsable() ? 1 : 0;

@@ -26,6 +26,10 @@ public:
     /// Another connection to the same file, closed yet, that shares the patience of this one.
     SiteDatabase another() const { return SiteDatabase(file_, patience_); }
 
+    /// From now on there is one patience for whatever happens, as for a program that runs a single
+    /// command.
+    void waitAsOneRun();
+
     ~SiteDatabase() override;
     SiteDatabase(const SiteDatabase&) = delete;
     SiteDatabase& operator=(const SiteDatabase&) = delete;

@@ -2,6 +2,7 @@
 
 #include "hosts/cli/interrupt.h"
 #include "hosts/cli/program.h"
+#include "hosts/common/places.h"
 #include "shell/snapin_definition.h"
 
 #include <cctype>
@@ -53,7 +54,7 @@ Platform withRegistry(const Platform& services, Registry& registry)
 } // namespace
 
 OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check)
-    : use_(use), site_(usableSite(options.site, use), installedDataFolder(), hostFacts(options),
+    : use_(use), site_(usableSite(options.site, use), places::installedData(), hostFacts(options),
                        SiteUse::look),
       traceDatabases_([this](const std::string& path) { return machinePath(path); },
                       site_.codePage()),
@@ -62,6 +63,7 @@ OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check
       looking_(platform_, [this](const std::string& path) { return site_.paths().isOfSite(path); }),
       definition_(snapinDefinition()), console_(definition_), codePage_(site_.codePage())
 {
+    site_.database().another().waitAsOneRun(); // all connections share the patience
     if (check) {
         context_.emplace(looking_.platform());
         check(*this);

@@ -1,20 +1,13 @@
 #include "hosts/cli/output.h"
 
 #include "hosts/cli/command.h"
+#include "hosts/common/shown_width.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
 
 namespace {
-
-/// Code points of a UTF-8 text: near enough to its width in a terminal.
-std::size_t width(std::string_view text)
-{
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
-        return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
-    }));
-}
 
 bool isPrintableAscii(char c)
 {
@@ -95,12 +88,13 @@ std::string Table::text() const
     if (rows_.size() == 1) return {};
     std::vector<std::size_t> widths(right_.size(), 0);
     for (const auto& row : rows_)
-        for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], width(row[i]));
+        for (std::size_t i = 0; i < row.size(); ++i)
+            widths[i] = std::max(widths[i], shownWidth(row[i]));
     std::string text;
     for (const auto& row : rows_) {
         std::string line;
         for (std::size_t i = 0; i < row.size(); ++i) {
-            const std::string blanks(widths[i] - width(row[i]), ' ');
+            const std::string blanks(widths[i] - shownWidth(row[i]), ' ');
             if (i > 0) line += "  ";
             line += right_[i] ? blanks + row[i] : row[i] + blanks;
         }

@@ -1,21 +1,11 @@
 #include "hosts/cli/program.h"
 
 #include "hosts/cli/commands/commands.h"
+#include "hosts/common/places.h"
 
 #include <CLI/CLI.hpp>
 
-#include <cstdlib>
-#include <filesystem>
-
-namespace fs = std::filesystem;
-
 namespace {
-
-std::string environment(const char* name)
-{
-    const char* value = std::getenv(name);
-    return value ? value : "";
-}
 
 constexpr const char* introduction =
     "Diagnoses an Orvan voice-messaging server: turns its traces on and off, reads its logs, and\n"
@@ -24,6 +14,16 @@ constexpr const char* introduction =
     "  orvandiag sample ~/orvan-sample\n"
     "  export ORVAN_SITE=~/orvan-sample\n"
     "  orvandiag status";
+
+/// Sets off what the program is for from how it is used.
+class HelpText final : public CLI::Formatter {
+public:
+    std::string make_usage(const CLI::App* app, std::string name) const override
+    {
+        const std::string usage = CLI::Formatter::make_usage(app, std::move(name));
+        return app->get_description().empty() ? usage : "\n" + usage;
+    }
+};
 
 /// The group that help, completion and manual page leave out.
 constexpr const char* hidden = "";
@@ -43,8 +43,9 @@ std::unique_ptr<CLI::App> describeCommandLine(GlobalOptions& options,
                                               const std::vector<std::unique_ptr<Command>>& commands)
 {
     auto app = std::make_unique<CLI::App>(introduction, "orvandiag");
+    app->formatter(std::make_shared<HelpText>());
     app->footer(closing());
-    options.site = defaultSite();
+    options.site = places::defaultSite();
     app->add_option("--site", options.site,
                     "the site's folder; else $ORVAN_SITE, else the user's data folder")
         ->type_name("DIR");
@@ -89,25 +90,6 @@ ModuleVersion moduleVersion()
 std::string versionText()
 {
     return "orvandiag " ORVAN_VERSION;
-}
-
-std::string defaultSite()
-{
-    if (const auto site = environment("ORVAN_SITE"); !site.empty()) return site;
-    fs::path data = environment("XDG_DATA_HOME");
-    if (data.empty()) data = fs::path(environment("HOME")) / ".local" / "share";
-    return (data / "orvandiag" / "site").string();
-}
-
-std::string installedDataFolder()
-{
-    std::error_code none;
-    const fs::path program = fs::read_symlink("/proc/self/exe", none);
-    if (none) return {};
-    const fs::path prefix = program.parent_path().parent_path();
-    for (const fs::path& folder : {prefix / "share" / "orvandiag", prefix / "data"})
-        if (fs::is_directory(folder, none)) return folder.string();
-    return {};
 }
 
 std::vector<std::unique_ptr<Command>> allCommands()

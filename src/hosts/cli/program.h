@@ -43,10 +43,3 @@ ModuleVersion moduleVersion();
 
 /// "orvandiag 1.0.0".
 std::string versionText();
-
-/// $ORVAN_SITE, else the site folder below the user's data folder.
-std::string defaultSite();
-
-/// The folder of what ships with the tool: beside the program when it is built, below share/ when
-/// it is installed. The empty text when there is none.
-std::string installedDataFolder();

@@ -6,6 +6,7 @@
 #include "platform/xml.h"
 #include "runtime/numbers.h"
 #include "runtime/run_time_error.h"
+#include "runtime/text.h"
 #include "traces/trace_bits.h"
 #include "traces/trace_events.h"
 
@@ -72,7 +73,9 @@ void combine(const ToolContext& tool, const XmlElementPtr& trace, bool on,
         name = component->attribute("GROUP").value_or(name);
         const auto word = expected.words.find(name);
         const bool known = word != expected.words.end();
-        if (!known) expected.impossible.push_back("no component " + name);
+        if (!known)
+            expected.impossible.push_back(trim(name).empty() ? "a component without a name"
+                                                             : "no component " + name);
         for (const auto& flag : component->selectNodes("FLAG")) {
             const auto id = flag->attribute("ID");
             const bool readable = !id || readLevel(*id, level);

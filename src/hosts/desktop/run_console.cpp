@@ -1,8 +1,8 @@
 #include "hosts/desktop/run_console.h"
 
+#include "hosts/common/places.h"
 #include "hosts/desktop/console_options.h"
 #include "hosts/desktop/end_wish.h"
-#include "hosts/desktop/places.h"
 #include "hosts/desktop/program.h"
 #include "hosts/desktop/screenshot.h"
 #include "hosts/desktop/theme.h"

@@ -44,6 +44,17 @@ TEST(LockPatience, IsNewAfterAPause)
     EXPECT_TRUE(patience.wait(0));
 }
 
+TEST(LockPatience, IsNeverNewInAProgramOfOneRun)
+{
+    LockPatience patience(20ms);
+    patience.holdForOneRun();
+    patience.begin();
+    timeOfWaiting(patience);
+    std::this_thread::sleep_for(3100ms);
+    patience.begin();
+    EXPECT_FALSE(patience.wait(0));
+}
+
 TEST(LockPatience, ALongWaitIsNoPause)
 {
     LockPatience patience(3200ms);

@@ -2,12 +2,14 @@
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
+#include "hosts/common/shown_width.h"
 #include "platform/file_system.h"
 #include "runtime/numbers.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 
 namespace {
@@ -66,33 +68,55 @@ void printJson(Output& output, ListView& list, const CodePage& codePage)
     }
 }
 
+/// The columns of a terminal that each byte of a log takes.
+std::array<std::uint8_t, 256> widthsOfBytes(const CodePage& codePage)
+{
+    std::array<std::uint8_t, 256> widths{};
+    for (std::size_t byte = 0; byte < widths.size(); ++byte) {
+        const char letter = static_cast<char>(byte);
+        std::string shown;
+        codePage.appendUtf8(shown, {&letter, 1});
+        widths[byte] = static_cast<std::uint8_t>(shownWidth(shown));
+    }
+    return widths;
+}
+
 /// A line that the columns can't show stands in the place of its trace.
 void printColumns(Output& output, ListView& list, const CodePage& codePage)
 {
     const int count = list.columnCount();
-    std::vector<std::size_t> widths;
-    for (const auto& header : list.columns()) widths.push_back(header.text.size());
-    for (int place = 1; place <= list.itemCount(); ++place)
-        for (int column = 1; column < count; ++column)
-            widths[static_cast<std::size_t>(column) - 1] =
-                std::max(widths[static_cast<std::size_t>(column) - 1],
-                         list.item(place).subItem(column).size());
-    std::string line;
-    const auto cell = [&](int column, std::string_view bytes, bool encoded) {
-        if (encoded)
-            codePage.appendUtf8(line, bytes);
-        else
-            line += bytes;
-        const std::size_t width = widths[static_cast<std::size_t>(column) - 1];
-        if (column < count) line.append(width > bytes.size() ? width - bytes.size() + 2 : 2, ' ');
+    const auto ofByte = widthsOfBytes(codePage);
+    const auto widthOf = [&](std::string_view bytes) {
+        std::size_t width = 0;
+        for (const char byte : bytes) width += ofByte[static_cast<unsigned char>(byte)];
+        return width;
     };
-    for (int column = 1; column <= count; ++column) cell(column, list.column(column).text, false);
+    std::vector<std::size_t> widths;
+    for (const auto& header : list.columns()) widths.push_back(shownWidth(header.text));
+    for (int place = 1; place <= list.itemCount(); ++place)
+        for (int column = 1; column < count; ++column) {
+            std::size_t& widest = widths[static_cast<std::size_t>(column) - 1];
+            widest = std::max(widest, widthOf(list.item(place).subItem(column)));
+        }
+    std::string line;
+    const auto fill = [&](int column, std::size_t width) {
+        if (column < count)
+            line.append(widths[static_cast<std::size_t>(column) - 1] - width + 2, ' ');
+    };
+    for (int column = 1; column <= count; ++column) {
+        const std::string& header = list.column(column).text;
+        line += header;
+        fill(column, shownWidth(header));
+    }
     output.line(line);
     for (int place = 1; place <= list.itemCount(); ++place) {
         line.clear();
         const ListItem row = list.shown(place);
-        for (int column = 1; column < count; ++column) cell(column, row.subItem(column), true);
-        cell(count, row.note().empty() ? row.subItem(count) : row.note(), true);
+        for (int column = 1; column < count; ++column) {
+            codePage.appendUtf8(line, row.subItem(column));
+            fill(column, widthOf(row.subItem(column)));
+        }
+        codePage.appendUtf8(line, row.note().empty() ? row.subItem(count) : row.note());
         output.line(line);
     }
 }

@@ -4,6 +4,7 @@
 #include "hosts/cli/output.h"
 #include "hosts/cli/program.h"
 #include "hosts/cli/progress_line.h"
+#include "hosts/common/places.h"
 #include "runtime/text.h"
 
 #include <CLI/CLI.hpp>
@@ -48,7 +49,7 @@ public:
         const fs::path folder = fs::absolute(folder_).lexically_normal();
         SampleOptions options;
         options.folder = folder.has_filename() ? folder.string() : folder.parent_path().string();
-        options.dataFolder = installedDataFolder();
+        options.dataFolder = places::installedData();
         options.lines = lines_;
         options.seed = seed_;
         options.logFields = fields_ == "extended" ? LogFields::extended : LogFields::basic;

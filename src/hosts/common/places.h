@@ -8,7 +8,8 @@ namespace places {
 /// The site that is opened when none is named: `$ORVAN_SITE`, or the one in the user's data folder.
 std::string defaultSite();
 
-/// What ships with the tool; empty when it is not where the program expects it.
+/// The folder of what ships with the tool: beside the program when it is built, below share/ when
+/// it is installed. The empty text when there is none.
 std::string installedData();
 
 } // namespace places

@@ -1,4 +1,4 @@
-#include "hosts/desktop/places.h"
+#include "hosts/common/places.h"
 
 #include <cstdlib>
 #include <filesystem>
