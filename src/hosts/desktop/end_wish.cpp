@@ -17,9 +17,11 @@ constexpr std::array wishes = {SIGTERM, SIGHUP, SIGINT};
 
 /// What a signal's handler may do is to write into a pipe, which the event loop reads.
 int pipeEnds[2] = {-1, -1};
+volatile std::sig_atomic_t signalCame = 0;
 
 extern "C" void passOnWish(int)
 {
+    signalCame = 1;
     const int kept = errno;
     const char wish = 1;
     [[maybe_unused]] const auto written = ::write(pipeEnds[1], &wish, 1);
@@ -62,8 +64,14 @@ EndWish::EndWish(std::function<void()> wished) : wished_(std::move(wished))
 EndWish::~EndWish()
 {
     for (const int signal : wishes) stopListening(signal);
+    signalCame = 0;
     for (int& end : pipeEnds)
         if (end >= 0) ::close(std::exchange(end, -1));
+}
+
+bool EndWish::signalled()
+{
+    return signalCame != 0;
 }
 
 void EndWish::hear()

@@ -17,6 +17,10 @@ public:
 
     bool made() const { return made_; }
 
+    /// Whether a signal has come, also while the event loop waits for work to end. False without
+    /// an `EndWish`.
+    static bool signalled();
+
 private:
     void hear();
 

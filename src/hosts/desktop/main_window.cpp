@@ -106,6 +106,10 @@ void MainWindow::setTool(OpenTool* tool)
         centre_->setCurrentWidget(pane_);
         connectPane();
         changeTextSize(0);
+        std::string databaseFailure;
+        tool_->context().onTrappedError = [&](const RunTimeError& error, std::string_view name) {
+            if (name == "[mdlOrvanDatabase]openOrvanDB") databaseFailure = error.description();
+        };
         pane_->perform([this](Console&) { tool_->load(); });
         tool_->context().onTrappedError = [this](const RunTimeError& error,
                                                  std::string_view procName) {
@@ -121,10 +125,24 @@ void MainWindow::setTool(OpenTool* tool)
                 return tr("This site is read-only: logs can be read, but traces and settings "
                           "cannot be changed. Make its folder writable, or open a copy.");
             });
+        if (!databaseFailure.empty()) sayWithoutDatabase(databaseFailure);
         pane_->tree().setFocus();
     }
     updateActions();
     showTexts();
+}
+
+/// Until the tool has its connection after all.
+void MainWindow::sayWithoutDatabase(const std::string& why)
+{
+    QString reason = QString::fromStdString(why);
+    if (reason.endsWith(QLatin1Char('.'))) reason.chop(1);
+    showProblem([this, reason] {
+        if (!tool_ || tool_->context().g_connection.state() != 0) return QString();
+        return tr("The server's database could not be opened: %1. Logs can be read and gathered, "
+                  "but traces and settings cannot be changed.")
+            .arg(reason);
+    });
 }
 
 void MainWindow::connectPane()

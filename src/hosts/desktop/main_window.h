@@ -87,6 +87,7 @@ private:
     std::int32_t spokenByTool() const;
     void followLanguage();
     QString languageProblem() const;
+    void sayWithoutDatabase(const std::string& why);
     void sayLanguage();
     void runInLog(Command command);
     void runInTable(Command command);

@@ -40,6 +40,7 @@ HostFacts hostFacts(const ConsoleOptions& options)
     facts.version = {ORVAN_VERSION_MAJOR, ORVAN_VERSION_MINOR, ORVAN_VERSION_PATCH};
     facts.commandLine = "orvandiag-console";
     facts.developmentHost = options.developmentHost;
+    facts.interrupted = EndWish::signalled;
     return facts;
 }
 

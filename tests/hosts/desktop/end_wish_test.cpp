@@ -30,6 +30,25 @@ std::ptrdiff_t linesOf(const fs::path& path)
     return std::count(text.begin(), text.end(), '\n');
 }
 
+/// A developer is one who may have gone: a statement that fails again and again ends by the signal
+/// while the event loop waits for it.
+TEST(EndWish, KnowsOfASignalBeforeTheEventLoopHearsOfIt)
+{
+    testApplication();
+    EXPECT_FALSE(EndWish::signalled());
+    {
+        bool heard = false;
+        const EndWish wish([&] { heard = true; });
+        EXPECT_FALSE(EndWish::signalled());
+        ASSERT_EQ(0, std::raise(SIGTERM));
+        EXPECT_TRUE(EndWish::signalled());
+        EXPECT_FALSE(heard);
+        settle();
+        EXPECT_TRUE(heard);
+    }
+    EXPECT_FALSE(EndWish::signalled()) << "of one that has gone";
+}
+
 /// A server whose event log was left in another language than its first one.
 struct EndedFromOutside : testing::Test {
     EndedFromOutside()

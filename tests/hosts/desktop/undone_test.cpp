@@ -13,7 +13,11 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+
 namespace {
+
+namespace fs = std::filesystem;
 
 using testing::AllOf;
 using testing::HasSubstr;
@@ -101,6 +105,21 @@ TEST_F(UndoneWork, TracesThatTheServerRefusesAreSaidBesideTheRequiredText)
         const std::string later = shown.window().problem().toStdString();
         EXPECT_TRUE(now || !later.empty()) << "said before the end or at the end";
     }
+}
+
+TEST_F(UndoneWork, ADatabaseThatCannotBeOpenedIsSaidFromTheStart)
+{
+    const std::string file = shown.server.site() + "/OrvanDirDb.sqlite";
+    shown.program.close();
+    fs::rename(file, file + ".away");
+    shown.program.openSite(shown.server.site());
+    EXPECT_THAT(shown.window().problem().toStdString(),
+                AllOf(HasSubstr("The server's database could not be opened: Cannot open "),
+                      HasSubstr("Logs can be read")));
+    shown.program.close();
+    fs::rename(file + ".away", file);
+    shown.program.openSite(shown.server.site());
+    EXPECT_EQ("", shown.window().problem().toStdString());
 }
 
 TEST_F(UndoneWork, WhatIsDoneIsNotSaidToBeUndone)

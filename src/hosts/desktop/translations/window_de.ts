@@ -754,6 +754,10 @@
         <translation>Diese Site ist schreibgeschützt: Protokolle können gelesen, Traces und Einstellungen aber nicht geändert werden. Erlauben Sie das Schreiben in ihrem Ordner, oder öffnen Sie eine Kopie.</translation>
     </message>
     <message>
+        <source>The server&apos;s database could not be opened: %1. Logs can be read and gathered, but traces and settings cannot be changed.</source>
+        <translation>Die Datenbank des Servers konnte nicht geöffnet werden: %1. Protokolle können gelesen und gesammelt, Traces und Einstellungen aber nicht geändert werden.</translation>
+    </message>
+    <message>
         <source>The site %1 is no longer there. Put the folder back and press F5, or open another site with Ctrl+Shift+O.</source>
         <translation>Die Site %1 ist nicht mehr vorhanden. Stellen Sie den Ordner wieder her, und drücken Sie F5, oder öffnen Sie mit Strg+Umschalt+O eine andere Site.</translation>
     </message>

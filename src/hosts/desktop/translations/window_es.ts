@@ -754,6 +754,10 @@
         <translation>Este sitio es de solo lectura: se pueden leer los registros, pero no cambiar trazas ni configuración. Permita escribir en su carpeta o abra una copia.</translation>
     </message>
     <message>
+        <source>The server&apos;s database could not be opened: %1. Logs can be read and gathered, but traces and settings cannot be changed.</source>
+        <translation>No se pudo abrir la base de datos del servidor: %1. Se pueden leer y reunir los registros, pero no cambiar trazas ni configuración.</translation>
+    </message>
+    <message>
         <source>The site %1 is no longer there. Put the folder back and press F5, or open another site with Ctrl+Shift+O.</source>
         <translation>El sitio %1 ya no existe. Restituya la carpeta y pulse F5, o abra otro sitio con Control+Mayúsculas+O.</translation>
     </message>

@@ -754,6 +754,10 @@
         <translation>Ce site est en lecture seule&#xa0;: les journaux peuvent être lus, mais les traces et les paramètres ne peuvent pas être modifiés. Autorisez l&apos;écriture dans son dossier, ou ouvrez une copie.</translation>
     </message>
     <message>
+        <source>The server&apos;s database could not be opened: %1. Logs can be read and gathered, but traces and settings cannot be changed.</source>
+        <translation>La base de données du serveur n&apos;a pas pu être ouverte&#xa0;: %1. Les journaux peuvent être lus et rassemblés, mais les traces et les paramètres ne peuvent pas être modifiés.</translation>
+    </message>
+    <message>
         <source>The site %1 is no longer there. Put the folder back and press F5, or open another site with Ctrl+Shift+O.</source>
         <translation>Le site %1 n&apos;existe plus. Remettez le dossier en place et appuyez sur F5, ou ouvrez un autre site avec Ctrl+Maj+O.</translation>
     </message>

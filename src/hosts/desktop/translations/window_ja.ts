@@ -754,6 +754,10 @@
         <translation>このサイトは読み取り専用です。ログは読み取れますが、トレースと設定は変更できません。フォルダーを書き込み可能にするか、コピーを開いてください。</translation>
     </message>
     <message>
+        <source>The server&apos;s database could not be opened: %1. Logs can be read and gathered, but traces and settings cannot be changed.</source>
+        <translation>サーバーのデータベースを開けませんでした: %1。ログの読み取りと収集はできますが、トレースと設定は変更できません。</translation>
+    </message>
+    <message>
         <source>The site %1 is no longer there. Put the folder back and press F5, or open another site with Ctrl+Shift+O.</source>
         <translation>サイト %1 が見つからなくなりました。フォルダーを元に戻して F5 キーを押すか、Ctrl+Shift+O で別のサイトを開いてください。</translation>
     </message>
