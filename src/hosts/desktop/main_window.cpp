@@ -184,6 +184,7 @@ void MainWindow::watchSheet(SheetDialog& dialog)
         sayWhereThePersonIs(&dialog,
                             gathers_.tick(tool_->context(), page, timer, machinePath, run));
     };
+    dialog.aroundChange = [this](const std::function<void()>& run) { tool_->changing(run); };
     if (!tool_->looksOnly()) return;
     const bool gathers = dialog.sheet().page(1).name() == "ppgGatherLogs00Welcome";
     dialog.alwaysSay([gathers] {

@@ -1,5 +1,6 @@
 #include "hosts/desktop/open_tool.h"
 
+#include "backends/portable/site_turn.h"
 #include "shell/snapin_definition.h"
 
 #include <algorithm>
@@ -41,6 +42,20 @@ void OpenTool::close()
     if (!loaded_) return;
     loaded_ = false;
     console_.unload();
+}
+
+void OpenTool::changing(const std::function<void()>& change)
+{
+    if (looksOnly() || changing_) return change();
+    const SiteTurn turn(site_.folder());
+    changing_ = true;
+    try {
+        change();
+    } catch (...) {
+        changing_ = false;
+        throw;
+    }
+    changing_ = false;
 }
 
 bool OpenTool::writable() const

@@ -7,6 +7,7 @@
 #include "platform/console.h"
 #include "shell/snapin_orvan_diagnostics.h"
 
+#include <functional>
 #include <string>
 
 class Desktop;
@@ -32,6 +33,10 @@ public:
     Console& console() { return console_; }
     snapinOrvanDiagnostics& snapIn() { return snapIn_; }
 
+    /// Runs what may change the site while no other program does. Raises 70, with a sentence, when
+    /// another one does not come to its end, and what `change` raises.
+    void changing(const std::function<void()>& change);
+
     /// Whether the tool was opened on a site that it only looks at.
     bool looksOnly() const { return use_ == SiteUse::look; }
 
@@ -56,4 +61,5 @@ private:
     Console console_;
     snapinOrvanDiagnostics snapIn_;
     bool loaded_ = false;
+    bool changing_ = false;
 };

@@ -96,19 +96,27 @@ void SheetDialog::makeButtons()
             if (finishEditing()) press();
         });
     };
+    const auto addChanging = [&](const QString& text, auto&& press) {
+        return addTaking(text, [this, press] {
+            if (aroundChange)
+                aroundChange(press);
+            else
+                press();
+        });
+    };
     help_ = add(tr("Help"), [this] { sheet_->help(); });
     row->addStretch(1);
     if (WizardSheet* wizard = sheet_->wizard()) {
         back_ = addTaking(wizardCaptions()[0], [wizard] { wizard->back(); });
-        next_ = addTaking(wizardCaptions()[1], [wizard] { wizard->next(); });
-        finish_ = addTaking(wizardCaptions()[2], [wizard] { wizard->finish(); });
+        next_ = addChanging(wizardCaptions()[1], [wizard] { wizard->next(); });
+        finish_ = addChanging(wizardCaptions()[2], [wizard] { wizard->finish(); });
         row->addSpacing(8);
     } else {
-        ok_ = addTaking(tr("OK"), [this] { sheet_->plainSheet()->ok(); });
+        ok_ = addChanging(tr("OK"), [this] { sheet_->plainSheet()->ok(); });
     }
     cancel_ = add(tr("Cancel"), [this] { cancel(); });
     if (sheet_->plainSheet()) {
-        apply_ = addTaking(plainCaptions()[0], [this] { sheet_->plainSheet()->apply(); });
+        apply_ = addChanging(plainCaptions()[0], [this] { sheet_->plainSheet()->apply(); });
         ok_->setDefault(true);
     }
     static_cast<QVBoxLayout*>(layout())->addLayout(row);

@@ -42,6 +42,10 @@ public:
     std::function<void(const SheetPage& page, Timer& timer, const std::function<void()>& run)>
         aroundTick;
 
+    /// Runs what may change the server: a wizard's Next and Finish, OK and Apply. What it raises is
+    /// said above the page. Null: they run by themselves.
+    std::function<void(const std::function<void()>& run)> aroundChange;
+
 signals:
     /// The person cancels, on the page on show.
     void cancelling();

@@ -82,6 +82,31 @@ TEST(SheetDialog, SaysWhatAPageRaisesAndStays)
     EXPECT_TRUE(shown.dialog->isVisible());
 }
 
+TEST(SheetDialog, MakesChangesInTheWayThatItsOwnerGivesIt)
+{
+    ShownSheet<WizardSheet> wizard(2);
+    ShownSheet<PlainSheet> plain;
+    int changes = 0;
+    for (SheetDialog* dialog : {wizard.dialog.data(), plain.dialog.data()})
+        dialog->aroundChange = [&changes](const std::function<void()>& run) {
+            ++changes;
+            run();
+        };
+    wizard.push("Next >").click();
+    EXPECT_EQ(1, changes);
+    wizard.push("< Back").click();
+    EXPECT_EQ(1, changes) << "nothing is changed by going back";
+    wizard.push("Next >").click();
+    wizard.push("Finish").click();
+    EXPECT_TRUE(wizard.sheet->closed());
+    EXPECT_EQ(3, changes);
+    plain.page().Changed(true);
+    plain.push("Apply").click();
+    EXPECT_EQ(4, changes);
+    plain.push("OK").click();
+    EXPECT_EQ(5, changes);
+}
+
 TEST(SheetDialog, RunsTheTimersOfThePageOnShow)
 {
     ShownSheet<WizardSheet> shown(2);

@@ -1,13 +1,18 @@
+#include "backends/portable/file_descriptor.h"
 #include "hosts/desktop/open_program.h"
 #include "hosts/desktop/outside_view.h"
 #include "hosts/desktop/person.h"
 #include "hosts/desktop/sheet_dialog.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QTreeView>
 
 #include <gmock/gmock.h>
+
+#include <fcntl.h>
+#include <sys/file.h>
 
 namespace {
 
@@ -163,6 +168,31 @@ TEST_F(TraceJourney, ResetBringsTheDefaultsBackAndTurnsMacroTracesOff)
     EXPECT_EQ(site.defaultFlags(), site.flags());
     EXPECT_FALSE(told(macroTrace));
     EXPECT_EQ("dword:00000000", recorded());
+}
+
+TEST_F(TraceJourney, AChangeIsMadeOnceNoOtherProgramChangesTheSite)
+{
+    shown.clickCard("1");
+    person::clickButton(shown.sheet(), "Next >");
+    const QModelIndex trace = rowAt(*tree().model(), {group, macroTrace});
+    tree().expand(trace.parent());
+    person::clickTick(tree(), trace);
+    const auto before = site.flags();
+    {
+        const FileDescriptor turn(
+            ::open((shown.server.site() + "/changes.lock").c_str(), O_RDWR | O_CREAT, 0666));
+        ASSERT_EQ(0, ::flock(turn.get(), LOCK_EX));
+        person::clickButton(shown.sheet(), "Next >");
+    }
+    EXPECT_EQ(before, site.flags());
+    EXPECT_EQ("", recorded());
+    bool said = false;
+    for (const auto* label : shown.sheet().findChildren<QLabel*>())
+        said = said || label->text().contains(QStringLiteral("is changing the site"));
+    EXPECT_TRUE(said);
+    person::clickButton(shown.sheet(), "Next >");
+    EXPECT_EQ("dword:00000001", recorded());
+    person::clickButton(shown.sheet(), "Finish");
 }
 
 TEST_F(TraceJourney, ACancelledWizardChangesNothing)
