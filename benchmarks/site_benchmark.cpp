@@ -55,7 +55,7 @@ BENCHMARK(readLines)->Unit(benchmark::kMillisecond);
 void readRegistryValue(benchmark::State& state)
 {
     const BenchmarkSite site;
-    SiteRegistry registry(site.folder + "/registry.reg");
+    SiteRegistry registry{RootFolder(site.folder)};
     const std::string key = "Software\\Kelma Systems\\Kelma Orvan\\RoLogMgr";
     registry.createKey(HKEY_LOCAL_MACHINE, key);
     registry.setValue(HKEY_LOCAL_MACHINE, key, "Output Path", {REG_SZ, {'C', ':'}});

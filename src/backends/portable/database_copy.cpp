@@ -6,12 +6,15 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <system_error>
 
 namespace fs = std::filesystem;
 
 namespace {
+
+using runTimeErrors::fileNotFound;
 
 std::string newTemporaryFolder()
 {
@@ -22,20 +25,11 @@ std::string newTemporaryFolder()
 }
 
 /// The copy may be written to, whoever may write to what it was made from.
-void copyForWriting(const std::string& source, const std::string& target)
+void copyForWriting(const FileDescriptor& source, const std::string& target)
 {
-    copyWholeFile(source, target);
+    copyWholeFile(source, RootFolder(folderPathOf(target)), lastNameOf(target));
     std::error_code none;
     fs::permissions(target, fs::perms::owner_write, fs::perm_options::add, none);
-}
-
-void copyIfThere(const std::string& source, const std::string& target)
-{
-    try {
-        copyForWriting(source, target);
-    } catch (const RunTimeError& error) {
-        if (error.number() != runTimeErrors::fileNotFound) throw;
-    }
 }
 
 } // namespace
@@ -44,10 +38,15 @@ DatabaseCopy::DatabaseCopy(const std::string& file)
     : folder_(newTemporaryFolder()), path_(folder_ + "/database")
 {
     try {
+        const RootFolder folder(folderPathOf(file));
+        const std::string name = lastNameOf(file);
         // A log that is copied first holds what the database may have taken over since, which does
         // no harm; the other way round rows would be lost.
-        for (const char* ending : {"-wal", "-journal"}) copyIfThere(file + ending, path_ + ending);
-        copyForWriting(file, path_);
+        for (const char* ending : {"-wal", "-journal"})
+            if (folder.ownFacts(name + ending))
+                copyForWriting(folder.openFile(name + ending, O_RDONLY | O_NOFOLLOW, fileNotFound),
+                               path_ + ending);
+        copyForWriting(folder.openFile(name, O_RDONLY | O_NOFOLLOW, fileNotFound), path_);
     } catch (...) {
         std::error_code none;
         fs::remove_all(folder_, none);

@@ -43,12 +43,13 @@ std::optional<Date> stampOfName(std::string_view name)
     }
 }
 
-Date creationTime(const std::string& machinePath, std::string_view name, const PosixTimeZone& zone,
-                  Date modified)
+Date creationTime(int folder, const std::string& nameInFolder, std::string_view name,
+                  const PosixTimeZone& zone, Date modified)
 {
     if (const auto stamp = stampOfName(name)) return *stamp;
     struct statx facts {};
-    if (::statx(AT_FDCWD, machinePath.c_str(), 0, STATX_BTIME, &facts) != 0 ||
+    const int flags = AT_SYMLINK_NOFOLLOW | (nameInFolder.empty() ? AT_EMPTY_PATH : 0);
+    if (::statx(folder, nameInFolder.c_str(), flags, STATX_BTIME, &facts) != 0 ||
         (facts.stx_mask & STATX_BTIME) == 0)
         return modified;
     return localDate(zone, facts.stx_btime.tv_sec);

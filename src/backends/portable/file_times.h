@@ -12,7 +12,8 @@
 /// carries none, or one that is no date.
 std::optional<Date> stampOfName(std::string_view name);
 
-/// When a file of the machine came to be, local time: its name's stamp, else the file system's
-/// birth time, else `modified`.
-Date creationTime(const std::string& machinePath, std::string_view name, const PosixTimeZone& zone,
-                  Date modified);
+/// When a file came to be, local time: its name's stamp, else the file system's birth time, else
+/// `modified`. The file is `nameInFolder` in an open folder, not followed when it is a link; an
+/// empty one is what is open itself.
+Date creationTime(int folder, const std::string& nameInFolder, std::string_view name,
+                  const PosixTimeZone& zone, Date modified);

@@ -14,7 +14,7 @@ constexpr std::size_t largestZoneFile = 1U << 20;
 std::optional<PosixTimeZone> zoneOfFile(const std::string& path)
 {
     try {
-        const auto bytes = readWholeFile(path, runTimeErrors::fileNotFound, largestZoneFile);
+        const auto bytes = readMachineFile(path, runTimeErrors::fileNotFound, largestZoneFile);
         if (bytes.compare(0, 4, "TZif") != 0 || bytes.size() < 2 || bytes.back() != '\n') return {};
         const auto before = bytes.rfind('\n', bytes.size() - 2);
         if (before == std::string::npos) return {};

@@ -122,11 +122,19 @@ RootFolder::RootFolder(std::shared_ptr<FileDescriptor> folder, std::string path,
     : folder_(std::move(folder)), path_(std::move(path)), bounds_(bounds)
 {}
 
-RootFolder RootFolder::below(const std::string& path) const
+std::optional<RootFolder> RootFolder::belowIfThere(const std::string& path) const
 {
     auto folder = std::make_shared<FileDescriptor>(open(path, folderFlags));
-    if (!folder->isOpen()) fail(path, pathNotFound);
-    return {std::move(folder), shown(path), bounds_};
+    if (folder->isOpen()) return RootFolder(std::move(folder), shown(path), bounds_);
+    if (errno == ENOENT || errno == ENOTDIR) return {};
+    fail(path, pathNotFound);
+}
+
+RootFolder RootFolder::below(const std::string& path) const
+{
+    auto folder = belowIfThere(path);
+    if (!folder) throw RunTimeError(pathNotFound);
+    return *std::move(folder);
 }
 
 std::string RootFolder::shown(const std::string& path) const
@@ -158,7 +166,7 @@ std::string RootFolder::pathIgnoringCase(const std::vector<std::string>& names) 
     std::string exact;
     for (const auto& name : names) exact = joined(exact, name);
     if (open(exact, O_PATH).isOpen()) return exact;
-    if (errno != ENOENT && errno != ENOTDIR && errno != EACCES) fail(exact, permissionDenied);
+    if (errno == EXDEV || errno == ELOOP) fail(exact, permissionDenied);
     std::string path;
     bool exists = true;
     for (const auto& name : names) {
@@ -282,10 +290,28 @@ void RootFolder::makeFolders(const std::string& path) const
     }
 }
 
+void RootFolder::rename(const std::string& from, const std::string& to) const
+{
+    const FileDescriptor source = parentOf(from, Links::within);
+    const FileDescriptor target = parentOf(to, Links::within);
+    if (::renameat(source.get(), lastNameOf(from).c_str(), target.get(), lastNameOf(to).c_str()) ==
+        0)
+        return;
+    if (errno == ENOTEMPTY) errno = EEXIST;
+    fail(to, pathNotFound);
+}
+
 void RootFolder::removeFile(const std::string& path) const
 {
     const FileDescriptor parent = parentOf(path, Links::none);
     if (::unlinkat(parent.get(), lastNameOf(path).c_str(), 0) != 0) fail(path, fileNotFound);
+}
+
+void RootFolder::removeEmptyFolder(const std::string& path) const
+{
+    const FileDescriptor parent = parentOf(path, Links::none);
+    if (::unlinkat(parent.get(), lastNameOf(path).c_str(), AT_REMOVEDIR) != 0)
+        fail(path, pathNotFound);
 }
 
 void RootFolder::removeFolder(const std::string& path) const

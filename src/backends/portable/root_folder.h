@@ -30,6 +30,9 @@ public:
     /// A folder below as a root of its own. Raises 76, 70.
     RootFolder below(const std::string& path) const;
 
+    /// The same; nothing when there is no such folder. Raises 70.
+    std::optional<RootFolder> belowIfThere(const std::string& path) const;
+
     /// The descriptor, for the calls of the system that take one.
     int descriptor() const { return folder_->get(); }
 
@@ -73,8 +76,15 @@ public:
     /// Makes a folder with those above it, as far as they are missing. Raises 76, 70.
     void makeFolders(const std::string& path) const;
 
+    /// Gives what bears a name another one. Raises 76, 58 for a folder that is there already and
+    /// not empty, 70.
+    void rename(const std::string& from, const std::string& to) const;
+
     /// Removes a file or a link, never through a link. Raises 53, 70.
     void removeFile(const std::string& path) const;
+
+    /// Removes an empty folder, never through a link. Raises 76, 70.
+    void removeEmptyFolder(const std::string& path) const;
 
     /// Removes a folder with what it holds, never through a link. Raises 76, and 70 at the first
     /// file that is read-only: what came before it is gone.

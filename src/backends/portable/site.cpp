@@ -2,11 +2,11 @@
 
 #include "backends/portable/code_pages.h"
 
-#include "backends/portable/posix_errors.h"
 #include "backends/portable/sqlite_handle.h"
 #include "backends/portable/tool_folder.h"
+#include "backends/portable/whole_file.h"
+#include "runtime/run_time_error.h"
 
-#include <cerrno>
 #include <filesystem>
 #include <sys/stat.h>
 #include <utility>
@@ -28,11 +28,29 @@ PosixTimeZone zoneOf(const SiteSettings& settings)
 }
 
 /// Makes a folder of C: that every server has. Nobody's leave to write is no error.
-void makeServerFolder(const std::string& path)
+void makeServerFolder(const SitePlace& place)
 {
-    if (::mkdir(path.c_str(), 0777) == 0 || errno == EEXIST || errno == EACCES || errno == EROFS)
-        return;
-    throw posixError(errno, runTimeErrors::pathNotFound);
+    using namespace runTimeErrors;
+    try {
+        place.root.makeFolder(place.path);
+    } catch (const RunTimeError& error) {
+        if (error.number() != fileAlreadyExists && error.number() != permissionDenied) throw;
+    }
+}
+
+std::string wholePath(const std::string& path)
+{
+    return path.empty() ? path : std::filesystem::absolute(path).string();
+}
+
+/// The site's settings, with the tool folder of the person's own choice, if any.
+SiteSettings settingsOf(SitePaths& paths, const HostFacts& host)
+{
+    SiteSettings settings = readSiteSettings(paths.root());
+    if (host.toolFolder.empty()) return settings;
+    paths.permit(host.toolFolder);
+    settings.toolFolder = host.toolFolder;
+    return settings;
 }
 
 /// What may be started. The viewer is installed beside the program that runs, where there is one.
@@ -50,27 +68,27 @@ InstalledPrograms installedPrograms(const std::string& installedData)
 
 bool isSite(const std::string& folder)
 {
+    // What can't be opened as it should counts: the opening tells why.
     struct stat facts {};
     for (const char* name : {"/site.ini", "/registry.reg"})
-        if (::stat((folder + name).c_str(), &facts) == 0 && S_ISREG(facts.st_mode)) return true;
-    return ::stat((folder + "/drive_c").c_str(), &facts) == 0 && S_ISDIR(facts.st_mode);
+        if (::lstat((folder + name).c_str(), &facts) == 0 && !S_ISDIR(facts.st_mode)) return true;
+    return ::lstat((folder + "/drive_c").c_str(), &facts) == 0 &&
+           (S_ISDIR(facts.st_mode) || S_ISLNK(facts.st_mode));
 }
 
-Site::Site(const std::string& folder, std::string installedData, HostFacts host, SiteUse use)
-    : installedData_(std::move(installedData)), paths_(requireSite(folder)),
-      settings_(readSiteSettings(paths_.siteFolder() + "/site.ini")), zone_(zoneOf(settings_)),
-      files_(paths_, zone_), registry_(paths_.siteFolder() + "/registry.reg"), clock_(zone_),
-      timeZone_(zone_), workstation_(settings_),
-      eventReporter_(paths_.siteFolder() + "/eventlogs", workstation_.details()->computerName,
-                     settings_.logFields, clock_),
-      eventLogExporter_(paths_.siteFolder() + "/eventlogs", paths_),
-      processes_(paths_, installedPrograms(installedData_)),
+Site::Site(const std::string& folder, const std::string& installedData, HostFacts host, SiteUse use)
+    : installedData_(wholePath(installedData)), paths_(requireSite(folder)),
+      settings_(settingsOf(paths_, host)), zone_(zoneOf(settings_)), files_(paths_, zone_),
+      registry_(paths_.root(), host.notice), clock_(zone_), timeZone_(zone_),
+      workstation_(settings_), eventReporter_(paths_.root(), workstation_.details()->computerName,
+                                              settings_.logFields, clock_),
+      eventLogExporter_(paths_), processes_(paths_, installedPrograms(installedData_)),
       module_(settings_.toolFolder, std::move(host)), languages_(settings_.language, paths_),
       database_(databaseFile()), xml_(files_, codePage())
 {
     registry_.keyExists(HKEY_LOCAL_MACHINE, ""); // a damaged registry shows here, before any change
-    const std::string& toolFolder = settings_.toolFolder;
-    paths_.standIn(toolFolder, lackingInToolFolder(paths_.machinePath(toolFolder), installedData_));
+    paths_.place("C:\\");                        // so does a drive that leads out of the site
+    paths_.standIn(settings_.toolFolder, lackingInToolFolder(toolFolder(), installedData_));
     database_.openFor(DatabaseUse::look);
     if (use == SiteUse::change) startChanges();
 }
@@ -78,10 +96,17 @@ Site::Site(const std::string& folder, std::string installedData, HostFacts host,
 void Site::startChanges()
 {
     paths_.standIn(settings_.toolFolder, {});
-    makeServerFolder(paths_.siteFolder() + "/drive_c");
-    makeServerFolder(paths_.machinePath(files_.specialFolder(SpecialFolder::temporary)));
-    supplyToolFolder(paths_.machinePath(settings_.toolFolder), installedData_);
+    sweepReplacementFiles(paths_.root(), "");
+    makeServerFolder({paths_.root(), "drive_c"});
+    makeServerFolder(paths_.place(files_.specialFolder(SpecialFolder::temporary)));
+    supplyToolFolder(toolFolder(), installedData_);
     database_.openFor(DatabaseUse::change);
+}
+
+/// Found anew each time: it may be there by now.
+SitePlace Site::toolFolder() const
+{
+    return paths_.place(settings_.toolFolder);
 }
 
 Platform Site::platform(Desktop& desktop, TraceDatabaseEngine& traceDatabases)

@@ -8,21 +8,23 @@
 #include "backends/portable/whole_file.h"
 #include "runtime/run_time_error.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
-#include <utility>
 
 namespace {
 
 constexpr std::size_t enough = 256U << 10;
 
-/// The file of an event log, by name without regard to case. Raises 53.
-std::string fileOf(const std::string& eventLogs, const std::string& logName)
+constexpr const char* eventLogs = "eventlogs";
+
+/// An event log, by name without regard to case. Raises 53, 70.
+FileDescriptor openEventLog(const RootFolder& site, const std::string& logName)
 {
-    struct stat facts {};
     const auto wanted = foldCase(logName + ".jsonl");
-    if (::stat(eventLogs.c_str(), &facts) == 0 && S_ISDIR(facts.st_mode))
-        for (const auto& name : namesInFolder(eventLogs))
-            if (foldCase(name) == wanted) return pathIn(eventLogs, name);
+    if (const auto folder = site.belowIfThere(eventLogs))
+        for (const auto& name : sortedNames(folder->names("")))
+            if (foldCase(name) == wanted)
+                return folder->openFile(name, O_RDONLY, runTimeErrors::fileNotFound);
     throw RunTimeError(runTimeErrors::fileNotFound);
 }
 
@@ -38,27 +40,24 @@ std::string nextCsvLine(SiteTextReader& log)
 }
 
 /// Refuses a target that no file may take the place of.
-void checkTarget(const std::string& target)
+void checkTarget(const SitePlace& target)
 {
-    struct stat facts {};
-    if (::lstat(target.c_str(), &facts) != 0) return;
-    if (!S_ISREG(facts.st_mode) || (facts.st_mode & S_IWUSR) == 0)
+    const auto facts = target.root.ownFacts(target.path);
+    if (facts && (!S_ISREG(facts->st_mode) || (facts->st_mode & S_IWUSR) == 0))
         throw RunTimeError(runTimeErrors::permissionDenied);
 }
 
 } // namespace
 
-SiteEventLogExporter::SiteEventLogExporter(std::string eventLogs, const SitePaths& paths)
-    : eventLogs_(std::move(eventLogs)), paths_(paths)
-{}
+SiteEventLogExporter::SiteEventLogExporter(const SitePaths& paths) : paths_(paths) {}
 
 void SiteEventLogExporter::exportEventLog(const std::string& logName, const std::string& target,
                                           int)
 {
-    SiteTextReader log(fileOf(eventLogs_, logName));
-    const auto machineTarget = paths_.machinePath(target);
-    checkTarget(machineTarget);
-    ReplacementFile csv(machineTarget, 0666);
+    SiteTextReader log(openEventLog(paths_.root(), logName));
+    const SitePlace place = paths_.place(target);
+    checkTarget(place);
+    ReplacementFile csv(place.root, place.path, 0666);
     std::string text(eventLogCsvHeader);
     while (!log.atEnd()) {
         text += nextCsvLine(log);

@@ -16,6 +16,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+constexpr const char* eventLogs = "eventlogs";
+
 /// Whether a log's last line was cut short, so that the next event needs a line end before it.
 bool endsWithinALine(int log)
 {
@@ -25,12 +27,21 @@ bool endsWithinALine(int log)
     return ::pread(log, &last, 1, facts.st_size - 1) == 1 && last != '\n';
 }
 
+/// Another program may be quicker; what keeps the folder from being made keeps a log from it too.
+void makeEventLogs(const RootFolder& site)
+{
+    try {
+        site.makeFolder(eventLogs);
+    } catch (const RunTimeError&) {
+        return;
+    }
+}
+
 } // namespace
 
-SiteEventReporter::SiteEventReporter(std::string eventLogs, std::string computer, LogFields fields,
+SiteEventReporter::SiteEventReporter(RootFolder site, std::string computer, LogFields fields,
                                      const Clock& clock)
-    : eventLogs_(std::move(eventLogs)), computer_(std::move(computer)), fields_(fields),
-      clock_(clock)
+    : site_(std::move(site)), computer_(std::move(computer)), fields_(fields), clock_(clock)
 {}
 
 std::int32_t SiteEventReporter::registerTool(const std::string&)
@@ -50,10 +61,10 @@ void SiteEventReporter::report(const std::string& source, std::int32_t, int type
     event["inserts"] = inserts;
     auto line = event.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
 
-    ::mkdir(eventLogs_.c_str(), 0777);
-    const auto path = eventLogs_ + "/Application.jsonl";
-    const FileDescriptor log(::open(path.c_str(), O_RDWR | O_CREAT | O_APPEND | O_CLOEXEC, 0666));
-    if (!log.isOpen()) throw posixError(errno, runTimeErrors::pathNotFound);
+    if (!site_.isFolder(eventLogs)) makeEventLogs(site_);
+    const FileDescriptor log =
+        site_.openFile(std::string(eventLogs) + "/Application.jsonl",
+                       O_RDWR | O_CREAT | O_APPEND | O_NOFOLLOW, runTimeErrors::pathNotFound);
     if (endsWithinALine(log.get())) line.insert(0, "\n");
     if (writeBytes(log.get(), line) < line.size()) throw posixError(errno, runTimeErrors::deviceIo);
 }

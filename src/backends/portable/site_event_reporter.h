@@ -1,5 +1,6 @@
 #pragma once
 
+#include "backends/portable/root_folder.h"
 #include "backends/portable/site_settings.h"
 #include "platform/event_reporter.h"
 
@@ -13,16 +14,16 @@ class Clock;
 /// lines of the form that the site's server writes.
 class SiteEventReporter final : public EventReporter {
 public:
-    /// `eventLogs` is the machine's path of the folder of event logs, made when it is missing; the
-    /// events come from `computer`. `clock` outlives this.
-    SiteEventReporter(std::string eventLogs, std::string computer, LogFields fields,
-                      const Clock& clock);
+    /// The folder of event logs is in the site's, and made when it is missing; the events come from
+    /// `computer`. `clock` outlives this.
+    SiteEventReporter(RootFolder site, std::string computer, LogFields fields, const Clock& clock);
 
     void startUp() override {}
     void completeStartUp() override {}
     std::int32_t registerTool(const std::string& moduleName) override;
 
-    /// One object in one write, so that no two programs' events mix. Raises 70, 61, 57.
+    /// One object in one write, so that no two programs' events mix; never through a link to
+    /// another file. Raises 70, 61, 57.
     void report(const std::string& source, std::int32_t handle, int type, std::int32_t id,
                 const std::vector<std::string>& inserts) override;
 
@@ -30,7 +31,7 @@ public:
     std::string_view timeOfSoundLine(std::string_view rawLine) const override;
 
 private:
-    std::string eventLogs_;
+    RootFolder site_;
     std::string computer_;
     LogFields fields_;
     const Clock& clock_;

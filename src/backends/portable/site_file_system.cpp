@@ -10,7 +10,9 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <fcntl.h>
 #include <fstream>
+#include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
 #include <utility>
@@ -18,24 +20,6 @@
 namespace {
 
 using namespace runTimeErrors;
-
-struct stat factsOf(const std::string& machinePath, int missing)
-{
-    struct stat facts {};
-    if (::stat(machinePath.c_str(), &facts) != 0) throw posixError(errno, missing);
-    return facts;
-}
-
-/// The facts of what a path leads to; nothing there, or no way there, gives a mode of 0.
-mode_t modeOf(const SitePaths& paths, const std::string& path)
-{
-    try {
-        struct stat facts {};
-        return ::stat(paths.machinePath(path).c_str(), &facts) == 0 ? facts.st_mode : 0;
-    } catch (const RunTimeError&) {
-        return 0;
-    }
-}
 
 bool isReadOnly(mode_t mode)
 {
@@ -54,12 +38,73 @@ mode_t fileModeMask()
 }
 
 /// Where the last name of a path begins.
-std::size_t lastNameOf(const std::string& path)
+std::size_t startOfLastName(const std::string& path)
 {
     const auto separator = path.find_last_of("\\/");
     if (separator != std::string::npos) return separator + 1;
     return SitePaths::driveName(path).size();
 }
+
+struct stat factsOf(const FileDescriptor& file)
+{
+    struct stat facts {};
+    if (::fstat(file.get(), &facts) != 0) throw posixError(errno, deviceIo);
+    return facts;
+}
+
+/// A plain file as it is found, for its facts alone. Raises 53, and 70 for what is neither file nor
+/// folder.
+FileDescriptor existingFile(const SitePlace& place)
+{
+    FileDescriptor file = place.root.open(place.path, O_PATH);
+    if (!file.isOpen()) place.root.fail(place.path, fileNotFound);
+    const mode_t mode = factsOf(file).st_mode;
+    if (S_ISDIR(mode)) throw RunTimeError(fileNotFound);
+    if (!S_ISREG(mode)) throw RunTimeError(permissionDenied);
+    return file;
+}
+
+std::string below(const std::string& folder, const std::string& name)
+{
+    return folder.empty() ? name : folder + "/" + name;
+}
+
+/// A folder whose entries are looked at one by one.
+class Listing {
+public:
+    Listing(const SitePlace& place, const SitePaths::StandIns& standIns)
+        : place_(place), standIns_(standIns), folder_(place.root.open(place.path, O_PATH))
+    {}
+
+    /// The facts of an entry, and of what a link leads to that stays inside; a mode of 0 for what
+    /// is out of reach, or gone since the listing.
+    struct stat factsOf(const std::string& name)
+    {
+        struct stat facts {};
+        target_ = FileDescriptor();
+        if (const auto standIn = standIns_.find(name); standIn != standIns_.end()) {
+            target_ = FileDescriptor(::open(standIn->second.c_str(), O_PATH | O_CLOEXEC));
+        } else if (::fstatat(folder_.get(), name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) == 0) {
+            if (!S_ISLNK(facts.st_mode)) return facts;
+            target_ = place_.root.open(below(place_.path, name), O_PATH);
+        }
+        if (!target_.isOpen() || ::fstat(target_.get(), &facts) != 0) facts.st_mode = 0;
+        return facts;
+    }
+
+    /// Where the entry of the last `factsOf` is: a descriptor, and the name in it.
+    std::pair<int, std::string> entry(const std::string& name) const
+    {
+        if (target_.isOpen()) return {target_.get(), {}};
+        return {folder_.get(), name};
+    }
+
+private:
+    const SitePlace& place_;
+    const SitePaths::StandIns& standIns_;
+    FileDescriptor folder_;
+    FileDescriptor target_;
+};
 
 } // namespace
 
@@ -69,23 +114,25 @@ SiteFileSystem::SiteFileSystem(SitePaths& paths, PosixTimeZone zone)
 
 bool SiteFileSystem::fileExists(const std::string& path) const
 {
-    return S_ISREG(modeOf(paths_, path));
+    try {
+        const SitePlace place = paths_.place(path);
+        return place.root.isFile(place.path);
+    } catch (const RunTimeError&) {
+        return false;
+    }
 }
 
 bool SiteFileSystem::folderExists(const std::string& path) const
 {
-    return S_ISDIR(modeOf(paths_, path));
+    try {
+        const SitePlace place = paths_.place(path);
+        return place.root.isFolder(place.path);
+    } catch (const RunTimeError&) {
+        return false;
+    }
 }
 
-/// Where a plain file lies. Raises 53.
-std::string SiteFileSystem::existingFile(const std::string& path) const
-{
-    auto machinePath = paths_.machinePath(path);
-    if (S_ISDIR(factsOf(machinePath, fileNotFound).st_mode)) throw RunTimeError(fileNotFound);
-    return machinePath;
-}
-
-FileInfo SiteFileSystem::describe(const std::string& machinePath, std::string name,
+FileInfo SiteFileSystem::describe(int folder, const std::string& nameInFolder, std::string name,
                                   const struct stat& facts) const
 {
     FileInfo info;
@@ -93,142 +140,142 @@ FileInfo SiteFileSystem::describe(const std::string& machinePath, std::string na
     info.size = info.folder ? 0 : facts.st_size;
     info.readOnly = isReadOnly(facts.st_mode);
     info.modified = localDate(zone_, facts.st_mtim.tv_sec);
-    info.created = creationTime(machinePath, name, zone_, info.modified);
+    info.created = creationTime(folder, nameInFolder, name, zone_, info.modified);
     info.name = std::move(name);
     return info;
 }
 
 FileInfo SiteFileSystem::file(const std::string& path) const
 {
-    const auto machinePath = existingFile(path);
-    return describe(machinePath, machinePath.substr(machinePath.rfind('/') + 1),
-                    factsOf(machinePath, fileNotFound));
+    const SitePlace place = paths_.place(path);
+    const FileDescriptor found = existingFile(place);
+    return describe(found.get(), {}, lastNameOf(place.path), factsOf(found));
 }
 
 std::int64_t SiteFileSystem::folderSize(const std::string& path) const
 {
-    return sizeOfFolder(paths_.machinePath(path));
+    const SitePlace place = paths_.place(path);
+    return place.root.size(place.path);
 }
 
 /// Names in a folder, and of what stands in for its missing contents. Raises 76.
-std::vector<std::string> SiteFileSystem::namesIn(const std::string& folder) const
+std::vector<std::string> SiteFileSystem::namesIn(const SitePlace& place,
+                                                 const std::string& folder) const
 {
-    const auto machineFolder = paths_.machinePath(folder);
     const auto& standIns = paths_.standInsOf(folder);
-    if (standIns.empty()) return namesInFolder(machineFolder);
     std::vector<std::string> names;
-    if (folderExists(folder)) names = namesInFolder(machineFolder);
+    if (standIns.empty() || place.root.isFolder(place.path)) names = place.root.names(place.path);
     for (const auto& standIn : standIns) names.push_back(standIn.first);
     return sortedNames(std::move(names));
 }
 
 std::vector<FileInfo> SiteFileSystem::entries(const std::string& folder) const
 {
-    const auto machineFolder = paths_.machinePath(folder);
-    const auto& standIns = paths_.standInsOf(folder);
+    const SitePlace place = paths_.place(folder);
+    Listing listing(place, paths_.standInsOf(folder));
     std::vector<FileInfo> found;
-    for (auto& name : namesIn(folder)) {
-        struct stat facts {};
-        const auto standIn = standIns.find(name);
-        auto path = standIn == standIns.end() ? pathIn(machineFolder, name) : standIn->second;
-        if (::lstat(path.c_str(), &facts) != 0) continue; // gone since the listing
-        if (S_ISLNK(facts.st_mode)) {
-            if (modeOf(paths_, std::string(folder).append("\\").append(name)) == 0) continue;
-            ::stat(path.c_str(), &facts);
-        }
-        if (S_ISREG(facts.st_mode) || S_ISDIR(facts.st_mode))
-            found.push_back(describe(path, std::move(name), facts));
+    for (auto& name : namesIn(place, folder)) {
+        const auto facts = listing.factsOf(name);
+        if (!S_ISREG(facts.st_mode) && !S_ISDIR(facts.st_mode)) continue;
+        const auto [where, nameThere] = listing.entry(name);
+        found.push_back(describe(where, nameThere, std::move(name), facts));
     }
     return found;
 }
 
 std::vector<std::string> SiteFileSystem::matching(const std::string& pattern) const
 {
-    const auto lastName = lastNameOf(pattern);
+    const auto lastName = startOfLastName(pattern);
     const auto folder = lastName == 0 ? "." : pattern.substr(0, lastName);
     const FilePattern wanted(std::string_view(pattern).substr(lastName));
     std::vector<std::string> found;
     const auto& standIns = paths_.standInsOf(folder);
     if (standIns.empty() && !folderExists(folder)) return found;
-    const auto machineFolder = paths_.machinePath(folder);
-    for (auto& name : namesIn(folder)) {
-        if (!wanted.matches(name)) continue;
-        struct stat facts {};
-        const auto standIn = standIns.find(name);
-        const auto path = standIn == standIns.end() ? pathIn(machineFolder, name) : standIn->second;
-        if (::lstat(path.c_str(), &facts) != 0) continue;
-        if (S_ISREG(facts.st_mode) ||
-            (S_ISLNK(facts.st_mode) && fileExists(std::string(folder).append("\\").append(name))))
+    const SitePlace place = paths_.place(folder);
+    Listing listing(place, standIns);
+    for (auto& name : namesIn(place, folder))
+        if (wanted.matches(name) && S_ISREG(listing.factsOf(name).st_mode))
             found.push_back(std::move(name));
-    }
     return found;
 }
 
 void SiteFileSystem::createFolder(const std::string& path)
 {
-    if (::mkdir(paths_.machinePath(path).c_str(), 0777) != 0) throw posixError(errno, pathNotFound);
+    const SitePlace place = paths_.place(path);
+    place.root.makeFolder(place.path);
 }
 
 void SiteFileSystem::createPrivateFolder(const std::string& path)
 {
-    if (::mkdir(paths_.machinePath(path).c_str(), 0700) != 0) throw posixError(errno, pathNotFound);
+    const SitePlace place = paths_.place(path);
+    place.root.makeFolder(place.path, 0700);
 }
 
 void SiteFileSystem::removeFolder(const std::string& path)
 {
-    const auto machinePath = paths_.machinePath(path);
+    const SitePlace place = paths_.place(path);
     if (paths_.isRoot(path)) throw RunTimeError(permissionDenied);
-    if (::rmdir(machinePath.c_str()) != 0) throw posixError(errno, pathNotFound);
+    place.root.removeEmptyFolder(place.path);
 }
 
 void SiteFileSystem::copyFile(const std::string& source, const std::string& target)
 {
-    const auto from = existingFile(source);
-    const auto to = paths_.machinePath(target);
-    struct stat there {};
-    if (::lstat(to.c_str(), &there) == 0) {
-        const auto facts = factsOf(from, fileNotFound);
-        const bool same = facts.st_dev == there.st_dev && facts.st_ino == there.st_ino;
-        if (same || !S_ISREG(there.st_mode) || isReadOnly(there.st_mode))
+    const SitePlace from = paths_.place(source);
+    existingFile(from);
+    const FileDescriptor file = from.root.openFile(from.path, O_RDONLY, fileNotFound);
+    const SitePlace to = paths_.place(target);
+    if (const auto there = to.root.ownFacts(to.path)) {
+        const auto facts = factsOf(file);
+        const bool same = facts.st_dev == there->st_dev && facts.st_ino == there->st_ino;
+        if (same || !S_ISREG(there->st_mode) || isReadOnly(there->st_mode))
             throw RunTimeError(permissionDenied);
     }
-    copyWholeFile(from, to);
+    copyWholeFile(file, to.root, to.path);
 }
 
 void SiteFileSystem::deleteFile(const std::string& path)
 {
-    const auto machinePath = existingFile(path);
-    if (isReadOnly(factsOf(machinePath, fileNotFound).st_mode))
-        throw RunTimeError(permissionDenied);
-    if (::unlink(machinePath.c_str()) != 0) throw posixError(errno, fileNotFound);
+    const SitePlace place = paths_.place(path);
+    if (isReadOnly(factsOf(existingFile(place)).st_mode)) throw RunTimeError(permissionDenied);
+    place.root.removeFile(place.path);
 }
 
 void SiteFileSystem::clearAttributes(const std::string& path)
 {
-    const auto machinePath = existingFile(path);
-    const auto mode = factsOf(machinePath, fileNotFound).st_mode & 07777;
+    const FileDescriptor file = existingFile(paths_.place(path));
+    const auto mode = factsOf(file).st_mode & 07777;
+    // By its descriptor, as the name could be another file's by now; the file may not be readable.
+    const std::string itself = "/proc/self/fd/" + std::to_string(file.get());
     const mode_t ordinary = 0666 & ~fileModeMask();
-    if (::chmod(machinePath.c_str(), mode | ordinary | S_IRUSR | S_IWUSR) != 0)
+    if (::chmod(itself.c_str(), mode | ordinary | S_IRUSR | S_IWUSR) != 0)
         throw posixError(errno, fileNotFound);
 }
 
 std::unique_ptr<TextReader> SiteFileSystem::openForReading(const std::string& path) const
 {
-    const auto machinePath = paths_.machinePath(path);
-    const auto parent = machinePath.substr(0, machinePath.rfind('/') + 1);
-    struct stat facts {};
-    if (::stat(parent.c_str(), &facts) != 0) throw posixError(errno, pathNotFound);
-    return std::make_unique<SiteTextReader>(machinePath);
+    const SitePlace place = paths_.place(path);
+    const bool folderThere = place.root.isFolder(folderPathOf(place.path));
+    return std::make_unique<SiteTextReader>(
+        place.root.openFile(place.path, O_RDONLY, folderThere ? fileNotFound : pathNotFound));
+}
+
+std::unique_ptr<TextWriter> SiteFileSystem::openForWriting(const std::string& path, int flags) const
+{
+    const SitePlace place = paths_.place(path);
+    FileDescriptor file = place.root.openFile(place.path, O_WRONLY | O_CREAT | flags, pathNotFound);
+    if (isReadOnly(factsOf(file).st_mode)) throw RunTimeError(permissionDenied);
+    if (flags != O_APPEND && ::ftruncate(file.get(), 0) != 0) throw posixError(errno, deviceIo);
+    return std::make_unique<SiteTextWriter>(std::move(file));
 }
 
 std::unique_ptr<TextWriter> SiteFileSystem::openForAppending(const std::string& path)
 {
-    return std::make_unique<SiteTextWriter>(paths_.machinePath(path), SiteTextWriter::Mode::append);
+    return openForWriting(path, O_APPEND);
 }
 
 std::unique_ptr<TextWriter> SiteFileSystem::createTextFile(const std::string& path)
 {
-    return std::make_unique<SiteTextWriter>(paths_.machinePath(path), SiteTextWriter::Mode::create);
+    return openForWriting(path, O_NOFOLLOW);
 }
 
 std::string SiteFileSystem::specialFolder(SpecialFolder folder) const
@@ -249,8 +296,10 @@ std::string SiteFileSystem::driveName(const std::string& path) const
 DiskSpace SiteFileSystem::diskSpace(const std::string& drive) const
 {
     struct statvfs facts {};
-    if (::statvfs(paths_.machinePath(drive).c_str(), &facts) != 0)
-        throw posixError(errno, pathNotFound);
+    const SitePlace place = paths_.place(drive);
+    const FileDescriptor folder = place.root.open(place.path, O_PATH);
+    if (!folder.isOpen()) place.root.fail(place.path, pathNotFound);
+    if (::fstatvfs(folder.get(), &facts) != 0) throw posixError(errno, pathNotFound);
     const auto blockSize = static_cast<std::int64_t>(facts.f_frsize);
     return {static_cast<std::int64_t>(facts.f_bavail) * blockSize,
             static_cast<std::int64_t>(facts.f_blocks) * blockSize};

@@ -9,10 +9,11 @@
 #include <sys/stat.h>
 #include <vector>
 
-/// The files of a site, and the machine's own behind a leading `/`.
+/// The files of a site, and those of the machine behind a leading `/` that a person named.
 ///
 /// A file without its owner's leave to write is read-only, whoever runs the tool. Links out of a
-/// drive, and what is neither file nor folder, are in no listing. What stands in for missing files
+/// drive, and what is neither file nor folder, are in no listing and are not opened; nothing is
+/// removed through a link. What stands in for missing files
 /// (`SitePaths::standIn`) is there in every way.
 class SiteFileSystem final : public FileSystem {
 public:
@@ -43,10 +44,10 @@ public:
     void changeFolder(const std::string& path) override;
 
 private:
-    std::vector<std::string> namesIn(const std::string& folder) const;
-    std::string existingFile(const std::string& path) const;
-    FileInfo describe(const std::string& machinePath, std::string name,
+    std::vector<std::string> namesIn(const SitePlace& place, const std::string& folder) const;
+    FileInfo describe(int folder, const std::string& nameInFolder, std::string name,
                       const struct stat& facts) const;
+    std::unique_ptr<TextWriter> openForWriting(const std::string& path, int flags) const;
 
     SitePaths& paths_;
     PosixTimeZone zone_;

@@ -27,6 +27,13 @@ struct HostFacts {
     /// Whether the person wants the program to end; empty when the host can't tell. The developer
     /// then lets every statement go.
     std::function<bool()> interrupted;
+
+    /// Takes what a person who waits is to know; empty when nobody reads it.
+    std::function<void(const std::string&)> notice = {};
+
+    /// A folder for the tool's module that the person named, as a path of the tool; empty for that
+    /// of the site. It alone may be a folder of the machine.
+    std::string toolFolder = {};
 };
 
 /// The tool's module, which lies in a folder of the site.

@@ -79,8 +79,9 @@ std::string SiteLanguages::languageName(std::int32_t id) const
 std::int32_t SiteLanguages::loadLibrary(const std::string& path)
 {
     try {
-        const auto bytes = readWholeFile(paths_.machinePath(catalogueOf(path)),
-                                         runTimeErrors::fileNotFound, largestCatalogue);
+        const SitePlace place = paths_.place(catalogueOf(path));
+        const auto bytes =
+            readWholeFile(place.root, place.path, runTimeErrors::fileNotFound, largestCatalogue);
         auto catalogue = parseLanguageCatalogue(bytes);
         loaded_.emplace(++lastHandle_, std::move(catalogue));
         return lastHandle_;

@@ -1,18 +1,13 @@
 #include "backends/portable/site_paths.h"
 
-#include "backends/portable/folder_listing.h"
-#include "backends/portable/posix_errors.h"
 #include "backends/portable/utf8.h"
+#include "runtime/run_time_error.h"
 #include "runtime/windows_path.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdlib>
-#include <dirent.h>
+#include <cstddef>
 #include <filesystem>
-#include <memory>
 #include <optional>
-#include <sys/stat.h>
 #include <utility>
 
 namespace {
@@ -24,41 +19,29 @@ char upper(char c)
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
 }
 
-/// The name in a folder that differs from `wanted` in case alone.
-std::optional<std::string> nameIgnoringCase(const std::string& folder, const std::string& wanted)
+std::string joined(const std::vector<std::string>& names, std::size_t first = 0)
 {
-    const std::unique_ptr<DIR, int (*)(DIR*)> listing(
-        ::opendir(folder.empty() ? "/" : folder.c_str()), ::closedir);
-    if (!listing) return {};
-    const auto folded = foldCase(wanted);
-    std::optional<std::string> found;
-    while (const dirent* entry = ::readdir(listing.get())) {
-        const std::string_view name = entry->d_name;
-        if ((!found || name < *found) && foldCase(name) == folded) found = name;
-    }
-    return found;
+    std::string path;
+    for (std::size_t level = first; level < names.size(); ++level)
+        path += (path.empty() ? "" : "/") + names[level];
+    return path;
 }
 
-std::string realPath(const std::string& path)
+std::string driveFolder(char drive)
 {
-    const std::unique_ptr<char, void (*)(void*)> real(::realpath(path.c_str(), nullptr), std::free);
-    return real ? std::string(real.get()) : std::string();
+    return std::string("drive_") + static_cast<char>(drive + 32);
+}
+
+std::string withoutEnd(std::string path)
+{
+    while (path.size() > 1 && path.back() == '/') path.pop_back();
+    return path;
 }
 
 bool isWithin(const std::string& path, const std::string& folder)
 {
     return path.compare(0, folder.size(), folder) == 0 &&
            (path.size() == folder.size() || path[folder.size()] == '/');
-}
-
-/// What a link in a drive leads to.
-std::string followLink(const std::string& link, const std::string& drive)
-{
-    auto real = realPath(link);
-    if (real.empty() || !isWithin(real, realPath(drive)))
-        throw RunTimeError(runTimeErrors::permissionDenied,
-                           "Permission denied: " + link + " leads out of the site");
-    return real;
 }
 
 bool beginsWithNames(const std::vector<std::string>& path, const std::vector<std::string>& folder)
@@ -70,20 +53,11 @@ bool beginsWithNames(const std::vector<std::string>& path, const std::vector<std
                       });
 }
 
-bool isLink(const std::string& path, bool& exists)
-{
-    struct stat facts {};
-    exists = ::lstat(path.c_str(), &facts) == 0;
-    return exists && S_ISLNK(facts.st_mode);
-}
-
 } // namespace
 
 SitePaths::SitePaths(const std::string& siteFolder)
-    : siteFolder_(std::filesystem::absolute(siteFolder).string())
-{
-    while (siteFolder_.size() > 1 && siteFolder_.back() == '/') siteFolder_.pop_back();
-}
+    : siteFolder_(withoutEnd(std::filesystem::absolute(siteFolder).string())), root_(siteFolder_)
+{}
 
 std::string SitePaths::driveName(std::string_view path)
 {
@@ -113,10 +87,13 @@ SitePaths::Location SitePaths::locate(std::string_view path) const
     return location;
 }
 
-std::string SitePaths::driveFolder(char drive) const
+void SitePaths::permit(std::string_view path)
 {
-    if (drive == 0) return {};
-    return siteFolder_ + "/drive_" + static_cast<char>(drive + 32);
+    if (path.empty() || path.front() != '/') return;
+    Names names;
+    followPath(names, path);
+    if (std::find(permitted_.begin(), permitted_.end(), names) == permitted_.end())
+        permitted_.push_back(std::move(names));
 }
 
 void SitePaths::standIn(std::string_view folder, StandIns standIns)
@@ -148,41 +125,69 @@ const std::string* SitePaths::standInFor(const Location& location) const
     return nullptr;
 }
 
-std::string SitePaths::machinePathOf(const Location& location) const
+SitePlace SitePaths::placeOf(const Location& location) const
 {
-    const std::string* standIn = standInFor(location);
-    const bool onDrive = location.drive != 0 && standIn == nullptr;
-    const auto drive = driveFolder(location.drive);
-    std::string path = standIn ? *standIn : drive;
-    bool exists = true;
-    const auto first = standIn ? standInFolder_.names.size() + 1 : 0;
-    for (std::size_t level = first; level < location.names.size(); ++level) {
-        const auto& name = location.names[level];
-        std::string next = pathIn(path, name);
-        bool link = false;
-        if (exists) {
-            link = isLink(next, exists);
-            const auto other =
-                exists || errno != ENOENT ? std::nullopt : nameIgnoringCase(path, name);
-            if (other) {
-                next = pathIn(path, *other);
-                link = isLink(next, exists);
-            }
-        }
-        path = link && onDrive ? followLink(next, drive) : next;
-    }
-    return path.empty() ? "/" : path;
+    if (const std::string* standIn = standInFor(location))
+        return placeOfStandIn(*standIn, location);
+    if (location.drive == 0) return placeOfMachine(location.names);
+    const std::string drive = driveFolder(location.drive);
+    // The person named the site by its name: one that was moved away is there no more.
+    const RootFolder site(siteFolder_);
+    auto root = site.belowIfThere(drive);
+    if (!root) return {site, location.names.empty() ? drive : drive + "/" + joined(location.names)};
+    std::string path = root->pathIgnoringCase(location.names);
+    return {*std::move(root), std::move(path)};
+}
+
+SitePlace SitePaths::placeOfMachine(const Names& names) const
+{
+    const Names* nearest = nullptr;
+    for (const Names& permitted : permitted_)
+        if (names.size() >= permitted.size() && (!nearest || permitted.size() > nearest->size()) &&
+            std::equal(permitted.begin(), permitted.end(), names.begin()))
+            nearest = &permitted;
+    const std::string whole = "/" + joined(names);
+    if (!nearest)
+        throw RunTimeError(runTimeErrors::permissionDenied,
+                           "Permission denied: " + whole + " is not on a drive of the site");
+    const RootFolder machine("/", RootFolder::Bounds::machine);
+    const Names below(names.begin() + static_cast<std::ptrdiff_t>(nearest->size()), names.end());
+    const std::string folder = "/" + joined(*nearest);
+    if (below.empty() || !machine.isFolder(folder)) return {machine, joined(names)};
+    RootFolder root(folder);
+    std::string path = root.pathIgnoringCase(below);
+    return {std::move(root), std::move(path)};
+}
+
+/// What we installed is reached through any links.
+SitePlace SitePaths::placeOfStandIn(const std::string& standIn, const Location& location) const
+{
+    const std::size_t depth = standInFolder_.names.size() + 1;
+    const RootFolder machine("/", RootFolder::Bounds::machine);
+    const Names below(location.names.begin() + static_cast<std::ptrdiff_t>(depth),
+                      location.names.end());
+    const auto folder = below.empty() ? std::nullopt : machine.belowIfThere(standIn.substr(1));
+    if (folder) return {*folder, folder->pathIgnoringCase(below)};
+    return {machine, standIn.substr(1) + (below.empty() ? "" : "/" + joined(below))};
+}
+
+SitePlace SitePaths::place(std::string_view path) const
+{
+    return placeOf(locate(path));
 }
 
 std::string SitePaths::machinePath(std::string_view path) const
 {
-    return machinePathOf(locate(path));
+    const SitePlace found = place(path);
+    return found.root.machinePath(found.path);
 }
 
 bool SitePaths::isOfSite(std::string_view path) const
 {
     const Location location = locate(path);
-    return location.drive != 0 || isWithin(machinePathOf(location), siteFolder_);
+    if (location.drive != 0) return true;
+    const SitePlace found = placeOf(location);
+    return isWithin(found.root.machinePath(found.path), siteFolder_);
 }
 
 bool SitePaths::isRoot(std::string_view path) const
@@ -192,16 +197,20 @@ bool SitePaths::isRoot(std::string_view path) const
 
 std::string SitePaths::currentFolder() const
 {
-    return machinePathOf(locate("."));
+    return machinePath(".");
+}
+
+bool SitePaths::isFolder(const Location& location) const
+{
+    const SitePlace found = placeOf(location);
+    return found.root.isFolder(found.path);
 }
 
 void SitePaths::changeDrive(std::string_view drive)
 {
     if (drive.empty()) return;
     const auto name = driveName(drive);
-    struct stat facts {};
-    if (name.empty() || ::stat(driveFolder(upper(name.front())).c_str(), &facts) != 0 ||
-        !S_ISDIR(facts.st_mode))
+    if (name.empty() || !root_.isFolder(driveFolder(upper(name.front()))))
         throw RunTimeError(deviceUnavailable, "Device unavailable");
     currentDrive_ = upper(name.front());
 }
@@ -209,9 +218,7 @@ void SitePaths::changeDrive(std::string_view drive)
 void SitePaths::changeFolder(std::string_view path)
 {
     auto location = locate(path);
-    struct stat facts {};
-    if (::stat(machinePathOf(location).c_str(), &facts) != 0 || !S_ISDIR(facts.st_mode))
-        throw RunTimeError(runTimeErrors::pathNotFound);
+    if (!isFolder(location)) throw RunTimeError(runTimeErrors::pathNotFound);
     if (location.drive == 0) currentDrive_ = 0;
     currentFolders_[location.drive] = std::move(location.names);
 }

@@ -1,26 +1,52 @@
 #pragma once
 
+#include "backends/portable/root_folder.h"
+
 #include <map>
 #include <string>
 #include <string_view>
 #include <vector>
 
-/// Maps the Windows paths of a site to paths of the machine.
+/// Where a path of the tool lies: `path` below a folder that nothing leads out of.
+struct SitePlace {
+    RootFolder root;
+    std::string path; ///< names parted by "/"; empty for the folder itself
+};
+
+/// Maps the Windows paths of a site to places on the machine.
 ///
-/// `C:\x` is `SITE/drive_c/x`; a path that begins with `/` is the machine's own. `\` and `/` both
-/// separate. A name that is not there as given is the one that differs in case alone, the first of
-/// them in order of bytes. `..` stops at the root of a drive, and a link that leads out of its
-/// drive, or nowhere, raises 70: no path of a drive reaches what is not in it.
+/// `C:\x` is `x` in `SITE/drive_c`. `\` and `/` both separate. A name that is not there as given is
+/// the one that differs in case alone, the first of them in order of bytes. `..` stops at the root
+/// of a drive, and a link that leads out of its drive, or round in a circle, raises 70, as every
+/// absolute link does: no path of a drive reaches what is not in it, and no drive lies outside the
+/// site.
+///
+/// A path that begins with `/` is the machine's own. A site may name such a path too, be it in its
+/// registry, and is not to be believed: only what a person named (`permit`) is reached by it, and
+/// anything else raises 70.
 class SitePaths {
 public:
-    /// `siteFolder` is a path of the machine; the current folder is the root of C:.
+    /// `siteFolder` is a path of the machine, which a person named; the current folder is the root
+    /// of C:. Raises 76 for what is no folder, 70.
     explicit SitePaths(const std::string& siteFolder);
 
     /// As a whole path, without a separator at its end.
     const std::string& siteFolder() const { return siteFolder_; }
 
-    /// Where a path lies on the machine, whether or not something is there.
-    /// Raises 52 for the empty path and one with a zero byte, 76 for a share, 70.
+    /// The site's folder, and what the site keeps beside its drives.
+    const RootFolder& root() const { return root_; }
+
+    /// Lets a file or a folder of the machine, with what lies below it, be reached by its path,
+    /// which a person named. Links on the way to it are followed; below it none leads out. A path
+    /// that does not begin with `/` changes nothing.
+    void permit(std::string_view path);
+
+    /// Where a path lies, whether or not something is there. Raises 52 for the empty path and one
+    /// with a zero byte, 76 for a share, 70.
+    SitePlace place(std::string_view path) const;
+
+    /// The same as a path of the machine, without links below the drive, for programs and libraries
+    /// that take nothing else. What it leads to is guarded no more once it was given.
     std::string machinePath(std::string_view path) const;
 
     /// Whether a path is one of the site's: on a drive, or in the site's folder by the machine's
@@ -63,10 +89,14 @@ private:
 
     const std::string* standInFor(const Location& location) const;
     Location locate(std::string_view path) const;
-    std::string machinePathOf(const Location& location) const;
-    std::string driveFolder(char drive) const;
+    SitePlace placeOf(const Location& location) const;
+    SitePlace placeOfMachine(const Names& names) const;
+    SitePlace placeOfStandIn(const std::string& standIn, const Location& location) const;
+    bool isFolder(const Location& location) const;
 
     std::string siteFolder_;
+    RootFolder root_;
+    std::vector<Names> permitted_;
     char currentDrive_ = 'C';
     std::map<char, Names> currentFolders_;
     Location standInFolder_;

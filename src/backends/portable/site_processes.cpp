@@ -118,9 +118,20 @@ bool hasSameBytes(const std::string& one, const std::string& other)
     constexpr int anyNumber = runTimeErrors::fileNotFound;
     try {
         return isSameFile(one, other) ||
-               readWholeFile(one, anyNumber) == readWholeFile(other, anyNumber);
+               readMachineFile(one, anyNumber) == readMachineFile(other, anyNumber);
     } catch (const RunTimeError&) {
         return false;
+    }
+}
+
+/// Where a name leads; empty for one that can't be one. The machine's own may be named by anybody:
+/// what is started is an installed program or nothing, and a name is no more than compared with it.
+std::string machineNameOf(const SitePaths& paths, const std::string& name)
+{
+    try {
+        return paths.machinePath(name);
+    } catch (const RunTimeError&) {
+        return name.rfind('/', 0) == 0 ? name : std::string();
     }
 }
 
@@ -174,12 +185,8 @@ std::optional<std::string> SiteProcesses::fileOf(const std::string& name) const
     const bool hasEnding = lastName.find('.') != std::string::npos;
     for (const char* ending : {"", ".exe"}) {
         if (*ending != '\0' && hasEnding) break;
-        try {
-            auto program = paths_.machinePath(name + ending);
-            if (isPlainFile(program)) return program;
-        } catch (const RunTimeError&) {
-            continue; // a name that can't be one finds nothing
-        }
+        auto program = machineNameOf(paths_, name + ending);
+        if (isPlainFile(program)) return program;
     }
     return {};
 }

@@ -13,6 +13,9 @@
 namespace {
 
 constexpr mode_t ordinaryMode = 0644;
+constexpr const char* fileName = "registry.reg";
+constexpr const char* lockName = "registry.reg.lock";
+constexpr std::chrono::seconds timeUntilNotice{1};
 
 bool sameVersion(const struct stat& left, const struct stat& right)
 {
@@ -21,29 +24,6 @@ bool sameVersion(const struct stat& left, const struct stat& right)
            left.st_mtim.tv_nsec == right.st_mtim.tv_nsec &&
            left.st_ctim.tv_sec == right.st_ctim.tv_sec &&
            left.st_ctim.tv_nsec == right.st_ctim.tv_nsec;
-}
-
-/// The file's facts; nothing when there is none. Raises 70, 57.
-std::optional<struct stat> factsOf(const std::string& path)
-{
-    struct stat facts {};
-    if (::stat(path.c_str(), &facts) == 0) return facts;
-    if (errno == ENOENT) return {};
-    throw posixError(errno, runTimeErrors::pathNotFound);
-}
-
-/// Takes the lock beside the registry; closing the file lets it go. Not open where nobody may
-/// write.
-FileDescriptor lockBeside(const std::string& path)
-{
-    FileDescriptor lock(::open((path + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
-    if (!lock.isOpen()) {
-        if (errno == EACCES || errno == EPERM || errno == EROFS) return lock;
-        throw posixError(errno, runTimeErrors::pathNotFound);
-    }
-    while (::flock(lock.get(), LOCK_EX) != 0)
-        if (errno != EINTR) throw posixError(errno, runTimeErrors::deviceIo);
-    return lock;
 }
 
 /// The path with its hive; the empty one, which names no key, for other hives than the tool's.
@@ -58,11 +38,13 @@ std::string fullPath(std::uint32_t hive, const std::string& path)
 
 } // namespace
 
-SiteRegistry::SiteRegistry(std::string path) : path_(std::move(path)) {}
+SiteRegistry::SiteRegistry(RootFolder site, Notice notice, std::chrono::milliseconds patience)
+    : site_(std::move(site)), notice_(std::move(notice)), patience_(patience)
+{}
 
 RegistryTree& SiteRegistry::current() const
 {
-    const auto facts = factsOf(path_);
+    const auto facts = site_.facts(fileName);
     if (known_ && facts.has_value() == facts_.has_value() &&
         (!facts || sameVersion(*facts, *facts_)))
         return tree_;
@@ -74,13 +56,12 @@ void SiteRegistry::read() const
 {
     known_ = false;
     facts_.reset();
-    file_ = FileDescriptor(::open(path_.c_str(), O_RDONLY | O_CLOEXEC));
-    if (file_.isOpen()) {
+    if (site_.facts(fileName)) {
+        file_ = site_.openFile(fileName, O_RDONLY, runTimeErrors::fileNotFound);
         tree_ = parseRegistryFile(readWholeFile(remember(), runTimeErrors::fileNotFound));
-    } else if (errno == ENOENT) {
-        tree_ = RegistryTree{};
     } else {
-        throw posixError(errno, runTimeErrors::pathNotFound);
+        file_ = FileDescriptor();
+        tree_ = RegistryTree{};
     }
     known_ = true;
 }
@@ -157,10 +138,45 @@ bool SiteRegistry::setValue(std::uint32_t hive, const std::string& path, const s
     return opens && written;
 }
 
+/// Takes the lock beside the registry; closing the file lets it go. Not open where nobody may
+/// write.
+FileDescriptor SiteRegistry::takeLock()
+{
+    FileDescriptor lock = site_.open(lockName, O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK, 0666);
+    if (!lock.isOpen()) {
+        if (errno == EACCES || errno == EPERM || errno == EROFS) return lock;
+        site_.fail(lockName, runTimeErrors::pathNotFound);
+    }
+    struct stat facts {};
+    if (::fstat(lock.get(), &facts) != 0 || !S_ISREG(facts.st_mode))
+        throw RunTimeError(runTimeErrors::permissionDenied,
+                           "Permission denied: " + site_.shown(lockName) + " is no plain file");
+    waitFor(lock);
+    return lock;
+}
+
+void SiteRegistry::waitFor(const FileDescriptor& lock)
+{
+    const auto start = LockPatience::Clock::now();
+    bool told = false;
+    patience_.begin();
+    for (int tries = 0; ::flock(lock.get(), LOCK_EX | LOCK_NB) != 0; ++tries) {
+        if (errno == EINTR) continue;
+        if (errno != EWOULDBLOCK) throw posixError(errno, runTimeErrors::deviceIo);
+        if (!patience_.wait(tries))
+            throw RunTimeError(runTimeErrors::permissionDenied,
+                               "Permission denied: another program holds " + site_.shown(fileName) +
+                                   " and did not let go in time");
+        if (told || !notice_ || LockPatience::Clock::now() - start < timeUntilNotice) continue;
+        notice_("waiting for another program that holds " + site_.shown(fileName));
+        told = true;
+    }
+}
+
 /// Makes a change under the lock. False where nobody may write.
 bool SiteRegistry::write(const Change& change)
 {
-    const auto lock = lockBeside(path_);
+    const auto lock = takeLock();
     if (!lock.isOpen()) return false;
     auto& tree = current();
     if (facts_ && (facts_->st_mode & S_IWUSR) == 0) return false;
@@ -175,13 +191,13 @@ bool SiteRegistry::write(const Change& change)
 
 void SiteRegistry::save()
 {
-    ReplacementFile file(path_, ordinaryMode);
+    ReplacementFile file(site_, fileName, ordinaryMode);
     if (facts_) {
         const bool owned = ::fchown(file.descriptor(), facts_->st_uid, facts_->st_gid) == 0;
         ::fchmod(file.descriptor(), facts_->st_mode & (owned ? 07777 : 0777));
     }
     file.write(registryFileText(tree_));
     file.commit(true);
-    file_ = FileDescriptor(::open(path_.c_str(), O_RDONLY | O_CLOEXEC));
+    file_ = site_.openFile(fileName, O_RDONLY, runTimeErrors::fileNotFound);
     remember();
 }

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "backends/portable/file_descriptor.h"
+#include "backends/portable/lock_patience.h"
 #include "backends/portable/registry_tree.h"
+#include "backends/portable/root_folder.h"
 #include "platform/registry.h"
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
@@ -15,11 +18,20 @@
 /// empty registry, made by the first write. A write takes the lock beside the file, reads what
 /// another program may have written, and replaces the file whole; one that changes nothing writes
 /// nothing. The keys of other hives than HKEY_LOCAL_MACHINE are kept, and can't be asked for. Any
-/// call raises 321 for a damaged file, which stays as it is, and 57, 61.
+/// call raises 321 for a damaged file, which stays as it is, and 57, 61; 70 for what is no plain
+/// file or leads out of the site; a write 70 too when another program does not let go of the lock
+/// in time.
 class SiteRegistry final : public Registry {
 public:
-    /// `path` is the machine's path of the file.
-    explicit SiteRegistry(std::string path);
+    /// How long the writes of a run wait, all together, for another program's lock.
+    static constexpr std::chrono::seconds usualPatience{10};
+
+    /// Takes what a person who waits for a lock is to know.
+    using Notice = std::function<void(const std::string&)>;
+
+    /// The file is `registry.reg` in the site's folder.
+    explicit SiteRegistry(RootFolder site, Notice notice = {},
+                          std::chrono::milliseconds patience = usualPatience);
 
     bool keyExists(std::uint32_t hive, const std::string& path) const override;
     std::optional<bool> createKey(std::uint32_t hive, const std::string& path) override;
@@ -40,8 +52,12 @@ private:
     const RegistryKey* key(std::uint32_t hive, const std::string& path) const;
     bool write(const Change& change);
     void save();
+    FileDescriptor takeLock();
+    void waitFor(const FileDescriptor& lock);
 
-    std::string path_;
+    RootFolder site_;
+    Notice notice_;
+    LockPatience patience_;
     mutable RegistryTree tree_;
     mutable FileDescriptor
         file_; ///< the version that was read; open, so that no other looks like it

@@ -32,6 +32,25 @@ bool isControl(char c)
     return (byte < 0x20 && c != '\t') || byte == 0x7F;
 }
 
+/// Whether a UTF-8 text has a character that a person does not see, but that ends a line or turns
+/// the way it is read.
+bool hasHiddenCharacter(std::string_view text)
+{
+    for (const std::string_view start : {"\xC2\x80", "\xC2\x90", "\xE2\x80\xA8", "\xE2\x81\xA6"}) {
+        // Blocks of 16 or 8 characters that differ in the last byte alone.
+        const unsigned first = static_cast<unsigned char>(start.back());
+        const unsigned last = start.size() == 2 ? first + 15 : first + (first == 0xA8 ? 6 : 3);
+        const auto head = start.substr(0, start.size() - 1);
+        for (auto at = text.find(head); at != std::string_view::npos;
+             at = text.find(head, at + 1)) {
+            if (at + head.size() >= text.size()) break;
+            const auto byte = static_cast<unsigned char>(text[at + head.size()]);
+            if (byte >= first && byte <= last) return true;
+        }
+    }
+    return text.find('\t') != std::string_view::npos;
+}
+
 /// Reads the lines one by one and knows where it stands, for its messages.
 class Parser {
 public:
@@ -87,9 +106,9 @@ private:
     {
         const bool given = !value.empty();
         if (sameName(key, "computer")) {
-            if (given) settings_.computer = value;
+            if (given) settings_.computer = checkedName(key, value);
         } else if (sameName(key, "user")) {
-            if (given) settings_.user = value;
+            if (given) settings_.user = userName(key, value);
         } else if (sameName(key, "timeZone")) {
             if (given) settings_.timeZone = timeZone(value);
         } else if (sameName(key, "codePage")) {
@@ -103,6 +122,26 @@ private:
         } else {
             fail("unknown key \"" + std::string(key) + "\"");
         }
+    }
+
+    /// A name that becomes part of file names, lines and commands.
+    std::string checkedName(std::string_view key, const std::string& value) const
+    {
+        if (value.find_first_of("\\/:*?\"'`;%<>|") != std::string::npos ||
+            value.find("..") != std::string::npos || hasHiddenCharacter(value))
+            fail(std::string(key) + " is no name: " + value);
+        return value;
+    }
+
+    /// May stand behind its domain, as in "OFFICE\maria".
+    std::string userName(std::string_view key, const std::string& value) const
+    {
+        const auto domain = value.find('\\');
+        if (domain == std::string::npos) return checkedName(key, value);
+        if (domain == 0 || domain + 1 == value.size()) fail("user is no name: " + value);
+        checkedName(key, value.substr(0, domain));
+        checkedName(key, value.substr(domain + 1));
+        return value;
     }
 
     int number(std::string_view key, const std::string& value) const
@@ -137,11 +176,14 @@ private:
     std::string toolFolder(std::string value) const
     {
         const auto isSeparator = [](char c) { return c == '\\' || c == '/'; };
-        const bool machine = value.front() == '/';
         const bool drive = value.size() > 3 && value[1] == ':' && isSeparator(value[2]);
         while (value.size() > 1 && isSeparator(value.back())) value.pop_back();
-        if ((!machine && !drive) || value.size() < (machine ? 2 : 4))
-            fail("toolFolder is no whole path, such as C:\\OrvanDiagnostics: " + value);
+        if (!drive || value.size() < 4)
+            fail("toolFolder is no folder of a drive, such as C:\\OrvanDiagnostics: " + value);
+        if (value.find_first_of("*?\"'`;%<>|") != std::string::npos ||
+            value.find(':', 2) != std::string::npos || value.find("..") != std::string::npos ||
+            hasHiddenCharacter(value))
+            fail("toolFolder is no name of a folder: " + value);
         return value;
     }
 
@@ -166,11 +208,11 @@ SiteSettings parseSiteSettings(std::string_view text)
     return Parser().parse(text);
 }
 
-SiteSettings readSiteSettings(const std::string& path)
+SiteSettings readSiteSettings(const RootFolder& site)
 {
     std::string text;
     try {
-        text = readWholeFile(path, runTimeErrors::fileNotFound, largestSettingsFile);
+        text = readWholeFile(site, "site.ini", runTimeErrors::fileNotFound, largestSettingsFile);
     } catch (const RunTimeError& error) {
         if (error.number() == runTimeErrors::fileNotFound) return {};
         throw RunTimeError(error.number(), "site.ini: " + error.description());

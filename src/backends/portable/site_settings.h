@@ -1,5 +1,7 @@
 #pragma once
 
+#include "backends/portable/root_folder.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -29,5 +31,6 @@ struct SiteSettings {
 /// or second key, a value that is none, a line that is none.
 SiteSettings parseSiteSettings(std::string_view text);
 
-/// Reads the file; the defaults when there is none. Raises as `parseSiteSettings`, and 70, 57.
-SiteSettings readSiteSettings(const std::string& path);
+/// Reads the `site.ini` of a site's folder; the defaults when there is none. Raises as
+/// `parseSiteSettings`, and 70, 57.
+SiteSettings readSiteSettings(const RootFolder& site);

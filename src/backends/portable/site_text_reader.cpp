@@ -5,8 +5,8 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -16,14 +16,8 @@ constexpr std::size_t longestText = 1U << 30;
 
 } // namespace
 
-SiteTextReader::SiteTextReader(const std::string& machinePath)
-    : file_(::open(machinePath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)), capacity_(bufferSize)
+SiteTextReader::SiteTextReader(FileDescriptor file) : file_(std::move(file)), capacity_(bufferSize)
 {
-    if (!file_.isOpen()) throw posixError(errno, runTimeErrors::fileNotFound);
-    struct stat facts {};
-    if (::fstat(file_.get(), &facts) != 0) throw posixError(errno, runTimeErrors::deviceIo);
-    if (!S_ISREG(facts.st_mode) && !S_ISCHR(facts.st_mode))
-        throw RunTimeError(runTimeErrors::permissionDenied);
     ::posix_fadvise(file_.get(), 0, 0, POSIX_FADV_SEQUENTIAL);
     buffer_.reset(new char[capacity_]);
 }

@@ -8,12 +8,11 @@
 #include <string>
 #include <string_view>
 
-/// Reads a file of the machine through one buffer, which only a long line enlarges. What another
+/// Reads an open file through one buffer, which only a long line enlarges. What another
 /// program appends or cuts off meanwhile is read as it is found.
 class SiteTextReader final : public TextReader {
 public:
-    /// Raises 53 when the file is missing, 70 for what is no file.
-    explicit SiteTextReader(const std::string& machinePath);
+    explicit SiteTextReader(FileDescriptor file);
 
     bool atEnd() override;
     std::string_view readLine() override;

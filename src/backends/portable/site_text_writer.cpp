@@ -4,9 +4,7 @@
 #include "runtime/text.h"
 
 #include <cerrno>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -14,33 +12,14 @@ constexpr std::size_t bufferSize = 256U << 10;
 
 } // namespace
 
-SiteTextWriter::SiteTextWriter(const std::string& machinePath, Mode mode)
+SiteTextWriter::SiteTextWriter(FileDescriptor file) : file_(std::move(file))
 {
-    struct stat facts {};
-    if (::stat(machinePath.c_str(), &facts) == 0 && (facts.st_mode & S_IWUSR) == 0)
-        throw RunTimeError(runTimeErrors::permissionDenied);
-    const int flags = mode == Mode::append ? O_APPEND : O_NOFOLLOW;
-    file_ = FileDescriptor(
-        ::open(machinePath.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK | flags, 0666));
-    if (!file_.isOpen() && (errno == ELOOP || errno == ENXIO))
-        throw RunTimeError(runTimeErrors::permissionDenied);
-    if (!file_.isOpen()) throw posixError(errno, runTimeErrors::pathNotFound);
-    if (mode == Mode::create) emptyPlainFile();
     buffer_.reserve(bufferSize);
 }
 
 SiteTextWriter::~SiteTextWriter()
 {
     if (file_.isOpen()) writeBytes(file_.get(), buffer_);
-}
-
-void SiteTextWriter::emptyPlainFile()
-{
-    struct stat facts {};
-    if (::fstat(file_.get(), &facts) != 0 || !S_ISREG(facts.st_mode))
-        throw RunTimeError(runTimeErrors::permissionDenied);
-    if (facts.st_size > 0 && ::ftruncate(file_.get(), 0) != 0)
-        throw posixError(errno, runTimeErrors::deviceIo);
 }
 
 void SiteTextWriter::requireOpen() const

@@ -1,11 +1,14 @@
 #include "backends/portable/sqlite_handle.h"
 
 #include "backends/portable/database_copy.h"
+#include "backends/portable/root_folder.h"
 #include "platform/database.h"
 #include "runtime/run_time_error.h"
 
+#include <filesystem>
 #include <fstream>
 #include <optional>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -46,10 +49,26 @@ std::optional<Template> templateOf(const std::string& sql)
     return result;
 }
 
+/// Refuses a database that is not an ordinary one, and gives its path without links: the library
+/// takes nothing but a path. It is told to follow none (`SQLITE_OPEN_NOFOLLOW`), so that nobody can
+/// exchange what was looked at for one; what it opens beside the database it does not follow
+/// either. Raises 53, 76, 70.
+std::string guardedPath(const std::string& file)
+{
+    const std::string name = lastNameOf(file);
+    const RootFolder folder(folderPathOf(file).empty() ? "." : folderPathOf(file));
+    for (const char* ending : {"", "-journal", "-wal", "-shm"})
+        if (const auto facts = folder.ownFacts(name + ending); facts && !S_ISREG(facts->st_mode))
+            throw RunTimeError(runTimeErrors::permissionDenied,
+                               folder.shown(name + ending) + " is no plain file");
+    std::error_code none;
+    return (std::filesystem::canonical(folder.shown(""), none) / name).string();
+}
+
 unsigned long long inodeOf(const std::string& file)
 {
     struct stat facts {};
-    return stat(file.c_str(), &facts) == 0 ? facts.st_ino : 0;
+    return ::lstat(file.c_str(), &facts) == 0 ? facts.st_ino : 0;
 }
 
 int waitForLock(void* patience, int tries)
@@ -120,14 +139,21 @@ SqliteHandle::SqliteHandle(const std::string& file, std::shared_ptr<LockPatience
     patience_->begin();
     if (inode_ == 0) throw RunTimeError(databaseErrors::unspecified, "Cannot open " + file);
     std::string failure;
+    std::string path;
+    try {
+        path = guardedPath(file);
+    } catch (const RunTimeError& error) {
+        throw RunTimeError(databaseErrors::unspecified,
+                           "Cannot open " + file + ": " + error.description());
+    }
     if (use == DatabaseUse::change) {
-        if (connect(file, SQLITE_OPEN_READWRITE, failure) == SQLITE_OK) return;
-    } else if (hasWriteAheadLog(file)) {
-        if (connectToCopy(file, failure)) return;
+        if (connect(path, SQLITE_OPEN_READWRITE, failure) == SQLITE_OK) return;
+    } else if (hasWriteAheadLog(path)) {
+        if (connectToCopy(path, failure)) return;
     } else {
-        const int result = connect(file, SQLITE_OPEN_READONLY, failure);
+        const int result = connect(path, SQLITE_OPEN_READONLY, failure);
         if (result == SQLITE_OK) return;
-        if (result == SQLITE_READONLY_ROLLBACK && connectToCopy(file, failure)) return;
+        if (result == SQLITE_READONLY_ROLLBACK && connectToCopy(path, failure)) return;
     }
     throw RunTimeError(databaseErrors::unspecified, "Cannot open " + file + ": " + failure);
 }
@@ -149,7 +175,8 @@ bool SqliteHandle::connectToCopy(const std::string& file, std::string& failure)
 /// again and told.
 int SqliteHandle::connect(const std::string& file, int flags, std::string& failure)
 {
-    int result = sqlite3_open_v2(file.c_str(), &database_, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    int result = sqlite3_open_v2(file.c_str(), &database_,
+                                 flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_NOFOLLOW, nullptr);
     if (result == SQLITE_OK) {
         sqlite3_extended_result_codes(database_, 1);
         sqlite3_busy_handler(database_, waitForLock, patience_.get());

@@ -2,13 +2,12 @@
 
 #include "backends/portable/file_pattern.h"
 #include "backends/portable/folder_listing.h"
-#include "backends/portable/posix_errors.h"
 #include "backends/portable/utf8.h"
 #include "backends/portable/whole_file.h"
+#include "runtime/run_time_error.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
+#include <fcntl.h>
 #include <iterator>
 #include <set>
 #include <string_view>
@@ -29,66 +28,76 @@ bool isSupplied(std::string_view name)
         [&](std::string_view pattern) { return FilePattern(pattern).matches(name); });
 }
 
-bool isFolder(const std::string& path)
+constexpr std::string_view temporaryMark = ".new-";
+
+std::string below(const std::string& folder, const std::string& name)
 {
-    struct stat facts {};
-    return ::stat(path.c_str(), &facts) == 0 && S_ISDIR(facts.st_mode);
+    return folder.empty() ? name : folder + "/" + name;
 }
 
-void makeFolders(const std::string& path)
+void copyFolder(const RootFolder& source, const RootFolder& root, const std::string& target)
 {
-    if (path.empty() || isFolder(path)) return;
-    makeFolders(path.substr(0, path.rfind('/')));
-    if (::mkdir(path.c_str(), 0777) != 0 && errno != EEXIST)
-        throw posixError(errno, runTimeErrors::pathNotFound);
-}
-
-void copyFolder(const std::string& source, const std::string& target)
-{
-    makeFolders(target);
-    for (const auto& name : namesInFolder(source)) {
-        const auto from = pathIn(source, name);
-        if (isFolder(from))
-            copyFolder(from, pathIn(target, name));
+    root.makeFolders(target);
+    for (const auto& name : sortedNames(source.names(""))) {
+        if (const auto folder = source.belowIfThere(name))
+            copyFolder(*folder, root, below(target, name));
         else
-            copyWholeFile(from, pathIn(target, name));
+            copyWholeFile(source.openFile(name, O_RDONLY, runTimeErrors::fileNotFound), root,
+                          below(target, name));
     }
 }
 
 /// Copies under another name and moves it into place, so that a folder too appears whole.
-void supply(const std::string& source, const std::string& target)
+void supply(const RootFolder& data, const std::string& name, const SitePlace& tool)
 {
-    if (!isFolder(source)) {
-        copyWholeFile(source, target);
+    const std::string target = below(tool.path, name);
+    const auto source = data.belowIfThere(name);
+    if (!source) {
+        copyWholeFile(data.openFile(name, O_RDONLY, runTimeErrors::fileNotFound), tool.root,
+                      target);
         return;
     }
-    const auto temporary = target + ".new-" + std::to_string(::getpid());
+    const std::string temporary = target + std::string(temporaryMark) + std::to_string(::getpid());
     try {
-        copyFolder(source, temporary);
-        if (::rename(temporary.c_str(), target.c_str()) == 0) return;
-        if (errno != EEXIST && errno != ENOTEMPTY)
-            throw posixError(errno, runTimeErrors::pathNotFound);
-        removeWholeFolder(temporary); // another program has supplied it
-    } catch (const RunTimeError&) {
-        if (isFolder(temporary)) removeWholeFolder(temporary);
-        throw;
+        copyFolder(*source, tool.root, temporary);
+        tool.root.rename(temporary, target);
+    } catch (const RunTimeError& error) {
+        if (tool.root.isFolder(temporary)) tool.root.removeFolder(temporary);
+        if (error.number() != runTimeErrors::fileAlreadyExists) throw; // else another supplied it
+    }
+}
+
+/// Removes what programs that were killed have left of folders that they were copying.
+void sweepFolders(const SitePlace& tool)
+{
+    for (const auto& name : tool.root.names(tool.path)) {
+        const auto mark = name.rfind(temporaryMark);
+        if (mark == std::string::npos || !isSupplied(name.substr(0, mark))) continue;
+        const std::string path = below(tool.path, name);
+        const auto facts = tool.root.ownFacts(path);
+        if (facts && S_ISDIR(facts->st_mode) &&
+            isLeftBehind(name.substr(mark + temporaryMark.size()), *facts))
+            tool.root.removeFolder(path);
     }
 }
 
 } // namespace
 
-std::map<std::string, std::string> lackingInToolFolder(const std::string& toolFolder,
+std::map<std::string, std::string> lackingInToolFolder(const SitePlace& toolFolder,
                                                        const std::string& installedData)
 {
     std::map<std::string, std::string> lacking;
+    if (installedData.empty()) return lacking;
     try {
         std::set<std::string> there;
-        if (isFolder(toolFolder))
-            for (const auto& name : namesInFolder(toolFolder)) there.insert(foldCase(name));
-        if (!isFolder(installedData)) return lacking;
-        for (const auto& name : namesInFolder(installedData))
+        if (const auto folder = toolFolder.root.belowIfThere(toolFolder.path))
+            for (const auto& name : sortedNames(folder->names(""))) there.insert(foldCase(name));
+        const RootFolder machine("/", RootFolder::Bounds::machine);
+        const auto data = machine.belowIfThere(installedData);
+        if (!data) return lacking;
+        for (const auto& name : sortedNames(data->names("")))
             if (isSupplied(name) && there.count(foldCase(name)) == 0)
-                lacking.emplace(name, pathIn(installedData, name));
+                lacking.emplace(name, installedData + "/" + name);
     } catch (const RunTimeError& error) {
         if (error.number() != runTimeErrors::permissionDenied) throw;
         lacking.clear();
@@ -96,12 +105,16 @@ std::map<std::string, std::string> lackingInToolFolder(const std::string& toolFo
     return lacking;
 }
 
-void supplyToolFolder(const std::string& toolFolder, const std::string& installedData)
+void supplyToolFolder(const SitePlace& toolFolder, const std::string& installedData)
 {
     try {
-        makeFolders(toolFolder);
-        for (const auto& [name, source] : lackingInToolFolder(toolFolder, installedData))
-            supply(source, pathIn(toolFolder, name));
+        toolFolder.root.makeFolders(toolFolder.path);
+        sweepReplacementFiles(toolFolder.root, toolFolder.path);
+        sweepFolders(toolFolder);
+        const auto lacking = lackingInToolFolder(toolFolder, installedData);
+        if (lacking.empty()) return;
+        const RootFolder data(installedData, RootFolder::Bounds::machine);
+        for (const auto& entry : lacking) supply(data, entry.first, toolFolder);
     } catch (const RunTimeError& error) {
         if (error.number() != runTimeErrors::permissionDenied) throw;
     }

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
+#include <ctime>
 #include <fcntl.h>
 #include <random>
 #include <sys/sendfile.h>
@@ -16,24 +18,37 @@ namespace {
 
 constexpr std::size_t copyStep = 16U << 20;
 
-std::string folderOf(const std::string& path)
-{
-    const auto slash = path.rfind('/');
-    return slash == std::string::npos ? "." : path.substr(0, slash + 1);
-}
+constexpr std::string_view temporaryStart = ".new-";
+constexpr std::time_t longestWork = 60 * 60;
 
-/// A new file in the target's folder, under a name that nobody else has.
-std::pair<std::string, FileDescriptor> makeTemporary(const std::string& target, mode_t mode)
+/// A new file in a folder, under a name that nobody else has.
+std::pair<std::string, FileDescriptor> makeTemporary(const RootFolder& folder, mode_t mode)
 {
     std::random_device random;
     for (int attempt = 0; attempt < 100; ++attempt) {
-        std::string name = folderOf(target) + ".new-" + std::to_string(::getpid()) + "-" +
+        std::string name = std::string(temporaryStart) + std::to_string(::getpid()) + "-" +
                            std::to_string(random() % 1'000'000'000);
-        FileDescriptor file(::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+        FileDescriptor file = folder.open(name, O_WRONLY | O_CREAT | O_EXCL, mode);
         if (file.isOpen()) return {std::move(name), std::move(file)};
         if (errno != EEXIST) throw posixError(errno, runTimeErrors::pathNotFound);
     }
     throw RunTimeError(runTimeErrors::permissionDenied);
+}
+
+bool isNumber(std::string_view text)
+{
+    return !text.empty() && text.size() < 10 &&
+           text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+/// The process of a name that `makeTemporary` gave; the empty text for any other name.
+std::string_view processOf(std::string_view name)
+{
+    if (name.substr(0, temporaryStart.size()) != temporaryStart) return {};
+    name.remove_prefix(temporaryStart.size());
+    const auto dash = name.find('-');
+    if (dash == std::string_view::npos || !isNumber(name.substr(dash + 1))) return {};
+    return isNumber(name.substr(0, dash)) ? name.substr(0, dash) : std::string_view();
 }
 
 /// One step of a copy by the fastest way that the two file systems offer: 0 at the end, -1 with
@@ -59,11 +74,15 @@ ssize_t copySome(int from, int to, int& way)
 
 } // namespace
 
-std::string readWholeFile(const std::string& path, int missing, std::size_t limit)
+std::string readWholeFile(const RootFolder& root, const std::string& path, int missing,
+                          std::size_t limit)
 {
-    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    if (!file.isOpen()) throw posixError(errno, missing);
-    return readWholeFile(file, missing, limit);
+    return readWholeFile(root.openFile(path, O_RDONLY, missing), missing, limit);
+}
+
+std::string readMachineFile(const std::string& path, int missing, std::size_t limit)
+{
+    return readWholeFile(RootFolder("/", RootFolder::Bounds::machine), path, missing, limit);
 }
 
 std::string readWholeFile(const FileDescriptor& file, int missing, std::size_t limit)
@@ -84,14 +103,15 @@ std::string readWholeFile(const FileDescriptor& file, int missing, std::size_t l
     }
 }
 
-ReplacementFile::ReplacementFile(std::string target, mode_t mode) : target_(std::move(target))
+ReplacementFile::ReplacementFile(const RootFolder& root, const std::string& target, mode_t mode)
+    : folder_(root.below(folderPathOf(target))), target_(lastNameOf(target))
 {
-    std::tie(temporary_, file_) = makeTemporary(target_, mode);
+    std::tie(temporary_, file_) = makeTemporary(folder_, mode);
 }
 
 ReplacementFile::~ReplacementFile()
 {
-    if (!temporary_.empty()) ::unlink(temporary_.c_str());
+    if (!temporary_.empty()) ::unlinkat(folder_.descriptor(), temporary_.c_str(), 0);
 }
 
 void ReplacementFile::write(std::string_view bytes)
@@ -104,27 +124,48 @@ void ReplacementFile::commit(bool synced)
 {
     if (synced && ::fdatasync(file_.get()) != 0) throw posixError(errno, runTimeErrors::deviceIo);
     if (const int error = file_.close()) throw posixError(error, runTimeErrors::deviceIo);
-    if (::rename(temporary_.c_str(), target_.c_str()) != 0)
+    if (::renameat(folder_.descriptor(), temporary_.c_str(), folder_.descriptor(),
+                   target_.c_str()) != 0)
         throw posixError(errno, runTimeErrors::pathNotFound);
     temporary_.clear();
 }
 
-void copyWholeFile(const std::string& source, const std::string& target)
+void copyWholeFile(const FileDescriptor& source, const RootFolder& root, const std::string& target)
 {
-    FileDescriptor from(::open(source.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    if (!from.isOpen()) throw posixError(errno, runTimeErrors::fileNotFound);
     struct stat facts {};
-    if (::fstat(from.get(), &facts) != 0) throw posixError(errno, runTimeErrors::fileNotFound);
-    if (S_ISDIR(facts.st_mode)) throw RunTimeError(runTimeErrors::fileNotFound);
-
-    ReplacementFile copy(target, facts.st_mode & 0777);
+    if (::fstat(source.get(), &facts) != 0) throw posixError(errno, runTimeErrors::fileNotFound);
+    ReplacementFile copy(root, target, facts.st_mode & 0777);
     int way = 0;
     for (;;) {
-        const ssize_t count = copySome(from.get(), copy.descriptor(), way);
+        const ssize_t count = copySome(source.get(), copy.descriptor(), way);
         if (count == 0) break;
         if (count < 0 && errno != EINTR) throw posixError(errno, runTimeErrors::deviceIo);
     }
     const timespec times[] = {facts.st_atim, facts.st_mtim};
     ::futimens(copy.descriptor(), times);
     copy.commit(false);
+}
+
+bool isLeftBehind(std::string_view process, const struct stat& facts)
+{
+    if (!isNumber(process) || facts.st_uid != ::geteuid()) return false;
+    if (facts.st_mtime < std::time(nullptr) - longestWork) return true;
+    const auto number = static_cast<pid_t>(std::stol(std::string(process)));
+    return number > 0 && ::kill(number, 0) != 0 && errno == ESRCH;
+}
+
+void sweepReplacementFiles(const RootFolder& root, const std::string& folder)
+{
+    try {
+        for (const auto& name : root.names(folder)) {
+            const auto process = processOf(name);
+            if (process.empty()) continue;
+            const std::string path = folder.empty() ? name : folder + "/" + name;
+            const auto facts = root.ownFacts(path);
+            if (facts && S_ISREG(facts->st_mode) && isLeftBehind(process, *facts))
+                root.removeFile(path);
+        }
+    } catch (const RunTimeError&) {
+        return; // a folder that may not be read or changed keeps what it has
+    }
 }

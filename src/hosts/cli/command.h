@@ -12,7 +12,8 @@ class Output;
 
 /// What stands before the command on the command line.
 struct GlobalOptions {
-    std::string site; ///< folder of the site; never empty
+    std::string site;       ///< folder of the site; never empty
+    std::string toolFolder; ///< the person's own; empty for that of the site
     bool json = false;
     bool developmentHost = false;
 };

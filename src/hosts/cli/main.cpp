@@ -13,7 +13,7 @@ namespace {
 
 int refuse(const std::string& text, int status)
 {
-    if (!text.empty()) std::fprintf(stderr, "orvandiag: %s\n", text.c_str());
+    if (!text.empty()) std::fprintf(stderr, "orvandiag: %s\n", shownByTerminal(text).c_str());
     return status;
 }
 

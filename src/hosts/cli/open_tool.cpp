@@ -1,11 +1,13 @@
 #include "hosts/cli/open_tool.h"
 
 #include "hosts/cli/interrupt.h"
+#include "hosts/cli/output.h"
 #include "hosts/cli/program.h"
 #include "hosts/common/places.h"
 #include "shell/snapin_definition.h"
 
 #include <cctype>
+#include <cstdio>
 #include <filesystem>
 
 #include <unistd.h>
@@ -16,6 +18,15 @@ namespace {
 
 constexpr int processesPosition = 2;
 
+/// A path as a person types it: a drive's path stays, another one is this machine's own.
+std::string wholePath(const std::string& typed)
+{
+    const bool drive = typed.size() >= 2 && typed[1] == ':' &&
+                       std::isalpha(static_cast<unsigned char>(typed[0])) != 0;
+    if (drive || typed.empty()) return typed;
+    return fs::absolute(typed).lexically_normal().string();
+}
+
 HostFacts hostFacts(const GlobalOptions& options)
 {
     HostFacts facts;
@@ -23,6 +34,10 @@ HostFacts hostFacts(const GlobalOptions& options)
     facts.commandLine = "orvandiag";
     facts.developmentHost = options.developmentHost;
     facts.interrupted = interruptNoted;
+    facts.notice = [](const std::string& text) {
+        std::fprintf(stderr, "orvandiag: %s\n", shownByTerminal(text).c_str());
+    };
+    if (!options.toolFolder.empty()) facts.toolFolder = wholePath(options.toolFolder);
     return facts;
 }
 
@@ -105,12 +120,11 @@ try {
     // What was gathered is not lost for it.
 }
 
-std::string OpenTool::toolPath(const std::string& typed) const
+std::string OpenTool::toolPath(const std::string& typed)
 {
-    const bool drive = typed.size() >= 2 && typed[1] == ':' &&
-                       std::isalpha(static_cast<unsigned char>(typed[0])) != 0;
-    if (drive || typed.empty()) return typed;
-    return fs::absolute(typed).lexically_normal().string();
+    std::string path = wholePath(typed);
+    site_.paths().permit(path);
+    return path;
 }
 
 void OpenTool::requireDatabase()

@@ -57,8 +57,9 @@ public:
     /// Where a path of the tool lies on this machine.
     std::string machinePath(const std::string& path) { return site_.paths().machinePath(path); }
 
-    /// A path as a person types it: a drive's path stays, another one is this machine's own.
-    std::string toolPath(const std::string& typed) const;
+    /// A path as a person types it: a drive's path stays, another one is this machine's own, which
+    /// the tool may reach from then on.
+    std::string toolPath(const std::string& typed);
 
     /// Raises CommandFailure, with the reason, when the tool has no connection to the server's
     /// database.

@@ -7,6 +7,8 @@
 #include <cerrno>
 #include <cstring>
 
+#include <unistd.h>
+
 namespace {
 
 bool isPrintableAscii(char c)
@@ -38,6 +40,19 @@ void appendJsonText(std::string& json, std::string_view text)
     json += '"';
 }
 
+std::string shownByTerminal(std::string_view text)
+{
+    std::string shown(text);
+    for (std::size_t at = 0; at < shown.size(); ++at) {
+        const auto byte = static_cast<unsigned char>(shown[at]);
+        const bool layout = byte == '\n' || byte == '\t';
+        if ((byte < 0x20 && !layout) || byte == 0x7F) shown[at] = '?';
+        const bool second = byte >= 0x80 && byte <= 0x9F && at > 0 && shown[at - 1] == '\xC2';
+        if (second) shown.replace(at - 1, 2, "?"); // U+0080 to U+009F
+    }
+    return shown;
+}
+
 void Output::value(const Json& json)
 {
     line(json.dump(-1, ' ', false, Json::error_handler_t::replace));
@@ -45,6 +60,9 @@ void Output::value(const Json& json)
 
 void Output::text(std::string_view text)
 {
+    static const bool terminal = ::isatty(STDOUT_FILENO) == 1;
+    const std::string safe = terminal ? shownByTerminal(text) : std::string();
+    if (terminal) text = safe;
     if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) failed_ = true;
 }
 
@@ -56,7 +74,7 @@ void Output::line(std::string_view content)
 
 void Output::message(const std::string& text)
 {
-    std::fprintf(stderr, "orvandiag: %s\n", text.c_str());
+    std::fprintf(stderr, "orvandiag: %s\n", shownByTerminal(text).c_str());
 }
 
 void Output::finish()

@@ -14,6 +14,10 @@ using Json = nlohmann::ordered_json;
 /// Cheap for plain ASCII: a log has a hundred thousand texts and more.
 void appendJsonText(std::string& json, std::string_view text);
 
+/// A text that a terminal shows and does not obey: a control character, which a name or a line of a
+/// site may hold, is a question mark. Line ends and tabs stay.
+std::string shownByTerminal(std::string_view text);
+
 /// Where results go: standard output, as text or as JSON.
 class Output {
 public:
@@ -24,7 +28,7 @@ public:
     /// One JSON value and a line end.
     void value(const Json& json);
 
-    /// Text as it is, without a line end of its own.
+    /// Text as it is, or as a terminal shows it where it goes to one, without a line end of its own.
     void text(std::string_view text);
 
     void line(std::string_view text);

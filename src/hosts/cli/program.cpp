@@ -49,6 +49,9 @@ std::unique_ptr<CLI::App> describeCommandLine(GlobalOptions& options,
     app->add_option("--site", options.site,
                     "the site's folder; else $ORVAN_SITE, else the user's data folder")
         ->type_name("DIR");
+    app->add_option("--tool-folder", options.toolFolder,
+                    "the folder of the tool's files, also one of this machine; else the site's")
+        ->type_name("DIR");
     app->add_flag("--json", options.json, "print one JSON value instead of text");
     app->add_flag("--development-host", options.developmentHost,
                   "answer the tool's debug-mode test with true")

@@ -1,5 +1,6 @@
 #include "hosts/cli/terminal_desktop.h"
 
+#include "hosts/cli/output.h"
 #include "runtime/text.h"
 
 #include <cstdio>
@@ -7,7 +8,8 @@
 void TerminalDesktop::messageBox(const std::string& text, const std::string&, MessageIcon icon)
 {
     if (beforeMessage_) beforeMessage_();
-    std::fprintf(stderr, "orvandiag: %s\n", replaceAll(text, lineBreak, "  ").c_str());
+    std::fprintf(stderr, "orvandiag: %s\n",
+                 shownByTerminal(replaceAll(text, lineBreak, "  ")).c_str());
     if (icon == MessageIcon::critical) failures_.push_back(text);
 }
 

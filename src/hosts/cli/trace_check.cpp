@@ -1,19 +1,20 @@
 #include "hosts/cli/trace_check.h"
 
+#include "backends/portable/whole_file.h"
 #include "hosts/cli/output.h"
 #include "platform/database.h"
 #include "traces/trace_bits.h"
 
 #include <algorithm>
 #include <cstdio>
-#include <filesystem>
-#include <fstream>
-
-namespace fs = std::filesystem;
+#include <fcntl.h>
+#include <sstream>
+#include <unistd.h>
 
 namespace {
 
 constexpr std::size_t toldAtMost = 5;
+constexpr const char* eventLog = "eventlogs/Application.jsonl";
 
 std::vector<FlagWords> wordsOf(OpenTool& tool, const std::string& failure)
 try {
@@ -65,9 +66,7 @@ void TraceCheck::expect(TraceExpectation expected)
         std::fprintf(stderr,
                      "orvandiag: a macro trace asks for what this server does not have: %s\n",
                      part.c_str());
-    std::error_code none;
-    const auto size = fs::file_size(eventLogFile(), none);
-    eventsBefore_ = none ? 0 : size;
+    eventsBefore_ = eventLogSize();
     tool_.registry().forget();
     tool_.context().onTrappedError = [this](const RunTimeError& error, std::string_view) {
         if (firstError_.empty()) firstError_ = error.description();
@@ -146,14 +145,27 @@ void TraceCheck::compareEvents(std::vector<std::string>& wrong) const
 std::vector<TraceEvent> TraceCheck::newEvents() const
 {
     std::vector<TraceEvent> events;
-    std::ifstream log(eventLogFile(), std::ios::binary);
-    log.seekg(static_cast<std::streamoff>(eventsBefore_));
+    std::istringstream log(eventLogFrom(eventsBefore_));
     for (std::string line; std::getline(log, line);)
         if (const TraceEvent event = eventOf(line); event.id != 0) events.push_back(event);
     return events;
 }
 
-std::string TraceCheck::eventLogFile() const
-{
-    return tool_.site().folder() + "/eventlogs/Application.jsonl";
+std::int64_t TraceCheck::eventLogSize() const
+try {
+    const auto facts = tool_.site().paths().root().facts(eventLog);
+    return facts ? facts->st_size : 0;
+} catch (const RunTimeError&) {
+    return 0;
+}
+
+/// What stands in the event log from a place on; nothing where it can't be read.
+std::string TraceCheck::eventLogFrom(std::int64_t place) const
+try {
+    const FileDescriptor log =
+        tool_.site().paths().root().openFile(eventLog, O_RDONLY, runTimeErrors::fileNotFound);
+    ::lseek(log.get(), place, SEEK_SET);
+    return readWholeFile(log, runTimeErrors::fileNotFound);
+} catch (const RunTimeError&) {
+    return {};
 }

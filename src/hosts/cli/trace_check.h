@@ -43,12 +43,13 @@ private:
     void compareRecords(std::vector<std::string>& wrong);
     void compareEvents(std::vector<std::string>& wrong) const;
     std::vector<TraceEvent> newEvents() const;
-    std::string eventLogFile() const;
+    std::int64_t eventLogSize() const;
+    std::string eventLogFrom(std::int64_t place) const;
 
     OpenTool& tool_;
     std::vector<FlagWords> present_;
     TraceExpectation expected_;
     std::vector<Level> levels_;
-    std::uintmax_t eventsBefore_ = 0; ///< bytes of the event log before the operation
-    std::string firstError_;          ///< that the operation logged and went on after
+    std::int64_t eventsBefore_ = 0; ///< bytes of the event log before the operation
+    std::string firstError_;        ///< that the operation logged and went on after
 };

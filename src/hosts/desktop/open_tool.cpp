@@ -68,7 +68,14 @@ bool OpenTool::present() const
     return isSite(site_.folder());
 }
 
-std::string OpenTool::toolPath(const std::string& machinePath) const
+std::string OpenTool::toolPath(const std::string& machinePath)
+{
+    std::string path = pathOfTool(machinePath);
+    site_.paths().permit(path);
+    return path;
+}
+
+std::string OpenTool::pathOfTool(const std::string& machinePath) const
 {
     const std::string drives = site_.folder() + "/drive_";
     if (machinePath.compare(0, drives.size(), drives) != 0) return machinePath;

@@ -48,9 +48,12 @@ public:
 
     /// A file that the person picked, as the tool names it: a file of the site's drive by its
     /// drive, another one by its path on the machine.
-    std::string toolPath(const std::string& machinePath) const;
+    /// The tool may reach it from then on.
+    std::string toolPath(const std::string& machinePath);
 
 private:
+    std::string pathOfTool(const std::string& machinePath) const;
+
     SiteUse use_;
     Site site_;
     jet::JetEngine traceDatabases_;

@@ -82,9 +82,9 @@ TEST(SampleGridCatalogue, ExplainsAtLeast25ComponentsWith8To32LevelsInTwoLanguag
 TEST(SampleGridCatalogue, ShowsComponentsWithoutParentheses)
 {
     for (const char* language : {"ENU", "FRA"}) {
-        const XmlFile file(readWholeFile(std::string(ORVAN_DATA_OUTPUT) +
-                                             "/sample/DiagnosticGrids_" + language + ".xml",
-                                         runTimeErrors::fileNotFound));
+        const XmlFile file(readMachineFile(std::string(ORVAN_DATA_OUTPUT) +
+                                               "/sample/DiagnosticGrids_" + language + ".xml",
+                                           runTimeErrors::fileNotFound));
         const auto components = file.document->selectNodes("DiagnosticGrids/*");
         EXPECT_FALSE(components.empty());
         for (const auto& component : components) {
@@ -104,7 +104,7 @@ TEST(SampleMacroTraces, AreInGroupsOfFourOrMoreOverLevelsThatExist)
     const std::string folder = site.path("drive_c/OrvanDiagnostics/ZMKXML");
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
         SCOPED_TRACE(entry.path().filename().string());
-        const XmlFile file(readWholeFile(entry.path(), runTimeErrors::fileNotFound));
+        const XmlFile file(readMachineFile(entry.path(), runTimeErrors::fileNotFound));
         const auto group = file.document->selectSingleNode("GA");
         const std::string name = requiredAttribute(group, "NAME");
         ++filesOfGroup[name];

@@ -133,13 +133,13 @@ TEST(SampleServer, LeavesNothingBehindWhenTheDatabaseRefusesItsRows)
 TEST(SampleServer, DescribesItselfInItsSettingsFile)
 {
     const SampleSite basic(100), extended(100, 1, LogFields::extended);
-    const SiteSettings settings = readSiteSettings(basic.path("site.ini"));
+    const SiteSettings settings = readSiteSettings(RootFolder(basic.path("")));
     EXPECT_EQ("VOICE01", settings.computer);
     EXPECT_EQ("PST8PDT,M3.2.0,M11.1.0", settings.timeZone);
     EXPECT_EQ(1033, settings.language);
     EXPECT_EQ("C:\\OrvanDiagnostics", settings.toolFolder);
     EXPECT_EQ(LogFields::basic, settings.logFields);
-    EXPECT_EQ(LogFields::extended, readSiteSettings(extended.path("site.ini")).logFields);
+    EXPECT_EQ(LogFields::extended, readSiteSettings(RootFolder(extended.path(""))).logFields);
 }
 
 TEST(SampleServer, OpensAsASiteWhoseRegistryNamesTheCurrentLogs)

@@ -24,14 +24,18 @@ public:
 
 class SiteEventsTest : public testing::Test {
 protected:
-    SiteEventsTest() { folder.makeFolder("drive_c"); }
+    SiteEventsTest()
+    {
+        folder.makeFolder("drive_c");
+        paths.permit(folder.path());
+    }
 
     const std::string header{eventLogCsvHeader};
     TemporaryFolder folder;
     FixedClock clock;
     SitePaths paths{folder.path()};
-    SiteEventReporter reporter{folder / "eventlogs", "VOICE01", LogFields::basic, clock};
-    SiteEventLogExporter exporter{folder / "eventlogs", paths};
+    SiteEventReporter reporter{RootFolder(folder.path()), "VOICE01", LogFields::basic, clock};
+    SiteEventLogExporter exporter{paths};
 };
 
 TEST_F(SiteEventsTest, AnEventIsALineOfTheApplicationLog)
@@ -70,7 +74,7 @@ TEST_F(SiteEventsTest, AnEventBeginsALineOfItsOwn)
 TEST_F(SiteEventsTest, EventsOfTwoProgramsDoNotMix)
 {
     const auto report = [&](const std::string& source) {
-        SiteEventReporter own(folder / "eventlogs", "C", LogFields::basic, clock);
+        SiteEventReporter own(RootFolder(folder.path()), "C", LogFields::basic, clock);
         for (int i = 0; i < 200; ++i) own.report(source, 1, 0, i, {std::string(300, 'x')});
     };
     std::thread first([&] { report("a"); });
@@ -92,8 +96,15 @@ TEST_F(SiteEventsTest, ReportingRaisesWhatStandsInTheWay)
     folder.makeFolder("eventlogs/Application.jsonl");
     EXPECT_EQ(70, errorOf([&] { reporter.report("s", 1, 0, 1, {}); }));
     fs::remove(folder / "eventlogs/Application.jsonl");
-    fs::create_symlink("/dev/full", folder / "eventlogs/Application.jsonl");
-    EXPECT_EQ(61, errorOf([&] { reporter.report("s", 1, 0, 1, {}); }));
+    const auto other = folder.write("other", "x");
+    for (const char* target : {"/dev/full", "../other", other.c_str()}) {
+        fs::create_symlink(target, folder / "eventlogs/Application.jsonl");
+        EXPECT_EQ(70, errorOf([&] { reporter.report("s", 1, 0, 1, {}); })) << target;
+        fs::remove(folder / "eventlogs/Application.jsonl");
+    }
+    EXPECT_EQ("x", folder.read("other"));
+    ASSERT_EQ(0, ::mkfifo((folder / "eventlogs/Application.jsonl").c_str(), 0666));
+    EXPECT_EQ(70, errorOf([&] { reporter.report("s", 1, 0, 1, {}); })) << "at once";
 }
 
 TEST_F(SiteEventsTest, FormatsOrRaises5)

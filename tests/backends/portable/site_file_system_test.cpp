@@ -17,7 +17,11 @@ using testing::IsEmpty;
 
 class SiteFileSystemTest : public testing::Test {
 protected:
-    SiteFileSystemTest() { folder.makeFolder("drive_c"); }
+    SiteFileSystemTest()
+    {
+        folder.makeFolder("drive_c");
+        paths.permit(folder.path());
+    }
 
     std::string put(const std::string& name, const std::string& bytes = "") const
     {
@@ -142,6 +146,16 @@ TEST_F(SiteFileSystemTest, ListsNothingThatNoPathReaches)
     EXPECT_EQ("secret", outside.read("secret.txt"));
 }
 
+TEST_F(SiteFileSystemTest, RemovesNothingThroughALink)
+{
+    put("other/keep.LOG");
+    fs::create_symlink("other", folder / "drive_c/LOGS");
+
+    EXPECT_EQ(70, errorOf([&] { files.deleteFile("C:\\LOGS\\keep.LOG"); }));
+    EXPECT_NE(0, errorOf([&] { files.removeFolder("C:\\LOGS"); }));
+    EXPECT_TRUE(folder.exists("drive_c/other/keep.LOG"));
+}
+
 TEST_F(SiteFileSystemTest, FindsPlainFilesByPattern)
 {
     put("xml/ht1.XML");
@@ -193,9 +207,10 @@ TEST_F(SiteFileSystemTest, RemovesNothingButAnEmptyFolder)
 {
     const TemporaryFolder outside;
     outside.makeFolder("empty");
+    paths.permit(outside.path());
     put("a/b/c.txt");
     put("file");
-    fs::create_directory_symlink(outside / "empty", outside / "link");
+    fs::create_directory_symlink("empty", outside / "link");
 
     EXPECT_EQ(70, errorOf([&] { files.removeFolder("C:\\A"); }));
     EXPECT_EQ(76, errorOf([&] { files.removeFolder(outside / "link"); }));
@@ -279,6 +294,10 @@ TEST_F(SiteFileSystemTest, CopiesBetweenSiteAndMachine)
 {
     put("empty.txt");
     const TemporaryFolder other;
+    EXPECT_EQ(70, errorOf([&] { files.copyFile("C:\\empty.txt", other / "copy.txt"); }));
+    EXPECT_FALSE(other.exists("copy.txt"));
+    paths.permit(other.path());
+    paths.permit("/proc/self/status");
 
     files.copyFile("C:\\empty.txt", other / "copy.txt");
     files.copyFile("/proc/self/status", "C:\\status.txt");
@@ -343,6 +362,11 @@ TEST_F(SiteFileSystemTest, OpensStreams)
     EXPECT_EQ(76, errorOf([&] { files.createTextFile("C:\\none\\a.txt"); }));
     EXPECT_EQ(76, errorOf([&] { files.openForAppending("C:\\none\\a.txt"); }));
     EXPECT_EQ(70, errorOf([&] { files.openForReading("C:\\"); }));
+    EXPECT_EQ(70, errorOf([&] { files.openForAppending("C:\\"); }));
+    fs::permissions(folder / "drive_c/b.txt", fs::perms::owner_read);
+    EXPECT_EQ(70, errorOf([&] { files.openForAppending("C:\\b.txt"); }));
+    EXPECT_EQ(70, errorOf([&] { files.createTextFile("C:\\b.txt"); }));
+    EXPECT_EQ("three\r\n", folder.read("drive_c/b.txt"));
 }
 
 TEST_F(SiteFileSystemTest, RefusesNamesThatAreNone)

@@ -64,7 +64,12 @@ TEST_F(SitePathsTest, MapsDrivesToFoldersOfTheSite)
 
 TEST_F(SitePathsTest, APathThatBeginsWithASlashIsTheMachinesOwn)
 {
-    EXPECT_EQ("/", paths.machinePath("/"));
+    EXPECT_EQ(70, errorOf([&] { paths.machinePath(folder / "drive_d/data.txt"); }))
+        << "unless a person named it, as a site's own registry may name it too";
+    paths.permit(folder.path());
+    EXPECT_EQ(70, errorOf([&] { paths.machinePath("/"); }));
+    EXPECT_EQ(70, errorOf([&] { paths.machinePath(folder.path() + "/../x"); }));
+    EXPECT_EQ(70, errorOf([&] { paths.machinePath(folder.path() + "x"); }));
     EXPECT_EQ(folder / "drive_d/data.txt", paths.machinePath(folder / "drive_d\\DATA.txt"));
     EXPECT_EQ(folder / "no such/place", paths.machinePath(folder / "no such/place"));
 }
@@ -96,10 +101,12 @@ TEST_F(SitePathsTest, RefusesWhatIsNoPath)
 TEST_F(SitePathsTest, ALinkWithinADriveIsFollowed)
 {
     fs::create_symlink("Program Files/Orvan", folder / "drive_c/short");
-    fs::create_symlink(folder / "drive_c/Program Files", folder / "drive_c/whole");
+    fs::create_symlink("../drive_c/Program Files", folder / "drive_c/round");
+    fs::create_symlink("./Program Files/../Program Files", folder / "drive_c/whole");
 
     EXPECT_EQ("/drive_c/Program Files/Orvan/Read Me.txt", onSite("C:\\short\\read me.txt"));
     EXPECT_EQ("/drive_c/Program Files/Orvan", onSite("C:\\WHOLE\\orvan"));
+    EXPECT_EQ(70, errorOf([&] { paths.machinePath("C:\\round"); })) << "out of the drive and in";
 }
 
 TEST_F(SitePathsTest, ALinkOutOfItsDriveIsRefused)
@@ -109,36 +116,54 @@ TEST_F(SitePathsTest, ALinkOutOfItsDriveIsRefused)
     fs::create_symlink(outside.path(), folder / "drive_c/out");
     fs::create_symlink(outside / "secret.txt", folder / "drive_c/file");
     fs::create_symlink("../drive_d", folder / "drive_c/other");
+    fs::create_symlink(folder / "drive_c/Program Files", folder / "drive_c/absolute");
     fs::create_symlink(outside / "not yet", folder / "drive_c/dangling");
     fs::create_symlink("loop", folder / "drive_c/loop");
     fs::create_symlink(folder / "drive_c2", folder / "drive_c/prefix");
     folder.makeFolder("drive_c2");
 
-    for (const char* path : {"C:\\out", "C:\\out\\secret.txt", "C:\\OUT\\new.txt", "C:\\file",
-                             "C:\\other\\data.txt", "C:\\dangling", "C:\\loop", "C:\\prefix"})
+    for (const char* path :
+         {"C:\\out", "C:\\out\\secret.txt", "C:\\OUT\\new.txt", "C:\\file", "C:\\other\\data.txt",
+          "C:\\dangling", "C:\\loop", "C:\\prefix", "C:\\absolute"})
         EXPECT_EQ(70, errorOf([&] { paths.machinePath(path); })) << path;
     EXPECT_THAT(errorTextOf([&] { paths.machinePath("C:\\file"); }),
                 testing::EndsWith("drive_c/file leads out of the site"));
 }
 
-TEST_F(SitePathsTest, ADriveItselfMayBeALink)
+TEST_F(SitePathsTest, ADriveItselfMayBeALinkWithinTheSite)
 {
     const TemporaryFolder disk;
     disk.write("logs/a.txt");
-    fs::create_directory_symlink(disk.path(), folder / "drive_f");
-    fs::create_symlink("logs", disk / "link");
+    folder.write("disks/one/logs/a.txt");
+    fs::create_directory_symlink("disks/one", folder / "drive_f");
+    fs::create_directory_symlink(disk.path(), folder / "drive_g");
 
-    EXPECT_EQ("/drive_f/logs/a.txt", onSite("F:\\LOGS\\a.txt"));
-    EXPECT_EQ(disk / "logs/a.txt", paths.machinePath("F:\\link\\a.txt"));
+    EXPECT_THAT(onSite("F:\\LOGS\\a.txt"), testing::EndsWith("/logs/a.txt"));
+    EXPECT_EQ(70, errorOf([&] { paths.machinePath("G:\\logs\\a.txt"); }));
+    EXPECT_EQ(70, errorOf([&] { paths.place("G:\\"); }));
+    EXPECT_EQ(68, errorOf([&] { paths.changeDrive("G:"); }));
 }
 
-TEST_F(SitePathsTest, AMachinePathFollowsItsLinksAnywhere)
+TEST_F(SitePathsTest, AMachinePathFollowsLinksAsFarAsThePersonNamedIt)
 {
     const TemporaryFolder outside;
     outside.write("a.txt");
     fs::create_symlink(outside.path(), folder / "link");
+    fs::create_symlink("/etc", outside / "away");
 
+    EXPECT_EQ(70, errorOf([&] { paths.machinePath(folder / "link/A.TXT"); }));
+    paths.permit(folder / "link");
     EXPECT_EQ(folder / "link/a.txt", paths.machinePath(folder / "link/A.TXT"));
+    EXPECT_EQ(70, errorOf([&] { paths.machinePath(folder / "link/away/passwd"); }));
+}
+
+TEST_F(SitePathsTest, ASiteThatIsMovedAwayIsThereNoMoreUntilItComesBack)
+{
+    const TemporaryFolder other;
+    fs::rename(folder.path(), other / "away");
+    EXPECT_EQ(76, errorOf([&] { paths.place("C:\\Program Files"); }));
+    fs::rename(other / "away", folder.path());
+    EXPECT_EQ("/drive_c/Program Files", onSite("C:\\Program Files"));
 }
 
 TEST_F(SitePathsTest, EachDriveHasItsCurrentFolder)
@@ -162,6 +187,7 @@ TEST_F(SitePathsTest, EachDriveHasItsCurrentFolder)
 TEST_F(SitePathsTest, AFolderOfTheMachineCanBeCurrent)
 {
     const auto result = folder.makeFolder("result");
+    paths.permit(result);
 
     paths.changeDrive("");
     paths.changeFolder(result);
@@ -180,6 +206,8 @@ TEST_F(SitePathsTest, AFailedChangeLeavesTheCurrentFolder)
     EXPECT_EQ(68, errorOf([&] { paths.changeDrive("?"); }));
     EXPECT_EQ(76, errorOf([&] { paths.changeFolder("C:\\none"); }));
     EXPECT_EQ(76, errorOf([&] { paths.changeFolder("Orvan\\Read Me.txt"); }));
+    EXPECT_EQ(70, errorOf([&] { paths.changeFolder("/no/such/folder"); }));
+    paths.permit("/no/such");
     EXPECT_EQ(76, errorOf([&] { paths.changeFolder("/no/such/folder"); }));
     EXPECT_EQ(folder / "drive_c/Program Files", paths.currentFolder());
 }

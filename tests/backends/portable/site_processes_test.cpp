@@ -13,7 +13,11 @@ namespace fs = std::filesystem;
 
 class SiteProcessesTest : public testing::Test {
 protected:
-    SiteProcessesTest() { folder.makeFolder("drive_c/My Tools"); }
+    SiteProcessesTest()
+    {
+        folder.makeFolder("drive_c/My Tools");
+        paths.permit(folder.path());
+    }
 
     /// Makes a program of a shell script, and gives its path.
     std::string put(const std::string& name, const std::string& script)

@@ -4,8 +4,12 @@
 
 #include <gmock/gmock.h>
 
+#include <chrono>
 #include <csignal>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <thread>
 
 namespace {
@@ -47,7 +51,7 @@ protected:
     }
 
     TemporaryFolder folder;
-    SiteRegistry registry{folder / "registry.reg"};
+    SiteRegistry registry{RootFolder(folder.path())};
 };
 
 TEST_F(SiteRegistryTest, AMissingFileIsAnEmptyRegistry)
@@ -143,7 +147,7 @@ TEST_F(SiteRegistryTest, KeepsWhatItDoesNotTouch)
 TEST_F(SiteRegistryTest, SeesWhatOthersWrite)
 {
     registry.createKey(HKEY_LOCAL_MACHINE, path);
-    SiteRegistry other(folder / "registry.reg");
+    SiteRegistry other{RootFolder(folder.path())};
 
     for (std::uint8_t round = 1; round < 15; ++round) {
         ASSERT_TRUE(other.setValue(HKEY_LOCAL_MACHINE, path, "theirs", number(round)));
@@ -159,7 +163,7 @@ TEST_F(SiteRegistryTest, TwoWritersLoseNothing)
 {
     registry.createKey(HKEY_LOCAL_MACHINE, path);
     const auto write = [&](const std::string& name) {
-        SiteRegistry own(folder / "registry.reg");
+        SiteRegistry own{RootFolder(folder.path())};
         for (std::uint8_t i = 0; i < 20; ++i)
             own.setValue(HKEY_LOCAL_MACHINE, path, name + std::to_string(i), number(i));
     };
@@ -232,9 +236,47 @@ TEST_F(SiteRegistryTest, KeepsTheFilesMode)
     EXPECT_EQ(mode, fs::status(folder / "registry.reg").permissions());
 }
 
+TEST_F(SiteRegistryTest, RefusesWhatIsNoPlainFileAtOnce)
+{
+    ASSERT_EQ(0, ::mkfifo((folder / "registry.reg").c_str(), 0666));
+    EXPECT_THAT(errorTextOf([&] { registry.keyExists(HKEY_LOCAL_MACHINE, path); }),
+                testing::EndsWith("registry.reg is no plain file"));
+    fs::remove(folder / "registry.reg");
+    const TemporaryFolder outside;
+    fs::create_symlink(outside.write("a.reg", "x"), folder / "registry.reg");
+    EXPECT_EQ(70, errorOf([&] { registry.keyExists(HKEY_LOCAL_MACHINE, path); }));
+    fs::remove(folder / "registry.reg");
+    fs::create_symlink(outside / "lock", folder / "registry.reg.lock");
+    EXPECT_EQ(70, errorOf([&] { registry.createKey(HKEY_LOCAL_MACHINE, path); }));
+    fs::remove(folder / "registry.reg.lock");
+    ASSERT_EQ(0, ::mkfifo((folder / "registry.reg.lock").c_str(), 0666));
+    EXPECT_EQ(70, errorOf([&] { registry.createKey(HKEY_LOCAL_MACHINE, path); }));
+    EXPECT_FALSE(outside.exists("lock"));
+    EXPECT_EQ("x", outside.read("a.reg"));
+}
+
+TEST_F(SiteRegistryTest, AWaitForTheLockIsToldAndEnds)
+{
+    using namespace std::chrono;
+    std::string told;
+    SiteRegistry waiting(
+        RootFolder(folder.path()), [&](const std::string& text) { told += text; },
+        milliseconds(1500));
+    const int lock = ::open((folder / "registry.reg.lock").c_str(), O_RDWR | O_CREAT, 0666);
+    ASSERT_EQ(0, ::flock(lock, LOCK_EX));
+    const auto start = steady_clock::now();
+    EXPECT_THAT(errorTextOf([&] { waiting.createKey(HKEY_LOCAL_MACHINE, path); }),
+                testing::EndsWith("registry.reg and did not let go in time"));
+    EXPECT_EQ("waiting for another program that holds " + (folder / "registry.reg"), told);
+    EXPECT_LT(steady_clock::now() - start, seconds(8));
+    ::close(lock);
+    EXPECT_EQ(false, waiting.createKey(HKEY_LOCAL_MACHINE, path));
+}
+
 TEST_F(SiteRegistryTest, RaisesWhereTheSiteIsGone)
 {
-    SiteRegistry gone(folder / "none/registry.reg");
+    SiteRegistry gone{RootFolder(folder.makeFolder("none"))};
+    fs::remove(folder / "none");
 
     EXPECT_FALSE(gone.keyExists(HKEY_LOCAL_MACHINE, path));
     EXPECT_EQ(76, errorOf([&] { gone.createKey(HKEY_LOCAL_MACHINE, path); }));

@@ -26,7 +26,7 @@ TEST(SiteSettings, AMissingFileGivesTheDefaults)
 {
     const TemporaryFolder folder;
 
-    EXPECT_EQ(SiteSettings{}, readSiteSettings(folder / "site.ini"));
+    EXPECT_EQ(SiteSettings{}, readSiteSettings(RootFolder(folder.path())));
 }
 
 TEST(SiteSettings, ReadsEveryKey)
@@ -42,7 +42,7 @@ TEST(SiteSettings, ReadsEveryKey)
                                                "toolFolder = D:\\Tools\\Diag\\\r\n"
                                                "logFields = extended\r\n");
 
-    const auto settings = readSiteSettings(path);
+    const auto settings = readSiteSettings(RootFolder(folder.path()));
 
     EXPECT_EQ("VOICE01", settings.computer);
     EXPECT_EQ("Jürgen", settings.user);
@@ -67,7 +67,7 @@ TEST(SiteSettings, ReadsLinesAsTheyAreMeant)
         {"quotes around a value are layout", "[site]\ncomputer=\" a \"", " a "},
         {"a key with nothing behind it is left out", "[site]\ncomputer=", std::nullopt},
         {"only the first equals sign counts", "[site]\ncomputer=a=b", "a=b"},
-        {"a comment has its line to itself", "[site]\n# x\n  ; y\ncomputer=a ; b", "a ; b"},
+        {"a comment has its line to itself", "[site]\n# x\n  ; y\ncomputer=a # b", "a # b"},
         {"other sections are other programs'", "[backup]\nmode=1\nnonsense\n[site]\ncomputer=a",
          "a"},
         {"a section may come in two pieces", "[site]\nuser=u\n[x]\n[site]\ncomputer=a", "a"},
@@ -99,6 +99,25 @@ TEST(SiteSettings, RefusesDamageWithTheNumberOfItsLine)
         {"a language past sixteen bits", "language=65536"},
         {"a relative tool folder", "toolFolder=Tools"},
         {"a drive's root as tool folder", "toolFolder=C:\\"},
+        {"a tool folder of the machine", "toolFolder=/usr/lib"},
+        {"a tool folder that climbs", "toolFolder=C:\\a\\..\\..\\b"},
+        {"a tool folder that ends a command", "toolFolder=C:\\a\";b"},
+        {"a computer that is a path", "computer=a/b"},
+        {"a computer that climbs", "computer=.."},
+        {"a computer with a backslash", "computer=a\\b"},
+        {"a computer with a pattern", "computer=a*"},
+        {"a computer that ends a directive", "computer=a;b"},
+        {"a computer with a quote", "computer=a\"b"},
+        {"a computer with a small quote", "computer=a'b"},
+        {"a computer with a variable", "computer=%PATH%"},
+        {"a computer with an escape", "computer=a\x1b[2Jb"},
+        {"a computer with a line end of another script", "computer=a\xE2\x80\xA8"
+                                                         "b"},
+        {"a computer with a control character of another set", "computer=a\xC2\x9B"
+                                                               "b"},
+        {"a computer that is read backwards", "computer=a\xE2\x80\xAE"
+                                              "b"},
+        {"a computer with a tab", "computer=a\tb"},
         {"a form of log lines that is none", "logFields=full"},
         {"a single-byte code page", "computer=caf\xE9"},
         {"a zero byte", std::string("computer=a\0b", 12)},
@@ -113,6 +132,15 @@ TEST(SiteSettings, RefusesDamageWithTheNumberOfItsLine)
               errorTextOf([] { parseSiteSettings("computer=a"); }));
     EXPECT_EQ("site.ini line 2: unknown key \"compter\"",
               errorTextOf([] { parseSiteSettings("[site]\ncompter=a"); }));
+}
+
+TEST(SiteSettings, TakesTheNamesOfRealServers)
+{
+    for (const char* name : {"VOICE01", "voice-01.office.example", "Sprachbox Größe", "音声サーバ",
+                             "ГОЛОС_1", "VOICE01$", "a.b", "\xC3\x90"})
+        EXPECT_EQ(name, parseSiteSettings(std::string("[site]\ncomputer=") + name).computer);
+    for (const char* name : {"maria", "OFFICE\\maria", "josé de la cruz", "svc_orvan$"})
+        EXPECT_EQ(name, parseSiteSettings(std::string("[site]\nuser=") + name).user);
 }
 
 TEST(SiteSettings, AnswersAnyBytesWithSettingsOrARefusal)

@@ -7,6 +7,10 @@
 
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -167,12 +171,94 @@ TEST_F(SiteTest, OpensWithoutInstalledData)
     EXPECT_TRUE(folder.exists("drive_c/OrvanDiagnostics"));
 }
 
-TEST_F(SiteTest, ATailoredToolFolderOfTheMachineServesToo)
+/// The number of a process that has ended.
+std::string endedProcess()
 {
-    folder.write("site.ini", "[site]\ntoolFolder = " + (folder / "tools") + "\n");
-    Site site(folder.path(), data.path(), hostFacts());
+    const pid_t process = ::fork();
+    if (process == 0) ::_exit(0);
+    ::waitpid(process, nullptr, 0);
+    return std::to_string(process);
+}
 
-    EXPECT_TRUE(folder.exists("tools/blankWPNDB.mdb"));
+TEST_F(SiteTest, WhatKilledProgramsLeftIsSweptAtTheNextStart)
+{
+    const TemporaryFolder outside;
+    outside.write("keep/file");
+    const std::string tool = "drive_c/OrvanDiagnostics/";
+    const std::string ended = endedProcess();
+    const std::string alive = std::to_string(::getppid());
+    folder.write(".new-" + ended + "-123", "half");
+    folder.write(tool + ".new-" + ended + "-1", "half");
+    folder.write(tool + "help.new-" + ended + "/index.html", "half");
+    folder.write(".new-" + alive + "-1", "an hour old");
+    fs::last_write_time(folder / (".new-" + alive + "-1"),
+                        fs::file_time_type::clock::now() - std::chrono::minutes(61));
+    const std::vector<std::string> kept = {".new-" + alive + "-2",
+                                           ".new-" + ended,
+                                           ".new-" + ended + "-x",
+                                           ".new-x-1",
+                                           "x.new-" + ended + "-1",
+                                           tool + "own.new-" + ended + "/file",
+                                           tool + "help.new-" + alive + "/file",
+                                           tool + "help.new-" + ended + "x/file"};
+    for (const auto& name : kept) folder.write(name, "keep");
+    fs::create_directory_symlink(outside / "keep", folder / (tool + "ZMKXML.new-" + ended));
+    fs::create_symlink(outside / "keep/file", folder / (".new-" + ended + "-7"));
+
+    Site(folder.path(), data.path(), hostFacts(), SiteUse::look);
+    EXPECT_TRUE(folder.exists(".new-" + ended + "-123")) << "a look changes nothing";
+    Site(folder.path(), data.path(), hostFacts());
+
+    EXPECT_FALSE(folder.exists(".new-" + ended + "-123"));
+    EXPECT_FALSE(folder.exists(tool + ".new-" + ended + "-1"));
+    EXPECT_FALSE(folder.exists(tool + "help.new-" + ended));
+    EXPECT_FALSE(folder.exists(".new-" + alive + "-1"));
+    for (const auto& name : kept) EXPECT_TRUE(folder.exists(name)) << name;
+    EXPECT_TRUE(outside.exists("keep/file"));
+}
+
+TEST_F(SiteTest, ADriveOrADatabaseThatLeadsOutIsRefused)
+{
+    const TemporaryFolder outside;
+    outside.write("db");
+    outside.makeFolder("drive");
+    folder.write("site.ini", "[site]\n");
+    Site site(folder.path(), data.path(), hostFacts());
+    FakeDesktop desktop;
+    FakeTraceDatabaseEngine traceDatabases;
+    auto& database = site.platform(desktop, traceDatabases).connection;
+    for (const char* name : {"OrvanDirDb.sqlite", "OrvanDirDb.sqlite-journal",
+                             "OrvanDirDb.sqlite-wal", "OrvanDirDb.sqlite-shm"}) {
+        folder.write("OrvanDirDb.sqlite");
+        fs::remove(folder / name);
+        fs::create_symlink(outside / "db", folder / name);
+        EXPECT_THAT(errorTextOf([&] { database.open("", "", ""); }),
+                    testing::HasSubstr(std::string(name) + " is no plain file"));
+        fs::remove(folder / name);
+        ASSERT_EQ(0, ::mkfifo((folder / name).c_str(), 0666));
+        EXPECT_THAT(errorTextOf([&] { database.open("", "", ""); }),
+                    testing::HasSubstr(std::string(name) + " is no plain file"));
+        fs::remove(folder / name);
+    }
+    fs::remove_all(folder / "drive_c");
+    fs::create_directory_symlink(outside / "drive", folder / "drive_c");
+    EXPECT_THAT(openError(folder.path()), testing::EndsWith("drive_c leads out of the site"));
+    EXPECT_TRUE(fs::is_empty(outside / "drive"));
+}
+
+TEST_F(SiteTest, AToolFolderOfTheMachineServesWhereThePersonNamesIt)
+{
+    const TemporaryFolder machine;
+    folder.write("site.ini", "[site]\ntoolFolder = " + (machine / "tools") + "\n");
+    EXPECT_THAT(openError(folder.path()), testing::StartsWith("site.ini line 2: toolFolder is no"));
+    EXPECT_FALSE(machine.exists("tools"));
+    folder.write("site.ini", "[site]\ntoolFolder = C:\\Own\n");
+    HostFacts facts = hostFacts();
+    facts.toolFolder = machine / "tools";
+    Site site(folder.path(), data.path(), facts);
+
+    EXPECT_TRUE(machine.exists("tools/blankWPNDB.mdb"));
+    EXPECT_FALSE(folder.exists("drive_c/Own"));
 }
 
 TEST_F(SiteTest, GivesItsSettingsToItsServices)

@@ -5,16 +5,25 @@
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <random>
 #include <vector>
 
 namespace {
 
-using Mode = SiteTextWriter::Mode;
+FileDescriptor toRead(const std::string& path)
+{
+    return FileDescriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+}
+
+FileDescriptor toWrite(const std::string& path, int flags = O_TRUNC)
+{
+    return FileDescriptor(::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | flags, 0666));
+}
 
 std::vector<std::string> linesOf(const std::string& path)
 {
-    SiteTextReader reader(path);
+    SiteTextReader reader(toRead(path));
     std::vector<std::string> lines;
     while (!reader.atEnd()) lines.emplace_back(reader.readLine());
     return lines;
@@ -70,7 +79,7 @@ TEST(SiteTextReader, PassesOverALineThatIsTooLong)
     const std::string longest(64U << 20, 'x');
     const auto path =
         folder.write("a.txt", "a\n" + longest + "\n" + longest + "x\nb\n" + longest + "y");
-    SiteTextReader reader(path);
+    SiteTextReader reader(toRead(path));
 
     EXPECT_EQ("a", reader.readLine());
     EXPECT_EQ(longest.size(), reader.readLine().size());
@@ -83,7 +92,7 @@ TEST(SiteTextReader, PassesOverALineThatIsTooLong)
 TEST(SiteTextReader, Raises62AtTheEnd)
 {
     const TemporaryFolder folder;
-    SiteTextReader reader(folder.write("a.txt", "a"));
+    SiteTextReader reader(toRead(folder.write("a.txt", "a")));
     reader.readLine();
 
     EXPECT_EQ(62, errorOf([&] { reader.readLine(); }));
@@ -94,7 +103,7 @@ TEST(SiteTextReader, ReadsAllFromHereToTheEnd)
 {
     const TemporaryFolder folder;
     const std::string rest(1'000'000, 'r');
-    SiteTextReader reader(folder.write("a.txt", "a\r\nb\r\n" + rest));
+    SiteTextReader reader(toRead(folder.write("a.txt", "a\r\nb\r\n" + rest)));
     reader.readLine();
 
     EXPECT_EQ("b\r\n" + rest, reader.readAll());
@@ -105,7 +114,7 @@ TEST(SiteTextReader, SeesWhatIsAppendedAndSurvivesWhatIsCutOff)
 {
     const TemporaryFolder folder;
     const auto path = folder.write("a.txt", "a\n");
-    SiteTextReader reader(path);
+    SiteTextReader reader(toRead(path));
     EXPECT_EQ("a", reader.readLine());
     EXPECT_TRUE(reader.atEnd());
 
@@ -118,13 +127,9 @@ TEST(SiteTextReader, SeesWhatIsAppendedAndSurvivesWhatIsCutOff)
     EXPECT_TRUE(reader.atEnd());
 }
 
-TEST(SiteTextReader, TellsWhyAFileDoesNotOpenOrRead)
+TEST(SiteTextReader, TellsWhyAFileDoesNotRead)
 {
-    const TemporaryFolder folder;
-
-    EXPECT_EQ(53, errorOf([&] { SiteTextReader(folder / "none"); }));
-    EXPECT_EQ(70, errorOf([&] { SiteTextReader(folder.path()); }));
-    SiteTextReader broken("/proc/self/mem"); // reading its first page fails
+    SiteTextReader broken(toRead("/proc/self/mem")); // reading its first page fails
     EXPECT_EQ(57, errorOf([&] { broken.readLine(); }));
     EXPECT_EQ(57, errorOf([&] { broken.atEnd(); }));
 }
@@ -132,7 +137,7 @@ TEST(SiteTextReader, TellsWhyAFileDoesNotOpenOrRead)
 TEST(SiteTextReader, Raises91OnceClosed)
 {
     const TemporaryFolder folder;
-    SiteTextReader reader(folder.write("a.txt", "a\nb\n"));
+    SiteTextReader reader(toRead(folder.write("a.txt", "a\nb\n")));
     reader.readLine();
     reader.close();
     reader.close();
@@ -146,7 +151,7 @@ TEST(SiteTextWriter, WritesBytesAsTheyAreAndLinesWithTheirEnds)
 {
     const TemporaryFolder folder;
     const auto path = folder.write("a.txt", "old and longer");
-    SiteTextWriter writer(path, Mode::create);
+    SiteTextWriter writer(toWrite(path));
     writer.write(std::string("a\0\xE9\n", 4));
     writer.writeLine("line");
     writer.writeLine("");
@@ -158,8 +163,8 @@ TEST(SiteTextWriter, WritesBytesAsTheyAreAndLinesWithTheirEnds)
 TEST(SiteTextWriter, AppendsAndMakesTheFile)
 {
     const TemporaryFolder folder;
-    SiteTextWriter(folder / "a.txt", Mode::append).writeLine("one");
-    SiteTextWriter(folder / "a.txt", Mode::append).writeLine("two");
+    SiteTextWriter(toWrite(folder / "a.txt", O_APPEND)).writeLine("one");
+    SiteTextWriter(toWrite(folder / "a.txt", O_APPEND)).writeLine("two");
 
     EXPECT_EQ("one\r\ntwo\r\n", folder.read("a.txt")) << "the end of the object closes the file";
 }
@@ -167,7 +172,7 @@ TEST(SiteTextWriter, AppendsAndMakesTheFile)
 TEST(SiteTextWriter, ShowsOthersWhatWasFlushed)
 {
     const TemporaryFolder folder;
-    SiteTextWriter writer(folder / "a.txt", Mode::create);
+    SiteTextWriter writer(toWrite(folder / "a.txt"));
     writer.writeLine("one");
     writer.flush();
 
@@ -179,7 +184,7 @@ TEST(SiteTextWriter, WritesAnyAmount)
     const TemporaryFolder folder;
     std::string expected;
     {
-        SiteTextWriter writer(folder / "a.txt", Mode::create);
+        SiteTextWriter writer(toWrite(folder / "a.txt"));
         for (int i = 0; i < 100; ++i) {
             const std::string text(static_cast<std::size_t>(i) * 7001,
                                    static_cast<char>('a' + i % 26));
@@ -194,33 +199,21 @@ TEST(SiteTextWriter, Raises61WhenTheDiskIsFull)
 {
     const std::string large(300'000, 'x');
     {
-        SiteTextWriter writer("/dev/full", Mode::append);
+        SiteTextWriter writer(toWrite("/dev/full"));
         writer.write("buffered");
         EXPECT_EQ(61, errorOf([&] { writer.flush(); }));
         EXPECT_EQ(61, errorOf([&] { writer.close(); }));
     }
-    SiteTextWriter writer("/dev/full", Mode::append);
+    SiteTextWriter writer(toWrite("/dev/full", O_APPEND));
     EXPECT_EQ(61, errorOf([&] { writer.write(large); }));
     EXPECT_EQ(61, errorOf([&] { writer.writeLine(large); }));
     writer.close();
 }
 
-TEST(SiteTextWriter, TellsWhyAFileDoesNotOpen)
-{
-    const TemporaryFolder folder;
-    const auto readOnly = folder.write("a.txt");
-    std::filesystem::permissions(readOnly, std::filesystem::perms::owner_read);
-
-    EXPECT_EQ(76, errorOf([&] { SiteTextWriter(folder / "none/a.txt", Mode::create); }));
-    EXPECT_EQ(70, errorOf([&] { SiteTextWriter(folder.path(), Mode::append); }));
-    EXPECT_EQ(70, errorOf([&] { SiteTextWriter(readOnly, Mode::append); }));
-    EXPECT_EQ(70, errorOf([&] { SiteTextWriter(readOnly, Mode::create); }));
-}
-
 TEST(SiteTextWriter, Raises91OnceClosed)
 {
     const TemporaryFolder folder;
-    SiteTextWriter writer(folder / "a.txt", Mode::create);
+    SiteTextWriter writer(toWrite(folder / "a.txt"));
     writer.close();
     writer.close();
 

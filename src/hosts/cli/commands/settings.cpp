@@ -91,6 +91,9 @@ public:
     {
         if (folder_->count() > 0 && trim(logFolder_).empty())
             throw UsageError("settings --log-folder needs a folder");
+        if (logFolder_.rfind('/', 0) == 0)
+            throw UsageError("settings --log-folder takes a folder on a drive of the server, such "
+                             "as D:\\OrvanLogs");
         const bool changes = megabytes_->count() > 0 || folder_->count() > 0;
         OpenTool tool(options, changes ? ToolUse::change : ToolUse::look);
         tool.registry().forget();
