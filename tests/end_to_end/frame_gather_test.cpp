@@ -425,6 +425,29 @@ TEST_F(FrameGather, TellsOfALogThatHasTooManyMalformedLines)
     EXPECT_EQ(11U, rowsOf(databaseIn(target), "tblTraces").size());
 }
 
+TEST_F(FrameGather, ALineWithALongSourceIsARowAndSharesItsKeyWithItsFilter)
+{
+    std::string content;
+    for (int line = 0; line < 100; ++line)
+        content += "15:23:07:123,Conv,1,CallFlow,2,good\n15:23:07:123," + std::string(300, 'C') +
+                   std::to_string(line) + ",1,CallFlow,2,long\n";
+    write(drive("KelmaOrvan/Logs/diag_Long_20250101_000000.txt"), content);
+    const Outcome done = gather("2025-01-01 00:00", "24");
+    EXPECT_EQ(0, done.status) << done.err;
+    std::set<std::string> keys;
+    const auto rows = rowsOf(databaseIn(target), "tblTraces");
+    for (const auto& row : rows) keys.insert(row.at("qrvIndex"));
+    EXPECT_EQ(200U, rows.size());
+    EXPECT_EQ(
+        (std::set<std::string>{"CallFlow_Long_2_Conv", "CallFlow_Long_2_" + std::string(239, 'C')}),
+        keys);
+    EXPECT_EQ(std::string(255, 'C'), rows.at(1).at("Source"));
+    const auto filters = nodeRows(databaseIn(target), "tblUniqueFilters");
+    ASSERT_EQ(2U, filters.size());
+    for (const auto& filter : filters) EXPECT_EQ(1U, keys.count(filter.at("qrvIndex")));
+    EXPECT_EQ(rows.at(1).at("Source"), filters.at(1).at("Source"));
+}
+
 TEST_F(FrameGather, ACommaInAFiltersValueShiftsItsColumnsAndKeepsItsKey)
 {
     write(drive("KelmaOrvan/Logs/diag_a,b_20250101_000000.txt"),
@@ -444,10 +467,16 @@ TEST_F(FrameGather, TellsOfFiltersThatCouldNotAllBeStored)
     for (char letter = 'a'; letter < 'p'; ++letter)
         content += "15:23:07:123,Conv,1," + std::string(60, letter) + ",2,good\n";
     write(drive("KelmaOrvan/Logs/diag_a,b_20250101_000000.txt"), content);
+    // A template whose levels are numbers: of each key it gets a component.
+    ASSERT_EQ(0, run({"cycle"}).status) << "the tool's folder is supplied once";
+    jet::Schema schema = traceSchema();
+    schema.tables.back().columns.back() =
+        jet::parseSchema("table tblUniqueFilters\ncolumn TraceLevel long\n").tables[0].columns[0];
+    write(drive("OrvanDiagnostics/blankWPNDB.mdb"), jet::blankDatabase(schema));
     const Outcome gathered = run(gatherWords("2025-01-01 00:00", "24", target));
     EXPECT_EQ(1, gathered.status);
-    EXPECT_EQ("orvandiag: not everything was gathered: the filters could not all be stored: too "
-              "many errors\n",
+    EXPECT_EQ("orvandiag: not everything was gathered: the filters could not all be stored: Data "
+              "type conversion error\n",
               gathered.err);
     EXPECT_EQ(15U, rowsOf(databaseIn(target), "tblTraces").size());
     EXPECT_EQ(10U, rowsOf(databaseIn(target), "tblUniqueFilters").size());

@@ -165,14 +165,31 @@ TEST(ProcessOrvanLogFileToDBErrors, TheEleventhError5ForcesTheExitTooButIsNoWarn
 TEST(ProcessOrvanLogFileToDBErrors, AFieldThatRefusesItsValueLeavesItOutOfTheRow)
 {
     ImportTool tool;
-    tool.context.g_bDebugMode = true;
-    tool.withLog(logName, morning,
-                 {"10:00:00:000 (" + std::string(300, 's') + ",1,CallFlow,7) long source"});
-    tool.importLog(logName);
+    tool.traceDatabases.failing("set tblTraces.Source", 1, 3421);
+    tool.withLog(logName, morning, {lineAt("10:00:00:000")}).importLog(logName);
     EXPECT_EQ((Texts{"Null"}), tool.column("Source"));
-    EXPECT_EQ((Texts{"Null"}), tool.column("qrvIndex"));
-    EXPECT_EQ((Texts{"long source"}), tool.column("Trace"));
-    EXPECT_EQ(2U, tool.failures(proc).size());
+    EXPECT_EQ((Texts{"CallFlow_RoCsMgr_7_Conv"}), tool.column("qrvIndex"));
+    EXPECT_EQ(1U, tool.failures(proc).size());
+}
+
+TEST(ProcessOrvanLogFileToDBErrors, LongSourcesAreNoErrorsAndTheKeyOfARowIsThatOfItsFilter)
+{
+    ImportTool tool;
+    tool.context.g_bDebugMode = true;
+    const auto line = [](const char* end) {
+        return "10:00:00:000 (" + std::string(300, 's') + end + ",1,CallFlow,7) long source";
+    };
+    tool.withLog(logName, morning,
+                 {line("1"), line("2"), line("3"), line("4"), line("5"), line("6"), line("7"),
+                  line("8"), line("9"), line("10"), line("11"), line("12")});
+    tool.importLog(logName);
+    const std::string key = "CallFlow_RoCsMgr_7_" + std::string(236, 's');
+    EXPECT_EQ(Texts(12, std::string(255, 's')), tool.column("Source"));
+    EXPECT_EQ(Texts(12, key), tool.column("qrvIndex"));
+    EXPECT_EQ(Texts{key}, tool.context.g_dictUniqueFilters.keys());
+    EXPECT_EQ("RoCsMgr," + std::string(255, 's') + ",CallFlow,7",
+              tool.context.g_dictUniqueFilters.item(key));
+    EXPECT_EQ(Texts{}, tool.failures(proc));
 }
 
 TEST(ProcessOrvanLogFileToDBErrors, ARowWhoseFilterCannotBeReadBackCountsToTheRowBeforeIt)
@@ -218,19 +235,16 @@ TEST(ProcessOrvanLogFileToDBErrors, ARowWhoseFilterCannotBeReadBackCountsToTheRo
     EXPECT_EQ(1U, tool.failures(proc).size());
 }
 
-TEST(ProcessOrvanLogFileToDBErrors, ARefusedIndexReadsBackEmptyAndIsOneFilterOfTheFirstSuchRow)
+TEST(ProcessOrvanLogFileToDBErrors, ARefusedIndexReadsBackEmptyAndIsAFilterOfThatRow)
 {
     ImportTool tool;
-    tool.context.g_bDebugMode = true;
-    const std::string longName(241, 'c');
-    tool.withLog(logName, morning,
-                 {"10:00:00:000 (Conv,1," + longName + ",7) a",
-                  "10:00:00:000 (Conv,1," + longName + ",8) b", "10:00:00:000 (Conv,1,F,7) c"});
+    tool.traceDatabases.failing("set tblTraces.qrvIndex", 1, 3421);
+    tool.withLog(logName, morning, {lineAt("10:00:00:000"), "10:00:01:000,B,1,Other,3,text"});
     tool.importLog(logName);
-    EXPECT_EQ((Texts{"Null", "Null", "F_RoCsMgr_7_Conv"}), tool.column("qrvIndex"));
-    EXPECT_EQ((Texts{"", "F_RoCsMgr_7_Conv"}), tool.context.g_dictUniqueFilters.keys());
-    EXPECT_EQ("RoCsMgr,Conv," + longName + ",7", tool.context.g_dictUniqueFilters.item(""));
-    EXPECT_EQ(2U, tool.failures(proc).size());
+    EXPECT_EQ((Texts{"Null", "Other_RoCsMgr_3_B"}), tool.column("qrvIndex"));
+    EXPECT_EQ((Texts{"", "Other_RoCsMgr_3_B"}), tool.context.g_dictUniqueFilters.keys());
+    EXPECT_EQ("RoCsMgr,Conv,CallFlow,7", tool.context.g_dictUniqueFilters.item(""));
+    EXPECT_EQ(1U, tool.failures(proc).size());
 }
 
 TEST(ProcessOrvanLogFileToDBErrors, AFailedUpdateLosesThatRowAlone)

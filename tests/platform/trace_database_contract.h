@@ -116,7 +116,7 @@ TYPED_TEST_P(TraceDatabaseContract, AFieldTakesWhatItsColumnHolds)
     };
     const Case cases[] = {
         {"a text of the column's length fits", "Source", std::string(255, 'x'), 0},
-        {"a longer one does not", "Source", std::string(256, 'x'), 3163},
+        {"and so does the head of a longer one", "Source", std::string(256, 'x'), 0},
         {"a long text column has no such limit", "Trace", std::string(70'000, 'x'), 0},
         {"Source takes no zero-length text", "Source", "", 3315},
         {"nor does Trace", "Trace", "", 3315},
@@ -144,10 +144,47 @@ TYPED_TEST_P(TraceDatabaseContract, AFailedAssignmentLeavesTheValueThatWasThere)
     EXPECT_EQ(3315, errorOf([&] { source.setText(""); }));
     EXPECT_TRUE(source.isNull());
     source.setText("5012");
-    EXPECT_EQ(3163, errorOf([&] { source.setText(std::string(256, 'x')); }));
+    EXPECT_EQ(3315, errorOf([&] { source.setText(""); }));
     EXPECT_EQ("5012", source.text());
-    EXPECT_EQ(3163, errorOf([&] { source.setUtf8(std::string(256, 'x')); }));
+    EXPECT_EQ(3315, errorOf([&] { source.setUtf8(""); }));
     EXPECT_EQ("5012", source.text());
+}
+
+TYPED_TEST_P(TraceDatabaseContract, ATextLongerThanItsColumnIsCutAtAWholeCharacter)
+{
+    const auto database = this->open();
+    const auto recordset = database->openRecordset("tblUniqueFilters");
+    const auto times = [](std::size_t count, const std::string& text) {
+        std::string all;
+        for (std::size_t done = 0; done < count; ++done) all += text;
+        return all;
+    };
+    const std::string zhe = "\u0416";
+    const std::string note = "\U0001D11E"; // two characters of a column
+    struct Case {
+        const char* because;
+        std::string text;
+        std::string stored;
+    };
+    const Case cases[] = {
+        {"as many as it holds", times(50, "x"), times(50, "x")},
+        {"one more", times(50, "x") + "y", times(50, "x")},
+        {"characters of two bytes", times(51, zhe), times(50, zhe)},
+        {"a pair that ends with the column", times(26, note), times(25, note)},
+        {"a pair that would be cut in half", "x" + times(30, note), "x" + times(24, note)},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        recordset->addNew();
+        recordset->field("TraceLevel").setUtf8(c.text);
+        EXPECT_EQ(c.stored, recordset->field("TraceLevel").text());
+        recordset->update();
+        EXPECT_EQ(c.stored, this->machine.rows("tblUniqueFilters").back().at("TraceLevel"));
+    }
+    recordset->addNew();
+    TraceField& level = recordset->field("TraceLevel");
+    level.setText(times(49, "x") + "\xE9\xE9");
+    EXPECT_EQ(times(49, "x") + "\xE9", level.text()) << "as it was set, in the code page";
 }
 
 TYPED_TEST_P(TraceDatabaseContract, AnEmptySourceOrTraceIsLeftNull)
@@ -243,6 +280,7 @@ REGISTER_TYPED_TEST_SUITE_P(TraceDatabaseContract, AnUpdatedRowIsStoredAtOnce,
                             NothingIsSetReadOrUpdatedWithoutARow, AFieldReadsBackAsItWasSet,
                             AFieldTakesWhatItsColumnHolds,
                             AFailedAssignmentLeavesTheValueThatWasThere,
+                            ATextLongerThanItsColumnIsCutAtAWholeCharacter,
                             AnEmptySourceOrTraceIsLeftNull, ATextColumnTakesANumberInDecimalForm,
                             ARowThatIsBegunAgainForgetsItsValues, AClosedRecordsetRaises3420,
                             AClosedDatabaseClosesItsRecordsets, ThreeTablesTakeRowsInTurn);

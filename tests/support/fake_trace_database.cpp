@@ -47,15 +47,16 @@ std::map<std::string, FakeTraceTable> gatherTables()
     };
 }
 
-/// The characters of UTF-8 text; one beyond U+FFFF counts twice.
-std::size_t charactersOf(std::string_view utf8)
+/// As much of UTF-8 text as a number of characters holds; one beyond U+FFFF counts twice.
+std::string_view firstCharacters(std::string_view utf8, std::size_t most)
 {
     std::size_t count = 0;
-    for (const char byte : utf8) {
-        const auto code = static_cast<unsigned char>(byte);
+    for (std::size_t at = 0; at < utf8.size(); ++at) {
+        const auto code = static_cast<unsigned char>(utf8[at]);
         if ((code & 0xC0) != 0x80) count += code >= 0xF0 ? 2 : 1;
+        if (count > most) return utf8.substr(0, at);
     }
-    return count;
+    return utf8;
 }
 
 /// A table that was opened, and the row that is being added to it.
@@ -82,13 +83,15 @@ public:
     FakeTraceField(Adding& adding, const FakeTraceColumn& column) : adding_(adding), column_(column)
     {}
 
-    void setText(std::string_view text) override { set(text, text.size()); }
-    void setUtf8(std::string_view text) override { set(text, charactersOf(text)); }
-
+    void setText(std::string_view text) override { set(text, text.substr(0, column_.characters)); }
+    void setUtf8(std::string_view text) override
+    {
+        set(text, firstCharacters(text, column_.characters));
+    }
     void setNumber(std::int32_t number) override
     {
         const std::string text = std::to_string(number);
-        set(text, text.size());
+        set(text, text);
     }
 
     std::string_view text() const override
@@ -105,7 +108,7 @@ public:
     }
 
 private:
-    void set(std::string_view text, std::size_t characters)
+    void set(std::string_view text, std::string_view held)
     {
         adding_.requireAdding(noAddInProgress);
         adding_.state->note("set " + adding_.table + "." + column_.name);
@@ -114,8 +117,9 @@ private:
             return;
         }
         if (text.empty() && !column_.allowZeroLength) throw RunTimeError(zeroLength, "empty");
-        if (characters > column_.characters) throw RunTimeError(fieldTooSmall, "too long");
-        adding_.row[column_.name] = text;
+        if (held.size() < text.size() && column_.characters == memoCharacters)
+            throw RunTimeError(fieldTooSmall, "too long");
+        adding_.row[column_.name] = held;
     }
 
     std::string numberText(std::string_view text) const

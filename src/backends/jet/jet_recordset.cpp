@@ -22,6 +22,13 @@ using namespace traceDatabaseErrors;
     throw RunTimeError(conversion, "Data type conversion error.");
 }
 
+[[noreturn]] void raiseTooSmall(const Column& column)
+{
+    throw RunTimeError(fieldTooSmall, "The field '" + column.name +
+                                          "' is too small to accept the amount of data you "
+                                          "attempted to add.");
+}
+
 /// A whole number, with blanks around it perhaps.
 std::optional<std::int32_t> numberOf(std::string_view text)
 {
@@ -75,7 +82,7 @@ void JetField::setText(std::string_view text)
     recordset_.requireAdding(noAddInProgress);
     if (!column_.isText()) return takeNumberOf(text);
     checkCharacters(text.size());
-    cell_.text.assign(text, recordset_.codePage());
+    cell_.text.assign(text.substr(0, capacity(column_)), recordset_.codePage());
     cell_.kind = Cell::Kind::text;
 }
 
@@ -86,6 +93,7 @@ void JetField::setUtf8(std::string_view text)
     TextValue value;
     value.assignUtf8(text);
     checkCharacters(value.characters());
+    value.cutTo(capacity(column_));
     cell_.text = std::move(value);
     cell_.kind = Cell::Kind::text;
 }
@@ -93,7 +101,11 @@ void JetField::setUtf8(std::string_view text)
 void JetField::setNumber(std::int32_t number)
 {
     recordset_.requireAdding(noAddInProgress);
-    if (column_.isText()) return setText(std::to_string(number));
+    if (column_.isText()) {
+        const std::string digits = std::to_string(number);
+        if (digits.size() > capacity(column_)) raiseTooSmall(column_);
+        return setText(digits);
+    }
     if (!fitsColumn(column_, number)) raiseConversion();
     cell_.number = number;
     cell_.kind = Cell::Kind::number;
@@ -111,10 +123,7 @@ void JetField::checkCharacters(std::size_t count) const
     if (count == 0 && !column_.allowZeroLength)
         throw RunTimeError(zeroLength,
                            "Field '" + column_.name + "' cannot be a zero-length string.");
-    if (count > capacity(column_))
-        throw RunTimeError(fieldTooSmall, "The field '" + column_.name +
-                                              "' is too small to accept the amount of data you "
-                                              "attempted to add.");
+    if (column_.isLongValue() && count > capacity(column_)) raiseTooSmall(column_);
 }
 
 std::string_view JetField::text() const

@@ -120,6 +120,28 @@ std::u16string storedCharacters(std::string_view stored)
     return text;
 }
 
+/// Half of a surrogate pair gives U+FFFD.
+std::string utf8Of(std::u16string_view units)
+{
+    std::string text;
+    text.reserve(units.size());
+    for (std::size_t at = 0; at < units.size(); ++at) {
+        const char16_t unit = units[at];
+        if (!isSurrogate(unit)) {
+            appendUtf8(text, unit);
+            continue;
+        }
+        const char16_t next = at + 1 < units.size() ? units[at + 1] : u'\0';
+        if (unit < 0xDC00 && next >= 0xDC00 && next <= 0xDFFF) {
+            appendUtf8(text, 0x10000u + ((unit - 0xD800u) << 10) + (next - 0xDC00u));
+            ++at;
+        } else {
+            appendUtf8(text, replacement);
+        }
+    }
+    return text;
+}
+
 } // namespace
 
 void TextValue::assign(std::string_view bytes, const CodePage& codePage)
@@ -153,6 +175,20 @@ void TextValue::clear()
     ascii_ = true;
 }
 
+void TextValue::cutTo(std::size_t characters)
+{
+    if (this->characters() <= characters) return;
+    if (ascii_) {
+        source_.resize(characters);
+        return;
+    }
+    const bool splitsPair =
+        characters > 0 && isSurrogate(wide_[characters]) && wide_[characters] >= 0xDC00;
+    wide_.resize(splitsPair ? characters - 1 : characters);
+    source_ = utf8Of(wide_);
+    takeWide();
+}
+
 void TextValue::takeWide()
 {
     latin_ = std::all_of(wide_.begin(), wide_.end(), [](char16_t unit) { return unit <= 0xFF; });
@@ -184,24 +220,7 @@ void TextValue::writePlain(char* to) const
 
 std::string decodeStoredText(std::string_view stored)
 {
-    const std::u16string units = storedCharacters(stored);
-    std::string text;
-    text.reserve(units.size());
-    for (std::size_t at = 0; at < units.size(); ++at) {
-        const char16_t unit = units[at];
-        if (!isSurrogate(unit)) {
-            appendUtf8(text, unit);
-            continue;
-        }
-        const char16_t next = at + 1 < units.size() ? units[at + 1] : u'\0';
-        if (unit < 0xDC00 && next >= 0xDC00 && next <= 0xDFFF) {
-            appendUtf8(text, 0x10000u + ((unit - 0xD800u) << 10) + (next - 0xDC00u));
-            ++at;
-        } else {
-            appendUtf8(text, replacement);
-        }
-    }
-    return text;
+    return utf8Of(storedCharacters(stored));
 }
 
 std::string encodeName(std::string_view name)

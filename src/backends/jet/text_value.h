@@ -22,6 +22,10 @@ public:
 
     void clear();
 
+    /// Leaves out what lies behind so many characters, and a pair of which half would be left. What
+    /// remains is its own source, in UTF-8: only for a text that was given so.
+    void cutTo(std::size_t characters);
+
     /// As it was given.
     const std::string& source() const { return source_; }
 

@@ -209,21 +209,21 @@ TEST(JetEngine, ADatabaseThatAnotherProgramHasLockedAPartOfIsInUse)
     EXPECT_EQ(0, inAnotherProcess(opened));
 }
 
-TEST(JetEngine, TakesUtf8AndCountsItsCharacters)
+TEST(JetEngine, WhatACutWouldSpoilIsRefused)
 {
-    ScratchDatabase scratch;
+    ScratchDatabase scratch(
+        jet::parseSchema("table tblOne\ncolumn Code text 3\ncolumn Note memo\n"));
     auto engine = machineEngine();
     const auto database = engine.openDatabase(scratch.path().string());
-    const auto filters = database->openRecordset("tblUniqueFilters");
-    std::string fifty;
-    for (int count = 0; count < 50; ++count) fifty += "\u0416";
-    filters->addNew();
-    TraceField& level = filters->field("TraceLevel"); // of 50 characters
-    level.setUtf8(fifty);
-    EXPECT_EQ(3163, errorOf([&] { level.setUtf8(fifty + "x"); }));
-    EXPECT_EQ(fifty, level.text());
-    filters->update();
-    EXPECT_EQ(fifty, scratch.rows("tblUniqueFilters").at(0).at("TraceLevel"));
+    const auto rows = database->openRecordset("tblOne");
+    rows->addNew();
+    EXPECT_EQ(3163, errorOf([&] { rows->field("Code").setNumber(1000); })) << "no other number";
+    EXPECT_EQ(0, errorOf([&] { rows->field("Code").setNumber(100); }));
+    const std::string document(8'388'608, 'x');
+    EXPECT_EQ(3163, errorOf([&] { rows->field("Note").setText(document); })) << "a whole document";
+    EXPECT_EQ(3163, errorOf([&] { rows->field("Note").setUtf8(document); }));
+    EXPECT_TRUE(rows->field("Note").isNull());
+    EXPECT_EQ("100", rows->field("Code").text());
 }
 
 } // namespace
