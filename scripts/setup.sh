@@ -8,7 +8,7 @@ build_packages=(
 )
 desktop_packages=(qt6-base-dev qt6-l10n-tools qt6-svg-dev qt6-translations-l10n)
 test_packages=(
-  appstream cabextract clang clang-format desktop-file-utils gcab libclang-rt-14-dev libgmock-dev
+  appstream btrfs-progs cabextract clang clang-format desktop-file-utils gcab libclang-rt-14-dev libgmock-dev
   libgtest-dev librapidcheck-dev mawk mdbtools p7zip-full sqlite3
 )
 package_packages=(dpkg-dev file lintian)

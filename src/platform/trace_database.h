@@ -16,7 +16,7 @@ constexpr int fileInUse = 3045;       ///< another writer has the database open
 constexpr int rowTooLarge = 3047;     ///< the row's texts together are more than a page holds
 constexpr int cannotOpen = 3051;      ///< the file may not be opened for writing
 constexpr int noSuchTable = 3078;     ///< no table of that name
-constexpr int fieldTooSmall = 3163;   ///< a text is longer than its column
+constexpr int fieldTooSmall = 3163;   ///< a long text or a number has more characters than fit
 constexpr int databaseFull = 3183;    ///< the file has its largest size
 constexpr int noSuchField = 3265;     ///< no column of that name
 constexpr int requiredField = 3314;   ///< the row has no value for a column that takes no Null
@@ -34,7 +34,8 @@ public:
     virtual ~TraceField() = default;
 
     /// A text in the server's code page, as log lines hold it. A numeric column takes the number
-    /// that the text spells. Raises 3020, 3163, 3315, 3420, 3421.
+    /// that the text spells. Of a text that is longer than a text column, the column takes what it
+    /// holds, whole characters; a long text column refuses it. Raises 3020, 3163, 3315, 3420, 3421.
     virtual void setText(std::string_view text) = 0;
 
     /// A text in UTF-8; what is no UTF-8 is stored as replacement characters. Raises as `setText`.
@@ -43,8 +44,9 @@ public:
     /// A number; a text column takes its decimal form. Raises 3020, 3163, 3420, 3421.
     virtual void setNumber(std::int32_t number) = 0;
 
-    /// The value as text: a text byte for byte as it was set, a number in decimal form, Null as
-    /// the empty text. Holds until the field changes or the row is updated. Raises 3021, 3420.
+    /// The value as text: a text byte for byte as it was set, as far as the column holds it, a
+    /// number in decimal form, Null as the empty text. Holds until the field changes or the row is
+    /// updated. Raises 3021, 3420.
     virtual std::string_view text() const = 0;
 
     /// Whether the field has no value, which the empty text is not. Raises 3021, 3420.
@@ -66,7 +68,7 @@ public:
 
     /// Stores the row. On return it is in the file, even if the program is killed at once. A failed
     /// update stores nothing, leaves the rows before it whole, and the row is still being added.
-    /// Raises 3020, 3026, 3047, 3183, 3314, 3420.
+    /// Raises 3020, 3026, 3047, 3183, 3314, 3420, and 3343 when another program has cut the file.
     virtual void update() = 0;
 
     /// Lets the table go; a row that was begun is dropped. Raises 3420 when it is closed already.

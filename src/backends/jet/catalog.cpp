@@ -62,9 +62,10 @@ std::vector<TableDefinition> readCatalog(const Pages& pages)
     const CatalogColumns columns(catalog);
     std::vector<TableDefinition> tables;
     for (const std::uint32_t number : pages.usageMap(catalog.ownedPages)) {
-        const char* page = pages.dataOf(number, catalogPage);
-        for (unsigned slot = 0; slot < rowsOn(page); ++slot) {
-            const std::string_view bytes = pages.tableRow(page, slot);
+        const unsigned slots = rowsOn(pages.dataOf(number, catalogPage));
+        for (unsigned slot = 0; slot < slots; ++slot) {
+            // Of its own, as other pages are looked at for it.
+            const std::string bytes(pages.tableRow(pages.at(number), slot));
             if (bytes.empty()) continue;
             const RowView row(catalog, bytes);
             if (numberIn(row.cell(columns.type)) != tableType) continue;

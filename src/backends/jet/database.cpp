@@ -7,10 +7,14 @@
 
 namespace jet {
 
-Database::Database(const std::string& path)
-    : file_(path), globalMap_(checked(file_)), tables_(readCatalog(file_.pages()))
+Database::Database(const std::string& path) : file_(path)
 {
+    const PageWindows::Use use(file_.windows());
+    checkHeader(file_.pages());
+    globalMap_.emplace(file_);
+    tables_ = readCatalog(file_.pages());
     dropUnusedTail();
+    if (file_.failed()) file_.raiseFailure();
     file_.trim();
 }
 
@@ -22,16 +26,10 @@ const TableDefinition* Database::find(std::string_view name) const
     return found == tables_.end() ? nullptr : &*found;
 }
 
-PageFile& Database::checked(PageFile& file)
-{
-    checkHeader(file.pages());
-    return file;
-}
-
 void Database::dropUnusedTail()
 {
     const auto isUnused = [&](std::uint32_t number) {
-        return file_.isEmpty(number) && !globalMap_.isUsed(number);
+        return file_.isEmpty(number) && !globalMap_->isUsed(number);
     };
     while (file_.count() > 1 && isUnused(file_.count() - 1)) file_.giveBack(1);
 }

@@ -4,6 +4,7 @@
 #include "backends/jet/table_definition.h"
 #include "backends/jet/usage_maps.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,15 +24,14 @@ public:
     const TableDefinition* find(std::string_view name) const;
 
     PageFile& file() { return file_; }
-    GlobalMap& globalMap() { return globalMap_; }
+    GlobalMap& globalMap() { return *globalMap_; }
 
-private:
-    /// A file whose header was checked, before anything is made of it.
-    static PageFile& checked(PageFile& file);
+    /// Gives back the empty pages at the end of the file that nothing leads to.
     void dropUnusedTail();
 
+private:
     PageFile file_;
-    GlobalMap globalMap_;
+    std::optional<GlobalMap> globalMap_; ///< none until the header was checked
     std::vector<TableDefinition> tables_;
 };
 

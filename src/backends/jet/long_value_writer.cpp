@@ -31,8 +31,15 @@ std::uint32_t piecesOf(std::size_t bytes)
 LongValueWriter::LongValueWriter(PageFile& file, GlobalMap& global, RowPointer owned,
                                  RowPointer free)
     : file_(file), global_(global), owned_(file, global, owned), free_(file, global, free),
-      current_(pageWithRoom(file, owned, free, dataPage::longValueOwner))
-{}
+      ownedRow_(owned), freeRow_(free)
+{
+    findRoom();
+}
+
+void LongValueWriter::findRoom()
+{
+    current_ = pageWithRoom(file_, ownedRow_, freeRow_, dataPage::longValueOwner);
+}
 
 std::uint32_t LongValueWriter::pagesFor(const StoredForm& form) const
 {

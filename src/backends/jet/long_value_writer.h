@@ -19,6 +19,9 @@ public:
     /// Stores a text that is not in its row. Raises 3026, 3183.
     RowPointer store(const TextValue& text, const StoredForm& form);
 
+    /// Finds the page with room in the file, after stores have not reached it.
+    void findRoom();
+
 private:
     RowPointer storeRow(const TextValue& text, const StoredForm& form);
     RowPointer storeChain(const TextValue& text, const StoredForm& form);
@@ -28,6 +31,8 @@ private:
     GlobalMap& global_;
     OwnedMap owned_;
     OwnedMap free_;
+    RowPointer ownedRow_;
+    RowPointer freeRow_;
     std::uint32_t current_ = 0; ///< the page with room; 0 for none
 };
 

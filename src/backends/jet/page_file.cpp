@@ -9,7 +9,6 @@
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
-#include <sys/mman.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -18,9 +17,8 @@ namespace jet {
 
 namespace {
 
-constexpr std::size_t mappedBytes = std::size_t{formatFilePages} * pageSize;
+constexpr std::size_t largestBytes = std::size_t{formatFilePages} * pageSize;
 constexpr std::uint32_t pagesPerRun = 64;
-constexpr std::uint32_t pagesKept = 2048;
 
 /// The most pages that the process may give a file; writing past it would end the program.
 std::uint64_t pagesAllowed()
@@ -85,7 +83,7 @@ PageFile::PageFile(const std::string& path)
             throw RunTimeError(traceDatabaseErrors::fileInUse,
                                "Couldn't use '" + path + "'; file already in use.");
         readSize();
-        map(path);
+        windows_.emplace(file_);
     } catch (const RunTimeError&) {
         ::close(file_);
         throw;
@@ -95,7 +93,6 @@ PageFile::PageFile(const std::string& path)
 PageFile::~PageFile()
 {
     if (extent_ > count_) trim();
-    munmap(base_, mappedBytes);
     ::close(file_);
 }
 
@@ -104,16 +101,9 @@ void PageFile::readSize()
     struct stat facts {};
     if (fstat(file_, &facts) != 0 || !S_ISREG(facts.st_mode)) raiseUnknownFormat("no plain file");
     const auto size = static_cast<std::uint64_t>(facts.st_size);
-    if (size < pageSize || size > mappedBytes)
+    if (size < pageSize || size > largestBytes)
         raiseUnknownFormat("a size of " + std::to_string(size));
     count_ = extent_ = static_cast<std::uint32_t>(size / pageSize);
-}
-
-void PageFile::map(const std::string& path)
-{
-    void* mapped = mmap(nullptr, mappedBytes, PROT_READ | PROT_WRITE, MAP_SHARED, file_, 0);
-    if (mapped == MAP_FAILED) raiseCannotOpen(path);
-    base_ = static_cast<char*>(mapped);
 }
 
 void PageFile::reserve(std::uint32_t more)
@@ -125,15 +115,12 @@ void PageFile::reserve(std::uint32_t more)
 std::uint32_t PageFile::take()
 {
     if (count_ == extent_) reserve(1);
-    if (count_ - released_ >= 2 * pagesKept) {
-        madvise(base_ + std::size_t{released_} * pageSize, pagesKept * pageSize, MADV_DONTNEED);
-        released_ += pagesKept;
-    }
     return count_++;
 }
 
 void PageFile::extendTo(std::uint32_t pages)
 {
+    if (wasCut()) raiseFailure();
     const auto most = std::min<std::uint64_t>(largestFilePages, pagesAllowed());
     if (pages > most) raiseDiskFull();
     while (extent_ < pages) {
@@ -164,6 +151,7 @@ bool PageFile::isEmpty(std::uint32_t number) const
 
 void PageFile::trim()
 {
+    if (wasCut()) return;
     // Where this fails, empty pages or a part of one stay: what a kill leaves, and no reader minds.
     if (ftruncate(file_, static_cast<off_t>(std::size_t{count_} * pageSize)) == 0)
         extent_ = count_;
@@ -177,9 +165,17 @@ void PageFile::replace(std::uint32_t number, const char* content)
         throw RunTimeError(runTimeErrors::deviceIo);
 }
 
-void PageFile::releaseMemory()
+bool PageFile::wasCut() const
 {
-    madvise(base_, std::size_t{count_} * pageSize, MADV_DONTNEED);
+    struct stat facts {};
+    return fstat(file_, &facts) != 0 ||
+           static_cast<std::uint64_t>(facts.st_size) < std::uint64_t{extent_} * pageSize;
+}
+
+void PageFile::raiseFailure() const
+{
+    if (wasCut()) raiseUnknownFormat("the file was cut while it was open");
+    raiseDiskFull();
 }
 
 } // namespace jet

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "backends/jet/page_windows.h"
 #include "backends/jet/pages.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace jet {
@@ -11,24 +13,38 @@ namespace jet {
 ///
 /// What is stored in a page is in the file at once, with no call to the system: a program that is
 /// killed loses none of it. The file grows by runs of pages whose space the file system grants
-/// beforehand, so that a full disk is an error of `grow` and never a fault of a store. The memory
-/// of pages written long ago goes back to the system.
-class PageFile {
+/// beforehand, so that a full disk is as a rule an error of `reserve`. Where a store fails all the
+/// same, it and all after it are kept from the file, which `failed` tells: the file is then as a
+/// kill would have left it. A few megabytes of the file are in memory at a time.
+class PageFile final : public PageSource {
 public:
     /// Opens a file and keeps other writers out. Raises 3024, 3045, 3051, and 3343 for a file that
     /// is too large or holds no whole page.
     explicit PageFile(const std::string& path);
-    ~PageFile();
+    ~PageFile() override;
     PageFile(const PageFile&) = delete;
     PageFile& operator=(const PageFile&) = delete;
 
     /// How many pages are in use; the file may be longer, with empty pages that nothing leads to.
     std::uint32_t count() const { return count_; }
 
-    Pages pages() const { return Pages({base_, std::size_t{count_} * pageSize}); }
+    Pages pages() const { return Pages(*this, count_); }
 
-    /// The 4096 bytes of a page in use, to be changed in place.
-    char* page(std::uint32_t number) const { return base_ + std::size_t{number} * pageSize; }
+    /// The 4096 bytes of a page in use, to be changed in place while a PageWindows::Use lives. They
+    /// stay until some fifteen others were asked for. Raises 7.
+    char* page(std::uint32_t number) const { return windows_->page(number); }
+    const char* look(std::uint32_t number) const override { return page(number); }
+
+    PageWindows& windows() { return *windows_; }
+
+    /// Whether stores have been kept from the file.
+    bool failed() const { return windows_->failed(); }
+
+    /// Forgets the stores that were kept from the file. Raises 7.
+    void goOn() { windows_->goOn(); }
+
+    /// Raises what made a store fail: 3343 when the file was cut, else 3026.
+    [[noreturn]] void raiseFailure() const;
 
     /// Makes sure that `more` pages can be taken. Raises 3026, 3183, and then nothing has changed.
     void reserve(std::uint32_t more);
@@ -43,26 +59,23 @@ public:
     /// Gives back pages at the end, which are empty.
     void giveBack(std::uint32_t count) { count_ -= count; }
 
-    /// Cuts off what the file holds behind the pages in use: empty pages, a part of a page.
+    /// Cuts off what the file holds behind the pages in use: empty pages, a part of a page. A file
+    /// that another program cut before stays as it is.
     void trim();
 
     /// Replaces a page in one step that a kill can't divide. Raises 57.
     void replace(std::uint32_t number, const char* content);
 
-    /// Lets the memory of all pages go; they come back when they are looked at.
-    void releaseMemory();
-
 private:
     void readSize();
-    void map(const std::string& path);
+    bool wasCut() const;
     void extendTo(std::uint32_t pages);
     bool extendBy(std::uint64_t run);
 
     int file_ = -1;
-    char* base_ = nullptr;
-    std::uint32_t count_ = 0;    ///< pages in use
-    std::uint32_t extent_ = 0;   ///< pages that the file has room for
-    std::uint32_t released_ = 0; ///< pages before this one were let go when the file grew past them
+    mutable std::optional<PageWindows> windows_; ///< none until the file was opened
+    std::uint32_t count_ = 0;                    ///< pages in use
+    std::uint32_t extent_ = 0;                   ///< pages that the file has room for
 };
 
 } // namespace jet

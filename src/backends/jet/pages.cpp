@@ -36,12 +36,13 @@ std::string_view sliceOf(const char* page, unsigned row)
 const char* Pages::at(std::uint32_t page) const
 {
     if (page >= count_) raiseUnknownFormat("page " + std::to_string(page) + " is missing");
-    return base_ + std::size_t{page} * pageSize;
+    return source_ != nullptr ? source_->look(page) : base_ + std::size_t{page} * pageSize;
 }
 
 const char* Pages::at(std::uint32_t page, PageType type) const
 {
     const char* found = at(page);
+    if (static_cast<PageType>(found[0]) != type) found = again(page, found);
     if (static_cast<PageType>(found[0]) != type)
         raiseUnknownFormat("page " + std::to_string(page) + " has another type");
     return found;
@@ -50,7 +51,10 @@ const char* Pages::at(std::uint32_t page, PageType type) const
 const char* Pages::dataOf(std::uint32_t page, std::uint32_t owner) const
 {
     const char* found = at(page, PageType::data);
-    if (load32(found + dataPage::owner) != owner)
+    // A page that is led to may have been filled since it was read.
+    if (load32(found + dataPage::owner) != owner) found = again(page, found);
+    if (static_cast<PageType>(found[0]) != PageType::data ||
+        load32(found + dataPage::owner) != owner)
         raiseUnknownFormat("page " + std::to_string(page) + " belongs elsewhere");
     return found;
 }
@@ -58,6 +62,7 @@ const char* Pages::dataOf(std::uint32_t page, std::uint32_t owner) const
 std::string_view Pages::row(RowPointer pointer) const
 {
     const char* page = at(pointer.page, PageType::data);
+    if (pointer.row >= rowsOn(page)) page = again(pointer.page, page);
     if (pointer.row >= rowsOn(page))
         raiseUnknownFormat("page " + std::to_string(pointer.page) + " lacks a row");
     return sliceOf(page, pointer.row);
@@ -75,10 +80,11 @@ std::string_view Pages::tableRow(const char* page, unsigned slot) const
 
 std::vector<std::uint32_t> Pages::usageMap(RowPointer pointer) const
 {
-    const std::string_view map = row(pointer);
+    const std::string map(row(pointer)); // of its own, as other pages are looked at
     std::vector<std::uint32_t> pages;
     if (map.size() >= usageMap::bits && map[0] == 0) {
-        collectBits(map.substr(usageMap::bits), load32(map.data() + 1), count_, pages);
+        collectBits(std::string_view(map).substr(usageMap::bits), load32(map.data() + 1), count_,
+                    pages);
     } else if (!map.empty() && map[0] == 1) {
         std::uint64_t first = 0;
         for (std::size_t at = usageMap::pointers; at + 4 <= map.size() && first < count_; at += 4) {

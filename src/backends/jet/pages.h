@@ -8,13 +8,30 @@
 
 namespace jet {
 
-/// The pages of a file that lies in memory. Every look at one checks that it is there.
+/// A file whose pages come into memory as they are looked at.
+class PageSource {
+public:
+    virtual ~PageSource() = default;
+
+    /// The 4096 bytes of a page of the file. They stay until some fifteen others were looked at.
+    virtual const char* look(std::uint32_t page) const = 0;
+
+    /// The same, as the file has it now, where that may be another.
+    virtual const char* lookAgain(std::uint32_t page) const { return look(page); }
+};
+
+/// The pages of a file, in memory or not. Every look at one checks that it is there.
+///
+/// What a look gives holds until some fifteen other pages were looked at.
 class Pages {
 public:
     /// `image` stays alive while the pages are used; a part of a page at its end is not seen.
     explicit Pages(std::string_view image)
         : base_(image.data()), count_(static_cast<std::uint32_t>(image.size() / pageSize))
     {}
+
+    /// The first `count` pages of a source, which stays alive.
+    Pages(const PageSource& source, std::uint32_t count) : source_(&source), count_(count) {}
 
     std::uint32_t count() const { return count_; }
 
@@ -37,7 +54,13 @@ public:
     std::vector<std::uint32_t> usageMap(RowPointer at) const;
 
 private:
-    const char* base_;
+    const char* again(std::uint32_t page, const char* before) const
+    {
+        return source_ != nullptr ? source_->lookAgain(page) : before;
+    }
+
+    const PageSource* source_ = nullptr; ///< null for pages that lie in memory
+    const char* base_ = nullptr;
     std::uint32_t count_;
 };
 

@@ -49,18 +49,23 @@ Rows::Rows(const Pages& pages, const TableDefinition& table)
 bool Rows::next()
 {
     for (;;) {
-        if (page_ == nullptr) {
+        if (page_ == 0) {
             if (nextPage_ == numbers_.size()) return false;
-            page_ = pages_.dataOf(numbers_[nextPage_++], table_.page);
+            page_ = numbers_[nextPage_++];
             nextRow_ = 0;
         }
-        while (nextRow_ < rowsOn(page_)) {
-            const std::string_view bytes = pages_.tableRow(page_, nextRow_++);
-            if (bytes.empty()) continue;
-            row_ = RowView(table_, bytes);
+        const char* page = pages_.dataOf(page_, table_.page);
+        while (nextRow_ < rowsOn(page)) {
+            const std::string_view bytes = pages_.tableRow(page, nextRow_++);
+            if (bytes.empty()) {
+                page = pages_.dataOf(page_, table_.page);
+                continue;
+            }
+            bytes_ = bytes;
+            row_ = RowView(table_, bytes_);
             return true;
         }
-        page_ = nullptr;
+        page_ = 0;
     }
 }
 
@@ -117,7 +122,7 @@ std::int64_t Rows::number(std::size_t place) const
     }
 }
 
-Reader::Reader(std::string_view image) : pages_(image), tables_(readCatalog(pages_)) {}
+Reader::Reader(const Pages& pages) : pages_(pages), tables_(readCatalog(pages_)) {}
 
 const TableDefinition* Reader::find(std::string_view name) const
 {

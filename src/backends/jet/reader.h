@@ -16,6 +16,8 @@ namespace jet {
 class Rows {
 public:
     Rows(const Pages& pages, const TableDefinition& table);
+    Rows(const Rows&) = delete;
+    Rows& operator=(const Rows&) = delete;
 
     /// Moves to the next row, at first to the first. False when there are no more. Raises 3343.
     bool next();
@@ -39,19 +41,23 @@ private:
     const TableDefinition& table_;
     std::vector<std::uint32_t> numbers_; ///< of the table's pages
     std::size_t nextPage_ = 0;
-    const char* page_ = nullptr;
+    std::uint32_t page_ = 0; ///< the page of the current row; 0 for none
     unsigned nextRow_ = 0;
+    std::string bytes_; ///< of the current row, as other pages are looked at for its long texts
     RowView row_;
 };
 
-/// A Jet 4 file that lies in memory, for looking at what it holds.
+/// A Jet 4 file, for looking at what it holds.
 ///
 /// It makes no use of indexes and follows what the file says no further than the file goes: any
 /// bytes at all are either read or refused with 3343.
 class Reader {
 public:
     /// `image` stays alive while the reader is used. Raises 3343.
-    explicit Reader(std::string_view image);
+    explicit Reader(std::string_view image) : Reader(Pages(image)) {}
+
+    /// The pages of a file that lie elsewhere, such as FilePages. Raises 3343 and what they raise.
+    explicit Reader(const Pages& pages);
 
     /// The tables that people made, in the order of the catalog.
     const std::vector<TableDefinition>& tables() const { return tables_; }

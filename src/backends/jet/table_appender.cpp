@@ -1,6 +1,7 @@
 #include "backends/jet/table_appender.h"
 
 #include "backends/jet/errors.h"
+#include "runtime/run_time_error.h"
 
 #include <algorithm>
 
@@ -26,13 +27,22 @@ bool isNumber(const Column& column)
 } // namespace
 
 TableAppender::TableAppender(Database& database, const TableDefinition& table)
-    : file_(database.file()), global_(database.globalMap()), table_(table),
+    : database_(database), file_(database.file()), global_(database.globalMap()), table_(table),
       owned_(file_, global_, table.ownedPages), free_(file_, global_, table.freePages)
 {
+    const PageWindows::Use use(file_.windows());
     checkColumns();
     planColumns();
-    current_ = pageWithRoom(file_, table.ownedPages, table.freePages, table.page);
+    findRoom();
     correctRowCount();
+    if (file_.failed()) file_.raiseFailure();
+}
+
+void TableAppender::findRoom()
+{
+    current_ = pageWithRoom(file_, table_.ownedPages, table_.freePages, table_.page);
+    for (auto& slot : variable_)
+        if (slot.memos) slot.memos->findRoom();
 }
 
 void TableAppender::checkColumns() const
@@ -66,14 +76,41 @@ void TableAppender::planColumns()
     }
 }
 
+/// Where a store fails, the file is taken up again as by a writer that comes after a kill. The row
+/// may be in it already, when what failed came behind it.
 void TableAppender::append(std::span<const Cell> cells)
 {
+    const PageWindows::Use use(file_.windows());
+    if (file_.failed()) file_.goOn();
+    try {
+        store(cells);
+    } catch (const RunTimeError&) {
+        if (!file_.failed()) throw;
+    }
+    if (!file_.failed()) return;
+    file_.goOn();
+    database_.dropUnusedTail();
+    findRoom();
+    const bool stored = isStored();
+    if (!stored || file_.failed()) file_.raiseFailure();
+}
+
+/// Whether readers find the row that was last being added.
+bool TableAppender::isStored()
+{
+    const auto owned = file_.pages().usageMap(table_.ownedPages);
+    return std::binary_search(owned.begin(), owned.end(), target_.page) &&
+           DataPage(file_.page(target_.page)).rows() > target_.row;
+}
+
+void TableAppender::store(std::span<const Cell> cells)
+{
+    target_ = {};
     const std::size_t variableBytes = planValues(cells);
     const std::size_t rowBytes = shape_.rowBytes(variableBytes);
     if (rowBytes > dataPage::longestRow) raiseRowTooLarge();
 
-    DataPage page(current_ == 0 ? nullptr : file_.page(current_));
-    const bool fits = current_ != 0 && page.hasRoom(rowBytes);
+    const bool fits = current_ != 0 && DataPage(file_.page(current_)).hasRoom(rowBytes);
     std::uint32_t pages = fits ? 0 : 1;
     for (const auto& slot : variable_) {
         if (slot.memos) pages += slot.memos->pagesFor(slot.form);
@@ -82,6 +119,8 @@ void TableAppender::append(std::span<const Cell> cells)
 
     storeLongValues(cells);
     if (fits) {
+        DataPage page(file_.page(current_));
+        target_ = {current_, static_cast<std::uint8_t>(page.rows())};
         writeRow(page.place(rowBytes), cells, variableBytes);
         page.publish(rowBytes);
     } else {
@@ -156,6 +195,7 @@ void TableAppender::writeRow(char* at, std::span<const Cell> cells, std::size_t 
 void TableAppender::addNewPage(std::span<const Cell> cells, std::size_t variableBytes)
 {
     const std::uint32_t number = file_.take();
+    target_ = {number, 0};
     auto page = DataPage::begin(file_.page(number), table_.page);
     const std::size_t rowBytes = shape_.rowBytes(variableBytes);
     writeRow(page.place(rowBytes), cells, variableBytes);
@@ -181,13 +221,12 @@ void TableAppender::correctRowCount()
     const Pages pages = file_.pages();
     std::uint32_t rows = 0;
     for (const std::uint32_t number : pages.usageMap(table_.ownedPages)) {
-        const char* page = pages.dataOf(number, table_.page);
-        for (unsigned row = 0; row < rowsOn(page); ++row)
-            rows += pages.tableRow(page, row).empty() ? 0 : 1;
+        const unsigned slots = rowsOn(pages.dataOf(number, table_.page));
+        for (unsigned slot = 0; slot < slots; ++slot)
+            rows += pages.tableRow(pages.at(number), slot).empty() ? 0 : 1;
     }
     char* count = file_.page(table_.page) + tableDefinition::rowCount;
     if (load32(count) != rows) store32(count, rows);
-    file_.releaseMemory();
 }
 
 } // namespace jet

@@ -31,12 +31,16 @@ public:
     TableAppender(Database& database, const TableDefinition& table);
 
     /// Adds a row of one cell for each of the table's columns, in their order.
-    /// Raises 3026, 3183, 3047 (the row is too large); then no row was added.
+    /// Raises 3026, 3183, 3047 (the row is too large), 3343 (another program has cut the file);
+    /// then no row was added.
     void append(std::span<const Cell> cells);
 
 private:
     void checkColumns() const;
     void planColumns();
+    void store(std::span<const Cell> cells);
+    void findRoom();
+    bool isStored();
     std::size_t planValues(std::span<const Cell> cells);
     void storeLongValues(std::span<const Cell> cells);
     void writeRow(char* at, std::span<const Cell> cells, std::size_t variableBytes);
@@ -52,6 +56,7 @@ private:
         RowPointer stored; ///< of a memo that is not in the row
     };
 
+    Database& database_;
     PageFile& file_;
     GlobalMap& global_;
     const TableDefinition& table_;
@@ -61,6 +66,7 @@ private:
     OwnedMap owned_;
     OwnedMap free_;
     std::uint32_t current_ = 0; ///< the data page with room; 0 for none
+    RowPointer target_;         ///< where the row that is being added goes
 };
 
 } // namespace jet

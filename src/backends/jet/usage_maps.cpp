@@ -50,7 +50,7 @@ MapRow::MapRow(PageFile& file, RowPointer at) : file_(&file), page_(at.page)
     const std::string_view row = file.pages().row(at);
     if (row.size() < usageMap::bits || (row[0] != 0 && row[0] != 1))
         raiseUnknownFormat("a usage map of page " + std::to_string(at.page));
-    row_ = file.page(page_) + (row.data() - file.page(page_));
+    offset_ = static_cast<std::size_t>(row.data() - file.page(page_));
     length_ = row.size();
 }
 
@@ -61,19 +61,19 @@ bool MapRow::covers(std::uint32_t page) const
 
 void MapRow::setBit(std::uint32_t page, bool value)
 {
-    assignBit(row_ + usageMap::bits, page - firstPage(), value);
+    assignBit(row() + usageMap::bits, page - firstPage(), value);
 }
 
 std::uint32_t MapRow::bitmapOf(std::uint32_t group) const
 {
     const std::size_t at = usageMap::pointers + std::size_t{group} * 4;
     if (at + 4 > length_) raiseDatabaseFull();
-    return load32(row_ + at);
+    return load32(row() + at);
 }
 
 void MapRow::setBitmapOf(std::uint32_t group, std::uint32_t bitmap)
 {
-    store32(row_ + usageMap::pointers + std::size_t{group} * 4, bitmap);
+    store32(row() + usageMap::pointers + std::size_t{group} * 4, bitmap);
 }
 
 void MapRow::convert(std::span<const std::uint32_t> bitmaps)
@@ -81,7 +81,7 @@ void MapRow::convert(std::span<const std::uint32_t> bitmaps)
     if (usageMap::pointers + bitmaps.size() * 4 > length_) raiseDatabaseFull();
     std::array<char, pageSize> changed;
     std::memcpy(changed.data(), file_->page(page_), pageSize);
-    char* row = changed.data() + (row_ - file_->page(page_));
+    char* row = changed.data() + offset_;
     std::memset(row, 0, length_);
     row[0] = 1;
     for (std::size_t group = 0; group < bitmaps.size(); ++group)

@@ -15,12 +15,12 @@ public:
     /// Raises 3343 when there is no map.
     MapRow(PageFile& file, RowPointer at);
 
-    bool isInline() const { return row_[0] == 0; }
+    bool isInline() const { return row()[0] == 0; }
 
-    std::uint32_t firstPage() const { return load32(row_ + 1); }
-    std::span<char> bits() { return {row_ + usageMap::bits, length_ - usageMap::bits}; }
+    std::uint32_t firstPage() const { return load32(row() + 1); }
+    std::span<char> bits() { return {row() + usageMap::bits, length_ - usageMap::bits}; }
     bool covers(std::uint32_t page) const;
-    void setFirstPage(std::uint32_t page) { store32(row_ + 1, page); }
+    void setFirstPage(std::uint32_t page) { store32(row() + 1, page); }
     void setBit(std::uint32_t page, bool value);
 
     /// The bitmap page for a group of 32,736 pages; 0 for none. Raises 3183 past the last pointer.
@@ -32,9 +32,11 @@ public:
     void convert(std::span<const std::uint32_t> bitmaps);
 
 private:
+    char* row() const { return file_->page(page_) + offset_; }
+
     PageFile* file_;
     std::uint32_t page_;
-    char* row_;
+    std::size_t offset_; ///< of the row within its page
     std::size_t length_;
 };
 

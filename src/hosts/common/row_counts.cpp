@@ -1,6 +1,6 @@
 #include "hosts/common/row_counts.h"
 
-#include "backends/jet/mapped_file.h"
+#include "backends/jet/file_pages.h"
 #include "backends/jet/reader.h"
 #include "runtime/run_time_error.h"
 
@@ -8,8 +8,8 @@
 
 std::vector<std::pair<std::string, long long>> rowsByProcess(const std::string& database)
 try {
-    const jet::MappedFile file(database);
-    const jet::Reader reader(file.bytes());
+    const jet::FilePages file(database);
+    const jet::Reader reader(file.pages());
     const jet::TableDefinition* table = reader.find("tblTraces");
     const int process = table == nullptr ? -1 : table->find("Process");
     if (process < 0) return {};
@@ -23,8 +23,8 @@ try {
 
 bool hasRows(const std::string& database)
 try {
-    const jet::MappedFile file(database);
-    const jet::Reader reader(file.bytes());
+    const jet::FilePages file(database);
+    const jet::Reader reader(file.pages());
     const jet::TableDefinition* table = reader.find("tblTraces");
     return table != nullptr && reader.rows(*table).next();
 } catch (const RunTimeError&) {

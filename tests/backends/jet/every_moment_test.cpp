@@ -1,4 +1,3 @@
-#include "backends/jet/mapped_file.h"
 #include "backends/jet/row_filler.h"
 
 #include <gtest/gtest.h>
@@ -49,8 +48,8 @@ public:
         const Change change = head != head_   ? Change::oldPages
                               : tail != tail_ ? Change::newPages
                                               : Change::none;
-        head_ = head;
-        tail_ = tail;
+        if (head != head_) head_ = head;
+        if (tail != tail_) tail_ = tail;
         return change;
     }
 

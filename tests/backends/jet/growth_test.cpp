@@ -257,6 +257,24 @@ TEST(Growth, ALongTextThatDoesNotFitLeavesTheFileAsItWas)
     EXPECT_EQ(24u, pagesOf(scratch.path())) << "one more, for the row";
 }
 
+TEST(Growth, AFileThatIsCutWhileItIsWrittenRaises3343AndIsLeftAsItIs)
+{
+    for (const std::size_t pages : {1u, 17u, 30u}) {
+        SCOPED_TRACE(pages);
+        ScratchDatabase scratch;
+        auto engine = machineEngine();
+        const auto database = engine.openDatabase(scratch.path().string());
+        const auto traces = database->openRecordset("tblTraces");
+        for (std::size_t row = 0; row < 200; ++row) addNumberedRow(*traces, row);
+        std::filesystem::resize_file(scratch.path(), pages * 4096);
+        for (int round = 0; round < 3; ++round)
+            EXPECT_EQ(3343, errorOf([&] { addNumberedRow(*traces, 200); }));
+        traces->close();
+        database->close();
+        EXPECT_EQ(pages, pagesOf(scratch.path())) << "not made longer with zeros";
+    }
+}
+
 TEST(Growth, TheDatabaseStopsAtTheLastSafeSizeOfTheFormat)
 {
     ScratchDatabase scratch;

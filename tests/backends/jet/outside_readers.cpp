@@ -1,6 +1,6 @@
 #include "backends/jet/outside_readers.h"
 
-#include "backends/jet/mapped_file.h"
+#include "backends/jet/file_pages.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -38,8 +38,8 @@ std::vector<std::vector<std::string>> splitRows(const std::string& text)
 /// By our own reader; a test of its own compares them with what the others find.
 std::vector<std::string> columnsOf(const std::filesystem::path& path, const std::string& table)
 {
-    const jet::MappedFile file(path.string());
-    const jet::Reader reader(file.bytes());
+    const jet::FilePages file(path.string());
+    const jet::Reader reader(file.pages());
     std::vector<std::string> names;
     for (const auto& column : reader.find(table)->columns) names.push_back(column.name);
     return names;

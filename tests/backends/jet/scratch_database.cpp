@@ -1,6 +1,6 @@
 #include "backends/jet/scratch_database.h"
 
-#include "backends/jet/mapped_file.h"
+#include "backends/jet/file_pages.h"
 
 #include <gtest/gtest.h>
 
@@ -17,8 +17,8 @@ std::string bytesOfFile(const std::filesystem::path& path)
 
 std::vector<TextRow> rowsOf(const std::filesystem::path& path, const std::string& table)
 {
-    const jet::MappedFile file(path.string());
-    const jet::Reader reader(file.bytes());
+    const jet::FilePages file(path.string());
+    const jet::Reader reader(file.pages());
     const jet::TableDefinition* found = reader.find(table);
     if (found == nullptr) {
         ADD_FAILURE() << "no table " << table;
@@ -36,9 +36,9 @@ std::vector<TextRow> rowsOf(const std::filesystem::path& path, const std::string
 
 std::string problemsOf(const std::filesystem::path& path)
 {
-    const jet::MappedFile file(path.string());
+    const jet::FilePages file(path.string());
     std::string lines;
-    for (const auto& problem : jet::Reader(file.bytes()).problems()) lines += problem + "\n";
+    for (const auto& problem : jet::Reader(file.pages()).problems()) lines += problem + "\n";
     return lines;
 }
 
@@ -52,8 +52,7 @@ bool isHarmless(const std::string& problems)
 
 int pagesWithoutType(const std::filesystem::path& path)
 {
-    const jet::MappedFile file(path.string());
-    const std::string_view bytes = file.bytes();
+    const std::string bytes = bytesOfFile(path);
     int found = 0;
     for (std::size_t at = 4096; at < bytes.size(); at += 4096) // the header's type is 0
         found += bytes[at] == 0 ? 1 : 0;
