@@ -211,6 +211,8 @@ TEST_F(HostileSites, PathsInTheRegistryDoNotClimbOut)
         put(site / "registry.reg", text + sound.substr(from));
         ASSERT_NE(sound, contentOf(site / "registry.reg"));
         expectNothingOutsideIsTouched("the registry names " + place.string());
+        EXPECT_EQ(std::string::npos, run({"logs", "KoCSMgr"}).out.find("diag_KoCSMgr_2"))
+            << "logs of another server, at " << place;
     }
 }
 

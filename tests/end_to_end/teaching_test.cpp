@@ -83,7 +83,7 @@ TEST(BashCompletion, FollowsTheCommandLine)
     const Case cases[] = {
         {"a command by its beginning", {"ga"}, {"gather"}},
         {"its own commands", {"gather", "st"}, {"standard"}},
-        {"options of a command below", {"gather", "standard", "--t"}, {"--to"}},
+        {"options of a command below", {"gather", "standard", "--t"}, {"--to", "--tool-folder"}},
         {"options before the command are passed over", {"--site", "reset", "gath"}, {"gather"}},
         {"global options stand behind a command too", {"status", "--js"}, {"--json"}},
         {"a value of a few words", {"sample", "x", "--fields", "ex"}, {"extended"}},
