@@ -81,8 +81,12 @@ void JetField::setText(std::string_view text)
 {
     recordset_.requireAdding(noAddInProgress);
     if (!column_.isText()) return takeNumberOf(text);
-    checkCharacters(text.size());
-    cell_.text.assign(text.substr(0, capacity(column_)), recordset_.codePage());
+    const std::size_t most = capacity(column_);
+    if (text.empty() || text.size() > most) {
+        checkCharacters(text.size());
+        text = text.substr(0, most);
+    }
+    cell_.text.assign(text, recordset_.codePage());
     cell_.kind = Cell::Kind::text;
 }
 

@@ -161,8 +161,14 @@ void PageFile::trim()
 
 void PageFile::replace(std::uint32_t number, const char* content)
 {
-    if (!writeAll(file_, content, pageSize, std::uint64_t{number} * pageSize))
-        throw RunTimeError(runTimeErrors::deviceIo);
+    // What it leads to may be missing from the file.
+    if (failed()) {
+        std::memcpy(page(number), content, pageSize);
+        return;
+    }
+    if (writeAll(file_, content, pageSize, std::uint64_t{number} * pageSize)) return;
+    if (errno == EIO) throw RunTimeError(runTimeErrors::deviceIo);
+    raiseDiskFull();
 }
 
 bool PageFile::wasCut() const

@@ -63,7 +63,7 @@ public:
     /// that another program cut before stays as it is.
     void trim();
 
-    /// Replaces a page in one step that a kill can't divide. Raises 57.
+    /// Replaces a page in one step that a kill can't divide. Raises 57, 3026.
     void replace(std::uint32_t number, const char* content);
 
 private:

@@ -110,7 +110,8 @@ void TableAppender::store(std::span<const Cell> cells)
     const std::size_t rowBytes = shape_.rowBytes(variableBytes);
     if (rowBytes > dataPage::longestRow) raiseRowTooLarge();
 
-    const bool fits = current_ != 0 && DataPage(file_.page(current_)).hasRoom(rowBytes);
+    DataPage page(current_ == 0 ? nullptr : file_.page(current_));
+    const bool fits = current_ != 0 && page.hasRoom(rowBytes);
     std::uint32_t pages = fits ? 0 : 1;
     for (const auto& slot : variable_) {
         if (slot.memos) pages += slot.memos->pagesFor(slot.form);
@@ -119,7 +120,7 @@ void TableAppender::store(std::span<const Cell> cells)
 
     storeLongValues(cells);
     if (fits) {
-        DataPage page(file_.page(current_));
+        if (pages > 0) page = DataPage(file_.page(current_)); // a long text may be in its place
         target_ = {current_, static_cast<std::uint8_t>(page.rows())};
         writeRow(page.place(rowBytes), cells, variableBytes);
         page.publish(rowBytes);
