@@ -10,6 +10,7 @@
 
 #include "cabmaker/cabinet_maker.h"
 #include "runtime/run_time_error.h"
+#include "runtime/visible_text.h"
 
 namespace {
 
@@ -96,8 +97,8 @@ int makeCabinet(const std::string& directivePath, Interruption& interruption)
                         .checkpoint = [&] { interruption.check(); }});
     const std::string cabinets =
         made.cabinets == 1 ? "" : " in " + std::to_string(made.cabinets) + " cabinets";
-    std::printf("%s: %zu files, %llu bytes packed into %llu%s\n", made.path.c_str(), made.members,
-                static_cast<unsigned long long>(made.plainBytes),
+    std::printf("%s: %zu files, %llu bytes packed into %llu%s\n", visibleText(made.path).c_str(),
+                made.members, static_cast<unsigned long long>(made.plainBytes),
                 static_cast<unsigned long long>(made.bytes), cabinets.c_str());
     return statusDone;
 }
@@ -113,7 +114,7 @@ int run(const std::string& directivePath)
     } catch (const std::exception& error) {
         failure = error.what();
     }
-    std::fprintf(stderr, "cabmaker: %s\n", failure.c_str());
+    std::fprintf(stderr, "cabmaker: %s\n", visibleText(failure).c_str());
     interruption.deliver();
     return statusFailed;
 }

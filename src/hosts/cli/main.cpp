@@ -1,4 +1,5 @@
 #include "hosts/cli/command.h"
+#include "hosts/cli/message.h"
 #include "hosts/cli/output.h"
 #include "hosts/cli/program.h"
 #include "runtime/run_time_error.h"
@@ -13,7 +14,7 @@ namespace {
 
 int refuse(const std::string& text, int status)
 {
-    if (!text.empty()) std::fprintf(stderr, "orvandiag: %s\n", shownByTerminal(text).c_str());
+    if (!text.empty()) printMessage(text);
     return status;
 }
 

@@ -1,13 +1,12 @@
 #include "hosts/cli/open_tool.h"
 
 #include "hosts/cli/interrupt.h"
-#include "hosts/cli/output.h"
+#include "hosts/cli/message.h"
 #include "hosts/cli/program.h"
 #include "hosts/common/places.h"
 #include "shell/snapin_definition.h"
 
 #include <cctype>
-#include <cstdio>
 #include <filesystem>
 
 #include <unistd.h>
@@ -34,9 +33,7 @@ HostFacts hostFacts(const GlobalOptions& options)
     facts.commandLine = "orvandiag";
     facts.developmentHost = options.developmentHost;
     facts.interrupted = interruptNoted;
-    facts.notice = [](const std::string& text) {
-        std::fprintf(stderr, "orvandiag: %s\n", shownByTerminal(text).c_str());
-    };
+    facts.notice = printMessage;
     if (!options.toolFolder.empty()) facts.toolFolder = wholePath(options.toolFolder);
     return facts;
 }

@@ -1,13 +1,13 @@
 #include "hosts/cli/output.h"
 
 #include "hosts/cli/command.h"
+#include "hosts/cli/message.h"
 #include "hosts/common/shown_width.h"
+#include "runtime/visible_text.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-
-#include <unistd.h>
 
 namespace {
 
@@ -40,19 +40,6 @@ void appendJsonText(std::string& json, std::string_view text)
     json += '"';
 }
 
-std::string shownByTerminal(std::string_view text)
-{
-    std::string shown(text);
-    for (std::size_t at = 0; at < shown.size(); ++at) {
-        const auto byte = static_cast<unsigned char>(shown[at]);
-        const bool layout = byte == '\n' || byte == '\t';
-        if ((byte < 0x20 && !layout) || byte == 0x7F) shown[at] = '?';
-        const bool second = byte >= 0x80 && byte <= 0x9F && at > 0 && shown[at - 1] == '\xC2';
-        if (second) shown.replace(at - 1, 2, "?"); // U+0080 to U+009F
-    }
-    return shown;
-}
-
 void Output::value(const Json& json)
 {
     line(json.dump(-1, ' ', false, Json::error_handler_t::replace));
@@ -60,21 +47,18 @@ void Output::value(const Json& json)
 
 void Output::text(std::string_view text)
 {
-    static const bool terminal = ::isatty(STDOUT_FILENO) == 1;
-    const std::string safe = terminal ? shownByTerminal(text) : std::string();
-    if (terminal) text = safe;
-    if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) failed_ = true;
+    const std::string visible = visibleText(text, LineEnds::kept);
+    if (std::fwrite(visible.data(), 1, visible.size(), stdout) != visible.size()) failed_ = true;
 }
 
 void Output::line(std::string_view content)
 {
-    text(content);
-    text("\n");
+    text(visibleText(content) + "\n");
 }
 
 void Output::message(const std::string& text)
 {
-    std::fprintf(stderr, "orvandiag: %s\n", shownByTerminal(text).c_str());
+    printMessage(text);
 }
 
 void Output::finish()
@@ -93,6 +77,7 @@ Table::Table(std::vector<std::string> headers) : right_(headers.size(), false)
 void Table::row(std::vector<std::string> cells)
 {
     cells.resize(right_.size());
+    for (std::string& cell : cells) cell = visibleText(cell);
     rows_.push_back(std::move(cells));
 }
 

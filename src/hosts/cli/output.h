@@ -14,11 +14,8 @@ using Json = nlohmann::ordered_json;
 /// Cheap for plain ASCII: a log has a hundred thousand texts and more.
 void appendJsonText(std::string& json, std::string_view text);
 
-/// A text that a terminal shows and does not obey: a control character, which a name or a line of a
-/// site may hold, is a question mark. Line ends and tabs stay.
-std::string shownByTerminal(std::string_view text);
-
-/// Where results go: standard output, as text or as JSON.
+/// Where results go: standard output, as text or as JSON. What would act on a terminal instead of
+/// being seen is written out (`visibleText`); into a pipe too, behind which a terminal may be.
 class Output {
 public:
     explicit Output(bool json) : json_(json) {}
@@ -28,9 +25,10 @@ public:
     /// One JSON value and a line end.
     void value(const Json& json);
 
-    /// Text as it is, or as a terminal shows it where it goes to one, without a line end of its own.
+    /// Lines, without a line end of its own. A name in them may hold anything but a line feed.
     void text(std::string_view text);
 
+    /// One line; the text may hold anything.
     void line(std::string_view text);
 
     /// A line for the person on standard error, beside the results.
@@ -44,7 +42,7 @@ private:
     bool failed_ = false;
 };
 
-/// Columns of text, padded to the width of their widest cell. Cells are UTF-8.
+/// Columns of text, padded to the width of their widest cell. A cell may hold anything.
 class Table {
 public:
     explicit Table(std::vector<std::string> headers);

@@ -1,5 +1,7 @@
 #include "hosts/cli/progress_line.h"
 
+#include "runtime/visible_text.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -36,9 +38,9 @@ void ProgressLine::show(double done, const std::string& caption)
     std::string line = "[" + std::string(static_cast<std::size_t>(filled), '#') +
                        std::string(static_cast<std::size_t>(barWidth - filled), '.') + "] ";
     const std::string percent = std::to_string(static_cast<int>(part * 100)) + "%";
-    line += std::string(4 - percent.size(), ' ') + percent + "  " + caption;
+    line += std::string(4 - percent.size(), ' ') + percent + "  " + visibleText(caption);
     const auto room = static_cast<std::size_t>(std::max(width_ - 1, 1));
-    if (line.size() > room) line.resize(room);
+    line = firstCharacters(line, room);
     std::fprintf(stderr, "\r\033[K%s", line.c_str());
     std::fflush(stderr);
 }

@@ -1,15 +1,12 @@
 #include "hosts/cli/terminal_desktop.h"
 
-#include "hosts/cli/output.h"
+#include "hosts/cli/message.h"
 #include "runtime/text.h"
-
-#include <cstdio>
 
 void TerminalDesktop::messageBox(const std::string& text, const std::string&, MessageIcon icon)
 {
     if (beforeMessage_) beforeMessage_();
-    std::fprintf(stderr, "orvandiag: %s\n",
-                 shownByTerminal(replaceAll(text, lineBreak, "  ")).c_str());
+    printMessage(replaceAll(text, lineBreak, "  "));
     if (icon == MessageIcon::critical) failures_.push_back(text);
 }
 

@@ -1,12 +1,12 @@
 #include "hosts/cli/trace_check.h"
 
 #include "backends/portable/whole_file.h"
+#include "hosts/cli/message.h"
 #include "hosts/cli/output.h"
 #include "platform/database.h"
 #include "traces/trace_bits.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <fcntl.h>
 #include <sstream>
 #include <unistd.h>
@@ -63,9 +63,7 @@ void TraceCheck::expect(TraceExpectation expected)
 {
     expected_ = std::move(expected);
     for (const std::string& part : expected_.impossible)
-        std::fprintf(stderr,
-                     "orvandiag: a macro trace asks for what this server does not have: %s\n",
-                     part.c_str());
+        printMessage("a macro trace asks for what this server does not have: " + part);
     eventsBefore_ = eventLogSize();
     tool_.registry().forget();
     tool_.context().onTrappedError = [this](const RunTimeError& error, std::string_view) {

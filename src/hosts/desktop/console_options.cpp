@@ -1,6 +1,7 @@
 #include "hosts/desktop/console_options.h"
 
 #include "hosts/desktop/commands.h"
+#include "runtime/visible_text.h"
 
 #include <QCommandLineParser>
 #include <QRegularExpression>
@@ -17,7 +18,7 @@ const QString themeNames[] = {QStringLiteral("system"), QStringLiteral("light"),
 
 NoWindow refused(const QString& sentence)
 {
-    return {"orvandiag-console: " + sentence.toStdString() +
+    return {"orvandiag-console: " + visibleText(sentence.toStdString()) +
                 " (orvandiag-console --help tells the options)\n",
             wrongUsage};
 }

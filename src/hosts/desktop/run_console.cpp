@@ -6,6 +6,7 @@
 #include "hosts/desktop/program.h"
 #include "hosts/desktop/screenshot.h"
 #include "hosts/desktop/theme.h"
+#include "runtime/visible_text.h"
 
 #include <QAction>
 #include <QApplication>
@@ -22,7 +23,7 @@ namespace {
 
 int refuse(const char* text)
 {
-    std::fprintf(stderr, "orvandiag-console: %s\n", text);
+    std::fprintf(stderr, "orvandiag-console: %s\n", visibleText(text).c_str());
     return 1;
 }
 

@@ -48,6 +48,16 @@ TreeNode& macroTraceNode(const TreeView& tree, const std::string& wanted)
     throw noSuchMacroTrace(wanted);
 }
 
+/// A text of the tool, with its line breaks; a lone line feed stands in somebody's name.
+void printLines(Output& output, std::string_view text)
+{
+    for (auto end = text.find(lineBreak); end != text.npos; end = text.find(lineBreak)) {
+        output.line(text.substr(0, end));
+        text.remove_prefix(end + lineBreak.size());
+    }
+    output.line(text);
+}
+
 class MacroCommand final : public Command {
 public:
     std::string name() const override { return "macro"; }
@@ -147,7 +157,7 @@ private:
         if (output.json())
             output.value({{"summary", summary}});
         else
-            output.line(replaceAll(summary, lineBreak, "\n"));
+            printLines(output, summary);
     }
 
     CLI::App* set_ = nullptr;

@@ -7,6 +7,7 @@
 #include "platform/controls.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "runtime/visible_text.h"
 #include "server/diagnostic_grid_catalogue.h"
 
 #include <CLI/CLI.hpp>
@@ -188,12 +189,13 @@ private:
             for (const TreeNode* node : tree.roots()) {
                 if (!component_.empty() && node->key() != component_) continue;
                 Json levels = Json::array();
-                text += node->text() + "\n";
+                text += visibleText(node->text()) + "\n";
                 for (const TreeNode* level = node->child(); level; level = level->next()) {
                     levels.push_back({{"level", levelOf(*level)},
                                       {"text", levelText(*level)},
                                       {"enabled", level->checked()}});
-                    text += (level->checked() ? "  x " : "    ") + level->text() + "\n";
+                    text +=
+                        (level->checked() ? "  x " : "    ") + visibleText(level->text()) + "\n";
                 }
                 all.push_back({{"component", node->key()},
                                {"text", mdlDiagnosticGrids::GetDiagnosticLevelText(tool.context(),

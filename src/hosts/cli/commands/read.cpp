@@ -5,6 +5,7 @@
 #include "hosts/common/shown_width.h"
 #include "platform/file_system.h"
 #include "runtime/numbers.h"
+#include "runtime/visible_text.h"
 
 #include <CLI/CLI.hpp>
 
@@ -68,6 +69,14 @@ void printJson(Output& output, ListView& list, const CodePage& codePage)
     }
 }
 
+/// Appends the bytes of a log as they are printed.
+void appendPrinted(std::string& line, std::string_view bytes, const CodePage& codePage)
+{
+    std::string decoded;
+    codePage.appendUtf8(decoded, bytes);
+    appendVisible(line, decoded);
+}
+
 /// The columns of a terminal that each byte of a log takes.
 std::array<std::uint8_t, 256> widthsOfBytes(const CodePage& codePage)
 {
@@ -75,7 +84,7 @@ std::array<std::uint8_t, 256> widthsOfBytes(const CodePage& codePage)
     for (std::size_t byte = 0; byte < widths.size(); ++byte) {
         const char letter = static_cast<char>(byte);
         std::string shown;
-        codePage.appendUtf8(shown, {&letter, 1});
+        appendPrinted(shown, {&letter, 1}, codePage);
         widths[byte] = static_cast<std::uint8_t>(shownWidth(shown));
     }
     return widths;
@@ -113,10 +122,10 @@ void printColumns(Output& output, ListView& list, const CodePage& codePage)
         line.clear();
         const ListItem row = list.shown(place);
         for (int column = 1; column < count; ++column) {
-            codePage.appendUtf8(line, row.subItem(column));
+            appendPrinted(line, row.subItem(column), codePage);
             fill(column, widthOf(row.subItem(column)));
         }
-        codePage.appendUtf8(line, row.note().empty() ? row.subItem(count) : row.note());
+        appendPrinted(line, row.note().empty() ? row.subItem(count) : row.note(), codePage);
         output.line(line);
     }
 }
@@ -135,9 +144,11 @@ public:
                "as\n"
                "those of data files, has blank columns and stands behind them as it is (with "
                "--json as\n"
-               "\"raw\"). Logs of more than 2,500,000 bytes are not shown: gather them, and read "
-               "the\n"
-               "formatted copy in an editor.\n\n"
+               "\"raw\"). What would act on a terminal instead of being seen, such as an escape, "
+               "is written\n"
+               "out (\\x1b), in a pipe too; --json has every character as it is. Logs of more than "
+               "2,500,000\n"
+               "bytes are not shown: gather them, and read the formatted copy in an editor.\n\n"
                "  orvandiag logs KoCSMgr\n"
                "  orvandiag read diag_KoCSMgr_20250219_144115.txt | less -S\n"
                "  orvandiag --json read ./old.txt | grep '\"level\":2'";

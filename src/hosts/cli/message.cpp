@@ -1,0 +1,10 @@
+#include "hosts/cli/message.h"
+
+#include "runtime/visible_text.h"
+
+#include <cstdio>
+
+void printMessage(std::string_view text)
+{
+    std::fprintf(stderr, "orvandiag: %s\n", visibleText(text).c_str());
+}

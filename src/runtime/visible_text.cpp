@@ -1,0 +1,111 @@
+#include "runtime/visible_text.h"
+
+#include "runtime/text.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr char32_t lowestOfTwoBytes = 0x80;
+constexpr std::size_t longestHidden = 3; ///< bytes of the longest character that is written out
+
+bool isPlain(char c)
+{
+    return (c >= ' ' && c <= '~') || c == '\t';
+}
+
+/// The code point of a character of at most three bytes; of a longer one some value past them.
+char32_t codePoint(std::string_view character)
+{
+    if (character.size() > longestHidden) return ~char32_t{0};
+    char32_t point = static_cast<unsigned char>(character.front());
+    if (character.size() > 1) point &= 0x7FU >> character.size();
+    for (const char next : character.substr(1))
+        point = point << 6 | (static_cast<unsigned char>(next) & 0x3FU);
+    return point;
+}
+
+/// Of the characters past ASCII.
+bool actsUnseen(char32_t point)
+{
+    const bool control = point >= lowestOfTwoBytes && point < 0xA0;
+    const bool directionMark = point == 0x61C || point == 0x200E || point == 0x200F ||
+                               (point >= 0x202A && point <= 0x202E) ||
+                               (point >= 0x2066 && point <= 0x2069);
+    const bool separator = point == 0x2028 || point == 0x2029;
+    return control || directionMark || separator;
+}
+
+void appendHexadecimal(std::string& target, char32_t value, int digits)
+{
+    for (int shift = 4 * (digits - 1); shift >= 0; shift -= 4)
+        target += "0123456789abcdef"[value >> shift & 0xF];
+}
+
+void appendByte(std::string& target, char byte)
+{
+    appendHexadecimal(target.append("\\x"), static_cast<unsigned char>(byte), 2);
+}
+
+void appendPoint(std::string& target, char32_t point)
+{
+    appendHexadecimal(target.append("\\u"), point, 4);
+}
+
+/// A character that is not plain, or the one byte that is none.
+void appendCharacter(std::string& target, std::string_view character, bool isUtf8,
+                     LineEnds lineEnds)
+{
+    const char lead = character.front();
+    if (lead == '\n' && lineEnds == LineEnds::kept) {
+        target += lead;
+        return;
+    }
+    if (!isUtf8 || static_cast<unsigned char>(lead) < ' ') {
+        appendByte(target, lead);
+        return;
+    }
+    const char32_t point = codePoint(character);
+    if (point == 0x7F || actsUnseen(point))
+        appendPoint(target, point);
+    else
+        target += character;
+}
+
+bool isContinuation(char c)
+{
+    return (static_cast<unsigned char>(c) & 0xC0U) == 0x80;
+}
+
+} // namespace
+
+void appendVisible(std::string& target, std::string_view text, LineEnds lineEnds)
+{
+    while (!text.empty()) {
+        const auto plain = static_cast<std::size_t>(
+            std::find_if_not(text.begin(), text.end(), isPlain) - text.begin());
+        target += text.substr(0, plain);
+        text.remove_prefix(plain);
+        if (text.empty()) return;
+        const std::size_t length = utf8CharacterLength(text);
+        const std::string_view character = text.substr(0, std::max<std::size_t>(length, 1));
+        appendCharacter(target, character, length != 0, lineEnds);
+        text.remove_prefix(character.size());
+    }
+}
+
+std::string visibleText(std::string_view text, LineEnds lineEnds)
+{
+    std::string visible;
+    visible.reserve(text.size());
+    appendVisible(visible, text, lineEnds);
+    return visible;
+}
+
+std::string_view firstCharacters(std::string_view text, std::size_t count)
+{
+    std::size_t end = 0;
+    for (; end < text.size(); ++end)
+        if (!isContinuation(text[end]) && count-- == 0) break;
+    return text.substr(0, end);
+}
