@@ -71,6 +71,15 @@ unsigned long long inodeOf(const std::string& file)
     return ::lstat(file.c_str(), &facts) == 0 ? facts.st_ino : 0;
 }
 
+/// Steps of the database's machine that one statement may take: about a second. A view may be written
+/// so that it never ends.
+constexpr int mostSteps = 50'000'000;
+
+int endTooLong(void*)
+{
+    return 1;
+}
+
 int waitForLock(void* patience, int tries)
 {
     return static_cast<LockPatience*>(patience)->wait(tries) ? 1 : 0;
@@ -85,6 +94,7 @@ std::string failureText(sqlite3* database)
 {
     if (failureCode(database) == SQLITE_BUSY)
         return "another program holds it and did not let go in time";
+    if (failureCode(database) == SQLITE_INTERRUPT) return "the statement does not come to an end";
     return sqlite3_errmsg(database);
 }
 
@@ -127,6 +137,7 @@ void SqliteStatement::release()
 {
     if (!statement_) return;
     sqlite3_reset(statement_);
+    sqlite3_stmt_status(statement_, SQLITE_STMTSTATUS_VM_STEP, 1); // its next use counts anew
     sqlite3_clear_bindings(statement_);
     statement_ = nullptr;
     owner_.reset();
@@ -179,6 +190,7 @@ int SqliteHandle::connect(const std::string& file, int flags, std::string& failu
                                  flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_NOFOLLOW, nullptr);
     if (result == SQLITE_OK) {
         sqlite3_extended_result_codes(database_, 1);
+        sqlite3_progress_handler(database_, mostSteps, endTooLong, nullptr);
         sqlite3_busy_handler(database_, waitForLock, patience_.get());
         result = sqlite3_exec(database_, "PRAGMA schema_version", nullptr, nullptr, nullptr);
         if (result == SQLITE_OK) return result;

@@ -12,6 +12,10 @@
 
 namespace {
 
+/// A server has some hundred components and some thousand settings; a view can be written so that
+/// it has no end.
+constexpr int mostRows = 100'000;
+
 Value columnValue(sqlite3_stmt* statement, int column)
 {
     switch (sqlite3_column_type(statement, column)) {
@@ -180,7 +184,11 @@ bool SqliteRecordset::step()
 {
     if (!statement_.get()) return false;
     const int result = sqlite3_step(statement_.get());
-    if (result == SQLITE_ROW) return true;
+    if (result == SQLITE_ROW && ++steps_ <= mostRows) return true;
+    row_ = false; // who goes on after the failure is past the last row
+    if (result == SQLITE_ROW)
+        throw RunTimeError(databaseErrors::statementRefused,
+                           "The query gives more than 100,000 rows.");
     if (result != SQLITE_DONE) handle_->fail();
     statement_ = {}; // the next query of this text may use it from now on
     return false;

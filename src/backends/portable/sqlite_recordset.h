@@ -40,7 +40,8 @@ private:
     bool readAgain() const;
     void endWalk();
 
-    /// Moves the statement on. True for a row.
+    /// Moves the statement on. True for a row. Raises for one too many of them, or what the
+    /// statement fails with, and there is no row then.
     bool step();
 
     std::shared_ptr<SqliteHandle> handle_;
@@ -48,6 +49,7 @@ private:
     CursorKind cursor_;
     bool open_ = true;
     bool row_ = false; ///< the statement stands on a row
+    int steps_ = 0;    ///< rows that the statement gave
     std::vector<std::string> columns_;
     std::size_t position_ = 0;
 

@@ -119,6 +119,39 @@ TEST_F(SiteDatabaseTest, ReadsAColumnByName)
     EXPECT_EQ(3704, errorOf([&] { rows->atEnd(); }));
 }
 
+TEST_F(SiteDatabaseTest, EndsAQueryThatHasNoEnd)
+{
+    constexpr const char* endless =
+        "CREATE VIEW endless AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n)"
+        " SELECT 'N' || i Name, i Flags FROM n;"
+        "CREATE VIEW empty AS SELECT * FROM endless WHERE Flags < 0;";
+    execute(file, endless);
+    open();
+    for (const CursorKind cursor : {CursorKind::forwardOnly, CursorKind::keyset})
+        EXPECT_EQ(-2147217900, errorOf([&] {
+            database.openRecordset("SELECT * FROM empty", cursor, LockKind::optimistic);
+        }));
+    EXPECT_EQ(-2147217900, errorOf([&] { keyset("SELECT * FROM endless"); }));
+
+    auto rows = database.openRecordset("SELECT * FROM endless", CursorKind::forwardOnly,
+                                       LockKind::optimistic);
+    int passed = 0;
+    const int failure = errorOf([&] {
+        for (; !rows->atEnd(); rows->moveNext()) ++passed;
+    });
+    EXPECT_EQ(-2147217900, failure);
+    EXPECT_EQ(100'000, passed);
+    EXPECT_TRUE(rows->atEnd()) << "who goes on after a failure comes to an end too";
+}
+
+TEST_F(SiteDatabaseTest, CountsTheStepsOfEachUseOfAStatementAnew)
+{
+    execute(file, "CREATE VIEW long AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1"
+                  " FROM n WHERE i < 400000) SELECT COUNT(*) Flags FROM n;");
+    open();
+    for (int use = 0; use < 12; ++use) EXPECT_EQ(Value(400000), one("SELECT Flags FROM long"));
+}
+
 TEST_F(SiteDatabaseTest, RefusesAQuoteThatIsNotEscaped)
 {
     open();
