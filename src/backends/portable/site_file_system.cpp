@@ -21,6 +21,14 @@ namespace {
 
 using namespace runTimeErrors;
 
+constexpr int deviceUnavailable = 68;
+
+/// Whether an error says that nothing is there, and not that nobody may see what is.
+bool saysNothingThere(int error)
+{
+    return error == fileNotFound || error == pathNotFound || error == deviceUnavailable;
+}
+
 bool isReadOnly(mode_t mode)
 {
     return (mode & S_IWUSR) == 0;
@@ -81,16 +89,23 @@ public:
     struct stat factsOf(const std::string& name)
     {
         struct stat facts {};
+        unseen_ = 0;
         target_ = FileDescriptor();
         if (const auto standIn = standIns_.find(name); standIn != standIns_.end()) {
             target_ = FileDescriptor(::open(standIn->second.c_str(), O_PATH | O_CLOEXEC));
         } else if (::fstatat(folder_.get(), name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) == 0) {
             if (!S_ISLNK(facts.st_mode)) return facts;
             target_ = place_.root.open(below(place_.path, name), O_PATH);
+        } else if (errno != ENOENT) {
+            unseen_ = errno;
         }
         if (!target_.isOpen() || ::fstat(target_.get(), &facts) != 0) facts.st_mode = 0;
         return facts;
     }
+
+    /// Why the machine would not tell the facts of the last `factsOf`; 0 when it did, and for what
+    /// has gone since the listing.
+    int unseen() const { return unseen_; }
 
     /// Where the entry of the last `factsOf` is: a descriptor, and the name in it.
     std::pair<int, std::string> entry(const std::string& name) const
@@ -104,6 +119,7 @@ private:
     const SitePaths::StandIns& standIns_;
     FileDescriptor folder_;
     FileDescriptor target_;
+    int unseen_ = 0;
 };
 
 } // namespace
@@ -158,6 +174,18 @@ std::int64_t SiteFileSystem::folderSize(const std::string& path) const
     return place.root.size(place.path);
 }
 
+/// Whether a folder is there to be listed. Raises 70, 57 where that can't be told: a folder that
+/// nobody may see is not an empty one.
+bool SiteFileSystem::hasFolder(const std::string& path) const
+try {
+    const SitePlace place = paths_.place(path);
+    const auto facts = place.root.facts(place.path);
+    return facts && S_ISDIR(facts->st_mode);
+} catch (const RunTimeError& error) {
+    if (saysNothingThere(error.number())) return false;
+    throw;
+}
+
 /// Names in a folder, and of what stands in for its missing contents. Raises 76.
 std::vector<std::string> SiteFileSystem::namesIn(const SitePlace& place,
                                                  const std::string& folder) const
@@ -176,6 +204,7 @@ std::vector<FileInfo> SiteFileSystem::entries(const std::string& folder) const
     std::vector<FileInfo> found;
     for (auto& name : namesIn(place, folder)) {
         const auto facts = listing.factsOf(name);
+        if (listing.unseen() != 0) throw posixError(listing.unseen(), pathNotFound);
         if (!S_ISREG(facts.st_mode) && !S_ISDIR(facts.st_mode)) continue;
         const auto [where, nameThere] = listing.entry(name);
         found.push_back(describe(where, nameThere, std::move(name), facts));
@@ -190,12 +219,15 @@ std::vector<std::string> SiteFileSystem::matching(const std::string& pattern) co
     const FilePattern wanted(std::string_view(pattern).substr(lastName));
     std::vector<std::string> found;
     const auto& standIns = paths_.standInsOf(folder);
-    if (standIns.empty() && !folderExists(folder)) return found;
+    if (standIns.empty() && !hasFolder(folder)) return found;
     const SitePlace place = paths_.place(folder);
     Listing listing(place, standIns);
-    for (auto& name : namesIn(place, folder))
-        if (wanted.matches(name) && S_ISREG(listing.factsOf(name).st_mode))
+    for (auto& name : namesIn(place, folder)) {
+        if (!wanted.matches(name)) continue;
+        // A file that nobody can look at is listed: who goes on to it hears why.
+        if (S_ISREG(listing.factsOf(name).st_mode) || listing.unseen() != 0)
             found.push_back(std::move(name));
+    }
     return found;
 }
 

@@ -44,6 +44,7 @@ public:
     void changeFolder(const std::string& path) override;
 
 private:
+    bool hasFolder(const std::string& path) const;
     std::vector<std::string> namesIn(const SitePlace& place, const std::string& folder) const;
     FileInfo describe(int folder, const std::string& nameInFolder, std::string name,
                       const struct stat& facts) const;

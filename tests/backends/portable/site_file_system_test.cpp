@@ -6,6 +6,7 @@
 
 #include <csignal>
 #include <fcntl.h>
+#include <sys/fsuid.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -154,6 +155,48 @@ TEST_F(SiteFileSystemTest, RemovesNothingThroughALink)
     EXPECT_EQ(70, errorOf([&] { files.deleteFile("C:\\LOGS\\keep.LOG"); }));
     EXPECT_NE(0, errorOf([&] { files.removeFolder("C:\\LOGS"); }));
     EXPECT_TRUE(folder.exists("drive_c/other/keep.LOG"));
+}
+
+/// While it lives, files are those of a user whom nobody gave leave to anything: root may see all.
+struct AsNobody {
+    AsNobody() { ::setfsuid(65534); }
+    ~AsNobody() { ::setfsuid(::geteuid()); }
+    AsNobody(const AsNobody&) = delete;
+    AsNobody& operator=(const AsNobody&) = delete;
+};
+
+TEST_F(SiteFileSystemTest, AFolderThatNobodyMaySeeIsNoEmptyOne)
+{
+    put("logs/a.txt");
+    const auto permissions = [&](const char* name, fs::perms allowed) {
+        fs::permissions(folder / ("drive_c/" + std::string(name)), allowed);
+    };
+    fs::permissions(folder.path(), fs::perms(0755));
+    permissions("logs", fs::perms(0700));
+    {
+        const AsNobody nobody;
+        if (::access((folder / "drive_c/logs/a.txt").c_str(), F_OK) == 0 && ::geteuid() != 0)
+            GTEST_SKIP() << "the folder is this user's own";
+        EXPECT_EQ(70, errorOf([&] { files.matching("C:\\logs\\*.txt"); }));
+        EXPECT_EQ(70, errorOf([&] { files.matching("C:\\logs\\below\\*.txt"); }));
+    }
+    permissions("logs", fs::perms(0744));
+    {
+        const AsNobody nobody;
+        EXPECT_THAT(files.matching("C:\\logs\\*.txt"), ElementsAre("a.txt"))
+            << "who goes on to it hears why it can't be looked at";
+        EXPECT_EQ(70, errorOf([&] { files.file("C:\\logs\\a.txt"); }));
+        EXPECT_EQ(70, errorOf([&] { files.entries("C:\\logs"); }));
+    }
+    permissions("logs", fs::perms(0755));
+}
+
+TEST_F(SiteFileSystemTest, AFolderThatLeavesItsDriveIsNoEmptyOne)
+{
+    const TemporaryFolder outside;
+    outside.write("a.txt");
+    fs::create_directory_symlink(outside.path(), folder / "drive_c/logs");
+    EXPECT_EQ(70, errorOf([&] { files.matching("C:\\logs\\*.txt"); }));
 }
 
 TEST_F(SiteFileSystemTest, FindsPlainFilesByPattern)
