@@ -5,6 +5,10 @@
 
 #include <CLI/CLI.hpp>
 
+#include <chrono>
+#include <optional>
+#include <thread>
+
 namespace {
 
 constexpr const char* signalName = "Cycle Diag File Time Set";
@@ -21,26 +25,43 @@ public:
     void run(const GlobalOptions& options, Output& output) override
     {
         OpenTool tool(options, ToolUse::change);
+        const auto before = signalOf(tool);
         tool.registry().forget();
         tool.console().clickTask(taskKey);
+        auto after = signalOf(tool);
+        if (after && after == before && tool.registry().refusalOf(signalName).empty()) {
+            // The signal is a moment in seconds: one of the same second changes nothing.
+            std::this_thread::sleep_for(std::chrono::seconds(1));
+            tool.console().clickTask(taskKey);
+            after = signalOf(tool);
+        }
         const std::string refusal = tool.registry().refusalOf(signalName);
-        const RegistryData stored = getRegistryValue(tool.context(), HKEY_LOCAL_MACHINE,
-                                                     std::string(logManagerKey) + "\\BroadCast",
-                                                     signalName, REG_BINARY, {});
         const std::string status = tool.console().currentView().statusBarText();
         tool.close();
-        const auto* bytes = std::get_if<std::vector<std::uint8_t>>(&stored);
-        if (!bytes)
+        if (!after)
             throw CommandFailure("the signal could not be written: the site's registry has no key "
                                  "RoLogMgr\\BroadCast that takes it");
         if (!refusal.empty()) throw CommandFailure("the signal was not given: " + refusal);
+        if (before == after)
+            throw CommandFailure("the signal was not given: it is what it was before, and the "
+                                 "server sees no change");
         if (output.json())
-            output.value({{"signal", signalName}, {"bytes", hex(*bytes)}});
+            output.value({{"signal", signalName}, {"bytes", hex(*after)}});
         else
             output.line(status);
     }
 
 private:
+    /// The signal as it stands in the registry; none when no bytes stand there.
+    static std::optional<std::vector<std::uint8_t>> signalOf(OpenTool& tool)
+    {
+        const RegistryData stored = getRegistryValue(tool.context(), HKEY_LOCAL_MACHINE,
+                                                     std::string(logManagerKey) + "\\BroadCast",
+                                                     signalName, REG_BINARY, {});
+        const auto* bytes = std::get_if<std::vector<std::uint8_t>>(&stored);
+        return bytes ? std::optional(*bytes) : std::nullopt;
+    }
+
     static std::string hex(const std::vector<std::uint8_t>& bytes)
     {
         constexpr const char* digits = "0123456789abcdef";

@@ -135,6 +135,10 @@ private:
         mdlLanguage::recordOriginalLanguage(tool.context(), language);
         const std::string refusal = tool.registry().refusalOf("OriginalEventLogLanguage");
         if (!refusal.empty()) throw CommandFailure(language + " can't be kept: " + refusal);
+        const std::string kept = mdlLanguage::originalLanguage(tool.context());
+        if (kept != language)
+            throw CommandFailure(language + " can't be kept: the registry holds " +
+                                 (kept.empty() ? "no language" : kept));
     }
 
     void report(Output& output, const EventLanguages& shown) const

@@ -1,8 +1,10 @@
 #include "core/language_table.h"
 #include "core/localisation.h"
+#include "core/registry_store.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
+#include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "settings/about_box.h"
 
@@ -11,6 +13,7 @@
 namespace {
 
 constexpr const char* english = "ENU";
+constexpr const char* valueName = "CurrentLocalizationLanguage";
 
 using Codes = std::vector<std::string>;
 
@@ -66,7 +69,11 @@ public:
                       });
         frmAbout& box = tool.snapIn().showAbout();
         const Codes available = offered(tool.context().language.g_astrLanguages);
-        if (!code_.empty()) box.mnuLanguageList_Click(menuPlace(available, code_));
+        tool.registry().forget();
+        if (!code_.empty()) {
+            box.mnuLanguageList_Click(menuPlace(available, code_));
+            if (!available.empty()) requireChosen(tool);
+        }
         const std::int32_t current = tool.context().language.g_lngCurrentLanguage;
         const std::string title = box.caption();
         const std::string name = languageName(tool.context(), current);
@@ -85,6 +92,20 @@ public:
     }
 
 private:
+    /// Looks whether the language is in force, and whether the registry has it.
+    void requireChosen(OpenTool& tool) const
+    {
+        const LanguageState& language = tool.context().language;
+        if (!equalIgnoringCase(codeFromLanguageId(language.g_lngCurrentLanguage), code_) ||
+            language.g_hResourceLibrary == 0)
+            throw CommandFailure("the texts of " + code_ + " can't be loaded");
+        const std::string number = numberText(std::int64_t{language.g_lngCurrentLanguage});
+        const std::string refusal = tool.registry().refusalOf(valueName);
+        if (getRegistryText(tool.context(), toolKey, valueName) != number)
+            throw CommandFailure("the choice of " + code_ + " could not be written" +
+                                 (refusal.empty() ? "" : ": " + refusal));
+    }
+
     std::string code_;
 };
 
