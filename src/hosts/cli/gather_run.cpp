@@ -2,7 +2,6 @@
 
 #include "hosts/cli/gather_progress.h"
 #include "hosts/cli/gather_wizard.h"
-#include "hosts/cli/interrupt.h"
 #include "hosts/common/gather_outcome.h"
 #include "hosts/common/row_counts.h"
 
@@ -25,7 +24,7 @@ public:
             watch.messageShown();
         });
         tool.desktop().onPump([this, &wizard, &watch] {
-            if (!interrupt_.made() || cancelled_) return;
+            if (!tool_.interrupted() || cancelled_) return;
             cancelled_ = true;
             watch.cancelled();
             wizard.cancel();
@@ -43,7 +42,6 @@ public:
 
 private:
     OpenTool& tool_;
-    InterruptWish interrupt_;
     GatherProgress progress_;
     bool cancelled_ = false;
 };
@@ -71,7 +69,7 @@ void requireUsableDestination(OpenTool& tool, const std::string& destination)
 
 GatherOutcome runGather(OpenTool& tool, GatherWizard& wizard)
 {
-    GatherWatch watch(tool.context(), wizard.progressPage(),
+    GatherWatch watch(tool.context(), tool.report(), wizard.progressPage(),
                       [&tool](const std::string& path) { return tool.machinePath(path); });
     if (const auto refusal = watch.refusal()) throw CommandFailure(asClause(*refusal));
     {

@@ -1,6 +1,5 @@
 #include "hosts/cli/open_tool.h"
 
-#include "hosts/cli/interrupt.h"
 #include "hosts/cli/message.h"
 #include "hosts/cli/program.h"
 #include "hosts/common/places.h"
@@ -72,7 +71,9 @@ OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check
                       site_.codePage()),
       registry_(site_.platform(desktop_, traceDatabases_).registry),
       platform_(withRegistry(site_.platform(desktop_, traceDatabases_), registry_)),
-      looking_(platform_, [this](const std::string& path) { return site_.paths().isOfSite(path); }),
+      watched_(platform_),
+      looking_(watched_.platform(),
+               [this](const std::string& path) { return site_.paths().isOfSite(path); }),
       definition_(snapinDefinition()), console_(definition_), codePage_(site_.codePage())
 {
     site_.database().another().waitAsOneRun(); // all connections share the patience
@@ -81,8 +82,12 @@ OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check
         check(*this);
     }
     if (use == ToolUse::change) turn_.emplace(site_.folder());
-    if (use != ToolUse::look) site_.startChanges();
-    context_.emplace(use == ToolUse::look ? looking_.platform() : platform_);
+    if (use != ToolUse::look) {
+        interrupt_.emplace();
+        site_.startChanges();
+    }
+    watched_.toolLog().onFailure([this](const std::string& why) { toolLogFailure_ = why; });
+    context_.emplace(use == ToolUse::look ? looking_.platform() : watched_.platform());
     snapIn_.emplace(*context_, console_);
     context_->onTrappedError = [this](const RunTimeError& error, std::string_view procName) {
         if (procName == "[mdlOrvanDatabase]openOrvanDB") databaseFailure_ = error.description();
@@ -90,6 +95,9 @@ OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check
     console_.load(*snapIn_);
     loaded_ = true;
     context_->onTrappedError = {};
+    if (!interrupted()) return;
+    close();
+    throw CommandFailure("cancelled before anything was done");
 }
 
 OpenTool::~OpenTool()
@@ -108,6 +116,9 @@ void OpenTool::close()
     if (use_ == ToolUse::add) takeTurnIfItComes();
     console_.unload();
     turn_.reset();
+    if (!toolLogFailure_.empty())
+        printMessage("the tool's own log can't be written: " + toolLogFailure_);
+    toolLogFailure_.clear();
 }
 
 void OpenTool::takeTurnIfItComes()

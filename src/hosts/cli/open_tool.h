@@ -5,9 +5,11 @@
 #include "backends/portable/site_turn.h"
 #include "core/tool_context.h"
 #include "hosts/cli/command.h"
+#include "hosts/cli/interrupt.h"
 #include "hosts/cli/terminal_desktop.h"
 #include "hosts/cli/watched_registry.h"
 #include "hosts/common/looking_services.h"
+#include "hosts/common/watched_services.h"
 #include "platform/code_page.h"
 #include "platform/console.h"
 #include "shell/snapin_orvan_diagnostics.h"
@@ -24,6 +26,9 @@ enum class ToolUse {
 };
 
 /// The tool at work on a site: from its loading to its unloading, with a terminal for a desktop.
+///
+/// A program that leaves something there is not ended in the middle: Ctrl-C, SIGTERM and SIGHUP are
+/// a wish (`interrupted`) from the moment the tool is loaded.
 class OpenTool {
 public:
     using Check = std::function<void(OpenTool&)>;
@@ -35,6 +40,8 @@ public:
     /// `check` looks at the command's arguments on the open site, before the tool starts and before
     /// anything is made there: what it raises ends the command with nothing changed. Its context
     /// is one of a tool that looks, and goes afterwards.
+    ///
+    /// A wish to end while the tool loads ends the command (CommandFailure) with the tool unloaded.
     OpenTool(const GlobalOptions& options, ToolUse use, const Check& check = {});
 
     OpenTool(const OpenTool&) = delete;
@@ -43,7 +50,8 @@ public:
     /// Unloads the snap-in when a failure kept the command from `close`.
     ~OpenTool();
 
-    /// Unloads the snap-in, and lets others change the site. Raises what the snap-in raises.
+    /// Unloads the snap-in, and lets others change the site. Says, when the tool's own log could
+    /// not be written, why. Raises what the snap-in raises.
     void close();
 
     Site& site() { return site_; }
@@ -53,6 +61,12 @@ public:
     TerminalDesktop& desktop() { return desktop_; }
     const CodePage& codePage() const { return codePage_; }
     WatchedRegistry& registry() { return registry_; }
+
+    /// What the tool saw of the server's logs.
+    GatherReport& report() { return watched_.report(); }
+
+    /// Whether the person wished the command to end.
+    bool interrupted() const { return interrupt_ && interrupt_->made(); }
 
     /// Where a path of the tool lies on this machine.
     std::string machinePath(const std::string& path) { return site_.paths().machinePath(path); }
@@ -76,11 +90,14 @@ private:
 
     ToolUse use_;
     std::optional<SiteTurn> turn_;
+    std::optional<InterruptWish> interrupt_;
     Site site_;
     TerminalDesktop desktop_;
     jet::JetEngine traceDatabases_;
     WatchedRegistry registry_;
     Platform platform_;
+    WatchedServices watched_;
+    std::string toolLogFailure_;
     LookingServices looking_;
     std::optional<ToolContext> context_;
     SnapInDefinition definition_;

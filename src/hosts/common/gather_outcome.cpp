@@ -3,10 +3,12 @@
 #include "core/error_trap.h"
 #include "core/registry_store.h"
 #include "gather/logs.h"
+#include "hosts/common/gather_report.h"
 #include "hosts/common/row_counts.h"
 #include "platform/file_system.h"
 #include "platform/host_module.h"
 #include "platform/processes.h"
+#include "platform/registry.h"
 #include "platform/trace_database.h"
 #include "runtime/text.h"
 #include "wizards/gather_progress.h"
@@ -98,6 +100,14 @@ bool isPassing(const std::string& name)
     });
 }
 
+/// False too where it can't be told.
+bool isFolder(const FileSystem& files, const std::string& path)
+try {
+    return files.folderExists(path);
+} catch (const RunTimeError&) {
+    return false;
+}
+
 /// Logs that failed in one way are told in one sentence.
 void addTogether(std::vector<Sentence>& sentences, const std::vector<Sentence>& gaps)
 {
@@ -129,13 +139,15 @@ std::vector<Sentence> GatherOutcome::sentences() const
     return all;
 }
 
-GatherWatch::GatherWatch(ToolContext& tool, const ppgGatherLogs03Step& page,
+GatherWatch::GatherWatch(ToolContext& tool, GatherReport& report, const ppgGatherLogs03Step& page,
                          MachinePath machinePath)
-    : tool_(tool), steps_(page.treeviewSteps), machinePath_(std::move(machinePath)),
-      standard_(page.job().m_bStandardLogs), timeFrame_(page.job().m_bTimeFrameLogs),
-      logs_(namesIn(page.job().getOrvanLogs())), eventLogs_(namesIn(page.job().getWindowsLogs())),
+    : tool_(tool), report_(report), steps_(page.treeviewSteps),
+      machinePath_(std::move(machinePath)), standard_(page.job().m_bStandardLogs),
+      timeFrame_(page.job().m_bTimeFrameLogs), logs_(namesIn(page.job().getOrvanLogs())),
+      eventLogs_(namesIn(page.job().getWindowsLogs())),
       destination_(page.job().m_LogDestinationDirectory), before_(filesThere())
 {
+    report_.forgetReadings();
     listenedBefore_ = std::exchange(
         tool_.onTrappedError,
         [this](const RunTimeError& error, std::string_view procName) { note(error, procName); });
@@ -178,7 +190,13 @@ void GatherWatch::note(const RunTimeError& error, std::string_view procName)
 /// which are no trouble each, come here when a trap gives up for them alone.
 void GatherWatch::add(Trouble trouble)
 {
-    if (!troubleAt(trouble.stage, trouble.log)) troubles_.push_back(std::move(trouble));
+    const auto first = std::find_if(troubles_.begin(), troubles_.end(), [&](const Trouble& known) {
+        return known.stage == trouble.stage && known.log == trouble.log;
+    });
+    if (first == troubles_.end())
+        troubles_.push_back(std::move(trouble));
+    else if (trouble.tooManyErrors)
+        first->gaveUp = true;
 }
 
 const GatherWatch::Trouble* GatherWatch::troubleAt(Stage stage, std::string_view log) const
@@ -332,19 +350,76 @@ void GatherWatch::tellOfCurrentLog(GatherOutcome& outcome) const
             {gatherSentences::currentLogGone, {standardGatherProcess, current}});
 }
 
+/// The logs that the server writes now, of every process: a frame lists what lies in the folder,
+/// and misses none. Where the folder itself can't be seen, they are no news.
+void GatherWatch::tellOfCurrentLogs(GatherOutcome& outcome) const
+{
+    const std::string& folder = tool_.g_strLogFolder;
+    if (report_.listingFailure(folder) || !isFolder(tool_.platform.files, folder)) return;
+    const std::string processes = std::string(logManagerKey) + "\\Process";
+    const auto names = tool_.platform.registry.subkeys(HKEY_LOCAL_MACHINE, processes);
+    for (const std::string& process : names.value_or(std::vector<std::string>{})) {
+        const std::string current =
+            getRegistryText(tool_, processes + "\\" + process, "CurrentLogFile");
+        if (current.empty()) continue;
+        try {
+            if (!tool_.platform.files.fileExists(current)) tool_.platform.files.file(current);
+        } catch (const RunTimeError& error) {
+            if (error.number() == runTimeErrors::fileNotFound)
+                outcome.missing.push_back({gatherSentences::currentLogGone, {process, current}});
+            else
+                outcome.missing.push_back(
+                    {gatherSentences::currentLogUnseen, {process, current, causeOf(error)}});
+        }
+    }
+}
+
+/// What the pages that list the logs could not list, or not look at.
+void GatherWatch::tellOfListing(GatherOutcome& outcome) const
+{
+    const std::string& folder = tool_.g_strLogFolder;
+    const auto failure = report_.listingFailure(folder);
+    if (failure)
+        outcome.missing.push_back({gatherSentences::logsNotListed, {folder, *failure}});
+    else if (timeFrame_ && !isFolder(tool_.platform.files, folder))
+        outcome.missing.push_back({gatherSentences::noLogFolder, {folder}});
+    std::vector<Sentence> unseen;
+    for (const auto& [log, why] : report_.unseenLogs(folder))
+        if (!holds(logs_, log)) unseen.push_back({gatherSentences::logUnseen, {log, why}});
+    addTogether(outcome.missing, unseen);
+}
+
 /// A cancel leaves logs untouched, which is no news; without a database no log had a chance.
 void GatherWatch::tellOfLogs(GatherOutcome& outcome) const
 {
+    if (!standard_) tellOfListing(outcome);
     if (standard_ && logs_.empty()) tellOfCurrentLog(outcome);
-    if (timeFrame_ && !tool_.platform.files.folderExists(tool_.g_strLogFolder))
-        outcome.missing.push_back({gatherSentences::noLogFolder, {tool_.g_strLogFolder}});
+    if (timeFrame_) tellOfCurrentLogs(outcome);
     if (timeFrame_ && (!outcome.database || troubleAt(Stage::run))) return;
     std::vector<Sentence> gaps;
     for (const std::string& log : logs_)
-        if (const auto gap = gapOf(log, outcome)) gaps.push_back(*gap);
+        for (Sentence& gap : gapsOf(log, outcome)) gaps.push_back(std::move(gap));
     addTogether(outcome.missing, gaps);
 }
 
+std::vector<Sentence> GatherWatch::gapsOf(const std::string& log,
+                                          const GatherOutcome& outcome) const
+{
+    std::vector<Sentence> gaps;
+    if (auto gap = gapOf(log, outcome)) gaps.push_back(std::move(*gap));
+    const LogSight* sight = report_.reading(tool_.g_strLogFolder + "\\" + log);
+    if (!sight) return gaps;
+    if (!sight->rowsLostBecause.empty())
+        gaps.push_back({gatherSentences::linesNotStored,
+                        {log, sight->rowsLostBecause, std::to_string(sight->rowsLost)}});
+    if (sight->cut)
+        gaps.push_back({gatherSentences::logCut, {log}});
+    else if (sight->vanished)
+        gaps.push_back({gatherSentences::logVanished, {log}});
+    return gaps;
+}
+
+/// What a trap, a box or a missing copy tells of a log.
 std::optional<Sentence> GatherWatch::gapOf(const std::string& log,
                                            const GatherOutcome& outcome) const
 {
@@ -357,7 +432,16 @@ std::optional<Sentence> GatherWatch::gapOf(const std::string& log,
     if (trouble->tooManyErrors) return Sentence{gatherSentences::tooManyMalformedLines, {log}};
     if (trouble->why.empty())
         return Sentence{gatherSentences::logNotFound, {log, tool_.g_strLogFolder}};
-    if (timeFrame_) return Sentence{gatherSentences::logReadInPart, {log, trouble->why}};
+    const LogSight* sight = report_.reading(tool_.g_strLogFolder + "\\" + log);
+    const bool brokenOff =
+        sight && !sight->readToEnd && (trouble->gaveUp || !sight->unread.empty());
+    if (brokenOff)
+        return Sentence{gatherSentences::logReadSoFar,
+                        {log, trouble->why, std::to_string(sight->lines)}};
+    if (timeFrame_) {
+        if (sight && !sight->rowsLostBecause.empty()) return {};
+        return Sentence{gatherSentences::logReadInPart, {log, trouble->why}};
+    }
     return Sentence{written ? gatherSentences::logCopiedInPart : gatherSentences::logNotCopied,
                     {log, trouble->why}};
 }

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+class GatherReport;
 class TreeNode;
 class TreeView;
 class ppgGatherLogs03Step;
@@ -21,11 +22,18 @@ struct ToolContext;
 namespace gatherSentences {
 constexpr std::string_view noCurrentLog = "The server names no current log of %1.";
 constexpr std::string_view currentLogGone = "The current log of %1, %2, is not there.";
+constexpr std::string_view currentLogUnseen = "The current log of %1, %2, can't be looked at: %3.";
 constexpr std::string_view noLogFolder = "The server's log folder %1 is not there.";
+constexpr std::string_view logsNotListed = "The logs in %1 could not be listed: %2.";
+constexpr std::string_view logUnseen = "%1 was passed over: %2.";
 constexpr std::string_view logNotFound = "%1 was not gathered: it is not in %2.";
 constexpr std::string_view logNotCopied = "%1 was not copied: %2.";
 constexpr std::string_view logCopiedInPart = "%1 was copied in part: %2.";
 constexpr std::string_view logReadInPart = "%1 was not gathered as a whole: %2.";
+constexpr std::string_view logReadSoFar = "%1 was read as far as line %3: %2.";
+constexpr std::string_view linesNotStored = "Lines of %1 that were not stored: %3 (%2).";
+constexpr std::string_view logCut = "%1 was cut while it was read.";
+constexpr std::string_view logVanished = "%1 was taken away while it was read.";
 constexpr std::string_view logsCutShort =
     "%1 logs were not gathered as a whole, the first of them %2: %3.";
 constexpr std::string_view tooManyMalformedLines =
@@ -56,11 +64,18 @@ constexpr std::string_view kept = "What was gathered is kept in %1.";
 constexpr std::string_view all[] = {
     noCurrentLog,
     currentLogGone,
+    currentLogUnseen,
     noLogFolder,
+    logsNotListed,
+    logUnseen,
     logNotFound,
     logNotCopied,
     logCopiedInPart,
     logReadInPart,
+    logReadSoFar,
+    linesNotStored,
+    logCut,
+    logVanished,
     logsCutShort,
     tooManyMalformedLines,
     eventLogNotCaptured,
@@ -104,15 +119,17 @@ struct GatherOutcome {
 
 /// Follows one run of the gather pipeline, whose own texts tell of no failure.
 ///
-/// Made before the run, while the progress page is on show with its steps; asked after it.
+/// Made before the run, while the progress page is on show with its steps; asked after it. What the
+/// tool's watched services saw of the logs comes from their report.
 class GatherWatch {
 public:
     /// Where a path of the tool lies on this machine.
     using MachinePath = std::function<std::string(const std::string&)>;
 
-    /// `tool`, and the page until the run has returned, outlive the watch. Raises 424 for a page
-    /// without a job, and 9 for a job whose lists were never cleared.
-    GatherWatch(ToolContext& tool, const ppgGatherLogs03Step& page, MachinePath machinePath);
+    /// `tool`, `report`, and the page until the run has returned, outlive the watch. Raises 424 for
+    /// a page without a job, and 9 for a job whose lists were never cleared.
+    GatherWatch(ToolContext& tool, GatherReport& report, const ppgGatherLogs03Step& page,
+                MachinePath machinePath);
     ~GatherWatch();
     GatherWatch(const GatherWatch&) = delete;
     GatherWatch& operator=(const GatherWatch&) = delete;
@@ -144,9 +161,10 @@ private:
     /// Why a part of the gather is not whole.
     struct Trouble {
         Stage stage;
-        std::string log; ///< empty but for the stages of a log
-        bool tooManyErrors;
+        std::string log;    ///< empty but for the stages of a log
+        bool tooManyErrors; ///< a trap gave up for malformed lines alone
         std::string why;
+        bool gaveUp = false; ///< the same, behind a trouble of another kind
     };
 
     void note(const RunTimeError& error, std::string_view procName);
@@ -164,11 +182,15 @@ private:
     void tellOfDatabase(GatherOutcome& outcome) const;
     void tellOfCabinet(GatherOutcome& outcome) const;
     void tellOfCurrentLog(GatherOutcome& outcome) const;
+    void tellOfCurrentLogs(GatherOutcome& outcome) const;
+    void tellOfListing(GatherOutcome& outcome) const;
     void tellOfLogs(GatherOutcome& outcome) const;
     void tellOfEventLogs(GatherOutcome& outcome) const;
+    std::vector<Sentence> gapsOf(const std::string& log, const GatherOutcome& outcome) const;
     std::optional<Sentence> gapOf(const std::string& log, const GatherOutcome& outcome) const;
 
     ToolContext& tool_;
+    GatherReport& report_;
     const TreeView& steps_;
     MachinePath machinePath_;
     std::function<void(const RunTimeError&, std::string_view)> listenedBefore_;

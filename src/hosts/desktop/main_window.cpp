@@ -181,8 +181,8 @@ void MainWindow::watchSheet(SheetDialog& dialog)
         const auto machinePath = [this](const std::string& path) {
             return tool_->site().paths().machinePath(path);
         };
-        sayWhereThePersonIs(&dialog,
-                            gathers_.tick(tool_->context(), page, timer, machinePath, run));
+        sayWhereThePersonIs(&dialog, gathers_.tick(tool_->context(), tool_->report(), page, timer,
+                                                   machinePath, run));
     };
     dialog.aroundChange = [this](const std::function<void()>& run) { tool_->changing(run); };
     if (!tool_->looksOnly()) return;
@@ -213,6 +213,7 @@ void MainWindow::sayWhereThePersonIs(SheetDialog* dialog, const LiveSentence& se
 void MainWindow::afterCall()
 {
     checkSite();
+    sayToolLog();
     tellUndone(nullptr);
     // Not from within the call of a dialog or a view that goes with the window.
     if (closing_ && !pane_->sheetAtWork())
@@ -268,6 +269,16 @@ QString MainWindow::languageProblem() const
 void MainWindow::sayLanguage()
 {
     if (!languageProblem().isEmpty()) showProblem([this] { return languageProblem(); });
+}
+
+void MainWindow::sayToolLog()
+{
+    const std::string why = tool_ ? tool_->takeToolLogFailure() : "";
+    if (why.empty()) return;
+    showProblem([why] {
+        return tr("The tool's own log can't be written: %1. The tool goes on without it.")
+            .arg(QString::fromStdString(why));
+    });
 }
 
 void MainWindow::showProblem(LiveSentence sentence)

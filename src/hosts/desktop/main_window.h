@@ -1,7 +1,7 @@
 #pragma once
 
 #include "hosts/desktop/commands.h"
-#include "hosts/desktop/gather_report.h"
+#include "hosts/desktop/gather_notice.h"
 #include "hosts/desktop/interface_language.h"
 #include "hosts/desktop/undone.h"
 
@@ -89,6 +89,7 @@ private:
     QString languageProblem() const;
     void sayWithoutDatabase(const std::string& why);
     void sayLanguage();
+    void sayToolLog();
     void runInLog(Command command);
     void runInTable(Command command);
     void chooseTheme(Command command);
@@ -114,7 +115,7 @@ private:
     std::map<CommandMenu, QMenu*> menus_;
     QMenu* recent_ = nullptr;
     Undone undone_;
-    GatherReport gathers_;
+    GatherNotice gathers_;
     bool closing_ = false; ///< as soon as the work at hand is done
     std::map<Command, QAction*> actions_;
     std::map<std::string, QAction*> consoleActions_;

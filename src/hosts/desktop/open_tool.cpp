@@ -25,11 +25,14 @@ OpenTool::OpenTool(const std::string& folder, const std::string& installedData, 
       site_(folder, installedData, std::move(facts), use_),
       traceDatabases_([this](const std::string& path) { return site_.paths().machinePath(path); },
                       site_.codePage()),
-      platform_(site_.platform(desktop, traceDatabases_)),
-      looking_(platform_, [this](const std::string& path) { return site_.paths().isOfSite(path); }),
-      context_(looksOnly() ? looking_.platform() : platform_), definition_(snapinDefinition()),
-      console_(definition_), snapIn_(context_, console_)
-{}
+      platform_(site_.platform(desktop, traceDatabases_)), watched_(platform_),
+      looking_(watched_.platform(),
+               [this](const std::string& path) { return site_.paths().isOfSite(path); }),
+      context_(looksOnly() ? looking_.platform() : watched_.platform()),
+      definition_(snapinDefinition()), console_(definition_), snapIn_(context_, console_)
+{
+    watched_.toolLog().onFailure([this](const std::string& why) { toolLogFailure_ = why; });
+}
 
 void OpenTool::load()
 {

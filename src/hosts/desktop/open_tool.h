@@ -4,11 +4,13 @@
 #include "backends/portable/site.h"
 #include "core/tool_context.h"
 #include "hosts/common/looking_services.h"
+#include "hosts/common/watched_services.h"
 #include "platform/console.h"
 #include "shell/snapin_orvan_diagnostics.h"
 
 #include <functional>
 #include <string>
+#include <utility>
 
 class Desktop;
 
@@ -37,6 +39,13 @@ public:
     /// another one does not come to its end, and what `change` raises.
     void changing(const std::function<void()>& change);
 
+    /// What the tool saw of the server's logs.
+    GatherReport& report() { return watched_.report(); }
+
+    /// Why the tool's own log could not be written, the first time that it is asked for since then;
+    /// empty for nothing new.
+    std::string takeToolLogFailure() { return std::exchange(toolLogFailure_, {}); }
+
     /// Whether the tool was opened on a site that it only looks at.
     bool looksOnly() const { return use_ == SiteUse::look; }
 
@@ -58,6 +67,8 @@ private:
     Site site_;
     jet::JetEngine traceDatabases_;
     Platform platform_;
+    WatchedServices watched_;
+    std::string toolLogFailure_;
     LookingServices looking_;
     ToolContext context_;
     SnapInDefinition definition_;

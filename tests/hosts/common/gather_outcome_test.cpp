@@ -2,6 +2,7 @@
 
 #include "backends/portable/temporary_folder.h"
 #include "core/error_trap.h"
+#include "hosts/common/gather_report.h"
 #include "platform/trace_database.h"
 #include "wizards/gather_wizard_fixture.h"
 
@@ -18,6 +19,7 @@ using testing::IsEmpty;
 struct GatherOutcomeTest : GatherWizardTest {
     TemporaryFolder machine;
     std::string out = machine.makeFolder("Out");
+    GatherReport report;
 
     /// Goes to the progress page with a job of its own.
     void job(std::vector<std::string> logs, std::vector<std::string> windowsLogs)
@@ -35,7 +37,7 @@ struct GatherOutcomeTest : GatherWizardTest {
 
     GatherWatch watch()
     {
-        return GatherWatch(tool.context, *progress, [this](const std::string& path) {
+        return GatherWatch(tool.context, report, *progress, [this](const std::string& path) {
             std::string below = path.substr(3);
             std::replace(below.begin(), below.end(), '\\', '/');
             return machine.path() + "/" + below;
@@ -192,6 +194,135 @@ TEST_F(GatherOutcomeTest, AFrameTellsOfItsDatabaseItsCabinetAndTheLogFolder)
                 ElementsAre("No trace database was made: Disk full.",
                             "The server's log folder C:\\Gone is not there.",
                             testing::StartsWith("No cabinet was made: the cabinet maker ")));
+}
+
+/// A frame's gather of one log, and what the tool's services saw of it.
+struct SeenLogTest : GatherOutcomeTest {
+    const std::string path = "C:\\Logs\\diag_A_1.txt";
+
+    SeenLogTest()
+    {
+        tool.context.g_strTraceDatabase = "C:\\Out\\PC_WPN_1.mdb";
+        machine.write("Out/PC_WPN_1.cab");
+    }
+
+    /// What is told of the logs of a frame, when `happens` has happened during the run.
+    template <typename Happening>
+    std::vector<std::string> told(std::vector<std::string> logs, Happening&& happens)
+    {
+        job(std::move(logs), {});
+        shared->m_bTimeFrameLogs = true;
+        const GatherWatch watched = watch();
+        machine.write("Out/PC_WPN_1.mdb", std::to_string(++runs_));
+        machine.write("Out/PC_WPN_1.cab", std::to_string(runs_));
+        happens();
+        return texts(watched.outcome().missing);
+    }
+
+    static LogSight readTo(std::int64_t lines, bool end)
+    {
+        LogSight sight;
+        sight.lines = lines;
+        sight.readToEnd = end;
+        return sight;
+    }
+
+private:
+    int runs_ = 0;
+};
+
+TEST_F(SeenLogTest, AFolderThatCouldNotBeListedIsTold)
+{
+    report.notListed("C:\\Logs\\data_*.txt", "Permission denied");
+    EXPECT_THAT(told({}, [] {}),
+                ElementsAre("The logs in C:\\Logs could not be listed: Permission denied."));
+    report.listed("C:\\Logs\\data_*.txt");
+    EXPECT_THAT(told({}, [] {}), IsEmpty()) << "it was listed since";
+}
+
+TEST_F(SeenLogTest, ALogThatCouldNotBeLookedAtIsToldUnlessItWasGatheredAllTheSame)
+{
+    report.listed("C:\\Logs\\diag_*.txt");
+    report.notSeen(path, "Device I/O error");
+    EXPECT_THAT(told({}, [] {}), ElementsAre("diag_A_1.txt was passed over: Device I/O error."));
+    EXPECT_THAT(told({"diag_A_1.txt"}, [] {}), IsEmpty());
+    report.listed("C:\\Logs\\diag_*.txt");
+    EXPECT_THAT(told({}, [] {}), IsEmpty()) << "the next listing looks anew";
+}
+
+TEST_F(SeenLogTest, AFrameMissesTheCurrentLogOfAProcessThatIsNotThere)
+{
+    withCurrentLog("A", "diag_A_1.txt");
+    tool.registry.withText(processKey("B"), "CurrentLogFile", "C:\\Logs\\diag_B_1.txt");
+    withProcess("C");
+    EXPECT_THAT(told({}, [] {}),
+                ElementsAre("The current log of B, C:\\Logs\\diag_B_1.txt, is not there."));
+    report.notListed("C:\\Logs\\diag_*.txt", "Permission denied");
+    EXPECT_THAT(told({}, [] {}), testing::SizeIs(1)) << "the folder's own trouble says it all";
+    report.listed("C:\\Logs\\diag_*.txt");
+    tool.files.failing("C:\\Logs\\diag_B_1.txt", runTimeErrors::permissionDenied);
+    EXPECT_THAT(told({}, [] {}), ElementsAre("The current log of B, C:\\Logs\\diag_B_1.txt, can't "
+                                             "be looked at: Permission denied."));
+}
+
+TEST_F(SeenLogTest, AReadingThatBrokeOffTellsHowFarItCame)
+{
+    const auto missing = told({"diag_A_1.txt"}, [&] {
+        LogSight sight = readTo(17, false);
+        sight.unread = "Device I/O error";
+        report.readingBegins(path);
+        report.readingEnds(path, sight);
+        fail(runTimeErrors::deviceIo, "processOrvanLogFileToDB", "diag_A_1.txt");
+    });
+    EXPECT_THAT(missing, ElementsAre("diag_A_1.txt was read as far as line 17: Device I/O error."));
+}
+
+TEST_F(SeenLogTest, AnImporterThatGaveUpTellsHowFarItCameAndHowManyLinesItLost)
+{
+    const auto missing = told({"diag_A_1.txt"}, [&] {
+        report.readingBegins(path);
+        for (int row = 0; row < 11; ++row) {
+            report.rowBegun();
+            report.rowLost("Not enough space on disk.");
+            fail(RunTimeError(traceDatabaseErrors::diskFull, "Not enough space on disk."),
+                 "processOrvanLogFileToDB", "diag_A_1.txt");
+        }
+        fail(errorCountExceeded, "processOrvanLogFileToDB", "diag_A_1.txt");
+        report.readingEnds(path, readTo(30, false));
+    });
+    EXPECT_THAT(missing,
+                ElementsAre("diag_A_1.txt was read as far as line 30: Not enough space on disk.",
+                            "Lines of diag_A_1.txt that were not stored: 11 (Not enough space on "
+                            "disk)."));
+}
+
+TEST_F(SeenLogTest, RowsThatWereStoredAreNotLost)
+{
+    const auto missing = told({"diag_A_1.txt"}, [&] {
+        report.rowLost("of the log before");
+        report.readingBegins(path);
+        report.rowBegun();
+        report.rowStored();
+        report.readingEnds(path, readTo(30, true));
+    });
+    EXPECT_THAT(missing, IsEmpty());
+}
+
+TEST_F(SeenLogTest, ALogThatWasCutOrTakenAwayWhileItWasReadIsTold)
+{
+    const auto reading = [&](bool cut, bool vanished) {
+        return told({"diag_A_1.txt"}, [&] {
+            LogSight sight = readTo(30, true);
+            sight.cut = cut;
+            sight.vanished = vanished;
+            report.readingBegins(path);
+            report.readingEnds(path, sight);
+        });
+    };
+    EXPECT_THAT(reading(true, false), ElementsAre("diag_A_1.txt was cut while it was read."));
+    EXPECT_THAT(reading(false, true),
+                ElementsAre("diag_A_1.txt was taken away while it was read."));
+    EXPECT_THAT(told({"diag_A_1.txt"}, [] {}), IsEmpty()) << "that was another gather";
 }
 
 struct CabinetOutcomeTest : GatherOutcomeTest {

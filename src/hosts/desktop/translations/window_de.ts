@@ -434,8 +434,20 @@
         <translation>Das aktuelle Protokoll von %1, %2, ist nicht vorhanden.</translation>
     </message>
     <message>
+        <source>The current log of %1, %2, can&apos;t be looked at: %3.</source>
+        <translation>Das aktuelle Protokoll von %1, %2, kann nicht eingesehen werden: %3.</translation>
+    </message>
+    <message>
         <source>The server&apos;s log folder %1 is not there.</source>
         <translation>Der Protokollordner %1 des Servers ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>The logs in %1 could not be listed: %2.</source>
+        <translation>Die Protokolle in %1 konnten nicht aufgelistet werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was passed over: %2.</source>
+        <translation>%1 wurde übergangen: %2.</translation>
     </message>
     <message>
         <source>%1 was not gathered: it is not in %2.</source>
@@ -452,6 +464,22 @@
     <message>
         <source>%1 was not gathered as a whole: %2.</source>
         <translation>%1 wurde nicht vollständig gesammelt: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was read as far as line %3: %2.</source>
+        <translation>%1 wurde bis Zeile %3 gelesen: %2.</translation>
+    </message>
+    <message>
+        <source>Lines of %1 that were not stored: %3 (%2).</source>
+        <translation>Nicht gespeicherte Zeilen von %1: %3 (%2).</translation>
+    </message>
+    <message>
+        <source>%1 was cut while it was read.</source>
+        <translation>%1 wurde während des Lesens gekürzt.</translation>
+    </message>
+    <message>
+        <source>%1 was taken away while it was read.</source>
+        <translation>%1 wurde während des Lesens entfernt.</translation>
     </message>
     <message>
         <source>%1 logs were not gathered as a whole, the first of them %2: %3.</source>
@@ -764,6 +792,10 @@
     <message>
         <source>The catalogue of your language (%1) is missing or damaged, so the tool&apos;s texts are in English. Choose another language in the about box (Ctrl+F1).</source>
         <translation>Der Katalog für Ihre Sprache (%1) fehlt oder ist beschädigt, deshalb sind die Texte des Tools englisch. Wählen Sie im Infofenster (Strg+F1) eine andere Sprache.</translation>
+    </message>
+    <message>
+        <source>The tool&apos;s own log can&apos;t be written: %1. The tool goes on without it.</source>
+        <translation>Das eigene Protokoll des Tools kann nicht geschrieben werden: %1. Das Tool arbeitet ohne es weiter.</translation>
     </message>
     <message>
         <source>Orvan Diagnostic Tool</source>

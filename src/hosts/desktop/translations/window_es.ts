@@ -434,8 +434,20 @@
         <translation>El registro actual de %1, %2, no está.</translation>
     </message>
     <message>
+        <source>The current log of %1, %2, can&apos;t be looked at: %3.</source>
+        <translation>No se puede consultar el registro actual de %1, %2: %3.</translation>
+    </message>
+    <message>
         <source>The server&apos;s log folder %1 is not there.</source>
         <translation>La carpeta de registros %1 del servidor no está.</translation>
+    </message>
+    <message>
+        <source>The logs in %1 could not be listed: %2.</source>
+        <translation>No se pudieron enumerar los registros de %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was passed over: %2.</source>
+        <translation>%1 se pasó por alto: %2.</translation>
     </message>
     <message>
         <source>%1 was not gathered: it is not in %2.</source>
@@ -452,6 +464,22 @@
     <message>
         <source>%1 was not gathered as a whole: %2.</source>
         <translation>%1 no se recopiló por completo: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was read as far as line %3: %2.</source>
+        <translation>%1 se leyó hasta la línea %3: %2.</translation>
+    </message>
+    <message>
+        <source>Lines of %1 that were not stored: %3 (%2).</source>
+        <translation>Líneas de %1 que no se guardaron: %3 (%2).</translation>
+    </message>
+    <message>
+        <source>%1 was cut while it was read.</source>
+        <translation>%1 se recortó mientras se leía.</translation>
+    </message>
+    <message>
+        <source>%1 was taken away while it was read.</source>
+        <translation>%1 desapareció mientras se leía.</translation>
     </message>
     <message>
         <source>%1 logs were not gathered as a whole, the first of them %2: %3.</source>
@@ -764,6 +792,10 @@
     <message>
         <source>The catalogue of your language (%1) is missing or damaged, so the tool&apos;s texts are in English. Choose another language in the about box (Ctrl+F1).</source>
         <translation>El catálogo de su idioma (%1) falta o está dañado, por lo que los textos de la herramienta están en inglés. Elija otro idioma en el cuadro Acerca de (Control+F1).</translation>
+    </message>
+    <message>
+        <source>The tool&apos;s own log can&apos;t be written: %1. The tool goes on without it.</source>
+        <translation>No se puede escribir el registro propio de la herramienta: %1. La herramienta continúa sin él.</translation>
     </message>
     <message>
         <source>Orvan Diagnostic Tool</source>

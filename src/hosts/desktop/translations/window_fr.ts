@@ -434,8 +434,20 @@
         <translation>Le journal actuel de %1, %2, est introuvable.</translation>
     </message>
     <message>
+        <source>The current log of %1, %2, can&apos;t be looked at: %3.</source>
+        <translation>Le journal actuel de %1, %2, ne peut pas être consulté : %3.</translation>
+    </message>
+    <message>
         <source>The server&apos;s log folder %1 is not there.</source>
         <translation>Le dossier des journaux %1 du serveur est introuvable.</translation>
+    </message>
+    <message>
+        <source>The logs in %1 could not be listed: %2.</source>
+        <translation>Les journaux de %1 n&apos;ont pas pu être énumérés : %2.</translation>
+    </message>
+    <message>
+        <source>%1 was passed over: %2.</source>
+        <translation>%1 a été ignoré : %2.</translation>
     </message>
     <message>
         <source>%1 was not gathered: it is not in %2.</source>
@@ -452,6 +464,22 @@
     <message>
         <source>%1 was not gathered as a whole: %2.</source>
         <translation>%1 n&apos;a pas été collecté en entier&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1 was read as far as line %3: %2.</source>
+        <translation>%1 a été lu jusqu&apos;à la ligne %3 : %2.</translation>
+    </message>
+    <message>
+        <source>Lines of %1 that were not stored: %3 (%2).</source>
+        <translation>Lignes de %1 non enregistrées : %3 (%2).</translation>
+    </message>
+    <message>
+        <source>%1 was cut while it was read.</source>
+        <translation>%1 a été tronqué pendant la lecture.</translation>
+    </message>
+    <message>
+        <source>%1 was taken away while it was read.</source>
+        <translation>%1 a été retiré pendant la lecture.</translation>
     </message>
     <message>
         <source>%1 logs were not gathered as a whole, the first of them %2: %3.</source>
@@ -764,6 +792,10 @@
     <message>
         <source>The catalogue of your language (%1) is missing or damaged, so the tool&apos;s texts are in English. Choose another language in the about box (Ctrl+F1).</source>
         <translation>Le catalogue de votre langue (%1) est absent ou endommagé, les textes de l&apos;outil sont donc en anglais. Choisissez une autre langue dans la boîte À propos (Ctrl+F1).</translation>
+    </message>
+    <message>
+        <source>The tool&apos;s own log can&apos;t be written: %1. The tool goes on without it.</source>
+        <translation>Le journal propre à l&apos;outil ne peut pas être écrit : %1. L&apos;outil continue sans lui.</translation>
     </message>
     <message>
         <source>Orvan Diagnostic Tool</source>

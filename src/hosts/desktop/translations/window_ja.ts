@@ -434,8 +434,20 @@
         <translation>%1 の現在のログ %2 が見つかりません。</translation>
     </message>
     <message>
+        <source>The current log of %1, %2, can&apos;t be looked at: %3.</source>
+        <translation>%1 の現在のログ %2 を参照できません: %3。</translation>
+    </message>
+    <message>
         <source>The server&apos;s log folder %1 is not there.</source>
         <translation>サーバーのログ フォルダー %1 が見つかりません。</translation>
+    </message>
+    <message>
+        <source>The logs in %1 could not be listed: %2.</source>
+        <translation>%1 のログを一覧できませんでした: %2。</translation>
+    </message>
+    <message>
+        <source>%1 was passed over: %2.</source>
+        <translation>%1 は対象から外されました: %2。</translation>
     </message>
     <message>
         <source>%1 was not gathered: it is not in %2.</source>
@@ -452,6 +464,22 @@
     <message>
         <source>%1 was not gathered as a whole: %2.</source>
         <translation>%1 は全体が収集されませんでした: %2。</translation>
+    </message>
+    <message>
+        <source>%1 was read as far as line %3: %2.</source>
+        <translation>%1 は %3 行目まで読み取られました: %2。</translation>
+    </message>
+    <message>
+        <source>Lines of %1 that were not stored: %3 (%2).</source>
+        <translation>%1 の保存されなかった行: %3 (%2)。</translation>
+    </message>
+    <message>
+        <source>%1 was cut while it was read.</source>
+        <translation>%1 は読み取り中に切り詰められました。</translation>
+    </message>
+    <message>
+        <source>%1 was taken away while it was read.</source>
+        <translation>%1 は読み取り中になくなりました。</translation>
     </message>
     <message>
         <source>%1 logs were not gathered as a whole, the first of them %2: %3.</source>
@@ -764,6 +792,10 @@
     <message>
         <source>The catalogue of your language (%1) is missing or damaged, so the tool&apos;s texts are in English. Choose another language in the about box (Ctrl+F1).</source>
         <translation>お使いの言語 (%1) のカタログが見つからないか壊れているため、ツールの表示は英語になります。バージョン情報 (Ctrl+F1) で別の言語を選択してください。</translation>
+    </message>
+    <message>
+        <source>The tool&apos;s own log can&apos;t be written: %1. The tool goes on without it.</source>
+        <translation>ツール自身のログに書き込めません: %1。ツールはログなしで続行します。</translation>
     </message>
     <message>
         <source>Orvan Diagnostic Tool</source>

@@ -1,4 +1,4 @@
-#include "hosts/desktop/gather_report.h"
+#include "hosts/desktop/gather_notice.h"
 
 #include "hosts/common/gather_outcome.h"
 #include "platform/sheet_page.h"
@@ -12,17 +12,24 @@
 
 namespace {
 
-constexpr const char* context = "GatherReport";
+constexpr const char* context = "GatherReport"; ///< of the texts, in the translations
 
 // What the hosts share knows nothing of translations: the texts are named here once more.
 constexpr const char* texts[] = {
     QT_TRANSLATE_NOOP("GatherReport", "The server names no current log of %1."),
     QT_TRANSLATE_NOOP("GatherReport", "The current log of %1, %2, is not there."),
+    QT_TRANSLATE_NOOP("GatherReport", "The current log of %1, %2, can't be looked at: %3."),
     QT_TRANSLATE_NOOP("GatherReport", "The server's log folder %1 is not there."),
+    QT_TRANSLATE_NOOP("GatherReport", "The logs in %1 could not be listed: %2."),
+    QT_TRANSLATE_NOOP("GatherReport", "%1 was passed over: %2."),
     QT_TRANSLATE_NOOP("GatherReport", "%1 was not gathered: it is not in %2."),
     QT_TRANSLATE_NOOP("GatherReport", "%1 was not copied: %2."),
     QT_TRANSLATE_NOOP("GatherReport", "%1 was copied in part: %2."),
     QT_TRANSLATE_NOOP("GatherReport", "%1 was not gathered as a whole: %2."),
+    QT_TRANSLATE_NOOP("GatherReport", "%1 was read as far as line %3: %2."),
+    QT_TRANSLATE_NOOP("GatherReport", "Lines of %1 that were not stored: %3 (%2)."),
+    QT_TRANSLATE_NOOP("GatherReport", "%1 was cut while it was read."),
+    QT_TRANSLATE_NOOP("GatherReport", "%1 was taken away while it was read."),
     QT_TRANSLATE_NOOP("GatherReport",
                       "%1 logs were not gathered as a whole, the first of them %2: %3."),
     QT_TRANSLATE_NOOP(
@@ -77,15 +84,16 @@ std::vector<std::string> translatedGatherSentences()
     return {std::begin(texts), std::end(texts)};
 }
 
-LiveSentence GatherReport::tick(ToolContext& tool, const SheetPage& page, Timer& timer,
-                                MachinePath machinePath, const std::function<void()>& run)
+LiveSentence GatherNotice::tick(ToolContext& tool, GatherReport& report, const SheetPage& page,
+                                Timer& timer, MachinePath machinePath,
+                                const std::function<void()>& run)
 {
     const auto* progress = dynamic_cast<const ppgGatherLogs03Step*>(&page);
     // A second run in the middle of the first one belongs to it.
     if (!progress || &timer != &progress->tmrDelayStart || watch_) return run(), nullptr;
     std::optional<GatherWatch> watch;
     try {
-        watch.emplace(tool, *progress, std::move(machinePath));
+        watch.emplace(tool, report, *progress, std::move(machinePath));
     } catch (const RunTimeError&) {
         // A page without a job has nothing to gather.
         return run(), nullptr;
@@ -105,18 +113,18 @@ LiveSentence GatherReport::tick(ToolContext& tool, const SheetPage& page, Timer&
     };
 }
 
-void GatherReport::messageShown()
+void GatherNotice::messageShown()
 {
     if (watch_) watch_->messageShown();
 }
 
-void GatherReport::cancelled(const SheetPage& page)
+void GatherNotice::cancelled(const SheetPage& page)
 {
     // The other pages let a run below them go on.
     if (dynamic_cast<const ppgGatherLogs03Step*>(&page)) cancelled();
 }
 
-void GatherReport::cancelled()
+void GatherNotice::cancelled()
 {
     if (watch_) watch_->cancelled();
 }

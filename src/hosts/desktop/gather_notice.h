@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+class GatherReport;
 class GatherWatch;
 class SheetPage;
 class Timer;
@@ -13,14 +14,15 @@ struct ToolContext;
 
 /// Follows the gathers that a person has the tool do, and tells what each left undone: the tool's
 /// own texts tell of no failure.
-class GatherReport {
+class GatherNotice {
 public:
     using MachinePath = std::function<std::string(const std::string&)>;
 
     /// Lets a timer of a page tick. Where that runs a gather: gives, when it has come to its end,
     /// what there is to say, and null for nothing; a gather that would harm its destination is not
-    /// run, and why is said at once. `tool` and the page outlive the call.
-    LiveSentence tick(ToolContext& tool, const SheetPage& page, Timer& timer,
+    /// run, and why is said at once. `tool`, what its services saw of the logs (`report`) and the
+    /// page outlive the call.
+    LiveSentence tick(ToolContext& tool, GatherReport& report, const SheetPage& page, Timer& timer,
                       MachinePath machinePath, const std::function<void()>& run);
 
     /// A box was shown; the person cancels on a page. Both count for the gather that runs.

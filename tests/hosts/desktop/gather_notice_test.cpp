@@ -1,4 +1,4 @@
-#include "hosts/desktop/gather_report.h"
+#include "hosts/desktop/gather_notice.h"
 
 #include "hosts/common/gather_outcome.h"
 #include "hosts/desktop/notice_bar.h"
@@ -20,7 +20,7 @@ using testing::AllOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-TEST(GatherReport, HasEverySentenceInTheWindowsOwnTexts)
+TEST(GatherNotice, HasEverySentenceInTheWindowsOwnTexts)
 {
     const std::vector<std::string> all(std::begin(gatherSentences::all),
                                        std::end(gatherSentences::all));
