@@ -46,7 +46,9 @@ public:
     explicit DiskFolder(const fs::path& path)
     {
         std::error_code error;
-        for (fs::path folder = path; !fs::exists(folder, error); folder = folder.parent_path())
+        // Where nothing can be found out, not even the top is there, and above it is itself again.
+        for (fs::path folder = path; folder.has_relative_path() && !fs::exists(folder, error);
+             folder = folder.parent_path())
             made_.push_back(folder);
         fs::create_directories(path, error);
         if (!error) return;

@@ -104,8 +104,8 @@ OpenTool::~OpenTool()
 {
     try {
         if (loaded_) close();
-    } catch (const RunTimeError&) {
-        // The failure that is on its way says why the command ends.
+    } catch (...) {
+        // The failure that is on its way says why the command ends; there may be no memory left.
     }
 }
 
