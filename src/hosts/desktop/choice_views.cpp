@@ -1,5 +1,7 @@
 #include "hosts/desktop/choice_views.h"
 
+#include "hosts/desktop/plain_tool_tip.h"
+
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QPushButton>
@@ -98,7 +100,7 @@ void OptionsView::render()
     for (int index = 0; index < model_.count(); ++index) {
         QRadioButton* button = buttons_[static_cast<std::size_t>(index)];
         const QString help = QString::fromStdString(model_.optionToolTip(index));
-        button->setToolTip(help);
+        button->setToolTip(plainToolTip(help));
         button->setAccessibleDescription(help);
         button->setFont(widget()->font());
         if (model_.isSelected(index)) button->setChecked(true);

@@ -1,5 +1,7 @@
 #include "hosts/desktop/control_view.h"
 
+#include "hosts/desktop/plain_tool_tip.h"
+
 ControlView::ControlView(Control& control, QWidget* widget, ActOnControl act)
     : control_(control), widget_(widget), act_(std::move(act))
 {
@@ -26,7 +28,7 @@ void ControlView::applyCommonState()
 {
     widget_->setVisible(control_.visible());
     widget_->setEnabled(control_.enabled());
-    widget_->setToolTip(QString::fromStdString(control_.toolTip()));
+    widget_->setToolTip(plainToolTip(QString::fromStdString(control_.toolTip())));
     showFont(QString::fromStdString(control_.font().name));
 }
 

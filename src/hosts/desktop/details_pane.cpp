@@ -13,6 +13,7 @@
 DetailsPane::DetailsPane(QWidget* parent)
     : QWidget(parent), fields_(new SpokenLabel(this)), trace_(new QPlainTextEdit(this))
 {
+    fields_->setTextFormat(Qt::RichText);
     fields_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     fields_->setWordWrap(true);
     trace_->setReadOnly(true);

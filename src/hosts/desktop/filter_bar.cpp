@@ -23,6 +23,7 @@ FilterBar::FilterBar(QWidget* parent)
     : QWidget(parent), text_(new QLineEdit(this)), excludeText_(new QCheckBox(this)),
       counts_(new QLabel(this))
 {
+    counts_->setTextFormat(Qt::PlainText);
     rows_ = new QBoxLayout(QBoxLayout::LeftToRight, this);
     rows_->setContentsMargins(8, 6, 6, 6);
     auto* columns = new QHBoxLayout;

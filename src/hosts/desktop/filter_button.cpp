@@ -1,6 +1,7 @@
 #include "hosts/desktop/filter_button.h"
 
 #include "hosts/desktop/interface_language.h"
+#include "hosts/desktop/plain_tool_tip.h"
 #include "hosts/desktop/roomy_delegate.h"
 
 #include <QCheckBox>
@@ -186,7 +187,7 @@ void FilterButton::updateText()
     if (!ticked.empty() && exclude_->isChecked()) shown = tr("not %1").arg(shown);
     setText(tr("%1: %2 ").arg(title_, shown));
     setAccessibleName(tr("Filter by %1: %2").arg(title_, shown));
-    setToolTip(tr("Show or hide rows by %1").arg(title_));
+    setToolTip(plainToolTip(tr("Show or hide rows by %1").arg(title_)));
     QFont font = this->font();
     font.setBold(!ticked.empty());
     setFont(font);

@@ -37,8 +37,10 @@ FindBar::FindBar(QWidget* parent)
       count_(new SpokenLabel(this))
 {
     auto* findLabel = new QLabel(this);
+    findLabel->setTextFormat(Qt::PlainText);
     findLabel->setBuddy(text_);
     auto* timeLabel = new QLabel(this);
+    timeLabel->setTextFormat(Qt::PlainText);
     timeLabel->setBuddy(time_);
     text_->setClearButtonEnabled(true);
     text_->setMinimumWidth(fontMetrics().averageCharWidth() * 14);

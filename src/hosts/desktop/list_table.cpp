@@ -2,6 +2,7 @@
 
 #include "hosts/desktop/list_model.h"
 #include "platform/list_view.h"
+#include "runtime/spreadsheet_cell.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -22,8 +23,10 @@ constexpr int cellMargin = 14;
 constexpr int symbolSize = 14;
 constexpr int symbolRoom = 24; ///< for a mark or a sign before the text of a log's cell
 
-QString csvField(QString text)
+/// A cell of comma-separated text, which goes to a spreadsheet: none is a formula.
+QString csvField(const QString& cell)
 {
+    QString text = QString::fromStdString(withoutFormulas(cell.toStdString()));
     if (!text.contains(QLatin1Char(',')) && !text.contains(QLatin1Char('"')) &&
         !text.contains(QLatin1Char('\n')) && !text.contains(QLatin1Char('\r')))
         return text;

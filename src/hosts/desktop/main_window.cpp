@@ -52,6 +52,7 @@ MainWindow::MainWindow(QSettings& settings) : settings_(settings)
     notice_ = new NoticeBar(body);
     centre_ = new QStackedWidget(body);
     empty_ = new QLabel(centre_);
+    empty_->setTextFormat(Qt::PlainText);
     empty_->setAlignment(Qt::AlignCenter);
     centre_->addWidget(empty_);
     auto* column = new QVBoxLayout(body);

@@ -6,6 +6,7 @@
 #include "hosts/desktop/main_window.h"
 #include "hosts/desktop/mnemonics.h"
 #include "hosts/desktop/open_tool.h"
+#include "hosts/desktop/plain_tool_tip.h"
 #include "hosts/desktop/recent_sites.h"
 #include "hosts/desktop/theme.h"
 
@@ -33,7 +34,7 @@ QString toolTipOf(const QAction& action)
 {
     const QString text = withoutMnemonic(action.text());
     const QString key = action.shortcut().toString(QKeySequence::NativeText);
-    return key.isEmpty() ? text : QStringLiteral("%1 (%2)").arg(text, key);
+    return plainToolTip(key.isEmpty() ? text : QStringLiteral("%1 (%2)").arg(text, key));
 }
 
 } // namespace
@@ -110,8 +111,8 @@ void MainWindow::showTexts()
                        "with Ctrl+Shift+N."));
     status_->setAccessibleName(tr("Status"));
     if (tool_)
-        siteName_->setToolTip(
-            tr("The site on show: %1").arg(QString::fromStdString(tool_->site().folder())));
+        siteName_->setToolTip(plainToolTip(
+            tr("The site on show: %1").arg(QString::fromStdString(tool_->site().folder()))));
     rebuildConsoleItems();
     updateTitle();
 }

@@ -13,6 +13,7 @@ NoticeBar::NoticeBar(QWidget* parent) : QWidget(parent), text_(new QLabel(this))
 {
     auto* symbol = new QLabel(this);
     symbol->setPixmap(toolIcon(QStringLiteral("level-warning")).pixmap(18, 18));
+    text_->setTextFormat(Qt::PlainText);
     text_->setWordWrap(true);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* close = new QToolButton(this);

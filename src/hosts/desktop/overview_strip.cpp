@@ -1,5 +1,6 @@
 #include "hosts/desktop/overview_strip.h"
 
+#include "hosts/desktop/plain_tool_tip.h"
 #include "hosts/desktop/theme.h"
 
 #include <QAbstractScrollArea>
@@ -128,7 +129,8 @@ bool OverviewStrip::event(QEvent* event)
     if (event->type() != QEvent::ToolTip) return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
     const auto row = markedRowAt(help->pos().y());
-    QToolTip::showText(help->globalPos(), row && describe ? describe(*row) : QString(), this);
+    const QString said = row && describe ? describe(*row) : QString();
+    QToolTip::showText(help->globalPos(), plainToolTip(said), this);
     return true;
 }
 

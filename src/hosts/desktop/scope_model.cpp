@@ -1,6 +1,7 @@
 #include "hosts/desktop/scope_model.h"
 
 #include "hosts/desktop/icons.h"
+#include "hosts/desktop/plain_tool_tip.h"
 #include "platform/console.h"
 #include "shell/snapin_routines.h"
 
@@ -124,8 +125,9 @@ QVariant ScopeModel::data(const QModelIndex& index, int role) const
     if (!item) return {};
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
         return QString::fromStdString(item->displayName());
+    case Qt::ToolTipRole:
+        return plainToolTip(QString::fromStdString(item->displayName()));
     case Qt::DecorationRole:
         return iconOf(*item);
     default:

@@ -34,6 +34,7 @@ SpokenLabel::SpokenLabel(QWidget* parent) : QLabel(parent)
         return true;
     }();
     Q_UNUSED(installed);
+    setTextFormat(Qt::PlainText);
 }
 
 void SpokenLabel::setText(const QString& text)

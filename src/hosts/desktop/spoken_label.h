@@ -3,7 +3,8 @@
 #include <QLabel>
 
 /// A label whose accessible name tells what it is, and whose text a screen reader gets as the
-/// value. Of a plain label with a name the text would not be told.
+/// value. It shows plain text unless told otherwise. Of a plain label with a name the text would
+/// not be told.
 class SpokenLabel : public QLabel {
     Q_OBJECT
 

@@ -36,6 +36,8 @@ TaskPadView::TaskPadView(QWidget* parent)
     large.setPointSizeF(large.pointSizeF() * 1.5);
     large.setBold(true);
     title_->setFont(large);
+    title_->setTextFormat(Qt::PlainText);
+    description_->setTextFormat(Qt::PlainText);
     title_->setWordWrap(true);
     description_->setWordWrap(true);
     grid_->setContentsMargins(0, 0, 4, 0);

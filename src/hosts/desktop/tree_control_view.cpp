@@ -1,5 +1,6 @@
 #include "hosts/desktop/tree_control_view.h"
 
+#include "hosts/desktop/plain_tool_tip.h"
 #include "hosts/desktop/roomy_delegate.h"
 
 #include <QMouseEvent>
@@ -58,7 +59,7 @@ void TreeControlView::noted()
 
 void TreeControlView::render()
 {
-    tree_->viewport()->setToolTip(QString::fromStdString(model_.toolTip()));
+    tree_->viewport()->setToolTip(plainToolTip(QString::fromStdString(model_.toolTip())));
     if (nodes_.outdated())
         nodes_.attach();
     else

@@ -157,6 +157,20 @@ TEST(ListTable, CopiesTheSelectedRowsOneLineEachOrAsCsv)
               QGuiApplication::clipboard()->text());
 }
 
+TEST(ListTable, CopiesNoFormulaAsCsv)
+{
+    Rows rows({{"=HYPERLINK(\"http://x\")", "-3"}, {"@SUM(A1)", "+1+2"}});
+    TemporaryFolder folder;
+    QSettings settings(QString::fromStdString(folder / "s.ini"), QSettings::IniFormat);
+    ListTable table(rows.model, settings);
+    table.listShown();
+    table.selectAll();
+    EXPECT_EQ(2, table.copyAsCsv());
+    EXPECT_EQ(QStringLiteral("#,Name,Size\r\n1,\"'=HYPERLINK(\"\"http://x\"\")\",-3\r\n"
+                             "2,'@SUM(A1),'+1+2\r\n"),
+              QGuiApplication::clipboard()->text());
+}
+
 TEST(ListTable, RemembersTheWidthsOfEachView)
 {
     TestWindow shown;
