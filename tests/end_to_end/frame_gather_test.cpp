@@ -513,6 +513,47 @@ TEST_F(FrameGather, ALogThatVanishesIsToldAndTheOthersAreGathered)
     EXPECT_EQ(500'000U, rowsOf(databaseIn(target), "tblTraces").size());
 }
 
+TEST_F(FrameGather, ALogThatIsCutOrTakenAwayWhileItIsReadIsTold)
+{
+    const std::string name = "diag_Long_20250101_000000.txt";
+    const std::string path = "'" + drive("KelmaOrvan/Logs/" + name).string() + "'";
+    const std::string underWay = "until [ $(stat -c %s '" + target.string() +
+                                 "'/*.mdb) -gt 2000000 ]; do sleep 0.01; done; ";
+    const Outcome cut = gatherWhile(underWay + "truncate -s 100 " + path);
+    EXPECT_EQ(1, cut.status);
+    EXPECT_EQ("orvandiag: not everything was gathered: " + name + " was cut while it was read\n",
+              cut.err);
+    fs::remove_all(target);
+    const Outcome gone = gatherWhile(underWay + "rm " + path);
+    EXPECT_EQ(1, gone.status);
+    EXPECT_EQ("orvandiag: not everything was gathered: " + name +
+                  " was taken away while it was read\n",
+              gone.err);
+}
+
+TEST_F(FrameGather, LogsThatCanNotBeListedAreTold)
+{
+    fs::rename(drive("KelmaOrvan/Logs"), folder / "logs");
+    fs::create_directory_symlink(folder / "logs", drive("KelmaOrvan/Logs"));
+    const Outcome gathered = gather("2025-02-20 16:42", "1");
+    EXPECT_EQ(1, gathered.status);
+    EXPECT_THAT(gathered.err, HasSubstr("not everything was gathered: the logs in "
+                                        "C:\\KelmaOrvan\\Logs could not be listed: "));
+    EXPECT_TRUE(gathered.json()["cabinet"].is_string());
+}
+
+TEST_F(FrameGather, ACurrentLogThatIsNotThereIsTold)
+{
+    const std::string log = currentLog();
+    fs::remove(drive("KelmaOrvan/Logs/" + log));
+    const Outcome gathered = gather("2025-02-20 16:42", "1");
+    EXPECT_EQ(1, gathered.status);
+    EXPECT_EQ("orvandiag: not everything was gathered: the current log of KoCSMgr, "
+              "C:\\KelmaOrvan\\Logs\\" +
+                  log + ", is not there\n",
+              gathered.err);
+}
+
 TEST_F(FrameGather, AKilledOneLeavesADatabaseThatHoldsAnExactPrefix)
 {
     fs::remove_all(site);

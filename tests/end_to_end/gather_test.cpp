@@ -207,6 +207,31 @@ TEST_F(GatherCommand, TellsOfAFullDisk)
     EXPECT_EQ(1, full.status) << full.out << full.err;
     EXPECT_EQ("orvandiag: not everything was gathered: " + log + " was copied in part: Disk full\n",
               full.err);
+    std::string toolLog;
+    for (const auto& file : fs::directory_iterator(drive("OrvanDiagnostics/LOGS")))
+        toolLog += read(file.path());
+    EXPECT_THAT(toolLog, HasSubstr("Came "));
+    EXPECT_LT(toolLog.size(), 100'000U) << "a full disk costs one line, and not one a line";
+}
+
+TEST_F(GatherCommand, ASignalIsACancelAndNoEnd)
+{
+    const std::string log = "diag_KoNotify_20250101_000000.txt";
+    std::string content;
+    for (int i = 0; i < 400'000; ++i) content += "15:23:07:123,Conv,1,X,2,a line among many\n";
+    write(drive("KelmaOrvan/Logs/" + log), content);
+    for (const char* signal : {"INT", "TERM", "HUP"}) {
+        SCOPED_TRACE(signal);
+        const std::string copy = (target / formattedName(log)).string();
+        const Outcome cancelled = runProgram(
+            {"bash", "-mc",
+             "'" ORVANDIAG_PROGRAM "' --site '" + site.string() + "' gather logs --log " + log +
+                 " --to '" + target.string() + "' & child=$!; until [ -s '" + copy +
+                 "' ]; do sleep 0.01; done; kill -" + signal + " $child; wait $child"});
+        EXPECT_EQ(1, cancelled.status) << cancelled.err;
+        EXPECT_THAT(cancelled.err, HasSubstr("cancelled; what was read until then is kept in "));
+        fs::remove_all(target);
+    }
 }
 
 TEST_F(GatherCommand, StandardWithoutItsLogSaysWhyAndGathersTheRest)

@@ -190,6 +190,24 @@ TEST_F(EventLanguageCommand, TheFirstLanguageComesBackOnExit)
     EXPECT_THAT(registry(), HasSubstr("\"OriginalEventLogLanguage\"=\"ENU\""));
 }
 
+TEST_F(EventLanguageCommand, TheFirstLanguageComesBackWhenASignalComesInBetween)
+{
+    const int all = messageFiles("ENU");
+    const std::string registered = "Messaging.*FRA";
+    for (const char* signal : {"INT", "TERM", "HUP"}) {
+        SCOPED_TRACE(signal);
+        const Outcome ended = runProgram(
+            {"bash", "-mc",
+             "'" ORVANDIAG_PROGRAM "' --site '" + site.string() +
+                 "' event-language FRA & child=$!; until grep -q '" + registered + "' '" +
+                 (site / "registry.reg").string() + "' || ! kill -0 $child; do :; done; kill -" +
+                 signal + " $child; wait $child"});
+        EXPECT_EQ(0, ended.status) << "what was begun is done as a whole";
+        EXPECT_EQ(all, messageFiles("ENU"));
+        EXPECT_EQ(0, messageFiles("FRA"));
+    }
+}
+
 TEST_F(EventLanguageCommand, KeepLeavesTheNewLanguageForLaterRunsToo)
 {
     const int all = messageFiles("ENU");

@@ -101,6 +101,17 @@ TEST_F(CycleCommand, WritesAStampOfThisDayIntoTheRegistry)
     EXPECT_EQ("New log files started.\n", run({"cycle"}).out);
 }
 
+TEST_F(CycleCommand, ASignalOfTheSameSecondIsGivenAgainInTheNext)
+{
+    std::string latest;
+    for (int time = 0; time < 3; ++time) {
+        const Outcome cycle = runJson({"cycle"});
+        ASSERT_EQ(0, cycle.status) << cycle.err;
+        EXPECT_NE(latest, cycle.json()["bytes"]) << "the server would see no change";
+        latest = cycle.json()["bytes"];
+    }
+}
+
 struct AboutCommand : SampleSite {};
 
 TEST_F(AboutCommand, TellsNameAndVersion)
