@@ -94,6 +94,7 @@ OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check
     };
     console_.load(*snapIn_);
     loaded_ = true;
+    registry_.forget(); // what the tool notes as it starts is no part of a command
     context_->onTrappedError = {};
     if (!interrupted()) return;
     close();
@@ -119,6 +120,8 @@ void OpenTool::close()
     if (!toolLogFailure_.empty())
         printMessage("the tool's own log can't be written: " + toolLogFailure_);
     toolLogFailure_.clear();
+    if (use_ == ToolUse::change && !registry_.refusal().empty())
+        throw CommandFailure(registry_.refusal());
 }
 
 void OpenTool::takeTurnIfItComes()

@@ -37,7 +37,6 @@ public:
         }
         const std::string refusal = tool.registry().refusalOf(signalName);
         const std::string status = tool.console().currentView().statusBarText();
-        tool.close();
         if (!after)
             throw CommandFailure("the signal could not be written: the site's registry has no key "
                                  "RoLogMgr\\BroadCast that takes it");
@@ -45,6 +44,7 @@ public:
         if (before == after)
             throw CommandFailure("the signal was not given: it is what it was before, and the "
                                  "server sees no change");
+        tool.close();
         if (output.json())
             output.value({{"signal", signalName}, {"bytes", hex(*after)}});
         else

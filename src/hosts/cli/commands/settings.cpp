@@ -100,8 +100,8 @@ public:
         const bool rebootRequired = changes && change(tool);
         const ShownSettings shown = read(tool);
         const std::string refusal = tool.registry().refusalOf("Output Path");
-        tool.close();
         requireWritten(shown, refusal);
+        tool.close();
         report(output, shown, rebootRequired);
     }
 
