@@ -1,6 +1,7 @@
 #include "platform/scope_tree.h"
 
 #include "runtime/run_time_error.h"
+#include "runtime/text.h"
 
 #include <algorithm>
 #include <utility>
@@ -55,6 +56,21 @@ ScopeItem* ScopeTree::find(std::string_view key) const
     return found == byKey_.end() ? nullptr : found->second;
 }
 
+std::vector<std::string> ScopeTree::keysBeginningWith(std::string_view text) const
+{
+    const std::string prefix = lowerCase(text);
+    std::vector<const ScopeItem*> found;
+    for (auto at = byLowerKey_.lower_bound(prefix);
+         at != byLowerKey_.end() && beginsWith(at->first, prefix); ++at)
+        found.push_back(at->second);
+    std::sort(found.begin(), found.end(), [](const ScopeItem* left, const ScopeItem* right) {
+        return left->number_ > right->number_;
+    });
+    std::vector<std::string> keys;
+    for (const ScopeItem* item : found) keys.push_back(item->key());
+    return keys;
+}
+
 ScopeItem& ScopeTree::addRoot(std::string_view typeName, std::string_view key)
 {
     return add(typeName, key, nullptr);
@@ -70,7 +86,9 @@ ScopeItem& ScopeTree::add(std::string_view typeName, std::string_view key, Scope
 {
     if (find(key)) throw RunTimeError(runTimeErrors::scopeItemExists);
     std::shared_ptr<ScopeItem> added(new ScopeItem(typeName, key, parent, listener_));
+    added->number_ = added_++;
     items_.push_back(added);
+    byLowerKey_.emplace(lowerCase(key), added.get());
     byKey_.emplace(added->key(), added.get());
     if (parent) parent->children_.push_back(added.get());
     listener_.itemAdded(*added);
@@ -94,6 +112,9 @@ void ScopeTree::removeWithChildren(ScopeItem& item)
     const std::shared_ptr<ScopeItem> removed = *place;
     items_.erase(std::next(place).base());
     byKey_.erase(item.key());
+    const auto [first, last] = byLowerKey_.equal_range(lowerCase(item.key()));
+    byLowerKey_.erase(
+        std::find_if(first, last, [&](const auto& entry) { return entry.second == &item; }));
     if (item.parent_) {
         auto& siblings = item.parent_->children_;
         siblings.erase(std::next(std::find_if(siblings.rbegin(), siblings.rend(), isItem)).base());

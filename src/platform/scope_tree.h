@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -56,6 +57,7 @@ private:
               ScopeTreeListener& listener);
     void changed();
 
+    std::size_t number_ = 0; ///< in the order of coming
     std::string typeName_;
     std::string key_;
     std::string name_;
@@ -83,6 +85,10 @@ public:
     /// Null for a key that is not there.
     ScopeItem* find(std::string_view key) const;
 
+    /// The keys that begin with a text, in any case of ASCII letters: those of the youngest items
+    /// first.
+    std::vector<std::string> keysBeginningWith(std::string_view text) const;
+
     /// The first item.
     ScopeItem& addRoot(std::string_view typeName, std::string_view key);
 
@@ -101,4 +107,6 @@ private:
     ScopeTreeListener& listener_;
     std::vector<std::shared_ptr<ScopeItem>> items_;
     std::unordered_map<std::string_view, ScopeItem*> byKey_; ///< keys belong to the items
+    std::multimap<std::string, ScopeItem*> byLowerKey_;
+    std::size_t added_ = 0;
 };

@@ -22,13 +22,8 @@ constexpr std::size_t furtherRoom = 25;
 /// Takes out the nodes whose key begins with the process's log name, last node first.
 void removeLogNodes(ErrorTrap& step, ScopeTree& scopeItems, const std::string& process)
 {
-    const std::string prefix = lowerCase("diag_" + process);
-    for (int position = scopeItems.count(); position >= 1; --position) {
-        std::string key;
-        step([&] { key = scopeItems.item(position).key(); });
-        if (!beginsWith(lowerCase(key), prefix)) continue;
-        step([&] { scopeItems.remove(key); });
-    }
+    for (const std::string& key : scopeItems.keysBeginningWith("diag_" + process))
+        if (scopeItems.find(key)) step([&] { scopeItems.remove(key); });
 }
 
 void addLogNode(ErrorTrap& step, ToolContext& tool, ScopeTree& scopeItems, ScopeItem& processNode,

@@ -56,6 +56,22 @@ TEST_F(ScopeTreeTest, FindsAnItemByItsExactKey)
     EXPECT_EQ(35601, errorNumberOf([&] { tree.item("rocsmgr"); }));
 }
 
+TEST_F(ScopeTreeTest, GivesTheKeysThatBeginWithATextInAnyCaseTheYoungestFirst)
+{
+    for (const char* key :
+         {"diag_RoCsMgr_2", "RoCsMgr", "DIAG_rocsmgr_1", "diag_RoLogMgr_1", "diag_"})
+        tree.addChild("nodeLogs", key, root);
+
+    EXPECT_EQ((Texts{"DIAG_rocsmgr_1", "diag_RoCsMgr_2"}), tree.keysBeginningWith("Diag_RoCsMgr"));
+    EXPECT_EQ(4U, tree.keysBeginningWith("diag_").size());
+    EXPECT_EQ(Texts{}, tree.keysBeginningWith("diag_RoTelephony"));
+
+    tree.remove("diag_RoCsMgr_2");
+    tree.addChild("nodeLogs", "Diag_ROCSMGR_1", root);
+    tree.remove("DIAG_rocsmgr_1");
+    EXPECT_EQ(Texts{"Diag_ROCSMGR_1"}, tree.keysBeginningWith("diag_rocsmgr"));
+}
+
 TEST_F(ScopeTreeTest, RaisesTheConsolesOwnErrorForAKeyThatIsThereAlready)
 {
     tree.addChild("nodeProcesses", "RoCsMgr", root);
