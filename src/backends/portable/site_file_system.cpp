@@ -295,8 +295,15 @@ std::unique_ptr<TextWriter> SiteFileSystem::openForWriting(const std::string& pa
 {
     const SitePlace place = paths_.place(path);
     FileDescriptor file = place.root.openFile(place.path, O_WRONLY | O_CREAT | flags, pathNotFound);
-    if (isReadOnly(factsOf(file).st_mode)) throw RunTimeError(permissionDenied);
-    if (flags != O_APPEND && ::ftruncate(file.get(), 0) != 0) throw posixError(errno, deviceIo);
+    const auto facts = factsOf(file);
+    if (isReadOnly(facts.st_mode)) throw RunTimeError(permissionDenied);
+    if (flags != O_APPEND && facts.st_nlink > 1) {
+        // The file's other names, perhaps those of a backup, keep what it holds.
+        place.root.removeFile(place.path);
+        file = place.root.openFile(place.path, O_WRONLY | O_CREAT | O_EXCL, pathNotFound);
+    } else if (flags != O_APPEND && ::ftruncate(file.get(), 0) != 0) {
+        throw posixError(errno, deviceIo);
+    }
     return std::make_unique<SiteTextWriter>(std::move(file));
 }
 

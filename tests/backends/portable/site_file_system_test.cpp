@@ -147,6 +147,17 @@ TEST_F(SiteFileSystemTest, ListsNothingThatNoPathReaches)
     EXPECT_EQ("secret", outside.read("secret.txt"));
 }
 
+TEST_F(SiteFileSystemTest, AFileMadeAnewLeavesWhatItsOtherNamesHold)
+{
+    put("kept.txt", "kept");
+    fs::create_hard_link(folder / "drive_c/kept.txt", folder / "drive_c/copy.txt");
+
+    files.createTextFile("C:\\copy.txt")->write("new");
+    EXPECT_EQ("new", folder.read("drive_c/copy.txt"));
+    EXPECT_EQ("kept", folder.read("drive_c/kept.txt"));
+    EXPECT_EQ(1U, fs::hard_link_count(folder / "drive_c/copy.txt"));
+}
+
 TEST_F(SiteFileSystemTest, RemovesNothingThroughALink)
 {
     put("other/keep.LOG");
