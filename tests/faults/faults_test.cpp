@@ -111,6 +111,27 @@ TEST(Faults, CallsThatFailFromThenOnAreAnAnswer)
     runTrials(failingCalls(true));
 }
 
+/// Every call of a kind that a change makes, failing once with one error each.
+std::vector<Trial> everyFailing(const std::string& name, CallKind kind)
+{
+    const auto number = static_cast<int>(kind);
+    const auto& errors = errorsOf(kind);
+    std::vector<Trial> trials;
+    for (const auto& [change, outcome] : outcomes())
+        if (change->name == name)
+            for (std::uint64_t at = 1; at <= outcome.calls[number]; ++at)
+                trials.push_back({change, &outcome,
+                                  planText(number, at, false, "fail", errors[at % errors.size()])});
+    return trials;
+}
+
+TEST(Faults, EveryWriteOfTheEventLogsLanguageThatFailsIsTold)
+{
+    const auto trials = everyFailing("event-language", CallKind::rename);
+    ASSERT_FALSE(trials.empty());
+    runTrials(trials);
+}
+
 TEST(Faults, ACabinetMakerThatCanLookAtNothingGivesUp)
 {
     constexpr auto ask = static_cast<int>(CallKind::ask);

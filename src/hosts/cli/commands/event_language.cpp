@@ -98,6 +98,7 @@ public:
         EventLanguages shown;
         {
             SheetDriver sheet(tool, menuItem);
+            requireNoted(tool);
             change(tool, sheet, language);
             shown = {sheet.control<TextBox>("txtOriginalLanguage").text(),
                      sheet.control<TextBox>("txtCurrentLanguage").text(),
@@ -113,9 +114,17 @@ public:
     }
 
 private:
+    /// Looks whether the sheet could note the first language as it opened: without that note
+    /// nobody could bring it back.
+    static void requireNoted(OpenTool& tool)
+    {
+        if (!tool.registry().refusal().empty())
+            throw CommandFailure("the event log's language stays, as it could not be noted: " +
+                                 tool.registry().refusal());
+    }
+
     static void change(OpenTool& tool, SheetDriver& sheet, const std::string& language)
     {
-        tool.registry().forget();
         auto& list = sheet.control<ListBox>("lstAvailableLangs");
         const auto place = std::find(list.items().begin(), list.items().end(), language);
         list.chooseByPerson(static_cast<int>(place - list.items().begin()));
