@@ -313,6 +313,9 @@ TEST_F(TraceCommands, ALockOfAnotherProgramIsWaitedForOnceAndToldOf)
         EXPECT_EQ(words[0] == "status" ? 0 : 1, outcome.status);
         EXPECT_THAT(outcome.out + outcome.err,
                     HasSubstr("OrvanDirDb.sqlite: another program holds it and did not let go"));
+        const std::string said = "orvandiag: waiting for another program that holds ";
+        EXPECT_EQ(0U, outcome.err.find(said)) << "within the wait, before its end: " << outcome.err;
+        EXPECT_EQ(std::string::npos, outcome.err.find(said, 1)) << "once: " << outcome.err;
     }
 }
 

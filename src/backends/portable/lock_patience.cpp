@@ -15,7 +15,10 @@ constexpr auto longestNap = 50ms;
 void LockPatience::begin()
 {
     const auto now = Clock::now();
-    if (!oneRun_ && now - latest_ >= pauseBetweenRuns) left_ = whole_;
+    if (!oneRun_ && now - latest_ >= pauseBetweenRuns) {
+        left_ = whole_;
+        told_ = false;
+    }
     latest_ = now;
 }
 
@@ -30,5 +33,9 @@ bool LockPatience::wait(int tries)
     std::this_thread::sleep_for(std::min(nap, left_));
     latest_ = Clock::now();
     left_ -= latest_ - before;
+    if (listener_ && !told_ && whole_ - left_ >= untilNotice) {
+        told_ = true;
+        listener_();
+    }
     return true;
 }

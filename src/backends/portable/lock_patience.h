@@ -1,6 +1,8 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
+#include <utility>
 
 /// How long statements wait, all together, while another program holds their database.
 ///
@@ -12,6 +14,9 @@ class LockPatience {
 public:
     using Clock = std::chrono::steady_clock;
 
+    /// How long a person watches a program that waits before the program says so.
+    static constexpr std::chrono::seconds untilNotice{1};
+
     explicit LockPatience(std::chrono::milliseconds whole) : whole_(whole), left_(whole) {}
 
     LockPatience(const LockPatience&) = delete;
@@ -19,6 +24,9 @@ public:
 
     /// No pause brings a new patience any more.
     void holdForOneRun() { oneRun_ = true; }
+
+    /// `listener` hears of each run that has waited for `untilNotice`, once.
+    void onLongWait(std::function<void()> listener) { listener_ = std::move(listener); }
 
     /// Notes that a statement begins.
     void begin();
@@ -33,5 +41,7 @@ private:
     std::chrono::milliseconds whole_;
     Clock::duration left_;
     bool oneRun_ = false;
+    bool told_ = false; ///< the listener has heard of this run
+    std::function<void()> listener_;
     Clock::time_point latest_ = Clock::now(); ///< when a statement of the run was last at work
 };

@@ -83,12 +83,13 @@ Site::Site(const std::string& folder, const std::string& installedData, HostFact
       workstation_(settings_), eventReporter_(paths_.root(), workstation_.details()->computerName,
                                               settings_.logFields, clock_),
       eventLogExporter_(paths_), processes_(paths_, installedPrograms(installedData_)),
-      module_(settings_.toolFolder, std::move(host)), languages_(settings_.language, paths_),
+      module_(settings_.toolFolder, host), languages_(settings_.language, paths_),
       database_(databaseFile()), xml_(files_, codePage())
 {
     registry_.keyExists(HKEY_LOCAL_MACHINE, ""); // a damaged registry shows here, before any change
     paths_.place("C:\\");                        // so does a drive that leads out of the site
     paths_.standIn(settings_.toolFolder, lackingInToolFolder(toolFolder(), installedData_));
+    database_.tellOfWaits(host.notice);
     database_.openFor(DatabaseUse::look);
     if (use == SiteUse::change) startChanges();
 }

@@ -116,6 +116,13 @@ SiteDatabase::SiteDatabase(std::string file, std::shared_ptr<LockPatience> patie
 
 SiteDatabase::~SiteDatabase() = default;
 
+void SiteDatabase::tellOfWaits(const std::function<void(const std::string&)>& notice)
+{
+    if (!notice) return;
+    patience_->onLongWait(
+        [notice, text = "waiting for another program that holds " + file_] { notice(text); });
+}
+
 void SiteDatabase::waitAsOneRun()
 {
     patience_->holdForOneRun();

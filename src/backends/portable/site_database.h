@@ -3,6 +3,7 @@
 #include "platform/database.h"
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -25,6 +26,10 @@ public:
 
     /// Another connection to the same file, closed yet, that shares the patience of this one.
     SiteDatabase another() const { return SiteDatabase(file_, patience_); }
+
+    /// `notice` takes what a person who waits is to know, of all connections that share the
+    /// patience.
+    void tellOfWaits(const std::function<void(const std::string&)>& notice);
 
     /// From now on there is one patience for whatever happens, as for a program that runs a single
     /// command.

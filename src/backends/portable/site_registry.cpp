@@ -15,7 +15,6 @@ namespace {
 constexpr mode_t ordinaryMode = 0644;
 constexpr const char* fileName = "registry.reg";
 constexpr const char* lockName = "registry.reg.lock";
-constexpr std::chrono::seconds timeUntilNotice{1};
 
 bool sameVersion(const struct stat& left, const struct stat& right)
 {
@@ -38,9 +37,14 @@ std::string fullPath(std::uint32_t hive, const std::string& path)
 
 } // namespace
 
-SiteRegistry::SiteRegistry(RootFolder site, Notice notice, std::chrono::milliseconds patience)
-    : site_(std::move(site)), notice_(std::move(notice)), patience_(patience)
-{}
+SiteRegistry::SiteRegistry(RootFolder site, const Notice& notice,
+                           std::chrono::milliseconds patience)
+    : site_(std::move(site)), patience_(patience)
+{
+    if (notice)
+        patience_.onLongWait([notice, text = "waiting for another program that holds " +
+                                             site_.shown(fileName)] { notice(text); });
+}
 
 RegistryTree& SiteRegistry::current() const
 {
@@ -157,8 +161,6 @@ FileDescriptor SiteRegistry::takeLock()
 
 void SiteRegistry::waitFor(const FileDescriptor& lock)
 {
-    const auto start = LockPatience::Clock::now();
-    bool told = false;
     patience_.begin();
     for (int tries = 0; ::flock(lock.get(), LOCK_EX | LOCK_NB) != 0; ++tries) {
         if (errno == EINTR) continue;
@@ -167,9 +169,6 @@ void SiteRegistry::waitFor(const FileDescriptor& lock)
             throw RunTimeError(runTimeErrors::permissionDenied,
                                "Permission denied: another program holds " + site_.shown(fileName) +
                                    " and did not let go in time");
-        if (told || !notice_ || LockPatience::Clock::now() - start < timeUntilNotice) continue;
-        notice_("waiting for another program that holds " + site_.shown(fileName));
-        told = true;
     }
 }
 

@@ -30,7 +30,7 @@ public:
     using Notice = std::function<void(const std::string&)>;
 
     /// The file is `registry.reg` in the site's folder.
-    explicit SiteRegistry(RootFolder site, Notice notice = {},
+    explicit SiteRegistry(RootFolder site, const Notice& notice = {},
                           std::chrono::milliseconds patience = usualPatience);
 
     bool keyExists(std::uint32_t hive, const std::string& path) const override;
@@ -56,7 +56,6 @@ private:
     void waitFor(const FileDescriptor& lock);
 
     RootFolder site_;
-    Notice notice_;
     LockPatience patience_;
     mutable RegistryTree tree_;
     mutable FileDescriptor

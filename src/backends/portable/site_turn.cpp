@@ -17,6 +17,9 @@ using namespace std::chrono_literals;
 /// As long for the first as for the last who came, so that each gets its turn.
 constexpr auto nap = 5ms;
 
+/// A wait of this length is told.
+constexpr auto untilNotice = 1s;
+
 /// The file of the lock; not open where nobody may write. One of another person serves as well.
 FileDescriptor openLock(const std::string& path)
 {
@@ -65,13 +68,18 @@ void writeDown(const FileDescriptor& lock)
 
 } // namespace
 
-SiteTurn::SiteTurn(const std::string& siteFolder, std::chrono::milliseconds patience)
+SiteTurn::SiteTurn(const std::string& siteFolder, std::chrono::milliseconds patience,
+                   const Notice& notice)
     : lock_(openLock(siteFolder + "/changes.lock"))
 {
     if (!lock_.isOpen()) return;
     const auto begin = Clock::now();
     auto since = begin;
+    bool told = !notice;
     std::string holder = holderOf(lock_);
+    const auto another = [&] {
+        return "another program" + (holder.empty() ? "" : " (process " + holder + ")");
+    };
     while (!tryLock(lock_)) {
         const auto now = Clock::now();
         if (const std::string next = holderOf(lock_); next != holder) {
@@ -79,10 +87,13 @@ SiteTurn::SiteTurn(const std::string& siteFolder, std::chrono::milliseconds pati
             since = now;
         }
         if (now - since >= patience || now - begin >= longestQueue * patience)
-            throw RunTimeError(
-                runTimeErrors::permissionDenied,
-                "another program" + (holder.empty() ? "" : " (process " + holder + ")") +
-                    " is changing the site " + siteFolder + " and did not finish in time");
+            throw RunTimeError(runTimeErrors::permissionDenied,
+                               another() + " is changing the site " + siteFolder +
+                                   " and did not finish in time");
+        if (!told && now - begin >= untilNotice) {
+            notice("waiting for " + another() + " that is changing the site " + siteFolder);
+            told = true;
+        }
         std::this_thread::sleep_for(nap);
     }
     writeDown(lock_);

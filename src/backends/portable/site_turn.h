@@ -3,6 +3,7 @@
 #include "backends/portable/file_descriptor.h"
 
 #include <chrono>
+#include <functional>
 #include <string>
 
 /// A program's turn to change a site, held for as long as this lives.
@@ -19,11 +20,16 @@ public:
     /// How often that long a program waits in all while others take their turns before it.
     static constexpr int longestQueue = 12;
 
-    /// Takes the turn on the site in a folder of the machine, or waits for it. Where nobody may
+    /// Takes what a person who waits is to know.
+    using Notice = std::function<void(const std::string&)>;
+
+    /// Takes the turn on the site in a folder of the machine, or waits for it; `notice` hears of a
+    /// wait of more than a second. Where nobody may
     /// write there is none to take, and none is needed. Raises 70, with a sentence, when others
     /// keep it too long or a link lies in its place; 76, 57, 61.
     explicit SiteTurn(const std::string& siteFolder,
-                      std::chrono::milliseconds patience = usualPatience);
+                      std::chrono::milliseconds patience = usualPatience,
+                      const Notice& notice = {});
 
 private:
     FileDescriptor lock_;

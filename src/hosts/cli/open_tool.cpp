@@ -81,7 +81,8 @@ OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check
         context_.emplace(looking_.platform());
         check(*this);
     }
-    if (use == ToolUse::change) turn_.emplace(site_.folder());
+    if (use == ToolUse::change)
+        turn_.emplace(site_.folder(), SiteTurn::usualPatience, printMessage);
     if (use != ToolUse::look) {
         interrupt_.emplace();
         site_.startChanges();
@@ -126,7 +127,7 @@ void OpenTool::close()
 
 void OpenTool::takeTurnIfItComes()
 try {
-    turn_.emplace(site_.folder());
+    turn_.emplace(site_.folder(), SiteTurn::usualPatience, printMessage);
 } catch (const RunTimeError&) {
     // What was gathered is not lost for it.
 }

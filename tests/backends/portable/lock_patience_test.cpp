@@ -55,6 +55,20 @@ TEST(LockPatience, IsNeverNewInAProgramOfOneRun)
     EXPECT_FALSE(patience.wait(0));
 }
 
+TEST(LockPatience, TellsOnceOfARunThatWaitsForASecond)
+{
+    LockPatience patience(2500ms);
+    int told = 0;
+    patience.onLongWait([&] { ++told; });
+    patience.begin();
+    const auto before = LockPatience::Clock::now();
+    for (int tries = 0; told == 0 && patience.wait(tries); ++tries) {
+    }
+    EXPECT_GE(LockPatience::Clock::now() - before, 1s);
+    timeOfWaiting(patience);
+    EXPECT_EQ(1, told);
+}
+
 TEST(LockPatience, ALongWaitIsNoPause)
 {
     LockPatience patience(3200ms);

@@ -87,6 +87,24 @@ TEST_F(SiteTurnTest, IsRefusedWithASentenceWhileAnotherProgramKeepsIt)
     EXPECT_EQ(runTimeErrors::permissionDenied, errorOf([&] { SiteTurn(folder.path(), 1ms); }));
 }
 
+TEST_F(SiteTurnTest, IsSaidToBeWaitedForAfterASecondAndOnce)
+{
+    const auto holder = other();
+    const auto before = Clock::now();
+    Clock::duration until{};
+    std::string told;
+    const auto notice = [&](const std::string& text) {
+        told += text;
+        until = Clock::now() - before;
+    };
+    EXPECT_EQ(runTimeErrors::permissionDenied,
+              errorOf([&] { SiteTurn(folder.path(), 3s, notice); }));
+    EXPECT_EQ("waiting for another program (process " + std::to_string(holder->process()) +
+                  ") that is changing the site " + folder.path(),
+              told);
+    EXPECT_GE(until, 1s);
+}
+
 TEST_F(SiteTurnTest, IsLetGoByAProgramThatIsKilled)
 {
     other().reset();
