@@ -262,6 +262,7 @@ void SiteFileSystem::copyFile(const std::string& source, const std::string& targ
         if (same || !S_ISREG(there->st_mode) || isReadOnly(there->st_mode))
             throw RunTimeError(permissionDenied);
     }
+    sweepReplacementFiles(to.root, folderPathOf(to.path));
     copyWholeFile(file, to.root, to.path);
 }
 

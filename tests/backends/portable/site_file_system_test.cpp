@@ -297,6 +297,17 @@ TEST_F(SiteFileSystemTest, WritesOverPlainFilesAlone)
     EXPECT_FALSE(outside.exists("made"));
 }
 
+TEST_F(SiteFileSystemTest, SweepsWhatAKilledCopyLeftBesideItsTarget)
+{
+    put("source", "new");
+    const std::string left = put("to/.new-7-1", "half of one");
+    fs::last_write_time(left, fs::file_time_type::clock::now() - std::chrono::hours(2));
+    put("to/.new-notes", "a person's");
+    files.copyFile("C:\\source", "C:\\to\\copy");
+    EXPECT_FALSE(fs::exists(left));
+    EXPECT_TRUE(folder.exists("drive_c/to/.new-notes"));
+}
+
 TEST_F(SiteFileSystemTest, WhatItMakesHasTheUsersOwnModes)
 {
     const struct {
