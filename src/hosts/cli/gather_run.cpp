@@ -3,7 +3,6 @@
 #include "hosts/cli/gather_progress.h"
 #include "hosts/cli/gather_wizard.h"
 #include "hosts/common/gather_outcome.h"
-#include "hosts/common/row_counts.h"
 
 #include <filesystem>
 
@@ -81,14 +80,12 @@ GatherOutcome runGather(OpenTool& tool, GatherWizard& wizard)
 
 namespace {
 
-std::string rowSummary(const std::string& database)
+std::string rowSummary(const GatherOutcome& outcome)
 {
-    const std::string name = fs::path(database).filename().string();
-    const auto rows = rowsByProcess(database);
-    if (rows.empty()) return {};
-    Table table({"Rows of " + name, ""});
+    if (outcome.rows.empty()) return {};
+    Table table({"Rows of " + fs::path(*outcome.database).filename().string(), ""});
     table.alignRight(1);
-    for (const auto& [process, count] : rows) table.row({process, groupedNumber(count)});
+    for (const auto& [process, count] : outcome.rows) table.row({process, groupedNumber(count)});
     return table.text();
 }
 
@@ -118,7 +115,7 @@ void print(Output& output, const GatherOutcome& outcome)
     if (outcome.emptyFrame)
         output.line(Sentence{gatherSentences::emptyFrame, {}}.text());
     else if (outcome.database)
-        output.text(rowSummary(*outcome.database));
+        output.text(rowSummary(outcome));
 }
 
 } // namespace

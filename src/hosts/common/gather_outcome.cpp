@@ -4,7 +4,6 @@
 #include "core/registry_store.h"
 #include "gather/logs.h"
 #include "hosts/common/gather_report.h"
-#include "hosts/common/row_counts.h"
 #include "platform/file_system.h"
 #include "platform/host_module.h"
 #include "platform/processes.h"
@@ -76,6 +75,16 @@ std::string formattedName(const std::string& log)
 {
     const std::size_t dot = std::min(log.find('.'), log.size());
     return log.substr(0, dot) + "_fmtd" + log.substr(dot);
+}
+
+/// Whether a frame would look at a file of this name.
+bool mayBeOfAFrame(const std::string& name)
+{
+    constexpr std::string_view ending = ".txt";
+    const std::string folded = lowerCase(name);
+    const bool log = beginsWith(folded, "diag_") || beginsWith(folded, "data_");
+    return log && folded.find("fmtd") == std::string::npos && folded.size() > ending.size() &&
+           folded.compare(folded.size() - ending.size(), ending.size(), ending) == 0;
 }
 
 std::string captureName(const std::string& eventLog)
@@ -313,7 +322,8 @@ void GatherWatch::tellOfDatabase(GatherOutcome& outcome) const
         outcome.missing.push_back({gatherSentences::noDatabase, {run ? run->why : "it has gone"}});
         return;
     }
-    outcome.emptyFrame = !run && !hasRows(*outcome.database);
+    outcome.rows = report_.storedRows();
+    outcome.emptyFrame = !run && outcome.rows.empty();
     if (run) outcome.missing.push_back({gatherSentences::databaseIncomplete, {run->why}});
     if (const Trouble* definitions = troubleAt(Stage::definitions))
         outcome.missing.push_back({gatherSentences::definitionsIncomplete, {definitions->why}});
@@ -374,6 +384,28 @@ void GatherWatch::tellOfCurrentLogs(GatherOutcome& outcome) const
     }
 }
 
+/// Logs of a frame that the listing passes over without a word, with the reasons: links that lead
+/// out of the site or nowhere, pipes and the like.
+std::map<std::string, std::string> GatherWatch::passedOver() const
+{
+    const std::string& folder = tool_.g_strLogFolder;
+    std::map<std::string, std::string> logs;
+    std::error_code none;
+    for (const auto& entry : fs::directory_iterator(machinePath_(folder), none)) {
+        const std::string name = entry.path().filename().string();
+        const bool ordinary =
+            entry.is_directory(none) || (entry.is_regular_file(none) && !entry.is_symlink(none));
+        if (ordinary || !mayBeOfAFrame(name)) continue;
+        try {
+            if (!tool_.platform.files.fileExists(folder + "\\" + name))
+                tool_.platform.files.file(folder + "\\" + name);
+        } catch (const RunTimeError& error) {
+            logs[name] = causeOf(error);
+        }
+    }
+    return logs;
+}
+
 /// What the pages that list the logs could not list, or not look at.
 void GatherWatch::tellOfListing(GatherOutcome& outcome) const
 {
@@ -383,8 +415,11 @@ void GatherWatch::tellOfListing(GatherOutcome& outcome) const
         outcome.missing.push_back({gatherSentences::logsNotListed, {folder, *failure}});
     else if (timeFrame_ && !isFolder(tool_.platform.files, folder))
         outcome.missing.push_back({gatherSentences::noLogFolder, {folder}});
+    std::map<std::string, std::string> logs;
+    if (timeFrame_ && !failure && isFolder(tool_.platform.files, folder)) logs = passedOver();
+    for (const auto& [log, why] : report_.unseenLogs(folder)) logs.emplace(log, why);
     std::vector<Sentence> unseen;
-    for (const auto& [log, why] : report_.unseenLogs(folder))
+    for (const auto& [log, why] : logs)
         if (!holds(logs_, log)) unseen.push_back({gatherSentences::logUnseen, {log, why}});
     addTogether(outcome.missing, unseen);
 }

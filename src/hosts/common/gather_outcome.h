@@ -106,6 +106,7 @@ struct GatherOutcome {
     std::optional<std::string> cabinet;  ///< the first one of a set
     bool cabinetMakerReplaced = false;   ///< the installed one ran, and the site's is another one
     bool cancelled = false;
+    std::map<std::string, std::int64_t, std::less<>> rows; ///< of the database, by process
     bool emptyFrame = false; ///< a database was made, and no line lies in the time frame
 
     /// What was asked for and is not there as a whole, and why. Empty when the gather brought all.
@@ -183,6 +184,7 @@ private:
     void tellOfCabinet(GatherOutcome& outcome) const;
     void tellOfCurrentLog(GatherOutcome& outcome) const;
     void tellOfCurrentLogs(GatherOutcome& outcome) const;
+    std::map<std::string, std::string> passedOver() const;
     void tellOfListing(GatherOutcome& outcome) const;
     void tellOfLogs(GatherOutcome& outcome) const;
     void tellOfEventLogs(GatherOutcome& outcome) const;

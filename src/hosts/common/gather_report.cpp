@@ -1,6 +1,5 @@
 #include "hosts/common/gather_report.h"
 
-#include <string_view>
 #include <utility>
 
 namespace {
@@ -49,6 +48,22 @@ void GatherReport::readingEnds(const std::string& path, LogSight sight)
     sight.rowsLost = rowsBegun_ - rowsStored_;
     sight.rowsLostBecause = firstLoss_;
     readings_[path] = std::move(sight);
+}
+
+void GatherReport::rowStored(std::string_view process)
+{
+    ++rowsStored_;
+    const auto known = storedRows_.find(process);
+    if (known != storedRows_.end())
+        ++known->second;
+    else
+        storedRows_.emplace(process, 1);
+}
+
+void GatherReport::forgetReadings()
+{
+    readings_.clear();
+    storedRows_.clear();
 }
 
 void GatherReport::rowLost(const std::string& why)

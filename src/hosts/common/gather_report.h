@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -42,9 +44,9 @@ public:
     /// The reading ends: `sight` tells of it, but for the rows.
     void readingEnds(const std::string& path, LogSight sight);
 
-    /// A row of the trace database was begun; it was stored; it could not be stored.
+    /// A row of the trace database was begun; one of a process was stored; it could not be stored.
     void rowBegun() { ++rowsBegun_; }
-    void rowStored() { ++rowsStored_; }
+    void rowStored(std::string_view process);
     void rowLost(const std::string& why);
 
     /// Why the first of the listings of a folder that failed did so; none when all succeeded.
@@ -54,8 +56,14 @@ public:
     /// sorted.
     std::vector<std::pair<std::string, std::string>> unseenLogs(const std::string& folder) const;
 
-    /// The readings so far count no more.
-    void forgetReadings() { readings_.clear(); }
+    /// How many rows were stored of each process.
+    const std::map<std::string, std::int64_t, std::less<>>& storedRows() const
+    {
+        return storedRows_;
+    }
+
+    /// The readings and rows so far count no more.
+    void forgetReadings();
 
     /// The latest reading of a log; null for one that was not read.
     const LogSight* reading(const std::string& path) const;
@@ -73,4 +81,5 @@ private:
     std::int64_t rowsBegun_ = 0; ///< of the reading that goes on
     std::int64_t rowsStored_ = 0;
     std::string firstLoss_;
+    std::map<std::string, std::int64_t, std::less<>> storedRows_; ///< by process
 };

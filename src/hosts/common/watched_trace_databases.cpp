@@ -26,8 +26,9 @@ public:
 
     void update() override
     {
+        const std::string process = processOfRow();
         noting([&] { rows_->update(); });
-        report_.rowStored();
+        report_.rowStored(process);
     }
 
     void close() override { rows_->close(); }
@@ -44,8 +45,18 @@ private:
         }
     }
 
+    /// As it was set; the empty text where no row is at hand.
+    std::string processOfRow()
+    try {
+        if (process_ == nullptr) process_ = &rows_->field("Process");
+        return std::string(process_->text());
+    } catch (const RunTimeError&) {
+        return {};
+    }
+
     std::unique_ptr<TraceRecordset> rows_;
     GatherReport& report_;
+    TraceField* process_ = nullptr;
 };
 
 class WatchedDatabase final : public TraceDatabase {

@@ -250,6 +250,21 @@ TEST_F(SeenLogTest, ALogThatCouldNotBeLookedAtIsToldUnlessItWasGatheredAllTheSam
     EXPECT_THAT(told({}, [] {}), IsEmpty()) << "the next listing looks anew";
 }
 
+TEST_F(SeenLogTest, ALogThatNoListingShowsIsTold)
+{
+    machine.makeFolder("Logs");
+    machine.makeFolder("Logs/diag_F_1.txt");
+    machine.write("Logs/diag_A_1.txt");
+    const std::vector<std::string> links = {"diag_B_1.txt", "DATA_B_1.TXT", "diag_B_1_fmtd.txt",
+                                            "notes.txt", "diag_L_1.txt"};
+    for (const auto& name : links)
+        std::filesystem::create_symlink("/elsewhere", machine / ("Logs/" + name));
+    tool.files.with("C:\\Logs\\diag_L_1.txt", "a link that stays inside");
+    tool.files.failing("C:\\Logs\\diag_B_1.txt", runTimeErrors::permissionDenied);
+    EXPECT_THAT(told({}, [] {}), ElementsAre("DATA_B_1.TXT was passed over: File not found.",
+                                             "diag_B_1.txt was passed over: Permission denied."));
+}
+
 TEST_F(SeenLogTest, AFrameMissesTheCurrentLogOfAProcessThatIsNotThere)
 {
     withCurrentLog("A", "diag_A_1.txt");
@@ -302,7 +317,7 @@ TEST_F(SeenLogTest, RowsThatWereStoredAreNotLost)
         report.rowLost("of the log before");
         report.readingBegins(path);
         report.rowBegun();
-        report.rowStored();
+        report.rowStored("A");
         report.readingEnds(path, readTo(30, true));
     });
     EXPECT_THAT(missing, IsEmpty());

@@ -110,6 +110,7 @@ TEST_F(WatchedServicesTest, CountsTheRowsThatWereBegunAndNotStored)
     const auto filters = database->openRecordset("tblUniqueFilters");
     const LogSight sight = readWith([&] {
         rows->addNew();
+        rows->field("Process").setText("A");
         rows->update();
         rows->addNew();
         tool.traceDatabases.failing("update tblTraces", 1, traceDatabaseErrors::rowTooLarge);
@@ -118,6 +119,9 @@ TEST_F(WatchedServicesTest, CountsTheRowsThatWereBegunAndNotStored)
     });
     EXPECT_EQ(1, sight.rowsLost);
     EXPECT_NE("", sight.rowsLostBecause);
+    EXPECT_THAT(report.storedRows(), ElementsAre(Pair("A", 1)));
+    report.forgetReadings();
+    EXPECT_THAT(report.storedRows(), IsEmpty());
 }
 
 /// The tool's own log behind the watch.
