@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <functional>
 #include <map>
+#include <set>
 #include <thread>
 
 #include <fcntl.h>
@@ -208,6 +209,34 @@ TEST_F(Together, WhoLooksOrGathersDoesNotWaitForWhoChanges)
     const auto before = std::chrono::steady_clock::now();
     for (const auto& words : looks) EXPECT_EQ(0, run(words).status) << words[0];
     EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(10));
+    EXPECT_EQ(0, run({"gather", "standard", "--to", target.string()}).status);
+}
+
+TEST_F(Together, GathersOneAfterAnotherLoseNothingOfEachOther)
+{
+    std::filesystem::create_directory(target);
+    std::set<std::string> databases;
+    for (const char* from : {"2025-02-20 15:00", "2025-02-19 10:00", "2025-02-18 15:00"}) {
+        const Outcome gathered =
+            runJson({"gather", "frame", "--from", from, "--hours", "1", "--to", target.string()});
+        EXPECT_EQ(0, gathered.status) << gathered.err;
+        databases.insert(gathered.json()["database"].get<std::string>());
+    }
+    EXPECT_EQ(3U, databases.size());
+}
+
+TEST_F(Together, AGatherIntoAFolderThatAnotherOneWritesToIsRefused)
+{
+    std::filesystem::create_directory(target);
+    const int other = open(target.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    EXPECT_EQ(0, flock(other, LOCK_EX));
+    const Outcome refused = run({"gather", "standard", "--to", target.string()});
+    EXPECT_EQ(1, refused.status);
+    EXPECT_EQ("orvandiag: another gather is writing to " + target.string() +
+                  "; wait until it has ended, or name another folder\n",
+              refused.err);
+    EXPECT_TRUE(std::filesystem::is_empty(target));
+    close(other);
     EXPECT_EQ(0, run({"gather", "standard", "--to", target.string()}).status);
 }
 
