@@ -408,7 +408,7 @@ TEST_F(FrameGather, AMissingCabinetIsToldInTheCabinetMakersOwnWords)
     const fs::path named = folder / "a\x01z";
     const Outcome gathered = runJson(gatherWords("2025-02-20 16:42", "1", named));
     EXPECT_EQ(1, gathered.status);
-    EXPECT_THAT(gathered.err, HasSubstr("no cabinet was made: " + named.string() +
+    EXPECT_THAT(gathered.err, HasSubstr("no cabinet was made: " + (folder / "a\\x01z").string() +
                                         "\\ZMK.DDF:6: a control character"));
     EXPECT_TRUE(gathered.json()["cabinet"].is_null());
 }

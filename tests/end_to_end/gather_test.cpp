@@ -285,17 +285,35 @@ TEST_F(GatherCommand, StandardWithoutItsLogSaysWhyAndGathersTheRest)
 
 TEST_F(GatherCommand, ACopyThatCantBeMadeIsToldAndTheOthersAreMade)
 {
-    std::vector<std::string> logs;
-    for (const auto& log : runJson({"logs", "KoNotify"}).json()) logs.push_back(log["fileName"]);
-    ASSERT_GE(logs.size(), 2U);
-    fs::create_directories(target / formattedName(logs[0]));
+    const std::string log = currentLog();
+    // The copy has a longer name than the log, and this one has no room for more.
+    const std::string longest = "diag_KoNotify_" + std::string(237, 'x') + ".txt";
+    ASSERT_EQ(255U, longest.size());
+    fs::copy(drive("KelmaOrvan/Logs/" + log), drive("KelmaOrvan/Logs/" + longest));
     const Outcome gathered =
-        runJson({"gather", "logs", "--log", logs[0], "--log", logs[1], "--to", target.string()});
+        runJson({"gather", "logs", "--log", longest, "--log", log, "--to", target.string()});
     EXPECT_EQ(1, gathered.status);
-    EXPECT_EQ("orvandiag: not everything was gathered: " + logs[0] +
-                  " was not copied: Permission denied\n",
+    EXPECT_EQ("orvandiag: not everything was gathered: " + longest +
+                  " was not copied: Path not found\n",
               gathered.err);
-    EXPECT_THAT(gathered.json()["files"], ElementsAre(formattedName(logs[1])));
+    EXPECT_THAT(gathered.json()["files"], ElementsAre(formattedName(log)));
+}
+
+TEST_F(GatherCommand, EventLogsHoldNoFormulaWhereTheyAreForASpreadsheet)
+{
+    std::ofstream(site / "eventlogs/System.jsonl", std::ios::app)
+        << R"({"source":"=HYPERLINK(1)","id":7})"
+        << "\n";
+const auto gathered = [&](std::vector<std::string> more) {
+    const fs::path to = target.string() + std::to_string(more.size());
+    std::vector<std::string> words = {"gather", "logs", "--event-log",
+                                      "System", "--to", to.string()};
+    words.insert(words.end(), more.begin(), more.end());
+    EXPECT_EQ(0, run(words).status);
+    return read(to / "System.csv");
+};
+EXPECT_THAT(gathered({}), HasSubstr(",=HYPERLINK(1),7,"));
+EXPECT_THAT(gathered({"--excel"}), HasSubstr(",'=HYPERLINK(1),7,"));
 }
 
 TEST_F(GatherCommand, OnlyTheFilesOfThisRunAreListed)

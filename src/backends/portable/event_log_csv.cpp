@@ -1,6 +1,7 @@
 #include "backends/portable/event_log_csv.h"
 
 #include "backends/portable/utf8.h"
+#include "runtime/spreadsheet_cell.h"
 
 #include <cstdint>
 #include <nlohmann/json.hpp>
@@ -113,12 +114,12 @@ std::string quoted(const std::string& text)
     return result + '"';
 }
 
-std::string csvLine(const std::vector<std::string>& cells)
+std::string csvLine(const std::vector<std::string>& cells, CsvReader reader)
 {
     std::string line;
     for (const auto& cell : cells) {
         if (!line.empty() || &cell != &cells.front()) line += ',';
-        line += quoted(cell);
+        line += quoted(reader == CsvReader::spreadsheet ? withoutFormulas(cell) : cell);
     }
     return line + "\r\n";
 }
@@ -136,11 +137,12 @@ Json parsed(std::string_view line)
 
 } // namespace
 
-std::string eventLogCsvLine(std::string_view line)
+std::string eventLogCsvLine(std::string_view line, CsvReader reader)
 {
     if (isBlank(line)) return {};
     const auto event = parsed(line);
-    if (!event.is_object()) return csvLine({"", "", "", "", "", validUtf8(line)});
+    if (!event.is_object()) return csvLine({"", "", "", "", "", validUtf8(line)}, reader);
     return csvLine({member(event, "time"), typeText(event), member(event, "source"),
-                    member(event, "id"), member(event, "computer"), messageOf(event)});
+                    member(event, "id"), member(event, "computer"), messageOf(event)},
+                   reader);
 }

@@ -65,6 +65,7 @@ public:
     const SiteDatabase& database() const { return database_; }
     SiteFileSystem& files() { return files_; }
     SiteRegistry& registry() { return registry_; }
+    SiteEventLogExporter& eventLogExporter() { return eventLogExporter_; }
 
 private:
     SitePlace toolFolder() const;

@@ -1,6 +1,5 @@
 #include "backends/portable/site_event_log_exporter.h"
 
-#include "backends/portable/event_log_csv.h"
 #include "backends/portable/folder_listing.h"
 #include "backends/portable/site_paths.h"
 #include "backends/portable/site_text_reader.h"
@@ -29,10 +28,10 @@ FileDescriptor openEventLog(const RootFolder& site, const std::string& logName)
 }
 
 /// The next line as comma-separated text, with a mark in place of one that is too long to hold.
-std::string nextCsvLine(SiteTextReader& log)
+std::string nextCsvLine(SiteTextReader& log, CsvReader reader)
 {
     try {
-        return eventLogCsvLine(log.readLine());
+        return eventLogCsvLine(log.readLine(), reader);
     } catch (const RunTimeError& error) {
         if (error.number() != runTimeErrors::outOfStringSpace) throw;
         return std::string(eventLogCsvGap);
@@ -60,7 +59,7 @@ void SiteEventLogExporter::exportEventLog(const std::string& logName, const std:
     ReplacementFile csv(place.root, place.path, 0666);
     std::string text(eventLogCsvHeader);
     while (!log.atEnd()) {
-        text += nextCsvLine(log);
+        text += nextCsvLine(log, reader_);
         if (text.size() < enough) continue;
         csv.write(text);
         text.clear();

@@ -49,7 +49,8 @@ void OpenTool::close()
 
 void OpenTool::changing(const std::function<void()>& change)
 {
-    if (looksOnly() || changing_) return change();
+    // A site that has gone has no turns; what is tried on it fails by itself.
+    if (looksOnly() || changing_ || !present()) return change();
     const SiteTurn turn(site_.folder());
     changing_ = true;
     try {

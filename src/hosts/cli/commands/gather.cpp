@@ -1,3 +1,4 @@
+#include "backends/portable/site_event_log_exporter.h"
 #include "core/registry_store.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/frame_arguments.h"
@@ -59,6 +60,8 @@ public:
         frame_->add_flag("--no-system", noSystem_, "leave the System events out");
         for (CLI::App* mode : {standard_, logs_, frame_}) {
             mode->add_option("--to", to_, "the folder to gather into")->type_name("DIR");
+            mode->add_flag("--excel", excel_,
+                           "make the event logs' CSV safe for a spreadsheet: no cell is a formula");
             mode->add_flag("--dry-run", dryRun_, "tell what would be gathered, and gather nothing");
         }
     }
@@ -77,6 +80,7 @@ public:
         OpenTool tool(options, dryRun_ ? ToolUse::look : ToolUse::add,
                       [&](OpenTool& opened) { requireSound(opened, request.frame); });
         if (!to_.empty()) request.destination = tool.toolPath(to_);
+        if (excel_) tool.site().eventLogExporter().writeFor(CsvReader::spreadsheet);
         std::optional<GatherOutcome> outcome;
         {
             GatherWizard wizard(tool, request);
@@ -159,6 +163,7 @@ private:
     bool noApplication_ = false;
     bool noSystem_ = false;
     std::string to_;
+    bool excel_ = false;
     bool dryRun_ = false;
 };
 
