@@ -302,18 +302,18 @@ TEST_F(GatherCommand, ACopyThatCantBeMadeIsToldAndTheOthersAreMade)
 TEST_F(GatherCommand, EventLogsHoldNoFormulaWhereTheyAreForASpreadsheet)
 {
     std::ofstream(site / "eventlogs/System.jsonl", std::ios::app)
-        << R"({"source":"=HYPERLINK(1)","id":7})"
+        << R"json({"source":"=HYPERLINK(1)","id":7})json"
         << "\n";
-const auto gathered = [&](std::vector<std::string> more) {
-    const fs::path to = target.string() + std::to_string(more.size());
-    std::vector<std::string> words = {"gather", "logs", "--event-log",
-                                      "System", "--to", to.string()};
-    words.insert(words.end(), more.begin(), more.end());
-    EXPECT_EQ(0, run(words).status);
-    return read(to / "System.csv");
-};
-EXPECT_THAT(gathered({}), HasSubstr(",=HYPERLINK(1),7,"));
-EXPECT_THAT(gathered({"--excel"}), HasSubstr(",'=HYPERLINK(1),7,"));
+    const auto gathered = [&](std::vector<std::string> more) {
+        const fs::path to = target.string() + std::to_string(more.size());
+        std::vector<std::string> words = {"gather", "logs", "--event-log",
+                                          "System", "--to", to.string()};
+        words.insert(words.end(), more.begin(), more.end());
+        EXPECT_EQ(0, run(words).status);
+        return read(to / "System.csv");
+    };
+    EXPECT_THAT(gathered({}), HasSubstr(",=HYPERLINK(1),7,"));
+    EXPECT_THAT(gathered({"--excel"}), HasSubstr(",'=HYPERLINK(1),7,"));
 }
 
 TEST_F(GatherCommand, OnlyTheFilesOfThisRunAreListed)

@@ -56,6 +56,7 @@ void SiteEventLogExporter::exportEventLog(const std::string& logName, const std:
     SiteTextReader log(openEventLog(paths_.root(), logName));
     const SitePlace place = paths_.place(target);
     checkTarget(place);
+    sweepReplacementFiles(place.root, folderPathOf(place.path));
     ReplacementFile csv(place.root, place.path, 0666);
     std::string text(eventLogCsvHeader);
     while (!log.atEnd()) {

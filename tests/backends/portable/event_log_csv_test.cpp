@@ -57,11 +57,12 @@ TEST(EventLogCsvLine, WritesTheColumnsOfARecord)
 TEST(EventLogCsvLine, HasNoFormulaForASpreadsheet)
 {
     const std::string line =
-        R"({"source":"=cmd()","id":7,"computer":"@A1","inserts":["+1+2","plain"]})";
+        R"json({"source":"=cmd()","id":7,"computer":"@A1","inserts":["+1+2","plain"]})json";
 
     EXPECT_EQ(",,=cmd(),7,@A1,\"+1+2, plain\"\r\n", eventLogCsvLine(line));
-EXPECT_EQ(",,'=cmd(),7,'@A1,\"'+1+2, plain\"\r\n", eventLogCsvLine(line, CsvReader::spreadsheet));
-EXPECT_EQ(",,,,,'=1+1\r\n", eventLogCsvLine("=1+1", CsvReader::spreadsheet));
+    EXPECT_EQ(",,'=cmd(),7,'@A1,\"'+1+2, plain\"\r\n",
+              eventLogCsvLine(line, CsvReader::spreadsheet));
+    EXPECT_EQ(",,,,,'=1+1\r\n", eventLogCsvLine("=1+1", CsvReader::spreadsheet));
 }
 
 TEST(EventLogCsvLine, StaysCalmWithDeepNesting)

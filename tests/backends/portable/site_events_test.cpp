@@ -134,6 +134,16 @@ TEST_F(SiteEventsTest, ExportsAnEmptyLogAsItsHeader)
     EXPECT_EQ(header, folder.read("System.csv"));
 }
 
+TEST_F(SiteEventsTest, SweepsWhatAKilledExportLeftBesideItsTarget)
+{
+    folder.write("eventlogs/System.jsonl");
+    const std::string left = folder.write("to/.new-7-1", "half of one");
+    std::filesystem::last_write_time(left, std::filesystem::file_time_type::clock::now() -
+                                               std::chrono::hours(2));
+    exporter.exportEventLog("System", folder / "to/System.csv", 0);
+    EXPECT_FALSE(folder.exists("to/.new-7-1"));
+}
+
 TEST_F(SiteEventsTest, ExportsALargeLog)
 {
     std::string log;
