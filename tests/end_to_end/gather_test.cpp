@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <chrono>
+#include <fstream>
 #include <functional>
 
 namespace {
