@@ -77,11 +77,18 @@ void removeContents(FileDescriptor folder)
     }
 }
 
+/// Whether the system's error says that nothing is there, or that nobody may look: a name may lead
+/// on there all the same. Any other says that the machine failed.
+bool isAnAnswer(int error)
+{
+    return error == ENOENT || error == ENOTDIR || error == EACCES || error == ENAMETOOLONG;
+}
+
 /// The first name that differs from `wanted` in case alone; nothing when there is none, or the
-/// folder may not be read.
+/// folder may not be read. Raises 57 where the machine could not tell.
 std::optional<std::string> nameIgnoringCase(FileDescriptor folder, const std::string& wanted)
 {
-    if (!folder.isOpen()) return {};
+    if (!folder.isOpen() && isAnAnswer(errno)) return {};
     const auto folded = foldCase(wanted);
     std::optional<std::string> found;
     for (auto& name : namesOf(std::move(folder)))
@@ -172,11 +179,10 @@ std::string RootFolder::pathIgnoringCase(const std::vector<std::string>& names) 
     for (const auto& name : names) {
         if (exists) {
             const FileDescriptor folder = open(path, folderFlags);
-            if (!folder.isOpen() && (errno == EXDEV || errno == ELOOP))
-                fail(path, permissionDenied);
             struct stat facts {};
             exists = folder.isOpen() &&
                      ::fstatat(folder.get(), name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) == 0;
+            if (!exists && !isAnAnswer(errno)) fail(path, permissionDenied);
             if (!exists && folder.isOpen() && errno == ENOENT)
                 if (const auto other = nameIgnoringCase(openListing(folder.get(), "."), name)) {
                     exists = true;

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -95,6 +96,24 @@ TEST_F(RootFolderTest, FindsNamesInAnyCase)
     EXPECT_EQ("", root.pathIgnoringCase({}));
     EXPECT_EQ(70, errorOf([&] { root.pathIgnoringCase({"AWAY", "secret.txt"}); }));
     EXPECT_EQ(70, errorOf([&] { root.pathIgnoringCase({"AWAY"}); }));
+}
+
+TEST_F(RootFolderTest, ANameInAnotherCaseThatTheMachineCannotLookForIsNotTakenForAbsent)
+{
+    rlimit before{};
+    ::getrlimit(RLIMIT_NOFILE, &before);
+    const int next = ::dup(0);
+    ::close(next);
+    std::vector<std::string> found;
+    std::vector<int> errors;
+    for (rlim_t more = 0; more < 3; ++more) {
+        const rlimit few{static_cast<rlim_t>(next) + more, before.rlim_max};
+        ::setrlimit(RLIMIT_NOFILE, &few);
+        errors.push_back(errorOf([&] { found.push_back(root.pathIgnoringCase({"A"})); }));
+        ::setrlimit(RLIMIT_NOFILE, &before);
+    }
+    EXPECT_THAT(errors, testing::ElementsAre(57, 57, 0));
+    EXPECT_THAT(found, testing::ElementsAre("a"));
 }
 
 TEST_F(RootFolderTest, TellsWhereAPathLies)
