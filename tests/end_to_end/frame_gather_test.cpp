@@ -212,6 +212,11 @@ TEST_F(FrameGather, AFrameOnAServerWhoseLogFolderIsMissingSaysSo)
               "C:\\KelmaOrvan\\Logs is not there\n",
               gathered.err);
     EXPECT_TRUE(gathered.json()["cabinet"].is_string());
+    EXPECT_THAT(run({"gather", "frame", "--from", "2025-02-20 16:42", "--hours", "1", "--to",
+                     target.string()})
+                    .out,
+                testing::Not(HasSubstr("No line lies in the time frame")))
+        << "nobody looked";
 }
 
 TEST_F(FrameGather, OnlyTheFilesOfThisRunAreListed)

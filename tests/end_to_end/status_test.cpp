@@ -33,6 +33,21 @@ TEST_F(StatusCommand, KnowsTheExtendedFieldsOfANewerServer)
     EXPECT_TRUE(orvandiag({"--json", "--site", other, "status"}).json()["extendedFields"]);
 }
 
+TEST_F(StatusCommand, ALogFolderThatIsNotThereIsToldWhereLogsAreListed)
+{
+    ASSERT_EQ(0, run({"settings", "--log-folder", "D:\\Gone"}).status);
+    const std::string told = "orvandiag: the server's log folder D:\\Gone is not there\n";
+    for (const auto& words : std::vector<std::vector<std::string>>{
+             {"status"}, {"tree"}, {"logs", "KoCSMgr"}, {"gather", "standard", "--dry-run"}}) {
+        const Outcome outcome = run(words);
+        EXPECT_EQ(0, outcome.status) << words[0];
+        EXPECT_EQ(told, outcome.err) << words[0];
+    }
+    std::filesystem::create_directories(site / "drive_d/Gone");
+    EXPECT_EQ("", run({"status"}).err);
+    EXPECT_EQ("orvandiag: no log of KoCSMgr in D:\\Gone\n", run({"logs", "KoCSMgr"}).err);
+}
+
 TEST_F(StatusCommand, ACommandThatChangesSomethingLeavesItsMarksInTheEventLog)
 {
     ASSERT_EQ(0, run({"cycle"}).status);

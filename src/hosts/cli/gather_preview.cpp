@@ -2,6 +2,7 @@
 
 #include "gather/logs.h"
 #include "hosts/cli/gather_wizard.h"
+#include "hosts/cli/log_folder.h"
 #include "hosts/cli/output.h"
 #include "platform/file_system.h"
 #include "runtime/run_time_error.h"
@@ -90,6 +91,8 @@ void preview(OpenTool& tool, GatherWizard& wizard, Output& output)
     const Plan plan = planOf(tool, wizard.steps());
     const std::string destination = tool.machinePath(wizard.destination());
     const auto room = freeSpace(destination);
+    if (const std::string trouble = logFolderTrouble(tool); !trouble.empty())
+        output.message(trouble);
     if (!output.json()) {
         output.line("Would gather into " + destination);
         output.text(table(plan, room));

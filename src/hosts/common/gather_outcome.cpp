@@ -299,7 +299,10 @@ GatherOutcome GatherWatch::outcome() const
     }
     findFiles(outcome);
     if (timeFrame_) tellOfDatabase(outcome);
+    const std::size_t toldBefore = outcome.missing.size();
     tellOfLogs(outcome);
+    // A log that was not read to its end may have lines of the frame.
+    if (cancelled_ || outcome.missing.size() > toldBefore) outcome.emptyFrame = false;
     tellOfEventLogs(outcome);
     if (timeFrame_) tellOfCabinet(outcome);
     return outcome;

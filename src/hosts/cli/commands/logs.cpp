@@ -1,5 +1,6 @@
 #include "core/registry_store.h"
 #include "hosts/cli/commands/commands.h"
+#include "hosts/cli/log_folder.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
 #include "runtime/numbers.h"
@@ -57,7 +58,12 @@ public:
     {
         OpenTool tool(options, ToolUse::look, [this](OpenTool& opened) { requireProcess(opened); });
         const auto files = logFilesOf(tool, process_);
+        const std::string trouble = logFolderTrouble(tool);
         tool.close();
+        if (!trouble.empty())
+            output.message(trouble);
+        else if (files.empty())
+            output.message("no log of " + process_ + " in " + tool.context().g_strLogFolder);
         if (output.json()) {
             Json rows = Json::array();
             for (const auto& file : files)

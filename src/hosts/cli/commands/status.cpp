@@ -1,5 +1,6 @@
 #include "core/registry_store.h"
 #include "hosts/cli/commands/commands.h"
+#include "hosts/cli/log_folder.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
 #include "platform/database.h"
@@ -28,7 +29,9 @@ public:
         std::vector<std::string> processes;
         for (const ScopeItem* process : tool.processes().children())
             processes.push_back(process->name());
+        const std::string trouble = logFolderTrouble(tool);
         tool.close();
+        if (!trouble.empty()) output.message(trouble);
 
         if (output.json()) {
             output.value({{"version",

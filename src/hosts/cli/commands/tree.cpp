@@ -1,4 +1,5 @@
 #include "hosts/cli/commands/commands.h"
+#include "hosts/cli/log_folder.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
 
@@ -47,7 +48,9 @@ public:
             output.value(Json::array({jsonOf(root)}));
         else
             print(output, root, "");
+        const std::string trouble = logFolderTrouble(tool);
         tool.close();
+        if (!trouble.empty()) output.message(trouble);
     }
 };
 
