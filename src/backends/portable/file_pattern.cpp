@@ -14,9 +14,10 @@ std::size_t stepOf(std::string_view text)
 /// Whether a pattern may stand for nothing once the name has ended.
 bool acceptsEnd(std::string_view pattern)
 {
-    return pattern.find_first_not_of("*?") == std::string_view::npos ||
-           (pattern.front() == '.' && pattern.size() > 1 &&
-            pattern.find_first_not_of("*?", 1) == std::string_view::npos);
+    const std::size_t point = pattern.find_first_not_of("*?");
+    return point == std::string_view::npos ||
+           (pattern[point] == '.' && point + 1 < pattern.size() &&
+            pattern.find_first_not_of("*?", point + 1) == std::string_view::npos);
 }
 
 /// What one step of the match leaves of pattern and name; false when they do not fit.

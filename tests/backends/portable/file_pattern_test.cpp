@@ -23,6 +23,8 @@ TEST(FilePattern, MatchesNamesByThePlatformsRules)
         {"everything", "*", ".hidden", true},
         {"star point star is everything", "*.*", "README", true},
         {"an ending of any kind may be none", "README.*", "readme", true},
+        {"also behind marks for none", "a??.*", "a", true},
+        {"but a point alone is a point", "a??.", "a", false},
         {"but not a part of the name", "READ.*", "readme", false},
         {"a question mark is one character", "a?c", "abc", true},
         {"of any size", "a?c", "aéc", true},
