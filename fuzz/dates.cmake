@@ -1,0 +1,1 @@
+orvan_fuzz(dates LINKS orvan_runtime)
