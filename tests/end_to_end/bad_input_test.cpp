@@ -174,8 +174,9 @@ TEST_F(BadInput, ARegistryThatTakesNothingIsTheReasonWhyACommandFails)
         expectLastLine(run(words), 1,
                        "the server was not told: " + refused + "\"Diagnostic Grid Time Set\"");
     }
-    const std::string source = "the event source KoCSMgr could not be changed: the registry ";
-    expectLastLine(run({"event-language", "FRA"}), 1, source);
+    const std::string stays = "the event log's language stays, as it could not be noted: the "
+                              "registry did not take the key ";
+    expectLastLine(run({"event-language", "FRA"}), 1, stays);
     expectLastLine(run({"settings", "--log-folder", "D:\\Other"}), 1,
                    "the log folder could not be written: " + refused + "\"Output Path\"");
     EXPECT_EQ(before, read(site / "registry.reg"));

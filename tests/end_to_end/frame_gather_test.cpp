@@ -178,20 +178,6 @@ TEST_F(FrameGather, PacksTheDatabaseAndTheEventLogsAndCleansUp)
     EXPECT_EQ(read(database), read(extracted / database.filename()));
 }
 
-TEST_F(FrameGather, TwoInOneSecondIntoOneFolderBothFindTheirCabinet)
-{
-    std::set<std::string> cabinets;
-    bool shared = false;
-    for (int round = 0; round < 30 && !shared; ++round) {
-        const Outcome gathered = gather("2025-02-20 16:42", "1");
-        ASSERT_EQ(0, gathered.status) << gathered.err;
-        const auto cabinet = gathered.json()["cabinet"];
-        ASSERT_TRUE(cabinet.is_string());
-        shared = !cabinets.insert(cabinet.get<std::string>()).second;
-    }
-    EXPECT_TRUE(shared) << "no two of the gathers ended in one second";
-}
-
 TEST_F(FrameGather, AFrameWithoutLinesGivesADatabaseOfMacroTraces)
 {
     const Outcome gathered = run({"gather", "frame", "--from", "2001-01-01 00:00", "--hours", "1",

@@ -216,13 +216,16 @@ TEST_F(Together, GathersOneAfterAnotherLoseNothingOfEachOther)
 {
     std::filesystem::create_directory(target);
     std::set<std::string> databases;
+    std::set<std::string> cabinets;
     for (const char* from : {"2025-02-20 15:00", "2025-02-19 10:00", "2025-02-18 15:00"}) {
         const Outcome gathered =
             runJson({"gather", "frame", "--from", from, "--hours", "1", "--to", target.string()});
         EXPECT_EQ(0, gathered.status) << gathered.err;
         databases.insert(gathered.json()["database"].get<std::string>());
+        cabinets.insert(gathered.json()["cabinet"].get<std::string>());
     }
     EXPECT_EQ(3U, databases.size());
+    EXPECT_EQ(3U, cabinets.size());
 }
 
 TEST_F(Together, AGatherIntoAFolderThatAnotherOneWritesToIsRefused)
@@ -247,8 +250,10 @@ TEST_F(Together, AProgramThatKeepsItsTurnIsNamedAndNothingIsChanged)
     const std::string before = fingerprint();
     const Outcome refused = run({"micro", "set", "--on", level});
     EXPECT_EQ(1, refused.status);
-    EXPECT_EQ("orvandiag: another program (process 123) is changing the site " + site.string() +
-                  " and did not finish in time\n",
+    EXPECT_EQ("orvandiag: waiting for another program (process 123) that is changing the site " +
+                  site.string() +
+                  "\norvandiag: another program (process 123) is changing the site " +
+                  site.string() + " and did not finish in time\n",
               refused.err);
     EXPECT_EQ(before, fingerprint());
 }
