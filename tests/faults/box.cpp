@@ -178,6 +178,11 @@ void Box::makeSite()
         const std::string all = contentOf(log);
         put(log, all.substr(0, all.find('\n', 2000) + 1));
     }
+    // One log is a link to where it lies in another folder of the drive.
+    const std::string linked = "diag_KoCSMgr_20250219_144115.txt";
+    fs::create_directory(sound / "drive_c/Kept");
+    fs::rename(sound / "drive_c/KelmaOrvan/Logs" / linked, sound / "drive_c/Kept" / linked);
+    fs::create_symlink("../../Kept/" + linked, sound / "drive_c/KelmaOrvan/Logs" / linked);
 }
 
 std::map<std::string, std::string> Box::filesOf(const fs::path& folder)
@@ -195,7 +200,7 @@ void Box::begin() const
     fs::remove_all(site);
     fs::remove_all(to.parent_path());
     fs::create_directory(to.parent_path());
-    fs::copy(sound, site, fs::copy_options::recursive);
+    fs::copy(sound, site, fs::copy_options::recursive | fs::copy_options::copy_symlinks);
 }
 
 Run Box::run(const Change& change, const std::string& plan) const

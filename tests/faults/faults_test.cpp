@@ -111,15 +111,16 @@ TEST(Faults, CallsThatFailFromThenOnAreAnAnswer)
     runTrials(failingCalls(true));
 }
 
-/// Every call of a kind that a change makes, failing once with one error each.
-std::vector<Trial> everyFailing(const std::string& name, CallKind kind)
+/// Calls of a kind that a change makes, failing once with one error each: all, or `times` as many
+/// as are asked for.
+std::vector<Trial> eachFailing(const std::string& name, CallKind kind, std::size_t times)
 {
     const auto number = static_cast<int>(kind);
     const auto& errors = errorsOf(kind);
     std::vector<Trial> trials;
     for (const auto& [change, outcome] : outcomes())
         if (change->name == name)
-            for (std::uint64_t at = 1; at <= outcome.calls[number]; ++at)
+            for (const auto at : numbersOf(outcome.calls[number], times))
                 trials.push_back({change, &outcome,
                                   planText(number, at, false, "fail", errors[at % errors.size()])});
     return trials;
@@ -127,7 +128,14 @@ std::vector<Trial> everyFailing(const std::string& name, CallKind kind)
 
 TEST(Faults, EveryWriteOfTheEventLogsLanguageThatFailsIsTold)
 {
-    const auto trials = everyFailing("event-language", CallKind::rename);
+    const auto trials = eachFailing("event-language", CallKind::rename, 1000);
+    ASSERT_FALSE(trials.empty());
+    runTrials(trials);
+}
+
+TEST(Faults, AListingOfAGatherThatFailsLeavesOutNoLogWithoutAWord)
+{
+    const auto trials = eachFailing("gather frame", CallKind::list, 40);
     ASSERT_FALSE(trials.empty());
     runTrials(trials);
 }

@@ -117,6 +117,19 @@ try {
     return false;
 }
 
+/// What lies in a folder, if there is one, as far as the machine tells; `failed` says why there may
+/// be more.
+std::vector<fs::directory_entry> entriesOf(const std::string& folder, std::error_code& failed)
+{
+    std::vector<fs::directory_entry> entries;
+    failed.clear();
+    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
+         entry.increment(failed))
+        entries.push_back(*entry);
+    if (failed == std::errc::no_such_file_or_directory) failed.clear();
+    return entries;
+}
+
 /// Logs that failed in one way are told in one sentence.
 void addTogether(std::vector<Sentence>& sentences, const std::vector<Sentence>& gaps)
 {
@@ -219,7 +232,7 @@ std::map<std::string, GatherWatch::Stamp> GatherWatch::filesThere() const
 {
     std::map<std::string, Stamp> files;
     std::error_code none;
-    for (const auto& entry : fs::directory_iterator(machinePath_(destination_), none))
+    for (const auto& entry : entriesOf(machinePath_(destination_), none))
         if (entry.is_regular_file(none))
             files[entry.path().filename().string()] = {entry.last_write_time(none),
                                                        entry.file_size(none)};
@@ -230,7 +243,7 @@ std::optional<Sentence> GatherWatch::refusal() const
 {
     const std::string folder = machinePath_(destination_);
     std::error_code none;
-    for (const auto& entry : fs::directory_iterator(folder, none)) {
+    for (const auto& entry : entriesOf(folder, none)) {
         const std::string name = entry.path().filename().string();
         if (timeFrame_ && isPassing(name))
             return Sentence{gatherSentences::wouldBeLost, {name, folder}};
@@ -388,13 +401,13 @@ void GatherWatch::tellOfCurrentLogs(GatherOutcome& outcome) const
 }
 
 /// Logs of a frame that the listing passes over without a word, with the reasons: links that lead
-/// out of the site or nowhere, pipes and the like.
-std::map<std::string, std::string> GatherWatch::passedOver() const
+/// out of the site or nowhere, pipes and the like. `failed` says why there may be more.
+std::map<std::string, std::string> GatherWatch::passedOver(std::error_code& failed) const
 {
     const std::string& folder = tool_.g_strLogFolder;
     std::map<std::string, std::string> logs;
     std::error_code none;
-    for (const auto& entry : fs::directory_iterator(machinePath_(folder), none)) {
+    for (const auto& entry : entriesOf(machinePath_(folder), failed)) {
         const std::string name = entry.path().filename().string();
         const bool ordinary =
             entry.is_directory(none) || (entry.is_regular_file(none) && !entry.is_symlink(none));
@@ -419,7 +432,12 @@ void GatherWatch::tellOfListing(GatherOutcome& outcome) const
     else if (timeFrame_ && !isFolder(tool_.platform.files, folder))
         outcome.missing.push_back({gatherSentences::noLogFolder, {folder}});
     std::map<std::string, std::string> logs;
-    if (timeFrame_ && !failure && isFolder(tool_.platform.files, folder)) logs = passedOver();
+    if (timeFrame_ && !failure && isFolder(tool_.platform.files, folder)) {
+        std::error_code failed;
+        logs = passedOver(failed);
+        if (failed)
+            outcome.missing.push_back({gatherSentences::logsNotListed, {folder, failed.message()}});
+    }
     for (const auto& [log, why] : report_.unseenLogs(folder)) logs.emplace(log, why);
     std::vector<Sentence> unseen;
     for (const auto& [log, why] : logs)

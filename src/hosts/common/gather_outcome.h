@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 class GatherReport;
@@ -184,7 +185,7 @@ private:
     void tellOfCabinet(GatherOutcome& outcome) const;
     void tellOfCurrentLog(GatherOutcome& outcome) const;
     void tellOfCurrentLogs(GatherOutcome& outcome) const;
-    std::map<std::string, std::string> passedOver() const;
+    std::map<std::string, std::string> passedOver(std::error_code& failed) const;
     void tellOfListing(GatherOutcome& outcome) const;
     void tellOfLogs(GatherOutcome& outcome) const;
     void tellOfEventLogs(GatherOutcome& outcome) const;
