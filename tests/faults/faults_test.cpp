@@ -82,6 +82,13 @@ const std::vector<std::pair<const Change*, Outcome>>& outcomes()
     return found;
 }
 
+/// Whether a kind of call is tried: all are where none is asked for.
+bool isWanted(int kind)
+{
+    const char* const wanted = std::getenv("ORVAN_FAULT_KIND");
+    return wanted == nullptr || std::string(wanted) == callKindNames[kind];
+}
+
 std::vector<Trial> failingCalls(bool forEver)
 {
     // A library asks for memory before the program itself begins.
@@ -89,6 +96,7 @@ std::vector<Trial> failingCalls(bool forEver)
     std::vector<Trial> trials;
     for (const auto& [change, outcome] : outcomes()) {
         for (int kind = 1; kind < callKinds; ++kind) {
+            if (!isWanted(kind)) continue;
             const auto& errors = errorsOf(static_cast<CallKind>(kind));
             const bool memory = kind == static_cast<int>(CallKind::memory);
             for (auto at : numbersOf(outcome.calls[kind])) {

@@ -2,8 +2,11 @@
 
 #include "backends/portable/xml_text.h"
 #include "platform/file_system.h"
+#include "runtime/out_of_memory.h"
 #include "runtime/run_time_error.h"
 
+#include <cstdlib>
+#include <cstring>
 #include <limits>
 #include <new>
 #include <utility>
@@ -17,6 +20,23 @@ namespace {
 constexpr int xmlFailure = -2147467259;
 
 using Tree = std::shared_ptr<xmlDoc>;
+
+void* noted(void* memory)
+{
+    if (memory == nullptr) noteOutOfMemory();
+    return memory;
+}
+
+/// The library calls a document that it has no memory for malformed, or leaves a part of it out:
+/// its requests are to be looked at one by one.
+void useNotedMemory()
+{
+    static const int result = xmlMemSetup(
+        std::free, [](std::size_t size) { return noted(std::malloc(size)); },
+        [](void* old, std::size_t size) { return noted(std::realloc(old, size)); },
+        [](const char* text) { return static_cast<char*>(noted(strdup(text))); });
+    if (result != 0) throw std::bad_alloc();
+}
 
 const xmlChar* chars(const std::string& text)
 {
@@ -294,6 +314,7 @@ private:
 
 std::unique_ptr<XmlDocument> LibxmlDocuments::newDocument()
 {
+    useNotedMemory();
     return std::make_unique<LibxmlDocument>(files_, codePage_);
 }
 

@@ -3,6 +3,7 @@
 #include "backends/portable/database_copy.h"
 #include "backends/portable/root_folder.h"
 #include "platform/database.h"
+#include "runtime/out_of_memory.h"
 #include "runtime/run_time_error.h"
 
 #include <filesystem>
@@ -71,9 +72,31 @@ unsigned long long inodeOf(const std::string& file)
     return ::lstat(file.c_str(), &facts) == 0 ? facts.st_ino : 0;
 }
 
-/// Steps of the database's machine that one statement may take: about a second. A view may be written
-/// so that it never ends.
+/// Steps of the database's machine that one statement may take: about a second. A view may be
+/// written so that it never ends.
 constexpr int mostSteps = 50'000'000;
+
+sqlite3_mem_methods ownMemory;
+
+void* noted(void* memory)
+{
+    if (memory == nullptr) noteOutOfMemory();
+    return memory;
+}
+
+/// Where the library has no memory for a value it gives none, as for an empty one: its requests are
+/// to be looked at one by one.
+void useNotedMemory()
+{
+    // A program that has used the library before goes on with what the library does.
+    [[maybe_unused]] static const int result = [] {
+        sqlite3_config(SQLITE_CONFIG_GETMALLOC, &ownMemory);
+        sqlite3_mem_methods methods = ownMemory;
+        methods.xMalloc = [](int size) { return noted(ownMemory.xMalloc(size)); };
+        methods.xRealloc = [](void* old, int size) { return noted(ownMemory.xRealloc(old, size)); };
+        return sqlite3_config(SQLITE_CONFIG_MALLOC, &methods);
+    }();
+}
 
 int endTooLong(void*)
 {
@@ -186,6 +209,7 @@ bool SqliteHandle::connectToCopy(const std::string& file, std::string& failure)
 /// again and told.
 int SqliteHandle::connect(const std::string& file, int flags, std::string& failure)
 {
+    useNotedMemory();
     int result = sqlite3_open_v2(file.c_str(), &database_,
                                  flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_NOFOLLOW, nullptr);
     if (result == SQLITE_OK) {

@@ -2,6 +2,7 @@
 #include "hosts/cli/message.h"
 #include "hosts/cli/output.h"
 #include "hosts/cli/program.h"
+#include "runtime/out_of_memory.h"
 #include "runtime/run_time_error.h"
 
 #include <CLI/CLI.hpp>
@@ -59,12 +60,11 @@ int main(int argc, char** argv)
     // A closed pipe and a file size limit are errors of a write, not the end of the program.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
+    endWhenOutOfMemory("orvandiag");
     try {
         return run(argc, argv);
     } catch (const RunTimeError& error) {
         return refuse(error.description(), 1);
-    } catch (const std::bad_alloc&) {
-        return refuse("out of memory", 1);
     } catch (const std::exception& error) {
         return refuse(error.what(), 1);
     }
