@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <functional>
 #include <map>
+#include <mutex>
 #include <set>
 #include <thread>
 
@@ -241,6 +242,29 @@ TEST_F(Together, AGatherIntoAFolderThatAnotherOneWritesToIsRefused)
     EXPECT_TRUE(std::filesystem::is_empty(target));
     close(other);
     EXPECT_EQ(0, run({"gather", "standard", "--to", target.string()}).status);
+}
+
+TEST_F(Together, GathersThatMakeTheSameFolderLeaveEachOtherTheirResults)
+{
+    std::mutex one;
+    std::set<std::string> databases;
+    std::size_t refusals = 0;
+    std::vector<std::function<void()>> gathers;
+    for (const char* from : {"2025-02-20 15:00", "2025-02-19 10:00", "2025-02-18 15:00"})
+        gathers.push_back([&, from] {
+            const Outcome gathered = runJson(
+                {"gather", "frame", "--from", from, "--hours", "1", "--to", target.string()});
+            const std::lock_guard lock(one);
+            if (gathered.status == 0)
+                databases.insert(gathered.json()["database"].get<std::string>());
+            else if (gathered.err.find("another gather is writing to") != std::string::npos)
+                ++refusals;
+        });
+    allAtOnce(gathers);
+    EXPECT_EQ(gathers.size(), databases.size() + refusals);
+    EXPECT_FALSE(databases.empty());
+    for (const std::string& database : databases)
+        EXPECT_TRUE(std::filesystem::exists(database)) << database;
 }
 
 TEST_F(Together, AProgramThatKeepsItsTurnIsNamedAndNothingIsChanged)

@@ -2,73 +2,26 @@
 
 #include "hosts/cli/gather_progress.h"
 #include "hosts/cli/gather_wizard.h"
+#include "hosts/common/destination_turn.h"
 #include "hosts/common/gather_outcome.h"
 
-#include <cerrno>
 #include <chrono>
-#include <ctime>
 #include <filesystem>
 #include <thread>
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
 
 namespace {
 
-/// While it lives, no other gather of the command line writes to a folder: results are named by the
-/// second, and one would take the other's place. A folder that is not there yet is not kept.
-class DestinationTurn {
-public:
-    explicit DestinationTurn(const std::string& folder)
-        : folder_(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
-    {
-        if (folder_ < 0 || ::flock(folder_, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) return;
-        ::close(folder_);
-        throw CommandFailure("another gather is writing to " + folder +
-                             "; wait until it has ended, or name another folder");
-    }
-
-    ~DestinationTurn()
-    {
-        if (folder_ >= 0) ::close(folder_);
-    }
-
-    DestinationTurn(const DestinationTurn&) = delete;
-    DestinationTurn& operator=(const DestinationTurn&) = delete;
-
-private:
-    int folder_;
-};
-
-bool isOfThisSecond(const fs::path& file)
-{
-    struct stat facts {};
-    return ::lstat(file.c_str(), &facts) == 0 && facts.st_ctime >= std::time(nullptr);
-}
-
-/// Whether a folder holds results that a gather in this second would name as its own. What can't be
-/// listed holds none.
-bool hasNamesOfThisSecond(const std::string& folder)
-{
-    std::error_code failed;
-    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
-         entry.increment(failed))
-        if (entry->path().filename().string().find("_WPN_") != std::string::npos &&
-            isOfThisSecond(entry->path()))
-            return true;
-    return false;
-}
-
 /// Lets the second pass in which an earlier gather named results of its own.
-void leaveNamesOfEarlierGathers(const std::string& folder)
+void leaveNamesOfEarlierGathers(const DestinationTurn& turn)
 {
-    constexpr int mostLooks = 40;
-    for (int looks = 0; looks < mostLooks && hasNamesOfThisSecond(folder); ++looks)
-        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    constexpr int nap = 50; ///< milliseconds
+    for (int slept = 0; slept < DestinationTurn::longestPause && turn.hasNamesOfThisSecond();
+         slept += nap)
+        std::this_thread::sleep_for(std::chrono::milliseconds(nap));
 }
 
 /// While it lives: shows a run's progress, and takes Ctrl-C for its Cancel.
@@ -127,11 +80,13 @@ void requireUsableDestination(OpenTool& tool, const std::string& destination)
 
 GatherOutcome runGather(OpenTool& tool, GatherWizard& wizard)
 {
+    const std::string destination = wizard.destination();
+    const DestinationTurn turn(tool.context().platform.files, destination,
+                               tool.machinePath(destination));
+    if (const auto refusal = turn.refusal()) throw CommandFailure(asClause(*refusal));
+    leaveNamesOfEarlierGathers(turn);
     GatherWatch watch(tool.context(), tool.report(), wizard.progressPage(),
                       [&tool](const std::string& path) { return tool.machinePath(path); });
-    const std::string destination = tool.machinePath(wizard.destination());
-    const DestinationTurn turn(destination);
-    leaveNamesOfEarlierGathers(destination);
     if (const auto refusal = watch.refusal()) throw CommandFailure(asClause(*refusal));
     {
         const RunProgress progress(tool, wizard, watch);

@@ -57,6 +57,8 @@ constexpr std::string_view wouldBeLost =
     "removes it again.";
 constexpr std::string_view notPlain =
     "%1 in the destination %2 is not a plain file, and nothing is written to such a one.";
+constexpr std::string_view destinationTaken =
+    "Another gather is writing to %1; wait until it has ended, or name another folder.";
 constexpr std::string_view cancelled = "The gather was cancelled.";
 constexpr std::string_view emptyFrame = "No line lies in the time frame.";
 constexpr std::string_view kept = "What was gathered is kept in %1.";
@@ -92,6 +94,7 @@ constexpr std::string_view all[] = {
     cabinetMakerReplaced,
     wouldBeLost,
     notPlain,
+    destinationTaken,
     cancelled,
     emptyFrame,
     kept,

@@ -1,5 +1,7 @@
 #include "hosts/desktop/gather_notice.h"
 
+#include "core/tool_context.h"
+#include "hosts/common/destination_turn.h"
 #include "hosts/common/gather_outcome.h"
 #include "platform/sheet_page.h"
 #include "runtime/run_time_error.h"
@@ -53,6 +55,9 @@ constexpr const char* texts[] = {
                       "of that name and removes it again."),
     QT_TRANSLATE_NOOP("GatherReport", "%1 in the destination %2 is not a plain file, and nothing "
                                       "is written to such a one."),
+    QT_TRANSLATE_NOOP("GatherReport",
+                      "Another gather is writing to %1; wait until it has ended, or "
+                      "name another folder."),
     QT_TRANSLATE_NOOP("GatherReport", "The gather was cancelled."),
     QT_TRANSLATE_NOOP("GatherReport", "No line lies in the time frame."),
     QT_TRANSLATE_NOOP("GatherReport", "What was gathered is kept in %1."),
@@ -91,17 +96,22 @@ LiveSentence GatherNotice::tick(ToolContext& tool, GatherReport& report, const S
     const auto* progress = dynamic_cast<const ppgGatherLogs03Step*>(&page);
     // A second run in the middle of the first one belongs to it.
     if (!progress || &timer != &progress->tmrDelayStart || watch_) return run(), nullptr;
+    std::optional<DestinationTurn> turn;
     std::optional<GatherWatch> watch;
     try {
+        const std::string& destination = progress->job().m_LogDestinationDirectory;
+        turn.emplace(tool.platform.files, destination, machinePath(destination));
         watch.emplace(tool, report, *progress, std::move(machinePath));
     } catch (const RunTimeError&) {
         // A page without a job has nothing to gather.
         return run(), nullptr;
     }
-    if (const auto refusal = watch->refusal()) {
+    const auto taken = turn->refusal();
+    if (const auto refusal = taken ? taken : watch->refusal()) {
         timer.setEnabled(false); // until the person comes back to the page
         return [sentence = *refusal] { return inLanguage(sentence); };
     }
+    if (leavesASecond(*turn, timer)) return nullptr;
     const Running running(watch_, *watch);
     run();
     const auto sentences = watch->outcome().sentences();
@@ -111,6 +121,14 @@ LiveSentence GatherNotice::tick(ToolContext& tool, GatherReport& report, const S
         for (const Sentence& sentence : sentences) told << inLanguage(sentence);
         return told.join(QLatin1Char(' '));
     };
+}
+
+/// Whether the gather waits for the timer's next tick, so that the window goes on painting.
+bool GatherNotice::leavesASecond(const DestinationTurn& turn, const Timer& timer)
+{
+    const bool wait = waited_ < DestinationTurn::longestPause && turn.hasNamesOfThisSecond();
+    waited_ = wait ? waited_ + timer.interval() : 0;
+    return wait;
 }
 
 void GatherNotice::messageShown()

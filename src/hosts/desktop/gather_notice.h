@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+class DestinationTurn;
 class GatherReport;
 class GatherWatch;
 class SheetPage;
@@ -19,9 +20,10 @@ public:
     using MachinePath = std::function<std::string(const std::string&)>;
 
     /// Lets a timer of a page tick. Where that runs a gather: gives, when it has come to its end,
-    /// what there is to say, and null for nothing; a gather that would harm its destination is not
-    /// run, and why is said at once. `tool`, what its services saw of the logs (`report`) and the
-    /// page outlive the call.
+    /// what there is to say, and null for nothing; a gather that would harm its destination, or
+    /// another one that writes there, is not run, and why is said at once. One that would name its
+    /// results as an earlier one did is run at a later tick. `tool`, what its services saw of the
+    /// logs (`report`) and the page outlive the call.
     LiveSentence tick(ToolContext& tool, GatherReport& report, const SheetPage& page, Timer& timer,
                       MachinePath machinePath, const std::function<void()>& run);
 
@@ -33,7 +35,10 @@ public:
     void cancelled();
 
 private:
+    bool leavesASecond(const DestinationTurn& turn, const Timer& timer);
+
     GatherWatch* watch_ = nullptr; ///< null while no gather runs
+    int waited_ = 0;               ///< milliseconds, for the second of earlier results to pass
 };
 
 /// The sentences about gathers that the window has translations of, in English.

@@ -1,5 +1,6 @@
 #include "hosts/desktop/gather_notice.h"
 
+#include "backends/portable/file_descriptor.h"
 #include "hosts/common/gather_outcome.h"
 #include "hosts/desktop/notice_bar.h"
 #include "hosts/desktop/open_program.h"
@@ -12,6 +13,10 @@
 #include <QTimer>
 
 #include <gmock/gmock.h>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -90,6 +95,72 @@ TEST_F(GatherTold, ADestinationThatCannotBeMadeIsSaidAndWhy)
     shown.server.folder().write("gathered", "a file where the folder was");
     frame("2/18/2025");
     EXPECT_THAT(end(), AllOf(HasSubstr("destination"), HasSubstr("gathered")));
+}
+
+TEST_F(GatherTold, AFolderThatAnotherGatherWritesToIsRefusedUntilThePersonComesBack)
+{
+    begin();
+    {
+        const FileDescriptor another(::open(target.c_str(), O_RDONLY | O_DIRECTORY));
+        ASSERT_EQ(0, ::flock(another.get(), LOCK_EX));
+        person::clickButton(shown.sheet(), "Next >");
+        auto* notice = shown.sheet().findChild<NoticeBar*>();
+        ASSERT_TRUE(waitUntil([&] { return !notice->sentence().isEmpty(); }));
+        EXPECT_EQ("Another gather is writing to " + target +
+                      "; wait until it has ended, or name another folder.",
+                  notice->sentence().toStdString());
+        EXPECT_TRUE(fs::is_empty(target));
+    }
+    person::clickButton(shown.sheet(), "< Back");
+    person::clickButton(shown.sheet(), "Next >");
+    EXPECT_THAT(end(), IsEmpty());
+}
+
+TEST_F(GatherTold, OtherGathersAreKeptOutOfItsFolderFromTheBeginning)
+{
+    begin();
+    fs::remove(target);
+    bool kept = false;
+    const auto watch = std::make_unique<QTimer>();
+    QObject::connect(watch.get(), &QTimer::timeout, [&] {
+        const FileDescriptor folder(::open(target.c_str(), O_RDONLY | O_DIRECTORY));
+        kept = kept || (folder.isOpen() && ::flock(folder.get(), LOCK_EX | LOCK_NB) != 0);
+    });
+    watch->start(1);
+    person::clickButton(shown.sheet(), "Next >");
+    EXPECT_THAT(end(), IsEmpty());
+    EXPECT_TRUE(kept);
+    const FileDescriptor folder(::open(target.c_str(), O_RDONLY | O_DIRECTORY));
+    EXPECT_EQ(0, ::flock(folder.get(), LOCK_EX | LOCK_NB)) << "and let in afterwards";
+}
+
+TEST_F(GatherTold, ItsResultsAreNotNamedInTheSecondOfEarlierOnes)
+{
+    constexpr const char* earlier = "VM_WPN_20010218_080000.mdb";
+    const auto results = [&] {
+        std::vector<fs::path> found;
+        for (const auto& entry : fs::directory_iterator(target))
+            if (entry.path().extension() == ".mdb" && entry.path().filename() != earlier)
+                found.push_back(entry.path());
+        return found;
+    };
+    begin();
+    // An earlier gather has just ended when this one's turn comes.
+    QTimer writes;
+    QObject::connect(&writes, &QTimer::timeout, [&] {
+        if (results().empty()) shown.server.folder().write(std::string("gathered/") + earlier, "x");
+    });
+    QTimer::singleShot(900, &writes, &QTimer::stop);
+    writes.start(5);
+    frame("2/18/2001");
+    EXPECT_THAT(end(), HasSubstr("No line lies in the time frame."));
+    struct stat before {};
+    ASSERT_EQ(0, ::stat((target + "/" + earlier).c_str(), &before));
+    ASSERT_EQ(1U, results().size());
+    struct statx own {};
+    ASSERT_EQ(0, ::statx(AT_FDCWD, results().front().c_str(), 0, STATX_BTIME, &own));
+    if ((own.stx_mask & STATX_BTIME) == 0) GTEST_SKIP() << "files without a time of birth";
+    EXPECT_GT(static_cast<std::time_t>(own.stx_btime.tv_sec), before.st_ctime);
 }
 
 TEST_F(GatherTold, ACancelAndWhatWasKeptAreSaidInTheLanguage)

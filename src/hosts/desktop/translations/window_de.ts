@@ -542,6 +542,10 @@
         <translation>%1 im Ziel %2 ist keine gewöhnliche Datei; in eine solche wird nichts geschrieben.</translation>
     </message>
     <message>
+        <source>Another gather is writing to %1; wait until it has ended, or name another folder.</source>
+        <translation>Ein anderes Sammeln schreibt nach %1; warten Sie, bis es beendet ist, oder nennen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
         <source>The gather was cancelled.</source>
         <translation>Das Sammeln wurde abgebrochen.</translation>
     </message>

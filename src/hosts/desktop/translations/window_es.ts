@@ -542,6 +542,10 @@
         <translation>%1 en el destino %2 no es un archivo normal, y no se escribe nada en él.</translation>
     </message>
     <message>
+        <source>Another gather is writing to %1; wait until it has ended, or name another folder.</source>
+        <translation>Otra recopilación está escribiendo en %1; espere a que termine o indique otra carpeta.</translation>
+    </message>
+    <message>
         <source>The gather was cancelled.</source>
         <translation>La recopilación se canceló.</translation>
     </message>

@@ -542,6 +542,10 @@
         <translation>%1 dans la destination %2 n&apos;est pas un fichier ordinaire, et rien n&apos;y est écrit.</translation>
     </message>
     <message>
+        <source>Another gather is writing to %1; wait until it has ended, or name another folder.</source>
+        <translation>Une autre collecte écrit dans %1&#xa0;; attendez qu&apos;elle soit terminée, ou indiquez un autre dossier.</translation>
+    </message>
+    <message>
         <source>The gather was cancelled.</source>
         <translation>La collecte a été annulée.</translation>
     </message>

@@ -542,6 +542,10 @@
         <translation>保存先 %2 の %1 は通常のファイルではないため、書き込みは行われません。</translation>
     </message>
     <message>
+        <source>Another gather is writing to %1; wait until it has ended, or name another folder.</source>
+        <translation>別の収集が %1 に書き込んでいます。終了するまで待つか、別のフォルダーを指定してください。</translation>
+    </message>
+    <message>
         <source>The gather was cancelled.</source>
         <translation>収集はキャンセルされました。</translation>
     </message>
