@@ -1,5 +1,6 @@
 #include "backends/portable/libxml_documents.h"
 
+#include "backends/portable/xml_path.h"
 #include "backends/portable/xml_text.h"
 #include "platform/file_system.h"
 #include "runtime/out_of_memory.h"
@@ -147,9 +148,14 @@ xmlAttr* attributeOf(const xmlNode& element, const std::string& name)
 /// Keeps off standard error what is wrong with a path: the error raised tells it.
 void saySilently(void*, const char*, ...) {}
 
-/// The elements that a path finds from a node, in document order. Raises for a path that is none.
-std::vector<xmlNode*> nodesOf(const Tree& tree, xmlNode* from, const std::string& path)
+constexpr std::size_t all = std::numeric_limits<std::size_t>::max();
+
+/// The elements that a path finds from a node, in document order: the first `most`, or more. Raises
+/// for a path that is none.
+std::vector<xmlNode*> nodesOf(const Tree& tree, xmlNode* from, const std::string& path,
+                              std::size_t most)
 {
+    if (const auto plain = XmlPath::plain(path)) return plain->nodesOf(*from, most);
     const std::unique_ptr<xmlXPathContext, decltype(&xmlXPathFreeContext)> context(
         xmlXPathNewContext(tree.get()), xmlXPathFreeContext);
     if (!context) throw std::bad_alloc();
@@ -234,14 +240,14 @@ private:
 std::vector<XmlElementPtr> elementsOf(const Tree& tree, xmlNode* from, const std::string& path)
 {
     std::vector<XmlElementPtr> elements;
-    for (xmlNode* node : nodesOf(tree, from, path))
+    for (xmlNode* node : nodesOf(tree, from, path, all))
         elements.push_back(std::make_shared<LibxmlElement>(tree, node));
     return elements;
 }
 
 XmlElementPtr firstElementOf(const Tree& tree, xmlNode* from, const std::string& path)
 {
-    const auto found = nodesOf(tree, from, path);
+    const auto found = nodesOf(tree, from, path, 1);
     return found.empty() ? nullptr : std::make_shared<LibxmlElement>(tree, found.front());
 }
 

@@ -5,6 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <cstring>
+
+#include <libxml/xmlmemory.h>
+
 namespace {
 
 struct LibxmlDocumentsTest : testing::Test {
@@ -245,6 +250,84 @@ TEST_F(LibxmlDocumentsTest, GivesTheTextOfAnyFile)
         {"UTF-8", "caf\xC3\xA9", "caf\xC3\xA9"},
     };
     for (const auto& c : cases) EXPECT_EQ(c.expected, xml.textOf(c.bytes)) << c.because;
+}
+
+/// What a path finds, by the library's own evaluation too: a blank makes it no plain path.
+void expectSameAsTheLibrary(const XmlDocument& document, const std::string& path)
+{
+    const auto attributes = [&](const std::string& asked) {
+        std::vector<std::string> found;
+        for (const auto& element : document.selectNodes(asked))
+            found.push_back(element->name() + " " + element->attribute("i").value_or("none"));
+        return found;
+    };
+    EXPECT_EQ(attributes(" " + path), attributes(path)) << path;
+    const auto first = document.selectSingleNode(path);
+    const auto expected = document.selectSingleNode(" " + path);
+    EXPECT_EQ(expected == nullptr, first == nullptr) << path;
+    if (first && expected) {
+        EXPECT_EQ(expected->attribute("i"), first->attribute("i")) << path;
+    }
+}
+
+TEST_F(LibxmlDocumentsTest, FollowsAPlainPathToWhatTheLibraryFinds)
+{
+    ASSERT_TRUE(
+        load("<?xml version='1.0' encoding='UTF-8'?><G i='0'><D i='1' n='a'><L i='2' n='x'/>"
+             "<L i='3'/></D>text<d i='4' n='a'/><!-- <D/> --><p:D i='5' n='a' xmlns:p='u'/>"
+             "<D i='6' n=''/><D i='7' n='a'><L i='8' n='x'/><D i='9' n='a'/></D>"
+             "<D i='10' n='&lt;\"&#233;&amp;'/><D i='11' n='a b'/><D i='12' p:n='a' "
+             "xmlns:p='u'/></G>"));
+    for (const char* path :
+         {"G", "g", "D", "G/D", "G/D/L", "G/D[@n='a']", "G/D[@n='']", "G/D[@n='A']",
+          "G/D[@n='a']/L", "G/D[@n='a']/L[@n='x']", "G/D[@n='a']/D[@n='a']", "G/D[@none='']",
+          "G/D[@n='<\"\xC3\xA9&']", "G/D[@n='a b']", "G/d", "G/p", "G[@i='0']/D[@i='7']/L",
+          "G/D[@n='\xFF']", "G/D[@n='a\t']"})
+        expectSameAsTheLibrary(*document, path);
+    for (const char* path : {"G/", "G//", "G/D[@n='a'", "G/D[@n=a]x", "G/D[@='a']", "G/D[@n='a'x]",
+                             "G/1", "G/D[@n='\x01']"})
+        EXPECT_EQ(-2147467259, errorOf([&] { document->selectNodes(path); })) << path;
+    EXPECT_EQ(1u, document->selectNodes("/G").size());
+    EXPECT_EQ(6u, document->selectNodes("//D[@n]").size());
+}
+
+std::size_t libraryAllocations = 0;
+
+void* countedMalloc(std::size_t size)
+{
+    ++libraryAllocations;
+    return std::malloc(size);
+}
+
+void* countedRealloc(void* block, std::size_t size)
+{
+    ++libraryAllocations;
+    return std::realloc(block, size);
+}
+
+char* countedStrdup(const char* text)
+{
+    ++libraryAllocations;
+    return ::strdup(text);
+}
+
+TEST_F(LibxmlDocumentsTest, MakesNoObjectForEachGroupThatALookUpPasses)
+{
+    std::string text = "<ALL>";
+    for (int group = 0; group < 500; ++group)
+        text += "<GA NAME='" + std::to_string(group) + "'><TRACE NAME='t'/></GA>";
+    ASSERT_TRUE(load(text + "</ALL>"));
+    ASSERT_EQ(0, xmlMemSetup(std::free, countedMalloc, countedRealloc, countedStrdup));
+    libraryAllocations = 0;
+    int found = 0;
+    for (int group = 0; group < 500; ++group)
+        if (document->selectSingleNode("ALL/GA[@NAME='" + std::to_string(group) +
+                                       "']/TRACE[@NAME='t']"))
+            ++found;
+    const std::size_t made = libraryAllocations;
+    xmlMemSetup(std::free, std::malloc, std::realloc, ::strdup);
+    EXPECT_EQ(500, found);
+    EXPECT_LE(made, 500u) << "no more than one for each look-up";
 }
 
 TEST(RequiredElement, RaisesWhenALookUpFoundNone)
