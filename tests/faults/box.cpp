@@ -39,6 +39,14 @@ void put(const fs::path& file, const std::string& content)
     std::ofstream(file, std::ios::binary) << content;
 }
 
+/// A key that another one lies in is there, whether or not the file has a line for it.
+void keepKeyWithItsParents(const std::string& key, Kept& kept)
+{
+    for (auto end = key.find('\\'); end != key.npos; end = key.find('\\', end + 1))
+        kept[key.substr(0, end) + "]"] = "key";
+    kept[key] = "key";
+}
+
 void readRegistry(const std::string& text, Kept& kept)
 {
     std::string key;
@@ -52,7 +60,7 @@ void readRegistry(const std::string& text, Kept& kept)
             kept[value] += line;
         } else if (line.starts_with("[")) {
             key = line;
-            kept[key] = "key";
+            keepKeyWithItsParents(key, kept);
         } else if (const auto equal = line.find('='); equal != std::string::npos) {
             value = key + line.substr(0, equal);
             kept[value] = line.substr(equal + 1);
