@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <fstream>
 #include <functional>
 #include <thread>
 
@@ -56,6 +57,34 @@ TEST_F(TraceCommands, AMacroTraceGoesOnAndIsRememberedAndGoesOffAgain)
     EXPECT_EQ("The following Macro Traces were disabled:\r\n        " + trace, off["summary"]);
     EXPECT_FALSE(shown(trace)["enabled"]);
     EXPECT_EQ(before, sql("SELECT Name, Flags FROM vw_LoggerDiagnosticGrid ORDER BY Name"));
+}
+
+/// The changes of the directory database made lasting so far, by the file's own count of them.
+unsigned lastingChanges(const fs::path& site)
+{
+    std::ifstream stream(site / "OrvanDirDb.sqlite", std::ios::binary);
+    stream.seekg(24);
+    unsigned count = 0;
+    for (int byte = 0; byte < 4; ++byte)
+        count = count << 8 | static_cast<unsigned char>(stream.get());
+    return count;
+}
+
+TEST_F(TraceCommands, AMacroTraceOfManyComponentsIsWrittenToTheDiskInAFewChanges)
+{
+    std::string definition = "<GA NAME='Big'><TRACE NAME='Huge'>";
+    for (int i = 0; i < 1500; ++i)
+        definition += "<DIAG GROUP='CallFlow'><FLAG ID='" + std::to_string(i % 31) + "'/></DIAG>";
+    write(drive("OrvanDiagnostics/ZMKXML/HTBig.xml"), definition + "</TRACE></GA>");
+    const int calls = std::stoi(sql("SELECT count(*) FROM tbl_ProcedureAudit"));
+    const unsigned before = lastingChanges(site);
+
+    ASSERT_EQ(0, run({"macro", "set", "--on", "Big - Huge"}).status);
+
+    EXPECT_EQ(0x7fffffff, flags("CallFlow"));
+    EXPECT_LT(calls + 1500, std::stoi(sql("SELECT count(*) FROM tbl_ProcedureAudit")))
+        << "each component is written by itself all the same";
+    EXPECT_GE(10u, lastingChanges(site) - before);
 }
 
 TEST_F(TraceCommands, AMacroTraceInAnEncodingOfItsOwnGoesOnAndOffAgain)

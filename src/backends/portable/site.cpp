@@ -89,6 +89,7 @@ Site::Site(const std::string& folder, const std::string& installedData, HostFact
     registry_.keyExists(HKEY_LOCAL_MACHINE, ""); // a damaged registry shows here, before any change
     paths_.place("C:\\");                        // so does a drive that leads out of the site
     paths_.standIn(settings_.toolFolder, lackingInToolFolder(toolFolder(), installedData_));
+    registry_.beforeWrites([this] { database_.settle(); });
     database_.tellOfWaits(host.notice);
     database_.openFor(DatabaseUse::look);
     if (use == SiteUse::change) startChanges();

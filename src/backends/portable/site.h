@@ -62,7 +62,7 @@ public:
     CodePage codePage() const;
 
     SitePaths& paths() { return paths_; }
-    const SiteDatabase& database() const { return database_; }
+    SiteDatabase& database() { return database_; }
     SiteFileSystem& files() { return files_; }
     SiteRegistry& registry() { return registry_; }
     SiteEventLogExporter& eventLogExporter() { return eventLogExporter_; }

@@ -140,6 +140,26 @@ void SiteDatabase::open(const std::string&, const std::string&, const std::strin
     errors_ = 1;
     handle_ = std::make_shared<SqliteHandle>(file_, patience_, use_);
     errors_ = 0;
+    if (held_) handle_->holdCalls();
+}
+
+void SiteDatabase::holdCalls()
+{
+    held_ = true;
+    if (handle_) handle_->holdCalls();
+}
+
+void SiteDatabase::settle()
+{
+    if (handle_ && handle_->isUnsettled()) handle()->settle();
+}
+
+void SiteDatabase::letCallsGo()
+{
+    held_ = false;
+    if (!handle_) return;
+    const auto open = handle_->isUnsettled() ? handle() : handle_;
+    open->letCallsGo();
 }
 
 std::unique_ptr<DatabaseRecordset> SiteDatabase::openRecordset(const std::string& query,

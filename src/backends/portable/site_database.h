@@ -42,6 +42,15 @@ public:
     /// What later calls of `open` open the file for; at first to change it.
     void openFor(DatabaseUse use) { use_ = use; }
 
+    /// From here to `letCallsGo`, the calls of procedures need no writing to the disk one by one:
+    /// they are made lasting together, by `settle`, by `letCallsGo` and at latest when there are
+    /// 1,000. Until then no other connection sees them, and all of them are undone where the
+    /// program ends. `settle` and `letCallsGo` raise as a statement, or 3709, where they could not
+    /// be made lasting.
+    void holdCalls();
+    void settle();
+    void letCallsGo();
+
     int state() const override;
     void open(const std::string& connectionString, const std::string& user,
               const std::string& password) override;
@@ -61,4 +70,5 @@ private:
     DatabaseUse use_;
     std::shared_ptr<SqliteHandle> handle_;
     int errors_ = 0;
+    bool held_ = false;
 };

@@ -175,6 +175,7 @@ void SiteRegistry::waitFor(const FileDescriptor& lock)
 /// Makes a change under the lock. False where nobody may write.
 bool SiteRegistry::write(const Change& change)
 {
+    if (beforeWrites_) beforeWrites_();
     const auto lock = takeLock();
     if (!lock.isOpen()) return false;
     auto& tree = current();

@@ -33,6 +33,10 @@ public:
     explicit SiteRegistry(RootFolder site, const Notice& notice = {},
                           std::chrono::milliseconds patience = usualPatience);
 
+    /// `act` comes before each write: what was changed elsewhere is lasting before the registry
+    /// tells of it. A write raises what it raises, with nothing written.
+    void beforeWrites(std::function<void()> act) { beforeWrites_ = std::move(act); }
+
     bool keyExists(std::uint32_t hive, const std::string& path) const override;
     std::optional<bool> createKey(std::uint32_t hive, const std::string& path) override;
     std::optional<RegistryValue> value(std::uint32_t hive, const std::string& path,
@@ -56,6 +60,7 @@ private:
     void waitFor(const FileDescriptor& lock);
 
     RootFolder site_;
+    std::function<void()> beforeWrites_;
     LockPatience patience_;
     mutable RegistryTree tree_;
     mutable FileDescriptor

@@ -267,15 +267,40 @@ sqlite3_stmt* SqliteHandle::compile(const std::string& sql) const
 
 void SqliteHandle::beginCall()
 {
-    if (walks_ == 0 || sqlite3_get_autocommit(database_) == 0) return;
+    if (walks_ == 0 && !held_) return;
+    if (walks_ == 0 && heldCalls_ >= mostHeldCalls) settle();
+    if (!isUnsettled()) begin();
+    ++heldCalls_;
+}
+
+void SqliteHandle::begin()
+{
     patience_->begin();
     if (sqlite3_exec(database_, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) != SQLITE_OK) fail();
     ++change_;
+    heldCalls_ = 0;
+}
+
+bool SqliteHandle::isUnsettled() const
+{
+    return sqlite3_get_autocommit(database_) == 0;
 }
 
 void SqliteHandle::endWalk()
 {
-    if (--walks_ > 0 || sqlite3_get_autocommit(database_) != 0) return;
+    --walks_;
+    settle();
+}
+
+void SqliteHandle::letCallsGo()
+{
+    held_ = false;
+    settle();
+}
+
+void SqliteHandle::settle()
+{
+    if (walks_ > 0 || !isUnsettled()) return;
     patience_->begin();
     if (sqlite3_exec(database_, "COMMIT", nullptr, nullptr, nullptr) == SQLITE_OK) return;
     try {

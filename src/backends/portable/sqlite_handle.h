@@ -58,6 +58,17 @@ public:
     void beginCall();
     void endWalk();
 
+    /// From `holdCalls` to `letCallsGo`, calls outside a walk are one change too: until `settle`,
+    /// and no more than `mostHeldCalls` of them, so that nobody else waits long for the database.
+    /// `settle` makes them lasting, but not within a walk, whose end does. Both raise as `endWalk`.
+    static constexpr int mostHeldCalls = 1000;
+    void holdCalls() { held_ = true; }
+    void settle();
+    void letCallsGo();
+
+    /// Whether something was changed that is not lasting yet.
+    bool isUnsettled() const;
+
     /// The number of the change under way, or of the next one.
     unsigned change() const { return change_; }
 
@@ -70,6 +81,7 @@ public:
     sqlite3* get() const { return database_; }
 
 private:
+    void begin();
     bool connectToCopy(const std::string& file, std::string& failure);
     int connect(const std::string& file, int flags, std::string& failure);
     sqlite3_stmt* compile(const std::string& sql) const;
@@ -85,4 +97,6 @@ private:
     std::unordered_map<std::string, sqlite3_stmt*> statements_;
     int walks_ = 0;
     unsigned change_ = 0;
+    bool held_ = false;
+    int heldCalls_ = 0; ///< in the change under way
 };

@@ -57,6 +57,11 @@ TraceCheck::TraceCheck(OpenTool& tool) : tool_(tool)
 TraceCheck::~TraceCheck()
 {
     tool_.context().onTrappedError = {};
+    try {
+        tool_.site().database().letCallsGo();
+    } catch (const RunTimeError&) {
+        // What keeps the command from its end is on its way to the person.
+    }
 }
 
 void TraceCheck::expect(TraceExpectation expected)
@@ -69,6 +74,7 @@ void TraceCheck::expect(TraceExpectation expected)
     tool_.context().onTrappedError = [this](const RunTimeError& error, std::string_view) {
         if (firstError_.empty()) firstError_ = error.description();
     };
+    tool_.site().database().holdCalls();
 }
 
 void TraceCheck::expectLevel(const std::string& component, int level, bool on)
@@ -78,6 +84,11 @@ void TraceCheck::expectLevel(const std::string& component, int level, bool on)
 
 void TraceCheck::requireSuccess()
 {
+    try {
+        tool_.site().database().letCallsGo();
+    } catch (const RunTimeError& error) {
+        if (firstError_.empty()) firstError_ = error.description();
+    }
     std::vector<std::string> wrong;
     compareWords(wrong);
     compareRecords(wrong);

@@ -445,6 +445,82 @@ TEST_F(SiteDatabaseTest, SaysAtTheEndOfAWalkThatItsChangeCouldNotBeMadeLasting)
     EXPECT_EQ(Value(5), flags("A"));
 }
 
+/// The changes made lasting so far, by the file's own count of them.
+unsigned lastingChanges(const std::string& file)
+{
+    std::ifstream stream(file, std::ios::binary);
+    stream.seekg(24);
+    unsigned count = 0;
+    for (int byte = 0; byte < 4; ++byte)
+        count = count << 8 | static_cast<unsigned char>(stream.get());
+    return count;
+}
+
+TEST_F(SiteDatabaseTest, WritesHeldCallsToTheDiskOnceForAThousand)
+{
+    open();
+    database.holdCalls();
+    const unsigned before = lastingChanges(file);
+    for (int call = 0; call < 2500; ++call) setFlags(database, "1", 100 + call);
+    EXPECT_EQ(Value(2599), flags("A")) << "its own statements see them";
+    EXPECT_EQ(before + 2, lastingChanges(file));
+    database.settle();
+    EXPECT_EQ(before + 3, lastingChanges(file));
+    database.settle();
+    EXPECT_EQ(before + 3, lastingChanges(file)) << "nothing is left to settle";
+
+    setFlags(database, "2", 1);
+    database.letCallsGo();
+    EXPECT_EQ(before + 4, lastingChanges(file));
+    setFlags(database, "2", 2);
+    EXPECT_EQ(before + 5, lastingChanges(file)) << "calls are lasting one by one again";
+    EXPECT_EQ(SQLITE_OK, othersResult(file, "BEGIN EXCLUSIVE"));
+}
+
+TEST_F(SiteDatabaseTest, KeepsWhatARefusedHeldCallCameAfter)
+{
+    open();
+    database.holdCalls();
+    setFlags(database, "1", 64);
+    EXPECT_NE(0, errorOf([&] { setFlags(database, "1", 13); })) << "the procedure refuses 13";
+    database.settle();
+    EXPECT_EQ(Value(64), flags("A"));
+}
+
+TEST_F(SiteDatabaseTest, MakesCallsOfAWalkLastingAtItsEndAlone)
+{
+    open();
+    database.holdCalls();
+    auto rows = keyset(walkedQuery);
+    const unsigned before = lastingChanges(file);
+    setFlags(database, "1", 64);
+    database.settle();
+    EXPECT_EQ(before, lastingChanges(file));
+    rows->close();
+    EXPECT_EQ(before + 1, lastingChanges(file));
+}
+
+TEST_F(SiteDatabaseTest, SaysWhenHeldCallsCouldNotBeMadeLasting)
+{
+    SiteDatabase impatient{file, std::chrono::milliseconds(30)};
+    impatient.holdCalls();
+    impatient.open("", "", "");
+    setFlags(impatient, "1", 64);
+    sqlite3* reader = nullptr;
+    sqlite3_open(file.c_str(), &reader);
+    sqlite3_exec(reader, "BEGIN; SELECT * FROM grid", nullptr, nullptr, nullptr);
+    EXPECT_EQ(file + ": another program holds it and did not let go in time",
+              errorTextOf([&] { impatient.settle(); }));
+    sqlite3_close(reader);
+    EXPECT_EQ(SQLITE_OK, othersResult(file, "BEGIN EXCLUSIVE")) << "nothing is held any more";
+    EXPECT_EQ(0, errorOf([&] { impatient.letCallsGo(); }));
+
+    impatient.holdCalls();
+    setFlags(impatient, "1", 64);
+    fs::remove(file);
+    EXPECT_EQ(3709, errorOf([&] { impatient.letCallsGo(); }));
+}
+
 TEST_F(SiteDatabaseTest, WaitsOnceForAllStatementsAndConnectionsOfARun)
 {
     SiteDatabase first{file, std::chrono::milliseconds(300)};

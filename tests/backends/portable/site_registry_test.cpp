@@ -273,6 +273,22 @@ TEST_F(SiteRegistryTest, AWaitForTheLockIsToldAndEnds)
     EXPECT_EQ(false, waiting.createKey(HKEY_LOCAL_MACHINE, path));
 }
 
+TEST_F(SiteRegistryTest, WritesNothingWhereWhatComesBeforeItFails)
+{
+    bool fails = false;
+    int acts = 0;
+    registry.beforeWrites([&] {
+        ++acts;
+        if (fails) throw RunTimeError(runTimeErrors::deviceIo);
+    });
+    EXPECT_EQ(false, registry.createKey(HKEY_LOCAL_MACHINE, "Software\\Before"));
+    EXPECT_EQ(1, acts);
+    fails = true;
+    EXPECT_EQ(57, errorOf([&] { registry.createKey(HKEY_LOCAL_MACHINE, "Software\\After"); }));
+    EXPECT_FALSE(registry.keyExists(HKEY_LOCAL_MACHINE, "Software\\After"));
+    EXPECT_EQ(2, acts) << "reading needs nothing before it";
+}
+
 TEST_F(SiteRegistryTest, RaisesWhereTheSiteIsGone)
 {
     SiteRegistry gone{RootFolder(folder.makeFolder("none"))};
