@@ -354,6 +354,7 @@ TEST_F(FrameGather, RefusesADestinationInWhichItWouldDestroySomething)
         EXPECT_EQ("", refused.out);
         EXPECT_THAT(refused.err, testing::StartsWith("orvandiag: " + std::string(c.name) +
                                                      " in the destination " + target.string()));
+        EXPECT_THAT(refused.err, testing::EndsWith("; name another folder\n"));
         EXPECT_EQ(1, std::distance(fs::directory_iterator(target), fs::directory_iterator()));
         fs::remove(target / c.name);
     }

@@ -193,6 +193,21 @@ TEST(Kills, AProgramThatIsKilledWithinAWriteLeavesOldOrNew)
     runTrials(signals(3, "tear", SIGKILL));
 }
 
+/// The folder that both gather into is the same.
+TEST(Kills, AGatherThatIsKilledWhilePackingDoesNotStopTheNextOne)
+{
+    constexpr auto any = static_cast<int>(CallKind::any);
+    constexpr std::uint64_t callsOfPacking = 120;
+    std::vector<Trial> trials;
+    for (const auto& [change, outcome] : outcomes())
+        if (change->name == "gather frame")
+            for (const auto before : numbersOf(callsOfPacking, 20))
+                trials.push_back(
+                    {change, &outcome,
+                     planText(any, outcome.calls[any] - before, false, "signal", SIGKILL)});
+    runTrials(trials);
+}
+
 TEST(Kills, AProgramThatIsAskedToEndLeavesOldOrNew)
 {
     runTrials(signals(2, "signal", SIGTERM));

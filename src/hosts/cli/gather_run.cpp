@@ -87,7 +87,8 @@ GatherOutcome runGather(OpenTool& tool, GatherWizard& wizard)
     leaveNamesOfEarlierGathers(turn);
     GatherWatch watch(tool.context(), tool.report(), wizard.progressPage(),
                       [&tool](const std::string& path) { return tool.machinePath(path); });
-    if (const auto refusal = watch.refusal()) throw CommandFailure(asClause(*refusal));
+    if (const auto refusal = watch.refusal())
+        throw CommandFailure(asClause(*refusal) + "; name another folder");
     {
         const RunProgress progress(tool, wizard, watch);
         wizard.run();
@@ -139,7 +140,11 @@ void print(Output& output, const GatherOutcome& outcome)
 
 void report(Output& output, const GatherOutcome& outcome)
 {
-    const std::string missing = joined(outcome.missing);
+    std::string missing = joined(outcome.missing);
+    if (outcome.destinationSwapped)
+        missing = "another folder bears the name of the destination now, and what was gathered may "
+                  "lie elsewhere; " +
+                  missing;
     if (!outcome.destinationThere) throw CommandFailure(missing);
     print(output, outcome);
     if (outcome.cabinetMakerReplaced)

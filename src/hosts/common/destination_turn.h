@@ -2,17 +2,20 @@
 
 #include "hosts/common/sentence.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 
 class FileSystem;
+class ResultFolder;
 
 /// A gather's turn to write to a folder, held for as long as this lives: results are named by the
 /// second, and one of two gathers would take the other's place.
 ///
 /// The turn is a lock on the folder itself, so it leaves nothing there, holds by whatever path the
-/// folder is reached, and goes with the program however it ends. Where the folder can't be made,
-/// opened or locked there is none to take: the gather tells of the folder by itself.
+/// folder is reached, and goes with the program, and with those that it started, however they end.
+/// Where the folder can't be made, opened or locked there is none to take: the gather tells of the
+/// folder by itself.
 class DestinationTurn {
 public:
     /// Takes the turn on a folder, which is made as the gather would make it where it is not there.
@@ -37,6 +40,6 @@ private:
     bool keep();
 
     std::string path_;
-    int folder_ = -1;
-    bool taken_ = false; ///< by another gather
+    std::unique_ptr<ResultFolder> folder_; ///< null where there is none to take
+    bool taken_ = false;                   ///< by another gather
 };

@@ -1,5 +1,6 @@
 #include "hosts/common/gather_outcome.h"
 
+#include "backends/portable/result_folder.h"
 #include "core/error_trap.h"
 #include "core/registry_store.h"
 #include "gather/logs.h"
@@ -130,6 +131,14 @@ std::vector<fs::directory_entry> entriesOf(const std::string& folder, std::error
     return entries;
 }
 
+/// Null where there is no folder that may be listed.
+std::unique_ptr<ResultFolder> folderAt(const std::string& path)
+try {
+    return std::make_unique<ResultFolder>(path);
+} catch (const RunTimeError&) {
+    return nullptr;
+}
+
 /// Logs that failed in one way are told in one sentence.
 void addTogether(std::vector<Sentence>& sentences, const std::vector<Sentence>& gaps)
 {
@@ -170,6 +179,7 @@ GatherWatch::GatherWatch(ToolContext& tool, GatherReport& report, const ppgGathe
       destination_(page.job().m_LogDestinationDirectory), before_(filesThere())
 {
     report_.forgetReadings();
+    folder_ = folderAt(machinePath_(destination_));
     listenedBefore_ = std::exchange(
         tool_.onTrappedError,
         [this](const RunTimeError& error, std::string_view procName) { note(error, procName); });
@@ -178,6 +188,13 @@ GatherWatch::GatherWatch(ToolContext& tool, GatherReport& report, const ppgGathe
 GatherWatch::~GatherWatch()
 {
     tool_.onTrappedError = std::move(listenedBefore_);
+}
+
+/// The bytes of the program that a gather copies to its destination. Raises 53, 62.
+std::string GatherWatch::cabinetMaker() const
+{
+    return tool_.platform.files.openForReading(tool_.platform.module.folder() + "\\cabmaker.exe")
+        ->readAll();
 }
 
 void GatherWatch::messageShown()
@@ -242,6 +259,7 @@ std::map<std::string, GatherWatch::Stamp> GatherWatch::filesThere() const
 std::optional<Sentence> GatherWatch::refusal() const
 {
     const std::string folder = machinePath_(destination_);
+    if (timeFrame_ && folder_) folder_->sweepLeftovers([this] { return cabinetMaker(); });
     std::error_code none;
     for (const auto& entry : entriesOf(folder, none)) {
         const std::string name = entry.path().filename().string();
@@ -310,6 +328,9 @@ GatherOutcome GatherWatch::outcome() const
         tellOfDestination(outcome);
         return outcome;
     }
+    outcome.destinationSwapped = folder_ && !folder_->isAt(outcome.destination);
+    if (outcome.destinationSwapped)
+        outcome.missing.push_back({gatherSentences::destinationGone, {outcome.destination}});
     findFiles(outcome);
     if (timeFrame_) tellOfDatabase(outcome);
     const std::size_t toldBefore = outcome.missing.size();

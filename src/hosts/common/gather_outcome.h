@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,6 +15,7 @@
 #include <vector>
 
 class GatherReport;
+class ResultFolder;
 class TreeNode;
 class TreeView;
 class ppgGatherLogs03Step;
@@ -104,7 +106,8 @@ constexpr std::string_view all[] = {
 /// What a run of the gather pipeline left, and what it left undone.
 struct GatherOutcome {
     std::string destination;             ///< as a path of this machine
-    bool destinationThere = false;       ///< whether that folder is there now
+    bool destinationThere = false;       ///< whether a folder is there now
+    bool destinationSwapped = false;     ///< whether it is another one than when the run began
     std::vector<std::string> files;      ///< names of what this run wrote there, sorted
     std::optional<std::string> database; ///< paths of this machine; none when it was not made
     std::optional<std::string> cabinet;  ///< the first one of a set
@@ -140,7 +143,8 @@ public:
     GatherWatch& operator=(const GatherWatch&) = delete;
 
     /// Why the run must not begin, if so: it would take away what lies in the destination, or write
-    /// to what is not a plain file there. To be asked before the run.
+    /// to what is not a plain file there. What a gather that was killed has left of its packing is
+    /// removed first. To be asked before the run, by who has the turn on the destination.
     std::optional<Sentence> refusal() const;
 
     /// To be called at each message box of the run: the one that the pipeline has tells of a log
@@ -172,6 +176,7 @@ private:
         bool gaveUp = false; ///< the same, behind a trouble of another kind
     };
 
+    std::string cabinetMaker() const;
     void note(const RunTimeError& error, std::string_view procName);
     void add(Trouble trouble);
 
@@ -205,7 +210,8 @@ private:
     bool timeFrame_;
     std::vector<std::string> logs_;
     std::vector<std::string> eventLogs_;
-    std::string destination_; ///< as the tool's path
+    std::string destination_;              ///< as the tool's path
+    std::unique_ptr<ResultFolder> folder_; ///< as the run found it; null where there was none
     std::map<std::string, Stamp> before_;
 
     std::vector<Trouble> troubles_; ///< the first of each log and stage

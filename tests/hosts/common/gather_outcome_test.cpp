@@ -115,6 +115,21 @@ TEST_F(GatherOutcomeTest, TellsTheFirstErrorOfEachLogAndWhereTheRestIsKept)
                             "What was gathered is kept in " + out + "."));
 }
 
+TEST_F(GatherOutcomeTest, ADestinationThatBecameAnotherFolderIsTold)
+{
+    job({}, {"System"});
+    const GatherWatch watched = watch();
+    machine.write("Out/System.csv", "x");
+    std::filesystem::rename(out, machine / "Moved");
+    std::filesystem::create_symlink("Moved", out);
+    EXPECT_FALSE(watched.outcome().destinationSwapped) << "the link leads to the same folder";
+    std::filesystem::remove(out);
+    machine.write("Out/System.csv", "x");
+    const GatherOutcome outcome = watched.outcome();
+    EXPECT_TRUE(outcome.destinationSwapped);
+    EXPECT_THAT(texts(outcome.missing), ElementsAre("The destination " + out + " has gone."));
+}
+
 TEST_F(GatherOutcomeTest, AMalformedLineCostsNothing)
 {
     job({"diag_A_1.txt"}, {});
@@ -386,6 +401,18 @@ TEST_F(CabinetOutcomeTest, ACabinetOfAnotherMakerIsNoted)
     EXPECT_THAT(texts(outcome.sentences()),
                 testing::Contains("The site's cabinet maker is not the installed one, which made "
                                   "the cabinet in its place."));
+}
+
+TEST_F(CabinetOutcomeTest, WhatAKilledGatherLeftIsSweptAndWhatAPersonPutThereIsNot)
+{
+    tool.files.with("C:\\OrvanDiagnostics\\cabmaker.exe", "program");
+    machine.write("Out/cabmaker.exe", "program");
+    machine.makeFolder("Out/disk1");
+    EXPECT_FALSE(watch().refusal());
+    EXPECT_TRUE(std::filesystem::is_empty(out));
+    machine.write("Out/cabmaker.exe", "another program");
+    EXPECT_TRUE(watch().refusal());
+    EXPECT_TRUE(machine.exists("Out/cabmaker.exe"));
 }
 
 TEST_F(CabinetOutcomeTest, WhatAFrameWouldTakeAwayMakesItRefuseTheDestination)
