@@ -5,9 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace CLI {
-class App;
-}
+class Arguments;
 class Output;
 
 /// What stands before the command on the command line.
@@ -48,7 +46,7 @@ public:
     virtual bool hidden() const { return false; }
 
     /// Adds the command's own options and arguments.
-    virtual void declare(CLI::App& app) = 0;
+    virtual void declare(Arguments& arguments) = 0;
 
     /// Does it. Raises CommandFailure, UsageError, RunTimeError.
     virtual void run(const GlobalOptions& options, Output& output) = 0;

@@ -1,5 +1,6 @@
 #include "hosts/cli/program.h"
 
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/common/places.h"
 
@@ -63,7 +64,8 @@ std::unique_ptr<CLI::App> describeCommandLine(GlobalOptions& options,
         CLI::App* sub = app->add_subcommand(command->name(), command->summary());
         if (command->hidden()) sub->group(hidden);
         sub->footer(command->explanation());
-        command->declare(*sub);
+        Arguments arguments(sub);
+        command->declare(arguments);
     }
     return app;
 }

@@ -7,6 +7,10 @@
 #include <string>
 #include <vector>
 
+namespace CLI {
+class App;
+}
+
 /// What an exit status says.
 struct ExitStatus {
     int status;

@@ -1,9 +1,8 @@
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
 #include "settings/about_box.h"
-
-#include <CLI/CLI.hpp>
 
 namespace {
 
@@ -16,7 +15,7 @@ public:
         return "Show the about box: name, version, notices, languages";
     }
 
-    void declare(CLI::App&) override {}
+    void declare(Arguments&) override {}
 
     void run(const GlobalOptions& options, Output& output) override
     {

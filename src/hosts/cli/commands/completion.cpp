@@ -1,8 +1,7 @@
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/completion_script.h"
 #include "hosts/cli/output.h"
-
-#include <CLI/CLI.hpp>
 
 namespace {
 
@@ -20,16 +19,16 @@ public:
                "~/.local/share/bash-completion/completions/orvandiag";
     }
 
-    void declare(CLI::App& app) override
+    void declare(Arguments& arguments) override
     {
-        program_ = app.get_parent();
-        app.require_subcommand(1);
-        app.add_subcommand("bash", "The script for bash");
+        arguments_ = arguments;
+        arguments.requireCommand();
+        arguments.addCommand("bash", "The script for bash");
     }
 
     void run(const GlobalOptions&, Output& output) override
     {
-        const std::string script = bashCompletion(describeCommands(*program_));
+        const std::string script = bashCompletion(describeCommands(arguments_.program()));
         if (output.json())
             output.value({{"script", script}});
         else
@@ -37,7 +36,7 @@ public:
     }
 
 private:
-    const CLI::App* program_ = nullptr;
+    Arguments arguments_;
 };
 
 } // namespace

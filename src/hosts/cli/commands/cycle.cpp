@@ -1,9 +1,8 @@
 #include "core/registry_store.h"
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
-
-#include <CLI/CLI.hpp>
 
 #include <chrono>
 #include <optional>
@@ -20,7 +19,7 @@ public:
 
     std::string summary() const override { return "Tell the server to start new log files"; }
 
-    void declare(CLI::App&) override {}
+    void declare(Arguments&) override {}
 
     void run(const GlobalOptions& options, Output& output) override
     {

@@ -1,11 +1,10 @@
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/output.h"
 #include "hosts/cli/sheet_driver.h"
 #include "platform/controls.h"
 #include "runtime/text.h"
 #include "settings/event_log_language.h"
-
-#include <CLI/CLI.hpp>
 
 #include <algorithm>
 
@@ -74,10 +73,10 @@ public:
                "  orvandiag event-language FRA --keep";
     }
 
-    void declare(CLI::App& app) override
+    void declare(Arguments& arguments) override
     {
-        app.add_option("CODE", code_, "a language that is installed, such as FRA");
-        app.add_flag("--keep", keep_, "leave the new language in force");
+        arguments.add("CODE", code_, "a language that is installed, such as FRA");
+        arguments.addFlag("--keep", keep_, "leave the new language in force");
     }
 
     void run(const GlobalOptions& options, Output& output) override

@@ -1,11 +1,10 @@
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/flag_words.h"
 #include "hosts/cli/known_names.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
 #include "platform/database.h"
-
-#include <CLI/CLI.hpp>
 
 namespace {
 
@@ -20,9 +19,9 @@ public:
 
     std::string summary() const override { return "Show the trace flag words as stored"; }
 
-    void declare(CLI::App& app) override
+    void declare(Arguments& arguments) override
     {
-        app.add_option("COMPONENT", component_, "one component instead of all");
+        arguments.add("COMPONENT", component_, "one component instead of all");
     }
 
     void run(const GlobalOptions& options, Output& output) override

@@ -1,5 +1,6 @@
 #include "backends/portable/site_event_log_exporter.h"
 #include "core/registry_store.h"
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/frame_arguments.h"
 #include "hosts/cli/gather_preview.h"
@@ -10,8 +11,6 @@
 #include "platform/file_system.h"
 #include "runtime/text.h"
 #include "wizards/gather_welcome.h"
-
-#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <optional>
@@ -39,36 +38,33 @@ public:
                "  orvandiag gather frame --from \"2025-02-20 16:42\" --hours 1 --to ~/case-4711";
     }
 
-    void declare(CLI::App& app) override
+    void declare(Arguments& arguments) override
     {
-        app.require_subcommand(1);
+        arguments.requireCommand();
         standard_ =
-            app.add_subcommand("standard", "The current " + std::string(standardGatherProcess) +
-                                               " log and the Application and System events");
-        logs_ = app.add_subcommand("logs", "Logs chosen by name");
-        logs_->add_option("--log", orvanLogs_, "a log in the server's log folder")
-            ->type_name("NAME");
-        logs_->add_option("--event-log", windowsLogs_, "a Windows event log")->type_name("NAME");
-        frame_ = app.add_subcommand("frame", "The lines of a time frame, as a trace database");
-        frame_->add_option("--from", from_, "when the frame starts")
-            ->type_name("\"YYYY-MM-DD HH:MM\"")
-            ->required();
-        frame_->add_option("--hours", hours_, "how long it is, 1 to 999")
-            ->type_name("N")
-            ->required();
-        frame_->add_flag("--no-application", noApplication_, "leave the Application events out");
-        frame_->add_flag("--no-system", noSystem_, "leave the System events out");
-        for (CLI::App* mode : {standard_, logs_, frame_}) {
-            mode->add_option("--to", to_, "the folder to gather into")->type_name("DIR");
-            mode->add_flag("--excel", excel_,
-                           "make the event logs' CSV safe for a spreadsheet: no cell is a formula");
-            mode->add_flag("--dry-run", dryRun_, "tell what would be gathered, and gather nothing");
+            arguments.addCommand("standard", "The current " + std::string(standardGatherProcess) +
+                                                 " log and the Application and System events");
+        logs_ = arguments.addCommand("logs", "Logs chosen by name");
+        logs_.add("--log", orvanLogs_, "a log in the server's log folder").called("NAME");
+        logs_.add("--event-log", windowsLogs_, "a Windows event log").called("NAME");
+        frame_ = arguments.addCommand("frame", "The lines of a time frame, as a trace database");
+        frame_.add("--from", from_, "when the frame starts")
+            .called("\"YYYY-MM-DD HH:MM\"")
+            .required();
+        frame_.add("--hours", hours_, "how long it is, 1 to 999").called("N").required();
+        frame_.addFlag("--no-application", noApplication_, "leave the Application events out");
+        frame_.addFlag("--no-system", noSystem_, "leave the System events out");
+        for (Arguments mode : {standard_, logs_, frame_}) {
+            mode.add("--to", to_, "the folder to gather into").called("DIR");
+            mode.addFlag("--excel", excel_,
+                         "make the event logs' CSV safe for a spreadsheet: no cell is a formula");
+            mode.addFlag("--dry-run", dryRun_, "tell what would be gathered, and gather nothing");
         }
     }
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        if (logs_->parsed() && orvanLogs_.empty() && windowsLogs_.empty())
+        if (logs_.given() && orvanLogs_.empty() && windowsLogs_.empty())
             throw UsageError("gather logs needs a --log or an --event-log");
         if (gathersTo() && trim(to_).empty()) throw UsageError("gather --to needs a folder");
         GatherRequest request;
@@ -76,7 +72,7 @@ public:
         request.option = option();
         request.logs = orvanLogs_;
         request.eventLogs = windowsLogs_;
-        if (frame_->parsed()) request.frame = frameChoice();
+        if (frame_.given()) request.frame = frameChoice();
         OpenTool tool(options, dryRun_ ? ToolUse::look : ToolUse::add,
                       [&](OpenTool& opened) { requireSound(opened, request.frame); });
         if (!to_.empty()) request.destination = tool.toolPath(to_);
@@ -96,14 +92,14 @@ public:
 private:
     int option() const
     {
-        if (frame_->parsed()) return gatherOption::timeFrame;
-        return logs_->parsed() ? gatherOption::byHand : gatherOption::standard;
+        if (frame_.given()) return gatherOption::timeFrame;
+        return logs_.given() ? gatherOption::byHand : gatherOption::standard;
     }
 
     /// Whether a destination is given, though it may be the empty text.
     bool gathersTo() const
     {
-        const auto given = [](const CLI::App* mode) { return mode->count("--to") > 0; };
+        const auto given = [](const Arguments& mode) { return mode.given("--to"); };
         return given(standard_) || given(logs_) || given(frame_);
     }
 
@@ -117,7 +113,7 @@ private:
     void requireSound(OpenTool& tool, const TimeFrameChoice& choice) const
     {
         const Platform& platform = tool.context().platform;
-        if (frame_->parsed() && choice.startDate > platform.clock.now())
+        if (frame_.given() && choice.startDate > platform.clock.now())
             throw CommandFailure("the time frame starts in the future");
         const std::string folder = getRegistryText(tool.context(), logManagerKey, "Output Path");
         for (const auto& log : orvanLogs_) requireLog(tool, folder, log);
@@ -153,9 +149,9 @@ private:
         });
     }
 
-    CLI::App* standard_ = nullptr;
-    CLI::App* logs_ = nullptr;
-    CLI::App* frame_ = nullptr;
+    Arguments standard_;
+    Arguments logs_;
+    Arguments frame_;
     std::vector<std::string> orvanLogs_;
     std::vector<std::string> windowsLogs_;
     std::string from_;

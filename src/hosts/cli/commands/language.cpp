@@ -1,14 +1,13 @@
 #include "core/language_table.h"
 #include "core/localisation.h"
 #include "core/registry_store.h"
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "settings/about_box.h"
-
-#include <CLI/CLI.hpp>
 
 namespace {
 
@@ -55,9 +54,9 @@ public:
                "  orvandiag language FRA";
     }
 
-    void declare(CLI::App& app) override
+    void declare(Arguments& arguments) override
     {
-        app.add_option("CODE", code_, "a language whose texts lie beside the tool, such as FRA");
+        arguments.add("CODE", code_, "a language whose texts lie beside the tool, such as FRA");
     }
 
     void run(const GlobalOptions& options, Output& output) override

@@ -1,12 +1,11 @@
 #include "core/registry_store.h"
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/log_folder.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-
-#include <CLI/CLI.hpp>
 
 namespace {
 
@@ -49,9 +48,9 @@ public:
 
     std::string summary() const override { return "List the log files of a process, newest first"; }
 
-    void declare(CLI::App& app) override
+    void declare(Arguments& arguments) override
     {
-        app.add_option("PROCESS", process_, "the process, such as KoCSMgr")->required();
+        arguments.add("PROCESS", process_, "the process, such as KoCSMgr").required();
     }
 
     void run(const GlobalOptions& options, Output& output) override

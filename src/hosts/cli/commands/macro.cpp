@@ -1,3 +1,4 @@
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/known_names.h"
 #include "hosts/cli/open_tool.h"
@@ -7,8 +8,6 @@
 #include "platform/controls.h"
 #include "platform/xml.h"
 #include "runtime/text.h"
-
-#include <CLI/CLI.hpp>
 
 #include <algorithm>
 
@@ -76,24 +75,24 @@ public:
                "  orvandiag macro set --on \"Call Flow - Transfers\"";
     }
 
-    void declare(CLI::App& app) override
+    void declare(Arguments& arguments) override
     {
-        set_ = app.add_subcommand("set", "Turn macro traces on and off");
-        set_->add_option("--on", on_, "turn on, as in \"GROUP - TRACE\"")->type_name("NAME");
-        set_->add_option("--off", off_, "turn off")->type_name("NAME");
+        set_ = arguments.addCommand("set", "Turn macro traces on and off");
+        set_.add("--on", on_, "turn on, as in \"GROUP - TRACE\"").called("NAME");
+        set_.add("--off", off_, "turn off").called("NAME");
     }
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        if (set_->parsed() && on_.empty() && off_.empty())
+        if (set_.given() && on_.empty() && off_.empty())
             throw UsageError("macro set needs an --on or an --off");
         for (const auto& on : on_)
             for (const auto& off : off_)
                 if (equalIgnoringCase(on, off))
                     throw UsageError("\"" + on + "\" is to be turned on and off");
-        OpenTool tool(options, set_->parsed() ? ToolUse::change : ToolUse::look,
+        OpenTool tool(options, set_.given() ? ToolUse::change : ToolUse::look,
                       [&](OpenTool& opened) { requireMacroTraces(opened, output); });
-        if (set_->parsed())
+        if (set_.given())
             set(tool, output);
         else
             list(tool, output);
@@ -105,7 +104,7 @@ private:
         const auto [known, passedOver] = knownNames::macroTraces(tool);
         for (const auto& file : passedOver)
             output.message(file + " is passed over: it is no definition of macro traces");
-        if (!set_->parsed()) return;
+        if (!set_.given()) return;
         for (const auto* names : {&on_, &off_})
             for (const auto& name : *names)
                 if (std::find(known.begin(), known.end(), name) == known.end())
@@ -160,7 +159,7 @@ private:
             printLines(output, summary);
     }
 
-    CLI::App* set_ = nullptr;
+    Arguments set_;
     std::vector<std::string> on_;
     std::vector<std::string> off_;
 };

@@ -1,8 +1,7 @@
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/manual_page.h"
 #include "hosts/cli/output.h"
-
-#include <CLI/CLI.hpp>
 
 namespace {
 
@@ -15,11 +14,11 @@ public:
 
     bool hidden() const override { return true; }
 
-    void declare(CLI::App& app) override { program_ = app.get_parent(); }
+    void declare(Arguments& arguments) override { arguments_ = arguments; }
 
     void run(const GlobalOptions&, Output& output) override
     {
-        const std::string page = manualPage(describeCommands(*program_));
+        const std::string page = manualPage(describeCommands(arguments_.program()));
         if (output.json())
             output.value({{"page", page}});
         else
@@ -27,7 +26,7 @@ public:
     }
 
 private:
-    const CLI::App* program_ = nullptr;
+    Arguments arguments_;
 };
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/known_names.h"
 #include "hosts/cli/open_tool.h"
@@ -9,8 +10,6 @@
 #include "runtime/text.h"
 #include "runtime/visible_text.h"
 #include "server/diagnostic_grid_catalogue.h"
-
-#include <CLI/CLI.hpp>
 
 namespace {
 
@@ -127,17 +126,17 @@ public:
                "  orvandiag micro set --on CallFlow:7 --off Conversation:3";
     }
 
-    void declare(CLI::App& app) override
+    void declare(Arguments& arguments) override
     {
-        app.add_option("COMPONENT", component_, "one component instead of all");
-        set_ = app.add_subcommand("set", "Turn trace levels on and off");
-        set_->add_option("--on", on_, "turn on, as in CallFlow:7")->type_name("COMPONENT:LEVEL");
-        set_->add_option("--off", off_, "turn off")->type_name("COMPONENT:LEVEL");
+        arguments.add("COMPONENT", component_, "one component instead of all");
+        set_ = arguments.addCommand("set", "Turn trace levels on and off");
+        set_.add("--on", on_, "turn on, as in CallFlow:7").called("COMPONENT:LEVEL");
+        set_.add("--off", off_, "turn off").called("COMPONENT:LEVEL");
     }
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        if (set_->parsed() && on_.empty() && off_.empty())
+        if (set_.given() && on_.empty() && off_.empty())
             throw UsageError("micro set needs an --on or an --off");
         std::vector<LevelName> on;
         std::vector<LevelName> off;
@@ -147,13 +146,13 @@ public:
             for (const auto& other : off)
                 if (name.level == other.level && equalIgnoringCase(name.component, other.component))
                     throw UsageError(textOf(name) + " is to be turned on and off");
-        OpenTool tool(options, set_->parsed() ? ToolUse::change : ToolUse::look,
+        OpenTool tool(options, set_.given() ? ToolUse::change : ToolUse::look,
                       [&](OpenTool& opened) {
                           if (!component_.empty()) requireComponent(opened, component_);
                           for (const auto* names : {&on, &off})
                               for (const auto& name : *names) requireLevel(opened, name);
                       });
-        if (set_->parsed())
+        if (set_.given())
             set(tool, output, on, off);
         else
             list(tool, output);
@@ -244,7 +243,7 @@ private:
             output.message(textOf(level) + " stays on: it is on by default");
     }
 
-    CLI::App* set_ = nullptr;
+    Arguments set_;
     std::string component_;
     std::vector<std::string> on_;
     std::vector<std::string> off_;

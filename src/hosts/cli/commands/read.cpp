@@ -1,4 +1,5 @@
 #include "core/registry_store.h"
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
@@ -6,8 +7,6 @@
 #include "platform/file_system.h"
 #include "runtime/numbers.h"
 #include "runtime/visible_text.h"
-
-#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <array>
@@ -154,9 +153,9 @@ public:
                "  orvandiag --json read ./old.txt | grep '\"level\":2'";
     }
 
-    void declare(CLI::App& app) override
+    void declare(Arguments& arguments) override
     {
-        app.add_option("LOG", log_, "a log's name, or a path to one")->required();
+        arguments.add("LOG", log_, "a log's name, or a path to one").required();
     }
 
     void run(const GlobalOptions& options, Output& output) override

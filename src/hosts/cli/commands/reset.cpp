@@ -1,11 +1,10 @@
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
 #include "hosts/cli/trace_check.h"
 #include "hosts/cli/wizard_driver.h"
 #include "platform/controls.h"
-
-#include <CLI/CLI.hpp>
 
 namespace {
 
@@ -24,7 +23,7 @@ public:
                "ever switched is recorded as off.";
     }
 
-    void declare(CLI::App&) override {}
+    void declare(Arguments&) override {}
 
     void run(const GlobalOptions& options, Output& output) override
     {

@@ -1,4 +1,5 @@
 #include "backends/portable/sample/sample_server.h"
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/interrupt.h"
 #include "hosts/cli/output.h"
@@ -6,8 +7,6 @@
 #include "hosts/cli/progress_line.h"
 #include "hosts/common/places.h"
 #include "runtime/text.h"
-
-#include <CLI/CLI.hpp>
 
 #include <filesystem>
 
@@ -30,18 +29,18 @@ public:
                "  orvandiag sample /tmp/big --lines 1000000 --fields extended";
     }
 
-    void declare(CLI::App& app) override
+    void declare(Arguments& arguments) override
     {
-        app.add_option("DIR", folder_, "the folder to make")->required();
-        app.add_option("--lines", lines_, "lines of all diagnostic logs together")
-            ->capture_default_str()
-            ->check(CLI::Range(std::uint64_t{100}, std::uint64_t{1'000'000'000}));
-        app.add_option("--seed", seed_, "another seed makes another server")
-            ->capture_default_str()
-            ->check(notNegative());
-        app.add_option("--fields", fields_, "what a log line carries: basic or extended")
-            ->capture_default_str()
-            ->check(CLI::IsMember({"basic", "extended"}));
+        arguments.add("DIR", folder_, "the folder to make").required();
+        arguments.add("--lines", lines_, "lines of all diagnostic logs together")
+            .withDefault()
+            .within(100, 1'000'000'000);
+        arguments.add("--seed", seed_, "another seed makes another server")
+            .withDefault()
+            .refusedBy(negativeNumber);
+        arguments.add("--fields", fields_, "what a log line carries: basic or extended")
+            .withDefault()
+            .oneOf({"basic", "extended"});
     }
 
     void run(const GlobalOptions&, Output& output) override
@@ -62,12 +61,9 @@ public:
 
 private:
     /// A number that is read without its sign would be another one.
-    static CLI::Validator notNegative()
+    static std::string negativeNumber(const std::string& text)
     {
-        return {[](const std::string& text) {
-                    return trim(text).substr(0, 1) == "-" ? text + " is less than 0" : "";
-                },
-                ""};
+        return trim(text).substr(0, 1) == "-" ? text + " is less than 0" : "";
     }
 
     /// A wish to stop leaves nothing behind.

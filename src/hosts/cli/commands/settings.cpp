@@ -1,3 +1,4 @@
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/output.h"
 #include "hosts/cli/sheet_driver.h"
@@ -7,11 +8,8 @@
 #include "runtime/text.h"
 #include "server/configuration_database.h"
 
-#include <CLI/CLI.hpp>
-
 #include <algorithm>
 #include <cstdint>
-#include <limits>
 
 namespace {
 
@@ -75,26 +73,25 @@ public:
                "  orvandiag settings --log-folder 'D:\\OrvanLogs'";
     }
 
-    void declare(CLI::App& app) override
+    void declare(Arguments& arguments) override
     {
-        CLI::Range positive(std::int32_t{1}, std::numeric_limits<std::int32_t>::max());
-        positive.description("");
-        megabytes_ = app.add_option("--max-megabytes", maxMegabytes_,
-                                    "the most space that diagnostic files may take")
-                         ->check(positive)
-                         ->type_name("N");
-        folder_ = app.add_option("--log-folder", logFolder_, "where the server writes its logs")
-                      ->type_name("PATH");
+        megabytes_ = arguments
+                         .add("--max-megabytes", maxMegabytes_,
+                              "the most space that diagnostic files may take")
+                         .positive()
+                         .called("N");
+        folder_ = arguments.add("--log-folder", logFolder_, "where the server writes its logs")
+                      .called("PATH");
     }
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        if (folder_->count() > 0 && trim(logFolder_).empty())
+        if (folder_.given() && trim(logFolder_).empty())
             throw UsageError("settings --log-folder needs a folder");
         if (logFolder_.rfind('/', 0) == 0)
             throw UsageError("settings --log-folder takes a folder on a drive of the server, such "
                              "as D:\\OrvanLogs");
-        const bool changes = megabytes_->count() > 0 || folder_->count() > 0;
+        const bool changes = megabytes_.given() || folder_.given();
         OpenTool tool(options, changes ? ToolUse::change : ToolUse::look);
         tool.registry().forget();
         const bool rebootRequired = changes && change(tool);
@@ -123,19 +120,19 @@ private:
         errors.requireNone("the log settings can't be read");
         const ShownSettings before = shownSettings(tool, sheet);
         enter(sheet.control<ComboBox>("comboMaxSpace"),
-              megabytes_->count() > 0 ? maxMegabytes_ : before.maxMegabytes);
-        if (folder_->count() > 0)
+              megabytes_.given() ? maxMegabytes_ : before.maxMegabytes);
+        if (folder_.given())
             sheet.control<TextBox>("txtLocationOfLogFiles").setByPerson(logFolder_);
         sheet.apply();
         errors.requireNone("not every log setting was written");
-        return folder_->count() > 0 && logFolder_ != before.logFolder;
+        return folder_.given() && logFolder_ != before.logFolder;
     }
 
     void requireWritten(const ShownSettings& shown, const std::string& refusal) const
     {
-        if (megabytes_->count() > 0 && shown.maxMegabytes != maxMegabytes_)
+        if (megabytes_.given() && shown.maxMegabytes != maxMegabytes_)
             throw CommandFailure("the server did not take the new space");
-        if (folder_->count() > 0 && shown.logFolder != logFolder_)
+        if (folder_.given() && shown.logFolder != logFolder_)
             throw CommandFailure(
                 "the log folder could not be written: " +
                 (refusal.empty() ? "this server has no key of its log manager" : refusal));
@@ -157,8 +154,8 @@ private:
         output.line(std::string("Writing          ") + (shown.writingEnabled ? "on" : "off"));
     }
 
-    CLI::Option* megabytes_ = nullptr;
-    CLI::Option* folder_ = nullptr;
+    Argument megabytes_;
+    Argument folder_;
     std::int32_t maxMegabytes_ = 0;
     std::string logFolder_;
 };

@@ -1,12 +1,11 @@
 #include "core/registry_store.h"
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/log_folder.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
 #include "platform/database.h"
 #include "server/server_identity.h"
-
-#include <CLI/CLI.hpp>
 
 namespace {
 
@@ -19,7 +18,7 @@ public:
         return "Show the server's version, its database, log folder and processes";
     }
 
-    void declare(CLI::App&) override {}
+    void declare(Arguments&) override {}
 
     void run(const GlobalOptions& options, Output& output) override
     {

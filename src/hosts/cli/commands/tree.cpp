@@ -1,9 +1,8 @@
+#include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/log_folder.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/output.h"
-
-#include <CLI/CLI.hpp>
 
 namespace {
 
@@ -37,7 +36,7 @@ public:
 
     std::string summary() const override { return "Show the tree of processes and their logs"; }
 
-    void declare(CLI::App&) override {}
+    void declare(Arguments&) override {}
 
     void run(const GlobalOptions& options, Output& output) override
     {
