@@ -1,0 +1,1 @@
+orvan_fuzz(site_paths LINKS orvan_portable)

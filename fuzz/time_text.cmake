@@ -1,0 +1,1 @@
+orvan_fuzz(time_text LINKS orvan_core)
