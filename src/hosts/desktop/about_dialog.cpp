@@ -94,7 +94,11 @@ void AboutDialog::popUpLanguages()
         menu.addAction(QString::fromStdString(languages[index].caption))
             ->setData(static_cast<int>(index));
     const QAction* chosen = menu.exec(language_->mapToGlobal(QPoint(0, language_->height())));
-    if (chosen) about_.mnuLanguageList_Click(chosen->data().toInt());
+    if (!chosen) return;
+    const auto choose = [this, place = chosen->data().toInt()] {
+        about_.mnuLanguageList_Click(place);
+    };
+    aroundChange ? aroundChange(choose) : choose();
 }
 
 void AboutDialog::showForm()

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -19,6 +20,9 @@ public:
     ~AboutDialog() override;
 
     void reject() override;
+
+    /// Runs what the choice of a language changes, and raises nothing. Null: it runs by itself.
+    std::function<void(const std::function<void()>& run)> aroundChange;
 
 signals:
     /// The form shows other texts, perhaps in another language.

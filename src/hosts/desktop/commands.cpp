@@ -109,6 +109,12 @@ QKeySequence keyOfConsoleItem(const std::string& name)
     return {};
 }
 
+bool changesServer(const std::string& name)
+{
+    // The language's sheet notes the first language as it opens.
+    return name == "mnuStartNewLogFiles" || name == "mnuChangeLanguage";
+}
+
 QString iconOfConsoleItem(const std::string& name)
 {
     for (const auto& item : consoleItems)

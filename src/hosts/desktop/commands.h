@@ -72,4 +72,8 @@ public:
 QKeySequence keyOfConsoleItem(const std::string& name);
 
 /// The drawing for such an item; empty for one without.
+/// Whether a click on an item of the tool may change the server at once. The other ones open
+/// sheets, which may do so later, or only look.
+bool changesServer(const std::string& name);
+
 QString iconOfConsoleItem(const std::string& name);

@@ -23,6 +23,9 @@ namespace {
 
 constexpr const char* splitterKey = "window/splitter";
 
+/// Of the tasks, the one that changes the server at once; the others open sheets.
+constexpr const char* startNewLogsTask = "4";
+
 /// The console is at work: the pointer says so, and further calls can see it.
 class AtWork {
 public:
@@ -115,7 +118,8 @@ void ConsolePane::makeTaskPad()
     taskPad_ = new TaskPadView(views_);
     views_->addWidget(taskPad_);
     connect(taskPad_, &TaskPadView::taskClicked, this, [this](const QString& key) {
-        perform([&](Console& console) { console.clickTask(key.toStdString()); });
+        const auto click = [&](Console& console) { console.clickTask(key.toStdString()); };
+        key == QLatin1String(startNewLogsTask) ? performChange(click) : perform(click);
     });
 }
 
@@ -191,6 +195,14 @@ void ConsolePane::perform(const std::function<void(Console&)>& call)
         followSelection();
     }
     emit callDone();
+}
+
+void ConsolePane::performChange(const std::function<void(Console&)>& call)
+{
+    perform([&](Console& console) {
+        const auto run = [&] { call(console); };
+        aroundChange ? aroundChange(run) : run();
+    });
 }
 
 void ConsolePane::renewTexts()

@@ -39,6 +39,12 @@ public:
     /// sentence.
     void perform(const std::function<void(Console&)>& call);
 
+    /// The same for what may change the server.
+    void performChange(const std::function<void(Console&)>& call);
+
+    /// Runs what may change the server. Null: it runs by itself.
+    std::function<void(const std::function<void()>& run)> aroundChange;
+
     bool busy() const { return calls_ > 0; }
 
     /// Whether a page of a sheet is at work, on show or closed already.

@@ -148,6 +148,7 @@ void MainWindow::sayWithoutDatabase(const std::string& why)
 
 void MainWindow::connectPane()
 {
+    pane_->aroundChange = [this](const std::function<void()>& run) { tool_->changing(run); };
     connect(pane_, &ConsolePane::statusText, this, [this](const QString& text) {
         statusBar()->clearMessage();
         status_->setText(text);
@@ -185,9 +186,10 @@ void MainWindow::watchSheet(SheetDialog& dialog)
         sayWhereThePersonIs(&dialog, gathers_.tick(tool_->context(), tool_->report(), page, timer,
                                                    machinePath, run));
     };
-    dialog.aroundChange = [this](const std::function<void()>& run) { tool_->changing(run); };
-    if (!tool_->looksOnly()) return;
     const bool gathers = dialog.sheet().page(1).name() == "ppgGatherLogs00Welcome";
+    // A gather adds to the server, beside programs that change it.
+    if (!gathers) dialog.aroundChange = pane_->aroundChange;
+    if (!tool_->looksOnly()) return;
     dialog.alwaysSay([gathers] {
         return gathers ? tr("This site is read-only: choose a destination outside of it.")
                        : tr("This site is read-only: what is chosen here is not written.");
@@ -290,6 +292,12 @@ void MainWindow::showProblem(LiveSentence sentence)
 QString MainWindow::problem() const
 {
     return notice_->sentence();
+}
+
+void MainWindow::sayWaiting(const std::string& clause)
+{
+    statusBar()->showMessage(QString::fromStdString(clause), sayMilliseconds);
+    statusBar()->repaint();
 }
 
 QString MainWindow::statusText() const
@@ -483,6 +491,15 @@ void MainWindow::showAbout()
     frmAbout& form = tool_->snapIn().showAbout();
     AboutDialog about(form, this);
     connect(&about, &AboutDialog::formShown, this, &MainWindow::followLanguage);
+    about.aroundChange = [this](const std::function<void()>& run) {
+        try {
+            tool_->changing(run);
+        } catch (const RunTimeError& error) {
+            showProblem([why = QString::fromStdString(error.description())] {
+                return tr("The language was not changed: %1. Choose it again.").arg(why);
+            });
+        }
+    };
     // Modal to this window alone, so that the manual can be read beside it.
     about.setWindowModality(Qt::WindowModal);
     QAction help;

@@ -38,6 +38,9 @@ public:
     void showProblem(LiveSentence sentence);
     QString problem() const;
 
+    /// Says in the status bar what the tool waits for, and paints that at once.
+    void sayWaiting(const std::string& clause);
+
     /// Null while no tool is open.
     ConsolePane* pane() { return pane_; }
     QString statusText() const;

@@ -157,7 +157,9 @@ void MainWindow::rebuildConsoleItems()
             made->setShortcut(keyOfConsoleItem(item.name));
             made->setIcon(toolIcon(iconOfConsoleItem(item.name)));
             connect(made, &QAction::triggered, this, [this, name = item.name] {
-                if (pane_) pane_->perform([&](Console& console) { console.clickMenuItem(name); });
+                if (!pane_) return;
+                const auto click = [&](Console& console) { console.clickMenuItem(name); };
+                changesServer(name) ? pane_->performChange(click) : pane_->perform(click);
             });
             if (place == tasks)
                 menu->insertSeparator(menu->actions().value(menu->actions().size() - 2));

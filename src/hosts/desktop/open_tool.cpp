@@ -1,10 +1,12 @@
 #include "hosts/desktop/open_tool.h"
 
-#include "backends/portable/site_turn.h"
+#include "runtime/run_time_error.h"
+#include "runtime/visible_text.h"
 #include "shell/snapin_definition.h"
 
 #include <algorithm>
 #include <cctype>
+#include <cstdio>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -44,14 +46,29 @@ void OpenTool::close()
 {
     if (!loaded_) return;
     loaded_ = false;
+    std::optional<SiteTurn> turnOfEnd;
+    try {
+        if (!looksOnly() && present()) turnOfEnd = turn();
+    } catch (const RunTimeError&) {
+        // What is put back is not left out for it.
+    }
     console_.unload();
+}
+
+std::optional<SiteTurn> OpenTool::turn()
+{
+    if (takeTurn) return takeTurn(site_.folder());
+    return SiteTurn(site_.folder(), SiteTurn::usualPatience, [](const std::string& text) {
+        std::fprintf(stderr, "orvandiag-console: %s\n", visibleText(text).c_str());
+    });
 }
 
 void OpenTool::changing(const std::function<void()>& change)
 {
     // A site that has gone has no turns; what is tried on it fails by itself.
     if (looksOnly() || changing_ || !present()) return change();
-    const SiteTurn turn(site_.folder());
+    const std::optional<SiteTurn> turnOfChange = turn();
+    if (!turnOfChange) return;
     changing_ = true;
     try {
         change();

@@ -2,6 +2,7 @@
 
 #include "backends/jet/jet_engine.h"
 #include "backends/portable/site.h"
+#include "backends/portable/site_turn.h"
 #include "core/tool_context.h"
 #include "hosts/common/looking_services.h"
 #include "hosts/common/watched_services.h"
@@ -9,6 +10,7 @@
 #include "shell/snapin_orvan_diagnostics.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -27,7 +29,8 @@ public:
 
     void load();
 
-    /// Unloads the snap-in, once. Raises what it raises.
+    /// Unloads the snap-in, once, in a turn of its own where that can be had. Raises what unloading
+    /// raises.
     void close();
 
     Site& site() { return site_; }
@@ -35,9 +38,14 @@ public:
     Console& console() { return console_; }
     snapinOrvanDiagnostics& snapIn() { return snapIn_; }
 
-    /// Runs what may change the site while no other program does. Raises 70, with a sentence, when
-    /// another one does not come to its end, and what `change` raises.
+    /// Runs what may change the site while no other program does; nothing is run where the person
+    /// gives the wait for that up. Raises 70, with a sentence, when another one does not come to
+    /// its end, and what `change` raises.
     void changing(const std::function<void()>& change);
+
+    /// Takes the turn to change the site in a folder, or waits for it; gives none when the wait was
+    /// given up. Null: the wait is one without a window, told on the terminal.
+    std::function<std::optional<SiteTurn>(const std::string& siteFolder)> takeTurn;
 
     /// What the tool saw of the server's logs.
     GatherReport& report() { return watched_.report(); }
@@ -61,6 +69,7 @@ public:
     std::string toolPath(const std::string& machinePath);
 
 private:
+    std::optional<SiteTurn> turn();
     std::string pathOfTool(const std::string& machinePath) const;
 
     SiteUse use_;

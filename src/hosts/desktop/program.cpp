@@ -2,8 +2,10 @@
 
 #include "backends/portable/sample/sample_server.h"
 #include "hosts/desktop/recent_sites.h"
+#include "hosts/desktop/turn_wait.h"
 #include "runtime/run_time_error.h"
 
+#include <QApplication>
 #include <QObject>
 
 #include <filesystem>
@@ -32,6 +34,7 @@ Program::Program(QSettings& settings, std::string installedData, HostFacts facts
     : settings_(settings), installedData_(std::move(installedData)), facts_(std::move(facts)),
       window_(settings)
 {
+    facts_.notice = [this](const std::string& text) { window_.sayWaiting(text); };
     desktop_.setWindow(&window_);
     desktop_.setManual(installedData_ + "/help");
     desktop_.setToolPath(
@@ -64,6 +67,10 @@ void Program::openSite(const std::string& folder)
                 return QObject::tr("it has no site.ini, registry.reg or drive_c in it");
             }));
         opened = std::make_unique<OpenTool>(folder, installedData_, facts_, desktop_);
+        opened->takeTurn = [this](const std::string& site) {
+            QWidget* asking = QApplication::activeModalWidget();
+            return waitForTurn(site, asking ? asking : &window_);
+        };
     } catch (const RunTimeError& error) {
         return window_.showProblem(notOpened(folder, as(error.description())));
     }
@@ -110,6 +117,8 @@ void Program::openDefault(const std::string& folder)
 
 void Program::close()
 {
+    // No event loop runs any more, and the window has gone.
+    if (tool_) tool_->takeTurn = nullptr;
     if (const LiveSentence failure = letGo()) window_.showProblem(failure);
 }
 

@@ -822,6 +822,10 @@
         <translation>Beispielserver in einem neuen Ordner anlegen</translation>
     </message>
     <message>
+        <source>The language was not changed: %1. Choose it again.</source>
+        <translation>Die Sprache wurde nicht geändert: %1. Wählen Sie sie noch einmal.</translation>
+    </message>
+    <message>
         <source>The gather is being ended. The window closes in a moment.</source>
         <translation>Das Sammeln wird beendet. Das Fenster schließt sich gleich.</translation>
     </message>

@@ -822,6 +822,10 @@
         <translation>Crear servidor de ejemplo en una carpeta nueva</translation>
     </message>
     <message>
+        <source>The language was not changed: %1. Choose it again.</source>
+        <translation>El idioma no se cambió: %1. Elíjalo de nuevo.</translation>
+    </message>
+    <message>
         <source>The gather is being ended. The window closes in a moment.</source>
         <translation>Se está terminando la recopilación. La ventana se cerrará dentro de un momento.</translation>
     </message>

@@ -822,6 +822,10 @@
         <translation>Créer un serveur d&apos;exemple dans un nouveau dossier</translation>
     </message>
     <message>
+        <source>The language was not changed: %1. Choose it again.</source>
+        <translation>La langue n&apos;a pas été changée&#xa0;: %1. Choisissez-la à nouveau.</translation>
+    </message>
+    <message>
         <source>The gather is being ended. The window closes in a moment.</source>
         <translation>La collecte se termine. La fenêtre se fermera dans un instant.</translation>
     </message>

@@ -822,6 +822,10 @@
         <translation>新しいフォルダーにサンプル サーバーを作成</translation>
     </message>
     <message>
+        <source>The language was not changed: %1. Choose it again.</source>
+        <translation>言語は変更されませんでした: %1。もう一度選択してください。</translation>
+    </message>
+    <message>
         <source>The gather is being ended. The window closes in a moment.</source>
         <translation>ログの収集を終了しています。ウィンドウはまもなく閉じます。</translation>
     </message>
