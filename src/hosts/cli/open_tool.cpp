@@ -5,25 +5,11 @@
 #include "hosts/common/places.h"
 #include "shell/snapin_definition.h"
 
-#include <cctype>
-#include <filesystem>
-
 #include <unistd.h>
-
-namespace fs = std::filesystem;
 
 namespace {
 
 constexpr int processesPosition = 2;
-
-/// A path as a person types it: a drive's path stays, another one is this machine's own.
-std::string wholePath(const std::string& typed)
-{
-    const bool drive = typed.size() >= 2 && typed[1] == ':' &&
-                       std::isalpha(static_cast<unsigned char>(typed[0])) != 0;
-    if (drive || typed.empty()) return typed;
-    return fs::absolute(typed).lexically_normal().string();
-}
 
 HostFacts hostFacts(const GlobalOptions& options)
 {
@@ -33,7 +19,7 @@ HostFacts hostFacts(const GlobalOptions& options)
     facts.developmentHost = options.developmentHost;
     facts.interrupted = interruptNoted;
     facts.notice = printMessage;
-    if (!options.toolFolder.empty()) facts.toolFolder = wholePath(options.toolFolder);
+    if (!options.toolFolder.empty()) facts.toolFolder = places::wholePath(options.toolFolder);
     return facts;
 }
 
@@ -134,7 +120,7 @@ try {
 
 std::string OpenTool::toolPath(const std::string& typed)
 {
-    std::string path = wholePath(typed);
+    std::string path = places::wholePath(typed);
     site_.paths().permit(path);
     return path;
 }

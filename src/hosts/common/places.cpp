@@ -1,5 +1,6 @@
 #include "hosts/common/places.h"
 
+#include <cctype>
 #include <cstdlib>
 #include <filesystem>
 
@@ -32,4 +33,12 @@ std::string places::installedData()
     for (const fs::path& folder : {prefix / "share" / "orvandiag", prefix / "data"})
         if (fs::is_directory(folder, none)) return folder.string();
     return {};
+}
+
+std::string places::wholePath(const std::string& typed)
+{
+    const bool drive = typed.size() >= 2 && typed[1] == ':' &&
+                       std::isalpha(static_cast<unsigned char>(typed[0])) != 0;
+    if (drive || typed.empty()) return typed;
+    return fs::absolute(typed).lexically_normal().string();
 }

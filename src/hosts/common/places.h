@@ -12,4 +12,8 @@ std::string defaultSite();
 /// it is installed. The empty text when there is none.
 std::string installedData();
 
+/// A path as a person types it on a command line: a drive's path stays, as does the empty text;
+/// another one is this machine's own, made whole from the present folder.
+std::string wholePath(const std::string& typed);
+
 } // namespace places

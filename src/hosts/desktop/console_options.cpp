@@ -38,6 +38,8 @@ void declare(QCommandLineParser& parser)
         {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")},
         {{QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Show the version.")},
         option("site", "The folder of the site to open.", "DIR"),
+        option("tool-folder",
+               "The folder of the tool's files, also one of this machine; else the site's.", "DIR"),
         option("show", "Select the node of this name, such as a log.", "NAME"),
         option("command", "Start with a command of the tool, such as mnuGatherLogFiles.", "NAME"),
         option("theme", "Look: system, light or dark.", "NAME"),
@@ -74,6 +76,7 @@ std::variant<ConsoleOptions, NoWindow> consoleOptionsOf(const QStringList& argum
 
     ConsoleOptions options;
     options.site = parser.value(QStringLiteral("site"));
+    options.toolFolder = parser.value(QStringLiteral("tool-folder"));
     options.node = parser.value(QStringLiteral("show"));
     options.command = parser.value(QStringLiteral("command")).toStdString();
     options.theme = parser.value(QStringLiteral("theme"));

@@ -11,6 +11,7 @@
 /// What the console's command line asks for. An empty text: nothing was said of it.
 struct ConsoleOptions {
     QString site;        ///< a folder
+    QString toolFolder;  ///< of the tool's files, a drive's path or one of this machine
     QString node;        ///< to select at the start
     std::string command; ///< of the tool, to start with
     QString theme;       ///< "system", "light" or "dark"

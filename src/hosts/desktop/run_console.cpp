@@ -42,6 +42,7 @@ HostFacts hostFacts(const ConsoleOptions& options)
     facts.commandLine = "orvandiag-console";
     facts.developmentHost = options.developmentHost;
     facts.interrupted = EndWish::signalled;
+    facts.toolFolder = places::wholePath(options.toolFolder.toStdString());
     return facts;
 }
 

@@ -20,6 +20,7 @@ TEST(ConsoleOptions, NothingIsAskedForByAnEmptyCommandLine)
     const auto options = std::get<ConsoleOptions>(read({}));
     EXPECT_TRUE(options.site.isEmpty());
     EXPECT_TRUE(options.theme.isEmpty());
+    EXPECT_TRUE(options.toolFolder.isEmpty());
     EXPECT_TRUE(options.command.empty());
     EXPECT_FALSE(options.size.has_value());
     EXPECT_FALSE(options.developmentHost);
@@ -27,11 +28,13 @@ TEST(ConsoleOptions, NothingIsAskedForByAnEmptyCommandLine)
 
 TEST(ConsoleOptions, EveryOptionIsTaken)
 {
-    const auto options = std::get<ConsoleOptions>(read(
-        {"--site", "/srv/voice", "--show=diag_KoCSMgr.txt", "--command", "mnuGatherLogFiles",
-         "--theme", "dark", "--size", "1280x760", "--screenshot", "a.png", "--development-host"}));
+    const auto options = std::get<ConsoleOptions>(
+        read({"--site", "/srv/voice", "--tool-folder", "/srv/tool", "--show=diag_KoCSMgr.txt",
+              "--command", "mnuGatherLogFiles", "--theme", "dark", "--size", "1280x760",
+              "--screenshot", "a.png", "--development-host"}));
     EXPECT_EQ(QStringLiteral("/srv/voice"), options.site);
     EXPECT_EQ(QStringLiteral("diag_KoCSMgr.txt"), options.node);
+    EXPECT_EQ(QStringLiteral("/srv/tool"), options.toolFolder);
     EXPECT_EQ("mnuGatherLogFiles", options.command);
     EXPECT_EQ(QStringLiteral("dark"), options.theme);
     EXPECT_EQ(QSize(1280, 760), options.size);

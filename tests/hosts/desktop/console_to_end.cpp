@@ -2,15 +2,20 @@
 //
 //   console_to_end WHAT WINDOW-ARGUMENT...
 //
-// WHAT is "idle", "box" or "gather". The program says "ready" on standard output when it is to be
-// ended: with nothing at work, with a box open, or in the middle of a gather.
+// WHAT is "idle", "box", "gather", "refused:FOLDER" or "wait". The program says "ready" on standard
+// output when it is to be ended: with nothing at work, with a box open, in the middle of a gather,
+// with a gather on show that is refused, or while it waits for its turn to change the site.
 #include "hosts/desktop/console_pane.h"
+#include "hosts/desktop/notice_bar.h"
 #include "hosts/desktop/program.h"
 #include "hosts/desktop/run_console.h"
 #include "hosts/desktop/sheet_dialog.h"
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -57,6 +62,35 @@ void gather(Program& program)
          });
 }
 
+/// A gather into a folder, which something in it forbids.
+void gatherWhereItIsRefused(Program& program, const std::string& target)
+{
+    ConsolePane& pane = *program.window().pane();
+    when([] { return qobject_cast<QFileDialog*>(QApplication::activeModalWidget()) != nullptr; },
+         [target] {
+             auto* picker = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+             picker->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))
+                 ->setText(QString::fromStdString(target));
+             QMetaObject::invokeMethod(picker, "accept");
+         });
+    program.window().consoleAction("mnuGatherLogFiles")->trigger();
+    for (auto* button : pane.sheet()->findChildren<QPushButton*>())
+        if (button->isVisible() && button->text().contains(QStringLiteral("rowse")))
+            button->click();
+    for (auto* choice : pane.sheet()->findChildren<QRadioButton*>())
+        if (choice->text().contains(QStringLiteral("time frame"))) choice->click();
+    pressDefault(*pane.sheet());
+    pressDefault(*pane.sheet());
+    when([&pane] { return !pane.sheet()->findChild<NoticeBar*>()->sentence().isEmpty(); },
+         sayReady);
+}
+
+void waitForTheTurn(Program& program)
+{
+    when([] { return QApplication::activeModalWidget() != nullptr; }, sayReady);
+    program.window().consoleAction("mnuStartNewLogFiles")->trigger();
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -65,6 +99,12 @@ int main(int argc, char** argv)
     argv[1] = argv[0];
     return runConsole(argc - 1, argv + 1, [what](Program& program) {
         if (what == "gather") return QTimer::singleShot(0, qApp, [&program] { gather(program); });
+        if (what == "wait")
+            return QTimer::singleShot(0, qApp, [&program] { waitForTheTurn(program); });
+        if (what.rfind("refused:", 0) == 0)
+            return QTimer::singleShot(0, qApp, [&program, target = what.substr(8)] {
+                gatherWhereItIsRefused(program, target);
+            });
         QTimer::singleShot(0, qApp, [what, &program] {
             QTimer::singleShot(50, qApp, sayReady);
             // Both are modal, with an event loop of their own.

@@ -1,5 +1,6 @@
 #include "hosts/desktop/end_wish.h"
 
+#include "backends/portable/file_descriptor.h"
 #include "hosts/desktop/outside_view.h"
 #include "hosts/desktop/test_window.h"
 
@@ -8,8 +9,14 @@
 
 #include <gmock/gmock.h>
 
+#include <chrono>
 #include <csignal>
 #include <fstream>
+#include <functional>
+#include <thread>
+
+#include <fcntl.h>
+#include <sys/file.h>
 
 namespace {
 
@@ -73,15 +80,24 @@ struct EndedFromOutside : testing::Test {
         return linesOf(server.site() + "/eventlogs/Application.jsonl");
     }
 
+    QStringList arguments(const std::string& what) const
+    {
+        QStringList all{QString::fromStdString(what), "--site",
+                        QString::fromStdString(server.site())};
+        if (!folderOfTool.empty()) all << "--tool-folder" << QString::fromStdString(folderOfTool);
+        return all;
+    }
+
     /// Starts the window, waits until it is ready, sends it a signal, and waits for its end.
-    void run(const char* what, int signal)
+    /// `meanwhile` happens behind the signal.
+    void run(const std::string& what, int signal, const std::function<void()>& meanwhile = {})
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("QT_QPA_PLATFORM", "offscreen");
         environment.insert("XDG_CONFIG_HOME", QString::fromStdString(server.folder() / "config"));
         process.setProcessEnvironment(environment);
         process.setProcessChannelMode(QProcess::SeparateChannels);
-        process.start(CONSOLE_TO_END, {what, "--site", QString::fromStdString(server.site())});
+        process.start(CONSOLE_TO_END, arguments(what));
         ASSERT_TRUE(process.waitForStarted());
         while (!process.canReadLine())
             ASSERT_TRUE(process.waitForReadyRead(patience))
@@ -90,6 +106,7 @@ struct EndedFromOutside : testing::Test {
         EXPECT_THAT(messageFile(), HasSubstr("\\JPN\\"));
         eventsOpen = events();
         ASSERT_EQ(0, ::kill(static_cast<pid_t>(process.processId()), signal));
+        if (meanwhile) meanwhile();
         ASSERT_TRUE(process.waitForFinished(patience));
     }
 
@@ -104,6 +121,7 @@ struct EndedFromOutside : testing::Test {
     QApplication& application = testApplication();
     TestServer server{60'000};
     QProcess process;
+    std::string folderOfTool; ///< of the person's choice; the site's where it is empty
     std::ptrdiff_t eventsOpen = 0;
 };
 
@@ -137,6 +155,45 @@ TEST_F(EndedFromOutside, AGatherIsCancelledAndKeepsWhatItRead)
     const auto all = linesOf(server.logs() + "/" + server.currentLog("KoCSMgr"));
     EXPECT_GT(linesOf(copies.front()), 100);
     EXPECT_LT(linesOf(copies.front()), all);
+}
+
+TEST_F(EndedFromOutside, SoDoesOneWhileARefusedGatherIsOnShow)
+{
+    server.folder().write("gathered/disk1", "the person's");
+    run("refused:" + (server.folder() / "gathered"), SIGTERM);
+    expectUnloaded();
+    EXPECT_EQ("the person's", server.folder().read("gathered/disk1"));
+}
+
+TEST_F(EndedFromOutside, SoDoesOneWhileAChangeWaitsForItsTurnAndTheChangeIsNotMade)
+{
+    const std::string lock = server.folder().write("site/changes.lock", "123\n");
+    FileDescriptor held(::open(lock.c_str(), O_RDWR | O_CLOEXEC));
+    ASSERT_EQ(0, ::flock(held.get(), LOCK_EX));
+    const auto signalTime = [this] {
+        return OutsideView(server.site())
+            .registryValue("RoLogMgr\\BroadCast", "Cycle Diag File Time Set");
+    };
+    const std::string before = signalTime();
+    run("wait", SIGTERM, [&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1500));
+        EXPECT_EQ(QProcess::Running, process.state()) << "what is put back is a change too";
+        EXPECT_THAT(messageFile(), HasSubstr("\\JPN\\"));
+        held.close();
+    });
+    expectUnloaded();
+    EXPECT_EQ(before, signalTime());
+    EXPECT_THAT(process.readAllStandardError().toStdString(),
+                HasSubstr("orvandiag-console: waiting for another program (process 123)"));
+}
+
+TEST_F(EndedFromOutside, ThePersonsOwnToolFolderMayBeOfTheMachine)
+{
+    folderOfTool = server.folder() / "own";
+    run("idle", SIGTERM);
+    expectUnloaded();
+    EXPECT_TRUE(fs::exists(server.folder() / "own/LOGS"));
+    EXPECT_TRUE(fs::exists(server.folder() / "own/ZMKXML"));
 }
 
 TEST_F(EndedFromOutside, ASignalThatWasIgnoredStaysIgnored)
