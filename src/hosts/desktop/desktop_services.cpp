@@ -1,10 +1,10 @@
 #include "hosts/desktop/desktop_services.h"
 
 #include "hosts/desktop/help_window.h"
+#include "hosts/desktop/path_dialog.h"
 
 #include <QApplication>
 #include <QCoreApplication>
-#include <QFileDialog>
 #include <QMessageBox>
 
 namespace {
@@ -91,15 +91,16 @@ void DesktopServices::messageBox(const std::string& text, const std::string& tit
 std::string DesktopServices::pickFolder(const std::string& title)
 {
     const ArrowPointer arrow;
-    return named(QFileDialog::getExistingDirectory(owner(), QString::fromStdString(title)));
+    return named(PathDialog(owner(), QString::fromStdString(title), PathDialog::Directory).ask());
 }
 
 std::string DesktopServices::pickFile(const std::string& title)
 {
     const ArrowPointer arrow;
-    return named(QFileDialog::getOpenFileName(
-        owner(), QString::fromStdString(title), {},
-        QObject::tr("Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)")));
+    return named(
+        PathDialog(owner(), QString::fromStdString(title), PathDialog::ExistingFile,
+                   QObject::tr("Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)"))
+            .ask());
 }
 
 void DesktopServices::pumpMessages()

@@ -11,6 +11,7 @@
 #include "hosts/desktop/log_view.h"
 #include "hosts/desktop/notice_bar.h"
 #include "hosts/desktop/open_tool.h"
+#include "hosts/desktop/path_dialog.h"
 #include "hosts/desktop/screen_room.h"
 #include "hosts/desktop/sheet_dialog.h"
 #include "hosts/desktop/task_pad_view.h"
@@ -465,8 +466,9 @@ bool MainWindow::mayLeaveSite()
 void MainWindow::pickSite()
 {
     if (!mayLeaveSite()) return;
-    const QString folder = QFileDialog::getExistingDirectory(
-        this, tr("Open Site: the folder of a server, with site.ini, registry.reg or drive_c"));
+    const QString title =
+        tr("Open Site: the folder of a server, with site.ini, registry.reg or drive_c");
+    const QString folder = PathDialog(this, title, PathDialog::Directory).ask();
     if (!folder.isEmpty()) emit siteAsked(folder);
 }
 
