@@ -25,7 +25,7 @@ void mdlLogs::saveUniqueFilters(ToolContext& tool, TraceRecordset& recordset)
             step([&] { pieces = split(tool.g_dictUniqueFilters.item(key), ','); });
             step([&] { recordset.addNew(); });
             step([&] { recordset.field("qrvIndex").setText(key); });
-            step([&] { recordset.field("Process").setText(piece(pieces, 0)); });
+            step([&] { recordset.field("Process").setUtf8(piece(pieces, 0)); });
             step([&] { recordset.field("Source").setText(piece(pieces, 1)); });
             step([&] { recordset.field("Component").setText(piece(pieces, 2)); });
             step([&] { recordset.field("TraceLevel").setText(piece(pieces, 3)); });

@@ -36,7 +36,7 @@ void TraceRow::begin(const std::string& date, const std::string& process,
 {
     step_([&] { recordset_.addNew(); });
     step_([&] { date_->setText(date); });
-    step_([&] { process_->setText(process); });
+    step_([&] { process_->setUtf8(process); });
     step_([&] { source_->setText(record.source); });
     step_([&] { traceNumber_->setNumber(record.traceNumber); });
     step_([&] { component_->setText(record.component); });

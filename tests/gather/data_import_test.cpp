@@ -55,6 +55,19 @@ TEST(ProcessOrvanDataFileToDB, AddsARowWithFewerFields)
     EXPECT_TRUE(tool.logged("Exiting " + proc));
 }
 
+TEST(ProcessOrvanDataFileToDB, TakesTheProcessForUtf8)
+{
+    std::string process;
+    for (int letter = 0; letter < 200; ++letter) process += "\xC3\xB6";
+    const std::string name = "data_" + process + "_20051008_093000.txt";
+    DataTool tool;
+    tool.withLog(name, morning, {"2005-10-08 22:23:07,Conv,1234,a record"});
+    tool.importData(name);
+    ASSERT_EQ(1U, tool.rows().size());
+    EXPECT_EQ(process, tool.rows()[0].at("Process"))
+        << "its 200 letters fit the column, though their 400 bytes would not";
+}
+
 TEST(ProcessOrvanDataFileToDB, SetsNeitherPortNorCallIdNorHighlight)
 {
     DataTool tool;

@@ -48,6 +48,15 @@ TEST(SaveUniqueFilters, AddsARowForEachEntryInTheOrderOfTheKeys)
     EXPECT_TRUE(tool.logged("Exiting " + proc));
 }
 
+TEST(SaveUniqueFilters, TakesTheProcessForUtf8)
+{
+    std::string process;
+    for (int letter = 0; letter < 200; ++letter) process += "\xC3\xB6";
+    FilterTool tool;
+    tool.with("C_P_7_S", process + ",S,C,7");
+    EXPECT_EQ(process, tool.save().at(0).at("Process"));
+}
+
 TEST(SaveUniqueFilters, ACommaInAValueShiftsTheColumnsBehindIt)
 {
     struct Case {
