@@ -47,7 +47,7 @@ public:
     virtual std::vector<FileInfo> entries(const std::string& folder) const = 0;
 
     /// Names of the plain files that match a pattern such as `C:\Logs\diag_*.txt`, sorted; `*` and
-    /// `?` in the last part alone. None, or no such folder, is an empty list.
+    /// `?` in the last part alone. None, or no such folder, is an empty list. Too many may raise 7.
     virtual std::vector<std::string> matching(const std::string& pattern) const = 0;
 
     /// Makes the last level. Raises 58 (exists), 76 (its parent is missing).

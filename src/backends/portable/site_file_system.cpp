@@ -23,6 +23,9 @@ using namespace runTimeErrors;
 
 constexpr int deviceUnavailable = 68;
 
+/// A server keeps some hundred logs; past this many a list of them helps nobody and takes minutes.
+constexpr std::size_t mostMatches = 100'000;
+
 /// Whether an error says that nothing is there, and not that nobody may see what is.
 bool saysNothingThere(int error)
 {
@@ -137,6 +140,15 @@ private:
     bool link_ = false;
 };
 
+/// What lies in a folder of a site, and what stands in for what does not.
+std::vector<std::string> unsortedNames(const SitePlace& place, const SitePaths::StandIns& standIns)
+{
+    std::vector<std::string> names;
+    if (standIns.empty() || place.root.isFolder(place.path)) names = place.root.names(place.path);
+    for (const auto& standIn : standIns) names.push_back(standIn.first);
+    return names;
+}
+
 } // namespace
 
 SiteFileSystem::SiteFileSystem(SitePaths& paths, PosixTimeZone zone)
@@ -205,11 +217,7 @@ try {
 std::vector<std::string> SiteFileSystem::namesIn(const SitePlace& place,
                                                  const std::string& folder) const
 {
-    const auto& standIns = paths_.standInsOf(folder);
-    std::vector<std::string> names;
-    if (standIns.empty() || place.root.isFolder(place.path)) names = place.root.names(place.path);
-    for (const auto& standIn : standIns) names.push_back(standIn.first);
-    return sortedNames(std::move(names));
+    return sortedNames(unsortedNames(place, paths_.standInsOf(folder)));
 }
 
 std::vector<FileInfo> SiteFileSystem::entries(const std::string& folder) const
@@ -239,8 +247,11 @@ std::vector<std::string> SiteFileSystem::matching(const std::string& pattern) co
     if (standIns.empty() && !hasFolder(folder)) return found;
     const SitePlace place = paths_.place(folder);
     Listing listing(place, standIns);
-    for (auto& name : namesIn(place, folder)) {
-        if (!wanted.matches(name)) continue;
+    std::vector<std::string> names = unsortedNames(place, standIns);
+    std::erase_if(names, [&](const std::string& name) { return !wanted.matches(name); });
+    if (names.size() > mostMatches)
+        throw RunTimeError(outOfMemory, "More than 100,000 names match " + pattern);
+    for (auto& name : sortedNames(std::move(names))) {
         // A file that nobody can look at is listed: who goes on to it hears why.
         if (S_ISREG(listing.factsOf(name).st_mode) || listing.unseen() != 0)
             found.push_back(std::move(name));
