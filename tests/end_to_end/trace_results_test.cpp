@@ -211,6 +211,21 @@ TEST_F(TraceResults, AComponentWithoutLevelsEndsTheListAndThatIsTold)
     EXPECT_EQ(words, sql("SELECT * FROM vw_LoggerDiagnosticGrid ORDER BY Name"));
 }
 
+TEST_F(TraceResults, AListThatTheDatabaseCutsSaysWhyInOneLine)
+{
+    sql("DROP VIEW vw_LoggerDiagnosticGrid; CREATE VIEW vw_LoggerDiagnosticGrid (Name, ObjectId, "
+        "Flags, DefaultFlags) AS WITH RECURSIVE c(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM c "
+        "LIMIT 100001) SELECT 'N' || n, 'O' || n, 0, 0 FROM c");
+    const std::string why = "The query gives more than 100,000 rows.\n";
+    const Outcome listed = runJson({"micro"});
+    EXPECT_EQ(0, listed.status) << "as any other listing of what there is";
+    EXPECT_EQ("orvandiag: not every component is listed: the list can't be filled: " + why,
+              listed.err);
+    EXPECT_EQ(nlohmann::json::array(), listed.json());
+    const Outcome one = run({"micro", "CallFlow"});
+    EXPECT_EQ(1, one.status);
+}
+
 TEST_F(TraceResults, ADatabaseThatRefusesIsToldOf)
 {
     sql("DROP VIEW csp_LoggerDiagnosticGridModify");

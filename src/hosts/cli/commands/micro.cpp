@@ -176,12 +176,19 @@ private:
         tool.requireDatabase();
         Json all = Json::array();
         std::string text;
+        std::string refusal;
         {
+            tool.context().onTrappedError = [&](const RunTimeError& error, std::string_view place) {
+                if (refusal.empty() && place == "[mdlOrvanDatabase]EnumComponents")
+                    refusal = ": " + error.description();
+            };
             WizardDriver wizard(tool, taskKey);
             wizard.next();
+            tool.context().onTrappedError = {};
             const auto& tree = wizard.control<TreeView>(treeName);
             if (!tree.visible())
-                output.message("not every component is listed: " + whereTheListEnds(tree));
+                output.message("not every component is listed: " + whereTheListEnds(tree) +
+                               refusal);
             if (!component_.empty() && !componentNode(tree, component_))
                 throw tree.visible() ? noSuchComponent(component_)
                                      : CommandFailure(component_ + " is not listed");
