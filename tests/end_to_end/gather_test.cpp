@@ -300,6 +300,16 @@ TEST_F(GatherCommand, ACopyThatCantBeMadeIsToldAndTheOthersAreMade)
     EXPECT_THAT(gathered.json()["files"], ElementsAre(formattedName(log)));
 }
 
+TEST_F(GatherCommand, APreviewTellsOfALogFolderThatCantBeListed)
+{
+    const fs::path logs = drive("KelmaOrvan/Logs");
+    fs::rename(logs, folder / "logs");
+    fs::create_directory_symlink(folder / "logs", logs);
+    const Outcome planned =
+        run({"gather", "frame", "--from", "2025-02-20 16:42", "--hours", "1", "--dry-run"});
+    EXPECT_THAT(planned.err, HasSubstr("the logs in C:\\KelmaOrvan\\Logs could not be listed: "));
+}
+
 TEST_F(GatherCommand, EventLogsHoldNoFormulaWhereTheyAreForASpreadsheet)
 {
     std::ofstream(site / "eventlogs/System.jsonl", std::ios::app)

@@ -141,11 +141,13 @@ TEST(Faults, EveryWriteOfTheEventLogsLanguageThatFailsIsTold)
     runTrials(trials);
 }
 
-TEST(Faults, AListingOfAGatherThatFailsLeavesOutNoLogWithoutAWord)
+TEST(Faults, AListingOrOpeningOfAGatherThatFailsLeavesOutNothingWithoutAWord)
 {
-    const auto trials = eachFailing("gather frame", CallKind::list, 40);
-    ASSERT_FALSE(trials.empty());
-    runTrials(trials);
+    for (const CallKind kind : {CallKind::list, CallKind::open}) {
+        const auto trials = eachFailing("gather frame", kind, 40);
+        ASSERT_FALSE(trials.empty());
+        runTrials(trials);
+    }
 }
 
 TEST(Faults, ACabinetMakerThatCanLookAtNothingGivesUp)

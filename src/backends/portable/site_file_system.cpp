@@ -93,27 +93,22 @@ public:
     {
         struct stat facts {};
         unseen_ = 0;
-        link_ = false;
         target_ = FileDescriptor();
         if (const auto standIn = standIns_.find(name); standIn != standIns_.end()) {
             target_ = FileDescriptor(::open(standIn->second.c_str(), O_PATH | O_CLOEXEC));
-        } else {
-            if (::fstatat(folder_.get(), name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) != 0)
-                return unseen(errno);
+        } else if (::fstatat(folder_.get(), name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) == 0) {
             if (!S_ISLNK(facts.st_mode)) return facts;
-            link_ = true;
             target_ = place_.root.open(below(place_.path, name), O_PATH);
+        } else if (errno != ENOENT) {
+            unseen_ = errno;
         }
-        if (!target_.isOpen() || ::fstat(target_.get(), &facts) != 0) return unseen(errno);
+        if (!target_.isOpen() || ::fstat(target_.get(), &facts) != 0) facts.st_mode = 0;
         return facts;
     }
 
     /// Why the machine would not tell the facts of the last `factsOf`; 0 when it did, for what has
-    /// gone since the listing, and for a link that leads nowhere or out of the site.
+    /// gone since the listing, and for a link that can't be followed.
     int unseen() const { return unseen_; }
-
-    /// Whether the entry of the last `factsOf` is a link.
-    bool isLink() const { return link_; }
 
     /// Where the entry of the last `factsOf` is: a descriptor, and the name in it.
     std::pair<int, std::string> entry(const std::string& name) const
@@ -123,21 +118,11 @@ public:
     }
 
 private:
-    /// Notes an error and gives no facts.
-    struct stat unseen(int error)
-    {
-        const bool leadsNowhere = error == ENOENT || error == ENOTDIR;
-        const bool refused = error == EXDEV || error == ELOOP;
-        unseen_ = leadsNowhere || refused ? 0 : error;
-        return {};
-    }
-
     const SitePlace& place_;
     const SitePaths::StandIns& standIns_;
     FileDescriptor folder_;
     FileDescriptor target_;
     int unseen_ = 0;
-    bool link_ = false;
 };
 
 /// What lies in a folder of a site, and what stands in for what does not.
@@ -227,9 +212,7 @@ std::vector<FileInfo> SiteFileSystem::entries(const std::string& folder) const
     std::vector<FileInfo> found;
     for (auto& name : namesIn(place, folder)) {
         const auto facts = listing.factsOf(name);
-        // A site may hold links that never can be followed; they are no reason to list nothing.
-        if (listing.unseen() != 0 && !listing.isLink())
-            throw posixError(listing.unseen(), pathNotFound);
+        if (listing.unseen() != 0) throw posixError(listing.unseen(), pathNotFound);
         if (!S_ISREG(facts.st_mode) && !S_ISDIR(facts.st_mode)) continue;
         const auto [where, nameThere] = listing.entry(name);
         found.push_back(describe(where, nameThere, std::move(name), facts));

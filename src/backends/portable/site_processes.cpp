@@ -178,13 +178,14 @@ SiteProcesses::~SiteProcesses()
     for (const auto& process : running_) ::waitpid(process.first, nullptr, WNOHANG);
 }
 
-/// Where the file of a program's name lies on the machine.
+/// Where the file of a program's name lies on the machine; of a name without an ending, the file
+/// with that of a program comes first.
 std::optional<std::string> SiteProcesses::fileOf(const std::string& name) const
 {
     const auto lastName = name.substr(name.find_last_of("\\/:") + 1);
     const bool hasEnding = lastName.find('.') != std::string::npos;
-    for (const char* ending : {"", ".exe"}) {
-        if (*ending != '\0' && hasEnding) break;
+    for (const char* ending : {".exe", ""}) {
+        if (*ending != '\0' && hasEnding) continue;
         auto program = machineNameOf(paths_, name + ending);
         if (isPlainFile(program)) return program;
     }

@@ -39,8 +39,9 @@ int run(int argc, char** argv)
         std::printf("%s\n", versionText().c_str());
         return 0;
     } catch (const CLI::ParseError& error) {
-        const std::string unknown = unknownCommand(*app);
-        return refuseUsage(*app, unknown.empty() ? error.what() : unknown);
+        std::string wrong = unknownCommand(*app);
+        if (wrong.empty() && error.get_name() == "RequiredError") wrong = missingCommand(*app);
+        return refuseUsage(*app, wrong.empty() ? error.what() : wrong);
     }
     try {
         Output output(options.json);

@@ -38,6 +38,12 @@ std::string closing()
     return text + ".\n" + outputNote;
 }
 
+const CLI::App& innermostOf(const CLI::App& app)
+{
+    const auto chosen = app.get_subcommands();
+    return chosen.empty() ? app : innermostOf(*chosen.front());
+}
+
 } // namespace
 
 std::unique_ptr<CLI::App> describeCommandLine(GlobalOptions& options,
@@ -76,10 +82,24 @@ std::string chosenCommand(const CLI::App& app)
     return chosen.empty() ? app.get_name() : app.get_name() + " " + chosenCommand(*chosen.front());
 }
 
+std::string missingCommand(const CLI::App& app)
+{
+    constexpr std::size_t most = 3;
+    const CLI::App& innermost = innermostOf(app);
+    if (innermost.get_require_subcommand_min() == 0 || !app.remaining(true).empty()) return {};
+    std::vector<std::string> names;
+    for (const CLI::App* command :
+         innermost.get_subcommands([](const CLI::App* sub) { return sub->get_group() != hidden; }))
+        if (names.size() < most) names.push_back(command->get_name());
+    std::string list;
+    for (std::size_t at = 0; at < names.size(); ++at)
+        list += (at == 0 ? "" : at + 1 < names.size() ? ", " : " or ") + names[at];
+    return "name a command, such as " + list;
+}
+
 std::string unknownCommand(const CLI::App& app)
 {
-    const CLI::App* innermost = &app;
-    while (!innermost->get_subcommands().empty()) innermost = innermost->get_subcommands().front();
+    const CLI::App* innermost = &innermostOf(app);
     // The words that no command took wait in the outermost one.
     const auto words = app.remaining(true);
     if (innermost->get_require_subcommand_min() == 0 || words.empty()) return {};

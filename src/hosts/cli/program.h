@@ -42,6 +42,10 @@ std::string chosenCommand(const CLI::App& app);
 /// what went wrong.
 std::string unknownCommand(const CLI::App& app);
 
+/// Asks for the command that is not there, with some that could be; empty when that is not what
+/// went wrong.
+std::string missingCommand(const CLI::App& app);
+
 /// The version that the tool shows as its own.
 ModuleVersion moduleVersion();
 

@@ -4,6 +4,7 @@
 #include "core/error_trap.h"
 #include "core/registry_store.h"
 #include "gather/logs.h"
+#include "hosts/common/cabinet_names.h"
 #include "hosts/common/gather_report.h"
 #include "platform/file_system.h"
 #include "platform/host_module.h"
@@ -139,21 +140,26 @@ try {
     return nullptr;
 }
 
-/// Logs that failed in one way are told in one sentence.
+/// Many logs that failed in one way, or by one cause in several, are told in one sentence.
 void addTogether(std::vector<Sentence>& sentences, const std::vector<Sentence>& gaps)
 {
     constexpr std::size_t toldOneByOne = 3;
     std::map<std::pair<std::string_view, std::string>, std::vector<Sentence>> alike;
     for (const Sentence& gap : gaps)
         alike[{gap.pattern, gap.inserts.size() > 1 ? gap.inserts[1] : ""}].push_back(gap);
+    std::map<std::string, std::vector<std::string>> cutShort; // logs by cause, the first one first
     for (const auto& [way, group] : alike) {
-        if (group.size() <= toldOneByOne || way.second.empty())
+        if (group.size() <= toldOneByOne || way.second.empty()) {
             sentences.insert(sentences.end(), group.begin(), group.end());
-        else
-            sentences.push_back(
-                {gatherSentences::logsCutShort,
-                 {std::to_string(group.size()), group.front().inserts[0], way.second}});
+            continue;
+        }
+        for (const Sentence& gap : group)
+            if (auto& logs = cutShort[way.second]; !holds(logs, gap.inserts[0]))
+                logs.push_back(gap.inserts[0]);
     }
+    for (const auto& [cause, logs] : cutShort)
+        sentences.push_back(
+            {gatherSentences::logsCutShort, {std::to_string(logs.size()), logs.front(), cause}});
 }
 
 } // namespace
@@ -372,7 +378,7 @@ void GatherWatch::tellOfCabinet(GatherOutcome& outcome) const
 {
     const ProcessReport maker = tool_.platform.processes.lastReport();
     outcome.cabinetMakerReplaced = outcome.cabinet && maker.replaced;
-    if (outcome.cabinet) return;
+    if (outcome.cabinet) return tellOfCabinetsContents(outcome);
     const std::string program = tool_.platform.module.folder() + "\\cabmaker.exe";
     const Trouble* packing = troubleAt(Stage::packing);
     if (!maker.failure.empty())
@@ -383,6 +389,23 @@ void GatherWatch::tellOfCabinet(GatherOutcome& outcome) const
         outcome.missing.push_back({gatherSentences::noCabinetBecause, {packing->why}});
     else
         outcome.missing.push_back({gatherSentences::noCabinet, {}});
+}
+
+/// What the gather packs is what it finds: a file that it could not look at is not in the cabinet.
+void GatherWatch::tellOfCabinetsContents(GatherOutcome& outcome) const
+{
+    std::vector<std::string> packed;
+    for (const std::string& name : outcome.files)
+        if (fs::path(name).extension() == ".cab")
+            for (std::string& member : namesInCabinet(fs::path(outcome.destination) / name))
+                packed.push_back(std::move(member));
+    for (const std::string& name : outcome.files) {
+        const bool wanted = name == "Application.csv" || name == "System.csv" ||
+                            fs::path(name).extension() == ".mdb";
+        if (wanted && !holds(packed, name))
+            outcome.missing.push_back(
+                {gatherSentences::logUnseen, {name, "it is not in the cabinet"}});
+    }
 }
 
 void GatherWatch::tellOfCurrentLog(GatherOutcome& outcome) const
@@ -422,7 +445,8 @@ void GatherWatch::tellOfCurrentLogs(GatherOutcome& outcome) const
 }
 
 /// Logs of a frame that the listing passes over without a word, with the reasons: links that lead
-/// out of the site or nowhere, pipes and the like. `failed` says why there may be more.
+/// out of the site or nowhere, or could not be followed, pipes and the like. `failed` says why
+/// there may be more.
 std::map<std::string, std::string> GatherWatch::passedOver(std::error_code& failed) const
 {
     const std::string& folder = tool_.g_strLogFolder;
@@ -436,6 +460,8 @@ std::map<std::string, std::string> GatherWatch::passedOver(std::error_code& fail
         try {
             if (!tool_.platform.files.fileExists(folder + "\\" + name))
                 tool_.platform.files.file(folder + "\\" + name);
+            if (!report_.wasListed(folder + "\\" + lowerCase(name.substr(0, 5)) + "*.txt", name))
+                logs[name] = "it could not be followed when the logs were listed";
         } catch (const RunTimeError& error) {
             logs[name] = causeOf(error);
         }

@@ -191,6 +191,7 @@ private:
     void tellOfDestination(GatherOutcome& outcome) const;
     void tellOfDatabase(GatherOutcome& outcome) const;
     void tellOfCabinet(GatherOutcome& outcome) const;
+    void tellOfCabinetsContents(GatherOutcome& outcome) const;
     void tellOfCurrentLog(GatherOutcome& outcome) const;
     void tellOfCurrentLogs(GatherOutcome& outcome) const;
     std::map<std::string, std::string> passedOver(std::error_code& failed) const;

@@ -1,5 +1,6 @@
 #include "hosts/common/gather_report.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -13,9 +14,10 @@ bool liesIn(std::string_view folder, std::string_view path)
 
 } // namespace
 
-void GatherReport::listed(const std::string& pattern)
+void GatherReport::listed(const std::string& pattern, const std::vector<std::string>& names)
 {
     failedListings_.erase(pattern);
+    listings_[pattern] = names;
     std::erase_if(unseen_, [&](const auto& entry) { return entry.second.listing == pattern; });
     latestListing_ = pattern;
 }
@@ -87,6 +89,13 @@ GatherReport::unseenLogs(const std::string& folder) const
     for (const auto& [path, unseen] : unseen_)
         if (liesIn(folder, path)) logs.emplace_back(path.substr(folder.size() + 1), unseen.why);
     return logs;
+}
+
+bool GatherReport::wasListed(const std::string& pattern, const std::string& name) const
+{
+    const auto listing = listings_.find(pattern);
+    return listing != listings_.end() &&
+           std::find(listing->second.begin(), listing->second.end(), name) != listing->second.end();
 }
 
 const LogSight* GatherReport::reading(const std::string& path) const

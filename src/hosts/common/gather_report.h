@@ -28,8 +28,9 @@ struct LogSight {
 /// as it hands them to the file system.
 class GatherReport {
 public:
-    /// A listing succeeded: what was said of it, and of the logs that it named, holds no more.
-    void listed(const std::string& pattern);
+    /// A listing succeeded and gave `names`: what was said of it, and of the logs that it named,
+    /// holds no more.
+    void listed(const std::string& pattern, const std::vector<std::string>& names = {});
 
     /// A listing failed.
     void notListed(const std::string& pattern, std::string why);
@@ -56,6 +57,9 @@ public:
     /// sorted.
     std::vector<std::pair<std::string, std::string>> unseenLogs(const std::string& folder) const;
 
+    /// Whether the latest listing of a pattern gave a name.
+    bool wasListed(const std::string& pattern, const std::string& name) const;
+
     /// How many rows were stored of each process.
     const std::map<std::string, std::int64_t, std::less<>>& storedRows() const
     {
@@ -74,9 +78,10 @@ private:
         std::string why;
     };
 
-    std::map<std::string, std::string> failedListings_; ///< by pattern
-    std::map<std::string, Unseen> unseen_;              ///< by path
-    std::map<std::string, LogSight> readings_;          ///< by path
+    std::map<std::string, std::string> failedListings_;        ///< by pattern
+    std::map<std::string, std::vector<std::string>> listings_; ///< names by pattern
+    std::map<std::string, Unseen> unseen_;                     ///< by path
+    std::map<std::string, LogSight> readings_;                 ///< by path
     std::string latestListing_;
     std::int64_t rowsBegun_ = 0; ///< of the reading that goes on
     std::int64_t rowsStored_ = 0;

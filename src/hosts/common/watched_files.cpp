@@ -137,7 +137,7 @@ std::vector<std::string> WatchedFiles::matching(const std::string& pattern) cons
 {
     try {
         auto names = files_.matching(pattern);
-        report_.listed(pattern);
+        report_.listed(pattern, names);
         return names;
     } catch (const RunTimeError& error) {
         report_.notListed(pattern, error.description());

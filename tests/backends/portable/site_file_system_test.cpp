@@ -158,17 +158,6 @@ TEST_F(SiteFileSystemTest, AFileMadeAnewLeavesWhatItsOtherNamesHold)
     EXPECT_EQ(1U, fs::hard_link_count(folder / "drive_c/copy.txt"));
 }
 
-TEST_F(SiteFileSystemTest, MatchesALinkThatCantBeFollowedSoThatWhoLooksAtItHearsWhy)
-{
-    put("in.txt");
-    const std::string tooLong(300, 'x');
-    fs::create_symlink(tooLong, folder / "drive_c/unseen.txt");
-
-    EXPECT_THAT(files.matching("C:\\*.txt"), ElementsAre("in.txt", "unseen.txt"));
-    EXPECT_NE(0, errorOf([&] { files.file("C:\\unseen.txt"); }));
-    EXPECT_THAT(namesIn("C:\\"), ElementsAre("in.txt"));
-}
-
 TEST_F(SiteFileSystemTest, ListsNoMoreThanAHundredThousandMatchesAndSaysSo)
 {
     for (int number = 0; number < 100'000; ++number) {

@@ -96,6 +96,16 @@ TEST_F(SiteProcessesTest, RunsTheInstalledCabinetMakerInPlaceOfAnotherOfItsName)
     EXPECT_TRUE(processes.lastReport().replaced);
 }
 
+TEST_F(SiteProcessesTest, TakesNoPlainFileForTheCabinetMakerBesideIt)
+{
+    putCabinetMaker("true");
+    put("drive_c/My Tools/cabmaker", "a person's notes");
+
+    run(cabinetMaker);
+
+    EXPECT_FALSE(processes.lastReport().replaced);
+}
+
 TEST_F(SiteProcessesTest, RunsNoCabinetMakerWithoutAnInstalledOne)
 {
     put("drive_c/My Tools/cabmaker.exe", "touch \"$ORVAN_SITE_DRIVES/ran\"");

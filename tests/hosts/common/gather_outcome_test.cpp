@@ -211,6 +211,18 @@ TEST_F(GatherOutcomeTest, AFrameTellsOfItsDatabaseItsCabinetAndTheLogFolder)
                             testing::StartsWith("No cabinet was made: the cabinet maker ")));
 }
 
+/// A cabinet that holds files of these names, as far as its head.
+std::string cabinetOf(const std::vector<std::string>& names)
+{
+    constexpr std::size_t headSize = 36;
+    std::string head(headSize, '\0');
+    head.replace(0, 4, "MSCF");
+    head[16] = static_cast<char>(headSize);
+    head[28] = static_cast<char>(names.size());
+    for (const auto& name : names) head += std::string(16, '\1') + name + '\0';
+    return head;
+}
+
 /// A frame's gather of one log, and what the tool's services saw of it.
 struct SeenLogTest : GatherOutcomeTest {
     const std::string path = "C:\\Logs\\diag_A_1.txt";
@@ -229,7 +241,8 @@ struct SeenLogTest : GatherOutcomeTest {
         shared->m_bTimeFrameLogs = true;
         const GatherWatch watched = watch();
         machine.write("Out/PC_WPN_1.mdb", std::to_string(++runs_));
-        machine.write("Out/PC_WPN_1.cab", std::to_string(runs_));
+        machine.write("Out/PC_WPN_1.cab", cabinetOf({"PC_WPN_1.mdb"}) +
+                                              std::string(static_cast<std::size_t>(runs_), 'x'));
         happens();
         return texts(watched.outcome().missing);
     }
@@ -275,9 +288,13 @@ TEST_F(SeenLogTest, ALogThatNoListingShowsIsTold)
     for (const auto& name : links)
         std::filesystem::create_symlink("/elsewhere", machine / ("Logs/" + name));
     tool.files.with("C:\\Logs\\diag_L_1.txt", "a link that stays inside");
+    report.listed("C:\\Logs\\diag_*.txt", {"diag_L_1.txt"});
     tool.files.failing("C:\\Logs\\diag_B_1.txt", runTimeErrors::permissionDenied);
     EXPECT_THAT(told({}, [] {}), ElementsAre("DATA_B_1.TXT was passed over: File not found.",
                                              "diag_B_1.txt was passed over: Permission denied."));
+    report.listed("C:\\Logs\\diag_*.txt");
+    EXPECT_THAT(told({}, [] {}), testing::Contains("diag_L_1.txt was passed over: it could not be "
+                                                   "followed when the logs were listed."));
 }
 
 TEST_F(SeenLogTest, AFrameMissesTheCurrentLogOfAProcessThatIsNotThere)
@@ -392,8 +409,8 @@ TEST_F(CabinetOutcomeTest, AMissingCabinetIsToldByTheFirstStatementThatFailed)
 TEST_F(CabinetOutcomeTest, ACabinetOfAnotherMakerIsNoted)
 {
     const GatherWatch watched = watch();
-    machine.write("Out/PC_WPN_2.cab", "x");
-    machine.write("Out/PC_WPN_2_2.cab", "x");
+    machine.write("Out/PC_WPN_2.cab", cabinetOf({}));
+    machine.write("Out/PC_WPN_2_2.cab", cabinetOf({"PC_WPN_1.mdb"}));
     tool.processes.reporting({"", true});
     EXPECT_EQ("", lastMissing(watched));
     const GatherOutcome outcome = watched.outcome();
@@ -401,6 +418,19 @@ TEST_F(CabinetOutcomeTest, ACabinetOfAnotherMakerIsNoted)
     EXPECT_THAT(texts(outcome.sentences()),
                 testing::Contains("The site's cabinet maker is not the installed one, which made "
                                   "the cabinet in its place."));
+}
+
+TEST_F(CabinetOutcomeTest, WhatTheCabinetLacksIsTold)
+{
+    shared->addWindowsLog("System");
+    const GatherWatch watched = watch();
+    machine.write("Out/System.csv", "x");
+    machine.write("Out/PC_WPN_2.cab", cabinetOf({"PC_WPN_1.mdb"}));
+    EXPECT_EQ("System.csv was passed over: it is not in the cabinet.", lastMissing(watched));
+    machine.write("Out/PC_WPN_2.cab", cabinetOf({"PC_WPN_1.mdb", "System.csv"}));
+    EXPECT_EQ("", lastMissing(watched));
+    machine.write("Out/PC_WPN_2.cab", "no cabinet");
+    EXPECT_EQ("System.csv was passed over: it is not in the cabinet.", lastMissing(watched));
 }
 
 TEST_F(CabinetOutcomeTest, WhatAKilledGatherLeftIsSweptAndWhatAPersonPutThereIsNot)
@@ -469,6 +499,26 @@ TEST_F(GatherOutcomeTest, ManyLogsWithOneTroubleAreToldInOneSentence)
         texts(watched.outcome().missing),
         ElementsAre(
             "4 logs were not gathered as a whole, the first of them diag_A_1.txt: Disk full."));
+}
+
+TEST_F(SeenLogTest, ACauseThatCostManyLogsInTwoWaysIsToldOnce)
+{
+    std::vector<std::string> logs;
+    for (int number = 1; number <= 4; ++number)
+        logs.push_back("diag_A_" + std::to_string(number) + ".txt");
+    const auto missing = told(logs, [&] {
+        for (const auto& log : logs) {
+            report.readingBegins("C:\\Logs\\" + log);
+            report.rowBegun();
+            report.rowLost("Disk full");
+            LogSight sight = readTo(5, false);
+            sight.unread = "Disk full";
+            report.readingEnds("C:\\Logs\\" + log, sight);
+            fail(runTimeErrors::diskFull, "processOrvanLogFileToDB", log);
+        }
+    });
+    EXPECT_THAT(missing, ElementsAre("4 logs were not gathered as a whole, the first of them "
+                                     "diag_A_1.txt: Disk full."));
 }
 
 TEST_F(GatherOutcomeTest, ACancelIsToldWithWhatIsKeptAndNotWithWhatWasLeftOut)

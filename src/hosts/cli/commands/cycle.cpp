@@ -5,6 +5,8 @@
 #include "hosts/cli/output.h"
 
 #include <chrono>
+#include <cmath>
+#include <cstring>
 #include <optional>
 #include <thread>
 
@@ -12,6 +14,8 @@ namespace {
 
 constexpr const char* signalName = "Cycle Diag File Time Set";
 constexpr const char* taskKey = "4";
+constexpr const char* dayAlone =
+    "; in a time zone of ten hours or more it holds the day alone, so that one a day can be given";
 
 class CycleCommand final : public Command {
 public:
@@ -28,7 +32,8 @@ public:
         tool.registry().forget();
         tool.console().clickTask(taskKey);
         auto after = signalOf(tool);
-        if (after && after == before && tool.registry().refusalOf(signalName).empty()) {
+        if (after && after == before && !holdsTheDayAlone(*after) &&
+            tool.registry().refusalOf(signalName).empty()) {
             // The signal is a moment in seconds: one of the same second changes nothing.
             std::this_thread::sleep_for(std::chrono::seconds(1));
             tool.console().clickTask(taskKey);
@@ -42,7 +47,8 @@ public:
         if (!refusal.empty()) throw CommandFailure("the signal was not given: " + refusal);
         if (before == after)
             throw CommandFailure("the signal was not given: it is what it was before, and the "
-                                 "server sees no change");
+                                 "server sees no change" +
+                                 std::string(holdsTheDayAlone(*after) ? dayAlone : ""));
         tool.close();
         if (output.json())
             output.value({{"signal", signalName}, {"bytes", hex(*after)}});
@@ -59,6 +65,16 @@ private:
                                                      signalName, REG_BINARY, {});
         const auto* bytes = std::get_if<std::vector<std::uint8_t>>(&stored);
         return bytes ? std::optional(*bytes) : std::nullopt;
+    }
+
+    /// Whether the moment is one without a time of day, as it is where the zone's hours are too
+    /// many for the tool to reckon with.
+    static bool holdsTheDayAlone(const std::vector<std::uint8_t>& bytes)
+    {
+        double moment = 0;
+        if (bytes.size() != sizeof moment) return false;
+        std::memcpy(&moment, bytes.data(), sizeof moment);
+        return moment == std::floor(moment);
     }
 
     static std::string hex(const std::vector<std::uint8_t>& bytes)
