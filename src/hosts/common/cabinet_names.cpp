@@ -40,10 +40,9 @@ std::vector<std::string> namesInCabinet(const std::filesystem::path& cabinet)
     file.seekg(number(head, placeOfMembers, 4));
     for (std::uint32_t left = number(head, placeOfCount, 2); left > 0; --left) {
         if (read(file, memberHead).size() < memberHead) break;
-        std::string name;
-        std::getline(file, name, '\0');
-        if (!file || name.size() >= longestName) break;
-        names.push_back(std::move(name));
+        char name[longestName];
+        if (!file.getline(name, longestName, '\0') || file.eof()) break;
+        names.emplace_back(name);
     }
     return names;
 }

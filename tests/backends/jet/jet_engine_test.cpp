@@ -44,6 +44,17 @@ TEST(JetEngine, RefusesWhatIsNoDatabaseAndLeavesItAsItIs)
     EXPECT_EQ(3051, errorOf([&] { engine.openDatabase(scratch.folder().string()); }));
 }
 
+TEST(JetEngine, FollowsNoLinkInThePlaceOfItsFile)
+{
+    ScratchDatabase scratch;
+    const std::filesystem::path moved = scratch.folder() / "moved.mdb";
+    std::filesystem::rename(scratch.path(), moved);
+    std::filesystem::create_symlink(moved, scratch.path());
+    auto engine = machineEngine();
+    EXPECT_EQ(3051, errorOf([&] { engine.openDatabase(scratch.path().string()); }));
+    engine.openDatabase(moved.string());
+}
+
 TEST(JetEngine, FindsAFileWhereItsPathLeads)
 {
     ScratchDatabase scratch;
