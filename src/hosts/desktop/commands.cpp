@@ -112,7 +112,7 @@ QKeySequence keyOfConsoleItem(const std::string& name)
 bool changesServer(const std::string& name)
 {
     // The language's sheet notes the first language as it opens.
-    return name == "mnuStartNewLogFiles" || name == "mnuChangeLanguage";
+    return name == startNewLogsItem || name == "mnuChangeLanguage";
 }
 
 QString iconOfConsoleItem(const std::string& name)

@@ -72,6 +72,9 @@ public:
 QKeySequence keyOfConsoleItem(const std::string& name);
 
 /// The drawing for such an item; empty for one without.
+/// The item that signals the server to start new log files.
+constexpr const char* startNewLogsItem = "mnuStartNewLogFiles";
+
 /// Whether a click on an item of the tool may change the server at once. The other ones open
 /// sheets, which may do so later, or only look.
 bool changesServer(const std::string& name);

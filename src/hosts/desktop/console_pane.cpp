@@ -1,5 +1,6 @@
 #include "hosts/desktop/console_pane.h"
 
+#include "hosts/desktop/commands.h"
 #include "hosts/desktop/icons.h"
 #include "hosts/desktop/interface_language.h"
 #include "hosts/desktop/list_table.h"
@@ -119,7 +120,8 @@ void ConsolePane::makeTaskPad()
     views_->addWidget(taskPad_);
     connect(taskPad_, &TaskPadView::taskClicked, this, [this](const QString& key) {
         const auto click = [&](Console& console) { console.clickTask(key.toStdString()); };
-        key == QLatin1String(startNewLogsTask) ? performChange(click) : perform(click);
+        key == QLatin1String(startNewLogsTask) ? performChange(startNewLogsItem, click)
+                                               : perform(click);
     });
 }
 
@@ -197,11 +199,11 @@ void ConsolePane::perform(const std::function<void(Console&)>& call)
     emit callDone();
 }
 
-void ConsolePane::performChange(const std::function<void(Console&)>& call)
+void ConsolePane::performChange(const std::string& item, const std::function<void(Console&)>& call)
 {
     perform([&](Console& console) {
         const auto run = [&] { call(console); };
-        aroundChange ? aroundChange(run) : run();
+        aroundChange ? aroundChange(item, run) : run();
     });
 }
 

@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <string>
 
 class Console;
 class ListTable;
@@ -39,11 +40,11 @@ public:
     /// sentence.
     void perform(const std::function<void(Console&)>& call);
 
-    /// The same for what may change the server.
-    void performChange(const std::function<void(Console&)>& call);
+    /// The same for a command of the tool, by its item, that may change the server.
+    void performChange(const std::string& item, const std::function<void(Console&)>& call);
 
-    /// Runs what may change the server. Null: it runs by itself.
-    std::function<void(const std::function<void()>& run)> aroundChange;
+    /// Runs such a command. Null: it runs by itself.
+    std::function<void(const std::string& item, const std::function<void()>& run)> aroundChange;
 
     bool busy() const { return calls_ > 0; }
 

@@ -10,6 +10,7 @@
 #include "hosts/desktop/overview_strip.h"
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/time_search.h"
+#include "hosts/desktop/typed_moment.h"
 #include "platform/list_view.h"
 
 #include <QHBoxLayout>
@@ -312,7 +313,10 @@ void LogView::findFrom(int direction)
 
 void LogView::goToTime(const QString& time)
 {
-    const auto wanted = typedTime(time.toStdString());
+    auto wanted = typedTime(time.toStdString());
+    // In the words of another language, as where a gather asks for a time.
+    if (const auto typed = timeTyped(time); !wanted && typed)
+        wanted = typed->toString(QStringLiteral("HH:mm:ss")).toStdString();
     if (!wanted) return findBar_->say([] { return tr("Type a time such as 15:23"); });
     const int row = rowAtTime(model_, columns_.timeStamp, *wanted, table_->currentIndex().row());
     if (row < 0) return findBar_->say([time] { return tr("No line at %1 or later").arg(time); });

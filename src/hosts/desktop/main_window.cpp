@@ -121,17 +121,21 @@ void MainWindow::setTool(OpenTool* tool)
         language_.choose(spoken_);
         rebuildConsoleItems();
         sayLanguage();
-        if (tool_->looksOnly())
-            showProblem([this] {
-                if (!tool_ || !tool_->looksOnly()) return QString();
-                return tr("This site is read-only: logs can be read, but traces and settings "
-                          "cannot be changed. Make its folder writable, or open a copy.");
-            });
+        if (tool_->looksOnly()) sayReadOnly();
         if (!databaseFailure.empty()) sayWithoutDatabase(databaseFailure);
         pane_->tree().setFocus();
     }
     updateActions();
     showTexts();
+}
+
+void MainWindow::sayReadOnly()
+{
+    showProblem([this] {
+        if (!tool_ || !tool_->looksOnly()) return QString();
+        return tr("This site is read-only: logs can be read, but traces and settings cannot be "
+                  "changed. Make its folder writable, or open a copy.");
+    });
 }
 
 /// Until the tool has its connection after all.
@@ -149,7 +153,9 @@ void MainWindow::sayWithoutDatabase(const std::string& why)
 
 void MainWindow::connectPane()
 {
-    pane_->aroundChange = [this](const std::function<void()>& run) { tool_->changing(run); };
+    pane_->aroundChange = [this](const std::string& item, const std::function<void()>& run) {
+        change(item, run);
+    };
     connect(pane_, &ConsolePane::statusText, this, [this](const QString& text) {
         statusBar()->clearMessage();
         status_->setText(text);
@@ -174,6 +180,24 @@ void MainWindow::connectPane()
     });
 }
 
+/// A command at once, whose own texts tell of no failure.
+void MainWindow::change(const std::string& item, const std::function<void()>& run)
+{
+    const bool startsLogs = item == startNewLogsItem;
+    if (startsLogs) newLogs_.look(tool_->context());
+    bool ran = false;
+    tool_->changing([&] {
+        run();
+        ran = true;
+    });
+    if (ran && tool_->looksOnly()) return sayReadOnly();
+    if (ran && startsLogs && !newLogs_.given(tool_->context()))
+        showProblem([] {
+            return tr("The server was not told to start new log files: its registry did not take "
+                      "the signal.");
+        });
+}
+
 void MainWindow::watchSheet(SheetDialog& dialog)
 {
     connect(&dialog, &SheetDialog::acted, this, [this, &dialog] { tellUndone(&dialog); });
@@ -189,7 +213,8 @@ void MainWindow::watchSheet(SheetDialog& dialog)
     };
     const bool gathers = dialog.sheet().page(1).name() == "ppgGatherLogs00Welcome";
     // A gather adds to the server, beside programs that change it.
-    if (!gathers) dialog.aroundChange = pane_->aroundChange;
+    if (!gathers)
+        dialog.aroundChange = [this](const std::function<void()>& run) { tool_->changing(run); };
     if (!tool_->looksOnly()) return;
     dialog.alwaysSay([gathers] {
         return gathers ? tr("This site is read-only: choose a destination outside of it.")

@@ -3,6 +3,7 @@
 #include "hosts/desktop/commands.h"
 #include "hosts/desktop/gather_notice.h"
 #include "hosts/desktop/interface_language.h"
+#include "hosts/desktop/new_logs_signal.h"
 #include "hosts/desktop/undone.h"
 
 #include <QMainWindow>
@@ -82,6 +83,7 @@ private:
     void updateTitle();
     void refresh();
     void afterCall();
+    void change(const std::string& item, const std::function<void()>& run);
     void watchSheet(SheetDialog& dialog);
     void tellUndone(SheetDialog* dialog);
     void sayWhereThePersonIs(SheetDialog* dialog, const LiveSentence& sentence);
@@ -90,6 +92,7 @@ private:
     std::int32_t spokenByTool() const;
     void followLanguage();
     QString languageProblem() const;
+    void sayReadOnly();
     void sayWithoutDatabase(const std::string& why);
     void sayLanguage();
     void sayToolLog();
@@ -118,6 +121,7 @@ private:
     std::map<CommandMenu, QMenu*> menus_;
     QMenu* recent_ = nullptr;
     Undone undone_;
+    NewLogsSignal newLogs_;
     GatherNotice gathers_;
     bool closing_ = false; ///< as soon as the work at hand is done
     std::map<Command, QAction*> actions_;

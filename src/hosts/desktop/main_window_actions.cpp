@@ -159,7 +159,7 @@ void MainWindow::rebuildConsoleItems()
             connect(made, &QAction::triggered, this, [this, name = item.name] {
                 if (!pane_) return;
                 const auto click = [&](Console& console) { console.clickMenuItem(name); };
-                changesServer(name) ? pane_->performChange(click) : pane_->perform(click);
+                changesServer(name) ? pane_->performChange(name, click) : pane_->perform(click);
             });
             if (place == tasks)
                 menu->insertSeparator(menu->actions().value(menu->actions().size() - 2));

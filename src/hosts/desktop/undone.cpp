@@ -27,6 +27,7 @@ constexpr std::string_view doingRoutines[] = {
     "mnuStartNewLogFiles_Click",
     "openOrvanDB",
     "PropertyPage_ApplyChanges",
+    "ResultViews_TaskClick",
     "recordMacroTrace",
     "setAuditParameters",
 };

@@ -182,6 +182,22 @@ TEST_F(LogOrder, GoToTimeFindsTheFirstLineOfTheLogsOrderInASortedLog)
     }
 }
 
+TEST_F(LogOrder, GoToTimeTakesATimeInTheWordsOfEveryLanguage)
+{
+    const QString time = cells(timeColumn)[cells(timeColumn).size() / 2];
+    const QString hour = time.left(2);
+    const QString minute = time.mid(3, 2);
+    table().goTo(0);
+    log().goToTime(hour + QLatin1Char(':') + minute);
+    const QString expected = line();
+    for (const QString& form : {QStringLiteral("%1h%2"), QStringLiteral("%1:%2 Uhr"),
+                                QStringLiteral("%1時%2分"), QStringLiteral("%1 h %2 min")}) {
+        table().goTo(0);
+        log().goToTime(form.arg(hour, minute));
+        EXPECT_EQ(expected, line()) << form.toStdString();
+    }
+}
+
 TEST_F(LogOrder, MarksOfFilteredLinesAreKept)
 {
     table().goTo(5);

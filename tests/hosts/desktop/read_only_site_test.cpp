@@ -1,6 +1,7 @@
 #include "end_to_end/site_record.h"
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_view.h"
+#include "hosts/desktop/notice_bar.h"
 #include "hosts/desktop/open_program.h"
 #include "hosts/desktop/outside_view.h"
 #include "hosts/desktop/person.h"
@@ -123,6 +124,20 @@ TEST_F(ReadOnlySite, StaysAsItIsWhateverIsTried)
     shown.program.close();
     EXPECT_EQ(before, recordOf(shown.server.site()));
     EXPECT_TRUE(shown.window().isVisible());
+}
+
+TEST_F(ReadOnlySite, SaysSoAgainBesideATextThatSoundsLikeADeed)
+{
+    auto* notice = shown.window().findChild<NoticeBar*>();
+    for (const bool byCard : {false, true}) {
+        SCOPED_TRACE(byCard ? "card" : "key");
+        person::click(*notice->findChild<QAbstractButton*>());
+        ASSERT_FALSE(notice->isVisible());
+        byCard ? shown.clickCard("4") : person::press(QKeySequence("Ctrl+4"));
+        EXPECT_EQ(QStringLiteral("New log files started."), shown.window().statusText());
+        EXPECT_TRUE(notice->isVisible());
+        EXPECT_THAT(problem(), HasSubstr("read-only"));
+    }
 }
 
 TEST_F(ReadOnlySite, IsGatheredToAFolderElsewhere)

@@ -122,6 +122,43 @@ TEST_F(UndoneWork, ADatabaseThatCannotBeOpenedIsSaidFromTheStart)
     EXPECT_EQ("", shown.window().problem().toStdString());
 }
 
+TEST_F(UndoneWork, ASignalThatTheRegistryDidNotTakeIsSaid)
+{
+    shown.program.close();
+    std::string registry = shown.server.folder().read("site/registry.reg");
+    const std::string key = "RoLogMgr\\BroadCast]";
+    registry.replace(registry.find(key), key.size(), "RoLogMgr\\Another]");
+    shown.server.folder().write("site/registry.reg", registry);
+    shown.program.openSite(shown.server.site());
+    for (const bool byCard : {false, true}) {
+        SCOPED_TRACE(byCard ? "card" : "key");
+        shown.window().showProblem([] { return QString(); });
+        byCard ? shown.clickCard("4") : person::press(QKeySequence("Ctrl+4"));
+        EXPECT_THAT(shown.window().problem().toStdString(),
+                    HasSubstr("The server was not told to start new log files"));
+    }
+}
+
+TEST_F(UndoneWork, ACommandOfACardThatFailsIsSaidLikeThatOfTheMenu)
+{
+    for (const char* routine : {"ResultViews_TaskClick", "mnuStartNewLogFiles_Click"}) {
+        Undone undone;
+        undone.note(RunTimeError(61, "Disk full"),
+                    std::string("[snapinOrvanDiagnostics]") + routine);
+        const LiveSentence said = undone.take(nullptr);
+        ASSERT_TRUE(said) << routine;
+        EXPECT_EQ(QStringLiteral("Not all of it was done: Disk full."), said());
+    }
+}
+
+TEST_F(UndoneWork, NewLogFilesTwiceWithinASecondAreTwoDeeds)
+{
+    for (int times = 0; times < 3; ++times) {
+        person::press(QKeySequence("Ctrl+4"));
+        EXPECT_THAT(shown.window().problem().toStdString(), IsEmpty());
+    }
+}
+
 TEST_F(UndoneWork, WhatIsDoneIsNotSaidToBeUndone)
 {
     for (const char* key : {"Ctrl+1", "Ctrl+2"}) {

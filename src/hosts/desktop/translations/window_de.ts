@@ -873,6 +873,10 @@ Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
         <source>This site is read-only: what is chosen here is not written.</source>
         <translation>Diese Site ist schreibgeschützt: Was hier gewählt wird, wird nicht geschrieben.</translation>
     </message>
+    <message>
+        <source>The server was not told to start new log files: its registry did not take the signal.</source>
+        <translation>Dem Server wurde nicht mitgeteilt, neue Protokolldateien zu beginnen: Seine Registrierung hat das Signal nicht angenommen.</translation>
+    </message>
 </context>
 <context>
     <name>MomentField</name>

@@ -873,6 +873,10 @@ Abra uno con Control+Mayúsculas+O o cree un servidor de ejemplo con Control+May
         <source>This site is read-only: what is chosen here is not written.</source>
         <translation>Este sitio es de solo lectura: lo que se elija aquí no se escribe.</translation>
     </message>
+    <message>
+        <source>The server was not told to start new log files: its registry did not take the signal.</source>
+        <translation>No se indicó al servidor que iniciara nuevos archivos de registro: su Registro no aceptó la señal.</translation>
+    </message>
 </context>
 <context>
     <name>MomentField</name>

@@ -873,6 +873,10 @@ Ouvrez-en un avec Ctrl+Maj+O, ou créez un serveur d&apos;exemple avec Ctrl+Maj+
         <source>This site is read-only: what is chosen here is not written.</source>
         <translation>Ce site est en lecture seule&#xa0;: ce qui est choisi ici n&apos;est pas enregistré.</translation>
     </message>
+    <message>
+        <source>The server was not told to start new log files: its registry did not take the signal.</source>
+        <translation>Le serveur n&apos;a pas été invité à commencer de nouveaux fichiers journaux&#xa0;: son registre n&apos;a pas accepté le signal.</translation>
+    </message>
 </context>
 <context>
     <name>MomentField</name>

@@ -873,6 +873,10 @@ Ctrl+Shift+O でサイトを開くか、Ctrl+Shift+N でサンプル サーバ�
         <source>This site is read-only: what is chosen here is not written.</source>
         <translation>このサイトは読み取り専用です。ここで選択した内容は書き込まれません。</translation>
     </message>
+    <message>
+        <source>The server was not told to start new log files: its registry did not take the signal.</source>
+        <translation>サーバーに新しいログ ファイルの開始が伝えられませんでした。レジストリがシグナルを受け付けませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>MomentField</name>
