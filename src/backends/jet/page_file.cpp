@@ -123,11 +123,27 @@ void PageFile::extendTo(std::uint32_t pages)
     if (wasCut()) raiseFailure();
     const auto most = std::min<std::uint64_t>(largestFilePages, pagesAllowed());
     if (pages > most) raiseDiskFull();
+    if (passedOver_ > 0) {
+        --passedOver_;
+        raiseDiskFull();
+    }
     while (extent_ < pages) {
         const auto run = std::min<std::uint64_t>(pagesPerRun, most - extent_);
         const auto wanted = std::min<std::uint64_t>(run, pages - extent_);
-        if (!extendBy(run) && !extendBy(wanted)) raiseDiskFull();
+        if (!extendBy(run) && !extendBy(wanted)) raiseRefused();
     }
+    refusals_ = 0;
+}
+
+/// A full file system may write back all it holds before it refuses, which takes a moment each
+/// time; a gather has millions of rows.
+void PageFile::raiseRefused()
+{
+    constexpr int alwaysTried = 8;
+    constexpr int rarest = 10; ///< once in as many, as a power of two
+    ++refusals_;
+    if (refusals_ > alwaysTried) passedOver_ = (1 << std::min(refusals_ - alwaysTried, rarest)) - 1;
+    raiseDiskFull();
 }
 
 bool PageFile::extendBy(std::uint64_t run)

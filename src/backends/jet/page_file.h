@@ -47,6 +47,7 @@ public:
     [[noreturn]] void raiseFailure() const;
 
     /// Makes sure that `more` pages can be taken. Raises 3026, 3183, and then nothing has changed.
+    /// After eight refusals of the file system in a row it is asked more and more rarely.
     void reserve(std::uint32_t more);
 
     /// Takes the page behind the last one, an empty data page. Raises as `reserve`.
@@ -71,11 +72,14 @@ private:
     bool wasCut() const;
     void extendTo(std::uint32_t pages);
     bool extendBy(std::uint64_t run);
+    [[noreturn]] void raiseRefused();
 
     int file_ = -1;
     mutable std::optional<PageWindows> windows_; ///< none until the file was opened
     std::uint32_t count_ = 0;                    ///< pages in use
     std::uint32_t extent_ = 0;                   ///< pages that the file has room for
+    int refusals_ = 0;                           ///< of the file system, in a row
+    int passedOver_ = 0;                         ///< extensions not to be tried before the next one
 };
 
 } // namespace jet
