@@ -1,7 +1,7 @@
 #include "require.h"
 
 #include "backends/portable/event_log_csv.h"
-#include "backends/portable/utf8.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #include "require.h"
 
 #include "backends/portable/file_pattern.h"
-#include "backends/portable/utf8.h"
+#include "text/utf8.h"
 
 #include <cstddef>
 #include <cstdint>

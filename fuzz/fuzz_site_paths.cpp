@@ -1,8 +1,8 @@
 #include "require.h"
 
 #include "backends/portable/site_paths.h"
-#include "backends/portable/temporary_folder.h"
 #include "runtime/run_time_error.h"
+#include "support/temporary_folder.h"
 
 #include <algorithm>
 #include <cstddef>

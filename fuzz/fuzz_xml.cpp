@@ -1,9 +1,9 @@
 #include "require.h"
 
 #include "backends/portable/libxml_documents.h"
-#include "backends/portable/utf8.h"
 #include "backends/portable/xml_text.h"
 #include "runtime/run_time_error.h"
+#include "text/utf8.h"
 
 #include "support/fake_clock.h"
 #include "support/fake_file_system.h"

@@ -4,11 +4,11 @@
 #include "core/utility.h"
 #include "gather/object_reference.h"
 #include "platform/clock.h"
-#include "platform/code_page.h"
 #include "platform/file_system.h"
 #include "platform/host_module.h"
 #include "platform/processes.h"
 #include "server/workstation_info.h"
+#include "text/code_page.h"
 
 namespace {
 

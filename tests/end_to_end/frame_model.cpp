@@ -1,6 +1,6 @@
 #include "end_to_end/frame_model.h"
 
-#include "platform/code_page.h"
+#include "text/code_page.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/code_page.h"
 #include "platform/trace_database.h"
+#include "text/code_page.h"
 
 #include <functional>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/code_page.h"
+#include "text/code_page.h"
 
 #include <cstddef>
 #include <string>

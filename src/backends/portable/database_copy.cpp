@@ -1,8 +1,8 @@
 #include "backends/portable/database_copy.h"
 
-#include "backends/portable/posix_errors.h"
-#include "backends/portable/whole_file.h"
 #include "runtime/run_time_error.h"
+#include "system/posix_errors.h"
+#include "system/whole_file.h"
 
 #include <cerrno>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 #include "backends/portable/event_log_csv.h"
 
-#include "backends/portable/utf8.h"
 #include "runtime/spreadsheet_cell.h"
+#include "text/utf8.h"
 
 #include <cstdint>
 #include <nlohmann/json.hpp>

@@ -1,6 +1,6 @@
 #include "backends/portable/folder_listing.h"
 
-#include "backends/portable/utf8.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <utility>

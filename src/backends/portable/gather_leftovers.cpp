@@ -1,7 +1,7 @@
 #include "backends/portable/gather_leftovers.h"
 
-#include "backends/portable/whole_file.h"
 #include "runtime/run_time_error.h"
+#include "system/whole_file.h"
 
 #include <algorithm>
 #include <array>

@@ -5,8 +5,8 @@
 #include <system_error>
 #include <utility>
 
-#include "backends/portable/utf8.h"
 #include "runtime/run_time_error.h"
+#include "text/utf8.h"
 
 namespace {
 

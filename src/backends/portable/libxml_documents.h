@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/code_page.h"
 #include "platform/xml.h"
+#include "text/code_page.h"
 
 class FileSystem;
 

@@ -1,7 +1,7 @@
 #include "backends/portable/posix_time_zone.h"
 
-#include "backends/portable/whole_file.h"
 #include "runtime/run_time_error.h"
+#include "system/whole_file.h"
 
 #include <cstdlib>
 #include <optional>

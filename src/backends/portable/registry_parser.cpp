@@ -1,8 +1,8 @@
 #include "backends/portable/registry_file.h"
 
-#include "backends/portable/utf8.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <iterator>

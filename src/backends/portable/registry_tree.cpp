@@ -1,6 +1,6 @@
 #include "backends/portable/registry_tree.h"
 
-#include "backends/portable/utf8.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <array>

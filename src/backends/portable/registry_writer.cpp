@@ -1,6 +1,6 @@
 #include "backends/portable/registry_file.h"
 
-#include "backends/portable/utf8.h"
+#include "text/utf8.h"
 
 #include <cstdint>
 

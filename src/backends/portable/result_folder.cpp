@@ -1,7 +1,7 @@
 #include "backends/portable/result_folder.h"
 
 #include "backends/portable/gather_leftovers.h"
-#include "backends/portable/posix_errors.h"
+#include "system/posix_errors.h"
 
 #include <cerrno>
 #include <ctime>

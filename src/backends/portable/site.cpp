@@ -4,8 +4,8 @@
 
 #include "backends/portable/sqlite_handle.h"
 #include "backends/portable/tool_folder.h"
-#include "backends/portable/whole_file.h"
 #include "runtime/run_time_error.h"
+#include "system/whole_file.h"
 
 #include <filesystem>
 #include <sys/stat.h>

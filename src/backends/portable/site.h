@@ -14,8 +14,8 @@
 #include "backends/portable/site_settings.h"
 #include "backends/portable/site_time_zone.h"
 #include "backends/portable/site_workstation.h"
-#include "platform/code_page.h"
 #include "platform/platform.h"
+#include "text/code_page.h"
 
 #include <string>
 

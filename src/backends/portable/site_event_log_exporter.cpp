@@ -3,9 +3,9 @@
 #include "backends/portable/folder_listing.h"
 #include "backends/portable/site_paths.h"
 #include "backends/portable/site_text_reader.h"
-#include "backends/portable/utf8.h"
-#include "backends/portable/whole_file.h"
 #include "runtime/run_time_error.h"
+#include "system/whole_file.h"
+#include "text/utf8.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -1,9 +1,9 @@
 #include "backends/portable/site_event_reporter.h"
 
-#include "backends/portable/file_descriptor.h"
-#include "backends/portable/posix_errors.h"
 #include "backends/portable/trace_line_format.h"
 #include "platform/clock.h"
+#include "system/file_descriptor.h"
+#include "system/posix_errors.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "backends/portable/root_folder.h"
 #include "backends/portable/site_settings.h"
 #include "platform/event_reporter.h"
+#include "system/root_folder.h"
 
 #include <string>
 #include <string_view>

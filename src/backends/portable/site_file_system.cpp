@@ -3,10 +3,10 @@
 #include "backends/portable/file_pattern.h"
 #include "backends/portable/file_times.h"
 #include "backends/portable/folder_listing.h"
-#include "backends/portable/posix_errors.h"
 #include "backends/portable/site_text_reader.h"
 #include "backends/portable/site_text_writer.h"
-#include "backends/portable/whole_file.h"
+#include "system/posix_errors.h"
+#include "system/whole_file.h"
 
 #include <cerrno>
 #include <cstdlib>

@@ -2,8 +2,8 @@
 
 #include "backends/portable/language_names.h"
 #include "backends/portable/site_paths.h"
-#include "backends/portable/whole_file.h"
 #include "runtime/run_time_error.h"
+#include "system/whole_file.h"
 
 #include <array>
 #include <cstdlib>

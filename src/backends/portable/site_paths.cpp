@@ -1,8 +1,8 @@
 #include "backends/portable/site_paths.h"
 
-#include "backends/portable/utf8.h"
 #include "runtime/run_time_error.h"
 #include "runtime/windows_path.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <cstddef>

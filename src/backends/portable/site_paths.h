@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/portable/root_folder.h"
+#include "system/root_folder.h"
 
 #include <map>
 #include <string>

@@ -1,10 +1,10 @@
 #include "backends/portable/site_processes.h"
 
 #include "backends/portable/command_line.h"
-#include "backends/portable/posix_errors.h"
 #include "backends/portable/site_paths.h"
-#include "backends/portable/utf8.h"
-#include "backends/portable/whole_file.h"
+#include "system/posix_errors.h"
+#include "system/whole_file.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "backends/portable/file_descriptor.h"
 #include "platform/processes.h"
+#include "system/file_descriptor.h"
 
 #include <map>
 #include <optional>

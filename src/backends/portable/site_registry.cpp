@@ -1,8 +1,8 @@
 #include "backends/portable/site_registry.h"
 
-#include "backends/portable/posix_errors.h"
 #include "backends/portable/registry_file.h"
-#include "backends/portable/whole_file.h"
+#include "system/posix_errors.h"
+#include "system/whole_file.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "backends/portable/file_descriptor.h"
 #include "backends/portable/lock_patience.h"
 #include "backends/portable/registry_tree.h"
-#include "backends/portable/root_folder.h"
 #include "platform/registry.h"
+#include "system/file_descriptor.h"
+#include "system/root_folder.h"
 
 #include <chrono>
 #include <functional>

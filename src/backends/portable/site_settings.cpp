@@ -2,9 +2,9 @@
 
 #include "backends/portable/code_pages.h"
 #include "backends/portable/posix_time_zone.h"
-#include "backends/portable/utf8.h"
-#include "backends/portable/whole_file.h"
 #include "runtime/run_time_error.h"
+#include "system/whole_file.h"
+#include "text/utf8.h"
 
 #include <charconv>
 #include <set>

@@ -1,7 +1,7 @@
 #include "backends/portable/site_text_writer.h"
 
-#include "backends/portable/posix_errors.h"
 #include "runtime/text.h"
+#include "system/posix_errors.h"
 
 #include <cerrno>
 #include <utility>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "backends/portable/file_descriptor.h"
 #include "platform/text_stream.h"
+#include "system/file_descriptor.h"
 
 #include <string>
 #include <string_view>

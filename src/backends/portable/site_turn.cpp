@@ -1,6 +1,6 @@
 #include "backends/portable/site_turn.h"
 
-#include "backends/portable/posix_errors.h"
+#include "system/posix_errors.h"
 
 #include <cerrno>
 #include <fcntl.h>

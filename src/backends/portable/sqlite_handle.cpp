@@ -1,10 +1,10 @@
 #include "backends/portable/sqlite_handle.h"
 
 #include "backends/portable/database_copy.h"
-#include "backends/portable/root_folder.h"
 #include "platform/database.h"
 #include "runtime/out_of_memory.h"
 #include "runtime/run_time_error.h"
+#include "system/root_folder.h"
 
 #include <filesystem>
 #include <fstream>

@@ -2,9 +2,9 @@
 
 #include "backends/portable/file_pattern.h"
 #include "backends/portable/folder_listing.h"
-#include "backends/portable/utf8.h"
-#include "backends/portable/whole_file.h"
 #include "runtime/run_time_error.h"
+#include "system/whole_file.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <fcntl.h>

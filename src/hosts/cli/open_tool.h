@@ -10,9 +10,9 @@
 #include "hosts/cli/watched_registry.h"
 #include "hosts/common/looking_services.h"
 #include "hosts/common/watched_services.h"
-#include "platform/code_page.h"
 #include "platform/console.h"
 #include "shell/snapin_orvan_diagnostics.h"
+#include "text/code_page.h"
 
 #include <functional>
 #include <optional>

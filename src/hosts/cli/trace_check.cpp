@@ -1,9 +1,9 @@
 #include "hosts/cli/trace_check.h"
 
-#include "backends/portable/whole_file.h"
 #include "hosts/cli/message.h"
 #include "hosts/cli/output.h"
 #include "platform/database.h"
+#include "system/whole_file.h"
 #include "traces/trace_bits.h"
 
 #include <algorithm>

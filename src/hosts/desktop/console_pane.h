@@ -3,7 +3,7 @@
 #include "hosts/desktop/interface_language.h"
 #include "hosts/desktop/list_model.h"
 #include "hosts/desktop/quiet_observer.h"
-#include "platform/code_page.h"
+#include "text/code_page.h"
 
 #include <QFont>
 #include <QPersistentModelIndex>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/code_page.h"
 #include "platform/snap_in_definition.h"
+#include "text/code_page.h"
 
 #include <QString>
 

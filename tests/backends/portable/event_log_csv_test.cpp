@@ -1,6 +1,6 @@
 #include "backends/portable/event_log_csv.h"
 
-#include "backends/portable/utf8.h"
+#include "text/utf8.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "backends/portable/file_times.h"
 
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "backends/portable/posix_time_zone.h"
 
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "backends/portable/registry_file.h"
 
-#include "backends/portable/utf8.h"
 #include "runtime/run_time_error.h"
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
+#include "text/utf8.h"
 
 #include <gmock/gmock.h>
 

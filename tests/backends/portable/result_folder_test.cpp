@@ -1,6 +1,6 @@
 #include "backends/portable/result_folder.h"
 
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 

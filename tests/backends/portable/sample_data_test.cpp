@@ -1,6 +1,6 @@
 #include "backends/portable/sample_site.h"
-#include "backends/portable/whole_file.h"
 #include "runtime/run_time_error.h"
+#include "system/whole_file.h"
 
 #include <gmock/gmock.h>
 #include <memory>

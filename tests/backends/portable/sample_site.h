@@ -2,9 +2,9 @@
 
 #include "backends/portable/libxml_documents.h"
 #include "backends/portable/sample/sample_server.h"
-#include "backends/portable/temporary_folder.h"
 #include "support/fake_clock.h"
 #include "support/fake_file_system.h"
+#include "support/temporary_folder.h"
 
 #include <map>
 #include <memory>

@@ -9,7 +9,7 @@
 #include "platform/time_zone_contract.h"
 #include "support/fake_desktop.h"
 #include "support/fake_trace_database.h"
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 namespace {
 

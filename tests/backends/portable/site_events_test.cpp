@@ -4,7 +4,7 @@
 #include "backends/portable/event_log_csv.h"
 #include "backends/portable/site_clock.h"
 #include "backends/portable/site_paths.h"
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 

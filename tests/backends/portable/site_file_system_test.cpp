@@ -1,6 +1,6 @@
 #include "backends/portable/site_file_system.h"
 
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 #include "backends/portable/site_paths.h"
 
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
 #include "backends/portable/site_processes.h"
 
 #include "backends/portable/site_paths.h"
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 

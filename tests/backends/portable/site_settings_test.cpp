@@ -1,7 +1,7 @@
 #include "backends/portable/site_settings.h"
 
 #include "runtime/run_time_error.h"
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 

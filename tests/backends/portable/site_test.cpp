@@ -3,7 +3,7 @@
 #include "backends/portable/tool_folder.h"
 #include "support/fake_desktop.h"
 #include "support/fake_trace_database.h"
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 

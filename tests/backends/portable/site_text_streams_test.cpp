@@ -1,7 +1,7 @@
 #include "backends/portable/site_text_reader.h"
 #include "backends/portable/site_text_writer.h"
 
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "backends/portable/site_turn.h"
 
 #include "support/error_of.h"
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 #include "hosts/common/cabinet_names.h"
 
-#include "backends/portable/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
 #include "hosts/common/destination_turn.h"
 
 #include "backends/portable/site_file_system.h"
-#include "backends/portable/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 

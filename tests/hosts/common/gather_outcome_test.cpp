@@ -1,9 +1,9 @@
 #include "hosts/common/gather_outcome.h"
 
-#include "backends/portable/temporary_folder.h"
 #include "core/error_trap.h"
 #include "hosts/common/gather_report.h"
 #include "platform/trace_database.h"
+#include "support/temporary_folder.h"
 #include "wizards/gather_wizard_fixture.h"
 
 #include <gmock/gmock.h>

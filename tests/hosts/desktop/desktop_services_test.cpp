@@ -1,8 +1,8 @@
 #include "hosts/desktop/desktop_services.h"
 
-#include "backends/portable/temporary_folder.h"
 #include "hosts/desktop/person.h"
 #include "hosts/desktop/test_window.h"
+#include "support/temporary_folder.h"
 
 #include <QAbstractItemView>
 #include <QFileDialog>

@@ -1,8 +1,8 @@
 #include "hosts/desktop/end_wish.h"
 
-#include "backends/portable/file_descriptor.h"
 #include "hosts/desktop/outside_view.h"
 #include "hosts/desktop/test_window.h"
+#include "system/file_descriptor.h"
 
 #include <QProcess>
 #include <QSessionManager>

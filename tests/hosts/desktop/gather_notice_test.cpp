@@ -1,11 +1,11 @@
 #include "hosts/desktop/gather_notice.h"
 
-#include "backends/portable/file_descriptor.h"
 #include "hosts/common/gather_outcome.h"
 #include "hosts/desktop/notice_bar.h"
 #include "hosts/desktop/open_program.h"
 #include "hosts/desktop/person.h"
 #include "hosts/desktop/sheet_dialog.h"
+#include "system/file_descriptor.h"
 
 #include <QAbstractButton>
 #include <QMessageBox>

@@ -1,5 +1,5 @@
-#include "backends/portable/temporary_folder.h"
 #include "hosts/desktop/recent_sites.h"
+#include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "backends/portable/sample/sample_server.h"
-#include "backends/portable/temporary_folder.h"
 #include "hosts/desktop/console_pane.h"
 #include "hosts/desktop/main_window.h"
 #include "hosts/desktop/open_tool.h"
 #include "support/fake_desktop.h"
+#include "support/temporary_folder.h"
 
 #include <QApplication>
 #include <QSettings>

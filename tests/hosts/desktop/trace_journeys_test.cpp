@@ -1,8 +1,8 @@
-#include "backends/portable/file_descriptor.h"
 #include "hosts/desktop/open_program.h"
 #include "hosts/desktop/outside_view.h"
 #include "hosts/desktop/person.h"
 #include "hosts/desktop/sheet_dialog.h"
+#include "system/file_descriptor.h"
 
 #include <QAbstractButton>
 #include <QLabel>

@@ -1,9 +1,9 @@
 #include "hosts/desktop/turn_wait.h"
 
-#include "backends/portable/file_descriptor.h"
 #include "hosts/desktop/open_program.h"
 #include "hosts/desktop/person.h"
 #include "hosts/desktop/sheet_dialog.h"
+#include "system/file_descriptor.h"
 
 #include <QAction>
 #include <QElapsedTimer>

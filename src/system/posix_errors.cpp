@@ -1,4 +1,4 @@
-#include "backends/portable/posix_errors.h"
+#include "system/posix_errors.h"
 
 #include <cerrno>
 

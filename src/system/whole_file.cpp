@@ -1,6 +1,6 @@
-#include "backends/portable/whole_file.h"
+#include "system/whole_file.h"
 
-#include "backends/portable/posix_errors.h"
+#include "system/posix_errors.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,6 +1,6 @@
-#include "backends/portable/open_beneath.h"
+#include "system/open_beneath.h"
 
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
-#include "backends/portable/root_folder.h"
+#include "system/root_folder.h"
 
-#include "backends/portable/posix_errors.h"
-#include "backends/portable/utf8.h"
+#include "system/posix_errors.h"
+#include "text/utf8.h"
 
 #include <cerrno>
 #include <climits>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "backends/portable/file_descriptor.h"
-#include "backends/portable/root_folder.h"
+#include "system/file_descriptor.h"
+#include "system/root_folder.h"
 
 #include <cstddef>
 #include <string>

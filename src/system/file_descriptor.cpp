@@ -1,4 +1,4 @@
-#include "backends/portable/file_descriptor.h"
+#include "system/file_descriptor.h"
 
 #include <cerrno>
 #include <unistd.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "backends/portable/file_descriptor.h"
-#include "backends/portable/open_beneath.h"
+#include "system/file_descriptor.h"
+#include "system/open_beneath.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "backends/portable/open_beneath.h"
+#include "system/open_beneath.h"
 
 #include <algorithm>
 #include <atomic>

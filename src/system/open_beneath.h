@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/portable/file_descriptor.h"
+#include "system/file_descriptor.h"
 
 #include <string>
 #include <sys/types.h>

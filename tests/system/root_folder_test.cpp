@@ -1,6 +1,6 @@
-#include "backends/portable/root_folder.h"
+#include "system/root_folder.h"
 
-#include "temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 
