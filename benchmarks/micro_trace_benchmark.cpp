@@ -1,6 +1,6 @@
 #include "backends/portable/site_database.h"
+#include "controls/tree_view.h"
 #include "core/utility.h"
-#include "platform/tree_view.h"
 #include "support/test_tool.h"
 #include "traces/micro_traces.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/font.h"
+#include "controls/font.h"
 
 #include <cstdint>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/label.h"
-#include "platform/sheet_page.h"
+#include "controls/label.h"
+#include "controls/sheet_page.h"
 
 #include <initializer_list>
 

@@ -1,7 +1,7 @@
+#include "controls/progress_bar.h"
 #include "core/error_trap.h"
 #include "gather/importers.h"
 #include "platform/event_log_exporter.h"
-#include "platform/progress_bar.h"
 
 void mdlLogs::processWindowsEventLogFile(ToolContext& tool, const std::string& logName,
                                          const std::string& destination,

@@ -1,12 +1,12 @@
 #include "gather/log_reading.h"
 
+#include "controls/label.h"
+#include "controls/progress_bar.h"
 #include "core/localisation.h"
 #include "gather/logs.h"
 #include "gather/object_reference.h"
 #include "platform/clock.h"
 #include "platform/desktop.h"
-#include "platform/label.h"
-#include "platform/progress_bar.h"
 #include "runtime/numbers.h"
 
 #include <limits>

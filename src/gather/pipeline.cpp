@@ -1,3 +1,6 @@
+#include "controls/label.h"
+#include "controls/progress_bar.h"
+#include "controls/tree_view.h"
 #include "core/error_trap.h"
 #include "core/localisation.h"
 #include "gather/gather_database.h"
@@ -5,9 +8,6 @@
 #include "gather/logs.h"
 #include "gather/packaging.h"
 #include "platform/file_system.h"
-#include "platform/label.h"
-#include "platform/progress_bar.h"
-#include "platform/tree_view.h"
 #include "runtime/text.h"
 
 #include <memory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/memory_recordset.h"
+#include "server/memory_recordset.h"
 
 #include <cstdint>
 #include <string>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "controls/button.h"
+#include "controls/label.h"
 #include "core/localisation.h"
-#include "platform/button.h"
-#include "platform/label.h"
 
 #include <functional>
 #include <string>

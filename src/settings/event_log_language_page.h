@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/pages.h"
-#include "platform/sheet_page.h"
+#include "console/pages.h"
+#include "controls/controls.h"
+#include "controls/sheet_page.h"
 
 #include <string>
 #include <vector>

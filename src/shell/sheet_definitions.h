@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/property_sheet_provider.h"
+#include "console/property_sheet_provider.h"
 
 #include <memory>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/snap_in_definition.h"
+#include "console/snap_in_definition.h"
 
 /// What the snap-in declares to the console: its nodes, views, menus and task pad.
 ///

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/console.h"
+#include "console/console.h"
 
 #include <memory>
 #include <string>

@@ -1,6 +1,6 @@
+#include "console/result_view.h"
 #include "core/error_trap.h"
 #include "core/localisation.h"
-#include "platform/result_view.h"
 #include "shell/snapin_routines.h"
 
 namespace {

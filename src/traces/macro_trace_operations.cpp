@@ -1,8 +1,8 @@
 #include "traces/macro_trace_operations.h"
 
+#include "controls/tree_view.h"
 #include "core/error_trap.h"
 #include "core/signals.h"
-#include "platform/tree_view.h"
 #include "server/diagnostic_grid.h"
 #include "traces/counted_walk.h"
 #include "traces/macro_trace_record.h"

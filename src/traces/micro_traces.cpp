@@ -1,9 +1,9 @@
 #include "traces/micro_traces.h"
 
+#include "controls/tree_view.h"
 #include "core/error_trap.h"
 #include "core/signals.h"
 #include "core/utility.h"
-#include "platform/tree_view.h"
 #include "runtime/dictionary.h"
 #include "runtime/text.h"
 #include "server/diagnostic_grid.h"

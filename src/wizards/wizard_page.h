@@ -1,11 +1,11 @@
 #pragma once
 
+#include "console/pages.h"
+#include "console/sheet.h"
+#include "controls/controls.h"
+#include "controls/sheet_page.h"
 #include "core/page_texts.h"
 #include "gather/trace_object.h"
-#include "platform/controls.h"
-#include "platform/pages.h"
-#include "platform/sheet.h"
-#include "platform/sheet_page.h"
 
 #include <initializer_list>
 #include <memory>

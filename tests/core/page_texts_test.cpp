@@ -1,7 +1,7 @@
 #include "core/page_texts.h"
 
+#include "controls/controls.h"
 #include "core/localisation.h"
-#include "platform/controls.h"
 #include "support/test_tool.h"
 
 #include <gtest/gtest.h>

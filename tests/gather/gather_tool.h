@@ -1,10 +1,10 @@
 #pragma once
 
+#include "controls/label.h"
+#include "controls/progress_bar.h"
+#include "controls/tree_view.h"
 #include "gather/importers.h"
 #include "gather/logs.h"
-#include "platform/label.h"
-#include "platform/progress_bar.h"
-#include "platform/tree_view.h"
 #include "support/test_tool.h"
 
 #include <string>

@@ -1,6 +1,6 @@
 #include "gather/trace_object.h"
 
-#include "platform/sheet.h"
+#include "console/sheet.h"
 #include "support/test_tool.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "console/plain_sheet.h"
 #include "core/registry_store.h"
-#include "platform/plain_sheet.h"
 #include "support/test_tool.h"
 #include "support/traced_pairs.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "controls/tree_view.h"
 #include "core/registry_store.h"
 #include "core/utility.h"
-#include "platform/tree_view.h"
 #include "support/test_tool.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "platform/recording_observer.h"
+#include "controls/recording_observer.h"
 #include "wizards/gather_wizard_fixture.h"
 
 #include <algorithm>

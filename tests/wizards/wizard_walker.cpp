@@ -1,6 +1,6 @@
 #include "wizards/wizard_walker.h"
 
-#include "platform/controls.h"
+#include "controls/controls.h"
 #include "runtime/run_time_error.h"
 
 #include <gtest/gtest.h>

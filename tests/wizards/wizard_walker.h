@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/wizard_sheet.h"
+#include "console/wizard_sheet.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "console/wizard_sheet.h"
 #include "gather/trace_object.h"
-#include "platform/wizard_sheet.h"
 #include "support/traced_pairs.h"
 #include "traces/traces_fixture.h"
 #include "wizards/wizard_page.h"

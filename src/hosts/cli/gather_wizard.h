@@ -1,8 +1,8 @@
 #pragma once
 
+#include "controls/controls.h"
 #include "gather/time_frame.h"
 #include "hosts/cli/wizard_driver.h"
-#include "platform/controls.h"
 
 #include <string>
 #include <vector>

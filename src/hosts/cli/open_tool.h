@@ -3,6 +3,7 @@
 #include "backends/jet/jet_engine.h"
 #include "backends/portable/site.h"
 #include "backends/portable/site_turn.h"
+#include "console/console.h"
 #include "core/tool_context.h"
 #include "hosts/cli/command.h"
 #include "hosts/cli/interrupt.h"
@@ -10,7 +11,6 @@
 #include "hosts/cli/watched_registry.h"
 #include "hosts/common/looking_services.h"
 #include "hosts/common/watched_services.h"
-#include "platform/console.h"
 #include "shell/snapin_orvan_diagnostics.h"
 #include "text/code_page.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "console/plain_sheet.h"
 #include "hosts/cli/open_tool.h"
-#include "platform/plain_sheet.h"
 
 #include <memory>
 #include <string>

@@ -1,8 +1,8 @@
 #include "hosts/cli/trace_expectation.h"
 
+#include "controls/tree_view.h"
 #include "core/registry_store.h"
 #include "core/tool_context.h"
-#include "platform/tree_view.h"
 #include "platform/xml.h"
 #include "runtime/numbers.h"
 #include "runtime/run_time_error.h"

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "console/wizard_sheet.h"
+#include "controls/tree_view.h"
 #include "hosts/cli/open_tool.h"
-#include "platform/tree_view.h"
-#include "platform/wizard_sheet.h"
 
 #include <memory>
 #include <string>

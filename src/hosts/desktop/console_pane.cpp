@@ -1,5 +1,6 @@
 #include "hosts/desktop/console_pane.h"
 
+#include "console/console.h"
 #include "hosts/desktop/commands.h"
 #include "hosts/desktop/icons.h"
 #include "hosts/desktop/interface_language.h"
@@ -9,7 +10,6 @@
 #include "hosts/desktop/scope_model.h"
 #include "hosts/desktop/sheet_dialog.h"
 #include "hosts/desktop/task_pad_view.h"
-#include "platform/console.h"
 #include "runtime/run_time_error.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/tree_view.h"
+#include "controls/tree_view.h"
 
 #include <QAbstractItemModel>
 

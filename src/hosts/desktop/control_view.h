@@ -1,7 +1,7 @@
 #pragma once
 
+#include "controls/control.h"
 #include "hosts/desktop/interface_language.h"
-#include "platform/control.h"
 
 #include <QFont>
 #include <QObject>

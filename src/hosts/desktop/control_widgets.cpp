@@ -1,10 +1,10 @@
 #include "hosts/desktop/control_widgets.h"
 
+#include "controls/controls.h"
 #include "hosts/desktop/choice_views.h"
 #include "hosts/desktop/field_views.h"
 #include "hosts/desktop/text_views.h"
 #include "hosts/desktop/tree_control_view.h"
-#include "platform/controls.h"
 
 namespace {
 

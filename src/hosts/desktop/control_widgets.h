@@ -1,7 +1,7 @@
 #pragma once
 
+#include "controls/sheet_page.h"
 #include "hosts/desktop/control_view.h"
-#include "platform/sheet_page.h"
 
 #include <memory>
 

@@ -1,11 +1,11 @@
 #include "hosts/desktop/details_pane.h"
 
+#include "console/list_view.h"
 #include "hosts/desktop/interface_language.h"
 #include "hosts/desktop/list_model.h"
 #include "hosts/desktop/log_columns.h"
 #include "hosts/desktop/spoken_label.h"
 #include "hosts/desktop/theme.h"
-#include "platform/list_view.h"
 
 #include <QPlainTextEdit>
 #include <QVBoxLayout>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "controls/controls.h"
 #include "hosts/desktop/control_view.h"
-#include "platform/controls.h"
 
 class MomentField;
 class QComboBox;

@@ -1,9 +1,9 @@
 #include "hosts/desktop/filter_bar.h"
 
+#include "console/list_view.h"
 #include "hosts/desktop/filter_button.h"
 #include "hosts/desktop/icons.h"
 #include "hosts/desktop/log_columns.h"
-#include "platform/list_view.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

@@ -1,9 +1,9 @@
 #include "hosts/desktop/gather_notice.h"
 
+#include "controls/sheet_page.h"
 #include "core/tool_context.h"
 #include "hosts/common/destination_turn.h"
 #include "hosts/common/gather_outcome.h"
-#include "platform/sheet_page.h"
 #include "runtime/run_time_error.h"
 #include "wizards/gather_progress.h"
 

@@ -1,7 +1,7 @@
 #include "hosts/desktop/list_model.h"
 
+#include "console/list_view.h"
 #include "hosts/desktop/sort_key.h"
-#include "platform/list_view.h"
 
 #include <algorithm>
 

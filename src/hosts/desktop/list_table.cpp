@@ -1,7 +1,7 @@
 #include "hosts/desktop/list_table.h"
 
+#include "console/list_view.h"
 #include "hosts/desktop/list_model.h"
-#include "platform/list_view.h"
 #include "runtime/spreadsheet_cell.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "hosts/desktop/log_columns.h"
 
-#include "platform/list_view.h"
+#include "console/list_view.h"
 
 LogColumns LogColumns::of(const ListView& list)
 {

@@ -1,6 +1,6 @@
 #include "hosts/desktop/log_filter.h"
 
-#include "platform/list_view.h"
+#include "console/list_view.h"
 
 #include <algorithm>
 #include <numeric>

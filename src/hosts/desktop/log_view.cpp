@@ -1,5 +1,6 @@
 #include "hosts/desktop/log_view.h"
 
+#include "console/list_view.h"
 #include "hosts/desktop/details_pane.h"
 #include "hosts/desktop/filter_bar.h"
 #include "hosts/desktop/find_bar.h"
@@ -11,7 +12,6 @@
 #include "hosts/desktop/theme.h"
 #include "hosts/desktop/time_search.h"
 #include "hosts/desktop/typed_moment.h"
-#include "platform/list_view.h"
 
 #include <QHBoxLayout>
 #include <QMenu>

@@ -3,10 +3,10 @@
 #include "backends/jet/jet_engine.h"
 #include "backends/portable/site.h"
 #include "backends/portable/site_turn.h"
+#include "console/console.h"
 #include "core/tool_context.h"
 #include "hosts/common/looking_services.h"
 #include "hosts/common/watched_services.h"
-#include "platform/console.h"
 #include "shell/snapin_orvan_diagnostics.h"
 
 #include <functional>

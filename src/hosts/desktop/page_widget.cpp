@@ -1,11 +1,11 @@
 #include "hosts/desktop/page_widget.h"
 
+#include "controls/controls.h"
 #include "hosts/desktop/control_widgets.h"
 #include "hosts/desktop/icons.h"
 #include "hosts/desktop/mnemonics.h"
 #include "hosts/desktop/text_views.h"
 #include "hosts/desktop/thin_line.h"
-#include "platform/controls.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/console_observer.h"
+#include "console/console_observer.h"
 
 /// Follows the console in part: what a class does not override is of no interest to it.
 class QuietObserver : public ConsoleObserver {

@@ -1,8 +1,8 @@
 #include "hosts/desktop/scope_model.h"
 
+#include "console/console.h"
 #include "hosts/desktop/icons.h"
 #include "hosts/desktop/plain_tool_tip.h"
-#include "platform/console.h"
 #include "shell/snapin_routines.h"
 
 #include <algorithm>

@@ -1,12 +1,12 @@
 #include "hosts/desktop/sheet_dialog.h"
 
+#include "console/plain_sheet.h"
+#include "console/wizard_sheet.h"
 #include "hosts/desktop/help_topics.h"
 #include "hosts/desktop/notice_bar.h"
 #include "hosts/desktop/page_widget.h"
 #include "hosts/desktop/screen_room.h"
 #include "hosts/desktop/thin_line.h"
-#include "platform/plain_sheet.h"
-#include "platform/wizard_sheet.h"
 #include "runtime/run_time_error.h"
 
 #include <QAction>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "console/open_sheet.h"
 #include "hosts/desktop/interface_language.h"
-#include "platform/open_sheet.h"
 
 #include <QDialog>
 

@@ -1,9 +1,9 @@
 #include "hosts/desktop/task_pad_view.h"
 
+#include "console/task_pad.h"
 #include "hosts/desktop/icons.h"
 #include "hosts/desktop/task_card.h"
 #include "hosts/desktop/theme.h"
-#include "platform/task_pad.h"
 
 #include <QEvent>
 #include <QGridLayout>

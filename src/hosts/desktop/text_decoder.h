@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/snap_in_definition.h"
+#include "console/snap_in_definition.h"
 #include "text/code_page.h"
 
 #include <QString>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "controls/controls.h"
+#include "controls/sheet_page.h"
 #include "hosts/desktop/control_view.h"
-#include "platform/controls.h"
-#include "platform/sheet_page.h"
 
 class QGroupBox;
 class QLabel;

@@ -1,7 +1,7 @@
 #include "hosts/desktop/time_search.h"
 
+#include "console/list_view.h"
 #include "hosts/desktop/list_model.h"
-#include "platform/list_view.h"
 #include "runtime/dates.h"
 #include "runtime/run_time_error.h"
 

@@ -1,7 +1,7 @@
 #include "hosts/desktop/undone.h"
 
-#include "platform/combo_box.h"
-#include "platform/open_sheet.h"
+#include "console/open_sheet.h"
+#include "controls/combo_box.h"
 
 #include <QObject>
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "console/pages.h"
+#include "console/plain_sheet.h"
+#include "console/wizard_sheet.h"
+#include "controls/controls.h"
 #include "hosts/desktop/sheet_dialog.h"
 #include "hosts/desktop/test_window.h"
-#include "platform/controls.h"
-#include "platform/pages.h"
-#include "platform/plain_sheet.h"
-#include "platform/wizard_sheet.h"
 #include "runtime/run_time_error.h"
 
 #include <QPointer>

@@ -1,9 +1,9 @@
 #include "hosts/desktop/help_topics.h"
 
+#include "console/console.h"
 #include "hosts/desktop/sheet_dialog.h"
 #include "hosts/desktop/task_pad_view.h"
 #include "hosts/desktop/test_window.h"
-#include "platform/console.h"
 #include "settings/about_box.h"
 
 #include <QAbstractButton>

@@ -1,10 +1,10 @@
 #include "hosts/desktop/list_model.h"
 
+#include "console/list_view.h"
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_view.h"
 #include "hosts/desktop/sort_key.h"
 #include "hosts/desktop/test_window.h"
-#include "platform/list_view.h"
 
 #include <QAbstractItemModelTester>
 #include <QClipboard>

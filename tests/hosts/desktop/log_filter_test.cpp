@@ -1,10 +1,10 @@
 #include "hosts/desktop/log_filter.h"
 
+#include "console/list_view.h"
 #include "hosts/desktop/bookmarks.h"
 #include "hosts/desktop/list_model.h"
 #include "hosts/desktop/test_window.h"
 #include "hosts/desktop/time_search.h"
-#include "platform/list_view.h"
 
 #include <gmock/gmock.h>
 

@@ -1,10 +1,10 @@
 #include "hosts/desktop/log_view.h"
 
+#include "console/list_view.h"
 #include "hosts/desktop/filter_bar.h"
 #include "hosts/desktop/find_bar.h"
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/test_window.h"
-#include "platform/list_view.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

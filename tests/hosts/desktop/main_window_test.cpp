@@ -1,13 +1,13 @@
 #include "hosts/desktop/main_window.h"
 
+#include "console/console.h"
+#include "console/wizard_sheet.h"
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_view.h"
 #include "hosts/desktop/recent_sites.h"
 #include "hosts/desktop/task_pad_view.h"
 #include "hosts/desktop/test_window.h"
 #include "hosts/desktop/theme.h"
-#include "platform/console.h"
-#include "platform/wizard_sheet.h"
 
 #include <QAbstractButton>
 #include <QAction>

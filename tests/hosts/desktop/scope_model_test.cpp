@@ -1,7 +1,7 @@
 #include "hosts/desktop/scope_model.h"
 
+#include "console/console.h"
 #include "hosts/desktop/test_window.h"
-#include "platform/console.h"
 
 #include <QAbstractItemModelTester>
 #include <QTreeView>

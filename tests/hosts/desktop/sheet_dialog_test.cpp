@@ -1,8 +1,8 @@
 #include "hosts/desktop/sheet_dialog.h"
 
+#include "console/console.h"
 #include "hosts/desktop/every_kind_page.h"
 #include "hosts/desktop/page_widget.h"
-#include "platform/console.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>

@@ -1,9 +1,9 @@
+#include "console/console.h"
 #include "hosts/desktop/list_table.h"
 #include "hosts/desktop/log_view.h"
 #include "hosts/desktop/open_program.h"
 #include "hosts/desktop/person.h"
 #include "hosts/desktop/sheet_dialog.h"
-#include "platform/console.h"
 
 #include <QAction>
 

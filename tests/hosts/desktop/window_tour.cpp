@@ -1,5 +1,6 @@
 #include "hosts/desktop/window_tour.h"
 
+#include "console/console.h"
 #include "hosts/desktop/about_dialog.h"
 #include "hosts/desktop/filter_button.h"
 #include "hosts/desktop/help_window.h"
@@ -8,7 +9,6 @@
 #include "hosts/desktop/log_view.h"
 #include "hosts/desktop/sheet_dialog.h"
 #include "hosts/desktop/sheet_walk.h"
-#include "platform/console.h"
 #include "settings/about_box.h"
 
 #include <QAction>

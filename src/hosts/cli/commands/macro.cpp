@@ -1,3 +1,4 @@
+#include "controls/controls.h"
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/known_names.h"
@@ -5,7 +6,6 @@
 #include "hosts/cli/output.h"
 #include "hosts/cli/trace_check.h"
 #include "hosts/cli/wizard_driver.h"
-#include "platform/controls.h"
 #include "platform/xml.h"
 #include "runtime/text.h"
 

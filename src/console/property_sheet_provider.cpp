@@ -1,0 +1,62 @@
+#include "console/property_sheet_provider.h"
+
+#include "console/console.h"
+#include "console/plain_sheet.h"
+#include "console/wizard_sheet.h"
+#include "runtime/run_time_error.h"
+
+#include <algorithm>
+#include <iterator>
+
+void PropertySheetProvider::createPropertySheet(const std::string& title, SheetType type,
+                                                ScopeItem& subject)
+{
+    letGoOfClosedSheets();
+    if (type == SheetType::wizard)
+        waiting_ = std::make_shared<WizardSheet>(title, &subject);
+    else
+        waiting_ = std::make_shared<PlainSheet>(title, &subject);
+}
+
+void PropertySheetProvider::addPrimaryPages()
+{
+    console_.createPropertyPages(waiting());
+}
+
+void PropertySheetProvider::show(int place)
+{
+    OpenSheet& sheet = waiting();
+    if (sheet.pageCount() > 0) sheet.page(place);
+    shown_.push_back(std::move(waiting_));
+    try {
+        sheet.show(place);
+    } catch (const RunTimeError& error) {
+        console_.tellHandlerFailed(error);
+    }
+    if (!sheet.closed()) console_.tellSheetShown(sheet);
+}
+
+std::vector<std::shared_ptr<OpenSheet>> PropertySheetProvider::openSheets() const
+{
+    std::vector<std::shared_ptr<OpenSheet>> open;
+    std::copy_if(shown_.begin(), shown_.end(), std::back_inserter(open),
+                 [](const auto& sheet) { return !sheet->closed(); });
+    return open;
+}
+
+std::shared_ptr<OpenSheet> PropertySheetProvider::lastSheet() const
+{
+    return shown_.empty() ? nullptr : shown_.back();
+}
+
+OpenSheet& PropertySheetProvider::waiting() const
+{
+    if (!waiting_) throw RunTimeError(runTimeErrors::objectVariableNotSet);
+    return *waiting_;
+}
+
+void PropertySheetProvider::letGoOfClosedSheets()
+{
+    const auto inUse = [](const auto& sheet) { return sheet->atWork() || !sheet->closed(); };
+    if (std::none_of(shown_.begin(), shown_.end(), inUse)) shown_.clear();
+}

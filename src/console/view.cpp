@@ -1,0 +1,128 @@
+#include "console/view.h"
+
+#include "console/console.h"
+
+#include <algorithm>
+
+void View::statusBarText(std::string text)
+{
+    statusBarText_ = std::move(text);
+    console_.tellAll([&](ConsoleObserver& observer) { observer.statusBarChanged(statusBarText_); });
+}
+
+ScopePaneItem& View::scopePaneItem(int position) const
+{
+    if (position < 1 || position > scopePaneItemCount()) {
+        throw RunTimeError(runTimeErrors::subscriptOutOfRange);
+    }
+    return *panes_[static_cast<std::size_t>(position) - 1];
+}
+
+ScopePaneItem& View::selectedScopePaneItem() const
+{
+    if (!selected_) throw RunTimeError(runTimeErrors::objectVariableNotSet);
+    return *selected_;
+}
+
+void View::select(ScopeItem& item)
+{
+    const auto held = item.shared_from_this();
+    console_.expand(item);
+    if (!item.inTree()) throw RunTimeError(runTimeErrors::invalidCall);
+    if (selected_) {
+        console_.snapIn().Views_Select(*this, selected_->scopeItem(), false, verbs_);
+    }
+
+    verbs_ = {};
+    ScopePaneItem& pane = paneOf(item);
+    const auto [displayString, type] = console_.defaultView(item.typeName());
+    show(pane, resultViewOf(pane, displayString, type));
+    if (selected_ == &pane) console_.snapIn().Views_Select(*this, item, true, verbs_);
+}
+
+void View::display(const std::string& displayString, ResultViewType type)
+{
+    ScopePaneItem& pane = selectedScopePaneItem();
+    show(pane, resultViewOf(pane, displayString, type));
+}
+
+ScopePaneItem& View::paneOf(ScopeItem& item)
+{
+    for (auto& pane : panes_)
+        if (&pane->scopeItem() == &item) return *pane;
+    return *panes_.emplace_back(std::make_unique<ScopePaneItem>(item));
+}
+
+ResultView& View::resultViewOf(ScopePaneItem& pane, const std::string& displayString,
+                               ResultViewType type)
+{
+    for (auto& made : pane.views_)
+        if (made->displayString() == displayString && made->type() == type) return *made;
+
+    const auto make = [&](const auto& definitions) -> ResultView* {
+        for (const auto& definition : definitions) {
+            if (definition.name != displayString) continue;
+            return pane.views_.emplace_back(std::make_unique<ResultView>(pane, definition)).get();
+        }
+        return nullptr;
+    };
+    const SnapInDefinition& declared = console_.definition();
+    ResultView* made =
+        type == ResultViewType::list ? make(declared.listViews) : make(declared.taskPads);
+    if (!made) throw RunTimeError(runTimeErrors::invalidCall);
+    return *made;
+}
+
+void View::show(ScopePaneItem& pane, ResultView& resultView)
+{
+    // Rows are for the view on show alone: tens of thousands of them are not kept behind it.
+    if (selected_ && selected_->shown_ && selected_->shown_->type() == ResultViewType::list) {
+        selected_->shown_->list().clear();
+    }
+    const bool moved = selected_ != &pane;
+    selected_ = &pane;
+    pane.shown_ = &resultView;
+    if (moved) {
+        console_.tellAll([&](ConsoleObserver& observer) { observer.selectionChanged(*this); });
+    }
+    fill(resultView);
+}
+
+void View::fill(ResultView& resultView)
+{
+    struct UnderWay {
+        explicit UnderWay(View& view) : view_(view) { ++view_.fillsUnderWay_; }
+        UnderWay(const UnderWay&) = delete;
+        UnderWay& operator=(const UnderWay&) = delete;
+        ~UnderWay()
+        {
+            if (--view_.fillsUnderWay_ == 0) view_.retired_.clear();
+        }
+        View& view_;
+    };
+    const UnderWay underWay{*this};
+
+    console_.tellAll([&](ConsoleObserver& observer) { observer.viewReset(resultView); });
+    console_.snapIn().ResultViews_Initialize(resultView);
+    if (!selected_ || selected_->shown_ != &resultView) return;
+    if (resultView.type() == ResultViewType::list) resultView.list().sortOnLoad();
+    console_.tellAll([&](ConsoleObserver& observer) { observer.viewFilled(resultView); });
+}
+
+bool View::showsInside(const ScopeItem& item) const
+{
+    if (!selected_) return false;
+    for (const ScopeItem* shown = &selected_->scopeItem(); shown; shown = shown->parent())
+        if (shown == &item) return true;
+    return false;
+}
+
+void View::forget(const ScopeItem& item)
+{
+    const auto place = std::find_if(panes_.begin(), panes_.end(),
+                                    [&](const auto& pane) { return &pane->scopeItem() == &item; });
+    if (place == panes_.end()) return;
+    if (selected_ == place->get()) selected_ = nullptr;
+    if (fillsUnderWay_ > 0) retired_.push_back(std::move(*place));
+    panes_.erase(place);
+}

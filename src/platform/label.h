@@ -1,9 +1,0 @@
-#pragma once
-
-#include "platform/control.h"
-
-/// A text on a page.
-class Label final : public CaptionedControl {};
-
-/// A box with a caption around other controls.
-class Frame final : public CaptionedControl {};
