@@ -1,9 +1,9 @@
 #include "hosts/desktop/program.h"
 
-#include "backends/portable/sample/sample_server.h"
 #include "hosts/desktop/recent_sites.h"
 #include "hosts/desktop/turn_wait.h"
 #include "runtime/run_time_error.h"
+#include "sample/sample_server.h"
 
 #include <QApplication>
 #include <QObject>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "backends/portable/libxml_documents.h"
-#include "backends/portable/sample/sample_server.h"
+#include "sample/sample_server.h"
 #include "support/fake_clock.h"
 #include "support/fake_file_system.h"
 #include "support/temporary_folder.h"

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "backends/portable/sample/sample_server.h"
 #include "hosts/desktop/console_pane.h"
 #include "hosts/desktop/main_window.h"
 #include "hosts/desktop/open_tool.h"
+#include "sample/sample_server.h"
 #include "support/fake_desktop.h"
 #include "support/temporary_folder.h"
 

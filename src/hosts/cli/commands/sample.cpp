@@ -1,4 +1,3 @@
-#include "backends/portable/sample/sample_server.h"
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/interrupt.h"
@@ -7,6 +6,7 @@
 #include "hosts/cli/progress_line.h"
 #include "hosts/common/places.h"
 #include "runtime/text.h"
+#include "sample/sample_server.h"
 
 #include <filesystem>
 

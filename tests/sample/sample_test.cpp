@@ -1,8 +1,8 @@
 #include "backends/portable/sample_site.h"
 
-#include "backends/portable/sample/day_profile.h"
-#include "backends/portable/sample/random.h"
 #include "backends/portable/site.h"
+#include "sample/day_profile.h"
+#include "sample/random.h"
 #include "support/error_of.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "backends/portable/sample/moment.h"
+#include "sample/moment.h"
 
 #include <charconv>
 #include <chrono>

@@ -1,10 +1,10 @@
-#include "backends/portable/sample/sample_server.h"
+#include "sample/sample_server.h"
 
-#include "backends/portable/sample/event_logs.h"
-#include "backends/portable/sample/log_writer.h"
-#include "backends/portable/sample/server_files.h"
-#include "backends/portable/sample/traffic.h"
 #include "runtime/run_time_error.h"
+#include "sample/event_logs.h"
+#include "sample/log_writer.h"
+#include "sample/server_files.h"
+#include "sample/traffic.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "backends/portable/sample/log_writer.h"
+#include "sample/log_writer.h"
 
 namespace sample {
 

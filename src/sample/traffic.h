@@ -1,9 +1,9 @@
 #pragma once
 
-#include "backends/portable/sample/log_line.h"
-#include "backends/portable/sample/log_plan.h"
-#include "backends/portable/sample/occurrence.h"
-#include "backends/portable/sample/scenarios.h"
+#include "sample/log_line.h"
+#include "sample/log_plan.h"
+#include "sample/occurrence.h"
+#include "sample/scenarios.h"
 
 #include <array>
 #include <cstddef>

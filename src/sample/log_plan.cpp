@@ -1,4 +1,4 @@
-#include "backends/portable/sample/log_plan.h"
+#include "sample/log_plan.h"
 
 namespace sample {
 

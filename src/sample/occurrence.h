@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/portable/sample/random.h"
+#include "sample/random.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/portable/sample/server_model.h"
+#include "sample/server_model.h"
 
 #include <span>
 #include <string_view>

@@ -1,6 +1,6 @@
-#include "backends/portable/sample/output_file.h"
-#include "backends/portable/sample/server_files.h"
 #include "runtime/run_time_error.h"
+#include "sample/output_file.h"
+#include "sample/server_files.h"
 
 #include <memory>
 #include <sqlite3.h>

@@ -1,6 +1,6 @@
-#include "backends/portable/sample/occurrence.h"
+#include "sample/occurrence.h"
 
-#include "backends/portable/sample/moment.h"
+#include "sample/moment.h"
 
 #include <array>
 

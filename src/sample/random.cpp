@@ -1,4 +1,4 @@
-#include "backends/portable/sample/random.h"
+#include "sample/random.h"
 
 #include <bit>
 

@@ -1,4 +1,4 @@
-#include "backends/portable/sample/output_file.h"
+#include "sample/output_file.h"
 
 #include "runtime/run_time_error.h"
 

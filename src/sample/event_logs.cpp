@@ -1,7 +1,7 @@
-#include "backends/portable/sample/event_logs.h"
+#include "sample/event_logs.h"
 
-#include "backends/portable/sample/occurrence.h"
-#include "backends/portable/sample/output_file.h"
+#include "sample/occurrence.h"
+#include "sample/output_file.h"
 
 #include <algorithm>
 #include <array>

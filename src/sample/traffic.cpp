@@ -1,6 +1,6 @@
-#include "backends/portable/sample/traffic.h"
+#include "sample/traffic.h"
 
-#include "backends/portable/sample/day_profile.h"
+#include "sample/day_profile.h"
 
 #include <algorithm>
 

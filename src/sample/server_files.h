@@ -1,7 +1,7 @@
 #pragma once
 
-#include "backends/portable/sample/log_plan.h"
 #include "backends/portable/site_settings.h"
+#include "sample/log_plan.h"
 
 #include <filesystem>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/portable/sample/moment.h"
+#include "sample/moment.h"
 
 #include <vector>
 

@@ -1,4 +1,4 @@
-#include "backends/portable/sample/server_model.h"
+#include "sample/server_model.h"
 
 #include <array>
 

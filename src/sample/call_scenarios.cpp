@@ -1,4 +1,4 @@
-#include "backends/portable/sample/scenarios.h"
+#include "sample/scenarios.h"
 
 #include <array>
 

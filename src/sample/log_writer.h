@@ -1,8 +1,8 @@
 #pragma once
 
-#include "backends/portable/sample/log_line.h"
-#include "backends/portable/sample/log_plan.h"
-#include "backends/portable/sample/output_file.h"
+#include "sample/log_line.h"
+#include "sample/log_plan.h"
+#include "sample/output_file.h"
 
 #include <array>
 #include <filesystem>

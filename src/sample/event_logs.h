@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/portable/sample/random.h"
+#include "sample/random.h"
 
 #include <filesystem>
 #include <string_view>

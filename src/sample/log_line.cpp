@@ -1,4 +1,4 @@
-#include "backends/portable/sample/log_line.h"
+#include "sample/log_line.h"
 
 namespace sample {
 

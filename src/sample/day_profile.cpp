@@ -1,4 +1,4 @@
-#include "backends/portable/sample/day_profile.h"
+#include "sample/day_profile.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "backends/portable/sample/moment.h"
-#include "backends/portable/sample/server_model.h"
+#include "sample/moment.h"
+#include "sample/server_model.h"
 
 #include <cstdint>
 #include <string>

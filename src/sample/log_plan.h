@@ -1,8 +1,8 @@
 #pragma once
 
-#include "backends/portable/sample/moment.h"
-#include "backends/portable/sample/random.h"
-#include "backends/portable/sample/server_model.h"
+#include "sample/moment.h"
+#include "sample/random.h"
+#include "sample/server_model.h"
 
 #include <string>
 #include <vector>

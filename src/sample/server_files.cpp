@@ -1,7 +1,7 @@
-#include "backends/portable/sample/server_files.h"
+#include "sample/server_files.h"
 
-#include "backends/portable/sample/output_file.h"
 #include "runtime/run_time_error.h"
+#include "sample/output_file.h"
 
 #include <algorithm>
 #include <map>
