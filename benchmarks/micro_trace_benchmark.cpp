@@ -1,4 +1,4 @@
-#include "backends/portable/site_database.h"
+#include "backends/site/database/site_database.h"
 #include "controls/tree_view.h"
 #include "core/utility.h"
 #include "support/test_tool.h"

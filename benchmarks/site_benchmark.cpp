@@ -1,6 +1,6 @@
-#include "backends/portable/site_file_system.h"
-#include "backends/portable/site_registry.h"
-#include "backends/portable/trace_line_format.h"
+#include "backends/site/events/trace_line_format.h"
+#include "backends/site/files/site_file_system.h"
+#include "backends/site/registry/site_registry.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,1 +1,1 @@
-orvan_fuzz(command_line LINKS orvan_portable)
+orvan_fuzz(command_line LINKS orvan_site)

@@ -1,1 +1,1 @@
-orvan_fuzz(event_log LINKS orvan_portable)
+orvan_fuzz(event_log LINKS orvan_site)

@@ -1,1 +1,1 @@
-orvan_fuzz(file_pattern LINKS orvan_portable)
+orvan_fuzz(file_pattern LINKS orvan_site)

@@ -1,6 +1,6 @@
 #include "require.h"
 
-#include "backends/portable/command_line.h"
+#include "backends/site/command_line.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "require.h"
 
-#include "backends/portable/event_log_csv.h"
+#include "backends/site/events/event_log_csv.h"
 #include "text/utf8.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "require.h"
 
-#include "backends/portable/file_pattern.h"
+#include "backends/site/files/file_pattern.h"
 #include "text/utf8.h"
 
 #include <cstddef>

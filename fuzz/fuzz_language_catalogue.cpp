@@ -2,7 +2,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "backends/portable/language_catalogue.h"
+#include "backends/site/language/language_catalogue.h"
 #include "runtime/run_time_error.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

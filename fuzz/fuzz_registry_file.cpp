@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "backends/portable/registry_file.h"
+#include "backends/site/registry/registry_file.h"
 #include "runtime/run_time_error.h"
 
 /// What is read must be written so that it reads back as the same.

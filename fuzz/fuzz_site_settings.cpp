@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "backends/portable/posix_time_zone.h"
-#include "backends/portable/site_settings.h"
+#include "backends/site/site_settings.h"
+#include "backends/site/time/posix_time_zone.h"
 #include "runtime/run_time_error.h"
 
 /// Settings that were accepted must be usable.

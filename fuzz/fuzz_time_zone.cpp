@@ -1,6 +1,6 @@
 #include "require.h"
 
-#include "backends/portable/posix_time_zone.h"
+#include "backends/site/time/posix_time_zone.h"
 #include "runtime/run_time_error.h"
 
 #include <array>

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "backends/portable/trace_line_format.h"
+#include "backends/site/events/trace_line_format.h"
 #include "platform/event_reporter.h"
 
 namespace {

@@ -1,1 +1,1 @@
-orvan_fuzz(language_catalogue LINKS orvan_portable)
+orvan_fuzz(language_catalogue LINKS orvan_site)

@@ -1,1 +1,1 @@
-orvan_fuzz(registry_file LINKS orvan_portable)
+orvan_fuzz(registry_file LINKS orvan_site)

@@ -1,1 +1,1 @@
-orvan_fuzz(site_paths LINKS orvan_portable)
+orvan_fuzz(site_paths LINKS orvan_site)

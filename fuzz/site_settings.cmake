@@ -1,1 +1,1 @@
-orvan_fuzz(site_settings LINKS orvan_portable)
+orvan_fuzz(site_settings LINKS orvan_site)

@@ -1,1 +1,1 @@
-orvan_fuzz(time_zone LINKS orvan_portable)
+orvan_fuzz(time_zone LINKS orvan_site)

@@ -1,1 +1,1 @@
-orvan_fuzz(trace_line LINKS orvan_portable)
+orvan_fuzz(trace_line LINKS orvan_site)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/portable/site_settings.h"
+#include "backends/site/site_settings.h"
 
 #include <cstddef>
 #include <cstdint>

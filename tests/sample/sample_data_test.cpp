@@ -1,4 +1,4 @@
-#include "backends/portable/sample_site.h"
+#include "backends/site/sample_site.h"
 #include "runtime/run_time_error.h"
 #include "system/whole_file.h"
 

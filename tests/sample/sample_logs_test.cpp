@@ -1,6 +1,6 @@
-#include "backends/portable/sample_site.h"
+#include "backends/site/sample_site.h"
 
-#include "backends/portable/trace_line_format.h"
+#include "backends/site/events/trace_line_format.h"
 
 #include <algorithm>
 #include <ctime>

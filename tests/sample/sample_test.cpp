@@ -1,6 +1,6 @@
-#include "backends/portable/sample_site.h"
+#include "backends/site/sample_site.h"
 
-#include "backends/portable/site.h"
+#include "backends/site/site.h"
 #include "sample/day_profile.h"
 #include "sample/random.h"
 #include "support/error_of.h"

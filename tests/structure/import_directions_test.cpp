@@ -32,10 +32,10 @@ const Layers core = {"runtime", "text",   "platform", "controls", "console",  "c
 /// What stands beside the house, and what each of it may know.
 const std::map<std::string, Layers> annexes = {
     {"cabmaker", {"runtime", "text", "system"}},
-    {"backends/portable", {"runtime", "text", "system", "platform"}},
+    {"backends/site", {"runtime", "text", "system", "platform"}},
     {"backends/jet", {"runtime", "text", "system", "platform"}},
     {"backends/windows", {"runtime", "text", "system", "platform"}},
-    {"sample", {"runtime", "text", "system", "platform", "backends/portable"}},
+    {"sample", {"runtime", "text", "system", "platform", "backends/site"}},
 };
 
 /// What a folder may include besides itself; nothing for one that has no rule.

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "backends/portable/language_catalogue.h"
+#include "backends/site/language/language_catalogue.h"
 #include "core/string_table.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "hosts/cli/known_names.h"
 
-#include "backends/portable/site_database.h"
-#include "backends/portable/sqlite_handle.h"
+#include "backends/site/database/site_database.h"
+#include "backends/site/database/sqlite_handle.h"
 #include "core/localisation.h"
 #include "core/utility.h"
 #include "platform/file_system.h"

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "backends/jet/jet_engine.h"
-#include "backends/portable/site.h"
-#include "backends/portable/site_turn.h"
+#include "backends/site/site.h"
+#include "backends/site/site_turn.h"
 #include "console/console.h"
 #include "core/tool_context.h"
 #include "hosts/cli/command.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/portable/site_host_module.h"
+#include "backends/site/site_host_module.h"
 #include "hosts/cli/command.h"
 
 #include <memory>

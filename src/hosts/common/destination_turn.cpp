@@ -1,6 +1,6 @@
 #include "hosts/common/destination_turn.h"
 
-#include "backends/portable/result_folder.h"
+#include "backends/site/files/result_folder.h"
 #include "hosts/common/gather_outcome.h"
 #include "platform/file_system.h"
 #include "runtime/run_time_error.h"

@@ -1,6 +1,6 @@
 #include "hosts/common/gather_outcome.h"
 
-#include "backends/portable/result_folder.h"
+#include "backends/site/files/result_folder.h"
 #include "core/error_trap.h"
 #include "core/registry_store.h"
 #include "gather/logs.h"

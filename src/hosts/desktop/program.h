@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/portable/site_host_module.h"
+#include "backends/site/site_host_module.h"
 #include "hosts/desktop/desktop_services.h"
 #include "hosts/desktop/interface_language.h"
 #include "hosts/desktop/main_window.h"

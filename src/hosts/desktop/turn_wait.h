@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/portable/site_turn.h"
+#include "backends/site/site_turn.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 #include "hosts/common/destination_turn.h"
 
-#include "backends/portable/site_file_system.h"
+#include "backends/site/files/site_file_system.h"
 #include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>

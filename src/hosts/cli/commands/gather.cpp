@@ -1,4 +1,4 @@
-#include "backends/portable/site_event_log_exporter.h"
+#include "backends/site/events/site_event_log_exporter.h"
 #include "core/registry_store.h"
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"

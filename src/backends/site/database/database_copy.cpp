@@ -1,0 +1,61 @@
+#include "backends/site/database/database_copy.h"
+
+#include "runtime/run_time_error.h"
+#include "system/posix_errors.h"
+#include "system/whole_file.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <system_error>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using runTimeErrors::fileNotFound;
+
+std::string newTemporaryFolder()
+{
+    std::error_code none;
+    std::string name = (fs::temp_directory_path(none) / "orvandiag-XXXXXX").string();
+    if (::mkdtemp(name.data()) == nullptr) throw posixError(errno, runTimeErrors::pathNotFound);
+    return name;
+}
+
+/// The copy may be written to, whoever may write to what it was made from.
+void copyForWriting(const FileDescriptor& source, const std::string& target)
+{
+    copyWholeFile(source, RootFolder(folderPathOf(target)), lastNameOf(target));
+    std::error_code none;
+    fs::permissions(target, fs::perms::owner_write, fs::perm_options::add, none);
+}
+
+} // namespace
+
+DatabaseCopy::DatabaseCopy(const std::string& file)
+    : folder_(newTemporaryFolder()), path_(folder_ + "/database")
+{
+    try {
+        const RootFolder folder(folderPathOf(file));
+        const std::string name = lastNameOf(file);
+        // A log that is copied first holds what the database may have taken over since, which does
+        // no harm; the other way round rows would be lost.
+        for (const char* ending : {"-wal", "-journal"})
+            if (folder.ownFacts(name + ending))
+                copyForWriting(folder.openFile(name + ending, O_RDONLY | O_NOFOLLOW, fileNotFound),
+                               path_ + ending);
+        copyForWriting(folder.openFile(name, O_RDONLY | O_NOFOLLOW, fileNotFound), path_);
+    } catch (...) {
+        std::error_code none;
+        fs::remove_all(folder_, none);
+        throw;
+    }
+}
+
+DatabaseCopy::~DatabaseCopy()
+{
+    std::error_code none;
+    fs::remove_all(folder_, none);
+}

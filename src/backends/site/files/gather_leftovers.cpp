@@ -1,0 +1,222 @@
+#include "backends/site/files/gather_leftovers.h"
+
+#include "runtime/run_time_error.h"
+#include "system/whole_file.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+constexpr std::string_view directiveFile = "ZMK.DDF";
+constexpr std::string_view cabinetMakerCopy = "cabmaker.exe";
+constexpr std::string_view diskFolder = "disk1";
+constexpr std::string_view setupList = "setup.inf";
+constexpr std::string_view setupReport = "setup.rpt";
+
+constexpr std::string_view lineEnd = "\r\n";
+constexpr std::size_t longestText = 1U << 20;
+constexpr std::size_t longestProgram = 64U << 20;
+
+bool startsWith(std::string_view text, std::string_view start)
+{
+    return text.substr(0, start.size()) == start;
+}
+
+bool endsWith(std::string_view text, std::string_view end)
+{
+    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
+}
+
+bool isNumber(std::string_view text)
+{
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+/// Whether a name is NAME_WPN_YYYYMMDD_HHMMSS, with what stands before `ending`, and that ending.
+bool isResult(std::string_view name, std::string_view ending)
+{
+    constexpr std::string_view mark = "_WPN_";
+    constexpr std::size_t dateSize = 8;
+    constexpr std::size_t stampSize = 15;
+    const auto at = name.rfind(mark);
+    if (at == std::string_view::npos || !endsWith(name, ending)) return false;
+    name.remove_prefix(at + mark.size());
+    name.remove_suffix(std::min(ending.size(), name.size()));
+    if (name.size() < stampSize || name[dateSize] != '_' || !isNumber(name.substr(0, dateSize)) ||
+        !isNumber(name.substr(dateSize + 1, stampSize - dateSize - 1)))
+        return false;
+    name.remove_prefix(stampSize);
+    return name.empty() || (name.front() == '_' && isNumber(name.substr(1)));
+}
+
+/// Takes a line with its end off a text; nothing when the text has no whole line.
+std::optional<std::string_view> takeLine(std::string_view& text)
+{
+    const auto end = text.find(lineEnd);
+    if (end == std::string_view::npos) return {};
+    const auto line = text.substr(0, end);
+    text.remove_prefix(end + lineEnd.size());
+    return line;
+}
+
+/// The line of a file to pack, in quotation marks.
+bool isMember(std::string_view line)
+{
+    if (line.size() < 2 || line.front() != '"' || line.back() != '"') return false;
+    line = line.substr(1, line.size() - 2);
+    const auto separator = line.rfind('\\');
+    if (separator == std::string_view::npos) return false;
+    line.remove_prefix(separator + 1);
+    return line == "Application.csv" || line == "System.csv" || isResult(line, ".mdb");
+}
+
+bool isListOfACabinet(std::string_view text)
+{
+    constexpr std::string_view cabinets = "\r\n[cabinets]\r\n; number,disk,file\r\n1,1,\"";
+    const auto at = text.find(cabinets);
+    if (!startsWith(text, "[disks]\r\n; number,folder\r\n1,\"disk1\"") ||
+        at == std::string_view::npos)
+        return false;
+    text.remove_prefix(at + cabinets.size());
+    return isCabinetOfAGather(text.substr(0, text.find('"')));
+}
+
+bool isReportOnACabinet(std::string_view text)
+{
+    constexpr std::string_view title = "Cabinet         ";
+    const auto line = takeLine(text);
+    return line && startsWith(*line, title) && isCabinetOfAGather(line->substr(title.size())) &&
+           text.find("Compression     MSZIP\r\n") != std::string_view::npos;
+}
+
+/// Whether a name is one that the cabinet maker gives to what it has not finished, and the program
+/// that gave it lives no more: NAME.PROCESS-NUMBER.tmp.
+bool isUnfinished(std::string_view name)
+{
+    constexpr std::string_view ending = ".tmp";
+    constexpr std::size_t mostDigits = 9;
+    if (!endsWith(name, ending)) return false;
+    name.remove_suffix(ending.size());
+    const auto dash = name.rfind('-');
+    const auto point = name.rfind('.');
+    if (dash == std::string_view::npos || point == std::string_view::npos || dash < point)
+        return false;
+    const auto process = name.substr(point + 1, dash - point - 1);
+    const auto target = name.substr(0, point);
+    if (!isNumber(process) || process.size() > mostDigits || !isNumber(name.substr(dash + 1)))
+        return false;
+    const bool ours = target == setupList || target == setupReport || isCabinetOfAGather(target);
+    const auto number = static_cast<pid_t>(std::stol(std::string(process)));
+    return ours && number > 0 && ::kill(number, 0) != 0 && errno == ESRCH;
+}
+
+/// A sweep of one folder.
+class Sweep {
+public:
+    Sweep(const RootFolder& folder, const std::function<std::string()>& cabinetMaker)
+        : folder_(folder), cabinetMaker_(cabinetMaker)
+    {}
+
+    void run()
+    {
+        bool proved = false;
+        for (const auto& name : folder_.names("")) proved = removeIfLeft(name) || proved;
+        // An empty folder tells nothing by itself.
+        const std::string disk(diskFolder);
+        const auto facts = ownFacts(disk);
+        if (proved && facts && S_ISDIR(facts->st_mode)) folder_.removeEmptyFolder(disk);
+    }
+
+private:
+    /// What may not be looked at or removed stays.
+    bool removeIfLeft(const std::string& name) const
+    try {
+        const bool left = isLeft(name);
+        if (left) folder_.removeFile(name);
+        return left;
+    } catch (const RunTimeError&) {
+        return false;
+    }
+
+    /// Of what is this user's own.
+    std::optional<struct stat> ownFacts(const std::string& name) const
+    {
+        auto facts = folder_.ownFacts(name);
+        if (facts && facts->st_uid != ::geteuid()) facts.reset();
+        return facts;
+    }
+
+    bool isLeft(const std::string& name) const
+    {
+        if (isUnfinished(name)) return isPlain(name);
+        if (name == directiveFile) return isPlain(name) && isDirectiveFileOfAGather(text(name));
+        if (name == setupList) return isPlain(name) && isListOfACabinet(text(name));
+        if (name == setupReport) return isPlain(name) && isReportOnACabinet(text(name));
+        if (name != cabinetMakerCopy || !isPlain(name)) return false;
+        const std::string program = text(name, longestProgram);
+        return !program.empty() && program == cabinetMaker_();
+    }
+
+    bool isPlain(const std::string& name) const
+    {
+        const auto facts = ownFacts(name);
+        return facts && S_ISREG(facts->st_mode);
+    }
+
+    std::string text(const std::string& name, std::size_t limit = longestText) const
+    {
+        return readWholeFile(folder_, name, runTimeErrors::fileNotFound, limit);
+    }
+
+    const RootFolder& folder_;
+    const std::function<std::string()>& cabinetMaker_;
+};
+
+} // namespace
+
+bool isCabinetOfAGather(std::string_view name)
+{
+    return isResult(name, ".cab");
+}
+
+bool isDirectiveFileOfAGather(std::string_view text)
+{
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    constexpr std::string_view cabinet = ".Set CabinetNameTemplate=..\\";
+    constexpr std::array<std::string_view, 5> heads = {".Option EXPLICIT", cabinet,
+                                                       ".Set Cabinet=on", ".Set Compress=on",
+                                                       ".Set MaxDiskSize=CDROM"};
+    if (startsWith(text, mark)) text.remove_prefix(mark.size());
+    if (text.empty()) return true;
+    bool ours = false;
+    for (const auto head : heads) {
+        const auto line = takeLine(text);
+        const bool named = head == cabinet;
+        if (!line) return ours && startsWith(head, text);
+        const bool fits =
+            named ? startsWith(*line, head) && isCabinetOfAGather(line->substr(head.size()))
+                  : *line == head;
+        if (!fits) return false;
+        ours = ours || named;
+    }
+    while (const auto line = takeLine(text))
+        if (!isMember(*line)) return false;
+    return text.empty() || text.front() == '"';
+}
+
+void sweepGatherLeftovers(const RootFolder& folder,
+                          const std::function<std::string()>& cabinetMaker)
+{
+    try {
+        Sweep(folder, cabinetMaker).run();
+    } catch (const RunTimeError&) {
+        return; // a folder that may not be listed keeps what it has
+    }
+}
