@@ -1,7 +1,7 @@
 #include "hosts/cli/command.h"
-#include "hosts/cli/message.h"
-#include "hosts/cli/output.h"
 #include "hosts/cli/program.h"
+#include "hosts/cli/terminal/message.h"
+#include "hosts/cli/terminal/output.h"
 #include "runtime/out_of_memory.h"
 #include "runtime/run_time_error.h"
 

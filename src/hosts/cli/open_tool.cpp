@@ -1,7 +1,7 @@
 #include "hosts/cli/open_tool.h"
 
-#include "hosts/cli/message.h"
 #include "hosts/cli/program.h"
+#include "hosts/cli/terminal/message.h"
 #include "hosts/common/places.h"
 #include "shell/snapin_definition.h"
 

@@ -1,7 +1,7 @@
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/open_tool.h"
-#include "hosts/cli/output.h"
+#include "hosts/cli/terminal/output.h"
 #include "settings/about_box.h"
 
 namespace {

@@ -1,8 +1,8 @@
 #include "controls/controls.h"
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
-#include "hosts/cli/output.h"
-#include "hosts/cli/sheet_driver.h"
+#include "hosts/cli/driving/sheet_driver.h"
+#include "hosts/cli/terminal/output.h"
 #include "runtime/text.h"
 #include "settings/event_log_language.h"
 

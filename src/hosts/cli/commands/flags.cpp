@@ -1,9 +1,9 @@
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
-#include "hosts/cli/flag_words.h"
-#include "hosts/cli/known_names.h"
+#include "hosts/cli/driving/flag_words.h"
+#include "hosts/cli/driving/known_names.h"
 #include "hosts/cli/open_tool.h"
-#include "hosts/cli/output.h"
+#include "hosts/cli/terminal/output.h"
 #include "platform/database.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/log_folder.h"
 #include "hosts/cli/open_tool.h"
-#include "hosts/cli/output.h"
+#include "hosts/cli/terminal/output.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 

@@ -1,7 +1,7 @@
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
-#include "hosts/cli/manual_page.h"
-#include "hosts/cli/output.h"
+#include "hosts/cli/manual/manual_page.h"
+#include "hosts/cli/terminal/output.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/open_tool.h"
-#include "hosts/cli/output.h"
+#include "hosts/cli/terminal/output.h"
 #include "hosts/common/shown_width.h"
 #include "platform/file_system.h"
 #include "runtime/numbers.h"

@@ -1,10 +1,10 @@
 #include "controls/controls.h"
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
+#include "hosts/cli/driving/trace_check.h"
+#include "hosts/cli/driving/wizard_driver.h"
 #include "hosts/cli/open_tool.h"
-#include "hosts/cli/output.h"
-#include "hosts/cli/trace_check.h"
-#include "hosts/cli/wizard_driver.h"
+#include "hosts/cli/terminal/output.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "hosts/cli/flag_words.h"
+#include "hosts/cli/driving/flag_words.h"
 
 #include "platform/database.h"
 

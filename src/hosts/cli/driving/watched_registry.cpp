@@ -1,4 +1,4 @@
-#include "hosts/cli/watched_registry.h"
+#include "hosts/cli/driving/watched_registry.h"
 
 #include "runtime/run_time_error.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hosts/cli/command_tree.h"
+#include "hosts/cli/manual/command_tree.h"
 
 #include <string>
 

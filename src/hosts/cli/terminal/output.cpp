@@ -1,7 +1,7 @@
-#include "hosts/cli/output.h"
+#include "hosts/cli/terminal/output.h"
 
 #include "hosts/cli/command.h"
-#include "hosts/cli/message.h"
+#include "hosts/cli/terminal/message.h"
 #include "hosts/common/shown_width.h"
 #include "runtime/visible_text.h"
 

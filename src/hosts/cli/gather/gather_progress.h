@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/controls.h"
-#include "hosts/cli/progress_line.h"
+#include "hosts/cli/terminal/progress_line.h"
 
 /// Draws a gather's controls as one line: all logs as the bar, the current one as its caption.
 class GatherProgress final : public ControlObserver {

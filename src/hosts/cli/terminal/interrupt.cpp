@@ -1,4 +1,4 @@
-#include "hosts/cli/interrupt.h"
+#include "hosts/cli/terminal/interrupt.h"
 
 #include <csignal>
 

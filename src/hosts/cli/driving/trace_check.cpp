@@ -1,7 +1,7 @@
-#include "hosts/cli/trace_check.h"
+#include "hosts/cli/driving/trace_check.h"
 
-#include "hosts/cli/message.h"
-#include "hosts/cli/output.h"
+#include "hosts/cli/terminal/message.h"
+#include "hosts/cli/terminal/output.h"
 #include "platform/database.h"
 #include "system/whole_file.h"
 #include "traces/trace_bits.h"

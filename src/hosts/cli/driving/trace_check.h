@@ -1,7 +1,7 @@
 #pragma once
 
+#include "hosts/cli/driving/trace_expectation.h"
 #include "hosts/cli/open_tool.h"
-#include "hosts/cli/trace_expectation.h"
 
 #include <cstdint>
 #include <string>

@@ -1,4 +1,4 @@
-#include "hosts/cli/sheet_driver.h"
+#include "hosts/cli/driving/sheet_driver.h"
 
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"

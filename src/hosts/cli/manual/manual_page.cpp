@@ -1,4 +1,4 @@
-#include "hosts/cli/manual_page.h"
+#include "hosts/cli/manual/manual_page.h"
 
 #include "hosts/cli/program.h"
 #include "runtime/text.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hosts/cli/flag_words.h"
+#include "hosts/cli/driving/flag_words.h"
 
 #include <cstdint>
 #include <map>

@@ -1,6 +1,6 @@
-#include "hosts/cli/gather_wizard.h"
+#include "hosts/cli/gather/gather_wizard.h"
 
-#include "hosts/cli/gather_run.h"
+#include "hosts/cli/gather/gather_run.h"
 #include "runtime/text.h"
 #include "wizards/gather_progress.h"
 #include "wizards/gather_welcome.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "hosts/cli/open_tool.h"
-#include "hosts/cli/output.h"
+#include "hosts/cli/terminal/output.h"
 
 #include <string>
 

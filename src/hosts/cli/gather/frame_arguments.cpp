@@ -1,4 +1,4 @@
-#include "hosts/cli/frame_arguments.h"
+#include "hosts/cli/gather/frame_arguments.h"
 
 #include "hosts/cli/command.h"
 #include "runtime/run_time_error.h"

@@ -1,9 +1,9 @@
-#include "hosts/cli/gather_preview.h"
+#include "hosts/cli/gather/gather_preview.h"
 
 #include "gather/logs.h"
-#include "hosts/cli/gather_wizard.h"
+#include "hosts/cli/gather/gather_wizard.h"
 #include "hosts/cli/log_folder.h"
-#include "hosts/cli/output.h"
+#include "hosts/cli/terminal/output.h"
 #include "platform/file_system.h"
 #include "runtime/run_time_error.h"
 

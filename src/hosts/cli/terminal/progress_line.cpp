@@ -1,4 +1,4 @@
-#include "hosts/cli/progress_line.h"
+#include "hosts/cli/terminal/progress_line.h"
 
 #include "runtime/visible_text.h"
 

@@ -1,4 +1,4 @@
-#include "hosts/cli/wizard_driver.h"
+#include "hosts/cli/driving/wizard_driver.h"
 
 WizardDriver::WizardDriver(OpenTool& tool, const std::string& taskKey)
 {

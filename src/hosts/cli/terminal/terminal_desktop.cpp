@@ -1,6 +1,6 @@
-#include "hosts/cli/terminal_desktop.h"
+#include "hosts/cli/terminal/terminal_desktop.h"
 
-#include "hosts/cli/message.h"
+#include "hosts/cli/terminal/message.h"
 #include "runtime/text.h"
 
 void TerminalDesktop::messageBox(const std::string& text, const std::string&, MessageIcon icon)

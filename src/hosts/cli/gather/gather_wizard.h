@@ -2,7 +2,7 @@
 
 #include "controls/controls.h"
 #include "gather/time_frame.h"
-#include "hosts/cli/wizard_driver.h"
+#include "hosts/cli/driving/wizard_driver.h"
 
 #include <string>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "hosts/cli/known_names.h"
+#include "hosts/cli/driving/known_names.h"
 
 #include "backends/site/database/site_database.h"
 #include "backends/site/database/sqlite_handle.h"

@@ -1,4 +1,4 @@
-#include "hosts/cli/message.h"
+#include "hosts/cli/terminal/message.h"
 
 #include "runtime/visible_text.h"
 

@@ -1,4 +1,4 @@
-#include "hosts/cli/trace_expectation.h"
+#include "hosts/cli/driving/trace_expectation.h"
 
 #include "controls/tree_view.h"
 #include "core/registry_store.h"

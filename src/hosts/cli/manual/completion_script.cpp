@@ -1,4 +1,4 @@
-#include "hosts/cli/completion_script.h"
+#include "hosts/cli/manual/completion_script.h"
 
 #include <map>
 #include <set>

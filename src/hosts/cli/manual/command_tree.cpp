@@ -1,4 +1,4 @@
-#include "hosts/cli/command_tree.h"
+#include "hosts/cli/manual/command_tree.h"
 
 #include "runtime/text.h"
 

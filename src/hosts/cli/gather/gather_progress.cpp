@@ -1,4 +1,4 @@
-#include "hosts/cli/gather_progress.h"
+#include "hosts/cli/gather/gather_progress.h"
 
 GatherProgress::GatherProgress(Label& step, ProgressBar& current, ProgressBar& overall)
     : step_(step), current_(current), overall_(overall)

@@ -1,7 +1,7 @@
-#include "hosts/cli/gather_run.h"
+#include "hosts/cli/gather/gather_run.h"
 
-#include "hosts/cli/gather_progress.h"
-#include "hosts/cli/gather_wizard.h"
+#include "hosts/cli/gather/gather_progress.h"
+#include "hosts/cli/gather/gather_wizard.h"
 #include "hosts/common/destination_turn.h"
 #include "hosts/common/gather_outcome.h"
 
