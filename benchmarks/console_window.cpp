@@ -13,12 +13,12 @@
 #include "page_through.h"
 
 #include "console/console.h"
-#include "hosts/desktop/console_pane.h"
-#include "hosts/desktop/list_table.h"
-#include "hosts/desktop/log_view.h"
+#include "hosts/desktop/log/list_table.h"
+#include "hosts/desktop/log/log_view.h"
 #include "hosts/desktop/program.h"
 #include "hosts/desktop/run_console.h"
-#include "hosts/desktop/scope_model.h"
+#include "hosts/desktop/window/console_pane.h"
+#include "hosts/desktop/window/scope_model.h"
 
 #include <QApplication>
 #include <QTreeView>

@@ -1,7 +1,7 @@
 #include "page_through.h"
 
-#include "hosts/desktop/list_table.h"
-#include "hosts/desktop/log_view.h"
+#include "hosts/desktop/log/list_table.h"
+#include "hosts/desktop/log/log_view.h"
 
 #include <QAbstractTableModel>
 #include <QApplication>

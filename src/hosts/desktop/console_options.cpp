@@ -1,6 +1,6 @@
 #include "hosts/desktop/console_options.h"
 
-#include "hosts/desktop/commands.h"
+#include "hosts/desktop/window/commands.h"
 #include "runtime/visible_text.h"
 
 #include <QCommandLineParser>

@@ -1,7 +1,7 @@
 #include "hosts/desktop/program.h"
 
-#include "hosts/desktop/recent_sites.h"
 #include "hosts/desktop/turn_wait.h"
+#include "hosts/desktop/window/recent_sites.h"
 #include "runtime/run_time_error.h"
 #include "sample/sample_server.h"
 

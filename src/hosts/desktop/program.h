@@ -2,9 +2,9 @@
 
 #include "backends/site/site_host_module.h"
 #include "hosts/desktop/desktop_services.h"
-#include "hosts/desktop/interface_language.h"
-#include "hosts/desktop/main_window.h"
+#include "hosts/desktop/look/interface_language.h"
 #include "hosts/desktop/open_tool.h"
+#include "hosts/desktop/window/main_window.h"
 
 #include <memory>
 #include <string>

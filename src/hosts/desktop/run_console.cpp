@@ -2,10 +2,10 @@
 
 #include "hosts/common/places.h"
 #include "hosts/desktop/console_options.h"
-#include "hosts/desktop/end_wish.h"
+#include "hosts/desktop/look/theme.h"
 #include "hosts/desktop/program.h"
-#include "hosts/desktop/screenshot.h"
-#include "hosts/desktop/theme.h"
+#include "hosts/desktop/window/end_wish.h"
+#include "hosts/desktop/window/screenshot.h"
 #include "runtime/visible_text.h"
 
 #include <QAction>

@@ -1,7 +1,7 @@
 // What a screen reader is told, through the interfaces that it asks.
-#include "hosts/desktop/find_bar.h"
-#include "hosts/desktop/list_table.h"
-#include "hosts/desktop/log_view.h"
+#include "hosts/desktop/log/find_bar.h"
+#include "hosts/desktop/log/list_table.h"
+#include "hosts/desktop/log/log_view.h"
 #include "hosts/desktop/test_window.h"
 
 #include <QAccessible>

@@ -1,6 +1,6 @@
 #include "hosts/desktop/cut_texts.h"
 
-#include "hosts/desktop/task_card.h"
+#include "hosts/desktop/window/task_card.h"
 
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>

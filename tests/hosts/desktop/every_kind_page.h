@@ -4,7 +4,7 @@
 #include "console/plain_sheet.h"
 #include "console/wizard_sheet.h"
 #include "controls/controls.h"
-#include "hosts/desktop/sheet_dialog.h"
+#include "hosts/desktop/sheets/sheet_dialog.h"
 #include "hosts/desktop/test_window.h"
 #include "runtime/run_time_error.h"
 

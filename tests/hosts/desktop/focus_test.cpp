@@ -1,11 +1,11 @@
 // Where the keys go can be seen.
-#include "hosts/desktop/list_table.h"
-#include "hosts/desktop/log_view.h"
+#include "hosts/desktop/log/list_table.h"
+#include "hosts/desktop/log/log_view.h"
+#include "hosts/desktop/look/theme.h"
 #include "hosts/desktop/open_program.h"
 #include "hosts/desktop/person.h"
-#include "hosts/desktop/task_card.h"
-#include "hosts/desktop/task_pad_view.h"
-#include "hosts/desktop/theme.h"
+#include "hosts/desktop/window/task_card.h"
+#include "hosts/desktop/window/task_pad_view.h"
 
 #include <QTreeView>
 

@@ -1,7 +1,7 @@
 #include "backends/jet/outside_readers.h"
 #include "hosts/desktop/open_program.h"
 #include "hosts/desktop/person.h"
-#include "hosts/desktop/sheet_dialog.h"
+#include "hosts/desktop/sheets/sheet_dialog.h"
 
 #include <QAbstractButton>
 #include <QLabel>

@@ -3,7 +3,7 @@
 #include "hosts/desktop/open_program.h"
 #include "hosts/desktop/outside_view.h"
 #include "hosts/desktop/person.h"
-#include "hosts/desktop/sheet_dialog.h"
+#include "hosts/desktop/sheets/sheet_dialog.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>

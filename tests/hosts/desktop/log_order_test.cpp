@@ -1,10 +1,10 @@
 // What stays when the rows of a log come in another order, or those of another log come.
 #include "console/list_view.h"
-#include "hosts/desktop/filter_bar.h"
-#include "hosts/desktop/filter_button.h"
-#include "hosts/desktop/find_bar.h"
-#include "hosts/desktop/list_table.h"
-#include "hosts/desktop/log_view.h"
+#include "hosts/desktop/log/filter_bar.h"
+#include "hosts/desktop/log/filter_button.h"
+#include "hosts/desktop/log/find_bar.h"
+#include "hosts/desktop/log/list_table.h"
+#include "hosts/desktop/log/log_view.h"
 #include "hosts/desktop/test_window.h"
 
 #include <QHeaderView>

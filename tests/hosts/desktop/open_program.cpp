@@ -1,8 +1,8 @@
 #include "hosts/desktop/open_program.h"
 
 #include "hosts/desktop/person.h"
-#include "hosts/desktop/sheet_dialog.h"
-#include "hosts/desktop/task_pad_view.h"
+#include "hosts/desktop/sheets/sheet_dialog.h"
+#include "hosts/desktop/window/task_pad_view.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "hosts/desktop/moment_field.h"
 #include "hosts/desktop/program.h"
+#include "hosts/desktop/sheets/moment_field.h"
 #include "hosts/desktop/test_window.h"
 
 class QLineEdit;

@@ -1,4 +1,4 @@
-#include "hosts/desktop/plain_tool_tip.h"
+#include "hosts/desktop/look/plain_tool_tip.h"
 #include "hosts/desktop/test_window.h"
 
 #include <QLabel>

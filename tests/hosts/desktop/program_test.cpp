@@ -1,8 +1,8 @@
 #include "hosts/desktop/program.h"
 
-#include "hosts/desktop/about_dialog.h"
-#include "hosts/desktop/recent_sites.h"
 #include "hosts/desktop/test_window.h"
+#include "hosts/desktop/window/about_dialog.h"
+#include "hosts/desktop/window/recent_sites.h"
 #include "settings/about_box.h"
 
 #include <QAction>

@@ -1,11 +1,11 @@
 #include "end_to_end/site_record.h"
-#include "hosts/desktop/list_table.h"
-#include "hosts/desktop/log_view.h"
-#include "hosts/desktop/notice_bar.h"
+#include "hosts/desktop/log/list_table.h"
+#include "hosts/desktop/log/log_view.h"
+#include "hosts/desktop/look/notice_bar.h"
 #include "hosts/desktop/open_program.h"
 #include "hosts/desktop/outside_view.h"
 #include "hosts/desktop/person.h"
-#include "hosts/desktop/sheet_dialog.h"
+#include "hosts/desktop/sheets/sheet_dialog.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

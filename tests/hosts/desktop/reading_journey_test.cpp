@@ -1,8 +1,8 @@
-#include "hosts/desktop/filter_bar.h"
-#include "hosts/desktop/filter_button.h"
-#include "hosts/desktop/find_bar.h"
-#include "hosts/desktop/list_table.h"
-#include "hosts/desktop/log_view.h"
+#include "hosts/desktop/log/filter_bar.h"
+#include "hosts/desktop/log/filter_button.h"
+#include "hosts/desktop/log/find_bar.h"
+#include "hosts/desktop/log/list_table.h"
+#include "hosts/desktop/log/log_view.h"
 #include "hosts/desktop/open_program.h"
 #include "hosts/desktop/person.h"
 

@@ -1,8 +1,8 @@
-#include "hosts/desktop/help_window.h"
 #include "hosts/desktop/open_program.h"
 #include "hosts/desktop/outside_view.h"
 #include "hosts/desktop/person.h"
-#include "hosts/desktop/sheet_dialog.h"
+#include "hosts/desktop/sheets/sheet_dialog.h"
+#include "hosts/desktop/window/help_window.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

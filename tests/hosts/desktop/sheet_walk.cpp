@@ -1,8 +1,8 @@
 #include "hosts/desktop/sheet_walk.h"
 
 #include "console/wizard_sheet.h"
-#include "hosts/desktop/moment_field.h"
-#include "hosts/desktop/sheet_dialog.h"
+#include "hosts/desktop/sheets/moment_field.h"
+#include "hosts/desktop/sheets/sheet_dialog.h"
 
 #include <QAction>
 #include <QProgressBar>

@@ -1,7 +1,7 @@
 #include "hosts/desktop/test_window.h"
 
 #include "console/console.h"
-#include "hosts/desktop/theme.h"
+#include "hosts/desktop/look/theme.h"
 #include "settings/about_box.h"
 
 #include <QTimer>

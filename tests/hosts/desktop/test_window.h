@@ -1,8 +1,8 @@
 #pragma once
 
-#include "hosts/desktop/console_pane.h"
-#include "hosts/desktop/main_window.h"
 #include "hosts/desktop/open_tool.h"
+#include "hosts/desktop/window/console_pane.h"
+#include "hosts/desktop/window/main_window.h"
 #include "sample/sample_server.h"
 #include "support/fake_desktop.h"
 #include "support/temporary_folder.h"

@@ -1,4 +1,4 @@
-#include "hosts/desktop/mnemonics.h"
+#include "hosts/desktop/sheets/mnemonics.h"
 #include "hosts/desktop/translation_file.h"
 
 #include <QRegularExpression>

@@ -2,7 +2,7 @@
 
 #include "hosts/desktop/open_program.h"
 #include "hosts/desktop/person.h"
-#include "hosts/desktop/sheet_dialog.h"
+#include "hosts/desktop/sheets/sheet_dialog.h"
 #include "system/file_descriptor.h"
 
 #include <QAction>

@@ -1,14 +1,14 @@
 #include "hosts/desktop/window_tour.h"
 
 #include "console/console.h"
-#include "hosts/desktop/about_dialog.h"
-#include "hosts/desktop/filter_button.h"
-#include "hosts/desktop/help_window.h"
-#include "hosts/desktop/key_list.h"
-#include "hosts/desktop/list_table.h"
-#include "hosts/desktop/log_view.h"
-#include "hosts/desktop/sheet_dialog.h"
+#include "hosts/desktop/log/filter_button.h"
+#include "hosts/desktop/log/list_table.h"
+#include "hosts/desktop/log/log_view.h"
 #include "hosts/desktop/sheet_walk.h"
+#include "hosts/desktop/sheets/sheet_dialog.h"
+#include "hosts/desktop/window/about_dialog.h"
+#include "hosts/desktop/window/help_window.h"
+#include "hosts/desktop/window/key_list.h"
 #include "settings/about_box.h"
 
 #include <QAction>

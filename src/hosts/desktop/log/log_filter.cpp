@@ -1,0 +1,73 @@
+#include "hosts/desktop/log/log_filter.h"
+
+#include "console/list_view.h"
+
+#include <algorithm>
+#include <numeric>
+#include <string_view>
+#include <unordered_map>
+
+namespace {
+
+bool passes(ListItem row, const ColumnCondition& condition)
+{
+    if (condition.values.empty()) return true;
+    const std::string_view value = row.subItem(condition.column);
+    const bool named = std::find(condition.values.begin(), condition.values.end(), value) !=
+                       condition.values.end();
+    return named != condition.exclude;
+}
+
+bool holds(ListItem row, const TextMatcher& matcher)
+{
+    for (int column = 2; column <= row.subItemCount(); ++column)
+        if (matcher.in(row.subItem(column))) return true;
+    return matcher.in(row.note());
+}
+
+} // namespace
+
+bool LogFilter::passesAll() const
+{
+    return text.empty() && std::all_of(columns.begin(), columns.end(), [](const auto& condition) {
+               return condition.values.empty();
+           });
+}
+
+std::vector<std::uint32_t> LogFilter::places(ListView& list) const
+{
+    const auto count = static_cast<std::uint32_t>(list.itemCount());
+    std::vector<std::uint32_t> passing;
+    if (passesAll()) {
+        passing.resize(count);
+        std::iota(passing.begin(), passing.end(), 1U);
+        return passing;
+    }
+    for (std::uint32_t place = 1; place <= count; ++place) {
+        const ListItem row = list.shown(static_cast<int>(place));
+        const bool wanted = std::all_of(columns.begin(), columns.end(), [&](const auto& condition) {
+            return passes(row, condition);
+        });
+        if (wanted && (text.empty() || holds(row, text) != excludeText)) passing.push_back(place);
+    }
+    return passing;
+}
+
+bool rowHolds(ListView& list, std::uint32_t place, const TextMatcher& matcher)
+{
+    return holds(list.shown(static_cast<int>(place)), matcher);
+}
+
+std::vector<ColumnValue> valuesOf(ListView& list, int column)
+{
+    std::unordered_map<std::string_view, int> counts;
+    for (int index = 1; index <= list.itemCount(); ++index)
+        ++counts[list.item(index).subItem(column)];
+    std::vector<ColumnValue> values;
+    values.reserve(counts.size());
+    for (const auto& [text, rows] : counts) values.push_back({std::string(text), rows});
+    std::sort(values.begin(), values.end(), [](const auto& left, const auto& right) {
+        return left.rows != right.rows ? left.rows > right.rows : left.text < right.text;
+    });
+    return values;
+}

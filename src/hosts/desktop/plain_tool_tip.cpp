@@ -1,8 +1,0 @@
-#include "hosts/desktop/plain_tool_tip.h"
-
-#include <QTextDocument>
-
-QString plainToolTip(const QString& text)
-{
-    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
-}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "hosts/desktop/sheets/control_view.h"
+
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+class QBoxLayout;
+class QGridLayout;
+class SheetPage;
+struct PageControl;
+
+/// A page of a sheet, laid out by the roles of its controls.
+class PageWidget final : public QWidget {
+public:
+    /// `page` outlives the widget. `banner` puts title and description on a band at the top, as
+    /// wizards have it. `taken` are captions with the letters that the sheet's own buttons use.
+    PageWidget(SheetPage& page, bool banner, QStringList taken, const ActOnControl& act,
+               QWidget* parent = nullptr);
+    ~PageWidget() override;
+
+    /// Shows all controls as they stand.
+    void showState();
+
+    /// Takes what the person has begun to type. False where that is no value: then its control,
+    /// which has said so, has the focus.
+    bool finishEditing();
+
+    /// Says in a sentence what was not done; an empty one has nothing more to say.
+    std::function<void(const LiveSentence& sentence)> onSaid;
+
+    /// Puts the focus on the first control that takes it; false when there is none.
+    bool focusFirst();
+
+private:
+    void addBanner();
+    void addControls();
+    void addField(QGridLayout& grid, std::size_t& place);
+    void addActions(QBoxLayout& column, std::size_t& place);
+    void addFramed(QBoxLayout& column, std::size_t& place);
+    void markLetters();
+    bool isBanner(std::size_t place) const;
+
+    SheetPage& page_;
+    QStringList taken_;
+    std::vector<std::unique_ptr<ControlView>> views_; ///< by place of the control; null for timers
+    QBoxLayout* column_ = nullptr;
+    bool banner_ = false;
+    bool marking_ = false;
+};

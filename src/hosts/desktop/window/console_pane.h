@@ -1,0 +1,128 @@
+#pragma once
+
+#include "hosts/desktop/log/list_model.h"
+#include "hosts/desktop/look/interface_language.h"
+#include "hosts/desktop/window/quiet_observer.h"
+#include "text/code_page.h"
+
+#include <QFont>
+#include <QPersistentModelIndex>
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+#include <string>
+
+class Console;
+class ListTable;
+class LogView;
+class QSettings;
+class QSplitter;
+class QStackedWidget;
+class QTreeView;
+class ScopeModel;
+class SheetDialog;
+class TaskPadView;
+
+/// The tree and the result view of one console: shows what the console tells and carries back what
+/// the person does.
+class ConsolePane final : public QWidget, private QuietObserver {
+    Q_OBJECT
+
+public:
+    /// `console` and `settings` outlive the pane. `site` names the server for bookmarks.
+    ConsolePane(Console& console, const CodePage& codePage, const QString& site,
+                QSettings& settings, QWidget* parent = nullptr);
+    ~ConsolePane() override;
+
+    /// Does something with the console, and shows afterwards what came of it. While the console is
+    /// at work a further call is dropped: it takes one event at a time. A run-time error becomes a
+    /// sentence.
+    void perform(const std::function<void(Console&)>& call);
+
+    /// The same for a command of the tool, by its item, that may change the server.
+    void performChange(const std::string& item, const std::function<void(Console&)>& call);
+
+    /// Runs such a command. Null: it runs by itself.
+    std::function<void(const std::string& item, const std::function<void()>& run)> aroundChange;
+
+    bool busy() const { return calls_ > 0; }
+
+    /// Whether a page of a sheet is at work, on show or closed already.
+    bool sheetAtWork() const;
+
+    /// The sheet on show; null for none.
+    SheetDialog* sheet() const;
+
+    QTreeView& tree() { return *tree_; }
+    TaskPadView& taskPad() { return *taskPad_; }
+
+    /// The reader of logs, which is made when it is first asked for.
+    LogView& log();
+    bool logShown() const;
+
+    /// The font of a log's lines.
+    void setTextFont(const QFont& font);
+
+    /// The table on show, of a log or of another list; null when another view is.
+    ListTable* table() const;
+
+    /// Shows again what the console has given other texts, such as headers. Rows and marks stay.
+    void renewTexts();
+
+    /// What the selected node is called, and the empty text before the first selection.
+    QString selectedName() const;
+
+    /// Help on the node, or on the view, that has the focus; else on the tool.
+    void askForHelp();
+
+    /// Moves the focus from the tree to the result view, or back.
+    void switchPane();
+
+signals:
+    /// The tool's text for the status bar; to be painted at once.
+    void statusText(const QString& text);
+    void said(const QString& sentence);
+    void failed(const LiveSentence& sentence);
+    void viewChanged();
+    void callDone();
+    void helpAsked(int topic);
+    /// Before the sheet is on show.
+    void sheetMade(SheetDialog* dialog);
+
+    void treeMenuAsked(const QPoint& globalPlace);
+
+private:
+    void selectionChanged(View& view) override;
+    void viewReset(ResultView& resultView) override;
+    void viewFilled(ResultView& resultView) override;
+    void statusBarChanged(const std::string& text) override;
+    void sheetShown(OpenSheet& sheet) override;
+    void handlerFailed(const RunTimeError& error) override;
+
+    void makeTree();
+    void makeTaskPad();
+    QTreeView& children();
+    ListTable& list();
+    void followSelection();
+    void treeCurrentChanged(const QModelIndex& current);
+    void selectPending();
+
+    Console& console_;
+    QString site_;
+    CodePage codePage_;
+    QSettings& settings_;
+    QFont textFont_;
+    ScopeModel* scope_ = nullptr;
+    ListModel listModel_;
+    QSplitter* splitter_ = nullptr;
+    QTreeView* tree_ = nullptr;
+    QStackedWidget* views_ = nullptr;
+    TaskPadView* taskPad_ = nullptr;
+    QTreeView* children_ = nullptr; ///< this and the next two: null before they are first shown
+    ListTable* list_ = nullptr;
+    LogView* log_ = nullptr;
+    QPersistentModelIndex pending_; ///< what the person selected and the console has not yet
+    QPointer<SheetDialog> sheet_;
+    int calls_ = 0;
+};

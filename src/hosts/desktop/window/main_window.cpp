@@ -1,0 +1,575 @@
+#include "hosts/desktop/window/main_window.h"
+
+#include "gather/logs.h"
+#include "hosts/desktop/log/list_table.h"
+#include "hosts/desktop/log/log_view.h"
+#include "hosts/desktop/look/elided_label.h"
+#include "hosts/desktop/look/icons.h"
+#include "hosts/desktop/look/notice_bar.h"
+#include "hosts/desktop/look/screen_room.h"
+#include "hosts/desktop/look/theme.h"
+#include "hosts/desktop/open_tool.h"
+#include "hosts/desktop/path_dialog.h"
+#include "hosts/desktop/sheets/sheet_dialog.h"
+#include "hosts/desktop/window/about_dialog.h"
+#include "hosts/desktop/window/console_pane.h"
+#include "hosts/desktop/window/help_topics.h"
+#include "hosts/desktop/window/key_list.h"
+#include "hosts/desktop/window/task_pad_view.h"
+#include "settings/about_box.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenu>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr const char* geometryKey = "window/geometry";
+constexpr const char* stateKey = "window/state";
+constexpr const char* themeKey = "window/theme";
+constexpr const char* textSizeKey = "window/textSize";
+constexpr int sayMilliseconds = 6000;
+constexpr int smallestText = 6;
+constexpr int largestText = 40;
+
+} // namespace
+
+MainWindow::MainWindow(QSettings& settings) : settings_(settings)
+{
+    setWindowIcon(toolIcon(QStringLiteral("console")));
+    auto* body = new QWidget(this);
+    notice_ = new NoticeBar(body);
+    centre_ = new QStackedWidget(body);
+    empty_ = new QLabel(centre_);
+    empty_->setTextFormat(Qt::PlainText);
+    empty_->setAlignment(Qt::AlignCenter);
+    centre_->addWidget(empty_);
+    auto* column = new QVBoxLayout(body);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(notice_);
+    column->addWidget(centre_, 1);
+    setCentralWidget(body);
+
+    makeActions();
+    makeMenus();
+    makeToolBar();
+    makeStatusBar();
+    resizeWithinScreen(*this, {1180, 760});
+    restoreGeometry(settings_.value(geometryKey).toByteArray());
+    restoreState(settings_.value(stateKey).toByteArray());
+    updateActions();
+    showInLanguage(this, [this] { showTexts(); });
+}
+
+MainWindow::~MainWindow()
+{
+    setTool(nullptr);
+}
+
+void MainWindow::makeStatusBar()
+{
+    status_ = new ElidedLabel(Qt::ElideRight, this);
+    status_->setContentsMargins(8, 3, 0, 3);
+    siteName_ = new ElidedLabel(Qt::ElideMiddle, this);
+    siteName_->setForegroundRole(QPalette::PlaceholderText);
+    statusBar()->addWidget(status_, 1);
+    statusBar()->addPermanentWidget(siteName_);
+}
+
+void MainWindow::setTool(OpenTool* tool)
+{
+    delete pane_;
+    pane_ = nullptr;
+    if (tool_) tool_->context().onTrappedError = {};
+    tool_ = tool;
+    status_->clear();
+    siteName_->clear();
+    notice_->hide();
+    if (tool_) {
+        const QString site = QString::fromStdString(tool_->site().folder());
+        siteName_->setText(
+            QString(site).replace(QDir::homePath() + QLatin1Char('/'), QStringLiteral("~/")));
+        pane_ =
+            new ConsolePane(tool_->console(), tool_->site().codePage(), site, settings_, centre_);
+        centre_->addWidget(pane_);
+        centre_->setCurrentWidget(pane_);
+        connectPane();
+        changeTextSize(0);
+        std::string databaseFailure;
+        tool_->context().onTrappedError = [&](const RunTimeError& error, std::string_view name) {
+            if (name == "[mdlOrvanDatabase]openOrvanDB") databaseFailure = error.description();
+        };
+        pane_->perform([this](Console&) { tool_->load(); });
+        tool_->context().onTrappedError = [this](const RunTimeError& error,
+                                                 std::string_view procName) {
+            undone_.note(error, procName);
+        };
+        spoken_ = spokenByTool();
+        language_.choose(spoken_);
+        rebuildConsoleItems();
+        sayLanguage();
+        if (tool_->looksOnly()) sayReadOnly();
+        if (!databaseFailure.empty()) sayWithoutDatabase(databaseFailure);
+        pane_->tree().setFocus();
+    }
+    updateActions();
+    showTexts();
+}
+
+void MainWindow::sayReadOnly()
+{
+    showProblem([this] {
+        if (!tool_ || !tool_->looksOnly()) return QString();
+        return tr("This site is read-only: logs can be read, but traces and settings cannot be "
+                  "changed. Make its folder writable, or open a copy.");
+    });
+}
+
+/// Until the tool has its connection after all.
+void MainWindow::sayWithoutDatabase(const std::string& why)
+{
+    QString reason = QString::fromStdString(why);
+    if (reason.endsWith(QLatin1Char('.'))) reason.chop(1);
+    showProblem([this, reason] {
+        if (!tool_ || tool_->context().g_connection.state() != 0) return QString();
+        return tr("The server's database could not be opened: %1. Logs can be read and gathered, "
+                  "but traces and settings cannot be changed.")
+            .arg(reason);
+    });
+}
+
+void MainWindow::connectPane()
+{
+    pane_->aroundChange = [this](const std::string& item, const std::function<void()>& run) {
+        change(item, run);
+    };
+    connect(pane_, &ConsolePane::statusText, this, [this](const QString& text) {
+        statusBar()->clearMessage();
+        status_->setText(text);
+        // The tool is at work and no event will paint it.
+        status_->repaint();
+    });
+    connect(pane_, &ConsolePane::said, this, [this](const QString& sentence) {
+        statusBar()->showMessage(sentence, sayMilliseconds);
+    });
+    connect(pane_, &ConsolePane::failed, this, &MainWindow::showProblem);
+    connect(pane_, &ConsolePane::viewChanged, this, [this] {
+        updateActions();
+        updateTitle();
+    });
+    connect(pane_, &ConsolePane::callDone, this, &MainWindow::afterCall);
+    connect(pane_, &ConsolePane::sheetMade, this,
+            [this](SheetDialog* dialog) { watchSheet(*dialog); });
+    connect(pane_, &ConsolePane::helpAsked, this, &MainWindow::helpAsked);
+    connect(pane_, &ConsolePane::treeMenuAsked, this, [this](const QPoint& at) {
+        rebuildConsoleItems();
+        menus_[CommandMenu::action]->popup(at);
+    });
+}
+
+/// A command at once, whose own texts tell of no failure.
+void MainWindow::change(const std::string& item, const std::function<void()>& run)
+{
+    const bool startsLogs = item == startNewLogsItem;
+    if (startsLogs) newLogs_.look(tool_->context());
+    bool ran = false;
+    tool_->changing([&] {
+        run();
+        ran = true;
+    });
+    if (ran && tool_->looksOnly()) return sayReadOnly();
+    if (ran && startsLogs && !newLogs_.given(tool_->context()))
+        showProblem([] {
+            return tr("The server was not told to start new log files: its registry did not take "
+                      "the signal.");
+        });
+}
+
+void MainWindow::watchSheet(SheetDialog& dialog)
+{
+    connect(&dialog, &SheetDialog::acted, this, [this, &dialog] { tellUndone(&dialog); });
+    connect(&dialog, &SheetDialog::cancelling, this,
+            [this, &dialog] { gathers_.cancelled(dialog.sheet().currentPage()); });
+    dialog.aroundTick = [this, &dialog](const SheetPage& page, Timer& timer,
+                                        const std::function<void()>& run) {
+        const auto machinePath = [this](const std::string& path) {
+            return tool_->site().paths().machinePath(path);
+        };
+        sayWhereThePersonIs(&dialog, gathers_.tick(tool_->context(), tool_->report(), page, timer,
+                                                   machinePath, run));
+    };
+    const bool gathers = dialog.sheet().page(1).name() == "ppgGatherLogs00Welcome";
+    // A gather adds to the server, beside programs that change it.
+    if (!gathers)
+        dialog.aroundChange = [this](const std::function<void()>& run) { tool_->changing(run); };
+    if (!tool_->looksOnly()) return;
+    dialog.alwaysSay([gathers] {
+        return gathers ? tr("This site is read-only: choose a destination outside of it.")
+                       : tr("This site is read-only: what is chosen here is not written.");
+    });
+}
+
+void MainWindow::tellUndone(SheetDialog* dialog)
+{
+    const LiveSentence sentence = undone_.take(dialog ? &dialog->sheet() : nullptr);
+    // Of a site that is only read, or that has gone, more was said already.
+    if (tool_ && tool_->present() && !tool_->looksOnly()) sayWhereThePersonIs(dialog, sentence);
+}
+
+/// In the sheet, or in the window when the sheet has gone.
+void MainWindow::sayWhereThePersonIs(SheetDialog* dialog, const LiveSentence& sentence)
+{
+    if (!sentence) return;
+    if (dialog && dialog->isVisible())
+        dialog->say(sentence);
+    else
+        showProblem(sentence);
+}
+
+void MainWindow::afterCall()
+{
+    checkSite();
+    sayToolLog();
+    tellUndone(nullptr);
+    // Not from within the call of a dialog or a view that goes with the window.
+    if (closing_ && !pane_->sheetAtWork())
+        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+}
+
+void MainWindow::checkSite()
+{
+    if (!tool_) return;
+    // What the person was told to mend may be mended.
+    if (tool_->present()) return notice_->renew();
+    showProblem([this] {
+        if (!tool_ || tool_->present()) return QString();
+        return tr("The site %1 is no longer there. Put the folder back and press F5, or open "
+                  "another site with Ctrl+Shift+O.")
+            .arg(QString::fromStdString(tool_->site().folder()));
+    });
+}
+
+/// The tool's language where that has its catalogue, and 0 for English.
+std::int32_t MainWindow::spokenByTool() const
+{
+    const auto& language = tool_->context().language;
+    return language.g_hResourceLibrary != 0 ? language.g_lngCurrentLanguage : 0;
+}
+
+void MainWindow::followLanguage()
+{
+    notice_->renew();
+    const std::int32_t spoken = spokenByTool();
+    if (std::exchange(spoken_, spoken) == spoken) return;
+    language_.choose(spoken);
+    pane_->perform([this](Console&) { tool_->snapIn().showLanguage(); });
+    pane_->renewTexts();
+    rebuildConsoleItems();
+    updateTitle();
+}
+
+/// Of a language other than English without its texts; the tool goes on in English.
+QString MainWindow::languageProblem() const
+{
+    constexpr int english = 9; ///< the primary language in the low bits of an identifier
+    constexpr int primaryLanguage = 0x3ff;
+    if (!tool_) return {};
+    const auto& language = tool_->context().language;
+    if (language.g_hResourceLibrary != 0 || language.g_lngCurrentLanguage == 0) return {};
+    if ((language.g_lngCurrentLanguage & primaryLanguage) == english) return {};
+    return tr("The catalogue of your language (%1) is missing or damaged, so the tool's texts are "
+              "in English. Choose another language in the about box (Ctrl+F1).")
+        .arg(language.g_lngCurrentLanguage);
+}
+
+void MainWindow::sayLanguage()
+{
+    if (!languageProblem().isEmpty()) showProblem([this] { return languageProblem(); });
+}
+
+void MainWindow::sayToolLog()
+{
+    const std::string why = tool_ ? tool_->takeToolLogFailure() : "";
+    if (why.empty()) return;
+    showProblem([why] {
+        return tr("The tool's own log can't be written: %1. The tool goes on without it.")
+            .arg(QString::fromStdString(why));
+    });
+}
+
+void MainWindow::showProblem(LiveSentence sentence)
+{
+    notice_->say(std::move(sentence));
+}
+
+QString MainWindow::problem() const
+{
+    return notice_->sentence();
+}
+
+void MainWindow::sayWaiting(const std::string& clause)
+{
+    statusBar()->showMessage(QString::fromStdString(clause), sayMilliseconds);
+    statusBar()->repaint();
+}
+
+QString MainWindow::statusText() const
+{
+    return status_->text();
+}
+
+void MainWindow::updateTitle()
+{
+    const QString tool = tr("Orvan Diagnostic Tool");
+    const QString node = pane_ ? pane_->selectedName() : QString();
+    setWindowTitle(node.isEmpty() ? tool : QStringLiteral("%1 - %2").arg(node, tool));
+}
+
+bool MainWindow::showNode(const std::string& key)
+{
+    if (!pane_) return false;
+    bool shown = false;
+    pane_->perform([&](Console& console) {
+        ScopeTree& tree = console.scopeItems();
+        // A log's node comes with its process's first opening.
+        for (int position = 1; !tree.find(key) && position <= tree.count(); ++position)
+            console.expand(tree.item(position));
+        ScopeItem* item = tree.find(key);
+        shown = item != nullptr;
+        if (item) console.currentView().select(*item);
+    });
+    return shown;
+}
+
+void MainWindow::run(Command command)
+{
+    switch (command) {
+    case Command::openSite:
+        return pickSite();
+    case Command::makeSample:
+        return pickSampleFolder();
+    case Command::quit:
+        close();
+        return;
+    case Command::help:
+        if (!pane_) return void(emit helpAsked(helpTopic::contents));
+        return pane_->askForHelp();
+    case Command::keys:
+        return showKeys();
+    case Command::about:
+        return showAbout();
+    case Command::systemTheme:
+    case Command::lightTheme:
+    case Command::darkTheme:
+        return chooseTheme(command);
+    default:
+        break;
+    }
+    if (!pane_) return;
+    switch (command) {
+    case Command::refresh:
+        return refresh();
+    case Command::switchPane:
+        return pane_->switchPane();
+    case Command::largerText:
+        return changeTextSize(1);
+    case Command::smallerText:
+        return changeTextSize(-1);
+    case Command::normalText:
+        settings_.remove(textSizeKey);
+        return changeTextSize(0);
+    case Command::copy:
+    case Command::copyCsv:
+    case Command::selectAll:
+        return runInTable(command);
+    default:
+        return runInLog(command);
+    }
+}
+
+void MainWindow::refresh()
+{
+    // A tool that looks at a site only goes on doing so; another one takes its place.
+    if (tool_->looksOnly() && tool_->writable() && mayLeaveSite())
+        return void(emit siteAsked(QString::fromStdString(tool_->site().folder())));
+    pane_->perform([](Console& console) {
+        const std::string key = console.currentScopeItem().key();
+        console.refresh();
+        // The tool has made the nodes of logs anew, and the console gone to the node above.
+        ScopeItem* renewed = console.scopeItems().find(key);
+        if (renewed && renewed != &console.currentScopeItem())
+            console.currentView().select(*renewed);
+    });
+}
+
+void MainWindow::runInTable(Command command)
+{
+    ListTable* table = pane_->table();
+    if (!table) return;
+    if (command == Command::selectAll) return table->selectAll();
+    const int rows = command == Command::copy ? table->copyAsText() : table->copyAsCsv();
+    statusBar()->showMessage(rows == 1 ? tr("1 row copied.") : tr("%1 rows copied.").arg(rows),
+                             sayMilliseconds);
+}
+
+void MainWindow::runInLog(Command command)
+{
+    if (!pane_->logShown()) return;
+    LogView& log = pane_->log();
+    switch (command) {
+    case Command::find:
+        return log.startFind();
+    case Command::findNext:
+        return log.findNext();
+    case Command::findPrevious:
+        return log.findPrevious();
+    case Command::goToTime:
+        return log.startGoToTime();
+    case Command::filter:
+        return log.startFilter();
+    case Command::showAll:
+        return log.showAll();
+    case Command::toggleBookmark:
+        return log.toggleBookmark();
+    case Command::nextBookmark:
+        return log.nextBookmark();
+    case Command::previousBookmark:
+        return log.previousBookmark();
+    case Command::clearBookmarks:
+        return log.clearBookmarks();
+    case Command::details:
+        return log.showDetails(!log.detailsShown());
+    default:
+        return;
+    }
+}
+
+void MainWindow::chooseTheme(Command command)
+{
+    const auto scheme = command == Command::lightTheme  ? theme::Scheme::light
+                        : command == Command::darkTheme ? theme::Scheme::dark
+                                                        : theme::Scheme::system;
+    settings_.setValue(themeKey, theme::nameOf(scheme));
+    theme::apply(scheme);
+    updateActions();
+}
+
+void MainWindow::changeTextSize(int step)
+{
+    if (!pane_) return;
+    QFont font = theme::traceFont();
+    const int usual = font.pointSize();
+    const int size =
+        std::clamp(settings_.value(textSizeKey, usual).toInt() + step, smallestText, largestText);
+    if (step != 0) settings_.setValue(textSizeKey, size);
+    font.setPointSize(size);
+    pane_->setTextFont(font);
+}
+
+/// False while a page is at work: what it works on would go from below it.
+bool MainWindow::mayLeaveSite()
+{
+    if (!pane_ || !pane_->sheetAtWork()) return true;
+    statusBar()->showMessage(tr("The gather is being ended. Try again in a moment."),
+                             sayMilliseconds);
+    return false;
+}
+
+void MainWindow::pickSite()
+{
+    if (!mayLeaveSite()) return;
+    const QString title =
+        tr("Open Site: the folder of a server, with site.ini, registry.reg or drive_c");
+    const QString folder = PathDialog(this, title, PathDialog::Directory).ask();
+    if (!folder.isEmpty()) emit siteAsked(folder);
+}
+
+void MainWindow::pickSampleFolder()
+{
+    if (!mayLeaveSite()) return;
+    const QString folder = QFileDialog::getSaveFileName(
+        this, tr("Make Sample Server in a New Folder"),
+        QDir::homePath() + QStringLiteral("/orvan-sample"), {}, nullptr, QFileDialog::ShowDirsOnly);
+    if (!folder.isEmpty()) emit sampleAsked(folder);
+}
+
+void MainWindow::showKeys()
+{
+    KeyList keys(*this, this);
+    keys.exec();
+}
+
+void MainWindow::showAbout()
+{
+    if (!tool_) return;
+    frmAbout& form = tool_->snapIn().showAbout();
+    AboutDialog about(form, this);
+    connect(&about, &AboutDialog::formShown, this, &MainWindow::followLanguage);
+    about.aroundChange = [this](const std::function<void()>& run) {
+        try {
+            tool_->changing(run);
+        } catch (const RunTimeError& error) {
+            showProblem([why = QString::fromStdString(error.description())] {
+                return tr("The language was not changed: %1. Choose it again.").arg(why);
+            });
+        }
+    };
+    // Modal to this window alone, so that the manual can be read beside it.
+    about.setWindowModality(Qt::WindowModal);
+    QAction help;
+    help.setShortcut(QKeySequence(Qt::Key_F1));
+    connect(&help, &QAction::triggered, this, [this] { emit helpAsked(helpTopic::about); });
+    about.addAction(&help);
+    about.exec();
+    sayLanguage();
+}
+
+void MainWindow::cancelWork()
+{
+    if (pane_->sheet()) pane_->sheet()->reject();
+    // The page at work may be another one than the sheet asked, or its sheet is closed.
+    ToolContext& context = tool_->context();
+    if (!pane_->sheetAtWork()) return;
+    gathers_.cancelled();
+    if (!context.cancelRequested) mdlLogs::cancelCurrentProcess(context, true);
+}
+
+void MainWindow::end()
+{
+    if (pane_) cancelWork();
+    close();
+    // Not by the last window alone: a box may be open, whose own loop ends too.
+    QCoreApplication::exit();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (pane_ && pane_->sheetAtWork()) {
+        // The work below would go on with controls that have gone.
+        closing_ = true;
+        cancelWork();
+        statusBar()->showMessage(tr("The gather is being ended. The window closes in a moment."));
+        return event->ignore();
+    }
+    closing_ = false;
+    // The file is synced to the disk for every change, so that nothing is changed for nothing.
+    const auto keep = [this](const char* key, const QByteArray& value) {
+        if (settings_.value(key).toByteArray() != value) settings_.setValue(key, value);
+    };
+    keep(geometryKey, saveGeometry());
+    keep(stateKey, saveState());
+    QMainWindow::closeEvent(event);
+}

@@ -1,0 +1,129 @@
+#pragma once
+
+#include "hosts/desktop/look/interface_language.h"
+#include "hosts/desktop/new_logs_signal.h"
+#include "hosts/desktop/sheets/gather_notice.h"
+#include "hosts/desktop/sheets/undone.h"
+#include "hosts/desktop/window/commands.h"
+
+#include <QMainWindow>
+
+#include <map>
+#include <string>
+
+class ConsolePane;
+class ElidedLabel;
+class NoticeBar;
+class OpenTool;
+class QLabel;
+class QMenu;
+class QSettings;
+class QStackedWidget;
+class QToolBar;
+class SheetDialog;
+
+/// The console's window: menus, tool bar, panes and status bar, over the tool that is open.
+class MainWindow final : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// `settings` outlives the window, which opens without a tool.
+    explicit MainWindow(QSettings& settings);
+    ~MainWindow() override;
+
+    /// Shows a tool, loading it, in the place of the one before. `tool` outlives the window or the
+    /// next call; null shows none.
+    void setTool(OpenTool* tool);
+
+    /// Says in a sentence what went wrong and what to do about it.
+    void showProblem(LiveSentence sentence);
+    QString problem() const;
+
+    /// Says in the status bar what the tool waits for, and paints that at once.
+    void sayWaiting(const std::string& clause);
+
+    /// Null while no tool is open.
+    ConsolePane* pane() { return pane_; }
+    QString statusText() const;
+
+    QAction& action(Command command) { return *actions_.at(command); }
+
+    /// The action of a menu item that the tool declares; null for one that is not offered.
+    QAction* consoleAction(const std::string& name);
+
+    /// Opens the node of a key, below those that must be opened for it; false when there is none.
+    bool showNode(const std::string& key);
+
+    void run(Command command);
+
+    /// Ends the program without asking: work that runs is cancelled as by its button, a sheet is
+    /// cancelled, boxes go. The event loop ends when the work has come to its end.
+    void end();
+
+    /// A box of the tool's was shown.
+    void messageShown() { gathers_.messageShown(); }
+
+signals:
+    void siteAsked(const QString& folder);
+    void sampleAsked(const QString& folder);
+    void helpAsked(int topic);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void makeActions();
+    void makeMenus();
+    void makeToolBar();
+    void makeStatusBar();
+    void connectPane();
+    void rebuildConsoleItems();
+    void rebuildRecentSites();
+    void updateActions();
+    void updateTitle();
+    void refresh();
+    void afterCall();
+    void change(const std::string& item, const std::function<void()>& run);
+    void watchSheet(SheetDialog& dialog);
+    void tellUndone(SheetDialog* dialog);
+    void sayWhereThePersonIs(SheetDialog* dialog, const LiveSentence& sentence);
+    void checkSite();
+    void showTexts();
+    std::int32_t spokenByTool() const;
+    void followLanguage();
+    QString languageProblem() const;
+    void sayReadOnly();
+    void sayWithoutDatabase(const std::string& why);
+    void sayLanguage();
+    void sayToolLog();
+    void runInLog(Command command);
+    void runInTable(Command command);
+    void chooseTheme(Command command);
+    void changeTextSize(int step);
+    bool mayLeaveSite();
+    void cancelWork();
+    void pickSite();
+    void pickSampleFolder();
+    void showKeys();
+    void showAbout();
+
+    InterfaceLanguage language_;
+    std::int32_t spoken_ = 0; ///< what `spokenByTool` was when the texts on show were made
+    QSettings& settings_;
+    OpenTool* tool_ = nullptr;
+    ConsolePane* pane_ = nullptr;
+    NoticeBar* notice_ = nullptr;
+    QStackedWidget* centre_ = nullptr;
+    QLabel* empty_ = nullptr;
+    ElidedLabel* status_ = nullptr;
+    ElidedLabel* siteName_ = nullptr;
+    QToolBar* toolBar_ = nullptr;
+    std::map<CommandMenu, QMenu*> menus_;
+    QMenu* recent_ = nullptr;
+    Undone undone_;
+    NewLogsSignal newLogs_;
+    GatherNotice gathers_;
+    bool closing_ = false; ///< as soon as the work at hand is done
+    std::map<Command, QAction*> actions_;
+    std::map<std::string, QAction*> consoleActions_;
+};

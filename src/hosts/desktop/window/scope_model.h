@@ -1,0 +1,59 @@
+#pragma once
+
+#include "hosts/desktop/window/quiet_observer.h"
+
+#include <QAbstractItemModel>
+
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+class Console;
+
+/// The console's tree as Qt's views see it; changes by the console's notifications alone.
+class ScopeModel final : public QAbstractItemModel, private QuietObserver {
+    Q_OBJECT
+
+public:
+    /// `console` outlives the model.
+    explicit ScopeModel(Console& console, QObject* parent = nullptr);
+    ~ScopeModel() override;
+
+    /// Invalid for an item that is not in the tree.
+    QModelIndex indexOf(const ScopeItem& item) const;
+
+    /// Null for an invalid index.
+    ScopeItem* itemAt(const QModelIndex& index) const;
+
+    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+    QModelIndex parent(const QModelIndex& index) const override;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+
+    /// Whether a node may be opened: a log never, another as long as it was not.
+    bool hasChildren(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+
+private:
+    /// A place in the tree. The console tells of a removal when the item has no parent any more, so
+    /// its place is kept here.
+    struct Place {
+        ScopeItem* item = nullptr;
+        Place* parent = nullptr;
+        std::vector<std::unique_ptr<Place>> children;
+    };
+
+    void scopeItemAdded(ScopeItem& item) override;
+    void scopeItemChanged(ScopeItem& item) override;
+    void scopeItemRemoved(ScopeItem& item) override;
+
+    void fill(Place& place);
+    Place* placeOf(const ScopeItem& item) const;
+    const Place& placeAt(const QModelIndex& index) const;
+    static int rowOf(const Place& place);
+    QModelIndex indexOf(const Place* place) const;
+
+    Console& console_;
+    Place top_; ///< above the root
+    std::unordered_map<const ScopeItem*, Place*> places_;
+};
