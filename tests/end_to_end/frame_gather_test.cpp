@@ -354,6 +354,11 @@ TEST_F(FrameGather, RefusesADestinationInWhichItWouldDestroySomething)
         EXPECT_THAT(refused.err, testing::StartsWith("orvandiag: " + std::string(c.name) +
                                                      " in the destination " + target.string()));
         EXPECT_THAT(refused.err, testing::EndsWith("; name another folder\n"));
+        const Outcome foreseen = run({"gather", "frame", "--from", "2025-02-20 16:42", "--hours",
+                                      "1", "--dry-run", "--to", target.string()});
+        EXPECT_EQ(1, foreseen.status);
+        EXPECT_EQ("", foreseen.out);
+        EXPECT_EQ(refused.err, foreseen.err);
         EXPECT_EQ(1, std::distance(fs::directory_iterator(target), fs::directory_iterator()));
         fs::remove(target / c.name);
     }

@@ -98,46 +98,112 @@ TEST_F(Looking, ShowsWithoutAToolFolderWhatAToolAtWorkFindsThere)
     EXPECT_FALSE(fs::exists(drive("OrvanDiagnostics")));
 }
 
-TEST_F(Looking, NeedsNoLeaveToWrite)
-{
-    using fs::perm_options;
-    constexpr auto write =
-        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-    constexpr auto read = fs::perms::group_read | fs::perms::others_read;
-    constexpr auto enter = fs::perms::group_exec | fs::perms::others_exec;
-    // The superuser may write everywhere, so another user looks, with a program within its reach.
-    const fs::path program = folder / "bin/orvandiag";
-    fs::create_directories(program.parent_path());
-    fs::copy_file(ORVANDIAG_PROGRAM, program);
-    for (const auto& place : {folder, program.parent_path(), program})
-        fs::permissions(place, read | enter, perm_options::add);
-    for (const auto& entry : fs::recursive_directory_iterator(site))
-        fs::permissions(entry.path(), read | (entry.is_directory() ? enter : read),
-                        perm_options::add);
-    for (const auto& entry : fs::recursive_directory_iterator(site))
-        fs::permissions(entry.path(), write, perm_options::remove);
-    fs::permissions(site, read | enter, perm_options::add);
-    fs::permissions(site, write, perm_options::remove);
-
-    Words start = {program.string(), "--site", site.string()};
-    if (geteuid() == 0) {
-        const Words other = {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups", "--"};
-        start.insert(start.begin(), other.begin(), other.end());
+/// A sample server whose folder nobody may write to, and somebody who is not the superuser.
+struct ReadOnlySite : Looking {
+    ReadOnlySite()
+    {
+        EXPECT_EQ(0, run({"cycle"}).status) << "the tool's folder is supplied once";
+        using fs::perm_options;
+        constexpr auto read = fs::perms::group_read | fs::perms::others_read;
+        constexpr auto enter = fs::perms::group_exec | fs::perms::others_exec;
+        // The superuser may write everywhere, so another user looks, with a program within its
+        // reach.
+        fs::create_directories(program.parent_path());
+        fs::copy_file(ORVANDIAG_PROGRAM, program);
+        for (const auto& place : {folder, program.parent_path(), program})
+            fs::permissions(place, read | enter, perm_options::add);
+        for (const auto& entry : fs::recursive_directory_iterator(site))
+            fs::permissions(entry.path(), read | (entry.is_directory() ? enter : read),
+                            perm_options::add);
+        for (const auto& entry : fs::recursive_directory_iterator(site))
+            fs::permissions(entry.path(), write, perm_options::remove);
+        fs::permissions(site, read | enter, perm_options::add);
+        fs::permissions(site, write, perm_options::remove);
+        fs::create_directory(outside);
+        fs::permissions(outside, fs::perms::all);
     }
-    const auto asReader = [&](Words words) {
+
+    ~ReadOnlySite() override
+    {
+        for (const auto& entry : fs::recursive_directory_iterator(site))
+            fs::permissions(entry.path(), fs::perms::owner_write, fs::perm_options::add);
+        fs::permissions(site, fs::perms::owner_write, fs::perm_options::add);
+    }
+
+    Outcome asReader(Words words) const
+    {
+        Words start = {program.string(), "--site", site.string()};
+        if (geteuid() == 0) {
+            const Words other = {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups",
+                                 "--"};
+            start.insert(start.begin(), other.begin(), other.end());
+        }
         words.insert(words.begin(), start.begin(), start.end());
-        if (words.back() == "--dry-run" && words[words.size() - 3] == "--to")
-            words[words.size() - 2] = "/tmp/" + folder.filename().string() + "-gathered";
         return runProgram(words, "/");
-    };
-    expectThatNothingChanges(asReader);
+    }
+
+    static constexpr auto write =
+        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    fs::path program = folder / "bin/orvandiag";
+    fs::path outside = folder / "outside";
+};
+
+TEST_F(ReadOnlySite, IsLookedAtWithoutLeaveToWrite)
+{
+    expectThatNothingChanges([&](Words words) {
+        if (words[0] == "gather") {
+            if (words[words.size() - 3] == "--to") words.erase(words.end() - 3, words.end() - 1);
+            words.insert(words.end(), {"--to", (outside / "case").string()});
+        }
+        return asReader(words);
+    });
     const Outcome refused = asReader({"cycle"});
     EXPECT_EQ(1, refused.status);
     EXPECT_THAT(refused.err, HasSubstr("is read-only"));
+}
 
-    for (const auto& entry : fs::recursive_directory_iterator(site))
-        fs::permissions(entry.path(), fs::perms::owner_write, perm_options::add);
-    fs::permissions(site, fs::perms::owner_write, perm_options::add);
+TEST_F(ReadOnlySite, IsGatheredFromIntoAFolderOutsideOfIt)
+{
+    const Record before = recordOf(site);
+    const fs::path chosen = outside / "chosen";
+    const Outcome copied = asReader({"gather", "standard", "--to", chosen.string()});
+    EXPECT_EQ(0, copied.status);
+    EXPECT_EQ("", copied.err);
+    EXPECT_EQ(3, std::distance(fs::directory_iterator(chosen), fs::directory_iterator()))
+        << copied.out;
+    EXPECT_TRUE(fs::exists(chosen / "System.csv"));
+
+    const fs::path frame = outside / "frame";
+    const Outcome read = asReader({"--json", "gather", "frame", "--from", "2025-02-20 16:42",
+                                   "--hours", "1", "--to", frame.string()});
+    ASSERT_TRUE(read.json()["database"].is_string()) << read.out << read.err;
+    EXPECT_TRUE(fs::exists(read.json()["database"].get<std::string>()));
+    EXPECT_THAT(differences(before, recordOf(site)), testing::IsEmpty());
+}
+
+TEST_F(ReadOnlySite, IsNoPlaceToGatherInto)
+{
+    const Record before = recordOf(site);
+    const std::vector<Words> modes = {
+        {"gather", "standard"},
+        {"gather", "standard", "--to", "C:\\case"},
+        {"gather", "standard", "--to", drive("case").string()},
+        {"gather", "logs", "--log", currentLog()},
+        {"gather", "frame", "--from", "2025-02-20 16:42", "--hours", "1"}};
+    for (Words words : modes) {
+        SCOPED_TRACE(testing::PrintToString(words));
+        for (const bool dry : {false, true}) {
+            if (dry) words.emplace_back("--dry-run");
+            const Outcome refused = asReader(words);
+            EXPECT_EQ(1, refused.status);
+            EXPECT_EQ("", refused.out);
+            EXPECT_EQ("orvandiag: the site " + site.string() +
+                          " is read-only; make its folder writable, or name a destination outside "
+                          "of it with --to\n",
+                      refused.err);
+        }
+    }
+    EXPECT_THAT(differences(before, recordOf(site)), testing::IsEmpty());
 }
 
 TEST_F(Looking, DoesNotPutTheEventLogsLanguageBack)

@@ -239,8 +239,13 @@ TEST_F(Together, AGatherIntoAFolderThatAnotherOneWritesToIsRefused)
     EXPECT_EQ("orvandiag: another gather is writing to " + target.string() +
                   "; wait until it has ended, or name another folder\n",
               refused.err);
+    const Outcome foreseen = run({"gather", "standard", "--dry-run", "--to", target.string()});
+    EXPECT_EQ(1, foreseen.status);
+    EXPECT_EQ(refused.err, foreseen.err);
+    EXPECT_EQ("", foreseen.out);
     EXPECT_TRUE(std::filesystem::is_empty(target));
     close(other);
+    EXPECT_EQ(0, run({"gather", "standard", "--dry-run", "--to", target.string()}).status);
     EXPECT_EQ(0, run({"gather", "standard", "--to", target.string()}).status);
 }
 

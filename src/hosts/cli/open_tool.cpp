@@ -23,6 +23,11 @@ HostFacts hostFacts(const GlobalOptions& options)
     return facts;
 }
 
+bool mayWrite(const std::string& folder)
+{
+    return ::access(folder.c_str(), W_OK) == 0;
+}
+
 /// The site's folder, once it is sure that a tool that changes something can keep its log and its
 /// registry there.
 const std::string& usableSite(const std::string& folder, ToolUse use)
@@ -31,7 +36,7 @@ const std::string& usableSite(const std::string& folder, ToolUse use)
         throw CommandFailure(folder +
                              " is not a site (no site.ini, registry.reg or drive_c in it); " +
                              "orvandiag sample makes one to try things on");
-    if (use != ToolUse::look && ::access(folder.c_str(), W_OK) != 0)
+    if (use == ToolUse::change && !mayWrite(folder))
         throw CommandFailure("the site " + folder + " is read-only");
     return folder;
 }
@@ -51,8 +56,9 @@ Platform withRegistry(const Platform& services, Registry& registry)
 } // namespace
 
 OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check)
-    : use_(use), site_(usableSite(options.site, use), places::installedData(), hostFacts(options),
-                       SiteUse::look),
+    : use_(use), looksOnly_(use == ToolUse::look || !mayWrite(options.site)),
+      site_(usableSite(options.site, use), places::installedData(), hostFacts(options),
+            SiteUse::look),
       traceDatabases_([this](const std::string& path) { return machinePath(path); },
                       site_.codePage()),
       registry_(site_.platform(desktop_, traceDatabases_).registry),
@@ -69,12 +75,10 @@ OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check
     }
     if (use == ToolUse::change)
         turn_.emplace(site_.folder(), SiteTurn::usualPatience, printMessage);
-    if (use != ToolUse::look) {
-        interrupt_.emplace();
-        site_.startChanges();
-    }
+    if (use != ToolUse::look) interrupt_.emplace();
+    if (!looksOnly_) site_.startChanges();
     watched_.toolLog().onFailure([this](const std::string& why) { toolLogFailure_ = why; });
-    context_.emplace(use == ToolUse::look ? looking_.platform() : watched_.platform());
+    context_.emplace(looksOnly_ ? looking_.platform() : watched_.platform());
     snapIn_.emplace(*context_, console_);
     context_->onTrappedError = [this](const RunTimeError& error, std::string_view procName) {
         if (procName == "[mdlOrvanDatabase]openOrvanDB") databaseFailure_ = error.description();
@@ -101,7 +105,7 @@ void OpenTool::close()
 {
     loaded_ = false;
     // What the tool puts back as it goes is changed like anything else.
-    if (use_ == ToolUse::add) takeTurnIfItComes();
+    if (use_ == ToolUse::add && !looksOnly_) takeTurnIfItComes();
     console_.unload();
     turn_.reset();
     if (!toolLogFailure_.empty())
@@ -116,6 +120,11 @@ try {
     turn_.emplace(site_.folder(), SiteTurn::usualPatience, printMessage);
 } catch (const RunTimeError&) {
     // What was gathered is not lost for it.
+}
+
+bool OpenTool::keeps(const std::string& path)
+{
+    return mayWrite(site_.folder()) || !site_.paths().isOfSite(path);
 }
 
 std::string OpenTool::toolPath(const std::string& typed)

@@ -21,7 +21,8 @@
 /// What a command opens the tool for.
 enum class ToolUse {
     change, ///< one program at a time: what is read stays so until it is written
-    add,    ///< events, logs and gathered files, beside programs that change something
+    add,    ///< events, logs and gathered files, beside programs that change something; on a
+            ///< read-only site gathered files alone, outside of it
     look,   ///< leaves no event, log or value, and needs no leave to write
 };
 
@@ -71,6 +72,10 @@ public:
     /// Where a path of the tool lies on this machine.
     std::string machinePath(const std::string& path) { return site_.paths().machinePath(path); }
 
+    /// Whether a file can be left at a path of the tool as far as the site goes: a read-only one
+    /// takes none. Raises as `machinePath`.
+    bool keeps(const std::string& path);
+
     /// A path as a person types it: a drive's path stays, another one is this machine's own, which
     /// the tool may reach from then on.
     std::string toolPath(const std::string& typed);
@@ -89,6 +94,7 @@ private:
     void takeTurnIfItComes();
 
     ToolUse use_;
+    bool looksOnly_; ///< nothing of the site is changed
     std::optional<SiteTurn> turn_;
     std::optional<InterruptWish> interrupt_;
     Site site_;

@@ -51,6 +51,14 @@ std::optional<Sentence> DestinationTurn::refusal() const
     return Sentence{gatherSentences::destinationTaken, {path_}};
 }
 
+std::optional<Sentence> DestinationTurn::foreseenRefusal(const std::string& folder)
+try {
+    if (ResultFolder(folder).takeTurn() != ResultFolder::Turn::anothers) return {};
+    return Sentence{gatherSentences::destinationTaken, {folder}};
+} catch (const RunTimeError&) {
+    return {};
+}
+
 bool DestinationTurn::hasNamesOfThisSecond() const
 {
     return folder_ && folder_->hasNamesOfThisSecond();

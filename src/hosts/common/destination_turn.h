@@ -28,6 +28,10 @@ public:
     /// Why the gather must not begin: another one has the turn.
     std::optional<Sentence> refusal() const;
 
+    /// Why a gather into a folder of this machine would not begin now. Makes nothing, and keeps no
+    /// turn.
+    static std::optional<Sentence> foreseenRefusal(const std::string& folder);
+
     /// Whether results of an earlier gather lie there that one in this second would name as its
     /// own. Where the folder can't be listed there are none.
     bool hasNamesOfThisSecond() const;

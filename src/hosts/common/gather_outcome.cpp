@@ -264,11 +264,24 @@ std::map<std::string, GatherWatch::Stamp> GatherWatch::filesThere() const
 
 std::optional<Sentence> GatherWatch::refusal() const
 {
-    const std::string folder = machinePath_(destination_);
     if (timeFrame_ && folder_) folder_->sweepLeftovers([this] { return cabinetMaker(); });
+    return refusalBeside({});
+}
+
+std::optional<Sentence> GatherWatch::foreseenRefusal() const
+{
+    if (!timeFrame_ || !folder_) return refusalBeside({});
+    return refusalBeside(folder_->leftovers([this] { return cabinetMaker(); }));
+}
+
+/// Why the run must not begin, when what is left of a gather that was killed is no reason.
+std::optional<Sentence> GatherWatch::refusalBeside(const std::vector<std::string>& leftovers) const
+{
+    const std::string folder = machinePath_(destination_);
     std::error_code none;
     for (const auto& entry : entriesOf(folder, none)) {
         const std::string name = entry.path().filename().string();
+        if (std::find(leftovers.begin(), leftovers.end(), name) != leftovers.end()) continue;
         if (timeFrame_ && isPassing(name))
             return Sentence{gatherSentences::wouldBeLost, {name, folder}};
         if (mayBeOfThisRun(name) && !fs::is_regular_file(entry.symlink_status(none)))

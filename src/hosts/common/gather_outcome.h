@@ -147,6 +147,9 @@ public:
     /// removed first. To be asked before the run, by who has the turn on the destination.
     std::optional<Sentence> refusal() const;
 
+    /// What `refusal` would say. Changes nothing, and needs no turn.
+    std::optional<Sentence> foreseenRefusal() const;
+
     /// To be called at each message box of the run: the one that the pipeline has tells of a log
     /// that is not there.
     void messageShown();
@@ -183,6 +186,7 @@ private:
     /// Null when nothing went wrong there.
     const Trouble* troubleAt(Stage stage, std::string_view log = {}) const;
 
+    std::optional<Sentence> refusalBeside(const std::vector<std::string>& leftovers) const;
     std::map<std::string, Stamp> filesThere() const;
     bool isOfThisRun(const std::string& name) const;
     bool isCapture(const std::string& name) const;

@@ -124,23 +124,29 @@ public:
         : folder_(folder), cabinetMaker_(cabinetMaker)
     {}
 
-    void run()
+    /// What is left there, which goes unless it is only looked for.
+    std::vector<std::string> run(bool removes)
     {
-        bool proved = false;
-        for (const auto& name : folder_.names("")) proved = removeIfLeft(name) || proved;
+        std::vector<std::string> left;
+        for (const auto& name : folder_.names(""))
+            if (isLeft(name) && (!removes || remove(name))) left.push_back(name);
         // An empty folder tells nothing by itself.
         const std::string disk(diskFolder);
         const auto facts = ownFacts(disk);
-        if (proved && facts && S_ISDIR(facts->st_mode)) folder_.removeEmptyFolder(disk);
+        if (left.empty() || !facts || !S_ISDIR(facts->st_mode)) return left;
+        if (removes)
+            folder_.removeEmptyFolder(disk);
+        else if (folder_.names(disk).empty())
+            left.push_back(disk);
+        return left;
     }
 
 private:
-    /// What may not be looked at or removed stays.
-    bool removeIfLeft(const std::string& name) const
+    /// What may not be removed stays.
+    bool remove(const std::string& name) const
     try {
-        const bool left = isLeft(name);
-        if (left) folder_.removeFile(name);
-        return left;
+        folder_.removeFile(name);
+        return true;
     } catch (const RunTimeError&) {
         return false;
     }
@@ -153,8 +159,9 @@ private:
         return facts;
     }
 
+    /// What may not be looked at stays too.
     bool isLeft(const std::string& name) const
-    {
+    try {
         if (isUnfinished(name)) return isPlain(name);
         if (name == directiveFile) return isPlain(name) && isDirectiveFileOfAGather(text(name));
         if (name == setupList) return isPlain(name) && isListOfACabinet(text(name));
@@ -162,6 +169,8 @@ private:
         if (name != cabinetMakerCopy || !isPlain(name)) return false;
         const std::string program = text(name, longestProgram);
         return !program.empty() && program == cabinetMaker_();
+    } catch (const RunTimeError&) {
+        return false;
     }
 
     bool isPlain(const std::string& name) const
@@ -215,8 +224,16 @@ void sweepGatherLeftovers(const RootFolder& folder,
                           const std::function<std::string()>& cabinetMaker)
 {
     try {
-        Sweep(folder, cabinetMaker).run();
+        Sweep(folder, cabinetMaker).run(true);
     } catch (const RunTimeError&) {
         return; // a folder that may not be listed keeps what it has
     }
+}
+
+std::vector<std::string> gatherLeftovers(const RootFolder& folder,
+                                         const std::function<std::string()>& cabinetMaker)
+try {
+    return Sweep(folder, cabinetMaker).run(false);
+} catch (const RunTimeError&) {
+    return {};
 }

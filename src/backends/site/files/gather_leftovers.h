@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// Removes from a folder what gathers that were killed have left of their packing; what can't be
 /// removed stays. To be called when no gather is at work there. A name proves nothing: what goes is
@@ -12,6 +13,11 @@
 /// that `cabmaker.exe` must have; what it raises leaves that file.
 void sweepGatherLeftovers(const RootFolder& folder,
                           const std::function<std::string()>& cabinetMaker);
+
+/// The names of what `sweepGatherLeftovers` would remove. Changes nothing; none where the folder
+/// can't be listed.
+std::vector<std::string> gatherLeftovers(const RootFolder& folder,
+                                         const std::function<std::string()>& cabinetMaker);
 
 /// Whether a text is a gather's directive file, or its beginning as far as the cabinet's name. The
 /// empty text is one that was killed before it was written.

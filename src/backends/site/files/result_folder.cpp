@@ -50,3 +50,9 @@ void ResultFolder::sweepLeftovers(const std::function<std::string()>& cabinetMak
     if (takeTurn() != Turn::unknown) sweepGatherLeftovers(root_, cabinetMaker);
     if (!kept) lock_.close();
 }
+
+std::vector<std::string>
+ResultFolder::leftovers(const std::function<std::string()>& cabinetMaker) const
+{
+    return gatherLeftovers(root_, cabinetMaker);
+}

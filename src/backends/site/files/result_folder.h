@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 /// A folder of the machine that a gather writes its results to, held open.
 class ResultFolder {
@@ -34,6 +35,10 @@ public:
     /// the folder. Where nobody can have one, all stays. `cabinetMaker` gives the bytes of the
     /// program that a gather copies there.
     void sweepLeftovers(const std::function<std::string()>& cabinetMaker);
+
+    /// The names of what `sweepLeftovers` would remove now. Changes nothing; none where the folder
+    /// can't be listed.
+    std::vector<std::string> leftovers(const std::function<std::string()>& cabinetMaker) const;
 
 private:
     RootFolder root_;

@@ -68,7 +68,6 @@ public:
             throw UsageError("gather logs needs a --log or an --event-log");
         if (gathersTo() && trim(to_).empty()) throw UsageError("gather --to needs a folder");
         GatherRequest request;
-        request.dryRun = dryRun_;
         request.option = option();
         request.logs = orvanLogs_;
         request.eventLogs = windowsLogs_;

@@ -1,6 +1,7 @@
 #include "hosts/cli/gather/gather_preview.h"
 
 #include "gather/logs.h"
+#include "hosts/cli/gather/gather_run.h"
 #include "hosts/cli/gather/gather_wizard.h"
 #include "hosts/cli/log_folder.h"
 #include "hosts/cli/terminal/output.h"
@@ -88,6 +89,7 @@ std::string table(const Plan& plan, const std::optional<std::int64_t>& room)
 
 void preview(OpenTool& tool, GatherWizard& wizard, Output& output)
 {
+    requireBeginning(tool, wizard);
     const Plan plan = planOf(tool, wizard.steps());
     const std::string destination = tool.machinePath(wizard.destination());
     const auto room = freeSpace(destination);

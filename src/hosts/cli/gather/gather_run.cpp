@@ -57,10 +57,31 @@ private:
     bool cancelled_ = false;
 };
 
+/// Raises CommandFailure where another gather has the turn.
+void requireTurn(const std::optional<Sentence>& refusal)
+{
+    if (refusal) throw CommandFailure(asClause(*refusal));
+}
+
+/// Raises CommandFailure where something that lies in the destination is in the way.
+void requireRoom(const std::optional<Sentence>& refusal)
+{
+    if (refusal) throw CommandFailure(asClause(*refusal) + "; name another folder");
+}
+
+GatherWatch::MachinePath machinePathsOf(OpenTool& tool)
+{
+    return [&tool](const std::string& path) { return tool.machinePath(path); };
+}
+
 } // namespace
 
 void requireUsableDestination(OpenTool& tool, const std::string& destination)
 {
+    if (!tool.keeps(destination))
+        throw CommandFailure("the site " + tool.site().folder() +
+                             " is read-only; make its folder writable, or name a destination "
+                             "outside of it with --to");
     const fs::path folder = tool.machinePath(destination);
     std::error_code none;
     if (fs::exists(folder, none)) {
@@ -78,17 +99,23 @@ void requireUsableDestination(OpenTool& tool, const std::string& destination)
                              " may not be written to");
 }
 
+void requireBeginning(OpenTool& tool, GatherWizard& wizard)
+{
+    requireTurn(DestinationTurn::foreseenRefusal(tool.machinePath(wizard.destination())));
+    const GatherWatch watch(tool.context(), tool.report(), wizard.progressPage(),
+                            machinePathsOf(tool));
+    requireRoom(watch.foreseenRefusal());
+}
+
 GatherOutcome runGather(OpenTool& tool, GatherWizard& wizard)
 {
     const std::string destination = wizard.destination();
     const DestinationTurn turn(tool.context().platform.files, destination,
                                tool.machinePath(destination));
-    if (const auto refusal = turn.refusal()) throw CommandFailure(asClause(*refusal));
+    requireTurn(turn.refusal());
     leaveNamesOfEarlierGathers(turn);
-    GatherWatch watch(tool.context(), tool.report(), wizard.progressPage(),
-                      [&tool](const std::string& path) { return tool.machinePath(path); });
-    if (const auto refusal = watch.refusal())
-        throw CommandFailure(asClause(*refusal) + "; name another folder");
+    GatherWatch watch(tool.context(), tool.report(), wizard.progressPage(), machinePathsOf(tool));
+    requireRoom(watch.refusal());
     {
         const RunProgress progress(tool, wizard, watch);
         wizard.run();

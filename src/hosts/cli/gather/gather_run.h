@@ -12,6 +12,10 @@ struct GatherOutcome;
 /// nothing.
 void requireUsableDestination(OpenTool& tool, const std::string& destination);
 
+/// Sees to it that a gather of this wizard, at its progress page, would begin now. Raises
+/// CommandFailure with what it would be refused with, and changes nothing.
+void requireBeginning(OpenTool& tool, GatherWizard& wizard);
+
 /// Lets a wizard run, with a progress bar on the terminal; Ctrl-C is its Cancel. Raises
 /// CommandFailure when the wizard does not come to its end.
 GatherOutcome runGather(OpenTool& tool, GatherWizard& wizard);

@@ -69,7 +69,7 @@ void GatherWizard::chooseDestination(OpenTool& tool, const GatherRequest& reques
         tool.desktop().answerPickers({});
     }
     destination_ = belowCaption(driver_.control<Label>("lblDestinationDirectory"));
-    if (!request.dryRun) requireUsableDestination(tool, destination_);
+    requireUsableDestination(tool, destination_);
 }
 
 void GatherWizard::tickLogs(const GatherRequest& request)

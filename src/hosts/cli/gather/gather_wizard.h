@@ -16,14 +16,13 @@ struct GatherRequest {
     std::vector<std::string> eventLogs; ///< the same
     TimeFrameChoice frame;              ///< of a time frame
     std::string destination;            ///< as the tool's path; empty for the wizard's own
-    bool dryRun = false;                ///< nothing will be gathered
 };
 
 /// The gather wizard at its progress page, about to run.
 class GatherWizard {
 public:
-    /// Answers the pages before. Raises CommandFailure for a destination that can't be written to
-    /// unless it is a dry run, and for what the pages don't offer.
+    /// Answers the pages before. Raises CommandFailure for a destination that can't be written
+    /// to, and for what the pages don't offer.
     GatherWizard(OpenTool& tool, const GatherRequest& request);
 
     /// Where the results go, as the tool's path.

@@ -4,6 +4,9 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <filesystem>
+#include <iterator>
 #include <set>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -40,11 +43,25 @@ struct GatherLeftoversTest : testing::Test {
     /// What is left of the folder by a sweep.
     std::set<std::string> swept(const std::string& program = "the program") const
     {
-        sweepGatherLeftovers(RootFolder(folder.path()), [&] { return program; });
-        std::set<std::string> names;
+        const auto before = names();
+        const auto maker = [&] { return program; };
+        const auto foreseen = gatherLeftovers(RootFolder(folder.path()), maker);
+        EXPECT_EQ(before, names()) << "a look";
+        sweepGatherLeftovers(RootFolder(folder.path()), maker);
+        const auto after = names();
+        std::set<std::string> gone;
+        std::set_difference(before.begin(), before.end(), after.begin(), after.end(),
+                            std::inserter(gone, gone.end()));
+        EXPECT_EQ(gone, std::set<std::string>(foreseen.begin(), foreseen.end()));
+        return after;
+    }
+
+    std::set<std::string> names() const
+    {
+        std::set<std::string> found;
         for (const auto& entry : fs::directory_iterator(folder.path()))
-            names.insert(entry.path().filename());
-        return names;
+            found.insert(entry.path().filename());
+        return found;
     }
 
     TemporaryFolder folder;
