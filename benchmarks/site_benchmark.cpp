@@ -57,10 +57,11 @@ void readRegistryValue(benchmark::State& state)
     const BenchmarkSite site;
     SiteRegistry registry{RootFolder(site.folder)};
     const std::string key = "Software\\Kelma Systems\\Kelma Orvan\\RoLogMgr";
-    registry.createKey(HKEY_LOCAL_MACHINE, key);
-    registry.setValue(HKEY_LOCAL_MACHINE, key, "Output Path", {REG_SZ, {'C', ':'}});
+    registry.createKey(registryRoot::localMachine, key);
+    registry.setValue(registryRoot::localMachine, key, "Output Path",
+                      {registryType::text, {'C', ':'}});
     for (auto _ : state)
-        benchmark::DoNotOptimize(registry.value(HKEY_LOCAL_MACHINE, key, "Output Path"));
+        benchmark::DoNotOptimize(registry.value(registryRoot::localMachine, key, "Output Path"));
 }
 BENCHMARK(readRegistryValue);
 

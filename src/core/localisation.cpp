@@ -26,12 +26,14 @@ std::string libraryPath(ToolContext& tool)
 
 } // namespace
 
-std::string myLoadResString(ToolContext& tool, int id)
+std::string myLoadResString(ToolContext& tool, TextId id)
 {
     ErrorTrap step{tool, "modLocalize", "myLoadResString"};
     std::optional<std::string> text;
 
-    step([&] { text = tool.platform.languages.text(tool.language.g_hResourceLibrary, id); });
+    step([&] {
+        text = tool.platform.languages.text(tool.language.g_hResourceLibrary, static_cast<int>(id));
+    });
     return text && !text->empty() ? *text : std::string(englishText(id));
 }
 
@@ -62,10 +64,11 @@ void InitalizeLanguages(ToolContext& tool)
     language.g_hResourceLibrary = 0;
     step([&] { language.g_hResourceLibrary = libraries.loadLibrary(libraryPath(tool)); });
 
-    step([&] { keyExists = registryKeyExists(tool, HKEY_LOCAL_MACHINE, toolKey); });
-    if (!keyExists) step([&] { createRegistryKey(tool, HKEY_LOCAL_MACHINE, toolKey); });
+    step([&] { keyExists = registryKeyExists(tool, registryRoot::localMachine, toolKey); });
+    if (!keyExists) step([&] { createRegistryKey(tool, registryRoot::localMachine, toolKey); });
     step([&] {
-        setRegistryValue(tool, HKEY_LOCAL_MACHINE, toolKey, "CurrentLocalizationLanguage", REG_SZ,
+        setRegistryValue(tool, registryRoot::localMachine, toolKey, "CurrentLocalizationLanguage",
+                         registryType::text,
                          numberText(std::int64_t{language.g_lngCurrentLanguage}));
     });
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/language_table.h"
+#include "core/text_id.h"
 
 #include <cstdint>
 #include <string>
@@ -27,7 +28,7 @@ public:
 
 /// The text of an id, from the language's library or else from the English table; the empty text
 /// for an id of neither. Raises nothing.
-std::string myLoadResString(ToolContext& tool, int id);
+std::string myLoadResString(ToolContext& tool, TextId id);
 
 /// Loads the current language's library, remembers the choice in the registry, lists the libraries
 /// beside the tool and gives the open forms the language's font. A failed step is shown in a

@@ -5,7 +5,7 @@
 void setCaptions(ToolContext& tool, std::initializer_list<CaptionText> captions)
 {
     for (const CaptionText& caption : captions)
-        caption.control.setCaption(myLoadResString(tool, caption.textId));
+        caption.control.setCaption(myLoadResString(tool, caption.text));
 }
 
 void applyFontToControls(ToolContext& tool, const SheetPage& page)

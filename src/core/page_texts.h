@@ -2,6 +2,7 @@
 
 #include "controls/label.h"
 #include "controls/sheet_page.h"
+#include "core/text_id.h"
 
 #include <initializer_list>
 
@@ -10,7 +11,7 @@ struct ToolContext;
 /// A control and the id of the text that it shows.
 struct CaptionText {
     CaptionedControl& control;
-    int textId;
+    TextId text;
 };
 
 /// Sets captions, in order, to the texts of the current language. Raises nothing.

@@ -109,29 +109,29 @@ RegistryData getRegistryValue(ToolContext& tool, std::uint32_t hive, const std::
 {
     const Registry& registry = tool.platform.registry;
     if (!registry.keyExists(hive, path)) return defaultValue;
-    if (type != REG_SZ && type != REG_BINARY && type != REG_DWORD)
+    if (type != registryType::text && type != registryType::bytes && type != registryType::number)
         throw RunTimeError(runTimeErrors::registryFailure, "Unsupported value type");
 
     std::optional<RegistryValue> stored = registry.value(hive, path, name);
     if (!stored) return defaultValue;
     Bytes& bytes = stored->bytes;
-    if (type == REG_SZ && bytes.size() <= longestText) return textOf(bytes);
-    if (type == REG_BINARY && bytes.size() <= longestBytes) return std::move(bytes);
-    if (type == REG_DWORD && bytes.size() <= longestNumber) return numberOf(bytes);
+    if (type == registryType::text && bytes.size() <= longestText) return textOf(bytes);
+    if (type == registryType::bytes && bytes.size() <= longestBytes) return std::move(bytes);
+    if (type == registryType::number && bytes.size() <= longestNumber) return numberOf(bytes);
     return defaultValue;
 }
 
 std::string getRegistryText(ToolContext& tool, const std::string& path, const std::string& name)
 {
-    return std::get<std::string>(
-        getRegistryValue(tool, HKEY_LOCAL_MACHINE, path, name, REG_SZ, std::string()));
+    return std::get<std::string>(getRegistryValue(tool, registryRoot::localMachine, path, name,
+                                                  registryType::text, std::string()));
 }
 
 std::int32_t getRegistryNumber(ToolContext& tool, const std::string& path, const std::string& name,
                                std::int32_t defaultValue)
 {
-    return std::get<std::int32_t>(
-        getRegistryValue(tool, HKEY_LOCAL_MACHINE, path, name, REG_DWORD, defaultValue));
+    return std::get<std::int32_t>(getRegistryValue(tool, registryRoot::localMachine, path, name,
+                                                   registryType::number, defaultValue));
 }
 
 void setRegistryValue(ToolContext& tool, std::uint32_t hive, const std::string& path,
@@ -140,12 +140,12 @@ void setRegistryValue(ToolContext& tool, std::uint32_t hive, const std::string& 
     Registry& registry = tool.platform.registry;
     if (!registry.keyExists(hive, path)) return;
     RegistryValue stored{type, {}};
-    if (type == REG_SZ) {
+    if (type == registryType::text) {
         const std::string text = convertedToText(value);
         stored.bytes.assign(text.begin(), text.end());
-    } else if (type == REG_BINARY) {
+    } else if (type == registryType::bytes) {
         stored.bytes = convertedToBytes(value);
-    } else if (type == REG_DWORD) {
+    } else if (type == registryType::number) {
         stored.bytes = bytesOfNumber(convertedToNumber(value));
     } else {
         return;

@@ -20,8 +20,9 @@ void writeStamp(ToolContext& tool, const char* valueName)
 {
     std::array<std::uint8_t, 8> stamp{};
     getCurrentDateTimeInBinaryFormat(tool, stamp);
-    setRegistryValue(tool, HKEY_LOCAL_MACHINE, std::string(logManagerKey) + "\\BroadCast",
-                     valueName, REG_BINARY, std::vector<std::uint8_t>(stamp.begin(), stamp.end()));
+    setRegistryValue(tool, registryRoot::localMachine, std::string(logManagerKey) + "\\BroadCast",
+                     valueName, registryType::bytes,
+                     std::vector<std::uint8_t>(stamp.begin(), stamp.end()));
 }
 
 } // namespace

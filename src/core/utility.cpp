@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr int selectLogFileText = 1072;
-constexpr int selectDestinationText = 1076;
 constexpr const char* eventSource = "OrvanDiagnosticTool_MC";
 
 } // namespace
@@ -27,7 +25,8 @@ std::string selectDirectory(ToolContext& tool)
 
     step.enterProc();
     step([&] {
-        picked = tool.platform.desktop.pickFolder(myLoadResString(tool, selectDestinationText));
+        picked =
+            tool.platform.desktop.pickFolder(myLoadResString(tool, TextId::selectTheDestination));
     });
     step.exitProc();
     return picked;
@@ -39,8 +38,9 @@ std::string selectLogFile(ToolContext& tool)
     std::string picked;
 
     step.enterProc();
-    step(
-        [&] { picked = tool.platform.desktop.pickFile(myLoadResString(tool, selectLogFileText)); });
+    step([&] {
+        picked = tool.platform.desktop.pickFile(myLoadResString(tool, TextId::selectLogFile));
+    });
     step.exitProc();
     return picked;
 }

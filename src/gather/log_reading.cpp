@@ -45,9 +45,10 @@ bool LogReading::open(const std::string& fileName)
     step_([&] { exists = tool_.platform.files.fileExists(path); });
     if (!exists) {
         step_([&] {
-            tool_.platform.desktop.messageBox(myLoadResString(tool_, 1053) + path +
-                                                  myLoadResString(tool_, 1003),
-                                              myLoadResString(tool_, 1054), MessageIcon::critical);
+            tool_.platform.desktop.messageBox(myLoadResString(tool_, TextId::logFile) + path +
+                                                  myLoadResString(tool_, TextId::canNotBeFound),
+                                              myLoadResString(tool_, TextId::logNotFound),
+                                              MessageIcon::critical);
         });
         return false;
     }
@@ -95,7 +96,7 @@ void LogReading::showProgress()
     step_([&] { progressCurrent_.refresh(); });
     step_([&] {
         label_.setCaption(savedCaption_ + " " + numberText(size() - charactersRead_) + " " +
-                          myLoadResString(tool_, 1010));
+                          myLoadResString(tool_, TextId::bytesLeft));
     });
     step_([&] { label_.refresh(); });
 }

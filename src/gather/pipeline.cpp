@@ -36,7 +36,7 @@ struct Gather {
 
     std::string processing(const std::string& what) const
     {
-        return myLoadResString(tool, 1067) + " " + what;
+        return myLoadResString(tool, TextId::processing) + " " + what;
     }
 };
 
@@ -66,8 +66,9 @@ void gatherServerLog(Gather& run, const std::string& fileName)
 void gatherEventLog(Gather& run, const std::string& logName)
 {
     run.step([&] {
-        run.label.setCaption(run.processing(myLoadResString(run.tool, 1126) + " " + logName + " " +
-                                            myLoadResString(run.tool, 1040)));
+        run.label.setCaption(run.processing(myLoadResString(run.tool, TextId::windows) + " " +
+                                            logName + " " +
+                                            myLoadResString(run.tool, TextId::eventLogWithDots)));
     });
     run.step([&] { run.label.refresh(); });
     mdlLogs::processWindowsEventLogFile(run.tool, logName, run.destination, run.progressCurrent,
@@ -110,7 +111,7 @@ void gatherLeaves(Gather& run)
 
 void packResults(Gather& run)
 {
-    run.step([&] { run.label.setCaption(myLoadResString(run.tool, 1142)); });
+    run.step([&] { run.label.setCaption(myLoadResString(run.tool, TextId::creatingCabinet)); });
     mdlLogs::compressResults(run.tool, run.destination, run.tool.g_strTraceDatabase);
     run.step([&] { run.label.setCaption(""); });
 }

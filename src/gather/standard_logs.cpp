@@ -14,13 +14,15 @@ std::vector<std::string> mdlLogs::defineStandardLogs(ToolContext& tool)
     bool keyExists = false;
     std::string names;
 
-    step([&] { keyExists = registryKeyExists(tool, HKEY_LOCAL_MACHINE, toolKey); });
-    if (!keyExists) step([&] { createRegistryKey(tool, HKEY_LOCAL_MACHINE, toolKey); });
+    step([&] { keyExists = registryKeyExists(tool, registryRoot::localMachine, toolKey); });
+    if (!keyExists) step([&] { createRegistryKey(tool, registryRoot::localMachine, toolKey); });
     step([&] { names = getRegistryText(tool, toolKey, valueName); });
     if (names.empty()) {
         names = defaultLogs;
-        step(
-            [&] { setRegistryValue(tool, HKEY_LOCAL_MACHINE, toolKey, valueName, REG_SZ, names); });
+        step([&] {
+            setRegistryValue(tool, registryRoot::localMachine, toolKey, valueName,
+                             registryType::text, names);
+        });
     }
     return split(names, ',');
 }

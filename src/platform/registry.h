@@ -5,26 +5,33 @@
 #include <string>
 #include <vector>
 
-/// Root of all keys that the tool uses.
-constexpr std::uint32_t HKEY_LOCAL_MACHINE = 0x80000002;
+/// Roots of keys, by the system's own numbers.
+namespace registryRoot {
+constexpr std::uint32_t localMachine = 0x80000002; ///< of all keys that the tool uses
+} // namespace registryRoot
 
-constexpr int REG_SZ = 1;
-constexpr int REG_EXPAND_SZ = 2; ///< a text with names of variables in it
-constexpr int REG_BINARY = 3;
-constexpr int REG_DWORD = 4;
-constexpr int REG_MULTI_SZ = 7; ///< texts, each with a zero behind it, and one zero more
+/// What a value is, by the system's own numbers. The names are ours: its headers define theirs as
+/// macros, which would take these apart.
+namespace registryType {
+constexpr int text = 1;
+constexpr int expandableText = 2; ///< with names of variables in it
+constexpr int bytes = 3;
+constexpr int number = 4; ///< of 32 bits
+constexpr int texts = 7;  ///< with a zero behind each, and one zero more
+} // namespace registryType
 
 /// Whether a type's values are texts.
 constexpr bool isTextType(int type)
 {
-    return type == REG_SZ || type == REG_EXPAND_SZ || type == REG_MULTI_SZ;
+    return type == registryType::text || type == registryType::expandableText ||
+           type == registryType::texts;
 }
 
 /// A stored value. A text's bytes, of whatever text type, are UTF-8 and end in a zero byte, which
 /// the store adds when a writer leaves it out; the empty text and the empty list of texts have no
 /// bytes. A number has four, lowest first.
 struct RegistryValue {
-    int type = REG_SZ;
+    int type = registryType::text;
     std::vector<std::uint8_t> bytes;
 
     friend bool operator==(const RegistryValue&, const RegistryValue&) = default;

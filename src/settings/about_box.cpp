@@ -57,16 +57,16 @@ void frmAbout::Form_Load()
 
 void frmAbout::frmAbout_Auto_Init()
 {
-    caption_ = myLoadResString(tool_, 1107);
-    setCaptions(tool_, {{cmdOK, 1062},
-                        {lblVersionTitle, 1120},
-                        {lblCopyright, 1028},
-                        {lblTrademark, 1108},
-                        {lblKelmaAddress1, 1013},
-                        {lblKelmaAddress2, 1069},
-                        {lblKelmaAddress3, 1105},
-                        {lblChangeLanguage, 1012}});
-    mnuSelectLanguage_ = myLoadResString(tool_, 1071);
+    caption_ = myLoadResString(tool_, TextId::toolName);
+    setCaptions(tool_, {{cmdOK, TextId::ok},
+                        {lblVersionTitle, TextId::version},
+                        {lblCopyright, TextId::copyright},
+                        {lblTrademark, TextId::trademarks},
+                        {lblKelmaAddress1, TextId::companyName},
+                        {lblKelmaAddress2, TextId::divisionName},
+                        {lblKelmaAddress3, TextId::supportDepartment},
+                        {lblChangeLanguage, TextId::changeLanguage}});
+    mnuSelectLanguage_ = myLoadResString(tool_, TextId::selectLanguage);
     tellChanged();
 }
 
@@ -75,7 +75,7 @@ void frmAbout::fillLanguageMenu()
 {
     const std::vector<std::string>& codes = tool_.language.g_astrLanguages;
     if (codes.size() <= 1) {
-        mnuLanguageList_ = {{myLoadResString(tool_, 1060), englishTag}};
+        mnuLanguageList_ = {{myLoadResString(tool_, TextId::noLanguagesLoaded), englishTag}};
         return;
     }
     mnuLanguageList_.clear();

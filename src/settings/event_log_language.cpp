@@ -49,7 +49,8 @@ void writeText(ToolContext& tool, const std::string& source, const char* name,
                const std::string& text)
 {
     if (readText(tool, source, name) == text) return;
-    setRegistryValue(tool, HKEY_LOCAL_MACHINE, sourceKey(source), name, REG_SZ, text);
+    setRegistryValue(tool, registryRoot::localMachine, sourceKey(source), name, registryType::text,
+                     text);
 }
 
 } // namespace
@@ -63,7 +64,7 @@ std::vector<std::string> mdlLanguage::getEventLogKeys(ToolContext& tool)
     int last = -1;
 
     step.enterProc();
-    step([&] { sources = enumRegistryKeys(tool, HKEY_LOCAL_MACHINE, sourcesKey); });
+    step([&] { sources = enumRegistryKeys(tool, registryRoot::localMachine, sourcesKey); });
     step([&] {
         first = sources.lowerBound();
         last = sources.upperBound();
@@ -131,11 +132,11 @@ void mdlLanguage::recordOriginalLanguage(ToolContext& tool, const std::string& l
     bool keyExists = false;
 
     step.enterProc();
-    step([&] { keyExists = registryKeyExists(tool, HKEY_LOCAL_MACHINE, toolKey); });
-    if (!keyExists) step([&] { createRegistryKey(tool, HKEY_LOCAL_MACHINE, toolKey); });
+    step([&] { keyExists = registryKeyExists(tool, registryRoot::localMachine, toolKey); });
+    if (!keyExists) step([&] { createRegistryKey(tool, registryRoot::localMachine, toolKey); });
     step([&] {
-        setRegistryValue(tool, HKEY_LOCAL_MACHINE, toolKey, "OriginalEventLogLanguage", REG_SZ,
-                         language);
+        setRegistryValue(tool, registryRoot::localMachine, toolKey, "OriginalEventLogLanguage",
+                         registryType::text, language);
     });
     step.exitProc();
 }

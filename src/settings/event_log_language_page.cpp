@@ -33,10 +33,10 @@ ppgEventLogLanguage::ppgEventLogLanguage(ToolContext& tool) : SheetPage(pageName
 
 void ppgEventLogLanguage::ppgEventLogLanguage_Auto_Init()
 {
-    setCaptions(tool_, {{lblOriginalLanguage, 1063},
-                        {lblCurrentLanguage, 1030},
-                        {lblAvailableLangs, 1008},
-                        {lblDescription, 1017}});
+    setCaptions(tool_, {{lblOriginalLanguage, TextId::originalEventLogLanguage},
+                        {lblCurrentLanguage, TextId::currentEventLogLanguage},
+                        {lblAvailableLangs, TextId::availableEventLogLanguages},
+                        {lblDescription, TextId::aboutEventLogLanguages}});
 }
 
 void ppgEventLogLanguage::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet&)

@@ -60,11 +60,11 @@ ppgConfLogSettings::ppgConfLogSettings(ToolContext& tool) : SheetPage(pageName),
 
 void ppgConfLogSettings::ppgConfLogSettings_Auto_Init()
 {
-    setCaptions(tool_, {{cmdLogFileLocationBrowse, 1009},
-                        {chkDiagnosticOutput, 1035},
-                        {lblLocationOfLogFiles, 1051},
-                        {lblMaxSpace, 1056},
-                        {lblCycleDiagnosticLogs, 1138}});
+    setCaptions(tool_, {{cmdLogFileLocationBrowse, TextId::browse},
+                        {chkDiagnosticOutput, TextId::diagnosticOutput},
+                        {lblLocationOfLogFiles, TextId::locationOfLogFiles},
+                        {lblMaxSpace, TextId::maximumSpace},
+                        {lblCycleDiagnosticLogs, TextId::cycleLogsEvery}});
 }
 
 void ppgConfLogSettings::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet&)
@@ -110,9 +110,9 @@ void ppgConfLogSettings::fillMaxSpace(std::int32_t current)
 
 void ppgConfLogSettings::fillCycleDiagnosticLogs()
 {
-    const std::string hours = myLoadResString(tool_, 1140);
-    comboCycleDiagnosticLogs.addItem("0" + hours + myLoadResString(tool_, 1141));
-    comboCycleDiagnosticLogs.addItem("1" + myLoadResString(tool_, 1139));
+    const std::string hours = myLoadResString(tool_, TextId::hours);
+    comboCycleDiagnosticLogs.addItem("0" + hours + myLoadResString(tool_, TextId::isDefault));
+    comboCycleDiagnosticLogs.addItem("1" + myLoadResString(tool_, TextId::hour));
     for (int count = 2; count <= mostHours; ++count)
         comboCycleDiagnosticLogs.addItem(numberText(std::int64_t{count}) + hours);
     comboCycleDiagnosticLogs.setSelectedIndex(0);
@@ -155,13 +155,13 @@ void ppgConfLogSettings::PropertyPage_ApplyChanges()
     });
     if (m_bPathChanged) {
         step([&] {
-            setRegistryValue(tool_, HKEY_LOCAL_MACHINE, logManagerKey, "Output Path", REG_SZ,
-                             txtLocationOfLogFiles.text());
+            setRegistryValue(tool_, registryRoot::localMachine, logManagerKey, "Output Path",
+                             registryType::text, txtLocationOfLogFiles.text());
         });
         m_bPathChanged = false;
         step([&] {
-            tool_.platform.desktop.messageBox(myLoadResString(tool_, 1129),
-                                              myLoadResString(tool_, 1068),
+            tool_.platform.desktop.messageBox(myLoadResString(tool_, TextId::mustRebootForChanges),
+                                              myLoadResString(tool_, TextId::rebootRequired),
                                               MessageIcon::exclamation);
         });
     }

@@ -24,18 +24,20 @@ constexpr int keptWidth = 0; ///< in a header's row: the width stays as it is
 
 struct Header {
     int position;
-    int text;
+    TextId text;
     int width;
 };
 
-constexpr Header commonHeaders[] = {{2, 1098, keptWidth},
-                                    {3, 1082, keptWidth},
-                                    {4, 1104, keptWidth},
-                                    {5, 1022, keptWidth},
-                                    {6, 1050, keptWidth}};
-constexpr Header basicHeaders[] = {{7, 1103, 400}};
-constexpr Header extendedHeaders[] = {
-    {7, 1146, 40}, {8, 1147, 30}, {9, 1145, 100}, {10, 1103, 400}};
+constexpr Header commonHeaders[] = {{2, TextId::timestamp, keptWidth},
+                                    {3, TextId::source, keptWidth},
+                                    {4, TextId::traceNumber, keptWidth},
+                                    {5, TextId::component, keptWidth},
+                                    {6, TextId::level, keptWidth}};
+constexpr Header basicHeaders[] = {{7, TextId::trace, 400}};
+constexpr Header extendedHeaders[] = {{7, TextId::thread, 40},
+                                      {8, TextId::port, 30},
+                                      {9, TextId::callId, 100},
+                                      {10, TextId::trace, 400}};
 
 void makeColumns(ErrorTrap& step, bool extended, ResultView& resultView)
 {
@@ -76,19 +78,21 @@ std::string logPath(ErrorTrap& step, ToolContext& tool, ResultView& resultView)
 void sayNotFound(ErrorTrap& step, ToolContext& tool, const std::string& path)
 {
     step([&] {
-        tool.platform.desktop.messageBox(myLoadResString(tool, 1053) + path +
-                                             myLoadResString(tool, 1003),
-                                         myLoadResString(tool, 1054), MessageIcon::critical);
+        tool.platform.desktop.messageBox(myLoadResString(tool, TextId::logFile) + path +
+                                             myLoadResString(tool, TextId::canNotBeFound),
+                                         myLoadResString(tool, TextId::logNotFound),
+                                         MessageIcon::critical);
     });
 }
 
 void sayTooLarge(ErrorTrap& step, ToolContext& tool, const std::string& path)
 {
     step([&] {
-        std::string text = path + myLoadResString(tool, 1004);
-        text.append(lineBreak).append(myLoadResString(tool, 1065));
-        text.append(lineBreak).append(myLoadResString(tool, 1128));
-        tool.platform.desktop.messageBox(text, myLoadResString(tool, 1055), MessageIcon::critical);
+        std::string text = path + myLoadResString(tool, TextId::isTooLargeToDisplay);
+        text.append(lineBreak).append(myLoadResString(tool, TextId::useTheGatherWizardToFormat));
+        text.append(lineBreak).append(myLoadResString(tool, TextId::formattedLogCanBeViewed));
+        tool.platform.desktop.messageBox(text, myLoadResString(tool, TextId::logTooLargeTitle),
+                                         MessageIcon::critical);
     });
 }
 
@@ -157,9 +161,9 @@ private:
     void reportProgress()
     {
         step_([&] {
-            view_.statusBarText(myLoadResString(tool_, 1044) + " " +
+            view_.statusBarText(myLoadResString(tool_, TextId::formattingLog) + " " +
                                 numberText(fileSize_ - charactersRead_) + " " +
-                                myLoadResString(tool_, 1010));
+                                myLoadResString(tool_, TextId::bytesLeft));
         });
     }
 
@@ -200,7 +204,7 @@ void mdlSnapIn::populateListViewDiagLog(ToolContext& tool, ResultView& resultVie
     std::unique_ptr<TextReader> reader;
 
     step.enterProc();
-    step([&] { view.statusBarText(myLoadResString(tool, 1044)); });
+    step([&] { view.statusBarText(myLoadResString(tool, TextId::formattingLog)); });
     makeColumns(step, tool.g_bExtendedLogFields, resultView);
     nameLogLineColumns(tool, resultView);
 
@@ -213,6 +217,6 @@ void mdlSnapIn::populateListViewDiagLog(ToolContext& tool, ResultView& resultVie
     step([&] { reader = files.openForReading(path); });
     RowReader(step, tool, resultView, view, size).readAll(reader.get());
     step([&] { required(reader.get()).close(); });
-    step([&] { view.statusBarText(myLoadResString(tool, 1043)); });
+    step([&] { view.statusBarText(myLoadResString(tool, TextId::formatCompleted)); });
     step.exitProc();
 }

@@ -46,7 +46,10 @@ void addLogRow(ErrorTrap& step, ToolContext& tool, ResultView& resultView,
 
 void mdlSnapIn::nameLogFileColumns(ToolContext& tool, ResultView& resultView)
 {
-    constexpr std::pair<int, int> headers[] = {{2, 1029}, {3, 1042}, {4, 1097}, {5, 1080}};
+    constexpr std::pair<int, TextId> headers[] = {{2, TextId::current},
+                                                  {3, TextId::fileName},
+                                                  {4, TextId::timeStamp},
+                                                  {5, TextId::sizeInBytes}};
     ErrorTrap step{tool, "mdlSnapIn", "populateListViewAllLogs"};
 
     for (const auto& header : headers) {

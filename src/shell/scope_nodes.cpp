@@ -77,8 +77,8 @@ void mdlSnapIn::populateScopeProcesses(ToolContext& tool, ScopeTree& scopeItems,
 
     step.enterProc();
     step([&] {
-        names =
-            enumRegistryKeys(tool, HKEY_LOCAL_MACHINE, std::string(logManagerKey) + "\\Process");
+        names = enumRegistryKeys(tool, registryRoot::localMachine,
+                                 std::string(logManagerKey) + "\\Process");
     });
     step([&] {
         first = names.lowerBound();

@@ -36,7 +36,7 @@ const SheetDefinition* sheetDefinition(int kind)
         {kindMacroTrace,
          "MacroTrace",
          SheetType::wizard,
-         1025,
+         TextId::macroTraceWizardTitle,
          {
              wizardPage<ppgMacroTrace0Welcome>,
              wizardPage<ppgMacroTrace1>,
@@ -45,7 +45,7 @@ const SheetDefinition* sheetDefinition(int kind)
         {kindMicroTrace,
          "MicroTrace",
          SheetType::wizard,
-         1027,
+         TextId::microTraceWizardTitle,
          {
              wizardPage<ppgMicroTrace00Welcome>,
              wizardPage<ppgMicroTrace01Step>,
@@ -54,14 +54,14 @@ const SheetDefinition* sheetDefinition(int kind)
         {kindDisableAllTraces,
          "DisableAllTraces",
          SheetType::wizard,
-         1037,
+         TextId::resetWizardTitle,
          {
              wizardPage<ppgDisableAllTraces0>,
          }},
         {kindGatherLogFiles,
          "GatherLogFiles",
          SheetType::wizard,
-         1046,
+         TextId::gatherWizardTitle,
          {
              wizardPage<ppgGatherLogs00Welcome>,
              wizardPage<ppgGatherLogs01Step>,
@@ -72,12 +72,12 @@ const SheetDefinition* sheetDefinition(int kind)
         {kindLogSettings,
          "Logging",
          SheetType::propertySheet,
-         1052,
+         TextId::logSettings,
          {plainPage<ppgConfLogSettings>}},
         {kindEventLogLanguage,
          "Kelma Orvan Event Log Language",
          SheetType::propertySheet,
-         1039,
+         TextId::eventLogLanguage,
          {plainPage<ppgEventLogLanguage>}},
     };
     for (const SheetDefinition& sheet : sheets)

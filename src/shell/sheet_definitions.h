@@ -1,6 +1,7 @@
 #pragma once
 
 #include "console/property_sheet_provider.h"
+#include "core/text_id.h"
 
 #include <memory>
 #include <string>
@@ -19,7 +20,7 @@ struct SheetDefinition {
     int kind; ///< one of `mdlDefinitions`
     std::string sheetTitle;
     SheetType type;
-    int pageTitle; ///< id of the text that the person reads on every page
+    TextId pageTitle; ///< the text that the person reads on every page
     std::vector<MakePage> pages;
 };
 

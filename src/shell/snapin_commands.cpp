@@ -15,14 +15,17 @@ constexpr const char* moduleName = "snapinOrvanDiagnostics";
 
 struct MenuItemTexts {
     const char* name;
-    int caption;
-    int statusBarText;
+    TextId caption;
+    TextId statusBarText;
 };
 
 constexpr MenuItemTexts taskMenuTexts[] = {
-    {"mnuConfigureMacroTrace", 1024, 1110}, {"mnuConfigureMicroTraces", 1026, 1109},
-    {"mnuDisableAllTraces", 1036, 1114},    {"mnuStartNewLogFiles", 1083, 1113},
-    {"mnuGatherLogFiles", 1045, 1112},      {"mnuConfigureLogSettings", 1023, 1111},
+    {"mnuConfigureMacroTrace", TextId::configureMacroTraces, TextId::macroTraceActionHelp},
+    {"mnuConfigureMicroTraces", TextId::configureMicroTraces, TextId::microTraceActionHelp},
+    {"mnuDisableAllTraces", TextId::resetToDefaultTraces, TextId::resetActionHelp},
+    {"mnuStartNewLogFiles", TextId::startNewLogFiles, TextId::startNewLogFilesActionHelp},
+    {"mnuGatherLogFiles", TextId::gatherLogFiles, TextId::gatherActionHelp},
+    {"mnuConfigureLogSettings", TextId::configureLogSettings, TextId::logSettingsActionHelp},
 };
 
 struct TaskRoutine {
@@ -101,7 +104,10 @@ void snapinOrvanDiagnostics::ResultViews_TaskClick(ResultView&, Task& task)
         if (task.key == opening.key) step([&] { (this->*opening.routine)(); });
     if (task.key == "4") {
         step([&] { signalCycleDiagFiles(tool_); });
-        step([&] { console_.currentView().statusBarText(myLoadResString(tool_, 1058)); });
+        step([&] {
+            console_.currentView().statusBarText(
+                myLoadResString(tool_, TextId::newLogFilesStarted));
+        });
         step([&] { refreshScopeItems(); });
     }
     step.exitProc();
@@ -114,7 +120,9 @@ void snapinOrvanDiagnostics::mnuStartNewLogFiles_Click()
     step.enterProc();
     step([&] { signalCycleDiagFiles(tool_); });
     leaveShownLogs(step);
-    step([&] { console_.currentView().statusBarText(myLoadResString(tool_, 1058)); });
+    step([&] {
+        console_.currentView().statusBarText(myLoadResString(tool_, TextId::newLogFilesStarted));
+    });
     step([&] { refreshScopeItems(); });
     step.exitProc();
 }
@@ -167,7 +175,7 @@ void snapinOrvanDiagnostics::mnuOpenLogFile_click()
                                   .weak_from_this();
         });
         step([&] { savedLogs().name("SavedLog"); });
-        step([&] { savedLogs().displayName(myLoadResString(tool_, 1070)); });
+        step([&] { savedLogs().displayName(myLoadResString(tool_, TextId::savedLogs)); });
         step([&] { savedLogs().kind(mdlSnapIn::kindLogProcess); });
     }
     step([&] { view.select(savedLogs()); });

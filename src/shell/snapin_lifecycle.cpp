@@ -15,9 +15,9 @@ namespace {
 
 std::string descriptionText(ToolContext& tool)
 {
-    std::string text = myLoadResString(tool, 1016);
-    text.append(lineBreak).append(myLoadResString(tool, 1028));
-    text.append(lineBreak).append(myLoadResString(tool, 1108));
+    std::string text = myLoadResString(tool, TextId::snapInFullName);
+    text.append(lineBreak).append(myLoadResString(tool, TextId::copyright));
+    text.append(lineBreak).append(myLoadResString(tool, TextId::trademarks));
     return text;
 }
 
@@ -42,8 +42,8 @@ void snapinOrvanDiagnostics::SnapIn_Initialize()
 
     step.enterProc();
     step([&] { InitalizeLanguages(tool_); });
-    step([&] { console_.displayName(myLoadResString(tool_, 1015)); });
-    step([&] { console_.identity().provider = myLoadResString(tool_, 1013); });
+    step([&] { console_.displayName(myLoadResString(tool_, TextId::snapInName)); });
+    step([&] { console_.identity().provider = myLoadResString(tool_, TextId::companyName); });
     step([&] { console_.identity().description = descriptionText(tool_); });
     step([&] { console_.identity().helpFileName = mdlHTMLHelp::getHelpFileName(tool_); });
     step([&] { console_.identity().version = moduleVersionText(tool_.platform.module); });

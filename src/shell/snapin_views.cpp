@@ -115,7 +115,7 @@ void snapinOrvanDiagnostics::showLanguage()
 {
     ErrorTrap step{tool_, moduleName, "showLanguage"};
 
-    step([&] { console_.displayName(myLoadResString(tool_, 1015)); });
+    step([&] { console_.displayName(myLoadResString(tool_, TextId::snapInName)); });
     step([&] {
         ResultView& shown = console_.currentView().selectedScopePaneItem().resultView();
         const std::string& name = shown.displayString();

@@ -6,14 +6,19 @@
 namespace {
 
 struct TaskTexts {
-    int text;
-    int helpText;
+    TextId text;
+    TextId helpText;
     char symbol;
 };
 
 /// By position on the task pad.
-constexpr TaskTexts taskTexts[] = {{1024, 1117, 77}, {1026, 1116, 77}, {1036, 1119, 39},
-                                   {1083, 1118, 54}, {1045, 1112, 70}, {1023, 1111, 71}};
+constexpr TaskTexts taskTexts[] = {
+    {TextId::configureMacroTraces, TextId::macroTraceTaskHelp, 77},
+    {TextId::configureMicroTraces, TextId::microTraceTaskHelp, 77},
+    {TextId::resetToDefaultTraces, TextId::resetTaskHelp, 39},
+    {TextId::startNewLogFiles, TextId::startNewLogFilesTaskHelp, 54},
+    {TextId::gatherLogFiles, TextId::gatherActionHelp, 70},
+    {TextId::configureLogSettings, TextId::logSettingsActionHelp, 71}};
 
 } // namespace
 
@@ -22,8 +27,10 @@ void mdlSnapIn::populateTaskPadDefault(ToolContext& tool, ResultView& resultView
     ErrorTrap step{tool, "mdlSnapIn", "populateTaskPadDefault"};
 
     step.enterProc();
-    step([&] { resultView.taskPad().title = myLoadResString(tool, 1014); });
-    step([&] { resultView.taskPad().description = myLoadResString(tool, 1018); });
+    step([&] { resultView.taskPad().title = myLoadResString(tool, TextId::taskPadTitle); });
+    step([&] {
+        resultView.taskPad().description = myLoadResString(tool, TextId::taskPadDescription);
+    });
     int position = 0;
     for (const TaskTexts& texts : taskTexts) {
         ++position;

@@ -25,13 +25,14 @@ std::string traceKey(const std::string& groupName, const std::string& traceName)
 void ensureKey(ToolContext& tool, ErrorTrap& step, const std::string& path)
 {
     bool exists = false;
-    step([&] { exists = registryKeyExists(tool, HKEY_LOCAL_MACHINE, path); });
-    if (!exists) step([&] { createRegistryKey(tool, HKEY_LOCAL_MACHINE, path); });
+    step([&] { exists = registryKeyExists(tool, registryRoot::localMachine, path); });
+    if (!exists) step([&] { createRegistryKey(tool, registryRoot::localMachine, path); });
 }
 
 void writeEnabled(ToolContext& tool, const std::string& key, std::int32_t enabled)
 {
-    setRegistryValue(tool, HKEY_LOCAL_MACHINE, key, "Enabled", REG_DWORD, enabled);
+    setRegistryValue(tool, registryRoot::localMachine, key, "Enabled", registryType::number,
+                     enabled);
 }
 
 } // namespace
@@ -58,7 +59,7 @@ void mdlTraces::recordMacroTrace(ToolContext& tool, const std::string& groupName
         });
     }
     step([&] {
-        setRegistryValue(tool, HKEY_LOCAL_MACHINE, key, "Date", REG_SZ,
+        setRegistryValue(tool, registryRoot::localMachine, key, "Date", registryType::text,
                          dateText(tool.platform.clock.now()));
     });
 }

@@ -66,7 +66,7 @@ void forEachSubkey(ToolContext& tool, ErrorTrap& step, const std::string& path, 
 {
     int first = 0;
     int last = -1;
-    step([&] { names = enumRegistryKeys(tool, HKEY_LOCAL_MACHINE, path); });
+    step([&] { names = enumRegistryKeys(tool, registryRoot::localMachine, path); });
     step([&] {
         first = names.lowerBound();
         last = names.upperBound();
@@ -75,7 +75,7 @@ void forEachSubkey(ToolContext& tool, ErrorTrap& step, const std::string& path, 
         const std::string& name = names.at(index);
         const std::string subkey = path + "\\" + name;
         bool exists = false;
-        step([&] { exists = registryKeyExists(tool, HKEY_LOCAL_MACHINE, subkey); });
+        step([&] { exists = registryKeyExists(tool, registryRoot::localMachine, subkey); });
         if (exists) visit(name, subkey);
     }
 }
@@ -83,7 +83,7 @@ void forEachSubkey(ToolContext& tool, ErrorTrap& step, const std::string& path, 
 void recordAllAsOff(ToolContext& tool, ErrorTrap& step)
 {
     bool everRecorded = false;
-    step([&] { everRecorded = registryKeyExists(tool, HKEY_LOCAL_MACHINE, toolKey); });
+    step([&] { everRecorded = registryKeyExists(tool, registryRoot::localMachine, toolKey); });
     if (!everRecorded) return;
     KeyNames groups;
     KeyNames traces;

@@ -32,10 +32,10 @@ ppgGatherLogs99Final::ppgGatherLogs99Final(ToolContext& tool,
 
 void ppgGatherLogs99Final::ppgGatherLogs99Final_Auto_Init()
 {
-    setCaptions({{lblCompletionTitle, 1021},
-                 {lblCompletionStatment, 1089},
-                 {cmdOpenWindowsExplorer, 1121},
-                 {cmdLaunchQRV, 1137}});
+    setCaptions({{lblCompletionTitle, TextId::gatherCompletionTitle},
+                 {lblCompletionStatment, TextId::logsHaveBeenGathered},
+                 {cmdOpenWindowsExplorer, TextId::viewDirectory},
+                 {cmdLaunchQRV, TextId::openLogsInViewer}});
 }
 
 void ppgGatherLogs99Final::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet& PropertySheet)
@@ -60,7 +60,7 @@ void ppgGatherLogs99Final::IWizardPage_Activate(bool&, int& NextOrFinish, std::s
 void ppgGatherLogs99Final::updateSummary()
 {
     const std::string emptyLine = std::string(lineBreak) + std::string(lineBreak);
-    lblSummary.setCaption(myLoadResString(tool(), 1090) + emptyLine +
+    lblSummary.setCaption(myLoadResString(tool(), TextId::logsHaveBeenPlacedIn) + emptyLine +
                           SelectedControls(0).m_LogDestinationDirectory);
 }
 

@@ -22,7 +22,7 @@ std::vector<std::string> keyNames(ToolContext& tool, ErrorTrap& step, const std:
     int first = 0;
     int last = -1;
 
-    step([&] { found = enumRegistryKeys(tool, HKEY_LOCAL_MACHINE, path); });
+    step([&] { found = enumRegistryKeys(tool, registryRoot::localMachine, path); });
     step([&] {
         first = found.lowerBound();
         last = found.upperBound();
@@ -48,7 +48,8 @@ ppgGatherLogs01Step::ppgGatherLogs01Step(ToolContext& tool,
 
 void ppgGatherLogs01Step::ppgGatherLogs01Step_Auto_Init()
 {
-    setCaptions({{lblStepTitle, 1074}, {lblStepDescription, 1077}});
+    setCaptions({{lblStepTitle, TextId::selectLogsToGather},
+                 {lblStepDescription, TextId::logSelectionDescription}});
 }
 
 void ppgGatherLogs01Step::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet& PropertySheet)
@@ -79,7 +80,8 @@ void ppgGatherLogs01Step::populateLogsToGather()
          keyNames(tool(), step, std::string(logManagerKey) + "\\Process"))
         addProcess(step, orvanLogs, process);
 
-    TreeNode& windowsLogs = treeviewLogsToGather.add(myLoadResString(tool(), 1127));
+    TreeNode& windowsLogs =
+        treeviewLogsToGather.add(myLoadResString(tool(), TextId::windowsEventLogs));
     for (const std::string& log : keyNames(tool(), step, eventLogsKey))
         step([&] { treeviewLogsToGather.addChild(windowsLogs, log).ensureVisible(); });
     step([&] { orvanLogs.ensureVisible(); });

@@ -34,10 +34,10 @@ ppgGatherLogs03Step::ppgGatherLogs03Step(ToolContext& tool,
 
 void ppgGatherLogs03Step::ppgGatherLogs03Step_Auto_Init()
 {
-    setCaptions({{lblStepTitle, 1048},
-                 {lblStepDescription, 1088},
-                 {lblCurrentProcess, 1067},
-                 {lblOverallProgress, 1064}});
+    setCaptions({{lblStepTitle, TextId::gatheringLogs},
+                 {lblStepDescription, TextId::logsAreBeingGathered},
+                 {lblCurrentProcess, TextId::processing},
+                 {lblOverallProgress, TextId::overallProgress}});
 }
 
 void ppgGatherLogs03Step::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet& PropertySheet)
@@ -76,7 +76,8 @@ void ppgGatherLogs03Step::populateSteps()
     step.enterProc();
     step([&] { treeviewSteps.clear(); });
     addSteps(step, std::string(mdlLogs::orvanLogsBranch), &classTraceObject::getOrvanLogs);
-    addSteps(step, myLoadResString(tool(), 1127), &classTraceObject::getWindowsLogs);
+    addSteps(step, myLoadResString(tool(), TextId::windowsEventLogs),
+             &classTraceObject::getWindowsLogs);
     step.exitProc();
 }
 

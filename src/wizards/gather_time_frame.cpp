@@ -55,13 +55,13 @@ ppgGatherLogs02Step::ppgGatherLogs02Step(ToolContext& tool,
 
 void ppgGatherLogs02Step::ppgGatherLogs02Step_ControlInit()
 {
-    setCaptions({{lblStepTitle, 1135},
-                 {lblStepDescription, 1136},
-                 {Frame2, 1132},
-                 {lblStartTime, 1134},
-                 {lblDuration, 1133},
-                 {chkWindowsEventLogs_Application, 1148},
-                 {chkWindowsEventLogs_System, 1149}});
+    setCaptions({{lblStepTitle, TextId::timeFrameTitle},
+                 {lblStepDescription, TextId::timeFrameDescription},
+                 {Frame2, TextId::currentTime},
+                 {lblStartTime, TextId::startTime},
+                 {lblDuration, TextId::durationInHours},
+                 {chkWindowsEventLogs_Application, TextId::includeApplicationEvents},
+                 {chkWindowsEventLogs_System, TextId::includeSystemEvents}});
 }
 
 void ppgGatherLogs02Step::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet& PropertySheet)

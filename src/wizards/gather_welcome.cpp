@@ -32,19 +32,19 @@ void ppgGatherLogs00Welcome::ppgGatherLogs00Welcome_Auto_Init()
 {
     struct OptionTexts {
         int option;
-        int caption;
-        int toolTip;
+        TextId caption;
+        TextId toolTip;
     };
     constexpr OptionTexts optionTexts[] = {
-        {gatherOption::standard, 1047, 1091},
-        {gatherOption::byHand, 1073, 1115},
-        {gatherOption::timeFrame, 1143, 1144},
+        {gatherOption::standard, TextId::gatherStandardLogs, TextId::whatTheStandardLogsAre},
+        {gatherOption::byHand, TextId::selectLogs, TextId::handSelectOptionHelp},
+        {gatherOption::timeFrame, TextId::processLogsOverTimeFrame, TextId::timeFrameOptionHelp},
     };
 
-    setCaptions({{lblWelcomeTitle, 1125},
-                 {lblPurpose, 1131},
-                 {lblWarnings, 1031},
-                 {cmdChangeDestinationDirectory, 1011}});
+    setCaptions({{lblWelcomeTitle, TextId::gatherWelcome},
+                 {lblPurpose, TextId::gatherWizardPurpose},
+                 {lblWarnings, TextId::gatherMayTakeMinutes},
+                 {cmdChangeDestinationDirectory, TextId::browseWithKey}});
     for (const OptionTexts& texts : optionTexts) {
         optGatherLogs.setCaption(texts.option, myLoadResString(tool(), texts.caption));
         optGatherLogs.setOptionToolTip(texts.option, myLoadResString(tool(), texts.toolTip));
@@ -76,7 +76,8 @@ void ppgGatherLogs00Welcome::updateDestinationDirectory()
         });
     }
     step([&] {
-        lblDestinationDirectory.setCaption(myLoadResString(tool(), 1033) + std::string(lineBreak) +
+        lblDestinationDirectory.setCaption(myLoadResString(tool(), TextId::destinationDirectory) +
+                                           std::string(lineBreak) +
                                            SelectedControls(0).m_LogDestinationDirectory);
     });
 }

@@ -34,7 +34,9 @@ ppgMacroTrace0Welcome::ppgMacroTrace0Welcome(ToolContext& tool,
 
 void ppgMacroTrace0Welcome::ppgMacroTrace0Welcome_Auto_Init()
 {
-    setCaptions({{lblDefinitions, 1006}, {lblPurpose, 1095}, {lblWelcome, 1122}});
+    setCaptions({{lblDefinitions, TextId::whatAMacroTraceIs},
+                 {lblPurpose, TextId::macroTraceWizardPurpose},
+                 {lblWelcome, TextId::macroTraceWelcome}});
 }
 
 void ppgMacroTrace0Welcome::IWizardPage_Activate(bool& EnableBack, int& NextOrFinish, std::string&)
@@ -58,7 +60,8 @@ ppgMacroTrace3Final::ppgMacroTrace3Final(ToolContext& tool,
 
 void ppgMacroTrace3Final::ppgMacroTrace3Final_Auto_Init()
 {
-    setCaptions({{lblCompletionStatment, 1085}, {lblCompletionTitle, 1019}});
+    setCaptions({{lblCompletionStatment, TextId::macroTracesWereConfigured},
+                 {lblCompletionTitle, TextId::macroTraceCompletionTitle}});
 }
 
 void ppgMacroTrace3Final::IWizardPage_Activate(bool&, int& NextOrFinish, std::string&)
@@ -82,8 +85,8 @@ void ppgMacroTrace3Final::showSummary(ErrorTrap& step)
     std::vector<std::string> keys;
 
     step([&] { lblSummary.setCaption({}); });
-    step([&] { enabled.text = myLoadResString(tool(), 1087); });
-    step([&] { disabled.text = myLoadResString(tool(), 1086); });
+    step([&] { enabled.text = myLoadResString(tool(), TextId::macroTracesWereEnabled); });
+    step([&] { disabled.text = myLoadResString(tool(), TextId::macroTracesWereDisabled); });
     step([&] { status = SelectedControls(0).dictStatus; });
     step([&] {
         if (!status) throw RunTimeError(runTimeErrors::objectVariableNotSet);

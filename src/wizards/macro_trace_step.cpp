@@ -33,7 +33,8 @@ ppgMacroTrace1::ppgMacroTrace1(ToolContext& tool, std::shared_ptr<classTraceObje
 
 void ppgMacroTrace1::ppgMacroTrace1_Auto_Init()
 {
-    setCaptions({{lblStepDescription, 1078}, {lblStepTitle, 1024}});
+    setCaptions({{lblStepDescription, TextId::macroTraceStepDescription},
+                 {lblStepTitle, TextId::configureMacroTraces}});
 }
 
 void ppgMacroTrace1::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet& PropertySheet)

@@ -25,7 +25,9 @@ ppgMicroTrace00Welcome::ppgMicroTrace00Welcome(ToolContext& tool,
 
 void ppgMicroTrace00Welcome::ppgMicroTrace00Welcome_Auto_Init()
 {
-    setCaptions({{lblDefinitions, 1007}, {lblPurpose, 1096}, {lblWelcome, 1123}});
+    setCaptions({{lblDefinitions, TextId::whatAMicroTraceIs},
+                 {lblPurpose, TextId::microTraceWizardPurpose},
+                 {lblWelcome, TextId::microTraceWelcome}});
 }
 
 void ppgMicroTrace00Welcome::IWizardPage_Activate(bool& EnableBack, int& NextOrFinish, std::string&)
@@ -52,7 +54,8 @@ ppgMicroTrace01Step::ppgMicroTrace01Step(ToolContext& tool,
 
 void ppgMicroTrace01Step::ppgMicroTrace01Step_Auto_Init()
 {
-    setCaptions({{lblStepDescription, 1075}, {lblStepTitle, 1026}});
+    setCaptions({{lblStepDescription, TextId::microTraceStepDescription},
+                 {lblStepTitle, TextId::configureMicroTraces}});
 }
 
 void ppgMicroTrace01Step::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet& PropertySheet)
@@ -143,7 +146,8 @@ ppgMicroTrace99Final::ppgMicroTrace99Final(ToolContext& tool,
 
 void ppgMicroTrace99Final::ppgMicroTrace99Final_Auto_Init()
 {
-    setCaptions({{lblCompletionStatment, 1092}, {lblCompletionTitle, 1020}});
+    setCaptions({{lblCompletionStatment, TextId::microTracesAreInForce},
+                 {lblCompletionTitle, TextId::microTraceCompletionTitle}});
 }
 
 void ppgMicroTrace99Final::IWizardPage_Activate(bool&, int& NextOrFinish, std::string&)

@@ -21,11 +21,11 @@ ppgDisableAllTraces0::ppgDisableAllTraces0(ToolContext& tool,
 
 void ppgDisableAllTraces0::ppgDisableAllTraces0_Auto_Init()
 {
-    setCaptions({{chkDisableAllTraces, 1036},
-                 {lblWarnings, 1081},
-                 {lblPrompt, 1100},
-                 {lblPurpose, 1094},
-                 {lblWelcomeTitle, 1124}});
+    setCaptions({{chkDisableAllTraces, TextId::resetToDefaultTraces},
+                 {lblWarnings, TextId::someMicroTracesRemainOn},
+                 {lblPrompt, TextId::toContinueClickFinish},
+                 {lblPurpose, TextId::resetWizardPurpose},
+                 {lblWelcomeTitle, TextId::resetWelcome}});
 }
 
 void ppgDisableAllTraces0::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet& PropertySheet)

@@ -64,17 +64,19 @@ TEST(MyLoadResString, ComesFromTheLibraryAndElseFromTheEnglishTable)
     tool.languages.userDefault = 1036;
     tool.languages.with(frenchLibrary, {{1062, "D'accord"}, {1063, ""}, {2000, "seulement ici"}});
     InitalizeLanguages(tool.context);
-    EXPECT_EQ("D'accord", myLoadResString(tool.context, 1062));
-    EXPECT_EQ(englishText(1063), myLoadResString(tool.context, 1063)) << "an empty text is none";
-    EXPECT_EQ(englishText(1064), myLoadResString(tool.context, 1064)) << "the library lacks it";
-    EXPECT_EQ("seulement ici", myLoadResString(tool.context, 2000));
+    EXPECT_EQ("D'accord", myLoadResString(tool.context, TextId{1062}));
+    EXPECT_EQ(englishText(TextId{1063}), myLoadResString(tool.context, TextId{1063}))
+        << "an empty text is none";
+    EXPECT_EQ(englishText(TextId{1064}), myLoadResString(tool.context, TextId{1064}))
+        << "the library lacks it";
+    EXPECT_EQ("seulement ici", myLoadResString(tool.context, TextId{2000}));
 }
 
 TEST(MyLoadResString, IsEnglishBeforeAnyLanguageWasChosen)
 {
     TestTool tool;
-    EXPECT_EQ("OK", myLoadResString(tool.context, 1062));
-    EXPECT_EQ("Select the destination directory", myLoadResString(tool.context, 1076));
+    EXPECT_EQ("OK", myLoadResString(tool.context, TextId{1062}));
+    EXPECT_EQ("Select the destination directory", myLoadResString(tool.context, TextId{1076}));
 }
 
 TEST(MyLoadResString, AnIdOutsideTheTableIsEmpty)
@@ -84,7 +86,7 @@ TEST(MyLoadResString, AnIdOutsideTheTableIsEmpty)
     tool.languages.with(frenchLibrary, {{1062, "D'accord"}});
     InitalizeLanguages(tool.context);
     for (const int id : {1150, 999, 0, -1, 100000})
-        EXPECT_EQ("", myLoadResString(tool.context, id)) << id;
+        EXPECT_EQ("", myLoadResString(tool.context, TextId{id})) << id;
 }
 
 TEST(InitalizeLanguages, TakesTheUsersLanguageWhenNoneIsChosen)
@@ -94,7 +96,7 @@ TEST(InitalizeLanguages, TakesTheUsersLanguageWhenNoneIsChosen)
     tool.languages.with(germanLibrary, {{1062, "Gut"}});
     InitalizeLanguages(tool.context);
     EXPECT_EQ(1031, tool.context.language.g_lngCurrentLanguage);
-    EXPECT_EQ("Gut", myLoadResString(tool.context, 1062));
+    EXPECT_EQ("Gut", myLoadResString(tool.context, TextId{1062}));
     EXPECT_EQ((Codes{germanLibrary}), tool.languages.loads());
 }
 
@@ -110,12 +112,12 @@ TEST(InitalizeLanguages, KeepsAChosenLanguageAndFreesTheLibraryBefore)
     tool.context.language.g_lngCurrentLanguage = 1036;
     InitalizeLanguages(tool.context);
     EXPECT_EQ((std::vector<std::int32_t>{german}), tool.languages.freed());
-    EXPECT_EQ("D'accord", myLoadResString(tool.context, 1062));
+    EXPECT_EQ("D'accord", myLoadResString(tool.context, TextId{1062}));
 
     tool.context.language.g_lngCurrentLanguage = 1040;
     InitalizeLanguages(tool.context);
     EXPECT_EQ(0, tool.context.language.g_hResourceLibrary);
-    EXPECT_EQ("OK", myLoadResString(tool.context, 1062));
+    EXPECT_EQ("OK", myLoadResString(tool.context, TextId{1062}));
 }
 
 TEST(InitalizeLanguages, RemembersTheChoiceInTheRegistry)
@@ -139,7 +141,7 @@ TEST(InitalizeLanguages, ALanguageWithoutARowOfTheTableLoadsNoLibrary)
         EXPECT_EQ((Codes{"C:\\OrvanDiagnostics\\ZMKbrandingres_ERROR.dll"}),
                   tool.languages.loads());
         EXPECT_EQ(0, tool.context.language.g_hResourceLibrary);
-        EXPECT_EQ("OK", myLoadResString(tool.context, 1062));
+        EXPECT_EQ("OK", myLoadResString(tool.context, TextId{1062}));
         EXPECT_TRUE(tool.desktop.messages().empty());
     }
 }
@@ -241,8 +243,8 @@ TEST(InitalizeLanguages, ASavedJapaneseWithoutItsLibraryIsEnglishInTheJapaneseFo
     EXPECT_EQ("1041", tool.registry.text(toolKey, "CurrentLocalizationLanguage"));
     EXPECT_EQ((Codes{"C:\\OrvanDiagnostics\\ZMKbrandingres_JPN.dll"}), tool.languages.loads());
     EXPECT_EQ(0, tool.context.language.g_hResourceLibrary);
-    EXPECT_EQ("OK", myLoadResString(tool.context, 1062));
-    EXPECT_EQ(englishText(1048), myLoadResString(tool.context, 1048));
+    EXPECT_EQ("OK", myLoadResString(tool.context, TextId{1062}));
+    EXPECT_EQ(englishText(TextId{1048}), myLoadResString(tool.context, TextId{1048}));
     EXPECT_EQ(128, form.first.charset);
     EXPECT_EQ("ＭＳ Ｐゴシック", form.first.name);
     EXPECT_TRUE(tool.desktop.messages().empty());

@@ -29,7 +29,7 @@ TEST(SetCaptions, TakesTheTextsOfTheCurrentLanguage)
     InitalizeLanguages(tool.context);
     Label first;
     Button second;
-    setCaptions(tool.context, {{first, 1062}, {second, 1012}});
+    setCaptions(tool.context, {{first, TextId::ok}, {second, TextId::changeLanguage}});
     EXPECT_EQ("D'accord", first.caption());
     EXPECT_EQ("Change Language", second.caption());
 }

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr std::uint32_t hive = HKEY_LOCAL_MACHINE;
+constexpr std::uint32_t hive = registryRoot::localMachine;
 const std::string key = "Software\\Test";
 
 using Bytes = std::vector<std::uint8_t>;
@@ -19,8 +19,8 @@ RegistryValue stored(int type, std::size_t size, std::uint8_t byte = 'x')
 
 std::string textFrom(TestTool& tool, const std::string& path, const std::string& name)
 {
-    const RegistryData data =
-        getRegistryValue(tool.context, hive, path, name, REG_SZ, std::string("default"));
+    const RegistryData data = getRegistryValue(tool.context, hive, path, name, registryType::text,
+                                               std::string("default"));
     return std::get<std::string>(data);
 }
 
@@ -60,13 +60,14 @@ TEST(GetRegistryValue, ReadsATextWithoutItsLastByte)
         std::string expected;
     };
     const Case cases[] = {
-        {"the terminating zero is no part of the text", {REG_SZ, {'a', 'b', 0}}, "ab"},
-        {"one byte is that byte", {REG_BINARY, {'a'}}, "a"},
-        {"no byte is the empty text", {REG_SZ, {}}, ""},
-        {"the last byte goes whatever it is", {REG_BINARY, {'a', 'b', 'c'}}, "ab"},
-        {"the stored type does not matter", {REG_DWORD, {'a', 'b', 'c', 0}}, "abc"},
-        {"the longest text fills the buffer", stored(REG_BINARY, 1024), std::string(1023, 'x')},
-        {"a byte more is too much", stored(REG_BINARY, 1025), "default"},
+        {"the terminating zero is no part of the text", {registryType::text, {'a', 'b', 0}}, "ab"},
+        {"one byte is that byte", {registryType::bytes, {'a'}}, "a"},
+        {"no byte is the empty text", {registryType::text, {}}, ""},
+        {"the last byte goes whatever it is", {registryType::bytes, {'a', 'b', 'c'}}, "ab"},
+        {"the stored type does not matter", {registryType::number, {'a', 'b', 'c', 0}}, "abc"},
+        {"the longest text fills the buffer", stored(registryType::bytes, 1024),
+         std::string(1023, 'x')},
+        {"a byte more is too much", stored(registryType::bytes, 1025), "default"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.because);
@@ -88,14 +89,14 @@ TEST(GetRegistryValue, ATextStoredWithATerminatingZeroReadsBackWithoutIt)
 TEST(GetRegistryValue, ReadsBytesUpToItsBuffer)
 {
     TestTool tool;
-    tool.registry.withValue(key, "few", {REG_BINARY, {1, 2, 0}})
-        .withValue(key, "none", {REG_BINARY, {}})
-        .withValue(key, "most", stored(REG_BINARY, 4096))
-        .withValue(key, "tooMany", stored(REG_BINARY, 4097))
+    tool.registry.withValue(key, "few", {registryType::bytes, {1, 2, 0}})
+        .withValue(key, "none", {registryType::bytes, {}})
+        .withValue(key, "most", stored(registryType::bytes, 4096))
+        .withValue(key, "tooMany", stored(registryType::bytes, 4097))
         .withText(key, "text", "ab");
     const auto bytes = [&](const char* name) {
         return std::get<Bytes>(
-            getRegistryValue(tool.context, hive, key, name, REG_BINARY, Bytes{99}));
+            getRegistryValue(tool.context, hive, key, name, registryType::bytes, Bytes{99}));
     };
     EXPECT_EQ((Bytes{1, 2, 0}), bytes("few"));
     EXPECT_EQ(Bytes{}, bytes("none"));
@@ -109,9 +110,9 @@ TEST(GetRegistryValue, ReadsANumberOfUpToFourBytes)
 {
     TestTool tool;
     tool.registry.withNumber(key, "number", -2)
-        .withValue(key, "four", {REG_BINARY, {1, 2, 3, 4}})
-        .withValue(key, "two", {REG_BINARY, {1, 2}})
-        .withValue(key, "five", {REG_BINARY, {1, 2, 3, 4, 5}});
+        .withValue(key, "four", {registryType::bytes, {1, 2, 3, 4}})
+        .withValue(key, "two", {registryType::bytes, {1, 2}})
+        .withValue(key, "five", {registryType::bytes, {1, 2, 3, 4, 5}});
     EXPECT_EQ(-2, getRegistryNumber(tool.context, key, "number", 7));
     EXPECT_EQ(0x04030201, getRegistryNumber(tool.context, key, "four", 7));
     EXPECT_EQ(0x0201, getRegistryNumber(tool.context, key, "two", 7));
@@ -129,7 +130,7 @@ TEST(GetRegistryValue, AMissingKeyOrValueGivesTheDefault)
     EXPECT_EQ("default", textFrom(tool, "Closed", "v"));
     EXPECT_EQ("", getRegistryText(tool.context, "None", "v"));
     EXPECT_TRUE(std::holds_alternative<std::monostate>(
-        getRegistryValue(tool.context, hive, "None", "v", REG_SZ, {})));
+        getRegistryValue(tool.context, hive, "None", "v", registryType::text, {})));
 }
 
 TEST(GetRegistryValue, AnUnsupportedTypeRaises1001WhenTheKeyOpens)
@@ -156,15 +157,21 @@ TEST(SetRegistryValue, WritesEachTypeAsItsBytes)
         Bytes expected;
     };
     const Case cases[] = {
-        {"the store adds the zero that is not counted", REG_SZ, std::string("ab"), {'a', 'b', 0}},
-        {"an empty text has no bytes", REG_SZ, std::string(), {}},
-        {"a number becomes its text", REG_SZ, std::int32_t{-12}, {'-', '1', '2', 0}},
-        {"nothing is the empty text", REG_SZ, {}, {}},
-        {"bytes are written as they are", REG_BINARY, Bytes{0, 255, 7}, {0, 255, 7}},
-        {"no bytes are written too", REG_BINARY, Bytes{}, {}},
-        {"a number has its lowest byte first", REG_DWORD, std::int32_t{-2}, {254, 255, 255, 255}},
-        {"a text becomes its number", REG_DWORD, std::string("258"), {2, 1, 0, 0}},
-        {"nothing is zero", REG_DWORD, {}, {0, 0, 0, 0}},
+        {"the store adds the zero that is not counted",
+         registryType::text,
+         std::string("ab"),
+         {'a', 'b', 0}},
+        {"an empty text has no bytes", registryType::text, std::string(), {}},
+        {"a number becomes its text", registryType::text, std::int32_t{-12}, {'-', '1', '2', 0}},
+        {"nothing is the empty text", registryType::text, {}, {}},
+        {"bytes are written as they are", registryType::bytes, Bytes{0, 255, 7}, {0, 255, 7}},
+        {"no bytes are written too", registryType::bytes, Bytes{}, {}},
+        {"a number has its lowest byte first",
+         registryType::number,
+         std::int32_t{-2},
+         {254, 255, 255, 255}},
+        {"a text becomes its number", registryType::number, std::string("258"), {2, 1, 0, 0}},
+        {"nothing is zero", registryType::number, {}, {0, 0, 0, 0}},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.because);
@@ -185,13 +192,13 @@ TEST(SetRegistryValue, WhatCannotBeConvertedRaisesAndWritesNothing)
         int error;
     };
     const Case cases[] = {
-        {"a text that is no number", REG_DWORD, std::string("many"), 13},
-        {"the empty text is no number", REG_DWORD, std::string(), 13},
-        {"a number past 32 bits", REG_DWORD, std::string("3000000000"), 6},
-        {"bytes are no number", REG_DWORD, Bytes{1}, 13},
-        {"bytes are no text", REG_SZ, Bytes{1}, 13},
-        {"a text is no array of bytes", REG_BINARY, std::string("x"), 13},
-        {"nor is nothing", REG_BINARY, {}, 13},
+        {"a text that is no number", registryType::number, std::string("many"), 13},
+        {"the empty text is no number", registryType::number, std::string(), 13},
+        {"a number past 32 bits", registryType::number, std::string("3000000000"), 6},
+        {"bytes are no number", registryType::number, Bytes{1}, 13},
+        {"bytes are no text", registryType::text, Bytes{1}, 13},
+        {"a text is no array of bytes", registryType::bytes, std::string("x"), 13},
+        {"nor is nothing", registryType::bytes, {}, 13},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.because);
@@ -216,8 +223,8 @@ TEST(SetRegistryValue, AnUnsupportedTypeWritesNothingAndRaisesNothing)
 TEST(SetRegistryValue, AMissingKeyIsNeitherMadeNorAnError)
 {
     TestTool tool;
-    setRegistryValue(tool.context, hive, key, "v", REG_SZ, std::string("x"));
-    setRegistryValue(tool.context, hive, key, "v", REG_DWORD, std::string("no number"));
+    setRegistryValue(tool.context, hive, key, "v", registryType::text, std::string("x"));
+    setRegistryValue(tool.context, hive, key, "v", registryType::number, std::string("no number"));
     EXPECT_FALSE(tool.registry.keyExists(hive, key));
 }
 
@@ -225,7 +232,7 @@ TEST(SetRegistryValue, AKeyThatMayNotBeWrittenStaysAsItIs)
 {
     TestTool tool;
     tool.registry.withText(key, "v", "old").readOnly(key);
-    setRegistryValue(tool.context, hive, key, "v", REG_SZ, std::string("new"));
+    setRegistryValue(tool.context, hive, key, "v", registryType::text, std::string("new"));
     EXPECT_EQ("old", tool.registry.text(key, "v"));
 }
 
@@ -235,10 +242,10 @@ TEST(SetRegistryValue, WhatWasWrittenReadsBack)
     tool.registry.withKey(key);
     for (const std::string& text :
          {std::string("x"), std::string(1023, 'y'), std::string("\xC3\xA9"), std::string()}) {
-        setRegistryValue(tool.context, hive, key, "v", REG_SZ, text);
+        setRegistryValue(tool.context, hive, key, "v", registryType::text, text);
         EXPECT_EQ(text, textFrom(tool, key, "v"));
     }
-    setRegistryValue(tool.context, hive, key, "v", REG_SZ, std::string(1024, 'y'));
+    setRegistryValue(tool.context, hive, key, "v", registryType::text, std::string(1024, 'y'));
     EXPECT_EQ("default", textFrom(tool, key, "v"));
 }
 

@@ -28,8 +28,8 @@ double stampOf(TestTool& tool)
 
 Bytes written(const TestTool& tool, const char* name)
 {
-    const auto value = tool.registry.value(HKEY_LOCAL_MACHINE, broadcastKey, name);
-    return value && value->type == REG_BINARY ? value->bytes : Bytes{};
+    const auto value = tool.registry.value(registryRoot::localMachine, broadcastKey, name);
+    return value && value->type == registryType::bytes ? value->bytes : Bytes{};
 }
 
 } // namespace
@@ -54,7 +54,7 @@ TEST(Signals, AMissingKeyIsNotMade)
     TestTool tool;
     signalDiagnosticGridChange(tool.context);
     signalCycleDiagFiles(tool.context);
-    EXPECT_FALSE(tool.registry.keyExists(HKEY_LOCAL_MACHINE, broadcastKey));
+    EXPECT_FALSE(tool.registry.keyExists(registryRoot::localMachine, broadcastKey));
     EXPECT_TRUE(tool.failures().empty());
 }
 

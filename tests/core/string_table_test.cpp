@@ -10,14 +10,14 @@ namespace {
 TEST(EnglishText, IsThereForEveryIdOfTheTable)
 {
     for (int id = firstTextId; id <= lastTextId; ++id) {
-        EXPECT_FALSE(englishText(id).empty()) << id;
+        EXPECT_FALSE(englishText(TextId{id}).empty()) << id;
     }
 }
 
 TEST(EnglishText, IsEmptyOutsideTheTable)
 {
     for (int id : {INT_MIN, -1, 0, firstTextId - 1, lastTextId + 1, INT_MAX}) {
-        EXPECT_EQ("", englishText(id)) << id;
+        EXPECT_EQ("", englishText(TextId{id})) << id;
     }
 }
 
@@ -45,7 +45,7 @@ TEST(EnglishText, HasTheTextThatItsIdStandsFor)
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.because);
-        EXPECT_EQ(c.text, englishText(c.id));
+        EXPECT_EQ(c.text, englishText(TextId{c.id}));
     }
 }
 
@@ -56,7 +56,7 @@ TEST(EnglishText, KeepsTheBlanksThatJoinItToItsNeighbours)
         std::string joined;
         const char* expected;
     };
-    const auto text = [](int id) { return std::string(englishText(id)); };
+    const auto text = [](int id) { return std::string(englishText(TextId{id})); };
     const Case cases[] = {
         {"two blanks stand between the sentences", text(1053) + "C:\\a.txt" + text(1003),
          "Log file: C:\\a.txt can not be found.  Log not processed."},
@@ -77,7 +77,7 @@ TEST(EnglishText, KeepsTheBlanksThatJoinItToItsNeighbours)
 TEST(EnglishText, FitsTheBufferThatTextsAreLoadedInto)
 {
     for (int id = firstTextId; id <= lastTextId; ++id) {
-        EXPECT_LT(englishText(id).size(), 1200u) << id;
+        EXPECT_LT(englishText(TextId{id}).size(), 1200u) << id;
     }
 }
 

@@ -12,13 +12,13 @@
 template <typename Machine>
 class RegistryContract : public testing::Test {
 protected:
-    static constexpr std::uint32_t hive = HKEY_LOCAL_MACHINE;
+    static constexpr std::uint32_t hive = registryRoot::localMachine;
 
     Registry& registry() { return machine.registry(); }
 
     static RegistryValue text(const std::string& bytes)
     {
-        return RegistryValue{REG_SZ, {bytes.begin(), bytes.end()}};
+        return RegistryValue{registryType::text, {bytes.begin(), bytes.end()}};
     }
 
     RegistryValue stored(const std::string& path, const std::string& name)
@@ -101,24 +101,24 @@ TYPED_TEST_P(RegistryContract, EveryKindOfTextEndsInAZeroAndIsWithoutBytesWhenEm
 {
     auto& registry = this->registry();
     registry.createKey(this->hive, "A");
-    for (const int type : {REG_SZ, REG_EXPAND_SZ, REG_MULTI_SZ}) {
+    for (const int type : {registryType::text, registryType::expandableText, registryType::texts}) {
         SCOPED_TRACE(type);
         EXPECT_TRUE(registry.setValue(this->hive, "A", "v", {type, {'a'}}));
         EXPECT_EQ((RegistryValue{type, {'a', 0}}), this->stored("A", "v"));
         EXPECT_TRUE(registry.setValue(this->hive, "A", "v", {type, {0}}));
         EXPECT_EQ((RegistryValue{type, {}}), this->stored("A", "v"));
     }
-    EXPECT_TRUE(registry.setValue(this->hive, "A", "v", {REG_MULTI_SZ, {0, 0}}));
-    EXPECT_EQ((RegistryValue{REG_MULTI_SZ, {}}), this->stored("A", "v"));
+    EXPECT_TRUE(registry.setValue(this->hive, "A", "v", {registryType::texts, {0, 0}}));
+    EXPECT_EQ((RegistryValue{registryType::texts, {}}), this->stored("A", "v"));
 }
 
 TYPED_TEST_P(RegistryContract, BytesAndNumbersComeBackAsWritten)
 {
     auto& registry = this->registry();
     registry.createKey(this->hive, "A");
-    const RegistryValue bytes{REG_BINARY, {0x55, 0x00, 0xFF, 0x0A}};
-    const RegistryValue none{REG_BINARY, {}};
-    const RegistryValue number{REG_DWORD, {0xFE, 0xFF, 0xFF, 0xFF}};
+    const RegistryValue bytes{registryType::bytes, {0x55, 0x00, 0xFF, 0x0A}};
+    const RegistryValue none{registryType::bytes, {}};
+    const RegistryValue number{registryType::number, {0xFE, 0xFF, 0xFF, 0xFF}};
     EXPECT_TRUE(registry.setValue(this->hive, "A", "bytes", bytes));
     EXPECT_TRUE(registry.setValue(this->hive, "A", "none", none));
     EXPECT_TRUE(registry.setValue(this->hive, "A", "number", number));
@@ -132,7 +132,7 @@ TYPED_TEST_P(RegistryContract, AValueIsReplacedWithItsType)
     auto& registry = this->registry();
     registry.createKey(this->hive, "A");
     registry.setValue(this->hive, "A", "Name", this->text("x"));
-    const RegistryValue number{REG_DWORD, {1, 0, 0, 0}};
+    const RegistryValue number{registryType::number, {1, 0, 0, 0}};
     EXPECT_TRUE(registry.setValue(this->hive, "A", "NAME", number));
     EXPECT_EQ(number, this->stored("A", "name"));
 }

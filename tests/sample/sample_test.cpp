@@ -148,13 +148,13 @@ TEST(SampleServer, OpensAsASiteWhoseRegistryNamesTheCurrentLogs)
     Site site(sample.path(""), ORVAN_DATA_OUTPUT, HostFacts{});
     const std::string processes = "Software\\Kelma Systems\\Kelma Orvan\\RoLogMgr\\Process";
 
-    const auto names = site.registry().subkeys(HKEY_LOCAL_MACHINE, processes);
+    const auto names = site.registry().subkeys(registryRoot::localMachine, processes);
     ASSERT_TRUE(names);
     EXPECT_EQ(5U, names->size());
     for (const auto& name : *names) {
         SCOPED_TRACE(name);
-        const auto value =
-            site.registry().value(HKEY_LOCAL_MACHINE, processes + '\\' + name, "CurrentLogFile");
+        const auto value = site.registry().value(registryRoot::localMachine,
+                                                 processes + '\\' + name, "CurrentLogFile");
         ASSERT_TRUE(value);
         const std::string path(value->bytes.begin(), value->bytes.end() - 1);
         EXPECT_TRUE(site.files().fileExists(path)) << path;

@@ -102,7 +102,7 @@ std::set<std::string> interfaceTexts()
                                    // texts that are the same in every language
                                    "Change Orvan Event Log Language", "Open Log File", "Orvan Logs",
                                    "Processes"};
-    for (int id = firstTextId; id <= lastTextId; ++id) texts.emplace(englishText(id));
+    for (int id = firstTextId; id <= lastTextId; ++id) texts.emplace(englishText(TextId{id}));
     return texts;
 }
 

@@ -96,15 +96,17 @@ TEST_P(ShippedCatalogue, FitsTheBufferThatTextsAreLoadedInto)
 TEST_P(ShippedCatalogue, HasTheOuterBlanksOfTheEnglishText)
 {
     for (const auto& [id, text] : catalogue) {
-        EXPECT_EQ(leadingBlanks(englishText(id)), leadingBlanks(text)) << id << ": " << text;
-        EXPECT_EQ(trailingBlanks(englishText(id)), trailingBlanks(text)) << id << ": " << text;
+        EXPECT_EQ(leadingBlanks(englishText(TextId{id})), leadingBlanks(text))
+            << id << ": " << text;
+        EXPECT_EQ(trailingBlanks(englishText(TextId{id})), trailingBlanks(text))
+            << id << ": " << text;
     }
 }
 
 TEST_P(ShippedCatalogue, HasAMnemonicWhereTheEnglishTextHasOne)
 {
     for (const auto& [id, text] : catalogue) {
-        const auto english = englishText(id);
+        const auto english = englishText(TextId{id});
         EXPECT_EQ(std::count(english.begin(), english.end(), '&'),
                   std::count(text.begin(), text.end(), '&'))
             << id << ": " << text;
@@ -115,7 +117,7 @@ TEST_P(ShippedCatalogue, KeepsNames)
 {
     for (const auto& [id, text] : catalogue) {
         for (const auto& name : names) {
-            if (englishText(id).find(name) == std::string_view::npos) continue;
+            if (englishText(TextId{id}).find(name) == std::string_view::npos) continue;
             EXPECT_NE(std::string::npos, text.find(name))
                 << id << " lacks " << name << ": " << text;
         }
@@ -126,7 +128,7 @@ TEST_P(Translation, DiffersFromEnglishButForNamesAndCognates)
 {
     for (const auto& [id, text] : catalogue) {
         const bool mayBeTheSame = namesAlone.count(id) != 0 || cognates(GetParam()).count(id) != 0;
-        EXPECT_EQ(mayBeTheSame, englishText(id) == text) << id << ": " << text;
+        EXPECT_EQ(mayBeTheSame, englishText(TextId{id}) == text) << id << ": " << text;
     }
 }
 
@@ -137,7 +139,7 @@ TEST(EnglishCatalogue, IsTheEnglishTable)
     const auto catalogue = parseLanguageCatalogue(bytes);
 
     ASSERT_FALSE(catalogue.empty());
-    for (const auto& [id, text] : catalogue) EXPECT_EQ(englishText(id), text) << id;
+    for (const auto& [id, text] : catalogue) EXPECT_EQ(englishText(TextId{id}), text) << id;
 }
 
 TEST(LanguageFolder, HoldsTheCataloguesThatAreCheckedHere)

@@ -37,7 +37,7 @@ void keepAsText(RegistryValue& value)
     if (!bytes.empty() && bytes.back() != 0) bytes.push_back(0);
     const bool isZeros =
         std::all_of(bytes.begin(), bytes.end(), [](auto byte) { return byte == 0; });
-    if (isZeros && (bytes.size() == 1 || value.type == REG_MULTI_SZ)) bytes.clear();
+    if (isZeros && (bytes.size() == 1 || value.type == registryType::texts)) bytes.clear();
 }
 
 template <typename Key>
@@ -53,7 +53,7 @@ Key* childOf(const Key& above, const std::string& name)
 FakeRegistry::Found FakeRegistry::find(std::uint32_t hive, const std::string& path) const
 {
     Found found;
-    if (hive != HKEY_LOCAL_MACHINE) return found;
+    if (hive != registryRoot::localMachine) return found;
     Key* key = machine_.get();
     for (const std::string& name : namesOf(path)) {
         key = childOf(*key, name);
@@ -94,7 +94,7 @@ FakeRegistry& FakeRegistry::withText(const std::string& path, const std::string&
 FakeRegistry& FakeRegistry::withNumber(const std::string& path, const std::string& name,
                                        std::int32_t number)
 {
-    RegistryValue value{REG_DWORD, {}};
+    RegistryValue value{registryType::number, {}};
     for (int shift = 0; shift < 32; shift += 8)
         value.bytes.push_back(
             static_cast<std::uint8_t>(static_cast<std::uint32_t>(number) >> shift));
@@ -105,7 +105,7 @@ FakeRegistry& FakeRegistry::withValue(const std::string& path, const std::string
                                       RegistryValue value)
 {
     make(path);
-    setValue(HKEY_LOCAL_MACHINE, path, name, value);
+    setValue(registryRoot::localMachine, path, name, value);
     written_.clear();
     return *this;
 }
@@ -124,12 +124,12 @@ FakeRegistry& FakeRegistry::readOnly(const std::string& path)
 
 bool FakeRegistry::has(const std::string& path, const std::string& name) const
 {
-    return value(HKEY_LOCAL_MACHINE, path, name).has_value();
+    return value(registryRoot::localMachine, path, name).has_value();
 }
 
 std::string FakeRegistry::text(const std::string& path, const std::string& name) const
 {
-    const auto stored = value(HKEY_LOCAL_MACHINE, path, name);
+    const auto stored = value(registryRoot::localMachine, path, name);
     if (!stored) return "";
     std::string text(stored->bytes.begin(), stored->bytes.end());
     if (!text.empty() && text.back() == '\0') text.pop_back();
@@ -138,7 +138,7 @@ std::string FakeRegistry::text(const std::string& path, const std::string& name)
 
 std::int32_t FakeRegistry::number(const std::string& path, const std::string& name) const
 {
-    const auto stored = value(HKEY_LOCAL_MACHINE, path, name);
+    const auto stored = value(registryRoot::localMachine, path, name);
     if (!stored || stored->bytes.size() != 4) return -1;
     std::uint32_t number = 0;
     for (std::size_t place = 0; place < 4; ++place)
@@ -153,7 +153,7 @@ bool FakeRegistry::keyExists(std::uint32_t hive, const std::string& path) const
 
 std::optional<bool> FakeRegistry::createKey(std::uint32_t hive, const std::string& path)
 {
-    if (hive != HKEY_LOCAL_MACHINE) return std::nullopt;
+    if (hive != registryRoot::localMachine) return std::nullopt;
     if (find(hive, path).key) return true;
     std::string above;
     for (const std::string& name : namesOf(path)) {

@@ -209,12 +209,12 @@ TEST_F(ResetTraces, RecordsEveryMacroTraceOfTheRegistryAsOff)
 TEST_F(ResetTraces, SkipsTheRecordsWhenNoMacroTraceWasEverRecorded)
 {
     tool.database.withComponent("A", 1, 0);
-    ASSERT_FALSE(registryKeyExists(tool.context, HKEY_LOCAL_MACHINE, toolKey));
+    ASSERT_FALSE(registryKeyExists(tool.context, registryRoot::localMachine, toolKey));
 
     reset();
 
     EXPECT_THAT(events(), IsEmpty());
-    EXPECT_FALSE(registryKeyExists(tool.context, HKEY_LOCAL_MACHINE, toolKey));
+    EXPECT_FALSE(registryKeyExists(tool.context, registryRoot::localMachine, toolKey));
     EXPECT_EQ(1, signalsSent());
     EXPECT_THAT(tool.failures(), IsEmpty());
 }
@@ -231,8 +231,9 @@ TEST_F(ResetTraces, DoesNothingForAKeyWithoutSubkeys)
     recorded("Full", "T", 1);
     reset();
     EXPECT_THAT(events(), ElementsAre("10005 Full - T"));
-    EXPECT_THAT(*tool.registry.subkeys(HKEY_LOCAL_MACHINE, std::string(toolKey) + "\\Empty"),
-                IsEmpty());
+    EXPECT_THAT(
+        *tool.registry.subkeys(registryRoot::localMachine, std::string(toolKey) + "\\Empty"),
+        IsEmpty());
     EXPECT_THAT(tool.failures(), IsEmpty());
 }
 

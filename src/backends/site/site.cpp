@@ -86,8 +86,9 @@ Site::Site(const std::string& folder, const std::string& installedData, HostFact
       module_(settings_.toolFolder, host), languages_(settings_.language, paths_),
       database_(databaseFile()), xml_(files_, codePage())
 {
-    registry_.keyExists(HKEY_LOCAL_MACHINE, ""); // a damaged registry shows here, before any change
-    paths_.place("C:\\");                        // so does a drive that leads out of the site
+    registry_.keyExists(registryRoot::localMachine,
+                        ""); // a damaged registry shows here, before any change
+    paths_.place("C:\\");    // so does a drive that leads out of the site
     paths_.standIn(settings_.toolFolder, lackingInToolFolder(toolFolder(), installedData_));
     registry_.beforeWrites([this] { database_.settle(); });
     database_.tellOfWaits(host.notice);

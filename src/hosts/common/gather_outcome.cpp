@@ -440,7 +440,7 @@ void GatherWatch::tellOfCurrentLogs(GatherOutcome& outcome) const
     const std::string& folder = tool_.g_strLogFolder;
     if (report_.listingFailure(folder) || !isFolder(tool_.platform.files, folder)) return;
     const std::string processes = std::string(logManagerKey) + "\\Process";
-    const auto names = tool_.platform.registry.subkeys(HKEY_LOCAL_MACHINE, processes);
+    const auto names = tool_.platform.registry.subkeys(registryRoot::localMachine, processes);
     for (const std::string& process : names.value_or(std::vector<std::string>{})) {
         const std::string current =
             getRegistryText(tool_, processes + "\\" + process, "CurrentLogFile");

@@ -18,9 +18,9 @@ bool NewLogsSignal::given(ToolContext& tool)
 
 NewLogsSignal::Bytes NewLogsSignal::stored(ToolContext& tool)
 {
-    const RegistryData found =
-        getRegistryValue(tool, HKEY_LOCAL_MACHINE, std::string(logManagerKey) + "\\BroadCast",
-                         "Cycle Diag File Time Set", REG_BINARY, {});
+    const RegistryData found = getRegistryValue(
+        tool, registryRoot::localMachine, std::string(logManagerKey) + "\\BroadCast",
+        "Cycle Diag File Time Set", registryType::bytes, {});
     const auto* bytes = std::get_if<std::vector<std::uint8_t>>(&found);
     return bytes ? Bytes(*bytes) : std::nullopt;
 }

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr auto hive = HKEY_LOCAL_MACHINE;
+constexpr auto hive = registryRoot::localMachine;
 constexpr const char* key = "Software\\Tool";
 
 /// A tool's fake machine with a log of an earlier run, and the services of a tool that looks at it.
@@ -29,8 +29,9 @@ struct LookingServicesTest : testing::Test {
 
 TEST_F(LookingServicesTest, AValueIsToldToBeWrittenAndStaysAsItWas)
 {
-    EXPECT_TRUE(services.registry.setValue(hive, key, "Name", {REG_SZ, {'x'}}));
-    EXPECT_FALSE(services.registry.setValue(hive, "Software\\None", "Name", {REG_SZ, {'x'}}));
+    EXPECT_TRUE(services.registry.setValue(hive, key, "Name", {registryType::text, {'x'}}));
+    EXPECT_FALSE(
+        services.registry.setValue(hive, "Software\\None", "Name", {registryType::text, {'x'}}));
     EXPECT_EQ("as it was", machine.registry.text(key, "Name"));
     EXPECT_TRUE(machine.registry.written().empty());
     EXPECT_EQ(machine.registry.value(hive, key, "Name"),

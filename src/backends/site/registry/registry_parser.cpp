@@ -194,14 +194,14 @@ private:
         auto& value = entry.value;
         if (here() == '"') {
             const auto text = parseQuoted(start);
-            value = normalised({REG_SZ, {text.begin(), text.end()}});
+            value = normalised({registryType::text, {text.begin(), text.end()}});
         } else if (take("dword:")) {
-            value.type = REG_DWORD;
+            value.type = registryType::number;
             const auto number = parseHexNumber(start);
             for (unsigned shift = 0; shift < 32; shift += 8)
                 value.bytes.push_back(static_cast<std::uint8_t>(number >> shift & 0xFF));
         } else if (take("hex:")) {
-            value = {REG_BINARY, parseBytes(start)};
+            value = {registryType::bytes, parseBytes(start)};
         } else if (take("hex(")) {
             value.type = static_cast<int>(parseHexNumber(start));
             if (!take("):")) failAt(start, "a type without \"):\"");

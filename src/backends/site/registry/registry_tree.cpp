@@ -212,7 +212,7 @@ RegistryValue normalised(RegistryValue value)
     if (!isUtf8(text)) text = validUtf8(text);
     if (!text.empty() && text.back() != '\0') text += '\0';
     const bool isEmptyList =
-        value.type == REG_MULTI_SZ && text.find_first_not_of('\0') == std::string::npos;
+        value.type == registryType::texts && text.find_first_not_of('\0') == std::string::npos;
     if (text.size() == 1 || isEmptyList) text.clear();
     value.bytes.assign(text.begin(), text.end());
     return value;

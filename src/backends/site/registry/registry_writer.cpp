@@ -50,12 +50,12 @@ private:
         }
         const auto& [type, bytes] = entry.value;
         std::string text(bytes.begin(), bytes.end());
-        if (type == REG_SZ && !text.empty()) text.pop_back();
-        if (type == REG_SZ && text.find('\0') == std::string::npos) {
+        if (type == registryType::text && !text.empty()) text.pop_back();
+        if (type == registryType::text && text.find('\0') == std::string::npos) {
             line(start + quoted(text));
-        } else if (type == REG_DWORD && bytes.size() == 4) {
+        } else if (type == registryType::number && bytes.size() == 4) {
             line(start + "dword:" + number(bytes));
-        } else if (type == REG_BINARY) {
+        } else if (type == registryType::bytes) {
             writeBytes(start + "hex:", text);
         } else {
             text.assign(bytes.begin(), bytes.end());

@@ -28,7 +28,7 @@ bool sameVersion(const struct stat& left, const struct stat& right)
 /// The path with its hive; the empty one, which names no key, for other hives than the tool's.
 std::string fullPath(std::uint32_t hive, const std::string& path)
 {
-    if (hive != HKEY_LOCAL_MACHINE) return {};
+    if (hive != registryRoot::localMachine) return {};
     std::string full = "HKEY_LOCAL_MACHINE";
     if (!path.empty()) full += "\\" + path;
     while (full.back() == '\\') full.pop_back();

@@ -60,9 +60,9 @@ private:
     /// The signal as it stands in the registry; none when no bytes stand there.
     static std::optional<std::vector<std::uint8_t>> signalOf(OpenTool& tool)
     {
-        const RegistryData stored = getRegistryValue(tool.context(), HKEY_LOCAL_MACHINE,
+        const RegistryData stored = getRegistryValue(tool.context(), registryRoot::localMachine,
                                                      std::string(logManagerKey) + "\\BroadCast",
-                                                     signalName, REG_BINARY, {});
+                                                     signalName, registryType::bytes, {});
         const auto* bytes = std::get_if<std::vector<std::uint8_t>>(&stored);
         return bytes ? std::optional(*bytes) : std::nullopt;
     }

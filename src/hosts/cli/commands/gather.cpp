@@ -137,7 +137,7 @@ private:
     static std::vector<std::string> subkeys(OpenTool& tool, const std::string& path)
     {
         return tool.context()
-            .platform.registry.subkeys(HKEY_LOCAL_MACHINE, path)
+            .platform.registry.subkeys(registryRoot::localMachine, path)
             .value_or(std::vector<std::string>{});
     }
 

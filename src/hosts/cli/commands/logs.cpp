@@ -85,7 +85,7 @@ private:
     void requireProcess(OpenTool& tool) const
     {
         const std::string key = std::string(logManagerKey) + "\\Process\\" + process_;
-        if (process_.empty() || !registryKeyExists(tool.context(), HKEY_LOCAL_MACHINE, key))
+        if (process_.empty() || !registryKeyExists(tool.context(), registryRoot::localMachine, key))
             throw noSuchProcess(process_);
     }
 

@@ -158,7 +158,7 @@ TraceExpectation expectedOfReset(ToolContext& tool, const std::vector<FlagWords>
     for (const FlagWords& component : present) expected.words[component.name] = 0;
     addDefaults(expected.words, present);
     const auto subkeys = [&](const std::string& path) {
-        return tool.platform.registry.subkeys(HKEY_LOCAL_MACHINE, path)
+        return tool.platform.registry.subkeys(registryRoot::localMachine, path)
             .value_or(std::vector<std::string>{});
     };
     for (const std::string& group : subkeys(toolKey))

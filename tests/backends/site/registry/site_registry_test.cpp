@@ -22,24 +22,24 @@ const std::string path = "Software\\Kelma Systems";
 
 RegistryValue text(const std::string& value)
 {
-    return {REG_SZ, {value.begin(), value.end()}};
+    return {registryType::text, {value.begin(), value.end()}};
 }
 
 RegistryValue number(std::uint8_t value)
 {
-    return {REG_DWORD, {value, 0, 0, 0}};
+    return {registryType::number, {value, 0, 0, 0}};
 }
 
 class SiteRegistryTest : public testing::Test {
 protected:
     bool set(const std::string& name, const RegistryValue& value)
     {
-        return registry.setValue(HKEY_LOCAL_MACHINE, path, name, value);
+        return registry.setValue(registryRoot::localMachine, path, name, value);
     }
 
     std::optional<RegistryValue> get(const std::string& name) const
     {
-        return registry.value(HKEY_LOCAL_MACHINE, path, name);
+        return registry.value(registryRoot::localMachine, path, name);
     }
 
     std::vector<std::string> filesBeside() const
@@ -56,20 +56,20 @@ protected:
 
 TEST_F(SiteRegistryTest, AMissingFileIsAnEmptyRegistry)
 {
-    EXPECT_TRUE(registry.keyExists(HKEY_LOCAL_MACHINE, ""));
-    EXPECT_FALSE(registry.keyExists(HKEY_LOCAL_MACHINE, path));
+    EXPECT_TRUE(registry.keyExists(registryRoot::localMachine, ""));
+    EXPECT_FALSE(registry.keyExists(registryRoot::localMachine, path));
     EXPECT_FALSE(get("x"));
     EXPECT_FALSE(set("x", number(1)));
-    EXPECT_FALSE(registry.subkeys(HKEY_LOCAL_MACHINE, path));
-    EXPECT_THAT(*registry.subkeys(HKEY_LOCAL_MACHINE, ""), testing::IsEmpty());
+    EXPECT_FALSE(registry.subkeys(registryRoot::localMachine, path));
+    EXPECT_THAT(*registry.subkeys(registryRoot::localMachine, ""), testing::IsEmpty());
     EXPECT_FALSE(folder.exists("registry.reg")) << "asking makes nothing";
 }
 
 TEST_F(SiteRegistryTest, TheFirstWriteMakesTheFile)
 {
-    EXPECT_EQ(false, registry.createKey(HKEY_LOCAL_MACHINE, path + "\\"));
-    EXPECT_EQ(true, registry.createKey(HKEY_LOCAL_MACHINE, path));
-    EXPECT_TRUE(registry.setValue(HKEY_LOCAL_MACHINE, path + "\\", "Name", text("Orvan")));
+    EXPECT_EQ(false, registry.createKey(registryRoot::localMachine, path + "\\"));
+    EXPECT_EQ(true, registry.createKey(registryRoot::localMachine, path));
+    EXPECT_TRUE(registry.setValue(registryRoot::localMachine, path + "\\", "Name", text("Orvan")));
 
     EXPECT_EQ(head + "[HKEY_LOCAL_MACHINE\\Software\\Kelma Systems]\r\n\"Name\"=\"Orvan\"\r\n\r\n",
               folder.read("registry.reg"));
@@ -77,19 +77,19 @@ TEST_F(SiteRegistryTest, TheFirstWriteMakesTheFile)
 
 TEST_F(SiteRegistryTest, MatchesNamesWithoutRegardToCase)
 {
-    registry.createKey(HKEY_LOCAL_MACHINE, path);
+    registry.createKey(registryRoot::localMachine, path);
     set("Name", text("a"));
 
-    EXPECT_TRUE(registry.keyExists(HKEY_LOCAL_MACHINE, "SOFTWARE\\KELMA SYSTEMS\\"));
+    EXPECT_TRUE(registry.keyExists(registryRoot::localMachine, "SOFTWARE\\KELMA SYSTEMS\\"));
     EXPECT_EQ(text(std::string("a\0", 2)), get("NAME"));
     EXPECT_TRUE(set("nAmE", text("b")));
     EXPECT_EQ(text(std::string("b\0", 2)), get("Name"));
-    EXPECT_EQ(true, registry.createKey(HKEY_LOCAL_MACHINE, "software"));
+    EXPECT_EQ(true, registry.createKey(registryRoot::localMachine, "software"));
 }
 
 TEST_F(SiteRegistryTest, AddsTheZeroThatAWriterLeavesOut)
 {
-    registry.createKey(HKEY_LOCAL_MACHINE, path);
+    registry.createKey(registryRoot::localMachine, path);
     set("left out", text("ab"));
     set("written", text(std::string("ab\0", 3)));
     set("empty", text(""));
@@ -102,32 +102,32 @@ TEST_F(SiteRegistryTest, AddsTheZeroThatAWriterLeavesOut)
 TEST_F(SiteRegistryTest, ListsSubkeysInTheOrderOfTheStore)
 {
     for (const char* name : {"z", "a", "m\\below"})
-        registry.createKey(HKEY_LOCAL_MACHINE, path + "\\" + name);
+        registry.createKey(registryRoot::localMachine, path + "\\" + name);
 
-    EXPECT_THAT(*registry.subkeys(HKEY_LOCAL_MACHINE, path), ElementsAre("z", "a", "m"));
+    EXPECT_THAT(*registry.subkeys(registryRoot::localMachine, path), ElementsAre("z", "a", "m"));
 }
 
 TEST_F(SiteRegistryTest, MakesNoKeyThatCannotBe)
 {
-    EXPECT_EQ(std::nullopt, registry.createKey(HKEY_LOCAL_MACHINE, "a\\\\b"));
-    EXPECT_EQ(std::nullopt, registry.createKey(HKEY_LOCAL_MACHINE, std::string(256, 'x')));
-    EXPECT_EQ(std::nullopt, registry.createKey(HKEY_LOCAL_MACHINE, "a\nb"));
+    EXPECT_EQ(std::nullopt, registry.createKey(registryRoot::localMachine, "a\\\\b"));
+    EXPECT_EQ(std::nullopt, registry.createKey(registryRoot::localMachine, std::string(256, 'x')));
+    EXPECT_EQ(std::nullopt, registry.createKey(registryRoot::localMachine, "a\nb"));
     EXPECT_EQ(std::nullopt, registry.createKey(7, "a"));
     EXPECT_FALSE(registry.keyExists(7, "a"));
-    registry.createKey(HKEY_LOCAL_MACHINE, path);
+    registry.createKey(registryRoot::localMachine, path);
     EXPECT_FALSE(set("a\r\nb", number(1)));
     EXPECT_FALSE(set("caf\xE9", number(1)));
 }
 
 TEST_F(SiteRegistryTest, AWriteThatChangesNothingWritesNothing)
 {
-    registry.createKey(HKEY_LOCAL_MACHINE, path);
+    registry.createKey(registryRoot::localMachine, path);
     set("x", number(1));
     const auto before = fs::last_write_time(folder / "registry.reg");
     fs::last_write_time(folder / "registry.reg", before - std::chrono::hours(1));
 
     EXPECT_TRUE(set("X", number(1)));
-    EXPECT_EQ(true, registry.createKey(HKEY_LOCAL_MACHINE, path));
+    EXPECT_EQ(true, registry.createKey(registryRoot::localMachine, path));
 
     EXPECT_EQ(before - std::chrono::hours(1), fs::last_write_time(folder / "registry.reg"));
 }
@@ -146,14 +146,14 @@ TEST_F(SiteRegistryTest, KeepsWhatItDoesNotTouch)
 
 TEST_F(SiteRegistryTest, SeesWhatOthersWrite)
 {
-    registry.createKey(HKEY_LOCAL_MACHINE, path);
+    registry.createKey(registryRoot::localMachine, path);
     SiteRegistry other{RootFolder(folder.path())};
 
     for (std::uint8_t round = 1; round < 15; ++round) {
-        ASSERT_TRUE(other.setValue(HKEY_LOCAL_MACHINE, path, "theirs", number(round)));
+        ASSERT_TRUE(other.setValue(registryRoot::localMachine, path, "theirs", number(round)));
         ASSERT_EQ(number(round), get("theirs"));
         ASSERT_TRUE(set("ours", number(round)));
-        ASSERT_EQ(number(round), other.value(HKEY_LOCAL_MACHINE, path, "ours"));
+        ASSERT_EQ(number(round), other.value(registryRoot::localMachine, path, "ours"));
     }
     fs::remove(folder / "registry.reg");
     EXPECT_FALSE(get("ours"));
@@ -161,11 +161,11 @@ TEST_F(SiteRegistryTest, SeesWhatOthersWrite)
 
 TEST_F(SiteRegistryTest, TwoWritersLoseNothing)
 {
-    registry.createKey(HKEY_LOCAL_MACHINE, path);
+    registry.createKey(registryRoot::localMachine, path);
     const auto write = [&](const std::string& name) {
         SiteRegistry own{RootFolder(folder.path())};
         for (std::uint8_t i = 0; i < 20; ++i)
-            own.setValue(HKEY_LOCAL_MACHINE, path, name + std::to_string(i), number(i));
+            own.setValue(registryRoot::localMachine, path, name + std::to_string(i), number(i));
     };
     std::thread first([&] { write("a"); });
     std::thread second([&] { write("b"); });
@@ -186,7 +186,7 @@ TEST_F(SiteRegistryTest, RefusesADamagedFileAndLeavesIt)
 
     EXPECT_EQ("registry.reg line 4: a value of no known form", errorTextOf([&] { get("x"); }));
     EXPECT_EQ(321, errorOf([&] { set("x", number(2)); }));
-    EXPECT_EQ(321, errorOf([&] { registry.createKey(HKEY_LOCAL_MACHINE, "new"); }));
+    EXPECT_EQ(321, errorOf([&] { registry.createKey(registryRoot::localMachine, "new"); }));
     EXPECT_EQ(damaged, folder.read("registry.reg"));
 
     folder.write("registry.reg", head + "[HKEY_LOCAL_MACHINE\\" + path + "]\r\n\"x\"=dword:1\r\n");
@@ -195,18 +195,18 @@ TEST_F(SiteRegistryTest, RefusesADamagedFileAndLeavesIt)
 
 TEST_F(SiteRegistryTest, NeitherWritesNorRaisesWhereTheFileIsReadOnly)
 {
-    registry.createKey(HKEY_LOCAL_MACHINE, path);
+    registry.createKey(registryRoot::localMachine, path);
     fs::permissions(folder / "registry.reg", fs::perms::owner_read);
 
     EXPECT_FALSE(set("x", number(1)));
-    EXPECT_EQ(std::nullopt, registry.createKey(HKEY_LOCAL_MACHINE, "new"));
+    EXPECT_EQ(std::nullopt, registry.createKey(registryRoot::localMachine, "new"));
     EXPECT_FALSE(get("x"));
-    EXPECT_TRUE(registry.keyExists(HKEY_LOCAL_MACHINE, path));
+    EXPECT_TRUE(registry.keyExists(registryRoot::localMachine, path));
 }
 
 TEST_F(SiteRegistryTest, AFailedWriteLeavesTheFileAndWhatIsRead)
 {
-    registry.createKey(HKEY_LOCAL_MACHINE, path);
+    registry.createKey(registryRoot::localMachine, path);
     set("x", number(1));
     const auto before = folder.read("registry.reg");
     rlimit limit{};
@@ -227,7 +227,7 @@ TEST_F(SiteRegistryTest, AFailedWriteLeavesTheFileAndWhatIsRead)
 
 TEST_F(SiteRegistryTest, KeepsTheFilesMode)
 {
-    registry.createKey(HKEY_LOCAL_MACHINE, path);
+    registry.createKey(registryRoot::localMachine, path);
     const auto mode = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_write;
     fs::permissions(folder / "registry.reg", mode);
 
@@ -239,18 +239,18 @@ TEST_F(SiteRegistryTest, KeepsTheFilesMode)
 TEST_F(SiteRegistryTest, RefusesWhatIsNoPlainFileAtOnce)
 {
     ASSERT_EQ(0, ::mkfifo((folder / "registry.reg").c_str(), 0666));
-    EXPECT_THAT(errorTextOf([&] { registry.keyExists(HKEY_LOCAL_MACHINE, path); }),
+    EXPECT_THAT(errorTextOf([&] { registry.keyExists(registryRoot::localMachine, path); }),
                 testing::EndsWith("registry.reg is no plain file"));
     fs::remove(folder / "registry.reg");
     const TemporaryFolder outside;
     fs::create_symlink(outside.write("a.reg", "x"), folder / "registry.reg");
-    EXPECT_EQ(70, errorOf([&] { registry.keyExists(HKEY_LOCAL_MACHINE, path); }));
+    EXPECT_EQ(70, errorOf([&] { registry.keyExists(registryRoot::localMachine, path); }));
     fs::remove(folder / "registry.reg");
     fs::create_symlink(outside / "lock", folder / "registry.reg.lock");
-    EXPECT_EQ(70, errorOf([&] { registry.createKey(HKEY_LOCAL_MACHINE, path); }));
+    EXPECT_EQ(70, errorOf([&] { registry.createKey(registryRoot::localMachine, path); }));
     fs::remove(folder / "registry.reg.lock");
     ASSERT_EQ(0, ::mkfifo((folder / "registry.reg.lock").c_str(), 0666));
-    EXPECT_EQ(70, errorOf([&] { registry.createKey(HKEY_LOCAL_MACHINE, path); }));
+    EXPECT_EQ(70, errorOf([&] { registry.createKey(registryRoot::localMachine, path); }));
     EXPECT_FALSE(outside.exists("lock"));
     EXPECT_EQ("x", outside.read("a.reg"));
 }
@@ -265,12 +265,12 @@ TEST_F(SiteRegistryTest, AWaitForTheLockIsToldAndEnds)
     const int lock = ::open((folder / "registry.reg.lock").c_str(), O_RDWR | O_CREAT, 0666);
     ASSERT_EQ(0, ::flock(lock, LOCK_EX));
     const auto start = steady_clock::now();
-    EXPECT_THAT(errorTextOf([&] { waiting.createKey(HKEY_LOCAL_MACHINE, path); }),
+    EXPECT_THAT(errorTextOf([&] { waiting.createKey(registryRoot::localMachine, path); }),
                 testing::EndsWith("registry.reg and did not let go in time"));
     EXPECT_EQ("waiting for another program that holds " + (folder / "registry.reg"), told);
     EXPECT_LT(steady_clock::now() - start, seconds(8));
     ::close(lock);
-    EXPECT_EQ(false, waiting.createKey(HKEY_LOCAL_MACHINE, path));
+    EXPECT_EQ(false, waiting.createKey(registryRoot::localMachine, path));
 }
 
 TEST_F(SiteRegistryTest, WritesNothingWhereWhatComesBeforeItFails)
@@ -281,11 +281,12 @@ TEST_F(SiteRegistryTest, WritesNothingWhereWhatComesBeforeItFails)
         ++acts;
         if (fails) throw RunTimeError(runTimeErrors::deviceIo);
     });
-    EXPECT_EQ(false, registry.createKey(HKEY_LOCAL_MACHINE, "Software\\Before"));
+    EXPECT_EQ(false, registry.createKey(registryRoot::localMachine, "Software\\Before"));
     EXPECT_EQ(1, acts);
     fails = true;
-    EXPECT_EQ(57, errorOf([&] { registry.createKey(HKEY_LOCAL_MACHINE, "Software\\After"); }));
-    EXPECT_FALSE(registry.keyExists(HKEY_LOCAL_MACHINE, "Software\\After"));
+    EXPECT_EQ(57,
+              errorOf([&] { registry.createKey(registryRoot::localMachine, "Software\\After"); }));
+    EXPECT_FALSE(registry.keyExists(registryRoot::localMachine, "Software\\After"));
     EXPECT_EQ(2, acts) << "reading needs nothing before it";
 }
 
@@ -294,8 +295,8 @@ TEST_F(SiteRegistryTest, RaisesWhereTheSiteIsGone)
     SiteRegistry gone{RootFolder(folder.makeFolder("none"))};
     fs::remove(folder / "none");
 
-    EXPECT_FALSE(gone.keyExists(HKEY_LOCAL_MACHINE, path));
-    EXPECT_EQ(76, errorOf([&] { gone.createKey(HKEY_LOCAL_MACHINE, path); }));
+    EXPECT_FALSE(gone.keyExists(registryRoot::localMachine, path));
+    EXPECT_EQ(76, errorOf([&] { gone.createKey(registryRoot::localMachine, path); }));
 }
 
 } // namespace
