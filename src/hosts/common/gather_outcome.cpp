@@ -196,9 +196,15 @@ GatherWatch::~GatherWatch()
     tool_.onTrappedError = std::move(listenedBefore_);
 }
 
-/// The bytes of the program that a gather copies to its destination. Raises 53, 62.
+/// The bytes of the program that a gather copies to its destination. Raises 53, 62, and 70 where
+/// that is the program itself.
 std::string GatherWatch::cabinetMaker() const
 {
+    const std::string program = "\\cabmaker.exe";
+    std::error_code none;
+    if (fs::equivalent(machinePath_(tool_.platform.module.folder() + program),
+                       machinePath_(destination_ + program), none))
+        throw RunTimeError(runTimeErrors::permissionDenied);
     return tool_.platform.files.openForReading(tool_.platform.module.folder() + "\\cabmaker.exe")
         ->readAll();
 }

@@ -438,8 +438,9 @@ TEST_F(CabinetOutcomeTest, WhatAKilledGatherLeftIsSweptAndWhatAPersonPutThereIsN
     tool.files.with("C:\\OrvanDiagnostics\\cabmaker.exe", "program");
     machine.write("Out/cabmaker.exe", "program");
     machine.makeFolder("Out/disk1");
+    machine.write("Out/A_WPN_20250220_174100.mdb", "rows");
     EXPECT_FALSE(watch().refusal());
-    EXPECT_TRUE(std::filesystem::is_empty(out));
+    EXPECT_EQ(1, std::distance(std::filesystem::directory_iterator(out), {}));
     machine.write("Out/cabmaker.exe", "another program");
     EXPECT_TRUE(watch().refusal());
     EXPECT_TRUE(machine.exists("Out/cabmaker.exe"));

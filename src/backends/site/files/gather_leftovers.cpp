@@ -1,6 +1,7 @@
 #include "backends/site/files/gather_leftovers.h"
 
 #include "runtime/run_time_error.h"
+#include "runtime/text.h"
 #include "system/whole_file.h"
 
 #include <algorithm>
@@ -19,6 +20,7 @@ constexpr std::string_view cabinetMakerCopy = "cabmaker.exe";
 constexpr std::string_view diskFolder = "disk1";
 constexpr std::string_view setupList = "setup.inf";
 constexpr std::string_view setupReport = "setup.rpt";
+constexpr const char* databaseTemplate = "blankWPNDB.mdb";
 
 constexpr std::string_view lineEnd = "\r\n";
 constexpr std::size_t longestText = 1U << 20;
@@ -127,8 +129,14 @@ public:
     /// What is left there, which goes unless it is only looked for.
     std::vector<std::string> run(bool removes)
     {
+        const auto names = folder_.names("");
+        hasDatabase_ = std::any_of(names.begin(), names.end(),
+                                   [](const auto& name) { return isResult(name, ".mdb"); });
+        isOfTool_ = std::any_of(names.begin(), names.end(), [](const auto& name) {
+            return equalIgnoringCase(name, databaseTemplate);
+        });
         std::vector<std::string> left;
-        for (const auto& name : folder_.names(""))
+        for (const auto& name : names)
             if (isLeft(name) && (!removes || remove(name))) left.push_back(name);
         // An empty folder tells nothing by itself.
         const std::string disk(diskFolder);
@@ -167,6 +175,9 @@ private:
         if (name == setupList) return isPlain(name) && isListOfACabinet(text(name));
         if (name == setupReport) return isPlain(name) && isReportOnACabinet(text(name));
         if (name != cabinetMakerCopy || !isPlain(name)) return false;
+        // The same bytes lie in every folder of the tool. A gather copies the program to where its
+        // database is by then.
+        if (isOfTool_ || !hasDatabase_) return false;
         const std::string program = text(name, longestProgram);
         return !program.empty() && program == cabinetMaker_();
     } catch (const RunTimeError&) {
@@ -175,8 +186,9 @@ private:
 
     bool isPlain(const std::string& name) const
     {
+        // A gather gives its files one name; another one is somebody's who keeps it.
         const auto facts = ownFacts(name);
-        return facts && S_ISREG(facts->st_mode);
+        return facts && S_ISREG(facts->st_mode) && facts->st_nlink <= 1;
     }
 
     std::string text(const std::string& name, std::size_t limit = longestText) const
@@ -186,6 +198,8 @@ private:
 
     const RootFolder& folder_;
     const std::function<std::string()>& cabinetMaker_;
+    bool hasDatabase_ = false; ///< a gather's lies there
+    bool isOfTool_ = false;    ///< it is a folder of the tool's own files
 };
 
 } // namespace

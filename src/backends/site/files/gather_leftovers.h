@@ -9,8 +9,10 @@
 
 /// Removes from a folder what gathers that were killed have left of their packing; what can't be
 /// removed stays. To be called when no gather is at work there. A name proves nothing: what goes is
-/// this user's own and has the contents that only a gather gives it. `cabinetMaker` gives the bytes
-/// that `cabmaker.exe` must have; what it raises leaves that file.
+/// this user's own and has the contents that only a gather gives it, and no other name.
+/// `cabinetMaker` gives the bytes that `cabmaker.exe` must have; what it raises leaves that file.
+/// The program goes only from beside a gather's database, and never from a folder of the tool's own
+/// files.
 void sweepGatherLeftovers(const RootFolder& folder,
                           const std::function<std::string()>& cabinetMaker);
 

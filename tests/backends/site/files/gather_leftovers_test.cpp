@@ -107,7 +107,26 @@ TEST_F(GatherLeftoversTest, AFolderThatIsNotEmptyAndLinksStay)
 TEST_F(GatherLeftoversTest, AProgramStaysWhereTheOwnOneCantBeRead)
 {
     folder.write("cabmaker.exe");
-    EXPECT_EQ((std::set<std::string>{"cabmaker.exe"}), swept(""));
+    folder.write("A_WPN_20250220_174100.mdb", "rows");
+    EXPECT_EQ(2U, swept("").size());
+}
+
+TEST_F(GatherLeftoversTest, AProgramStaysWhereNoGatherWasAndInTheToolsOwnFolder)
+{
+    folder.write("cabmaker.exe", "the program");
+    EXPECT_EQ(1U, swept().size());
+    folder.write("A_WPN_20250220_174100.mdb", "rows");
+    folder.write("blankwpndb.MDB", "template");
+    EXPECT_EQ(3U, swept().size());
+    fs::remove(folder / "blankwpndb.MDB");
+    EXPECT_EQ((std::set<std::string>{"A_WPN_20250220_174100.mdb"}), swept());
+}
+
+TEST_F(GatherLeftoversTest, AFileWithAnotherNameStays)
+{
+    const TemporaryFolder elsewhere;
+    fs::create_hard_link(elsewhere.write("mine", directives), folder / "ZMK.DDF");
+    EXPECT_EQ((std::set<std::string>{"ZMK.DDF"}), swept());
 }
 
 TEST(DirectiveFileOfAGather, IsKnownByItsLinesAsFarAsTheyWereWritten)

@@ -67,6 +67,7 @@ TEST(ResultFolder, SweepsForWhoHasTheTurnByAnotherObjectAndKeepsNone)
 {
     const TemporaryFolder folder;
     folder.write("cabmaker.exe", "program");
+    folder.write("A_WPN_20250220_174100.mdb", "rows");
     const auto program = [] { return std::string("program"); };
     ResultFolder first(folder.path());
     EXPECT_EQ(Turn::ours, first.takeTurn());
