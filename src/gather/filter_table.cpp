@@ -24,7 +24,7 @@ void mdlLogs::saveUniqueFilters(ToolContext& tool, TraceRecordset& recordset)
         for (const std::string& key : tool.g_dictUniqueFilters.keys()) {
             step([&] { pieces = split(tool.g_dictUniqueFilters.item(key), ','); });
             step([&] { recordset.addNew(); });
-            step([&] { recordset.field("qrvIndex").setText(key); });
+            step([&] { recordset.field("qrvIndex").setUtf8(key); });
             step([&] { recordset.field("Process").setUtf8(piece(pieces, 0)); });
             step([&] { recordset.field("Source").setText(piece(pieces, 1)); });
             step([&] { recordset.field("Component").setText(piece(pieces, 2)); });

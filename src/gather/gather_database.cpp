@@ -11,6 +11,7 @@ namespace {
 /// A table that could not be opened.
 class MissingRecordset final : public TraceRecordset {
 public:
+    std::string utf8Of(std::string_view) const override { raise(); }
     TraceField& field(std::string_view) override { raise(); }
     void addNew() override { raise(); }
     void update() override { raise(); }

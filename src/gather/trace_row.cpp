@@ -46,9 +46,12 @@ void TraceRow::begin(const std::string& date, const std::string& process,
 void TraceRow::setIndex(const std::string& process, const DiagnosticLine& record)
 {
     const std::string level = numberText(std::int64_t{record.traceLevel});
-    index_.assign(record.component).append("_").append(process).append("_").append(level);
-    index_.append("_").append(record.source);
-    step_([&] { qrvIndex_->setText(index_); });
+    step_([&] {
+        index_ = recordset_.utf8Of(record.component);
+        index_.append("_").append(process).append("_").append(level).append("_");
+        index_.append(recordset_.utf8Of(record.source));
+        qrvIndex_->setUtf8(index_);
+    });
 }
 
 /// The first row with a key decides the value. A row whose key can't be read back counts to the

@@ -58,6 +58,9 @@ class TraceRecordset {
 public:
     virtual ~TraceRecordset() = default;
 
+    /// A text in the server's code page, in UTF-8.
+    virtual std::string utf8Of(std::string_view text) const = 0;
+
     /// The column of a name, without regard to case. It lives as long as the recordset, so that a
     /// loop can hold it. Raises 3265, 3420.
     virtual TraceField& field(std::string_view name) = 0;

@@ -66,6 +66,7 @@ TEST(ProcessOrvanDataFileToDB, TakesTheProcessForUtf8)
     ASSERT_EQ(1U, tool.rows().size());
     EXPECT_EQ(process, tool.rows()[0].at("Process"))
         << "its 200 letters fit the column, though their 400 bytes would not";
+    EXPECT_EQ("Data File_" + process + "_-99_Conv", tool.rows()[0].at("qrvIndex"));
 }
 
 TEST(ProcessOrvanDataFileToDB, SetsNeitherPortNorCallIdNorHighlight)

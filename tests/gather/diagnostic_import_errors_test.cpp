@@ -148,6 +148,7 @@ TEST(ProcessOrvanLogFileToDBErrors, TheEleventhError5ForcesTheExitTooButIsNoWarn
     // Each row's update fails as an invalid call.
     struct Refusing final : TraceRecordset {
         explicit Refusing(TraceRecordset& inner) : recordset(inner) {}
+        std::string utf8Of(std::string_view text) const override { return std::string(text); }
         TraceField& field(std::string_view name) override { return recordset.field(name); }
         void addNew() override { recordset.addNew(); }
         void update() override { throw RunTimeError(5); }
@@ -211,6 +212,7 @@ TEST(ProcessOrvanLogFileToDBErrors, ARowWhoseFilterCannotBeReadBackCountsToTheRo
     /// Its index breaks with the first row that is added.
     struct Breaking final : TraceRecordset {
         explicit Breaking(TraceRecordset& inner) : recordset(inner) {}
+        std::string utf8Of(std::string_view text) const override { return recordset.utf8Of(text); }
         TraceField& field(std::string_view name) override
         {
             return name == "qrvIndex" ? index : recordset.field(name);

@@ -2,6 +2,7 @@
 
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
+#include "text/code_page.h"
 
 #include <algorithm>
 #include <charconv>
@@ -145,6 +146,13 @@ public:
     {
         for (const auto& column : stored().columns)
             fields_.push_back(std::make_unique<FakeTraceField>(adding_, column));
+    }
+
+    std::string utf8Of(std::string_view text) const override
+    {
+        std::string utf8;
+        windows1252().appendUtf8(utf8, text);
+        return utf8;
     }
 
     TraceField& field(std::string_view name) override

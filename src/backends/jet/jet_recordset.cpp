@@ -94,6 +94,13 @@ void JetField::setUtf8(std::string_view text)
 {
     recordset_.requireAdding(noAddInProgress);
     if (!column_.isText()) return takeNumberOf(text);
+    // No text has more characters than bytes; what begins with a mark may have none.
+    constexpr char startOfMark = '\xEF';
+    if (!text.empty() && text.front() != startOfMark && text.size() <= capacity(column_)) {
+        cell_.text.assignUtf8(text);
+        cell_.kind = Cell::Kind::text;
+        return;
+    }
     TextValue value;
     value.assignUtf8(text);
     checkCharacters(value.characters());
@@ -156,6 +163,13 @@ JetRecordset::JetRecordset(std::shared_ptr<Session> session, const TableDefiniti
         defaults_.push_back(defaultCell(column));
         if (column.required) required_.push_back(place);
     }
+}
+
+std::string JetRecordset::utf8Of(std::string_view text) const
+{
+    std::string utf8;
+    codePage().appendUtf8(utf8, text);
+    return utf8;
 }
 
 TraceField& JetRecordset::field(std::string_view name)

@@ -51,6 +51,7 @@ public:
     /// `table` belongs to the session's database. Raises what TableAppender raises.
     JetRecordset(std::shared_ptr<Session> session, const TableDefinition& table);
 
+    std::string utf8Of(std::string_view text) const override;
     TraceField& field(std::string_view name) override;
     void addNew() override;
     void update() override;

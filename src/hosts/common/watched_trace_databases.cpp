@@ -16,6 +16,8 @@ public:
         : rows_(std::move(rows)), report_(report)
     {}
 
+    std::string utf8Of(std::string_view text) const override { return rows_->utf8Of(text); }
+
     TraceField& field(std::string_view name) override { return rows_->field(name); }
 
     void addNew() override
