@@ -20,6 +20,8 @@ namespace {
 constexpr std::size_t largestBytes = std::size_t{formatFilePages} * pageSize;
 constexpr std::uint32_t pagesPerRun = 64;
 
+using Clock = std::chrono::steady_clock;
+
 /// The most pages that the process may give a file; writing past it would end the program.
 std::uint64_t pagesAllowed()
 {
@@ -123,22 +125,27 @@ void PageFile::extendTo(std::uint32_t pages)
     if (wasCut()) raiseFailure();
     const auto most = std::min<std::uint64_t>(largestFilePages, pagesAllowed());
     if (pages > most) raiseDiskFull();
-    if (passedOver_ > 0) {
+    const auto begun = Clock::now();
+    if (passedOver_ > 0 && begun < askedAgain_) {
         --passedOver_;
         raiseDiskFull();
     }
     while (extent_ < pages) {
         const auto run = std::min<std::uint64_t>(pagesPerRun, most - extent_);
         const auto wanted = std::min<std::uint64_t>(run, pages - extent_);
-        if (!extendBy(run) && !extendBy(wanted)) raiseRefused();
+        if (!extendBy(run) && !extendBy(wanted)) raiseRefused(begun);
     }
     refusals_ = 0;
 }
 
 /// A full file system may write back all it holds before it refuses, which takes a moment each
-/// time; a gather has millions of rows.
-void PageFile::raiseRefused()
+/// time; a gather has millions of rows. One that refuses at once is asked each time, and room that
+/// comes back is found before the few rows are lost that a table of filters has.
+void PageFile::raiseRefused(Clock::time_point begun)
 {
+    constexpr int share = 20; ///< of the time, one part is spent on asking at most
+    const auto now = Clock::now();
+    askedAgain_ = now + share * (now - begun);
     constexpr int alwaysTried = 8;
     constexpr int rarest = 10; ///< once in as many, as a power of two
     ++refusals_;

@@ -3,6 +3,7 @@
 #include "backends/jet/page_windows.h"
 #include "backends/jet/pages.h"
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -47,7 +48,8 @@ public:
     [[noreturn]] void raiseFailure() const;
 
     /// Makes sure that `more` pages can be taken. Raises 3026, 3183, and then nothing has changed.
-    /// After eight refusals of the file system in a row it is asked more and more rarely.
+    /// After eight refusals of the file system in a row it is asked more and more rarely, but as
+    /// soon as a while has passed in which the latest would fit many times.
     void reserve(std::uint32_t more);
 
     /// Takes the page behind the last one, an empty data page. Raises as `reserve`.
@@ -72,7 +74,7 @@ private:
     bool wasCut() const;
     void extendTo(std::uint32_t pages);
     bool extendBy(std::uint64_t run);
-    [[noreturn]] void raiseRefused();
+    [[noreturn]] void raiseRefused(std::chrono::steady_clock::time_point begun);
 
     int file_ = -1;
     mutable std::optional<PageWindows> windows_; ///< none until the file was opened
@@ -80,6 +82,8 @@ private:
     std::uint32_t extent_ = 0;                   ///< pages that the file has room for
     int refusals_ = 0;                           ///< of the file system, in a row
     int passedOver_ = 0;                         ///< extensions not to be tried before the next one
+    std::chrono::steady_clock::time_point
+        askedAgain_{}; ///< from then on they are tried all the same
 };
 
 } // namespace jet
