@@ -47,7 +47,7 @@ public:
     {
         const auto handle = database_.handle();
         parameters_.clear();
-        handle->beginCall();
+        if (handle->isWalked()) handle->beginCall();
         SqliteRecordset columns(handle,
                                 "SELECT name FROM pragma_table_info('" +
                                     replaceAll(procedure_, "'", "''") + "')",
@@ -73,6 +73,8 @@ public:
     void execute() override
     {
         const auto handle = database_.handle();
+        // A walk's call has begun when its row was read.
+        if (!handle->isWalked()) handle->beginCall();
         std::string names;
         std::string places;
         for (const auto& parameter : parameters_) {
@@ -146,17 +148,26 @@ void SiteDatabase::open(const std::string&, const std::string&, const std::strin
 void SiteDatabase::holdCalls()
 {
     held_ = true;
+    lost_.reset();
     if (handle_) handle_->holdCalls();
 }
 
 void SiteDatabase::settle()
 {
-    if (handle_ && handle_->isUnsettled()) handle()->settle();
+    if (lost_) throw RunTimeError(*lost_);
+    if (!handle_ || !handle_->isUnsettled()) return;
+    try {
+        handle()->settle();
+    } catch (const RunTimeError& error) {
+        if (held_) lost_ = error;
+        throw;
+    }
 }
 
 void SiteDatabase::letCallsGo()
 {
     held_ = false;
+    lost_.reset();
     if (!handle_) return;
     const auto open = handle_->isUnsettled() ? handle() : handle_;
     open->letCallsGo();

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "platform/database.h"
+#include "runtime/run_time_error.h"
 
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 class LockPatience;
@@ -46,7 +48,8 @@ public:
     /// they are made lasting together, by `settle`, by `letCallsGo` and at latest when there are
     /// 1,000. Until then no other connection sees them, and all of them are undone where the
     /// program ends. `settle` and `letCallsGo` raise as a statement, or 3709, where they could not
-    /// be made lasting.
+    /// be made lasting; `settle` then goes on to raise that until `letCallsGo`, so that nothing is
+    /// written elsewhere that tells of what was undone.
     void holdCalls();
     void settle();
     void letCallsGo();
@@ -71,4 +74,5 @@ private:
     std::shared_ptr<SqliteHandle> handle_;
     int errors_ = 0;
     bool held_ = false;
+    std::optional<RunTimeError> lost_; ///< why calls that were held are undone
 };

@@ -217,7 +217,10 @@ int SqliteHandle::connect(const std::string& file, int flags, std::string& failu
         sqlite3_progress_handler(database_, mostSteps, endTooLong, nullptr);
         sqlite3_busy_handler(database_, waitForLock, patience_.get());
         result = sqlite3_exec(database_, "PRAGMA schema_version", nullptr, nullptr, nullptr);
-        if (result == SQLITE_OK) return result;
+        if (result == SQLITE_OK) {
+            together_ = !undoesWholeChanges();
+            return result;
+        }
     }
     failure = database_ ? failureText(database_) : "out of memory";
     sqlite3_close(database_);
@@ -267,9 +270,12 @@ sqlite3_stmt* SqliteHandle::compile(const std::string& sql) const
 
 void SqliteHandle::beginCall()
 {
-    if (walks_ == 0 && !held_) return;
+    if (!holdsTogether()) return;
     if (walks_ == 0 && heldCalls_ >= mostHeldCalls) settle();
-    if (!isUnsettled()) begin();
+    if (!isInChange()) {
+        lost_ = lost_ || begun_;
+        begin();
+    }
     ++heldCalls_;
 }
 
@@ -279,11 +285,24 @@ void SqliteHandle::begin()
     if (sqlite3_exec(database_, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) != SQLITE_OK) fail();
     ++change_;
     heldCalls_ = 0;
+    begun_ = true;
 }
 
-bool SqliteHandle::isUnsettled() const
+/// The library ends a change by itself, and undoes it, where a statement fails badly.
+bool SqliteHandle::isInChange() const
 {
     return sqlite3_get_autocommit(database_) == 0;
+}
+
+/// Whether anything in the database is written to undo more than the call that it refuses.
+bool SqliteHandle::undoesWholeChanges() const
+{
+    sqlite3_stmt* statement = nullptr;
+    constexpr const char* query = "SELECT 1 FROM sqlite_master WHERE sql LIKE '%ROLLBACK%'";
+    const bool tells = sqlite3_prepare_v2(database_, query, -1, &statement, nullptr) == SQLITE_OK;
+    const bool none = tells && sqlite3_step(statement) == SQLITE_DONE;
+    sqlite3_finalize(statement);
+    return !none;
 }
 
 void SqliteHandle::endWalk()
@@ -300,15 +319,21 @@ void SqliteHandle::letCallsGo()
 
 void SqliteHandle::settle()
 {
-    if (walks_ > 0 || !isUnsettled()) return;
+    if (walks_ > 0 || !begun_) return;
+    begun_ = false;
+    const bool lost = std::exchange(lost_, false) || !isInChange();
     patience_->begin();
-    if (sqlite3_exec(database_, "COMMIT", nullptr, nullptr, nullptr) == SQLITE_OK) return;
-    try {
-        fail();
-    } catch (const RunTimeError&) {
-        sqlite3_exec(database_, "ROLLBACK", nullptr, nullptr, nullptr);
-        throw;
+    if (isInChange() && sqlite3_exec(database_, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK) {
+        try {
+            fail();
+        } catch (const RunTimeError&) {
+            sqlite3_exec(database_, "ROLLBACK", nullptr, nullptr, nullptr);
+            throw;
+        }
     }
+    if (lost)
+        throw RunTimeError(databaseErrors::statementRefused,
+                           file_ + ": a failure has undone what was changed before it");
 }
 
 void SqliteHandle::fail() const

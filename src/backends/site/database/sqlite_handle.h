@@ -55,8 +55,13 @@ public:
     /// last walk makes the change lasting. `beginCall` and `endWalk` raise as a statement; a change
     /// that can't be made lasting is undone.
     void beginWalk() { ++walks_; }
+    bool isWalked() const { return walks_ > 0; }
     void beginCall();
     void endWalk();
+
+    /// Whether a call waits for others to be made lasting with it. Not in a database that undoes
+    /// all of a change where it refuses one call: each is a change by itself there.
+    bool holdsTogether() const { return together_ && (walks_ > 0 || held_); }
 
     /// From `holdCalls` to `letCallsGo`, calls outside a walk are one change too: until `settle`,
     /// and no more than `mostHeldCalls` of them, so that nobody else waits long for the database.
@@ -66,8 +71,8 @@ public:
     void settle();
     void letCallsGo();
 
-    /// Whether something was changed that is not lasting yet.
-    bool isUnsettled() const;
+    /// Whether something was changed that is not lasting yet, or was undone before it was.
+    bool isUnsettled() const { return begun_; }
 
     /// The number of the change under way, or of the next one.
     unsigned change() const { return change_; }
@@ -82,6 +87,8 @@ public:
 
 private:
     void begin();
+    bool undoesWholeChanges() const;
+    bool isInChange() const;
     bool connectToCopy(const std::string& file, std::string& failure);
     int connect(const std::string& file, int flags, std::string& failure);
     sqlite3_stmt* compile(const std::string& sql) const;
@@ -97,6 +104,9 @@ private:
     std::unordered_map<std::string, sqlite3_stmt*> statements_;
     int walks_ = 0;
     unsigned change_ = 0;
+    bool begun_ = false;   ///< a change is under way, as far as this knows
+    bool lost_ = false;    ///< one before it was undone by a failure
+    bool together_ = true; ///< calls may be one change
     bool held_ = false;
     int heldCalls_ = 0; ///< in the change under way
 };

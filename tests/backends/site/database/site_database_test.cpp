@@ -487,6 +487,20 @@ TEST_F(SiteDatabaseTest, KeepsWhatARefusedHeldCallCameAfter)
     EXPECT_EQ(Value(64), flags("A"));
 }
 
+TEST_F(SiteDatabaseTest, ACallThatIsRefusedWithAllOfItsChangeCostsNoOther)
+{
+    execute(file, "DROP TRIGGER modify;"
+                  "CREATE TRIGGER modify INSTEAD OF INSERT ON csp_LoggerDiagnosticGridModify BEGIN"
+                  " SELECT RAISE(ROLLBACK, 'unlucky flags') WHERE NEW.Flags = 13;"
+                  " UPDATE grid SET Flags = NEW.Flags WHERE ObjectId = NEW.ObjectId; END;");
+    open();
+    database.holdCalls();
+    setFlags(database, "1", 64);
+    EXPECT_NE(0, errorOf([&] { setFlags(database, "2", 13); }));
+    EXPECT_EQ(0, errorOf([&] { database.letCallsGo(); }));
+    EXPECT_EQ(Value(64), flags("A"));
+}
+
 TEST_F(SiteDatabaseTest, MakesCallsOfAWalkLastingAtItsEndAlone)
 {
     open();
@@ -513,6 +527,7 @@ TEST_F(SiteDatabaseTest, SaysWhenHeldCallsCouldNotBeMadeLasting)
               errorTextOf([&] { impatient.settle(); }));
     sqlite3_close(reader);
     EXPECT_EQ(SQLITE_OK, othersResult(file, "BEGIN EXCLUSIVE")) << "nothing is held any more";
+    EXPECT_NE(0, errorOf([&] { impatient.settle(); })) << "what was undone stays so";
     EXPECT_EQ(0, errorOf([&] { impatient.letCallsGo(); }));
 
     impatient.holdCalls();
