@@ -8,6 +8,9 @@ namespace {
 
 constexpr const char* logFolderName = "LOGS";
 
+/// A server keeps some hundred logs; past this many a list of them helps nobody and takes minutes.
+constexpr std::size_t mostNamesToLookAt = 100'000;
+
 /// Takes what is written to it until it is closed, and keeps none of it.
 class DroppingWriter final : public TextWriter {
 public:
@@ -144,7 +147,10 @@ std::vector<FileInfo> LookingFileSystem::entries(const std::string& folder) cons
 
 std::vector<std::string> LookingFileSystem::matching(const std::string& pattern) const
 {
-    return files_.matching(pattern);
+    auto names = files_.matching(pattern);
+    if (names.size() > mostNamesToLookAt)
+        throw RunTimeError(runTimeErrors::outOfMemory, "More than 100,000 names match " + pattern);
+    return names;
 }
 
 void LookingFileSystem::createFolder(const std::string& path)

@@ -1,5 +1,6 @@
 #include "hosts/common/looking_services.h"
 
+#include "support/error_of.h"
 #include "support/test_tool.h"
 
 #include <gmock/gmock.h>
@@ -85,6 +86,18 @@ TEST_F(LookingServicesTest, TheServersFilesAreReadAndNotWritten)
     EXPECT_EQ(70, errorOf([&] { files.createTextFile(logs + "2\\a.txt"); }));
     EXPECT_EQ("server", machine.files.content(file));
     EXPECT_FALSE(machine.files.folderExists("C:\\Server\\New"));
+}
+
+TEST_F(LookingServicesTest, AListOfMoreThanAHundredThousandFilesIsRefused)
+{
+    for (int number = 0; number < 100'000; ++number)
+        machine.files.with("C:\\Logs\\diag_" + std::to_string(number) + ".txt", "");
+    EXPECT_EQ(100'000U, services.files.matching("C:\\Logs\\diag_*.txt").size());
+    machine.files.with("C:\\Logs\\diag_one_more.txt", "");
+    EXPECT_EQ("More than 100,000 names match C:\\Logs\\diag_*.txt",
+              errorTextOf([&] { services.files.matching("C:\\Logs\\diag_*.txt"); }));
+    EXPECT_EQ(100'001U, machine.files.matching("C:\\Logs\\diag_*.txt").size())
+        << "who gathers takes them all";
 }
 
 TEST_F(LookingServicesTest, WhatLiesElsewhereIsWritten)

@@ -158,20 +158,6 @@ TEST_F(SiteFileSystemTest, AFileMadeAnewLeavesWhatItsOtherNamesHold)
     EXPECT_EQ(1U, fs::hard_link_count(folder / "drive_c/copy.txt"));
 }
 
-TEST_F(SiteFileSystemTest, ListsNoMoreThanAHundredThousandMatchesAndSaysSo)
-{
-    for (int number = 0; number < 100'000; ++number) {
-        const std::string file = folder / ("drive_c/diag_" + std::to_string(number) + ".txt");
-        ASSERT_EQ(0, ::mknod(file.c_str(), S_IFREG | 0600, 0));
-    }
-    put("other.txt");
-    EXPECT_EQ(100'000u, files.matching("C:\\diag_*.txt").size());
-    put("diag_100000.txt");
-    EXPECT_EQ("More than 100,000 names match C:\\diag_*.txt",
-              errorTextOf([&] { files.matching("C:\\diag_*.txt"); }));
-    EXPECT_THAT(files.matching("C:\\other*.txt"), ElementsAre("other.txt"));
-}
-
 TEST_F(SiteFileSystemTest, RemovesNothingThroughALink)
 {
     put("other/keep.LOG");
