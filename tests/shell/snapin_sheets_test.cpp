@@ -159,7 +159,7 @@ TEST_F(SnapinSheets, EveryKindButFourHasItsSheet)
         ASSERT_NE(nullptr, sheet);
         EXPECT_EQ(c.title, sheet->sheetTitle);
         EXPECT_EQ(c.type, sheet->type);
-        EXPECT_EQ(c.pageTitle, sheet->pageTitle);
+        EXPECT_EQ(TextId{c.pageTitle}, sheet->pageTitle);
     }
     for (const int kind : {0, 4, 8}) EXPECT_EQ(nullptr, sheetDefinition(kind)) << kind;
 }

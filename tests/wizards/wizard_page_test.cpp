@@ -35,7 +35,7 @@ struct WizardPageTest : WizardTest {
 
 TEST_F(WizardPageTest, SetsCaptionsByTheirTextsId)
 {
-    page.setCaptions({{page.lblTitle, 1024}, {page.chkChoice, 1036}});
+    page.setCaptions({{page.lblTitle, TextId{1024}}, {page.chkChoice, TextId{1036}}});
     EXPECT_EQ("Configure Macro Traces", page.lblTitle.caption());
     EXPECT_EQ("Reset to Default Traces", page.chkChoice.caption());
 }
@@ -44,7 +44,7 @@ TEST_F(WizardPageTest, TakesCaptionsFromTheLanguageInForce)
 {
     tool.languages.with("C:\\fr.dll", {{1024, "Configurer les macro-traces"}});
     tool.context.language.g_hResourceLibrary = tool.languages.loadLibrary("C:\\fr.dll");
-    page.setCaptions({{page.lblTitle, 1024}, {page.chkChoice, 1036}});
+    page.setCaptions({{page.lblTitle, TextId{1024}}, {page.chkChoice, TextId{1036}}});
     EXPECT_EQ("Configurer les macro-traces", page.lblTitle.caption());
     EXPECT_EQ("Reset to Default Traces", page.chkChoice.caption()) << "English where it has none";
 }

@@ -1,6 +1,5 @@
 #include "hosts/common/gather_report.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace {
@@ -17,7 +16,7 @@ bool liesIn(std::string_view folder, std::string_view path)
 void GatherReport::listed(const std::string& pattern, const std::vector<std::string>& names)
 {
     failedListings_.erase(pattern);
-    listings_[pattern] = names;
+    listings_[pattern] = {names.begin(), names.end()};
     std::erase_if(unseen_, [&](const auto& entry) { return entry.second.listing == pattern; });
     latestListing_ = pattern;
 }
@@ -94,8 +93,7 @@ GatherReport::unseenLogs(const std::string& folder) const
 bool GatherReport::wasListed(const std::string& pattern, const std::string& name) const
 {
     const auto listing = listings_.find(pattern);
-    return listing != listings_.end() &&
-           std::find(listing->second.begin(), listing->second.end(), name) != listing->second.end();
+    return listing != listings_.end() && listing->second.count(name) != 0;
 }
 
 const LogSight* GatherReport::reading(const std::string& path) const

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -78,10 +79,10 @@ private:
         std::string why;
     };
 
-    std::map<std::string, std::string> failedListings_;        ///< by pattern
-    std::map<std::string, std::vector<std::string>> listings_; ///< names by pattern
-    std::map<std::string, Unseen> unseen_;                     ///< by path
-    std::map<std::string, LogSight> readings_;                 ///< by path
+    std::map<std::string, std::string> failedListings_;               ///< by pattern
+    std::map<std::string, std::unordered_set<std::string>> listings_; ///< names by pattern
+    std::map<std::string, Unseen> unseen_;                            ///< by path
+    std::map<std::string, LogSight> readings_;                        ///< by path
     std::string latestListing_;
     std::int64_t rowsBegun_ = 0; ///< of the reading that goes on
     std::int64_t rowsStored_ = 0;

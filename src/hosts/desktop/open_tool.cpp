@@ -67,16 +67,26 @@ void OpenTool::changing(const std::function<void()>& change)
 {
     // A site that has gone has no turns; what is tried on it fails by itself.
     if (looksOnly() || changing_ || !present()) return change();
-    const std::optional<SiteTurn> turnOfChange = turn();
-    if (!turnOfChange) return;
+    if (waiting_) return; // for the change that was wished first
+    waiting_ = true;
+    try {
+        turnOfChange_ = turn();
+    } catch (...) {
+        waiting_ = false;
+        throw;
+    }
+    waiting_ = false;
+    if (!turnOfChange_) return;
     changing_ = true;
     try {
         change();
     } catch (...) {
         changing_ = false;
+        turnOfChange_.reset();
         throw;
     }
     changing_ = false;
+    turnOfChange_.reset();
 }
 
 bool OpenTool::writable() const

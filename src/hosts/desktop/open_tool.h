@@ -43,6 +43,10 @@ public:
     /// its end, and what `change` raises.
     void changing(const std::function<void()>& change);
 
+    /// Lets other programs have their turn while the person is asked or told something, for as long
+    /// as that takes: what is written before is whole. The rest of a change goes on without one.
+    void letTurnGo() { turnOfChange_.reset(); }
+
     /// Takes the turn to change the site in a folder, or waits for it; gives none when the wait was
     /// given up. Null: the wait is one without a window, told on the terminal.
     std::function<std::optional<SiteTurn>(const std::string& siteFolder)> takeTurn;
@@ -85,4 +89,6 @@ private:
     snapinOrvanDiagnostics snapIn_;
     bool loaded_ = false;
     bool changing_ = false;
+    bool waiting_ = false; ///< for the turn to change
+    std::optional<SiteTurn> turnOfChange_;
 };

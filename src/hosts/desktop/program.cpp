@@ -45,7 +45,10 @@ Program::Program(QSettings& settings, std::string installedData, HostFacts facts
                      [this](const QString& folder) { openSample(folder.toStdString()); });
     QObject::connect(&window_, &MainWindow::helpAsked,
                      [this](int topic) { desktop_.showHelp({}, topic); });
-    desktop_.setMessageShown([this] { window_.messageShown(); });
+    desktop_.setMessageShown([this] {
+        if (tool_) tool_->letTurnGo();
+        window_.messageShown();
+    });
     desktop_.setManualMissing([this] {
         window_.showProblem([] {
             return QObject::tr("The manual is not beside the tool. Install it again to read it.");

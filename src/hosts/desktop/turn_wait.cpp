@@ -83,8 +83,10 @@ void waitBehindABox(Wait& wait, QWidget* window)
                     asSentence(wait.notice), QMessageBox::Cancel, window);
     box.setTextFormat(Qt::PlainText);
     QObject::connect(&box, &QMessageBox::finished, &wait.loop, &QEventLoop::quit);
-    box.open();
-    wait.loop.exec();
+    // No other window of the program begins a change while one waits.
+    box.setWindowModality(Qt::ApplicationModal);
+    box.show();
+    if (!wait.over()) wait.loop.exec();
     QApplication::restoreOverrideCursor();
 }
 

@@ -63,13 +63,6 @@ constexpr const char* texts[] = {
     QT_TRANSLATE_NOOP("GatherReport", "What was gathered is kept in %1."),
 };
 
-QString inLanguage(const Sentence& sentence)
-{
-    const std::string pattern(sentence.pattern);
-    const QString text = QCoreApplication::translate(context, pattern.c_str());
-    return QString::fromStdString(withInserts(text.toStdString(), sentence.inserts));
-}
-
 /// Keeps the watch of the gather that runs in its place, while it does.
 class Running {
 public:
@@ -83,6 +76,13 @@ private:
 };
 
 } // namespace
+
+QString inLanguage(const Sentence& sentence)
+{
+    const std::string pattern(sentence.pattern);
+    const QString text = QCoreApplication::translate(context, pattern.c_str());
+    return QString::fromStdString(withInserts(text.toStdString(), sentence.inserts));
+}
 
 std::vector<std::string> translatedGatherSentences()
 {

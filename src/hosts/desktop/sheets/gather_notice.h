@@ -11,7 +11,11 @@ class GatherReport;
 class GatherWatch;
 class SheetPage;
 class Timer;
+struct Sentence;
 struct ToolContext;
+
+/// A sentence that the hosts share, in the language of the window.
+QString inLanguage(const Sentence& sentence);
 
 /// Follows the gathers that a person has the tool do, and tells what each left undone: the tool's
 /// own texts tell of no failure.

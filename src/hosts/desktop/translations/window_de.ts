@@ -874,8 +874,8 @@ Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
         <translation>Diese Site ist schreibgeschützt: Was hier gewählt wird, wird nicht geschrieben.</translation>
     </message>
     <message>
-        <source>The server was not told to start new log files: its registry did not take the signal.</source>
-        <translation>Dem Server wurde nicht mitgeteilt, neue Protokolldateien zu beginnen: Seine Registrierung hat das Signal nicht angenommen.</translation>
+        <source>The server was not told to start new log files: the signal in its registry stayed what it was.</source>
+        <translation>Dem Server wurde nicht mitgeteilt, neue Protokolldateien zu beginnen: Das Signal in seiner Registrierung blieb, was es war.</translation>
     </message>
 </context>
 <context>

@@ -874,8 +874,8 @@ Abra uno con Control+Mayúsculas+O o cree un servidor de ejemplo con Control+May
         <translation>Este sitio es de solo lectura: lo que se elija aquí no se escribe.</translation>
     </message>
     <message>
-        <source>The server was not told to start new log files: its registry did not take the signal.</source>
-        <translation>No se indicó al servidor que iniciara nuevos archivos de registro: su Registro no aceptó la señal.</translation>
+        <source>The server was not told to start new log files: the signal in its registry stayed what it was.</source>
+        <translation>No se indicó al servidor que iniciara nuevos archivos de registro: la señal de su Registro siguió siendo la misma.</translation>
     </message>
 </context>
 <context>

@@ -874,8 +874,8 @@ Ouvrez-en un avec Ctrl+Maj+O, ou créez un serveur d&apos;exemple avec Ctrl+Maj+
         <translation>Ce site est en lecture seule&#xa0;: ce qui est choisi ici n&apos;est pas enregistré.</translation>
     </message>
     <message>
-        <source>The server was not told to start new log files: its registry did not take the signal.</source>
-        <translation>Le serveur n&apos;a pas été invité à commencer de nouveaux fichiers journaux&#xa0;: son registre n&apos;a pas accepté le signal.</translation>
+        <source>The server was not told to start new log files: the signal in its registry stayed what it was.</source>
+        <translation>Le serveur n&apos;a pas été invité à commencer de nouveaux fichiers journaux&#xa0;: le signal dans son registre est resté le même.</translation>
     </message>
 </context>
 <context>

@@ -874,8 +874,8 @@ Ctrl+Shift+O でサイトを開くか、Ctrl+Shift+N でサンプル サーバ�
         <translation>このサイトは読み取り専用です。ここで選択した内容は書き込まれません。</translation>
     </message>
     <message>
-        <source>The server was not told to start new log files: its registry did not take the signal.</source>
-        <translation>サーバーに新しいログ ファイルの開始が伝えられませんでした。レジストリがシグナルを受け付けませんでした。</translation>
+        <source>The server was not told to start new log files: the signal in its registry stayed what it was.</source>
+        <translation>サーバーに新しいログ ファイルの開始が伝えられませんでした。レジストリのシグナルは変わりませんでした。</translation>
     </message>
 </context>
 <context>

@@ -71,7 +71,6 @@ public:
 /// The key of a menu item that the tool declares, by its name; empty for one without.
 QKeySequence keyOfConsoleItem(const std::string& name);
 
-/// The drawing for such an item; empty for one without.
 /// The item that signals the server to start new log files.
 constexpr const char* startNewLogsItem = "mnuStartNewLogFiles";
 
@@ -79,4 +78,5 @@ constexpr const char* startNewLogsItem = "mnuStartNewLogFiles";
 /// sheets, which may do so later, or only look.
 bool changesServer(const std::string& name);
 
+/// The drawing for an item; empty for one without.
 QString iconOfConsoleItem(const std::string& name);

@@ -1,6 +1,8 @@
 #include "hosts/desktop/window/main_window.h"
 
+#include "core/tool_context.h"
 #include "gather/logs.h"
+#include "hosts/common/log_folder.h"
 #include "hosts/desktop/log/list_table.h"
 #include "hosts/desktop/log/log_view.h"
 #include "hosts/desktop/look/elided_label.h"
@@ -184,17 +186,17 @@ void MainWindow::connectPane()
 void MainWindow::change(const std::string& item, const std::function<void()>& run)
 {
     const bool startsLogs = item == startNewLogsItem;
-    if (startsLogs) newLogs_.look(tool_->context());
     bool ran = false;
     tool_->changing([&] {
+        if (startsLogs) newLogs_.look(tool_->context());
         run();
         ran = true;
     });
     if (ran && tool_->looksOnly()) return sayReadOnly();
     if (ran && startsLogs && !newLogs_.given(tool_->context()))
         showProblem([] {
-            return tr("The server was not told to start new log files: its registry did not take "
-                      "the signal.");
+            return tr("The server was not told to start new log files: the signal in its registry "
+                      "stayed what it was.");
         });
 }
 
@@ -243,6 +245,7 @@ void MainWindow::afterCall()
 {
     checkSite();
     sayToolLog();
+    sayUnlistedLogs();
     tellUndone(nullptr);
     // Not from within the call of a dialog or a view that goes with the window.
     if (closing_ && !pane_->sheetAtWork())
@@ -307,6 +310,23 @@ void MainWindow::sayToolLog()
     showProblem([why] {
         return tr("The tool's own log can't be written: %1. The tool goes on without it.")
             .arg(QString::fromStdString(why));
+    });
+}
+
+/// Said once, until it has changed.
+void MainWindow::sayUnlistedLogs()
+{
+    const auto trouble = [this]() -> std::optional<Sentence> {
+        // Of a site that has gone, more was said already.
+        if (!tool_ || !tool_->present()) return std::nullopt;
+        return logFolderTrouble(tool_->context(), tool_->report());
+    };
+    const auto now = trouble();
+    const std::string why = now ? now->text() : "";
+    if (std::exchange(unlistedLogs_, why) == why || why.empty()) return;
+    showProblem([trouble] {
+        const auto still = trouble();
+        return still ? inLanguage(*still) : QString();
     });
 }
 

@@ -96,6 +96,7 @@ private:
     void sayWithoutDatabase(const std::string& why);
     void sayLanguage();
     void sayToolLog();
+    void sayUnlistedLogs();
     void runInLog(Command command);
     void runInTable(Command command);
     void chooseTheme(Command command);
@@ -123,7 +124,8 @@ private:
     Undone undone_;
     NewLogsSignal newLogs_;
     GatherNotice gathers_;
-    bool closing_ = false; ///< as soon as the work at hand is done
+    std::string unlistedLogs_; ///< why, as it was told
+    bool closing_ = false;     ///< as soon as the work at hand is done
     std::map<Command, QAction*> actions_;
     std::map<std::string, QAction*> consoleActions_;
 };

@@ -122,6 +122,20 @@ TEST_F(UndoneWork, ADatabaseThatCannotBeOpenedIsSaidFromTheStart)
     EXPECT_EQ("", shown.window().problem().toStdString());
 }
 
+TEST_F(UndoneWork, AMissingLogFolderIsSaidUntilItIsThere)
+{
+    const std::string logs = shown.server.logs();
+    fs::rename(logs, logs + ".away");
+    person::press(QKeySequence("F5"));
+    EXPECT_ANY_THROW(shown.showLog("KoCSMgr"));
+    EXPECT_EQ("The server's log folder C:\\KelmaOrvan\\Logs is not there.",
+              shown.window().problem().toStdString());
+    fs::rename(logs + ".away", logs);
+    person::press(QKeySequence("F5"));
+    shown.showLog("KoCSMgr");
+    EXPECT_EQ("", shown.window().problem().toStdString());
+}
+
 TEST_F(UndoneWork, ASignalThatTheRegistryDidNotTakeIsSaid)
 {
     shown.program.close();
