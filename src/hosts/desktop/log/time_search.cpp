@@ -18,6 +18,22 @@ std::string_view timeOfDay(std::string_view stamp)
     return clock ? stamp : std::string_view();
 }
 
+int secondsOf(std::string_view clock)
+{
+    const auto number = [&](std::size_t at) {
+        return (clock[at] - '0') * 10 + (clock[at + 1] - '0');
+    };
+    return (number(0) * 60 + number(3)) * 60 + number(6);
+}
+
+/// Whether a line is of a later day than the one before it: its clock fell, and by more than lines
+/// of several threads are out of turn, or the clock of a server is set back.
+bool isOfLaterDay(std::string_view now, std::string_view before)
+{
+    constexpr int settingBack = 2 * 60 * 60;
+    return !before.empty() && secondsOf(before) - secondsOf(now) > settingBack;
+}
+
 /// Time stamps have a colon before their milliseconds; a person may type a point.
 std::string withColon(std::string_view fraction)
 {
@@ -64,7 +80,9 @@ int rowAtTime(const ListModel& rows, int timeColumn, std::string_view time, int 
         const ListItem line = rows.list()->shown(static_cast<int>(place));
         const auto now = timeOfDay(line.subItem(timeColumn));
         if (now.empty()) continue;
-        const bool reached = now >= time && (before.empty() || before < time || before > now);
+        const bool passed = isOfLaterDay(now, before) && before < time;
+        const bool reached =
+            passed || (now >= time && (before.empty() || before < time || before > now));
         before = now;
         if (!reached) continue;
         if (place > current) return rows.rowOfPlace(place);

@@ -144,7 +144,8 @@ TEST(RowAtTime, GoesToTheNextRowThatReachesATimeAndOnToTheNextDay)
     EXPECT_EQ(2, rowAtTime(model, 2, "12:00:00", 0));
     EXPECT_EQ(4, rowAtTime(model, 2, "08:00:00", 0)) << "the day after";
     EXPECT_EQ(0, rowAtTime(model, 2, "08:00:00", 4)) << "and on from the top";
-    EXPECT_EQ(-1, rowAtTime(model, 2, "23:59:59:9999", 0)) << "no row is that late";
+    EXPECT_EQ(3, rowAtTime(model, 2, "23:59:59:9999", 0)) << "it has passed at midnight";
+    EXPECT_EQ(3, rowAtTime(model, 2, "23:59:59:9999", 4)) << "no other midnight";
 }
 
 TEST(Bookmarks, SurviveAReopeningOfTheLog)
