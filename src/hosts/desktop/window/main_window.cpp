@@ -186,13 +186,17 @@ void MainWindow::connectPane()
 void MainWindow::change(const std::string& item, const std::function<void()>& run)
 {
     const bool startsLogs = item == startNewLogsItem;
+    const QString said = status_->text();
     bool ran = false;
     tool_->changing([&] {
         if (startsLogs) newLogs_.look(tool_->context());
         run();
         ran = true;
     });
-    if (ran && tool_->looksOnly()) return sayReadOnly();
+    if (ran && tool_->looksOnly()) {
+        status_->setText(said); // what the tool says now was not done
+        return sayReadOnly();
+    }
     if (ran && startsLogs && !newLogs_.given(tool_->context()))
         showProblem([] {
             return tr("The server was not told to start new log files: the signal in its registry "
