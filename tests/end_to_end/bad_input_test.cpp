@@ -167,8 +167,8 @@ TEST_F(BadInput, ASecondSignalOfADayThatCanNotBeOneIsToldWithTheReason)
 {
     write(site / "site.ini", "[site]\ntimeZone=AEST-10AEDT,M10.1.0,M4.1.0/3\n");
     ASSERT_EQ(0, run({"cycle"}).status);
-    const Outcome second = run({"cycle"});
-    if (second.status == 0) GTEST_SKIP() << "midnight passed between the two";
+    Outcome second = run({"cycle"});
+    if (second.status == 0) second = run({"cycle"}); // midnight passed between the two
     expectOneLine(second, 1, "the server sees no change; in a time zone of ten hours or more it");
 }
 
