@@ -1,5 +1,6 @@
 #include "core/error_trap.h"
 
+#include "core/trapped_error_listener.h"
 #include "runtime/numbers.h"
 
 namespace {
@@ -27,7 +28,7 @@ bool ErrorTrap::retriesAfter(const RunTimeError& error, int line, int failures)
 void ErrorTrap::report(const RunTimeError& error, std::string_view text)
 {
     log(text, logLevel::error);
-    if (tool_.onTrappedError) tool_.onTrappedError(error, procName());
+    if (tool_.trappedErrorListener) TrappedErrorListener::tell(tool_, error, procName());
 }
 
 void ErrorTrap::enterProc()

@@ -74,6 +74,18 @@ public:
         }
     }
 
+    /// Runs one statement that computes a value; where it fails the value is `fallback`.
+    ///
+    ///     const bool exists = step.value(false, [&] { return files.folderExists(path); });
+    template <std::invocable Statement,
+              typename Value = std::remove_cvref_t<std::invoke_result_t<Statement>>>
+    Value value(std::type_identity_t<Value> fallback, Statement&& statement,
+                int line = __builtin_LINE())
+    {
+        operator()([&] { fallback = statement(); }, line);
+        return fallback;
+    }
+
     /// Runs the routine's statements; the eleventh error of a counted trap ends them here. What the
     /// routine returns by then is for the caller of `body` to keep.
     template <std::invocable Routine>

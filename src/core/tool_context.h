@@ -8,16 +8,14 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 class DatabaseConnection;
 class OpenForm;
-class RunTimeError;
 class ScopeItem;
+class TrappedErrorListener;
 class WSInfo;
 class XmlDocument;
 
@@ -69,10 +67,7 @@ struct ToolContext {
 
     std::string g_strTraceDatabase;              ///< path of the latest trace database, or empty
     Dictionary<std::string> g_dictUniqueFilters; ///< never emptied
-    /// Hears of each error that a routine's trap has logged, under the routine's "[module]name",
-    /// and of `errorCountExceeded` when a routine was left. A host tells the person by it; empty
-    /// when nobody asks.
-    std::function<void(const RunTimeError&, std::string_view procName)> onTrappedError;
+    TrappedErrorListener* trappedErrorListener = nullptr; ///< null when nobody listens
 
     bool cancelRequested = false; ///< asked and set by `cancelCurrentProcess`
 };

@@ -1,6 +1,7 @@
 #include "server/configuration_database.h"
 
 #include "core/error_trap.h"
+#include "core/trapped_error_listener.h"
 #include "server/open_recordset.h"
 #include "server/workstation_info.h"
 
@@ -67,7 +68,7 @@ bool mdlOrvanDatabase::openOrvanDB(ToolContext& tool, DatabaseConnection& connec
 
     step.specialCase([&](const RunTimeError& error) {
         step.log(errorText(error), logLevel::error);
-        if (tool.onTrappedError) tool.onTrappedError(error, step.procName());
+        TrappedErrorListener::tell(tool, error, step.procName());
         step.log("Connection String Used = " + connectionString, logLevel::error);
         return Resume::logged;
     });

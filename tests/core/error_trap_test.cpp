@@ -42,6 +42,25 @@ TEST(ErrorTrap, LogsAFailedStatementUnderTheRoutinesNameAndRunsTheNext)
     EXPECT_EQ("[mdlTraces]recordMacroTrace", step.procName());
 }
 
+TEST(ErrorTrap, GivesTheValueOfAStatementOrTheFallbackWhereItFails)
+{
+    TestTool tool;
+    ErrorTrap step{tool.context, "mdlTraces", "recordMacroTrace"};
+    EXPECT_EQ(8, step.value(7, [] { return 8; }));
+    EXPECT_TRUE(tool.failures("[mdlTraces]recordMacroTrace").empty());
+
+    EXPECT_EQ(7, step.value(7, [] {
+        overflow();
+        return 8;
+    }));
+    EXPECT_EQ(Texts{overflowText}, tool.failures("[mdlTraces]recordMacroTrace"));
+
+    const std::string name = "Orvan";
+    const auto copied = step.value("", [&]() -> const std::string& { return name; });
+    static_assert(std::is_same_v<const std::string, decltype(copied)>);
+    EXPECT_EQ(name, copied);
+}
+
 TEST(ErrorTrap, LogsNothingForAStatementThatSucceeds)
 {
     TestTool tool;

@@ -1,5 +1,6 @@
 #include "hosts/cli/open_tool.h"
 
+#include "core/trapped_error_listener.h"
 #include "hosts/cli/program.h"
 #include "hosts/cli/terminal/message.h"
 #include "hosts/common/places.h"
@@ -80,13 +81,16 @@ OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check
     watched_.toolLog().onFailure([this](const std::string& why) { toolLogFailure_ = why; });
     context_.emplace(looksOnly_ ? looking_.platform() : watched_.platform());
     snapIn_.emplace(*context_, console_);
-    context_->onTrappedError = [this](const RunTimeError& error, std::string_view procName) {
-        if (procName == "[mdlOrvanDatabase]openOrvanDB") databaseFailure_ = error.description();
-    };
-    console_.load(*snapIn_);
+    {
+        const TrappedErrorListener opening(
+            *context_, [this](const RunTimeError& error, std::string_view procName) {
+                if (procName == "[mdlOrvanDatabase]openOrvanDB")
+                    databaseFailure_ = error.description();
+            });
+        console_.load(*snapIn_);
+    }
     loaded_ = true;
     registry_.forget(); // what the tool notes as it starts is no part of a command
-    context_->onTrappedError = {};
     if (!interrupted()) return;
     close();
     throw CommandFailure("cancelled before anything was done");

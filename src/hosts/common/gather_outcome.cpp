@@ -186,15 +186,12 @@ GatherWatch::GatherWatch(ToolContext& tool, GatherReport& report, const ppgGathe
 {
     report_.forgetReadings();
     folder_ = folderAt(machinePath_(destination_));
-    listenedBefore_ = std::exchange(
-        tool_.onTrappedError,
-        [this](const RunTimeError& error, std::string_view procName) { note(error, procName); });
+    listener_.emplace(tool_, [this](const RunTimeError& error, std::string_view procName) {
+        note(error, procName);
+    });
 }
 
-GatherWatch::~GatherWatch()
-{
-    tool_.onTrappedError = std::move(listenedBefore_);
-}
+GatherWatch::~GatherWatch() = default;
 
 /// The bytes of the program that a gather copies to its destination. Raises 53, 62, and 70 where
 /// that is the program itself.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/trapped_error_listener.h"
 #include "hosts/common/sentence.h"
 #include "runtime/run_time_error.h"
 
@@ -209,7 +210,7 @@ private:
     GatherReport& report_;
     const TreeView& steps_;
     MachinePath machinePath_;
-    std::function<void(const RunTimeError&, std::string_view)> listenedBefore_;
+    std::optional<TrappedErrorListener> listener_;
 
     bool standard_;
     bool timeFrame_;

@@ -1,6 +1,7 @@
 #include "hosts/common/gather_outcome.h"
 
 #include "core/error_trap.h"
+#include "core/trapped_error_listener.h"
 #include "hosts/common/gather_report.h"
 #include "platform/trace_database.h"
 #include "support/temporary_folder.h"
@@ -549,7 +550,8 @@ TEST_F(GatherOutcomeTest, WhoListenedBeforeListensAgain)
 {
     job({}, {});
     int heard = 0;
-    tool.context.onTrappedError = [&](const RunTimeError&, std::string_view) { ++heard; };
+    const TrappedErrorListener before(tool.context,
+                                      [&](const RunTimeError&, std::string_view) { ++heard; });
     {
         const GatherWatch watched = watch();
         fail(runTimeErrors::diskFull);

@@ -1,4 +1,5 @@
 #include "controls/controls.h"
+#include "core/trapped_error_listener.h"
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/driving/known_names.h"
@@ -178,13 +179,15 @@ private:
         std::string text;
         std::string refusal;
         {
-            tool.context().onTrappedError = [&](const RunTimeError& error, std::string_view place) {
-                if (refusal.empty() && place == "[mdlOrvanDatabase]EnumComponents")
-                    refusal = ": " + error.description();
-            };
             WizardDriver wizard(tool, taskKey);
-            wizard.next();
-            tool.context().onTrappedError = {};
+            {
+                const TrappedErrorListener listener(
+                    tool.context(), [&](const RunTimeError& error, std::string_view procName) {
+                        if (refusal.empty() && procName == "[mdlOrvanDatabase]EnumComponents")
+                            refusal = ": " + error.description();
+                    });
+                wizard.next();
+            }
             const auto& tree = wizard.control<TreeView>(treeName);
             if (!tree.visible())
                 output.message("not every component is listed: " + whereTheListEnds(tree) +

@@ -1,4 +1,5 @@
 #include "core/registry_store.h"
+#include "core/trapped_error_listener.h"
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/open_tool.h"
@@ -162,13 +163,15 @@ public:
         std::string path;
         OpenTool tool(options, ToolUse::look, [&](OpenTool& opened) { path = location(opened); });
         std::string failure;
-        tool.context().onTrappedError = [&](const RunTimeError& error, std::string_view procName) {
-            if (failure.empty() && procName == "[mdlSnapIn]populateListViewDiagLog")
-                failure = log_ + " could not be read: " + error.description();
-        };
-        tool.desktop().answerPickers(path);
-        tool.console().clickMenuItem("mnuOpenLogFile");
-        tool.context().onTrappedError = {};
+        {
+            const TrappedErrorListener listener(
+                tool.context(), [&](const RunTimeError& error, std::string_view procName) {
+                    if (failure.empty() && procName == "[mdlSnapIn]populateListViewDiagLog")
+                        failure = log_ + " could not be read: " + error.description();
+                });
+            tool.desktop().answerPickers(path);
+            tool.console().clickMenuItem("mnuOpenLogFile");
+        }
         if (!tool.desktop().failures().empty() || !failure.empty()) throw CommandFailure(failure);
         ListView& list = tool.console().currentView().selectedScopePaneItem().resultView().list();
         if (output.json())

@@ -25,20 +25,14 @@ void SheetDriver::missing(const std::string& name) const
     throw CommandFailure("the page " + sheet_->currentPage().name() + " has no " + name);
 }
 
-PassedOverErrors::PassedOverErrors(OpenTool& tool, const std::string& module) : tool_(tool)
-{
-    tool.context().onTrappedError = [this, page = "[" + module + "]"](const RunTimeError& error,
-                                                                      std::string_view procName) {
-        if (first_.empty() &&
-            (beginsWith(procName, page) || beginsWith(procName, "[mdlOrvanDatabase]")))
-            first_ = error.description();
-    };
-}
-
-PassedOverErrors::~PassedOverErrors()
-{
-    tool_.context().onTrappedError = {};
-}
+PassedOverErrors::PassedOverErrors(OpenTool& tool, const std::string& module)
+    : listener_(tool.context(), [this, page = "[" + module + "]"](const RunTimeError& error,
+                                                                  std::string_view procName) {
+          if (first_.empty() &&
+              (beginsWith(procName, page) || beginsWith(procName, "[mdlOrvanDatabase]")))
+              first_ = error.description();
+      })
+{}
 
 void PassedOverErrors::requireNone(const std::string& failure) const
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "console/plain_sheet.h"
+#include "core/trapped_error_listener.h"
 #include "hosts/cli/open_tool.h"
 
 #include <memory>
@@ -41,14 +42,11 @@ class PassedOverErrors {
 public:
     /// `module` is that of the page, such as "ppgConfLogSettings".
     PassedOverErrors(OpenTool& tool, const std::string& module);
-    ~PassedOverErrors();
-    PassedOverErrors(const PassedOverErrors&) = delete;
-    PassedOverErrors& operator=(const PassedOverErrors&) = delete;
 
     /// Raises CommandFailure with `failure` and the first error, when there was one.
     void requireNone(const std::string& failure) const;
 
 private:
-    OpenTool& tool_;
     std::string first_;
+    TrappedErrorListener listener_;
 };

@@ -56,7 +56,6 @@ TraceCheck::TraceCheck(OpenTool& tool) : tool_(tool)
 
 TraceCheck::~TraceCheck()
 {
-    tool_.context().onTrappedError = {};
     try {
         tool_.site().database().letCallsGo();
     } catch (const RunTimeError&) {
@@ -71,9 +70,9 @@ void TraceCheck::expect(TraceExpectation expected)
         printMessage("a macro trace asks for what this server does not have: " + part);
     eventsBefore_ = eventLogSize();
     tool_.registry().forget();
-    tool_.context().onTrappedError = [this](const RunTimeError& error, std::string_view) {
+    listener_.emplace(tool_.context(), [this](const RunTimeError& error, std::string_view) {
         if (firstError_.empty()) firstError_ = error.description();
-    };
+    });
     tool_.site().database().holdCalls();
 }
 

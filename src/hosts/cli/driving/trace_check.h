@@ -1,9 +1,11 @@
 #pragma once
 
+#include "core/trapped_error_listener.h"
 #include "hosts/cli/driving/trace_expectation.h"
 #include "hosts/cli/open_tool.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -52,4 +54,5 @@ private:
     std::vector<Level> levels_;
     std::int64_t eventsBefore_ = 0; ///< bytes of the event log before the operation
     std::string firstError_;        ///< that the operation logged and went on after
+    std::optional<TrappedErrorListener> listener_;
 };

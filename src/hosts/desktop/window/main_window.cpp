@@ -95,7 +95,7 @@ void MainWindow::setTool(OpenTool* tool)
 {
     delete pane_;
     pane_ = nullptr;
-    if (tool_) tool_->context().onTrappedError = {};
+    listener_.reset();
     tool_ = tool;
     status_->clear();
     siteName_->clear();
@@ -111,14 +111,18 @@ void MainWindow::setTool(OpenTool* tool)
         connectPane();
         changeTextSize(0);
         std::string databaseFailure;
-        tool_->context().onTrappedError = [&](const RunTimeError& error, std::string_view name) {
-            if (name == "[mdlOrvanDatabase]openOrvanDB") databaseFailure = error.description();
-        };
-        pane_->perform([this](Console&) { tool_->load(); });
-        tool_->context().onTrappedError = [this](const RunTimeError& error,
-                                                 std::string_view procName) {
-            undone_.note(error, procName);
-        };
+        {
+            const TrappedErrorListener opening(
+                tool_->context(), [&](const RunTimeError& error, std::string_view procName) {
+                    if (procName == "[mdlOrvanDatabase]openOrvanDB")
+                        databaseFailure = error.description();
+                });
+            pane_->perform([this](Console&) { tool_->load(); });
+        }
+        listener_.emplace(tool_->context(),
+                          [this](const RunTimeError& error, std::string_view procName) {
+                              undone_.note(error, procName);
+                          });
         spoken_ = spokenByTool();
         language_.choose(spoken_);
         rebuildConsoleItems();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/trapped_error_listener.h"
 #include "hosts/desktop/look/interface_language.h"
 #include "hosts/desktop/new_logs_signal.h"
 #include "hosts/desktop/sheets/gather_notice.h"
@@ -9,6 +10,7 @@
 #include <QMainWindow>
 
 #include <map>
+#include <optional>
 #include <string>
 
 class ConsolePane;
@@ -122,6 +124,7 @@ private:
     std::map<CommandMenu, QMenu*> menus_;
     QMenu* recent_ = nullptr;
     Undone undone_;
+    std::optional<TrappedErrorListener> listener_; ///< of `tool_`, for `undone_`
     NewLogsSignal newLogs_;
     GatherNotice gathers_;
     std::string unlistedLogs_; ///< why, as it was told
