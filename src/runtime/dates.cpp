@@ -2,100 +2,60 @@
 
 #include "runtime/run_time_error.h"
 
-#include <array>
+#include <chrono>
 #include <cmath>
 
 namespace {
 
-constexpr long long secondsPerDay = 86400;
-constexpr long long firstDay = -657434; ///< 1 January 100
-constexpr long long lastDay = 2958465;  ///< 31 December 9999
+using std::chrono::days;
+using std::chrono::seconds;
+using std::chrono::sys_days;
 
-constexpr int firstYear = 100;
-constexpr int lastYear = 9999;
+constexpr std::chrono::year firstYear{100};
+constexpr std::chrono::year lastYear{9999};
 
-/// A day, counted from 30 December 1899, and the whole seconds since its midnight.
+/// Days are counted from the zero date.
+constexpr sys_days zeroDate = std::chrono::year{1899} / 12 / 30;
+constexpr days firstDay = sys_days{firstYear / 1 / 1} - zeroDate;
+constexpr days lastDay = sys_days{lastYear / 12 / 31} - zeroDate;
+
+constexpr double secondsPerDay = seconds{days{1}}.count();
+
+/// A day, counted from the zero date, and the whole seconds since its midnight.
 struct DayAndSecond {
-    long long day;
-    long long second;
+    days day;
+    seconds second;
 };
 
 DayAndSecond dayAndSecondOf(Date date)
 {
-    if (!(date.days > firstDay - 1.0 && date.days < lastDay + 1.0)) {
+    if (!(date.days > static_cast<double>(firstDay.count()) - 1.0 &&
+          date.days < static_cast<double>(lastDay.count()) + 1.0)) {
         throw RunTimeError(runTimeErrors::invalidCall);
     }
-    DayAndSecond result{};
     const double whole = std::trunc(date.days);
-    result.day = static_cast<long long>(whole);
-    result.second = std::llround(std::fabs(date.days - whole) * double{secondsPerDay});
-    if (result.second == secondsPerDay) {
+    DayAndSecond result{days{static_cast<days::rep>(whole)},
+                        seconds{std::llround(std::fabs(date.days - whole) * secondsPerDay)}};
+    if (result.second == days{1}) {
         ++result.day;
-        result.second = 0;
+        result.second = seconds::zero();
     }
     if (result.day > lastDay) throw RunTimeError(runTimeErrors::invalidCall);
     return result;
 }
 
-Date dateAt(long long day, long long second)
+Date dateAt(days day, seconds second)
 {
     if (day < firstDay || day > lastDay) throw RunTimeError(runTimeErrors::invalidCall);
-    const double fraction = static_cast<double>(second) / double{secondsPerDay};
-    const auto whole = static_cast<double>(day);
-    return Date{day < 0 ? whole - fraction : whole + fraction};
+    const double fraction = static_cast<double>(second.count()) / secondsPerDay;
+    const auto whole = static_cast<double>(day.count());
+    return Date{day < days::zero() ? whole - fraction : whole + fraction};
 }
 
-Date dateAtSecond(long long second)
+Date dateAtSecond(seconds second)
 {
-    long long day = second / secondsPerDay;
-    long long rest = second % secondsPerDay;
-    if (rest < 0) {
-        --day;
-        rest += secondsPerDay;
-    }
-    return dateAt(day, rest);
-}
-
-bool isLeapYear(int year)
-{
-    return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
-}
-
-int daysInMonth(int year, int month)
-{
-    constexpr std::array<int, 12> days = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    return month == 2 && isLeapYear(year) ? 29 : days[static_cast<std::size_t>(month - 1)];
-}
-
-// Years are counted from 1 March, so that the leap day is a year's last day and the months before
-// any one have the same length in every year. An era is 400 years.
-constexpr int daysPerEra = 146097;
-constexpr int eraStartToZeroDate = 693899; ///< 1 March 0 to 30 December 1899
-
-long long dayNumber(int year, int month, int day)
-{
-    const int marchYear = month > 2 ? year : year - 1;
-    const int era = marchYear / 400;
-    const int yearOfEra = marchYear % 400;
-    const int monthFromMarch = (month + 9) % 12;
-    const int dayOfYear = (153 * monthFromMarch + 2) / 5 + day - 1;
-    const int dayOfEra = yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 + dayOfYear;
-    return era * daysPerEra + dayOfEra - eraStartToZeroDate;
-}
-
-void setCalendarDay(DateParts& parts, long long day)
-{
-    const long long fromEraStart = day + eraStartToZeroDate;
-    const auto era = static_cast<int>(fromEraStart / daysPerEra);
-    const auto dayOfEra = static_cast<int>(fromEraStart % daysPerEra);
-    const int yearOfEra =
-        (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / (daysPerEra - 1)) / 365;
-    const int dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
-    const int monthFromMarch = (5 * dayOfYear + 2) / 153;
-    parts.day = dayOfYear - (153 * monthFromMarch + 2) / 5 + 1;
-    parts.month = monthFromMarch < 10 ? monthFromMarch + 3 : monthFromMarch - 9;
-    parts.year = era * 400 + yearOfEra + (parts.month <= 2 ? 1 : 0);
-    parts.dayOfWeek = static_cast<int>((fromEraStart + 3) % 7) + 1;
+    const auto day = std::chrono::floor<days>(second);
+    return dateAt(day, second - day);
 }
 
 bool isWithin(int value, int least, int most)
@@ -108,44 +68,53 @@ bool isWithin(int value, int least, int most)
 DateParts partsOf(Date date)
 {
     const DayAndSecond moment = dayAndSecondOf(date);
-    const auto second = static_cast<int>(moment.second);
+    const sys_days day = zeroDate + moment.day;
+    const std::chrono::year_month_day inCalendar{day};
+    const std::chrono::hh_mm_ss time{moment.second};
     DateParts parts;
-    setCalendarDay(parts, moment.day);
-    parts.hour = second / 3600;
-    parts.minute = second / 60 % 60;
-    parts.second = second % 60;
+    parts.year = static_cast<int>(inCalendar.year());
+    parts.month = static_cast<int>(static_cast<unsigned>(inCalendar.month()));
+    parts.day = static_cast<int>(static_cast<unsigned>(inCalendar.day()));
+    parts.hour = static_cast<int>(time.hours().count());
+    parts.minute = static_cast<int>(time.minutes().count());
+    parts.second = static_cast<int>(time.seconds().count());
+    parts.dayOfWeek = static_cast<int>(std::chrono::weekday{day}.c_encoding()) + 1;
     return parts;
 }
 
 Date dateOf(int year, int month, int day, int hour, int minute, int second)
 {
-    const bool valid = isWithin(year, firstYear, lastYear) && isWithin(month, 1, 12) &&
-                       isWithin(day, 1, daysInMonth(year, month)) && isWithin(hour, 0, 23) &&
-                       isWithin(minute, 0, 59) && isWithin(second, 0, 59);
+    // The calendar's own types take 8 and 16 bits of what they are given.
+    const bool valid = isWithin(year, int{firstYear}, int{lastYear}) && isWithin(month, 1, 12) &&
+                       isWithin(day, 1, 31) && isWithin(hour, 0, 23) && isWithin(minute, 0, 59) &&
+                       isWithin(second, 0, 59);
     if (!valid) throw RunTimeError(runTimeErrors::invalidCall);
-    return dateAt(dayNumber(year, month, day), hour * 3600LL + minute * 60LL + second);
+    const std::chrono::year_month_day date = std::chrono::year{year} / month / day;
+    if (!date.ok()) throw RunTimeError(runTimeErrors::invalidCall);
+    return dateAt(sys_days{date} - zeroDate, seconds{hour * 3600 + minute * 60 + second});
 }
 
 Date dayOf(Date date)
 {
-    return dateAt(dayAndSecondOf(date).day, 0);
+    return dateAt(dayAndSecondOf(date).day, seconds::zero());
 }
 
 Date timeOf(Date date)
 {
-    return dateAt(0, dayAndSecondOf(date).second);
+    return dateAt(days::zero(), dayAndSecondOf(date).second);
 }
 
 Date addSeconds(Date date, double seconds)
 {
-    constexpr double longestSpan = double{lastDay - firstDay + 1} * double{secondsPerDay};
+    constexpr auto dayCount = (lastDay - firstDay + days{1}).count();
+    constexpr double longestSpan = static_cast<double>(dayCount) * secondsPerDay;
     if (!(std::fabs(seconds) <= longestSpan)) throw RunTimeError(runTimeErrors::invalidCall);
-    return dateAtSecond(wholeSeconds(date) + std::llround(seconds));
+    return dateAtSecond(std::chrono::seconds{wholeSeconds(date) + std::llround(seconds)});
 }
 
 Date addDays(Date date, double days)
 {
-    return addSeconds(date, days * double{secondsPerDay});
+    return addSeconds(date, days * secondsPerDay);
 }
 
 Date addHours(Date date, double hours)
@@ -156,5 +125,5 @@ Date addHours(Date date, double hours)
 long long wholeSeconds(Date date)
 {
     const DayAndSecond moment = dayAndSecondOf(date);
-    return moment.day * secondsPerDay + moment.second;
+    return seconds{moment.day + moment.second}.count();
 }
