@@ -107,9 +107,9 @@ private:
 
 int yearOf(std::int64_t seconds)
 {
-    const std::chrono::sys_days day{
-        std::chrono::days(static_cast<int>(seconds / secondsADay - (seconds % secondsADay < 0)))};
-    return static_cast<int>(std::chrono::year_month_day(day).year());
+    using namespace std::chrono;
+    const year_month_day date(floor<days>(sys_seconds(std::chrono::seconds(seconds))));
+    return static_cast<int>(date.year());
 }
 
 std::int64_t daysUntil(std::chrono::year_month_day date)
@@ -200,11 +200,5 @@ Date localDate(const PosixTimeZone& zone, std::int64_t universal)
 {
     universal = withinCalendar(universal);
     const auto local = withinCalendar(universal + offsetAt(zone, universal));
-    const auto second = (local % secondsADay + secondsADay) % secondsADay;
-    const auto day = (local - second) / secondsADay;
-    const std::chrono::year_month_day date{
-        std::chrono::sys_days{std::chrono::days(static_cast<int>(day))}};
-    return dateOf(static_cast<int>(date.year()), static_cast<int>(unsigned(date.month())),
-                  static_cast<int>(unsigned(date.day())), static_cast<int>(second / 3600),
-                  static_cast<int>(second / 60 % 60), static_cast<int>(second % 60));
+    return addSeconds(dateOf(1970, 1, 1), static_cast<double>(local));
 }
