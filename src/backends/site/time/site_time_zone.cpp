@@ -67,31 +67,33 @@ bool isDate(const SystemTime& time)
                               month(static_cast<unsigned>(time.month)),
                               day(static_cast<unsigned>(time.day))};
     return time.year >= firstYear && time.year <= lastYear && time.month >= 1 && time.month <= 12 &&
-           time.day >= 1 && date.ok() && time.hour >= 0 && time.hour < 24 && time.minute >= 0 &&
-           time.minute < 60 && time.second >= 0 && time.second < 60 && time.milliseconds >= 0 &&
-           time.milliseconds < 1000;
+           time.day >= 1 && time.day <= 31 && date.ok() && time.hour >= 0 && time.hour < 24 &&
+           time.minute >= 0 && time.minute < 60 && time.second >= 0 && time.second < 60 &&
+           time.milliseconds >= 0 && time.milliseconds < 1000;
 }
 
 std::int64_t secondsOf(const SystemTime& time)
 {
     const sys_days date = std::chrono::year(time.year) / time.month / time.day;
-    return date.time_since_epoch().count() * secondsADay +
-           (time.hour * 3600 + time.minute * 60 + time.second);
+    const sys_seconds moment =
+        date + hours(time.hour) + minutes(time.minute) + seconds(time.second);
+    return moment.time_since_epoch().count();
 }
 
-SystemTime systemTimeOf(std::int64_t seconds)
+SystemTime systemTimeOf(std::int64_t secondsSince1970)
 {
-    const auto second = static_cast<int>((seconds % secondsADay + secondsADay) % secondsADay);
-    const sys_days date{days(static_cast<int>((seconds - second) / secondsADay))};
+    const sys_seconds moment{seconds(secondsSince1970)};
+    const auto date = floor<days>(moment);
     const year_month_day parts(date);
+    const hh_mm_ss clock(moment - date);
     SystemTime time;
     time.year = static_cast<int>(parts.year());
     time.month = static_cast<int>(unsigned(parts.month()));
     time.dayOfWeek = static_cast<int>(weekday(date).c_encoding());
     time.day = static_cast<int>(unsigned(parts.day()));
-    time.hour = second / 3600;
-    time.minute = second / 60 % 60;
-    time.second = second % 60;
+    time.hour = static_cast<int>(clock.hours().count());
+    time.minute = static_cast<int>(clock.minutes().count());
+    time.second = static_cast<int>(clock.seconds().count());
     return time;
 }
 

@@ -215,6 +215,13 @@ TEST(SiteTimeZone, KeepsTheMillisecondsOfAMoment)
     EXPECT_EQ(7, service.toLocal({}, {2006, 7, 6, 8, 12, 0, 0, 7}).milliseconds);
 }
 
+TEST(SiteTimeZone, ADayPastTheThirtyFirstIsNoDateHoweverLargeItIs)
+{
+    const SiteTimeZone service{PosixTimeZone{}};
+    for (const int day : {32, 256 + 1, 65536 + 1})
+        EXPECT_EQ(5, errorOf([&] { service.toLocal({}, {2006, 7, 6, day, 12, 0, 0, 0}); })) << day;
+}
+
 TEST(SiteTimeZone, ARuleThatIsNoDateCountsAsNone)
 {
     const SiteTimeZone service{PosixTimeZone{}};
