@@ -255,7 +255,7 @@ TEST_F(DiagnosticGrid, CutsTheListsTextsBetweenCharacters)
 
 TEST_F(DiagnosticGrid, ListsAnEmptyViewWithOneErrorAlongTheWay)
 {
-    tool.database.withView("vw_LoggerDiagnosticGrid");
+    tool.database.withEmptyGrid();
 
     MemoryRecordset components = EnumComponents(tool.context);
     components.moveFirst();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/database.h"
+#include "support/fake_database_query.h"
 
 #include <functional>
 #include <map>
@@ -10,26 +11,28 @@
 
 /// A database in memory that keeps every promise of database.h.
 ///
-/// It understands the queries `SELECT a, b As c FROM view [WHERE column = 'text'] [ORDER BY
-/// column]` and refuses others as a server does.
+/// It understands the queries that `queryResult` does and refuses others as a server does.
 class FakeDatabase final : public DatabaseConnection {
 public:
-    using Row = std::map<std::string, Value>;
+    using Row = FakeDatabaseRow;
 
-    /// One call of a stored procedure: what was assigned, by parameter name.
+    /// One call of a stored procedure: values by parameter name, as the procedure spells it.
     struct Call {
         std::string procedure;
         std::map<std::string, Value> parameters;
     };
 
-    /// Adds a row to a view, and the view with it.
+    /// Adds a row to a view, and the view with it; its columns become the view's.
     FakeDatabase& withRow(const std::string& view, Row row);
-    FakeDatabase& withView(const std::string& view);
+    FakeDatabase& withView(const std::string& view, std::vector<std::string> columns);
 
-    /// A stored procedure with its parameters, such as "@Name"; `work` runs at each call and may
-    /// throw.
+    /// A stored procedure with its parameters, such as "@Name"; `work` runs at each call, is given
+    /// Null for what was not assigned, and may throw.
     FakeDatabase& withProcedure(const std::string& name, std::vector<std::string> parameters,
                                 std::function<void(const Call&)> work = {});
+
+    /// The view of the diagnostic grid, as yet without components.
+    FakeDatabase& withEmptyGrid();
 
     /// A component of the diagnostic grid; and the grid's procedure, which writes its flags.
     FakeDatabase& withComponent(const std::string& name, std::int32_t flags,
@@ -50,6 +53,7 @@ public:
     /// The connection as it stands after a successful open.
     FakeDatabase& opened();
 
+    /// Calls so far, oldest first, with what was assigned alone.
     const std::vector<Call>& calls() const { return calls_; }
     const std::vector<std::string>& queries() const { return queries_; }
     /// How each of `queries` was opened.
@@ -63,6 +67,12 @@ public:
 
     /// Changes a component's word, as another program does.
     void setFlags(const std::string& component, std::int32_t flags);
+
+    /// Changes the word of an object id, as the grid's procedure does.
+    void writeFlags(const Value& objectId, const Value& flags);
+
+    /// Takes a component away, as another program does.
+    void removeComponent(const std::string& component);
 
     int state() const override { return state_; }
     void open(const std::string& connectionString, const std::string& user,
@@ -80,8 +90,8 @@ private:
         std::function<void(const Call&)> work;
     };
 
-    std::map<std::string, std::vector<Row>> views_;
-    std::map<std::string, Procedure> procedures_;
+    FakeDatabaseViews views_;
+    std::map<std::string, Procedure, NameOrder> procedures_;
     std::vector<std::pair<std::string, int>> failures_;
     std::vector<Call> calls_;
     std::vector<std::string> queries_;

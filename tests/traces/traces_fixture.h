@@ -30,7 +30,7 @@ struct TracesTest : testing::Test {
         tool.context.g_strMacroTraceFolder = "C:\\OrvanDiagnostics\\ZMKXML";
         tool.files.withFolder(tool.context.g_strMacroTraceFolder);
         tool.registry.withKey(broadcastKey());
-        tool.database.opened().withView("vw_LoggerDiagnosticGrid");
+        tool.database.opened().withEmptyGrid();
         initBitMasks(tool.context);
     }
 

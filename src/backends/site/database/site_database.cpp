@@ -54,9 +54,7 @@ public:
                                 CursorKind::forwardOnly);
         for (; !columns.atEnd(); columns.moveNext())
             parameters_.push_back({valueAsText(columns.field("name")), Empty{}, false});
-        if (parameters_.empty())
-            throw RunTimeError(databaseErrors::statementRefused,
-                               "Could not find stored procedure '" + procedure_ + "'.");
+        if (parameters_.empty()) throw noSuchProcedure();
     }
 
     void assign(const std::string& parameter, const Value& value) override
@@ -83,9 +81,10 @@ public:
             places += places.empty() ? ":a" : ",:a";
             places += std::to_string(std::count(places.begin(), places.end(), ':'));
         }
-        const SqliteStatement statement = handle->prepare(
-            "INSERT INTO " + procedure_ +
-            (names.empty() ? " DEFAULT VALUES" : " (" + names + ") VALUES (" + places + ")"));
+        const SqliteStatement statement =
+            prepared(*handle, "INSERT INTO " + procedure_ +
+                                  (names.empty() ? " DEFAULT VALUES"
+                                                 : " (" + names + ") VALUES (" + places + ")"));
         int place = 0;
         for (const auto& parameter : parameters_)
             if (parameter.assigned) bind(statement.get(), ++place, parameter.value);
@@ -95,6 +94,23 @@ public:
     }
 
 private:
+    RunTimeError noSuchProcedure() const
+    {
+        return RunTimeError(databaseErrors::statementRefused,
+                            "Could not find stored procedure '" + procedure_ + "'.");
+    }
+
+    /// The call, ready to step. To the database a procedure is a view, and a missing one a table.
+    SqliteStatement prepared(SqliteHandle& handle, const std::string& call) const
+    {
+        try {
+            return handle.prepare(call);
+        } catch (const RunTimeError& error) {
+            if (error.description() == "no such table: " + procedure_) throw noSuchProcedure();
+            throw;
+        }
+    }
+
     struct Parameter {
         std::string name;
         Value value;

@@ -44,7 +44,9 @@ SqliteRecordset::SqliteRecordset(std::shared_ptr<SqliteHandle> handle, const std
                                  CursorKind cursor)
     : handle_(std::move(handle)), statement_(handle_->prepare(query)), cursor_(cursor)
 {
-    const int count = statement_.get() ? sqlite3_column_count(statement_.get()) : 0;
+    if (!statement_.get())
+        throw RunTimeError(databaseErrors::statementRefused, "The query is empty.");
+    const int count = sqlite3_column_count(statement_.get());
     for (int column = 0; column < count; ++column)
         columns_.emplace_back(sqlite3_column_name(statement_.get(), column));
     row_ = step();
