@@ -1,4 +1,6 @@
-#include "logreader/diagnostics.h"
+#include "logreader/format_line.h"
+#include "logreader/parse_data.h"
+#include "logreader/parse_diagnostic.h"
 
 #include "support/test_tool.h"
 

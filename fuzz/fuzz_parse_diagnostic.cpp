@@ -1,4 +1,5 @@
-#include "logreader/diagnostics.h"
+#include "logreader/parse_data.h"
+#include "logreader/parse_diagnostic.h"
 
 #include "support/test_tool.h"
 

@@ -3,7 +3,7 @@
 #include "gather/importers.h"
 #include "gather/malformed_line.h"
 #include "gather/trace_row.h"
-#include "logreader/diagnostics.h"
+#include "logreader/parse_data.h"
 
 namespace {
 

@@ -3,7 +3,8 @@
 #include "gather/log_reading.h"
 #include "gather/malformed_line.h"
 #include "gather/object_reference.h"
-#include "logreader/diagnostics.h"
+#include "logreader/format_line.h"
+#include "logreader/log_file_names.h"
 #include "platform/file_system.h"
 
 void mdlLogs::processOrvanLogFile(ToolContext& tool, const std::string& fileName,

@@ -3,7 +3,8 @@
 #include "gather/importers.h"
 #include "gather/malformed_line.h"
 #include "gather/trace_row.h"
-#include "logreader/diagnostics.h"
+#include "logreader/format_line.h"
+#include "logreader/parse_diagnostic.h"
 #include "platform/event_reporter.h"
 
 namespace {

@@ -1,5 +1,6 @@
+#include "logreader/format_line.h"
+
 #include "core/error_trap.h"
-#include "logreader/diagnostics.h"
 #include "platform/event_reporter.h"
 
 namespace {

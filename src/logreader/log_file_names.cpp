@@ -1,6 +1,7 @@
+#include "logreader/log_file_names.h"
+
 #include "core/error_trap.h"
 #include "core/registry_store.h"
-#include "logreader/diagnostics.h"
 #include "platform/file_system.h"
 #include "runtime/text.h"
 

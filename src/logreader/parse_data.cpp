@@ -1,5 +1,6 @@
+#include "logreader/parse_data.h"
+
 #include "core/error_trap.h"
-#include "logreader/diagnostics.h"
 #include "runtime/numbers.h"
 
 #include <array>

@@ -1,5 +1,6 @@
+#include "logreader/parse_diagnostic.h"
+
 #include "core/error_trap.h"
-#include "logreader/diagnostics.h"
 #include "runtime/integer16.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"

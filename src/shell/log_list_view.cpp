@@ -1,7 +1,7 @@
 #include "console/result_view.h"
 #include "core/error_trap.h"
 #include "core/localisation.h"
-#include "logreader/diagnostics.h"
+#include "logreader/log_file_names.h"
 #include "platform/file_system.h"
 #include "runtime/integer16.h"
 #include "runtime/numbers.h"

@@ -1,7 +1,7 @@
 #include "console/scope_tree.h"
 #include "core/error_trap.h"
 #include "core/registry_store.h"
-#include "logreader/diagnostics.h"
+#include "logreader/log_file_names.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
 #include "runtime/integer16.h"

@@ -4,7 +4,7 @@
 #include "core/localisation.h"
 #include "core/utility.h"
 #include "gather/logs.h"
-#include "logreader/diagnostics.h"
+#include "logreader/log_file_names.h"
 #include "runtime/text.h"
 #include "wizards/gather_pages.h"
 

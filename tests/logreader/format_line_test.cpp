@@ -1,4 +1,4 @@
-#include "logreader/diagnostics.h"
+#include "logreader/format_line.h"
 
 #include "support/test_tool.h"
 

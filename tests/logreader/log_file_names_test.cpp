@@ -1,4 +1,4 @@
-#include "logreader/diagnostics.h"
+#include "logreader/log_file_names.h"
 
 #include "support/test_tool.h"
 #include "support/traced_pairs.h"

@@ -1,4 +1,4 @@
-#include "logreader/diagnostics.h"
+#include "logreader/parse_diagnostic.h"
 
 #include "support/test_tool.h"
 
