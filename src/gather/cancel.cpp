@@ -1,5 +1,6 @@
+#include "gather/cancel.h"
+
 #include "core/error_trap.h"
-#include "gather/logs.h"
 
 bool mdlLogs::cancelCurrentProcess(ToolContext& tool)
 {

@@ -1,6 +1,7 @@
+#include "gather/data_import.h"
+
 #include "core/utility.h"
 #include "gather/frame_reading.h"
-#include "gather/importers.h"
 #include "gather/malformed_line.h"
 #include "gather/trace_row.h"
 #include "logreader/parse_data.h"

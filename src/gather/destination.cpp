@@ -1,5 +1,6 @@
+#include "gather/destination.h"
+
 #include "core/error_trap.h"
-#include "gather/logs.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
 

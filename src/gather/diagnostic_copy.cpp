@@ -1,5 +1,6 @@
+#include "gather/diagnostic_copy.h"
+
 #include "core/error_trap.h"
-#include "gather/importers.h"
 #include "gather/log_reading.h"
 #include "gather/malformed_line.h"
 #include "gather/object_reference.h"

@@ -1,6 +1,7 @@
+#include "gather/event_log_capture.h"
+
 #include "controls/progress_bar.h"
 #include "core/error_trap.h"
-#include "gather/importers.h"
 #include "platform/event_log_exporter.h"
 
 void mdlLogs::processWindowsEventLogFile(ToolContext& tool, const std::string& logName,

@@ -1,5 +1,6 @@
+#include "gather/filter_table.h"
+
 #include "core/error_trap.h"
-#include "gather/importers.h"
 #include "platform/trace_database.h"
 #include "runtime/text.h"
 

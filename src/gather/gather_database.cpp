@@ -1,7 +1,7 @@
 #include "gather/gather_database.h"
 
 #include "core/error_trap.h"
-#include "gather/importers.h"
+#include "gather/filter_table.h"
 #include "gather/object_reference.h"
 #include "gather/packaging.h"
 #include "traces/macro_trace_catalogue.h"

@@ -3,7 +3,7 @@
 #include "controls/label.h"
 #include "controls/progress_bar.h"
 #include "core/localisation.h"
-#include "gather/logs.h"
+#include "gather/cancel.h"
 #include "gather/object_reference.h"
 #include "platform/clock.h"
 #include "platform/desktop.h"

@@ -3,7 +3,8 @@
 #include "core/error_trap.h"
 #include "core/localisation.h"
 #include "core/registry_store.h"
-#include "gather/logs.h"
+#include "gather/log_choice.h"
+#include "gather/pipeline.h"
 #include "wizards/gather_pages.h"
 
 #include <utility>

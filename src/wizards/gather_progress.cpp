@@ -3,7 +3,8 @@
 #include "core/error_trap.h"
 #include "core/localisation.h"
 #include "core/tool_context.h"
-#include "gather/logs.h"
+#include "gather/cancel.h"
+#include "gather/pipeline.h"
 #include "wizards/gather_pages.h"
 
 #include <utility>

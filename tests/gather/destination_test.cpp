@@ -1,4 +1,4 @@
-#include "gather/logs.h"
+#include "gather/destination.h"
 
 #include "support/test_tool.h"
 

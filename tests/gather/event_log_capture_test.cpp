@@ -1,3 +1,5 @@
+#include "gather/event_log_capture.h"
+
 #include "gather/gather_tool.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+#include "gather/filter_table.h"
+
 #include "gather/gather_tool.h"
 
 #include <gtest/gtest.h>

@@ -3,8 +3,9 @@
 #include "controls/label.h"
 #include "controls/progress_bar.h"
 #include "controls/tree_view.h"
-#include "gather/importers.h"
-#include "gather/logs.h"
+#include "gather/cancel.h"
+#include "gather/diagnostic_copy.h"
+#include "gather/pipeline.h"
 #include "support/test_tool.h"
 
 #include <string>

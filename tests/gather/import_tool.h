@@ -1,5 +1,7 @@
 #pragma once
 
+#include "gather/data_import.h"
+#include "gather/diagnostic_import.h"
 #include "gather/gather_tool.h"
 
 #include <initializer_list>

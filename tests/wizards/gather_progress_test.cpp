@@ -1,4 +1,4 @@
-#include "gather/logs.h"
+#include "gather/cancel.h"
 #include "wizards/gather_wizard_fixture.h"
 
 #include <functional>

@@ -3,7 +3,7 @@
 #include "backends/site/files/result_folder.h"
 #include "core/error_trap.h"
 #include "core/registry_store.h"
-#include "gather/logs.h"
+#include "gather/pipeline.h"
 #include "hosts/common/cabinet_names.h"
 #include "hosts/common/gather_report.h"
 #include "platform/file_system.h"

@@ -1,6 +1,6 @@
 #include "hosts/cli/gather/gather_preview.h"
 
-#include "gather/logs.h"
+#include "gather/pipeline.h"
 #include "hosts/cli/gather/gather_run.h"
 #include "hosts/cli/gather/gather_wizard.h"
 #include "hosts/cli/log_folder.h"

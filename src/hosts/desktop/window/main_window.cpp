@@ -1,7 +1,7 @@
 #include "hosts/desktop/window/main_window.h"
 
 #include "core/tool_context.h"
-#include "gather/logs.h"
+#include "gather/cancel.h"
 #include "hosts/common/log_folder.h"
 #include "hosts/desktop/log/list_table.h"
 #include "hosts/desktop/log/log_view.h"

@@ -1,0 +1,46 @@
+#include "gather/log_choice.h"
+
+#include "core/error_trap.h"
+#include "core/registry_store.h"
+#include "platform/file_system.h"
+#include "runtime/text.h"
+
+namespace {
+
+constexpr const char* standardLogsValue = "Standard Logs";
+constexpr const char* defaultLogs = "orvan_RoCsMgr, event_Application, event_System";
+
+} // namespace
+
+StringArray mdlLogs::getAllLogsForProcess(ToolContext& tool, const std::string& process)
+{
+    ErrorTrap step{tool, "mdlLogs", "getAllLogsForProcess"};
+    const std::string pattern = tool.g_strLogFolder + "\\diag_" + process + "_*.txt";
+    std::vector<std::string> names;
+    StringArray logs;
+
+    step([&] { names = tool.platform.files.matching(pattern); });
+    logs.clear(static_cast<int>(names.size()));
+    int index = 1;
+    for (std::string& name : names) logs.set(index++, std::move(name));
+    return logs;
+}
+
+std::vector<std::string> mdlLogs::defineStandardLogs(ToolContext& tool)
+{
+    ErrorTrap step{tool, "mdlLogs", "defineStandardLogs"};
+    bool keyExists = false;
+    std::string names;
+
+    step([&] { keyExists = registryKeyExists(tool, registryRoot::localMachine, toolKey); });
+    if (!keyExists) step([&] { createRegistryKey(tool, registryRoot::localMachine, toolKey); });
+    step([&] { names = getRegistryText(tool, toolKey, standardLogsValue); });
+    if (names.empty()) {
+        names = defaultLogs;
+        step([&] {
+            setRegistryValue(tool, registryRoot::localMachine, toolKey, standardLogsValue,
+                             registryType::text, names);
+        });
+    }
+    return split(names, ',');
+}
