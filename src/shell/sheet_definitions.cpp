@@ -8,7 +8,8 @@
 #include "wizards/gather_progress.h"
 #include "wizards/gather_time_frame.h"
 #include "wizards/gather_welcome.h"
-#include "wizards/macro_trace_wizard.h"
+#include "wizards/macro_trace_pages.h"
+#include "wizards/macro_trace_step.h"
 #include "wizards/micro_trace_wizard.h"
 #include "wizards/reset_wizard.h"
 

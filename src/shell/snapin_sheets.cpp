@@ -1,10 +1,10 @@
 #include "core/error_trap.h"
 #include "core/localisation.h"
-#include "gather/trace_object.h"
 #include "shell/required_object.h"
 #include "shell/sheet_definitions.h"
 #include "shell/snapin_orvan_diagnostics.h"
 #include "shell/wizard_kinds.h"
+#include "wizards/trace_object.h"
 
 namespace {
 constexpr const char* moduleName = "snapinOrvanDiagnostics";

@@ -1,6 +1,6 @@
 #pragma once
 
-/// The places of the gather wizard's pages, as their buttons name them.
+/// The positions of the gather wizard's pages, as their buttons name them.
 namespace gatherPage {
 constexpr int welcome = 1;
 constexpr int logSelection = 2;

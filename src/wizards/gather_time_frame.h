@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gather/time_frame.h"
+#include "wizards/time_frame_choice.h"
 #include "wizards/wizard_page.h"
 
 /// Page 3 of the gather wizard: when the frame starts, how long it is and which event logs belong

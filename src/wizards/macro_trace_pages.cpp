@@ -1,8 +1,9 @@
+#include "wizards/macro_trace_pages.h"
+
 #include "core/error_trap.h"
 #include "core/localisation.h"
 #include "runtime/text.h"
 #include "traces/macro_trace_catalogue.h"
-#include "wizards/macro_trace_wizard.h"
 
 #include <utility>
 #include <vector>

@@ -1,8 +1,9 @@
+#include "wizards/macro_trace_step.h"
+
 #include "core/error_trap.h"
 #include "runtime/run_time_error.h"
 #include "traces/counted_walk.h"
 #include "traces/macro_trace_operations.h"
-#include "wizards/macro_trace_wizard.h"
 
 #include <utility>
 #include <vector>

@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-/// Page 1: tells what a micro trace is.
+/// Page 1 of the micro trace wizard: tells what a micro trace is.
 class ppgMicroTrace00Welcome final : public WizardPage {
 public:
     ppgMicroTrace00Welcome(ToolContext& tool, std::shared_ptr<classTraceObject> shared);
@@ -20,7 +20,8 @@ private:
     void ppgMicroTrace00Welcome_Auto_Init();
 };
 
-/// Page 2: the tree of components and their levels, filled once; Next applies its ticks.
+/// Page 2 of the micro trace wizard: the tree of components and their levels, filled once; Next
+/// applies its ticks.
 class ppgMicroTrace01Step final : public WizardPage, public IMMCPropertyPage {
 public:
     ppgMicroTrace01Step(ToolContext& tool, std::shared_ptr<classTraceObject> shared);
@@ -47,7 +48,7 @@ private:
     void setChildNodes(TreeNode* node, bool ticked);
 };
 
-/// Page 3: tells that the choice was applied.
+/// Page 3 of the micro trace wizard: tells that the choice was applied.
 class ppgMicroTrace99Final final : public WizardPage {
 public:
     ppgMicroTrace99Final(ToolContext& tool, std::shared_ptr<classTraceObject> shared);

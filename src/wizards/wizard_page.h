@@ -5,7 +5,7 @@
 #include "controls/controls.h"
 #include "controls/sheet_page.h"
 #include "core/page_texts.h"
-#include "gather/trace_object.h"
+#include "wizards/trace_object.h"
 
 #include <initializer_list>
 #include <memory>

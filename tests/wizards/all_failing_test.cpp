@@ -1,5 +1,6 @@
 #include "wizards/gather_wizard_fixture.h"
-#include "wizards/macro_trace_wizard.h"
+#include "wizards/macro_trace_pages.h"
+#include "wizards/macro_trace_step.h"
 #include "wizards/micro_trace_wizard.h"
 #include "wizards/reset_wizard.h"
 #include "wizards/wizards_fixture.h"

@@ -1,4 +1,5 @@
-#include "wizards/macro_trace_wizard.h"
+#include "wizards/macro_trace_pages.h"
+#include "wizards/macro_trace_step.h"
 
 #include "traces/macro_trace_catalogue.h"
 #include "wizards/wizards_fixture.h"

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "console/wizard_sheet.h"
-#include "gather/trace_object.h"
 #include "support/traced_pairs.h"
 #include "traces/traces_fixture.h"
+#include "wizards/trace_object.h"
 #include "wizards/wizard_page.h"
 
 #include <memory>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "controls/controls.h"
-#include "gather/time_frame.h"
 #include "hosts/cli/driving/wizard_driver.h"
+#include "wizards/time_frame_choice.h"
 
 #include <string>
 #include <vector>

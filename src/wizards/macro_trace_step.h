@@ -1,27 +1,16 @@
 #pragma once
 
 #include "platform/xml.h"
+#include "runtime/dictionary.h"
 #include "wizards/wizard_page.h"
+
+#include <memory>
+#include <string>
 
 class ErrorTrap;
 
-/// Page 1: tells what a macro trace is, and builds the catalogue anew at each arrival.
-class ppgMacroTrace0Welcome final : public WizardPage {
-public:
-    ppgMacroTrace0Welcome(ToolContext& tool, std::shared_ptr<classTraceObject> shared);
-
-    void IWizardPage_Activate(bool& EnableBack, int& NextOrFinish,
-                              std::string& FinishText) override;
-
-    Label lblWelcome;
-    Label lblPurpose;
-    Label lblDefinitions;
-
-private:
-    void ppgMacroTrace0Welcome_Auto_Init();
-};
-
-/// Page 2: the tree of groups and macro traces, filled once; Next applies its ticks.
+/// Page 2 of the macro trace wizard: the tree of groups and macro traces, filled once; Next applies
+/// its ticks.
 class ppgMacroTrace1 final : public WizardPage, public IMMCPropertyPage {
 public:
     ppgMacroTrace1(ToolContext& tool, std::shared_ptr<classTraceObject> shared);
@@ -54,21 +43,4 @@ private:
     std::shared_ptr<Dictionary<bool>> status_;
 
     std::string name_; ///< of the element that was read last
-};
-
-/// Page 3: lists what the person changed.
-class ppgMacroTrace3Final final : public WizardPage {
-public:
-    ppgMacroTrace3Final(ToolContext& tool, std::shared_ptr<classTraceObject> shared);
-
-    void IWizardPage_Activate(bool& EnableBack, int& NextOrFinish,
-                              std::string& FinishText) override;
-
-    Label lblCompletionTitle;
-    Label lblCompletionStatment;
-    Label lblSummary;
-
-private:
-    void ppgMacroTrace3Final_Auto_Init();
-    void showSummary(ErrorTrap& step);
 };

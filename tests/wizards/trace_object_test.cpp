@@ -1,4 +1,4 @@
-#include "gather/trace_object.h"
+#include "wizards/trace_object.h"
 
 #include "console/sheet.h"
 #include "support/test_tool.h"

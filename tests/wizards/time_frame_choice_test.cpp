@@ -1,8 +1,8 @@
-#include "gather/time_frame.h"
+#include "wizards/time_frame_choice.h"
 
-#include "gather/trace_object.h"
 #include "platform/file_system.h"
 #include "support/test_tool.h"
+#include "wizards/trace_object.h"
 
 #include <gtest/gtest.h>
 

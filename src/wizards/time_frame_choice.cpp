@@ -1,10 +1,10 @@
-#include "gather/time_frame.h"
+#include "wizards/time_frame_choice.h"
 
 #include "core/error_trap.h"
-#include "gather/trace_object.h"
 #include "platform/file_system.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "wizards/trace_object.h"
 
 #include <optional>
 

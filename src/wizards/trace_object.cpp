@@ -1,4 +1,4 @@
-#include "gather/trace_object.h"
+#include "wizards/trace_object.h"
 
 #include "runtime/run_time_error.h"
 
