@@ -1,3 +1,5 @@
+#include "shell/diag_log_view.h"
+
 #include "console/view.h"
 #include "core/error_trap.h"
 #include "core/localisation.h"
@@ -9,7 +11,6 @@
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "shell/required_object.h"
-#include "shell/snapin_routines.h"
 
 #include <memory>
 #include <optional>

@@ -1,3 +1,5 @@
+#include "shell/log_list_view.h"
+
 #include "console/result_view.h"
 #include "core/error_trap.h"
 #include "core/localisation.h"
@@ -7,7 +9,6 @@
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "shell/required_object.h"
-#include "shell/snapin_routines.h"
 
 #include <optional>
 #include <string>

@@ -1,3 +1,5 @@
+#include "shell/scope_nodes.h"
+
 #include "console/scope_tree.h"
 #include "core/error_trap.h"
 #include "core/registry_store.h"
@@ -7,7 +9,6 @@
 #include "runtime/integer16.h"
 #include "runtime/text.h"
 #include "shell/required_object.h"
-#include "shell/snapin_routines.h"
 
 #include <cstddef>
 #include <string>

@@ -3,8 +3,8 @@
 #include "core/signals.h"
 #include "core/utility.h"
 #include "shell/required_object.h"
+#include "shell/scope_nodes.h"
 #include "shell/snapin_orvan_diagnostics.h"
-#include "shell/snapin_routines.h"
 
 #include <string_view>
 #include <utility>

@@ -1,8 +1,11 @@
 #include "core/error_trap.h"
 #include "core/localisation.h"
+#include "shell/diag_log_view.h"
+#include "shell/log_list_view.h"
 #include "shell/required_object.h"
+#include "shell/scope_nodes.h"
 #include "shell/snapin_orvan_diagnostics.h"
-#include "shell/snapin_routines.h"
+#include "shell/task_pad_view.h"
 
 #include <vector>
 

@@ -1,7 +1,8 @@
+#include "shell/task_pad_view.h"
+
 #include "console/result_view.h"
 #include "core/error_trap.h"
 #include "core/localisation.h"
-#include "shell/snapin_routines.h"
 
 namespace {
 

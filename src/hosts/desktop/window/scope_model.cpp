@@ -3,7 +3,7 @@
 #include "console/console.h"
 #include "hosts/desktop/look/icons.h"
 #include "hosts/desktop/look/plain_tool_tip.h"
-#include "shell/snapin_routines.h"
+#include "shell/scope_nodes.h"
 
 #include <algorithm>
 
