@@ -30,6 +30,8 @@
 #include <string>
 #include <vector>
 
+namespace desktop {
+
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -136,7 +138,18 @@ void scroll(Program& program)
     QApplication::quit();
 }
 
+void measure(Program& program, const std::string& what, const std::string& log)
+{
+    if (what == "tree") return showTree(program);
+    if (what == "processes") return showProcesses(program);
+    if (what == "lines") return readLines(program, log);
+    if (what == "scroll") return afterLog(program, log, [&program] { scroll(program); });
+    afterLog(program, log, [] { QApplication::quit(); });
+}
+
 } // namespace
+
+} // namespace desktop
 
 int main(int argc, char** argv)
 {
@@ -144,16 +157,11 @@ int main(int argc, char** argv)
     const std::string what = given.empty() ? "" : given[0];
     const bool ofTree = what == "tree" || what == "processes";
     const std::string log = ofTree || given.size() < 2 ? "" : given[1];
-    const std::function<void(Program&)> opened = [&](Program& program) {
-        if (what == "tree") return showTree(program);
-        if (what == "processes") return showProcesses(program);
-        if (what == "lines") return readLines(program, log);
-        if (what == "scroll") return afterLog(program, log, [&program] { scroll(program); });
-        afterLog(program, log, [] { QApplication::quit(); });
-    };
     // The console sees its own options alone.
     const int own = ofTree ? 1 : 2;
     if (argc <= own) return 2;
     argv[own] = argv[0];
-    return runConsole(argc - own, argv + own, opened);
+    return desktop::runConsole(argc - own, argv + own, [&](desktop::Program& program) {
+        desktop::measure(program, what, log);
+    });
 }

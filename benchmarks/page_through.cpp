@@ -12,6 +12,8 @@
 #include <chrono>
 #include <vector>
 
+namespace desktop {
+
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -102,3 +104,5 @@ void pageThrough(LogView& log, const std::function<void(const std::string&)>& sa
     rows.filter(filter);
     say(pages(table, "filtered"));
 }
+
+} // namespace desktop

@@ -4,6 +4,8 @@
 
 #include <limits>
 
+namespace cli {
+
 Argument& Argument::called(const std::string& valueName)
 {
     option_->type_name(valueName);
@@ -107,3 +109,5 @@ const CLI::App& Arguments::program() const
     while (app->get_parent() != nullptr) app = app->get_parent();
     return *app;
 }
+
+} // namespace cli

@@ -10,6 +10,8 @@ class App;
 class Option;
 } // namespace CLI
 
+namespace cli {
+
 /// An option or an argument of a command, and what its help says of it. Copies are the same one; it
 /// lives as long as the command line.
 class Argument {
@@ -80,3 +82,5 @@ public:
 private:
     CLI::App* app_ = nullptr;
 };
+
+} // namespace cli

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+namespace cli {
+
 class Arguments;
 class Output;
 
@@ -54,3 +56,5 @@ public:
 
 /// Every command, in the order of the help text.
 std::vector<std::unique_ptr<Command>> allCommands();
+
+} // namespace cli

@@ -3,8 +3,12 @@
 #include "hosts/cli/open_tool.h"
 #include "hosts/common/log_folder.h"
 
+namespace cli {
+
 std::string logFolderTrouble(OpenTool& tool)
 {
     const auto trouble = logFolderTrouble(tool.context(), tool.report());
     return trouble ? asClause(*trouble) : "";
 }
+
+} // namespace cli

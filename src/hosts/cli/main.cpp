@@ -11,6 +11,8 @@
 #include <cstdio>
 #include <exception>
 
+namespace cli {
+
 namespace {
 
 int refuse(const std::string& text, int status)
@@ -56,6 +58,8 @@ int run(int argc, char** argv)
 
 } // namespace
 
+} // namespace cli
+
 int main(int argc, char** argv)
 {
     // A closed pipe and a file size limit are errors of a write, not the end of the program.
@@ -63,10 +67,10 @@ int main(int argc, char** argv)
     std::signal(SIGXFSZ, SIG_IGN);
     endWhenOutOfMemory("orvandiag");
     try {
-        return run(argc, argv);
+        return cli::run(argc, argv);
     } catch (const RunTimeError& error) {
-        return refuse(error.description(), 1);
+        return cli::refuse(error.description(), 1);
     } catch (const std::exception& error) {
-        return refuse(error.what(), 1);
+        return cli::refuse(error.what(), 1);
     }
 }

@@ -8,6 +8,8 @@
 
 #include <unistd.h>
 
+namespace cli {
+
 namespace {
 
 constexpr int processesPosition = 2;
@@ -151,3 +153,5 @@ ScopeItem& OpenTool::processes()
     console_.expand(node);
     return node;
 }
+
+} // namespace cli

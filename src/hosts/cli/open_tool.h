@@ -18,6 +18,8 @@
 #include <optional>
 #include <string>
 
+namespace cli {
+
 /// What a command opens the tool for.
 enum class ToolUse {
     change, ///< one program at a time: what is read stays so until it is written
@@ -113,3 +115,5 @@ private:
     std::string databaseFailure_;
     bool loaded_ = false;
 };
+
+} // namespace cli

@@ -6,6 +6,8 @@
 
 #include <CLI/CLI.hpp>
 
+namespace cli {
+
 namespace {
 
 constexpr const char* introduction =
@@ -139,3 +141,5 @@ std::vector<std::unique_ptr<Command>> allCommands()
     commands.push_back(makeManCommand());
     return commands;
 }
+
+} // namespace cli

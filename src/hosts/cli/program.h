@@ -11,6 +11,8 @@ namespace CLI {
 class App;
 }
 
+namespace cli {
+
 /// What an exit status says.
 struct ExitStatus {
     int status;
@@ -51,3 +53,5 @@ ModuleVersion moduleVersion();
 
 /// "orvandiag 1.0.0".
 std::string versionText();
+
+} // namespace cli

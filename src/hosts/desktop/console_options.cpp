@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <string_view>
 
+namespace desktop {
+
 namespace {
 
 constexpr int wrongUsage = 2;
@@ -106,3 +108,5 @@ bool asksForText(int argc, const char* const* argv)
                std::end(textOptions);
     });
 }
+
+} // namespace desktop

@@ -8,6 +8,8 @@
 #include <string>
 #include <variant>
 
+namespace desktop {
+
 /// What the console's command line asks for. An empty text: nothing was said of it.
 struct ConsoleOptions {
     QString site;        ///< a folder
@@ -31,3 +33,5 @@ std::variant<ConsoleOptions, NoWindow> consoleOptionsOf(const QStringList& argum
 
 /// Whether a command line asks for a text alone, which needs no display.
 bool asksForText(int argc, const char* const* argv);
+
+} // namespace desktop

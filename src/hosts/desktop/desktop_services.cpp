@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QMessageBox>
 
+namespace desktop {
+
 namespace {
 
 /// While the tool works the pointer is an hourglass; in front of a box it is an arrow.
@@ -121,3 +123,5 @@ int DesktopServices::showHelp(const std::string&, int topic)
     }
     return static_cast<int>(help_->winId());
 }
+
+} // namespace desktop

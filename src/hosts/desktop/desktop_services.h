@@ -7,8 +7,11 @@
 #include <functional>
 #include <memory>
 
-class HelpWindow;
 class QWidget;
+
+namespace desktop {
+
+class HelpWindow;
 
 /// The person's desktop: boxes, pickers, the message queue and the manual.
 class DesktopServices final : public Desktop {
@@ -48,3 +51,5 @@ private:
     std::string manual_;
     std::unique_ptr<HelpWindow> help_;
 };
+
+} // namespace desktop

@@ -2,5 +2,5 @@
 
 int main(int argc, char** argv)
 {
-    return runConsole(argc, argv);
+    return desktop::runConsole(argc, argv);
 }

@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace desktop {
+
 bool NewLogsSignal::given(ToolContext& tool)
 {
     constexpr int secondOfASignal = 1500; ///< milliseconds, with some room
@@ -24,3 +26,5 @@ NewLogsSignal::Bytes NewLogsSignal::stored(ToolContext& tool)
     const auto* bytes = std::get_if<std::vector<std::uint8_t>>(&found);
     return bytes ? Bytes(*bytes) : std::nullopt;
 }
+
+} // namespace desktop

@@ -8,6 +8,8 @@
 
 struct ToolContext;
 
+namespace desktop {
+
 /// Watches whether a command gave the server the signal to start new log files: the tool takes it
 /// for given.
 class NewLogsSignal {
@@ -28,3 +30,5 @@ private:
     Bytes before_;
     QElapsedTimer sinceGiven_;
 };
+
+} // namespace desktop

@@ -11,6 +11,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+namespace desktop {
+
 namespace {
 
 /// As the process may write now, which is not always as the one who started it may.
@@ -117,3 +119,5 @@ std::string OpenTool::pathOfTool(const std::string& machinePath) const
     const std::string below = inside.size() > 1 ? inside.substr(1) : "\\";
     return std::string(1, letter) + ":" + below;
 }
+
+} // namespace desktop

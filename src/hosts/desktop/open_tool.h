@@ -16,6 +16,8 @@
 
 class Desktop;
 
+namespace desktop {
+
 /// The tool on a site: from its loading to its unloading.
 class OpenTool {
 public:
@@ -92,3 +94,5 @@ private:
     bool waiting_ = false; ///< for the turn to change
     std::optional<SiteTurn> turnOfChange_;
 };
+
+} // namespace desktop

@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QLineEdit>
 
+namespace desktop {
+
 PathDialog::PathDialog(QWidget* parent, const QString& title, FileMode mode, const QString& filters)
     : QFileDialog(parent, title, {}, filters)
 {
@@ -34,3 +36,5 @@ void PathDialog::accept()
         if (list->selectionModel()) list->selectionModel()->clearSelection();
     QFileDialog::accept();
 }
+
+} // namespace desktop

@@ -2,6 +2,8 @@
 
 #include <QFileDialog>
 
+namespace desktop {
+
 /// Asks for a folder or a file that is there. A whole path that is typed is what is taken, whatever
 /// is selected in the list beside it, and with quotes in it too.
 class PathDialog final : public QFileDialog {
@@ -19,3 +21,5 @@ public:
 private:
     QString taken_; ///< as it was typed; empty where the list or the dialog itself has the answer
 };
+
+} // namespace desktop

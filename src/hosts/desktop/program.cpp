@@ -10,6 +10,8 @@
 
 #include <filesystem>
 
+namespace desktop {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -142,3 +144,5 @@ LiveSentence Program::letGo()
         };
     }
 }
+
+} // namespace desktop

@@ -11,6 +11,8 @@
 
 class QSettings;
 
+namespace desktop {
+
 /// The window, and the tool on the site that is open in it.
 class Program {
 public:
@@ -47,3 +49,5 @@ private:
     std::unique_ptr<OpenTool> tool_;
     MainWindow window_;
 };
+
+} // namespace desktop

@@ -19,6 +19,8 @@
 
 #include <unistd.h>
 
+namespace desktop {
+
 namespace {
 
 int refuse(const char* text)
@@ -108,3 +110,5 @@ int runConsole(int argc, char** argv, const std::function<void(Program&)>& opene
         return refuse(error.what());
     }
 }
+
+} // namespace desktop

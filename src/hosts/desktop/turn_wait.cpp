@@ -15,6 +15,8 @@
 #include <thread>
 #include <utility>
 
+namespace desktop {
+
 namespace {
 
 /// What came of a wait so far.
@@ -117,3 +119,5 @@ std::optional<SiteTurn> waitForTurn(const std::string& siteFolder, QWidget* wind
     if (wait.failure) std::rethrow_exception(wait.failure);
     return std::move(wait.turn);
 }
+
+} // namespace desktop

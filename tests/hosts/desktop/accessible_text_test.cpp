@@ -13,6 +13,8 @@
 
 #include <fstream>
 
+namespace desktop {
+
 namespace {
 
 using testing::AllOf;
@@ -122,3 +124,5 @@ TEST_F(AccessibleText, TellsTheSignOfALevelAndABookmark)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -7,6 +7,8 @@
 
 #include <fstream>
 
+namespace desktop {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -88,3 +90,5 @@ TEST_F(BadCatalogue, OneThatIsDamagedWhenItIsChosenIsSaid)
 }
 
 } // namespace
+
+} // namespace desktop

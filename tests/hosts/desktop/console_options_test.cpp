@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+namespace desktop {
+
 namespace {
 
 using testing::HasSubstr;
@@ -93,3 +95,5 @@ TEST(ConsoleOptions, HelpAndVersionAreTextsThatNeedNoDisplay)
 }
 
 } // namespace
+
+} // namespace desktop

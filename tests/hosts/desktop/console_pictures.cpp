@@ -16,6 +16,8 @@
 #include <exception>
 #include <stdexcept>
 
+namespace desktop {
+
 namespace {
 
 struct Wanted {
@@ -79,11 +81,13 @@ int drawAll(const Wanted& wanted)
 
 } // namespace
 
+} // namespace desktop
+
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     try {
-        return drawAll(wantedOf(application));
+        return desktop::drawAll(desktop::wantedOf(application));
     } catch (const std::exception& error) {
         std::fprintf(stderr, "console_pictures: %s\n", error.what());
         return 1;

@@ -24,6 +24,8 @@
 #include <cstdio>
 #include <string>
 
+namespace desktop {
+
 namespace {
 
 void sayReady()
@@ -91,24 +93,29 @@ void waitForTheTurn(Program& program)
     program.window().consoleAction("mnuStartNewLogFiles")->trigger();
 }
 
+void begin(const std::string& what, Program& program)
+{
+    if (what == "gather") return QTimer::singleShot(0, qApp, [&program] { gather(program); });
+    if (what == "wait") return QTimer::singleShot(0, qApp, [&program] { waitForTheTurn(program); });
+    if (what.rfind("refused:", 0) == 0)
+        return QTimer::singleShot(0, qApp, [&program, target = what.substr(8)] {
+            gatherWhereItIsRefused(program, target);
+        });
+    QTimer::singleShot(0, qApp, [what, &program] {
+        QTimer::singleShot(50, qApp, sayReady);
+        // Both are modal, with an event loop of their own.
+        if (what == "box") program.window().run(Command::about);
+    });
+}
+
 } // namespace
+
+} // namespace desktop
 
 int main(int argc, char** argv)
 {
     const std::string what = argc > 1 ? argv[1] : "";
     argv[1] = argv[0];
-    return runConsole(argc - 1, argv + 1, [what](Program& program) {
-        if (what == "gather") return QTimer::singleShot(0, qApp, [&program] { gather(program); });
-        if (what == "wait")
-            return QTimer::singleShot(0, qApp, [&program] { waitForTheTurn(program); });
-        if (what.rfind("refused:", 0) == 0)
-            return QTimer::singleShot(0, qApp, [&program, target = what.substr(8)] {
-                gatherWhereItIsRefused(program, target);
-            });
-        QTimer::singleShot(0, qApp, [what, &program] {
-            QTimer::singleShot(50, qApp, sayReady);
-            // Both are modal, with an event loop of their own.
-            if (what == "box") program.window().run(Command::about);
-        });
-    });
+    return desktop::runConsole(
+        argc - 1, argv + 1, [what](desktop::Program& program) { desktop::begin(what, program); });
 }

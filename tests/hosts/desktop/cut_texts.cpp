@@ -18,6 +18,8 @@
 #include <QToolButton>
 #include <QTreeView>
 
+namespace desktop {
+
 namespace {
 
 /// Below this a field shows so little of its text that a person can't read it.
@@ -161,3 +163,5 @@ std::vector<std::string> cutTexts(QWidget& window)
     }
     return found;
 }
+
+} // namespace desktop

@@ -11,6 +11,8 @@
 
 #include <gmock/gmock.h>
 
+namespace desktop {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -119,3 +121,5 @@ TEST_F(FolderPicker, TakesTheFolderOfARowThatIsClicked)
 }
 
 } // namespace
+
+} // namespace desktop

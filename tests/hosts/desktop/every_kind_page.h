@@ -15,6 +15,8 @@
 #include <stdexcept>
 #include <vector>
 
+namespace desktop {
+
 /// A page with a control of every kind.
 class EveryKindPage final : public SheetPage, public IWizardPage, public IMMCPropertyPage {
 public:
@@ -138,3 +140,5 @@ struct ShownSheet {
     std::vector<EveryKindPage*> pages;
     QPointer<SheetDialog> dialog;
 };
+
+} // namespace desktop

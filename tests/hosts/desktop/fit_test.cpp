@@ -10,6 +10,8 @@
 
 #include <gmock/gmock.h>
 
+namespace desktop {
+
 namespace {
 
 using testing::Contains;
@@ -30,7 +32,7 @@ protected:
     {
         SCOPED_TRACE(place);
         if (!shown.isWindow()) return;
-        const bool mainWindow = shown.inherits("MainWindow");
+        const bool mainWindow = shown.inherits("desktop::MainWindow");
         const QSize most = mainWindow ? smallScreen : smallScreen - windowFrame;
         shown.resize(shown.size().boundedTo(most));
         settle();
@@ -119,3 +121,5 @@ TEST(CutTexts, NameAWidgetThatReachesOutOfItsWindow)
 }
 
 } // namespace
+
+} // namespace desktop

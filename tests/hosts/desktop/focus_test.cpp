@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+namespace desktop {
+
 namespace {
 
 /// The colours of some pixels of the current row of a view, at its right end where no text is.
@@ -95,3 +97,5 @@ INSTANTIATE_TEST_SUITE_P(InEachScheme, Focus,
                          });
 
 } // namespace
+
+} // namespace desktop

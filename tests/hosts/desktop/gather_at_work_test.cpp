@@ -17,6 +17,8 @@
 #include <fstream>
 #include <set>
 
+namespace desktop {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -315,3 +317,5 @@ TEST_F(GatherAtWork, LogsThatAreGoneWhenTheirTurnComesAreSaidAndTheOthersAreKept
 }
 
 } // namespace
+
+} // namespace desktop

@@ -15,6 +15,8 @@
 #include <fstream>
 #include <set>
 
+namespace desktop {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -183,3 +185,5 @@ TEST_F(GatherJourney, ATimeFrameMakesADatabaseAndACabinetThatOthersCanRead)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -16,6 +16,8 @@
 #include <algorithm>
 #include <set>
 
+namespace desktop {
+
 namespace {
 
 constexpr int timeColumn = 2;
@@ -213,3 +215,5 @@ TEST_F(LogOrder, MarksOfFilteredLinesAreKept)
 }
 
 } // namespace
+
+} // namespace desktop

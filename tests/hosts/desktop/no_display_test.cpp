@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+namespace desktop {
+
 namespace {
 
 TEST(NoDisplay, IsSaidInOneLine)
@@ -32,3 +34,5 @@ TEST(NoDisplay, IsSaidInOneLine)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -10,6 +10,8 @@
 
 #include <stdexcept>
 
+namespace desktop {
+
 OpenProgram::OpenProgram(std::size_t lines, LogFields fields)
     : server((testApplication(), lines), fields),
       settings(QString::fromStdString(server.folder() / "console.ini"), QSettings::IniFormat),
@@ -66,3 +68,5 @@ QLineEdit& OpenProgram::field(const QWidget& inside, const char* accessibleName)
         if (edit->accessibleName() == QLatin1String(accessibleName)) return *edit;
     throw std::runtime_error(accessibleName);
 }
+
+} // namespace desktop

@@ -6,6 +6,9 @@
 
 class QLineEdit;
 class QTreeView;
+
+namespace desktop {
+
 class SheetDialog;
 
 /// The whole program on a sample server, with the boxes and pickers that a person sees.
@@ -36,3 +39,5 @@ struct OpenProgram {
     QSettings settings;
     Program program;
 };
+
+} // namespace desktop

@@ -8,6 +8,8 @@
 #include <iterator>
 #include <sstream>
 
+namespace desktop {
+
 nlohmann::json OutsideView::told(std::vector<std::string> words) const
 {
     words.insert(words.begin(), {"--json", "--site", site_});
@@ -66,3 +68,5 @@ std::string OutsideView::text(const std::string& file) const
     std::ifstream stream(site_ + "/" + file, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
 }
+
+} // namespace desktop

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+namespace desktop {
+
 /// A site as others see it while a window has it open.
 class OutsideView {
 public:
@@ -35,3 +37,5 @@ private:
 
     std::string site_;
 };
+
+} // namespace desktop

@@ -18,6 +18,8 @@
 
 #include <stdexcept>
 
+namespace desktop {
+
 namespace {
 
 constexpr int fieldStart = 12; ///< pixels from a field's edge to its text
@@ -240,3 +242,5 @@ bool waitUntil(const std::function<bool()>& holds, int milliseconds)
 {
     return QTest::qWaitFor(holds, milliseconds);
 }
+
+} // namespace desktop

@@ -14,6 +14,8 @@ class QMainWindow;
 class QTreeView;
 class QWidget;
 
+namespace desktop {
+
 /// What a person does with keys and mouse. All goes to the window that the system would give it to:
 /// what is hidden, covered, disabled or behind a modal window does not hear of it.
 namespace person {
@@ -65,3 +67,5 @@ QModelIndex rowAt(const QAbstractItemModel& model, const QStringList& names);
 
 /// Handles events until something holds, for a while at most; false when it never did.
 bool waitUntil(const std::function<bool()>& holds, int milliseconds = 5000);
+
+} // namespace desktop

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+namespace desktop {
+
 namespace {
 
 const QString markUp = QStringLiteral("<img src='x.png'><b>diag</b> &lt; <a href='x'>y</a>");
@@ -53,3 +55,5 @@ TEST(PlainText, NoLabelOfTheWindowGuessesWhatItsTextIs)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -12,6 +12,8 @@
 
 #include <gmock/gmock.h>
 
+namespace desktop {
+
 namespace {
 
 using testing::HasSubstr;
@@ -140,3 +142,5 @@ TEST(AboutDialog, TellsTheVersionAndChangesTheLanguageOfMenusAndTasks)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -15,6 +15,8 @@
 
 #include <unistd.h>
 
+namespace desktop {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -169,3 +171,5 @@ TEST_F(ReadOnlySite, BecomesWritableAtTheNextF5)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -18,6 +18,8 @@
 #include <fstream>
 #include <functional>
 
+namespace desktop {
+
 namespace {
 
 constexpr int sourceColumn = 3;
@@ -303,3 +305,5 @@ TEST_F(ReadingJourney, GoesToATime)
 }
 
 } // namespace
+
+} // namespace desktop

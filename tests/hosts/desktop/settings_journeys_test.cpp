@@ -12,6 +12,8 @@
 
 #include <gmock/gmock.h>
 
+namespace desktop {
+
 namespace {
 
 using testing::EndsWith;
@@ -182,3 +184,5 @@ TEST_F(EventLanguageJourney, TheChoiceIsAppliedAndTheFirstOneComesBackWhenTheWin
 }
 
 } // namespace
+
+} // namespace desktop

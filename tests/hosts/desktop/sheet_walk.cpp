@@ -13,6 +13,8 @@
 
 #include <stdexcept>
 
+namespace desktop {
+
 namespace {
 
 constexpr int patience = 30000; ///< milliseconds
@@ -130,3 +132,5 @@ void SheetWalk::waitFor(int place)
     if (!QTest::qWaitFor(there, patience)) throw std::runtime_error("the page never came");
     settle();
 }
+
+} // namespace desktop

@@ -6,6 +6,9 @@
 #include <QPointer>
 
 class QAbstractItemModel;
+
+namespace desktop {
+
 class SheetDialog;
 
 /// A sheet that a command opened, and a person's way through its pages. It is cancelled at the end.
@@ -45,3 +48,5 @@ private:
 
     QPointer<SheetDialog> dialog_;
 };
+
+} // namespace desktop

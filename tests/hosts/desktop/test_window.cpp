@@ -17,6 +17,8 @@ extern "C" const char* __lsan_default_suppressions()
     return "leak:libfontconfig";
 }
 
+namespace desktop {
+
 namespace {
 
 /// All that Qt says but for what the offscreen platform says of itself at each window.
@@ -154,3 +156,5 @@ void TestWindow::chooseLanguage(int identifier)
     settle();
     if (!chosen) throw std::runtime_error("no such language: " + std::to_string(identifier));
 }
+
+} // namespace desktop

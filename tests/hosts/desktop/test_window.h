@@ -14,6 +14,8 @@
 #include <memory>
 #include <string>
 
+namespace desktop {
+
 /// The one application of a test program, on a display that nobody sees.
 QApplication& testApplication();
 
@@ -71,3 +73,5 @@ struct TestWindow {
 private:
     void open();
 };
+
+} // namespace desktop

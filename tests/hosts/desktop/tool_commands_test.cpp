@@ -11,6 +11,8 @@
 
 #include <set>
 
+namespace desktop {
+
 namespace {
 
 using Check = std::function<void()>;
@@ -127,3 +129,5 @@ TEST(ToolCommands, AreAllInTheTable)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+namespace desktop {
+
 namespace {
 
 /// The tool's own texts, while the language changes under an open window.
@@ -111,3 +113,5 @@ TEST_F(ToolLanguage, ALogsHeadersFollowAndItsLinesStay)
 }
 
 } // namespace
+
+} // namespace desktop

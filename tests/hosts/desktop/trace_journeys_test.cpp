@@ -14,6 +14,8 @@
 #include <fcntl.h>
 #include <sys/file.h>
 
+namespace desktop {
+
 namespace {
 
 using testing::HasSubstr;
@@ -210,3 +212,5 @@ TEST_F(TraceJourney, ACancelledWizardChangesNothing)
 }
 
 } // namespace
+
+} // namespace desktop

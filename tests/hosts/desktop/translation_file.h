@@ -7,6 +7,8 @@
 #include <stdexcept>
 #include <vector>
 
+namespace desktop {
+
 /// A text of the window in a file of translations.
 struct TranslatedText {
     QString context;
@@ -35,3 +37,5 @@ inline std::vector<TranslatedText> translatedTexts(const char* code)
     if (xml.hasError()) throw std::runtime_error(xml.errorString().toStdString());
     return texts;
 }
+
+} // namespace desktop

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+namespace desktop {
+
 namespace {
 
 constexpr const char* languages[] = {"de", "es", "fr", "ja"};
@@ -90,3 +92,5 @@ TEST(Translations, AllLanguagesHaveTheSameTexts)
 }
 
 } // namespace
+
+} // namespace desktop

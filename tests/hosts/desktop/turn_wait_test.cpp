@@ -17,6 +17,8 @@
 #include <fcntl.h>
 #include <sys/file.h>
 
+namespace desktop {
+
 namespace {
 
 using testing::IsEmpty;
@@ -158,3 +160,5 @@ TEST_F(TurnWait, WhatTheToolWaitsForByItselfStandsInTheStatusBar)
 }
 
 } // namespace
+
+} // namespace desktop

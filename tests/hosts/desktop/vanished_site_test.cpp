@@ -12,6 +12,8 @@
 
 #include <fstream>
 
+namespace desktop {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -176,3 +178,5 @@ TEST_F(Vanished, AProgramWhoseSiteIsGoneClosesInPeace)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -20,6 +20,8 @@
 #include <algorithm>
 #include <filesystem>
 
+namespace desktop {
+
 namespace {
 
 /// Types a text that the sample has into the field of a bar, which must be on show.
@@ -219,3 +221,5 @@ std::vector<std::string> toolLanguages()
     std::sort(codes.begin(), codes.end());
     return codes;
 }
+
+} // namespace desktop

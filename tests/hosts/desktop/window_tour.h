@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+namespace desktop {
+
 /// Looks at a place of the window while it is on show: the window itself, a dialog or a menu.
 using Visit = std::function<void(const std::string& name, QWidget& shown)>;
 
@@ -24,3 +26,5 @@ void tourSheets(TestWindow& shown, const Visit& visit);
 
 /// The codes of the languages that the tool's texts are there in, such as "DEU", in order.
 std::vector<std::string> toolLanguages();
+
+} // namespace desktop

@@ -4,6 +4,8 @@
 #include "hosts/cli/terminal/output.h"
 #include "settings/about_box.h"
 
+namespace cli {
+
 namespace {
 
 class AboutCommand final : public Command {
@@ -72,3 +74,5 @@ std::unique_ptr<Command> makeAboutCommand()
 {
     return std::make_unique<AboutCommand>();
 }
+
+} // namespace cli

@@ -2,6 +2,8 @@
 
 #include "hosts/cli/command.h"
 
+namespace cli {
+
 // One maker a command; each lives in the file of its name.
 std::unique_ptr<Command> makeAboutCommand();
 std::unique_ptr<Command> makeCompletionCommand();
@@ -20,3 +22,5 @@ std::unique_ptr<Command> makeSampleCommand();
 std::unique_ptr<Command> makeSettingsCommand();
 std::unique_ptr<Command> makeStatusCommand();
 std::unique_ptr<Command> makeTreeCommand();
+
+} // namespace cli

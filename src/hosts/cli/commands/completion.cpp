@@ -3,6 +3,8 @@
 #include "hosts/cli/manual/completion_script.h"
 #include "hosts/cli/terminal/output.h"
 
+namespace cli {
+
 namespace {
 
 class CompletionCommand final : public Command {
@@ -45,3 +47,5 @@ std::unique_ptr<Command> makeCompletionCommand()
 {
     return std::make_unique<CompletionCommand>();
 }
+
+} // namespace cli

@@ -10,6 +10,8 @@
 #include <optional>
 #include <thread>
 
+namespace cli {
+
 namespace {
 
 constexpr const char* signalName = "Cycle Diag File Time Set";
@@ -95,3 +97,5 @@ std::unique_ptr<Command> makeCycleCommand()
 {
     return std::make_unique<CycleCommand>();
 }
+
+} // namespace cli

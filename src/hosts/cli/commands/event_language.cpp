@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+namespace cli {
+
 namespace {
 
 constexpr const char* menuItem = "mnuChangeLanguage";
@@ -176,3 +178,5 @@ std::unique_ptr<Command> makeEventLanguageCommand()
 {
     return std::make_unique<EventLanguageCommand>();
 }
+
+} // namespace cli

@@ -6,6 +6,8 @@
 #include "hosts/cli/terminal/output.h"
 #include "platform/database.h"
 
+namespace cli {
+
 namespace {
 
 CommandFailure noSuchComponent(const std::string& component)
@@ -72,3 +74,5 @@ std::unique_ptr<Command> makeFlagsCommand()
 {
     return std::make_unique<FlagsCommand>();
 }
+
+} // namespace cli

@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <optional>
 
+namespace cli {
+
 namespace {
 
 constexpr const char* eventLogsKey = "System\\CurrentControlSet\\Services\\Eventlog";
@@ -168,3 +170,5 @@ std::unique_ptr<Command> makeGatherCommand()
 {
     return std::make_unique<GatherCommand>();
 }
+
+} // namespace cli

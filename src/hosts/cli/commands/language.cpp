@@ -9,6 +9,8 @@
 #include "runtime/text.h"
 #include "settings/about_box.h"
 
+namespace cli {
+
 namespace {
 
 constexpr const char* english = "ENU";
@@ -114,3 +116,5 @@ std::unique_ptr<Command> makeLanguageCommand()
 {
     return std::make_unique<LanguageCommand>();
 }
+
+} // namespace cli

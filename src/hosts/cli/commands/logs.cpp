@@ -7,6 +7,8 @@
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 
+namespace cli {
+
 namespace {
 
 struct LogFile {
@@ -98,3 +100,5 @@ std::unique_ptr<Command> makeLogsCommand()
 {
     return std::make_unique<LogsCommand>();
 }
+
+} // namespace cli

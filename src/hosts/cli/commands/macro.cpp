@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+namespace cli {
+
 namespace {
 
 constexpr const char* taskKey = "1";
@@ -170,3 +172,5 @@ std::unique_ptr<Command> makeMacroCommand()
 {
     return std::make_unique<MacroCommand>();
 }
+
+} // namespace cli

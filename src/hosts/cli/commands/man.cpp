@@ -3,6 +3,8 @@
 #include "hosts/cli/manual/manual_page.h"
 #include "hosts/cli/terminal/output.h"
 
+namespace cli {
+
 namespace {
 
 /// For the build, which installs what it prints.
@@ -35,3 +37,5 @@ std::unique_ptr<Command> makeManCommand()
 {
     return std::make_unique<ManCommand>();
 }
+
+} // namespace cli

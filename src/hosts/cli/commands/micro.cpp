@@ -12,6 +12,8 @@
 #include "runtime/visible_text.h"
 #include "server/diagnostic_grid_catalogue.h"
 
+namespace cli {
+
 namespace {
 
 constexpr const char* taskKey = "2";
@@ -265,3 +267,5 @@ std::unique_ptr<Command> makeMicroCommand()
 {
     return std::make_unique<MicroCommand>();
 }
+
+} // namespace cli

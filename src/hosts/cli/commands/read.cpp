@@ -13,6 +13,8 @@
 #include <array>
 #include <charconv>
 
+namespace cli {
+
 namespace {
 
 /// The log's columns by their place in the view.
@@ -206,3 +208,5 @@ std::unique_ptr<Command> makeReadCommand()
 {
     return std::make_unique<ReadCommand>();
 }
+
+} // namespace cli

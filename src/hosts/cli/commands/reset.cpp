@@ -6,6 +6,8 @@
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/terminal/output.h"
 
+namespace cli {
+
 namespace {
 
 constexpr const char* taskKey = "3";
@@ -51,3 +53,5 @@ std::unique_ptr<Command> makeResetCommand()
 {
     return std::make_unique<ResetCommand>();
 }
+
+} // namespace cli

@@ -10,6 +10,8 @@
 
 #include <filesystem>
 
+namespace cli {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -90,3 +92,5 @@ std::unique_ptr<Command> makeSampleCommand()
 {
     return std::make_unique<SampleCommand>();
 }
+
+} // namespace cli

@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <cstdint>
 
+namespace cli {
+
 namespace {
 
 constexpr const char* menuItem = "mnuConfigureLogSettings";
@@ -166,3 +168,5 @@ std::unique_ptr<Command> makeSettingsCommand()
 {
     return std::make_unique<SettingsCommand>();
 }
+
+} // namespace cli

@@ -7,6 +7,8 @@
 #include "platform/database.h"
 #include "server/server_identity.h"
 
+namespace cli {
+
 namespace {
 
 class StatusCommand final : public Command {
@@ -68,3 +70,5 @@ std::unique_ptr<Command> makeStatusCommand()
 {
     return std::make_unique<StatusCommand>();
 }
+
+} // namespace cli

@@ -4,6 +4,8 @@
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/terminal/output.h"
 
+namespace cli {
+
 namespace {
 
 /// Opens a node and all below it.
@@ -59,3 +61,5 @@ std::unique_ptr<Command> makeTreeCommand()
 {
     return std::make_unique<TreeCommand>();
 }
+
+} // namespace cli

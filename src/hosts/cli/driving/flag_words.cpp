@@ -4,6 +4,8 @@
 
 #include <cstdio>
 
+namespace cli {
+
 std::vector<FlagWords> readFlagWords(DatabaseConnection& connection)
 {
     const auto rows = connection.openRecordset(
@@ -23,3 +25,5 @@ std::string hexadecimal(std::int32_t word)
     std::snprintf(text, sizeof text, "0x%08X", static_cast<unsigned>(word));
     return text;
 }
+
+} // namespace cli

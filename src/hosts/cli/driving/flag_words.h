@@ -6,6 +6,8 @@
 
 class DatabaseConnection;
 
+namespace cli {
+
 /// A component's row of the diagnostic grid, as stored.
 struct FlagWords {
     std::string name;
@@ -19,3 +21,5 @@ std::vector<FlagWords> readFlagWords(DatabaseConnection& connection);
 
 /// "0x0000008F".
 std::string hexadecimal(std::int32_t word);
+
+} // namespace cli

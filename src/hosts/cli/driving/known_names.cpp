@@ -14,6 +14,8 @@
 
 #include <memory>
 
+namespace cli {
+
 namespace {
 
 /// Definition files, put together as the tool does when it starts: without its log, which is not
@@ -130,3 +132,5 @@ bool knownNames::showsLevel(OpenTool& tool, const std::string& component, int le
     return level < static_cast<int>(texts.size()) &&
            !isPlaceholderLevel(texts[static_cast<std::size_t>(level)]);
 }
+
+} // namespace cli

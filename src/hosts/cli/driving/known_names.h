@@ -9,7 +9,7 @@
 
 /// What the server of a site knows by name, for a look at a command's arguments before the tool
 /// starts. Looking leaves the site as it is.
-namespace knownNames {
+namespace cli::knownNames {
 
 /// A macro trace by the names under which the wizard's tree shows it.
 struct ShownTrace {
@@ -37,4 +37,4 @@ bool hasComponent(OpenTool& tool, const std::string& component);
 /// that is looked at is the one that the tool starts with.
 bool showsLevel(OpenTool& tool, const std::string& component, int level);
 
-} // namespace knownNames
+} // namespace cli::knownNames

@@ -3,6 +3,8 @@
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
 
+namespace cli {
+
 SheetDriver::SheetDriver(OpenTool& tool, const std::string& menuItem)
 {
     tool.console().clickMenuItem(menuItem);
@@ -38,3 +40,5 @@ void PassedOverErrors::requireNone(const std::string& failure) const
 {
     if (!first_.empty()) throw CommandFailure(failure + ": " + first_);
 }
+
+} // namespace cli

@@ -7,6 +7,8 @@
 #include <memory>
 #include <string>
 
+namespace cli {
+
 /// Drives a plain sheet of one page as a person does, for a host that shows nothing.
 class SheetDriver {
 public:
@@ -50,3 +52,5 @@ private:
     std::string first_;
     TrappedErrorListener listener_;
 };
+
+} // namespace cli

@@ -11,6 +11,8 @@
 #include <sstream>
 #include <unistd.h>
 
+namespace cli {
+
 namespace {
 
 constexpr std::size_t toldAtMost = 5;
@@ -177,3 +179,5 @@ try {
 } catch (const RunTimeError&) {
     return {};
 }
+
+} // namespace cli

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+namespace cli {
+
 /// Looks at what a trace operation left, as its wizard tells of no failure; and lets nobody try
 /// without a database.
 class TraceCheck {
@@ -56,3 +58,5 @@ private:
     std::string firstError_;        ///< that the operation logged and went on after
     std::optional<TrappedErrorListener> listener_;
 };
+
+} // namespace cli

@@ -12,6 +12,8 @@
 
 #include <optional>
 
+namespace cli {
+
 namespace {
 
 using Words = std::map<std::string, std::int32_t>;
@@ -168,3 +170,5 @@ TraceExpectation expectedOfReset(ToolContext& tool, const std::vector<FlagWords>
         }
     return expected;
 }
+
+} // namespace cli

@@ -11,6 +11,8 @@
 class TreeView;
 struct ToolContext;
 
+namespace cli {
+
 /// An event of the tool with its one insert.
 struct TraceEvent {
     std::int32_t id;
@@ -44,3 +46,5 @@ TraceExpectation expectedOfReset(ToolContext& tool, const std::vector<FlagWords>
 
 /// Whether a macro trace is recorded as on.
 bool isRecordedAsOn(ToolContext& tool, const std::string& group, const std::string& trace);
+
+} // namespace cli

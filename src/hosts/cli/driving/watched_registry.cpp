@@ -2,6 +2,8 @@
 
 #include "runtime/run_time_error.h"
 
+namespace cli {
+
 namespace {
 
 std::string permissionDenied()
@@ -75,3 +77,5 @@ std::string WatchedRegistry::note(const std::string& what, const std::string& wh
     if (first_.empty()) first_ = refusal;
     return refusal;
 }
+
+} // namespace cli

@@ -1,5 +1,7 @@
 #include "hosts/cli/driving/wizard_driver.h"
 
+namespace cli {
+
 WizardDriver::WizardDriver(OpenTool& tool, const std::string& taskKey)
 {
     tool.console().clickTask(taskKey);
@@ -37,3 +39,5 @@ void WizardDriver::missing(const std::string& name) const
 {
     throw CommandFailure("the page " + sheet_->currentPage().name() + " has no " + name);
 }
+
+} // namespace cli

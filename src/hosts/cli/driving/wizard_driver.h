@@ -7,6 +7,8 @@
 #include <memory>
 #include <string>
 
+namespace cli {
+
 /// Drives a wizard as a person does, for a host that shows nothing.
 class WizardDriver {
 public:
@@ -43,3 +45,5 @@ private:
     std::shared_ptr<OpenSheet> open_;
     WizardSheet* sheet_ = nullptr;
 };
+
+} // namespace cli

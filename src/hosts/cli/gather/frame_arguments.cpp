@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <string_view>
 
+namespace cli {
+
 namespace {
 
 bool isDigit(char character)
@@ -41,3 +43,5 @@ const std::string& frameDuration(const std::string& typed)
         throw UsageError("--hours takes a whole number from 1 to 999, not \"" + typed + "\"");
     return typed;
 }
+
+} // namespace cli

@@ -12,6 +12,8 @@
 #include <filesystem>
 #include <optional>
 
+namespace cli {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -109,3 +111,5 @@ void preview(OpenTool& tool, GatherWizard& wizard, Output& output)
                   {"size", plan.size},
                   {"freeSpace", orNull(room)}});
 }
+
+} // namespace cli

@@ -1,5 +1,7 @@
 #include "hosts/cli/gather/gather_progress.h"
 
+namespace cli {
+
 GatherProgress::GatherProgress(Label& step, ProgressBar& current, ProgressBar& overall)
     : step_(step), current_(current), overall_(overall)
 {
@@ -23,3 +25,5 @@ void GatherProgress::changed(Control&)
     const double all = overall_.maximum();
     line_.show(all > 0 ? done / all : 0, step_.caption());
 }
+
+} // namespace cli

@@ -3,6 +3,8 @@
 #include "controls/controls.h"
 #include "hosts/cli/terminal/progress_line.h"
 
+namespace cli {
+
 /// Draws a gather's controls as one line: all logs as the bar, the current one as its caption.
 class GatherProgress final : public ControlObserver {
 public:
@@ -21,3 +23,5 @@ private:
     ProgressBar& overall_;
     ProgressLine line_;
 };
+
+} // namespace cli

@@ -11,6 +11,8 @@
 
 #include <unistd.h>
 
+namespace cli {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -181,3 +183,5 @@ void report(Output& output, const GatherOutcome& outcome)
                              outcome.destination + (missing.empty() ? "" : "; " + missing));
     if (!missing.empty()) throw CommandFailure("not everything was gathered: " + missing);
 }
+
+} // namespace cli

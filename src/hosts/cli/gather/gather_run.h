@@ -5,8 +5,11 @@
 
 #include <string>
 
-class GatherWizard;
 struct GatherOutcome;
+
+namespace cli {
+
+class GatherWizard;
 
 /// Sees to it that a gather can write to its destination. Raises CommandFailure, and changes
 /// nothing.
@@ -22,3 +25,5 @@ GatherOutcome runGather(OpenTool& tool, GatherWizard& wizard);
 
 /// Prints the result, and raises CommandFailure when something is missing from it.
 void report(Output& output, const GatherOutcome& outcome);
+
+} // namespace cli

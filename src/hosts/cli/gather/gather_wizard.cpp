@@ -5,6 +5,8 @@
 #include "wizards/gather_progress.h"
 #include "wizards/gather_welcome.h"
 
+namespace cli {
+
 namespace {
 
 constexpr const char* taskKey = "5";
@@ -108,3 +110,5 @@ void GatherWizard::run()
     destination_ = belowCaption(driver_.control<Label>("lblSummary"));
     driver_.finish();
 }
+
+} // namespace cli

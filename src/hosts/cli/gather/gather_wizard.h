@@ -9,6 +9,8 @@
 
 class ppgGatherLogs03Step;
 
+namespace cli {
+
 /// What a person asks of the gather wizard.
 struct GatherRequest {
     int option = 0;                     ///< one of `gatherOption`
@@ -58,3 +60,5 @@ private:
     ProgressBar* current_ = nullptr;
     ProgressBar* overall_ = nullptr;
 };
+
+} // namespace cli

@@ -4,6 +4,8 @@
 
 #include <CLI/CLI.hpp>
 
+namespace cli {
+
 namespace {
 
 /// "TEXT:{basic,extended}" has the choices "basic" and "extended".
@@ -71,3 +73,5 @@ DescribedCommand describeCommands(const CLI::App& app)
 {
     return describe(app, {});
 }
+
+} // namespace cli

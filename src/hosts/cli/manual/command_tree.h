@@ -8,6 +8,8 @@ class App;
 class Option;
 } // namespace CLI
 
+namespace cli {
+
 /// What an option or argument of the command line says of itself.
 struct DescribedOption {
     std::vector<std::string> names;   ///< "--json"; of an argument none
@@ -32,3 +34,5 @@ struct DescribedCommand {
 
 /// The whole command line from `app` down.
 DescribedCommand describeCommands(const CLI::App& app);
+
+} // namespace cli

@@ -3,6 +3,8 @@
 #include <map>
 #include <set>
 
+namespace cli {
+
 namespace {
 
 /// How the value of an option is completed.
@@ -128,3 +130,5 @@ std::string bashCompletion(const DescribedCommand& program)
     script += "    esac\n";
     return script + ending;
 }
+
+} // namespace cli

@@ -4,5 +4,9 @@
 
 #include <string>
 
+namespace cli {
+
 /// A script that completes the program's commands and options in bash, with nothing but bash.
 std::string bashCompletion(const DescribedCommand& program);
+
+} // namespace cli

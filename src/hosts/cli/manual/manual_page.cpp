@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace cli {
+
 namespace {
 
 /// A text as troff shows it letter by letter.
@@ -137,3 +139,5 @@ std::string manualPage(const DescribedCommand& program)
     page += ".SH NOTES\n" + paragraphs(outputNote);
     return page;
 }
+
+} // namespace cli

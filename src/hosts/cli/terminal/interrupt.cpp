@@ -2,6 +2,8 @@
 
 #include <csignal>
 
+namespace cli {
+
 namespace {
 
 constexpr int signals[] = {SIGINT, SIGTERM, SIGHUP};
@@ -41,3 +43,5 @@ bool interruptNoted()
 {
     return wished != 0;
 }
+
+} // namespace cli

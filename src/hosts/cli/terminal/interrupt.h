@@ -1,5 +1,7 @@
 #pragma once
 
+namespace cli {
+
 /// Takes Ctrl-C, a polite termination and the end of the terminal as a wish instead of an end,
 /// while it lives. A program that was started to outlive its terminal goes on.
 class InterruptWish {
@@ -18,3 +20,5 @@ public:
 
 /// Whether a wish was made since the latest `InterruptWish` came to life.
 bool interruptNoted();
+
+} // namespace cli

@@ -4,7 +4,11 @@
 
 #include <cstdio>
 
+namespace cli {
+
 void printMessage(std::string_view text)
 {
     std::fprintf(stderr, "orvandiag: %s\n", visibleText(text).c_str());
 }
+
+} // namespace cli

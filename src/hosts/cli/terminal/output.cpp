@@ -9,6 +9,8 @@
 #include <cerrno>
 #include <cstring>
 
+namespace cli {
+
 namespace {
 
 bool isPrintableAscii(char c)
@@ -114,3 +116,5 @@ std::string groupedNumber(long long number)
     for (std::size_t i = digits.size(); i > first + 3; i -= 3) digits.insert(i - 3, ",");
     return digits;
 }
+
+} // namespace cli

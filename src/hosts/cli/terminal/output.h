@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+namespace cli {
+
 /// JSON with its keys in the order in which they were set.
 using Json = nlohmann::ordered_json;
 
@@ -62,3 +64,5 @@ private:
 
 /// "1,234,567": a size for people.
 std::string groupedNumber(long long number);
+
+} // namespace cli

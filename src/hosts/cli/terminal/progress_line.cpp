@@ -9,6 +9,8 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+namespace cli {
+
 namespace {
 constexpr int barWidth = 24;
 constexpr auto redrawAfter = std::chrono::milliseconds(80);
@@ -51,3 +53,5 @@ void ProgressLine::clear()
     std::fputs("\r\033[K", stderr);
     drawn_ = false;
 }
+
+} // namespace cli

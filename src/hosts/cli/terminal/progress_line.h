@@ -3,6 +3,8 @@
 #include <chrono>
 #include <string>
 
+namespace cli {
+
 /// A progress bar on standard error, drawn only when that is a terminal, and at most some ten times
 /// a second.
 class ProgressLine {
@@ -24,3 +26,5 @@ private:
     int width_ = 80;
     std::chrono::steady_clock::time_point last_;
 };
+
+} // namespace cli

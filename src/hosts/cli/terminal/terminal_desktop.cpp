@@ -3,6 +3,8 @@
 #include "hosts/cli/terminal/message.h"
 #include "runtime/text.h"
 
+namespace cli {
+
 void TerminalDesktop::messageBox(const std::string& text, const std::string&, MessageIcon icon)
 {
     if (beforeMessage_) beforeMessage_();
@@ -29,3 +31,5 @@ int TerminalDesktop::showHelp(const std::string&, int)
 {
     return 0;
 }
+
+} // namespace cli

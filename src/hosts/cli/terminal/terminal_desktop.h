@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+namespace cli {
+
 /// The person at a terminal: boxes become lines on standard error, pickers take the answer that the
 /// command line gave.
 class TerminalDesktop final : public Desktop {
@@ -34,3 +36,5 @@ private:
     std::function<void()> beforeMessage_;
     std::vector<std::string> failures_;
 };
+
+} // namespace cli

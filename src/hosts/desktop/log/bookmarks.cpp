@@ -4,6 +4,8 @@
 #include <QSettings>
 #include <QStringList>
 
+namespace desktop {
+
 Bookmarks::Bookmarks(QSettings& settings, const QString& log,
                      const std::function<QString(int line)>& timeOfLine)
     : settings_(settings)
@@ -41,3 +43,5 @@ void Bookmarks::store()
     else
         settings_.setValue(key_, stored);
 }
+
+} // namespace desktop

@@ -7,6 +7,8 @@
 
 class QSettings;
 
+namespace desktop {
+
 /// The marked lines of one log, kept in the settings: a line by its number, and by its time, so
 /// that a mark does not move to another line when the log's file was replaced.
 class Bookmarks {
@@ -30,3 +32,5 @@ private:
     QString key_;
     std::map<int, QString> times_;
 };
+
+} // namespace desktop

@@ -10,6 +10,8 @@
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
+namespace desktop {
+
 DetailsPane::DetailsPane(QWidget* parent)
     : QWidget(parent), fields_(new SpokenLabel(this)), trace_(new QPlainTextEdit(this))
 {
@@ -62,3 +64,5 @@ void DetailsPane::setTextFont(const QFont& font)
 {
     trace_->setFont(font);
 }
+
+} // namespace desktop

@@ -2,8 +2,11 @@
 
 #include <QWidget>
 
-class ListModel;
 class QPlainTextEdit;
+
+namespace desktop {
+
+class ListModel;
 class SpokenLabel;
 
 /// All of one log line: its fields in a line, and the trace in as many as it takes. A line that has
@@ -23,3 +26,5 @@ private:
     SpokenLabel* fields_ = nullptr;
     QPlainTextEdit* trace_ = nullptr;
 };
+
+} // namespace desktop

@@ -14,6 +14,8 @@
 
 #include <algorithm>
 
+namespace desktop {
+
 namespace {
 constexpr int typingPause = 120; ///< milliseconds
 constexpr int fieldRoom = 24;    ///< around a text in its field
@@ -178,3 +180,5 @@ void FilterBar::keyPressEvent(QKeyEvent* event)
     if (event->key() == Qt::Key_Escape) return emit closed();
     QWidget::keyPressEvent(event);
 }
+
+} // namespace desktop

@@ -9,12 +9,15 @@
 
 #include <array>
 
-class FilterButton;
 class ListView;
 class QBoxLayout;
 class QCheckBox;
 class QLabel;
 class QLineEdit;
+
+namespace desktop {
+
+class FilterButton;
 
 /// The line in which a person says which rows of a log are on show.
 class FilterBar final : public QWidget {
@@ -66,3 +69,5 @@ private:
     LiveSentence counted_;
     QTimer typing_; ///< runs while the person types on
 };
+
+} // namespace desktop

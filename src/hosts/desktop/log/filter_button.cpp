@@ -16,6 +16,8 @@
 
 #include <algorithm>
 
+namespace desktop {
+
 namespace {
 
 constexpr int sideMargin = 9;
@@ -192,3 +194,5 @@ void FilterButton::updateText()
     font.setBold(!ticked.empty());
     setFont(font);
 }
+
+} // namespace desktop

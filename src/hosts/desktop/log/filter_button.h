@@ -8,6 +8,8 @@
 class QCheckBox;
 class QListWidget;
 
+namespace desktop {
+
 /// Opens a list of a column's values, to show or to hide those that are ticked.
 class FilterButton final : public QToolButton {
     Q_OBJECT
@@ -51,3 +53,5 @@ private:
     QCheckBox* exclude_ = nullptr;
     bool filling_ = false;
 };
+
+} // namespace desktop

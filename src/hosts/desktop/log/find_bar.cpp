@@ -10,6 +10,8 @@
 #include <QLocale>
 #include <QToolButton>
 
+namespace desktop {
+
 namespace {
 
 constexpr int spacing = 6;
@@ -157,3 +159,5 @@ void FindBar::keyPressEvent(QKeyEvent* event)
     if (event->key() == Qt::Key_Escape) return emit closed();
     QWidget::keyPressEvent(event);
 }
+
+} // namespace desktop

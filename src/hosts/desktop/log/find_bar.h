@@ -4,8 +4,11 @@
 
 #include <QWidget>
 
-class SpokenLabel;
 class QLineEdit;
+
+namespace desktop {
+
+class SpokenLabel;
 
 /// The line in which a person looks for a text, or goes to a time.
 class FindBar final : public QWidget {
@@ -48,3 +51,5 @@ private:
     QList<QWidget*> timePart_;
     bool timeWanted_ = false;
 };
+
+} // namespace desktop

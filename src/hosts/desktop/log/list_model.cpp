@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace desktop {
+
 ListModel::ListModel(const CodePage& codePage, QObject* parent)
     : QAbstractTableModel(parent), codePage_(codePage), decoder_(codePage, ListText::utf8)
 {}
@@ -162,3 +164,5 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
     if (role == Qt::TextAlignmentRole) return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
     return {};
 }
+
+} // namespace desktop

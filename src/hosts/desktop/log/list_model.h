@@ -12,6 +12,8 @@
 
 class ListView;
 
+namespace desktop {
+
 /// The rows of the console's list as Qt's views see them: those that pass the filter, in the
 /// console's own order or in that of a column.
 ///
@@ -85,3 +87,5 @@ private:
     int sortColumn_ = -1;
     Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
 };
+
+} // namespace desktop

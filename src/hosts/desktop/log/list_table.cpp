@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+namespace desktop {
+
 namespace {
 
 /// The console's widths are generous: a character of the table's font for so many units.
@@ -233,3 +235,5 @@ void ListTable::currentChanged(const QModelIndex& current, const QModelIndex& pr
     QTableView::currentChanged(current, previous);
     if (current.row() != previous.row()) emit currentRowChanged(current.row());
 }
+
+} // namespace desktop

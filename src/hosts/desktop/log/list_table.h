@@ -4,8 +4,11 @@
 
 #include <cstdint>
 
-class ListModel;
 class QSettings;
+
+namespace desktop {
+
+class ListModel;
 
 /// A table over a list of the console: sorted by a click on a header, with widths that are
 /// remembered for each view.
@@ -54,3 +57,5 @@ private:
     int lastWidth_ = 0; ///< what the last column needs, or the person gave it
     bool arranging_ = false;
 };
+
+} // namespace desktop

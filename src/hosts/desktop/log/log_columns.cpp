@@ -2,6 +2,8 @@
 
 #include "console/list_view.h"
 
+namespace desktop {
+
 LogColumns LogColumns::of(const ListView& list)
 {
     constexpr int extendedCount = 10;
@@ -13,3 +15,5 @@ LogColumns LogColumns::of(const ListView& list)
     columns.trace = 10;
     return columns;
 }
+
+} // namespace desktop

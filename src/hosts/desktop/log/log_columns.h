@@ -2,6 +2,8 @@
 
 class ListView;
 
+namespace desktop {
+
 /// Where the fields of a log line stand in its list: columns from 1, 0 for one that is not there.
 struct LogColumns {
     int number = 1;
@@ -24,3 +26,5 @@ constexpr const char* logLines = "listviewDiagLog";
 constexpr const char* logFiles = "listviewAllLogs";
 constexpr const char* processes = "listviewAllProcesses";
 } // namespace shownList
+
+} // namespace desktop

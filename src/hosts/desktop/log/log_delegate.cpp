@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QPainter>
 
+namespace desktop {
+
 void LogDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const
 {
@@ -41,3 +43,5 @@ void LogDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->drawText(room.adjusted(margin, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, elided);
     painter->restore();
 }
+
+} // namespace desktop

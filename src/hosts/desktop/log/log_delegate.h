@@ -2,6 +2,8 @@
 
 #include <QStyledItemDelegate>
 
+namespace desktop {
+
 /// Draws the cells of a log and marks in them the text that is looked for.
 class LogDelegate final : public QStyledItemDelegate {
     Q_OBJECT
@@ -17,3 +19,5 @@ public:
 private:
     QString marked_;
 };
+
+} // namespace desktop

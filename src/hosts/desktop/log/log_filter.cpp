@@ -7,6 +7,8 @@
 #include <string_view>
 #include <unordered_map>
 
+namespace desktop {
+
 namespace {
 
 bool passes(ListItem row, const ColumnCondition& condition)
@@ -71,3 +73,5 @@ std::vector<ColumnValue> valuesOf(ListView& list, int column)
     });
     return values;
 }
+
+} // namespace desktop

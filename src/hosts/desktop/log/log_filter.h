@@ -8,6 +8,8 @@
 
 class ListView;
 
+namespace desktop {
+
 /// What to show, or to hide, by the values of one column.
 struct ColumnCondition {
     int column = 0;                  ///< from 1
@@ -41,3 +43,5 @@ struct ColumnValue {
 
 /// The values of a column, those of most rows first.
 std::vector<ColumnValue> valuesOf(ListView& list, int column);
+
+} // namespace desktop

@@ -23,6 +23,8 @@
 #include <charconv>
 #include <string_view>
 
+namespace desktop {
+
 namespace {
 
 constexpr const char* detailsKey = "window/details";
@@ -460,3 +462,5 @@ void LogView::offerRowMenu(const QPoint& at)
     menu.addAction(tr("Copy as CS&V"), this, [this] { table_->copyAsCsv(); });
     menu.exec(table_->viewport()->mapToGlobal(at));
 }
+
+} // namespace desktop

@@ -9,14 +9,17 @@
 #include <optional>
 #include <vector>
 
+class QSettings;
+class QSplitter;
+
+namespace desktop {
+
 class DetailsPane;
 class FilterBar;
 class FindBar;
 class ListTable;
 class LogDelegate;
 class OverviewStrip;
-class QSettings;
-class QSplitter;
 
 /// The reader of one log: its lines, with find, filter, bookmarks and the details of a line.
 class LogView final : public QWidget {
@@ -101,3 +104,5 @@ private:
     DetailsPane* details_ = nullptr;
     QSplitter* splitter_ = nullptr;
 };
+
+} // namespace desktop

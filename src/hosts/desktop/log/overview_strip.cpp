@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+namespace desktop {
+
 namespace {
 
 constexpr int laneWidth = 5;
@@ -139,3 +141,5 @@ bool OverviewStrip::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::Resize || event->type() == QEvent::Move) update();
     return QWidget::eventFilter(watched, event);
 }
+
+} // namespace desktop

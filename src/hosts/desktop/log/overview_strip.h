@@ -9,6 +9,8 @@
 
 class QAbstractScrollArea;
 
+namespace desktop {
+
 /// Why a row of a log has a mark on the overview.
 enum class OverviewMark { error, warning, hit, bookmark };
 constexpr std::size_t overviewMarks = 4;
@@ -61,3 +63,5 @@ private:
     int rowCount_ = 0;
     std::array<std::vector<int>, overviewMarks> rows_;
 };
+
+} // namespace desktop

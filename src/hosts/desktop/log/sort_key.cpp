@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <charconv>
 
+namespace desktop {
+
 namespace {
 
 std::string_view trimmed(std::string_view text)
@@ -47,3 +49,5 @@ bool operator<(const SortKey& left, const SortKey& right)
                                         right.text.end(),
                                         [](char a, char b) { return lowered(a) < lowered(b); });
 }
+
+} // namespace desktop

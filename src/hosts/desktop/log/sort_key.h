@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+namespace desktop {
+
 /// What a cell counts for when a person sorts a column: a number, a date or a text, in this order.
 struct SortKey {
     enum class Kind { number, date, text };
@@ -14,3 +16,5 @@ struct SortKey {
 SortKey sortKeyOf(std::string_view cell);
 
 bool operator<(const SortKey& left, const SortKey& right);
+
+} // namespace desktop

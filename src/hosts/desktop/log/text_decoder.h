@@ -7,6 +7,8 @@
 
 #include <string_view>
 
+namespace desktop {
+
 /// Turns the texts of a list into what Qt shows.
 class TextDecoder {
 public:
@@ -28,3 +30,5 @@ private:
     CodePage codePage_;
     ListText encoding_;
 };
+
+} // namespace desktop

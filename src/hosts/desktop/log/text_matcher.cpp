@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cstddef>
 
+namespace desktop {
+
 namespace {
 
 char16_t lowered(char16_t character)
@@ -36,3 +38,5 @@ bool TextMatcher::in(std::string_view bytes) const
     }
     return false;
 }
+
+} // namespace desktop

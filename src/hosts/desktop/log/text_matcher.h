@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace desktop {
+
 /// Finds a text in the bytes of a log without decoding them; letters match in either case.
 class TextMatcher {
 public:
@@ -23,3 +25,5 @@ private:
     std::array<char16_t, 256> folded_{}; ///< the character of each byte, in lower case
     std::u16string text_;
 };
+
+} // namespace desktop

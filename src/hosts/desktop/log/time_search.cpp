@@ -5,6 +5,8 @@
 #include "runtime/dates.h"
 #include "runtime/run_time_error.h"
 
+namespace desktop {
+
 namespace {
 
 constexpr std::size_t clockLength = 8; ///< "HH:MM:SS"
@@ -90,3 +92,5 @@ int rowAtTime(const ListModel& rows, int timeColumn, std::string_view time, int 
     }
     return firstMatch == 0 ? -1 : rows.rowOfPlace(firstMatch);
 }
+
+} // namespace desktop

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+namespace desktop {
+
 class ListModel;
 
 /// The time of day that a person types ("15:23", "3:23 PM", "15:23:07.5"), as "HH:MM:SS" with what
@@ -15,3 +17,5 @@ std::optional<std::string> typedTime(std::string_view text);
 /// it is not. Lines come in the log's own order, whatever the rows are sorted by. -1 when no line
 /// on show reaches the time. Lines without a time are passed over.
 int rowAtTime(const ListModel& rows, int timeColumn, std::string_view time, int from);
+
+} // namespace desktop

@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QStyle>
 
+namespace desktop {
+
 namespace {
 constexpr int fewestCharacters = 8;
 }
@@ -28,3 +30,5 @@ void ElidedLabel::paintEvent(QPaintEvent*)
     style()->drawItemText(&painter, room, static_cast<int>(alignment()), palette(), isEnabled(),
                           shown, foregroundRole());
 }
+
+} // namespace desktop

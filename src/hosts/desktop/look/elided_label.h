@@ -2,6 +2,8 @@
 
 #include "hosts/desktop/look/spoken_label.h"
 
+namespace desktop {
+
 /// A line of text that gives way where there is little room: what is left out is in the tool tip.
 class ElidedLabel final : public SpokenLabel {
     Q_OBJECT
@@ -17,3 +19,5 @@ protected:
 private:
     Qt::TextElideMode mode_;
 };
+
+} // namespace desktop

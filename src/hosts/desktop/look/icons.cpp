@@ -15,6 +15,8 @@ static void registerIcons()
     Q_INIT_RESOURCE(icons);
 }
 
+namespace desktop {
+
 namespace {
 
 /// The two colours that the files are drawn in.
@@ -85,3 +87,5 @@ QIcon toolIcon(const QString& name)
     Q_UNUSED(registered)
     return QIcon(new DrawnIcon(name));
 }
+
+} // namespace desktop

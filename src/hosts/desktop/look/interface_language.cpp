@@ -5,6 +5,8 @@
 #include <QLibraryInfo>
 #include <QWidget>
 
+namespace desktop {
+
 namespace {
 
 constexpr std::int32_t primaryLanguage = 0x3ff; ///< the bits of an identifier without its region
@@ -75,3 +77,5 @@ void InterfaceLanguage::leave()
     QCoreApplication::removeTranslator(&qt_);
     code_ = QStringLiteral("en");
 }
+
+} // namespace desktop

@@ -8,6 +8,8 @@
 
 class QWidget;
 
+namespace desktop {
+
 /// A sentence in the interface language of the moment in which it is asked for.
 using LiveSentence = std::function<QString()>;
 
@@ -37,3 +39,5 @@ private:
     QTranslator window_;
     QTranslator qt_;
 };
+
+} // namespace desktop

@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QToolButton>
 
+namespace desktop {
+
 NoticeBar::NoticeBar(QWidget* parent) : QWidget(parent), text_(new QLabel(this))
 {
     auto* symbol = new QLabel(this);
@@ -66,3 +68,5 @@ void NoticeBar::paintEvent(QPaintEvent*)
     painter.setPen(theme::outline(palette()));
     painter.drawLine(rect().bottomLeft(), rect().bottomRight());
 }
+
+} // namespace desktop

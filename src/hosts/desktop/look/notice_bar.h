@@ -6,6 +6,8 @@
 
 class QLabel;
 
+namespace desktop {
+
 /// A strip above the panes that says in a sentence what went wrong and what to do. It stays until
 /// the person closes it.
 class NoticeBar final : public QWidget {
@@ -27,3 +29,5 @@ private:
     LiveSentence said_;
     QLabel* text_ = nullptr;
 };
+
+} // namespace desktop

@@ -2,7 +2,11 @@
 
 #include <QTextDocument>
 
+namespace desktop {
+
 QString plainToolTip(const QString& text)
 {
     return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }
+
+} // namespace desktop

@@ -2,6 +2,8 @@
 
 #include <QStyledItemDelegate>
 
+namespace desktop {
+
 /// Gives the rows of a tree or list room to be read and to be hit.
 class RoomyDelegate final : public QStyledItemDelegate {
 public:
@@ -22,3 +24,5 @@ protected:
             option->state &= ~(QStyle::State_HasFocus | QStyle::State_MouseOver);
     }
 };
+
+} // namespace desktop

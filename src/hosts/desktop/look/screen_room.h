@@ -3,6 +3,8 @@
 #include <QScreen>
 #include <QWidget>
 
+namespace desktop {
+
 /// Gives a window a size, or what its screen has room for with the frame of a window around it.
 inline void resizeWithinScreen(QWidget& window, QSize wanted)
 {
@@ -11,3 +13,5 @@ inline void resizeWithinScreen(QWidget& window, QSize wanted)
         wanted = wanted.boundedTo(screen->availableSize() - frame);
     window.resize(wanted);
 }
+
+} // namespace desktop

@@ -4,6 +4,8 @@
 #include <QAccessibleWidget>
 #include <QTextDocumentFragment>
 
+namespace desktop {
+
 namespace {
 
 class SpokenLabelInterface final : public QAccessibleWidget {
@@ -52,3 +54,5 @@ QString SpokenLabel::spokenText() const
     return QTextDocumentFragment::fromHtml(text()).toPlainText().replace(QChar::Nbsp,
                                                                          QLatin1Char(' '));
 }
+
+} // namespace desktop

@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+namespace desktop {
+
 /// A label whose accessible name tells what it is, and whose text a screen reader gets as the
 /// value. It shows plain text unless told otherwise. Of a plain label with a name the text would
 /// not be told.
@@ -17,3 +19,5 @@ public:
     /// The text without its markup.
     QString spokenText() const;
 };
+
+} // namespace desktop

@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+namespace desktop {
+
 namespace {
 
 constexpr qreal corner = 4;
@@ -277,3 +279,5 @@ void drawing::scrollBar(const QStyleOptionSlider& option, const QRect& handle,
     const qreal round = std::min(shape.width(), shape.height()) / 2;
     painter.drawRoundedRect(shape, round, round);
 }
+
+} // namespace desktop

@@ -8,7 +8,7 @@ class QStyleOptionSlider;
 class QRect;
 
 /// How the parts of controls are drawn: flat, in the colours of the option's palette.
-namespace drawing {
+namespace desktop::drawing {
 
 void checkBox(const QStyleOption& option, QPainter& painter);
 void optionButton(const QStyleOption& option, QPainter& painter);
@@ -43,4 +43,4 @@ void progress(const QStyleOption& option, QPainter& painter);
 void scrollBar(const QStyleOptionSlider& option, const QRect& handle, QPalette::ColorRole ground,
                QPainter& painter);
 
-} // namespace drawing
+} // namespace desktop::drawing

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QFontDatabase>
 
+namespace desktop {
+
 namespace {
 
 QPalette lightPalette()
@@ -145,3 +147,5 @@ QFont traceFont()
 }
 
 } // namespace theme
+
+} // namespace desktop

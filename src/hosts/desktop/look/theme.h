@@ -6,7 +6,7 @@
 #include <QString>
 
 /// How the window looks: light, dark, or as the desktop is.
-namespace theme {
+namespace desktop::theme {
 
 enum class Scheme { system, light, dark };
 
@@ -43,4 +43,4 @@ QColor quietText(const QPalette& palette);
 /// The fixed-width font of traces, at the size of the program's own.
 QFont traceFont();
 
-} // namespace theme
+} // namespace desktop::theme

@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QWidget>
 
+namespace desktop {
+
 /// A line that parts what is above from what is below.
 class ThinLine final : public QWidget {
 public:
@@ -16,3 +18,5 @@ protected:
         QPainter(this).fillRect(rect(), theme::outline(palette()));
     }
 };
+
+} // namespace desktop

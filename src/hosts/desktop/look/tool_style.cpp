@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+namespace desktop {
+
 namespace {
 
 /// Around texts, in units of the screen that the style was made for.
@@ -344,3 +346,5 @@ QIcon ToolStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
         return QProxyStyle::standardIcon(which, option, widget);
     }
 }
+
+} // namespace desktop

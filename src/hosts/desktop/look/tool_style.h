@@ -2,6 +2,8 @@
 
 #include <QProxyStyle>
 
+namespace desktop {
+
 /// The window's style: calm and flat, with room around texts, and controls that can be told from
 /// their ground in light and dark alike.
 class ToolStyle final : public QProxyStyle {
@@ -33,3 +35,5 @@ private:
     void drawArrow(ComplexControl control, const QStyleOptionComplex& option, SubControl part,
                    QPainter& painter, const QWidget* widget) const;
 };
+
+} // namespace desktop

@@ -10,6 +10,8 @@
 
 #include <algorithm>
 
+namespace desktop {
+
 ButtonView::ButtonView(Button& button, QWidget* parent, const ActOnControl& act)
     : ControlView(button, new QPushButton(parent), act), model_(button),
       button_(static_cast<QPushButton*>(widget()))
@@ -106,3 +108,5 @@ void OptionsView::render()
         if (model_.isSelected(index)) button->setChecked(true);
     }
 }
+
+} // namespace desktop

@@ -9,6 +9,8 @@ class QCheckBox;
 class QPushButton;
 class QRadioButton;
 
+namespace desktop {
+
 class ButtonView final : public ControlView {
 public:
     ButtonView(Button& button, QWidget* parent, const ActOnControl& act);
@@ -51,3 +53,5 @@ private:
     OptionButtonGroup& model_;
     std::vector<QRadioButton*> buttons_;
 };
+
+} // namespace desktop

@@ -2,6 +2,8 @@
 
 #include <QFont>
 
+namespace desktop {
+
 ControlTreeModel::ControlTreeModel(TreeView& tree, QObject* parent)
     : QAbstractItemModel(parent), tree_(tree)
 {}
@@ -130,3 +132,5 @@ bool ControlTreeModel::setData(const QModelIndex& index, const QVariant& value, 
     onTick(*node, value.toInt() == Qt::Checked);
     return true;
 }
+
+} // namespace desktop

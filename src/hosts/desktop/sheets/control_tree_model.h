@@ -8,6 +8,8 @@
 #include <memory>
 #include <vector>
 
+namespace desktop {
+
 /// The nodes of a tree control as Qt's views see them.
 ///
 /// Nodes go without a warning when the page fills its tree anew: `detach` at the first sign of it
@@ -60,3 +62,5 @@ private:
     int count_ = 0;
     bool attached_ = false;
 };
+
+} // namespace desktop

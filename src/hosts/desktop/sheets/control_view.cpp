@@ -2,6 +2,8 @@
 
 #include "hosts/desktop/look/plain_tool_tip.h"
 
+namespace desktop {
+
 ControlView::ControlView(Control& control, QWidget* widget, ActOnControl act)
     : control_(control), widget_(widget), act_(std::move(act))
 {
@@ -72,3 +74,5 @@ void ControlView::refreshed(Control&)
     showState();
     if (widget_) widget_->repaint();
 }
+
+} // namespace desktop

@@ -12,6 +12,8 @@
 #include <functional>
 #include <optional>
 
+namespace desktop {
+
 /// Runs what the person does to a control, and looks after what it raises.
 using ActOnControl = std::function<void(const std::function<void()>& act)>;
 
@@ -76,3 +78,5 @@ private:
     bool waiting_ = false;
     bool rendering_ = false;
 };
+
+} // namespace desktop

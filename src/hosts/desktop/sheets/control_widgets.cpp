@@ -6,6 +6,8 @@
 #include "hosts/desktop/sheets/text_views.h"
 #include "hosts/desktop/sheets/tree_control_view.h"
 
+namespace desktop {
+
 namespace {
 
 /// The view of a control if it is of a kind.
@@ -39,3 +41,5 @@ std::unique_ptr<ControlView> makeControlView(const PageControl& declared, QWidge
         if (auto view = make(*declared.control, parent, act)) return view;
     return nullptr;
 }
+
+} // namespace desktop

@@ -5,6 +5,10 @@
 
 #include <memory>
 
+namespace desktop {
+
 /// The view of a control, with a widget of its kind; null for a timer, which is not seen.
 std::unique_ptr<ControlView> makeControlView(const PageControl& declared, QWidget* parent,
                                              const ActOnControl& act);
+
+} // namespace desktop

@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+namespace desktop {
+
 namespace {
 
 constexpr int deleteCode = 127; ///< the Delete key is no character, whatever Qt says
@@ -225,3 +227,5 @@ void SpinView::render()
     up_->setEnabled(model_.value() < model_.maximum());
     down_->setEnabled(model_.value() > model_.minimum());
 }
+
+} // namespace desktop

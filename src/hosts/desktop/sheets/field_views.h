@@ -3,11 +3,14 @@
 #include "controls/controls.h"
 #include "hosts/desktop/sheets/control_view.h"
 
-class MomentField;
 class QComboBox;
 class QLineEdit;
 class QListWidget;
 class QToolButton;
+
+namespace desktop {
+
+class MomentField;
 
 class TextBoxView final : public ControlView {
 public:
@@ -74,3 +77,5 @@ private:
     QToolButton* up_ = nullptr;
     QToolButton* down_ = nullptr;
 };
+
+} // namespace desktop

@@ -12,6 +12,8 @@
 
 #include <optional>
 
+namespace desktop {
+
 namespace {
 
 constexpr const char* context = "GatherReport"; ///< of the texts, in the translations
@@ -146,3 +148,5 @@ void GatherNotice::cancelled()
 {
     if (watch_) watch_->cancelled();
 }
+
+} // namespace desktop

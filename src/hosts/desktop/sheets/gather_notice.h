@@ -14,6 +14,8 @@ class Timer;
 struct Sentence;
 struct ToolContext;
 
+namespace desktop {
+
 /// A sentence that the hosts share, in the language of the window.
 QString inLanguage(const Sentence& sentence);
 
@@ -47,3 +49,5 @@ private:
 
 /// The sentences about gathers that the window has translations of, in English.
 std::vector<std::string> translatedGatherSentences();
+
+} // namespace desktop

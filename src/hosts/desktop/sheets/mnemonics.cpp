@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace desktop {
+
 namespace {
 
 /// The letter that a caption names by an "&" of its own, as a place in the caption; -1 for none.
@@ -102,3 +104,5 @@ QString withoutMnemonic(QString caption)
         unmark(caption, letter);
     return caption.replace(QLatin1String("&&"), QLatin1String("&"));
 }
+
+} // namespace desktop

@@ -18,6 +18,8 @@
 
 #include <algorithm>
 
+namespace desktop {
+
 namespace {
 
 constexpr int firstYear = 100;
@@ -240,3 +242,5 @@ void MomentField::openCalendar()
     popup->show();
     calendar->setFocus();
 }
+
+} // namespace desktop

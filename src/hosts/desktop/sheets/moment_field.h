@@ -4,6 +4,8 @@
 #include <QDate>
 #include <QTime>
 
+namespace desktop {
+
 /// A field for a date or for a time of day, in the form of the interface language.
 ///
 /// A person types or pastes a text as into any field. It is read as a whole when the person leaves
@@ -64,3 +66,5 @@ private:
     bool edited_ = false;  ///< by the person, since the value was shown
     bool showing_ = false; ///< the text is being changed by the field itself
 };
+
+} // namespace desktop

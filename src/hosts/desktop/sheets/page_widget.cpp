@@ -11,6 +11,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+namespace desktop {
+
 namespace {
 
 constexpr int pageMargin = 22;
@@ -241,3 +243,5 @@ bool PageWidget::focusFirst()
     }
     return false;
 }
+
+} // namespace desktop

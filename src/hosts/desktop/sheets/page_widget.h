@@ -12,6 +12,8 @@ class QGridLayout;
 class SheetPage;
 struct PageControl;
 
+namespace desktop {
+
 /// A page of a sheet, laid out by the roles of its controls.
 class PageWidget final : public QWidget {
 public:
@@ -50,3 +52,5 @@ private:
     bool banner_ = false;
     bool marking_ = false;
 };
+
+} // namespace desktop

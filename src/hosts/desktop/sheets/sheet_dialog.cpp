@@ -21,6 +21,8 @@
 #include <algorithm>
 #include <vector>
 
+namespace desktop {
+
 namespace {
 
 QStringList wizardCaptions()
@@ -275,3 +277,5 @@ void SheetDialog::closed(OpenSheet&)
     emit over();
     deleteLater();
 }
+
+} // namespace desktop

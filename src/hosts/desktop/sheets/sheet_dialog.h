@@ -9,12 +9,15 @@
 #include <map>
 #include <memory>
 
-class NoticeBar;
-class PageWidget;
 class QPushButton;
 class QStackedWidget;
 class QTabBar;
 class QTimer;
+
+namespace desktop {
+
+class NoticeBar;
+class PageWidget;
 
 /// Shows a sheet of the console: a wizard with its buttons, or a plain sheet with OK and Apply.
 ///
@@ -93,3 +96,5 @@ private:
     int calls_ = 0;
     bool gone_ = false;
 };
+
+} // namespace desktop

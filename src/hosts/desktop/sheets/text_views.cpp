@@ -8,6 +8,8 @@
 #include <QProgressBar>
 #include <QVBoxLayout>
 
+namespace desktop {
+
 namespace {
 
 constexpr int progressSteps = 1000;
@@ -100,3 +102,5 @@ void ProgressView::render()
     const float maximum = model_.maximum();
     bar_->setValue(maximum > 0 ? static_cast<int>(model_.value() / maximum * progressSteps) : 0);
 }
+
+} // namespace desktop

@@ -9,6 +9,8 @@ class QLabel;
 class QPlainTextEdit;
 class QProgressBar;
 
+namespace desktop {
+
 /// A text. A body without a caption takes no room.
 class LabelView final : public ControlView {
 public:
@@ -62,3 +64,5 @@ private:
     ProgressBar& model_;
     QProgressBar* bar_;
 };
+
+} // namespace desktop

@@ -6,6 +6,8 @@
 #include <QMouseEvent>
 #include <QTreeView>
 
+namespace desktop {
+
 TreeControlView::TreeControlView(TreeView& tree, QWidget* parent, const ActOnControl& act)
     : ControlView(tree, new QTreeView(parent), act), model_(tree), nodes_(tree),
       tree_(static_cast<QTreeView*>(widget()))
@@ -84,3 +86,5 @@ void TreeControlView::showExpansion(const QModelIndex& parent)
         showExpansion(index);
     }
 }
+
+} // namespace desktop

@@ -5,6 +5,8 @@
 
 class QTreeView;
 
+namespace desktop {
+
 /// A tree of a page, with ticks where the page asks for them.
 class TreeControlView final : public ControlView {
 public:
@@ -24,3 +26,5 @@ private:
     QTreeView* tree_;
     TreeNode* inSight_ = nullptr; ///< the node that was scrolled to last
 };
+
+} // namespace desktop

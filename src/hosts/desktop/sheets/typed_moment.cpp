@@ -2,6 +2,8 @@
 
 #include <QRegularExpression>
 
+namespace desktop {
+
 namespace {
 
 constexpr int firstYear = 100; ///< the tool's dates begin with it
@@ -104,3 +106,5 @@ std::optional<QTime> timeTyped(const QString& text)
     if (!time.isValid()) return std::nullopt;
     return time;
 }
+
+} // namespace desktop

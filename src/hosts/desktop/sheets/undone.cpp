@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace desktop {
+
 namespace {
 
 /// The routines that do what the person chose: they write, or start the viewer. Errors of the
@@ -69,3 +71,5 @@ LiveSentence Undone::take(const OpenSheet* sheet)
     if (reason.endsWith(QLatin1Char('.'))) reason.chop(1);
     return [reason] { return QObject::tr("Not all of it was done: %1.").arg(reason); };
 }
+
+} // namespace desktop

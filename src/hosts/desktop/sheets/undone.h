@@ -9,6 +9,8 @@
 
 class OpenSheet;
 
+namespace desktop {
+
 /// The first thing that the tool could not do of what a person asked for. The tool goes on after an
 /// error and shows its own texts as if all had gone well.
 class Undone {
@@ -23,3 +25,5 @@ public:
 private:
     std::optional<std::string> why_;
 };
+
+} // namespace desktop

@@ -253,177 +253,6 @@
     </message>
 </context>
 <context>
-    <name>ConsolePane</name>
-    <message>
-        <source>Server tree</source>
-        <translation>Baumstruktur des Servers</translation>
-    </message>
-    <message>
-        <source>Processes</source>
-        <translation>Prozesse</translation>
-    </message>
-    <message>
-        <source>Log files</source>
-        <translation>Protokolldateien</translation>
-    </message>
-    <message>
-        <source>The tool is still finishing what was cancelled. One moment.</source>
-        <translation>Das Tool beendet noch, was abgebrochen wurde. Einen Moment.</translation>
-    </message>
-    <message>
-        <source>That did not work: %1. Press F5 to renew what is shown, and try again.</source>
-        <translation>Das hat nicht funktioniert: %1. Drücken Sie F5, um die Anzeige zu erneuern, und versuchen Sie es noch einmal.</translation>
-    </message>
-</context>
-<context>
-    <name>DetailsPane</name>
-    <message>
-        <source>Fields of the line</source>
-        <translation>Felder der Zeile</translation>
-    </message>
-    <message>
-        <source>Trace of the line</source>
-        <translation>Trace der Zeile</translation>
-    </message>
-    <message>
-        <source>Select a line to read all of it here.</source>
-        <translation>Wählen Sie eine Zeile aus, um sie hier vollständig zu lesen.</translation>
-    </message>
-</context>
-<context>
-    <name>FilterBar</name>
-    <message>
-        <source>Only rows with this text</source>
-        <translation>Nur Zeilen mit diesem Text</translation>
-    </message>
-    <message>
-        <source>Filter by text</source>
-        <translation>Nach Text filtern</translation>
-    </message>
-    <message>
-        <source>hide &amp;matches</source>
-        <translation>&amp;Treffer ausblenden</translation>
-    </message>
-    <message>
-        <source>Hide the rows with the text instead of showing them</source>
-        <translation>Die Zeilen mit dem Text ausblenden, statt sie anzuzeigen</translation>
-    </message>
-    <message>
-        <source>Show all</source>
-        <translation>Alle anzeigen</translation>
-    </message>
-    <message>
-        <source>Show every row again (Ctrl+Shift+A)</source>
-        <translation>Wieder alle Zeilen anzeigen (Strg+Umschalt+A)</translation>
-    </message>
-    <message>
-        <source>Close the filter bar and show every row (Esc)</source>
-        <translation>Die Filterleiste schließen und alle Zeilen anzeigen (Esc)</translation>
-    </message>
-    <message>
-        <source>%1 rows</source>
-        <translation>%1 Zeilen</translation>
-    </message>
-    <message>
-        <source>%1 of %2 rows</source>
-        <translation>%1 von %2 Zeilen</translation>
-    </message>
-</context>
-<context>
-    <name>FilterButton</name>
-    <message>
-        <source>(none)</source>
-        <translation>(keine)</translation>
-    </message>
-    <message>
-        <source>&amp;Hide the ticked ones</source>
-        <translation>Ausgewählte &amp;ausblenden</translation>
-    </message>
-    <message>
-        <source>&amp;Untick all</source>
-        <translation>Auswahl auf&amp;heben</translation>
-    </message>
-    <message>
-        <source>all</source>
-        <translation>alle</translation>
-    </message>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 und %2 weitere</translation>
-    </message>
-    <message>
-        <source>not %1</source>
-        <translation>außer %1</translation>
-    </message>
-    <message>
-        <source>%1: %2 </source>
-        <translation>%1: %2 </translation>
-    </message>
-    <message>
-        <source>Filter by %1: %2</source>
-        <translation>Nach %1 filtern: %2</translation>
-    </message>
-    <message>
-        <source>Show or hide rows by %1</source>
-        <translation>Zeilen nach %1 ein- oder ausblenden</translation>
-    </message>
-</context>
-<context>
-    <name>FindBar</name>
-    <message>
-        <source>Fi&amp;nd:</source>
-        <translation>&amp;Suchen:</translation>
-    </message>
-    <message>
-        <source>Go to &amp;time:</source>
-        <translation>Gehe &amp;zu Uhrzeit:</translation>
-    </message>
-    <message>
-        <source>Text in any column</source>
-        <translation>Text in einer beliebigen Spalte</translation>
-    </message>
-    <message>
-        <source>Text to find</source>
-        <translation>Gesuchter Text</translation>
-    </message>
-    <message>
-        <source>such as 15:23:07</source>
-        <translation>z. B. 15:23:07</translation>
-    </message>
-    <message>
-        <source>Time to go to</source>
-        <translation>Gesuchte Uhrzeit</translation>
-    </message>
-    <message>
-        <source>Hits</source>
-        <translation>Treffer</translation>
-    </message>
-    <message>
-        <source>Find previous (Shift+F3)</source>
-        <translation>Vorherigen Treffer suchen (Umschalt+F3)</translation>
-    </message>
-    <message>
-        <source>Find next (F3)</source>
-        <translation>Weitersuchen (F3)</translation>
-    </message>
-    <message>
-        <source>Close the find bar (Esc)</source>
-        <translation>Die Suchleiste schließen (Esc)</translation>
-    </message>
-    <message>
-        <source>No hits</source>
-        <translation>Keine Treffer</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 von %2</translation>
-    </message>
-    <message>
-        <source>%1 hits</source>
-        <translation>%1 Treffer</translation>
-    </message>
-</context>
-<context>
     <name>GatherReport</name>
     <message>
         <source>The server names no current log of %1.</source>
@@ -559,7 +388,261 @@
     </message>
 </context>
 <context>
-    <name>HelpWindow</name>
+    <name>QObject</name>
+    <message>
+        <source>Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)</source>
+        <translation>Diagnoseprotokolle (diag_*.txt data_*.txt *.log);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Weniger</translation>
+    </message>
+    <message>
+        <source>This site has no %1 to show.</source>
+        <translation>Diese Site hat kein %1, das angezeigt werden könnte.</translation>
+    </message>
+    <message>
+        <source>The site %1 could not be opened: %2. Choose another one with Ctrl+Shift+O.</source>
+        <translation>Die Site %1 konnte nicht geöffnet werden: %2. Wählen Sie mit Strg+Umschalt+O eine andere.</translation>
+    </message>
+    <message>
+        <source>The manual is not beside the tool. Install it again to read it.</source>
+        <translation>Das Handbuch ist nicht beim Tool vorhanden. Installieren Sie es neu, um es zu lesen.</translation>
+    </message>
+    <message>
+        <source>it has no site.ini, registry.reg or drive_c in it</source>
+        <translation>sie enthält weder site.ini noch registry.reg noch drive_c</translation>
+    </message>
+    <message>
+        <source>No sample server could be made in %1: %2. Choose a new folder.</source>
+        <translation>In %1 konnte kein Beispielserver angelegt werden: %2. Wählen Sie einen neuen Ordner.</translation>
+    </message>
+    <message>
+        <source>No sample server could be made in %1: %2. Choose another folder.</source>
+        <translation>In %1 konnte kein Beispielserver angelegt werden: %2. Wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>The site was not closed cleanly: %1. The language of its event log may not be the first one; open it again.</source>
+        <translation>Die Site wurde nicht ordnungsgemäß geschlossen: %1. Möglicherweise hat ihr Ereignisprotokoll nicht die ursprüngliche Sprache; öffnen Sie sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date, so %2 stays. Type a date as it is written there.</source>
+        <translation>„%1“ ist kein Datum, deshalb bleibt es bei %2. Geben Sie ein Datum in dieser Schreibweise ein.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time, so %2 stays. Type a time as it is written there.</source>
+        <translation>„%1“ ist keine Uhrzeit, deshalb bleibt es bei %2. Geben Sie eine Uhrzeit in dieser Schreibweise ein.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be chosen here. The field now holds %2.</source>
+        <translation>%1 kann hier nicht gewählt werden. Im Feld steht jetzt %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of megabytes, so the space for diagnostic files stays as it was.</source>
+        <translation>„%1“ ist keine Anzahl von Megabyte, deshalb bleibt der Platz für Diagnosedateien, wie er war.</translation>
+    </message>
+    <message>
+        <source>Not all of it was done: %1.</source>
+        <translation>Nicht alles wurde ausgeführt: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ConsolePane</name>
+    <message>
+        <source>Server tree</source>
+        <translation>Baumstruktur des Servers</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Prozesse</translation>
+    </message>
+    <message>
+        <source>Log files</source>
+        <translation>Protokolldateien</translation>
+    </message>
+    <message>
+        <source>The tool is still finishing what was cancelled. One moment.</source>
+        <translation>Das Tool beendet noch, was abgebrochen wurde. Einen Moment.</translation>
+    </message>
+    <message>
+        <source>That did not work: %1. Press F5 to renew what is shown, and try again.</source>
+        <translation>Das hat nicht funktioniert: %1. Drücken Sie F5, um die Anzeige zu erneuern, und versuchen Sie es noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DetailsPane</name>
+    <message>
+        <source>Fields of the line</source>
+        <translation>Felder der Zeile</translation>
+    </message>
+    <message>
+        <source>Trace of the line</source>
+        <translation>Trace der Zeile</translation>
+    </message>
+    <message>
+        <source>Select a line to read all of it here.</source>
+        <translation>Wählen Sie eine Zeile aus, um sie hier vollständig zu lesen.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::FilterBar</name>
+    <message>
+        <source>Only rows with this text</source>
+        <translation>Nur Zeilen mit diesem Text</translation>
+    </message>
+    <message>
+        <source>Filter by text</source>
+        <translation>Nach Text filtern</translation>
+    </message>
+    <message>
+        <source>hide &amp;matches</source>
+        <translation>&amp;Treffer ausblenden</translation>
+    </message>
+    <message>
+        <source>Hide the rows with the text instead of showing them</source>
+        <translation>Die Zeilen mit dem Text ausblenden, statt sie anzuzeigen</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Alle anzeigen</translation>
+    </message>
+    <message>
+        <source>Show every row again (Ctrl+Shift+A)</source>
+        <translation>Wieder alle Zeilen anzeigen (Strg+Umschalt+A)</translation>
+    </message>
+    <message>
+        <source>Close the filter bar and show every row (Esc)</source>
+        <translation>Die Filterleiste schließen und alle Zeilen anzeigen (Esc)</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows</source>
+        <translation>%1 von %2 Zeilen</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::FilterButton</name>
+    <message>
+        <source>(none)</source>
+        <translation>(keine)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide the ticked ones</source>
+        <translation>Ausgewählte &amp;ausblenden</translation>
+    </message>
+    <message>
+        <source>&amp;Untick all</source>
+        <translation>Auswahl auf&amp;heben</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>not %1</source>
+        <translation>außer %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 </source>
+        <translation>%1: %2 </translation>
+    </message>
+    <message>
+        <source>Filter by %1: %2</source>
+        <translation>Nach %1 filtern: %2</translation>
+    </message>
+    <message>
+        <source>Show or hide rows by %1</source>
+        <translation>Zeilen nach %1 ein- oder ausblenden</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::FindBar</name>
+    <message>
+        <source>Fi&amp;nd:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
+        <source>Go to &amp;time:</source>
+        <translation>Gehe &amp;zu Uhrzeit:</translation>
+    </message>
+    <message>
+        <source>Text in any column</source>
+        <translation>Text in einer beliebigen Spalte</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>Gesuchter Text</translation>
+    </message>
+    <message>
+        <source>such as 15:23:07</source>
+        <translation>z. B. 15:23:07</translation>
+    </message>
+    <message>
+        <source>Time to go to</source>
+        <translation>Gesuchte Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Hits</source>
+        <translation>Treffer</translation>
+    </message>
+    <message>
+        <source>Find previous (Shift+F3)</source>
+        <translation>Vorherigen Treffer suchen (Umschalt+F3)</translation>
+    </message>
+    <message>
+        <source>Find next (F3)</source>
+        <translation>Weitersuchen (F3)</translation>
+    </message>
+    <message>
+        <source>Close the find bar (Esc)</source>
+        <translation>Die Suchleiste schließen (Esc)</translation>
+    </message>
+    <message>
+        <source>No hits</source>
+        <translation>Keine Treffer</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 hits</source>
+        <translation>%1 Treffer</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::HelpWindow</name>
     <message>
         <source>Help - Orvan Diagnostic Tool</source>
         <translation>Hilfe - Orvan-Diagnosetool</translation>
@@ -590,7 +673,7 @@
     </message>
 </context>
 <context>
-    <name>KeyList</name>
+    <name>desktop::KeyList</name>
     <message>
         <source>Keys</source>
         <translation>Tasten</translation>
@@ -681,7 +764,7 @@
     </message>
 </context>
 <context>
-    <name>LogView</name>
+    <name>desktop::LogView</name>
     <message>
         <source>Log lines</source>
         <translation>Protokollzeilen</translation>
@@ -780,7 +863,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
+    <name>desktop::MainWindow</name>
     <message>
         <source>This site is read-only: logs can be read, but traces and settings cannot be changed. Make its folder writable, or open a copy.</source>
         <translation>Diese Site ist schreibgeschützt: Protokolle können gelesen, Traces und Einstellungen aber nicht geändert werden. Erlauben Sie das Schreiben in ihrem Ordner, oder öffnen Sie eine Kopie.</translation>
@@ -879,7 +962,7 @@ Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
     </message>
 </context>
 <context>
-    <name>MomentField</name>
+    <name>desktop::MomentField</name>
     <message>
         <source>Calendar</source>
         <translation>Kalender</translation>
@@ -903,97 +986,14 @@ Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
     </message>
 </context>
 <context>
-    <name>NoticeBar</name>
+    <name>desktop::NoticeBar</name>
     <message>
         <source>Close this notice</source>
         <translation>Diesen Hinweis schließen</translation>
     </message>
 </context>
 <context>
-    <name>QObject</name>
-    <message>
-        <source>Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)</source>
-        <translation>Diagnoseprotokolle (diag_*.txt data_*.txt *.log);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Date</source>
-        <translation>Datum</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>Uhrzeit</translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation>Mehr</translation>
-    </message>
-    <message>
-        <source>Less</source>
-        <translation>Weniger</translation>
-    </message>
-    <message>
-        <source>This site has no %1 to show.</source>
-        <translation>Diese Site hat kein %1, das angezeigt werden könnte.</translation>
-    </message>
-    <message>
-        <source>The site %1 could not be opened: %2. Choose another one with Ctrl+Shift+O.</source>
-        <translation>Die Site %1 konnte nicht geöffnet werden: %2. Wählen Sie mit Strg+Umschalt+O eine andere.</translation>
-    </message>
-    <message>
-        <source>The manual is not beside the tool. Install it again to read it.</source>
-        <translation>Das Handbuch ist nicht beim Tool vorhanden. Installieren Sie es neu, um es zu lesen.</translation>
-    </message>
-    <message>
-        <source>it has no site.ini, registry.reg or drive_c in it</source>
-        <translation>sie enthält weder site.ini noch registry.reg noch drive_c</translation>
-    </message>
-    <message>
-        <source>No sample server could be made in %1: %2. Choose a new folder.</source>
-        <translation>In %1 konnte kein Beispielserver angelegt werden: %2. Wählen Sie einen neuen Ordner.</translation>
-    </message>
-    <message>
-        <source>No sample server could be made in %1: %2. Choose another folder.</source>
-        <translation>In %1 konnte kein Beispielserver angelegt werden: %2. Wählen Sie einen anderen Ordner.</translation>
-    </message>
-    <message>
-        <source>The site was not closed cleanly: %1. The language of its event log may not be the first one; open it again.</source>
-        <translation>Die Site wurde nicht ordnungsgemäß geschlossen: %1. Möglicherweise hat ihr Ereignisprotokoll nicht die ursprüngliche Sprache; öffnen Sie sie noch einmal.</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Zusammenfassung</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Fortschritt</translation>
-    </message>
-    <message>
-        <source>Choices</source>
-        <translation>Auswahl</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a date, so %2 stays. Type a date as it is written there.</source>
-        <translation>„%1“ ist kein Datum, deshalb bleibt es bei %2. Geben Sie ein Datum in dieser Schreibweise ein.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a time, so %2 stays. Type a time as it is written there.</source>
-        <translation>„%1“ ist keine Uhrzeit, deshalb bleibt es bei %2. Geben Sie eine Uhrzeit in dieser Schreibweise ein.</translation>
-    </message>
-    <message>
-        <source>%1 can&apos;t be chosen here. The field now holds %2.</source>
-        <translation>%1 kann hier nicht gewählt werden. Im Feld steht jetzt %2.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a number of megabytes, so the space for diagnostic files stays as it was.</source>
-        <translation>„%1“ ist keine Anzahl von Megabyte, deshalb bleibt der Platz für Diagnosedateien, wie er war.</translation>
-    </message>
-    <message>
-        <source>Not all of it was done: %1.</source>
-        <translation>Nicht alles wurde ausgeführt: %1.</translation>
-    </message>
-</context>
-<context>
-    <name>SheetDialog</name>
+    <name>desktop::SheetDialog</name>
     <message>
         <source>&lt; &amp;Back</source>
         <translation>&lt; &amp;Zurück</translation>

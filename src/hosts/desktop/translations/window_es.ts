@@ -253,177 +253,6 @@
     </message>
 </context>
 <context>
-    <name>ConsolePane</name>
-    <message>
-        <source>Server tree</source>
-        <translation>Árbol del servidor</translation>
-    </message>
-    <message>
-        <source>Processes</source>
-        <translation>Procesos</translation>
-    </message>
-    <message>
-        <source>Log files</source>
-        <translation>Archivos de registro</translation>
-    </message>
-    <message>
-        <source>The tool is still finishing what was cancelled. One moment.</source>
-        <translation>La herramienta todavía está terminando lo que se canceló. Un momento.</translation>
-    </message>
-    <message>
-        <source>That did not work: %1. Press F5 to renew what is shown, and try again.</source>
-        <translation>No ha funcionado: %1. Pulse F5 para renovar lo que se muestra e inténtelo de nuevo.</translation>
-    </message>
-</context>
-<context>
-    <name>DetailsPane</name>
-    <message>
-        <source>Fields of the line</source>
-        <translation>Campos de la línea</translation>
-    </message>
-    <message>
-        <source>Trace of the line</source>
-        <translation>Traza de la línea</translation>
-    </message>
-    <message>
-        <source>Select a line to read all of it here.</source>
-        <translation>Seleccione una línea para leerla completa aquí.</translation>
-    </message>
-</context>
-<context>
-    <name>FilterBar</name>
-    <message>
-        <source>Only rows with this text</source>
-        <translation>Solo filas con este texto</translation>
-    </message>
-    <message>
-        <source>Filter by text</source>
-        <translation>Filtrar por texto</translation>
-    </message>
-    <message>
-        <source>hide &amp;matches</source>
-        <translation>&amp;ocultar coincidencias</translation>
-    </message>
-    <message>
-        <source>Hide the rows with the text instead of showing them</source>
-        <translation>Ocultar las filas con el texto en lugar de mostrarlas</translation>
-    </message>
-    <message>
-        <source>Show all</source>
-        <translation>Mostrar todas</translation>
-    </message>
-    <message>
-        <source>Show every row again (Ctrl+Shift+A)</source>
-        <translation>Volver a mostrar todas las filas (Control+Mayúsculas+A)</translation>
-    </message>
-    <message>
-        <source>Close the filter bar and show every row (Esc)</source>
-        <translation>Cerrar la barra de filtro y mostrar todas las filas (Escape)</translation>
-    </message>
-    <message>
-        <source>%1 rows</source>
-        <translation>%1 filas</translation>
-    </message>
-    <message>
-        <source>%1 of %2 rows</source>
-        <translation>%1 de %2 filas</translation>
-    </message>
-</context>
-<context>
-    <name>FilterButton</name>
-    <message>
-        <source>(none)</source>
-        <translation>(ninguno)</translation>
-    </message>
-    <message>
-        <source>&amp;Hide the ticked ones</source>
-        <translation>&amp;Ocultar los marcados</translation>
-    </message>
-    <message>
-        <source>&amp;Untick all</source>
-        <translation>&amp;Desmarcar todos</translation>
-    </message>
-    <message>
-        <source>all</source>
-        <translation>todos</translation>
-    </message>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 y %2 más</translation>
-    </message>
-    <message>
-        <source>not %1</source>
-        <translation>excepto %1</translation>
-    </message>
-    <message>
-        <source>%1: %2 </source>
-        <translation>%1: %2 </translation>
-    </message>
-    <message>
-        <source>Filter by %1: %2</source>
-        <translation>Filtrar por %1: %2</translation>
-    </message>
-    <message>
-        <source>Show or hide rows by %1</source>
-        <translation>Mostrar u ocultar filas por %1</translation>
-    </message>
-</context>
-<context>
-    <name>FindBar</name>
-    <message>
-        <source>Fi&amp;nd:</source>
-        <translation>&amp;Buscar:</translation>
-    </message>
-    <message>
-        <source>Go to &amp;time:</source>
-        <translation>&amp;Ir a la hora:</translation>
-    </message>
-    <message>
-        <source>Text in any column</source>
-        <translation>Texto en cualquier columna</translation>
-    </message>
-    <message>
-        <source>Text to find</source>
-        <translation>Texto que buscar</translation>
-    </message>
-    <message>
-        <source>such as 15:23:07</source>
-        <translation>p. ej., 15:23:07</translation>
-    </message>
-    <message>
-        <source>Time to go to</source>
-        <translation>Hora a la que ir</translation>
-    </message>
-    <message>
-        <source>Hits</source>
-        <translation>Coincidencias</translation>
-    </message>
-    <message>
-        <source>Find previous (Shift+F3)</source>
-        <translation>Buscar anterior (Mayúsculas+F3)</translation>
-    </message>
-    <message>
-        <source>Find next (F3)</source>
-        <translation>Buscar siguiente (F3)</translation>
-    </message>
-    <message>
-        <source>Close the find bar (Esc)</source>
-        <translation>Cerrar la barra de búsqueda (Escape)</translation>
-    </message>
-    <message>
-        <source>No hits</source>
-        <translation>Sin coincidencias</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 de %2</translation>
-    </message>
-    <message>
-        <source>%1 hits</source>
-        <translation>%1 coincidencias</translation>
-    </message>
-</context>
-<context>
     <name>GatherReport</name>
     <message>
         <source>The server names no current log of %1.</source>
@@ -559,7 +388,261 @@
     </message>
 </context>
 <context>
-    <name>HelpWindow</name>
+    <name>QObject</name>
+    <message>
+        <source>Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)</source>
+        <translation>Registros de diagnóstico (diag_*.txt data_*.txt *.log);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Menos</translation>
+    </message>
+    <message>
+        <source>This site has no %1 to show.</source>
+        <translation>Este sitio no tiene ningún %1 que mostrar.</translation>
+    </message>
+    <message>
+        <source>The site %1 could not be opened: %2. Choose another one with Ctrl+Shift+O.</source>
+        <translation>No se ha podido abrir el sitio %1: %2. Elija otro con Control+Mayúsculas+O.</translation>
+    </message>
+    <message>
+        <source>The manual is not beside the tool. Install it again to read it.</source>
+        <translation>El manual no está junto a la herramienta. Vuelva a instalarlo para leerlo.</translation>
+    </message>
+    <message>
+        <source>it has no site.ini, registry.reg or drive_c in it</source>
+        <translation>no contiene site.ini, registry.reg ni drive_c</translation>
+    </message>
+    <message>
+        <source>No sample server could be made in %1: %2. Choose a new folder.</source>
+        <translation>No se ha podido crear un servidor de ejemplo en %1: %2. Elija una carpeta nueva.</translation>
+    </message>
+    <message>
+        <source>No sample server could be made in %1: %2. Choose another folder.</source>
+        <translation>No se ha podido crear un servidor de ejemplo en %1: %2. Elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>The site was not closed cleanly: %1. The language of its event log may not be the first one; open it again.</source>
+        <translation>El sitio no se ha cerrado correctamente: %1. Es posible que el idioma de su registro de eventos no sea el original; vuelva a abrirlo.</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Resumen</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date, so %2 stays. Type a date as it is written there.</source>
+        <translation>«%1» no es una fecha, así que se mantiene %2. Escriba la fecha con ese formato.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time, so %2 stays. Type a time as it is written there.</source>
+        <translation>«%1» no es una hora, así que se mantiene %2. Escriba la hora con ese formato.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be chosen here. The field now holds %2.</source>
+        <translation>%1 no se puede elegir aquí. El campo contiene ahora %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of megabytes, so the space for diagnostic files stays as it was.</source>
+        <translation>«%1» no es un número de megabytes, así que el espacio para los archivos de diagnóstico queda como estaba.</translation>
+    </message>
+    <message>
+        <source>Not all of it was done: %1.</source>
+        <translation>No se hizo todo: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ConsolePane</name>
+    <message>
+        <source>Server tree</source>
+        <translation>Árbol del servidor</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Procesos</translation>
+    </message>
+    <message>
+        <source>Log files</source>
+        <translation>Archivos de registro</translation>
+    </message>
+    <message>
+        <source>The tool is still finishing what was cancelled. One moment.</source>
+        <translation>La herramienta todavía está terminando lo que se canceló. Un momento.</translation>
+    </message>
+    <message>
+        <source>That did not work: %1. Press F5 to renew what is shown, and try again.</source>
+        <translation>No ha funcionado: %1. Pulse F5 para renovar lo que se muestra e inténtelo de nuevo.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DetailsPane</name>
+    <message>
+        <source>Fields of the line</source>
+        <translation>Campos de la línea</translation>
+    </message>
+    <message>
+        <source>Trace of the line</source>
+        <translation>Traza de la línea</translation>
+    </message>
+    <message>
+        <source>Select a line to read all of it here.</source>
+        <translation>Seleccione una línea para leerla completa aquí.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::FilterBar</name>
+    <message>
+        <source>Only rows with this text</source>
+        <translation>Solo filas con este texto</translation>
+    </message>
+    <message>
+        <source>Filter by text</source>
+        <translation>Filtrar por texto</translation>
+    </message>
+    <message>
+        <source>hide &amp;matches</source>
+        <translation>&amp;ocultar coincidencias</translation>
+    </message>
+    <message>
+        <source>Hide the rows with the text instead of showing them</source>
+        <translation>Ocultar las filas con el texto en lugar de mostrarlas</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Mostrar todas</translation>
+    </message>
+    <message>
+        <source>Show every row again (Ctrl+Shift+A)</source>
+        <translation>Volver a mostrar todas las filas (Control+Mayúsculas+A)</translation>
+    </message>
+    <message>
+        <source>Close the filter bar and show every row (Esc)</source>
+        <translation>Cerrar la barra de filtro y mostrar todas las filas (Escape)</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 filas</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows</source>
+        <translation>%1 de %2 filas</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::FilterButton</name>
+    <message>
+        <source>(none)</source>
+        <translation>(ninguno)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide the ticked ones</source>
+        <translation>&amp;Ocultar los marcados</translation>
+    </message>
+    <message>
+        <source>&amp;Untick all</source>
+        <translation>&amp;Desmarcar todos</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>todos</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 y %2 más</translation>
+    </message>
+    <message>
+        <source>not %1</source>
+        <translation>excepto %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 </source>
+        <translation>%1: %2 </translation>
+    </message>
+    <message>
+        <source>Filter by %1: %2</source>
+        <translation>Filtrar por %1: %2</translation>
+    </message>
+    <message>
+        <source>Show or hide rows by %1</source>
+        <translation>Mostrar u ocultar filas por %1</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::FindBar</name>
+    <message>
+        <source>Fi&amp;nd:</source>
+        <translation>&amp;Buscar:</translation>
+    </message>
+    <message>
+        <source>Go to &amp;time:</source>
+        <translation>&amp;Ir a la hora:</translation>
+    </message>
+    <message>
+        <source>Text in any column</source>
+        <translation>Texto en cualquier columna</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>Texto que buscar</translation>
+    </message>
+    <message>
+        <source>such as 15:23:07</source>
+        <translation>p. ej., 15:23:07</translation>
+    </message>
+    <message>
+        <source>Time to go to</source>
+        <translation>Hora a la que ir</translation>
+    </message>
+    <message>
+        <source>Hits</source>
+        <translation>Coincidencias</translation>
+    </message>
+    <message>
+        <source>Find previous (Shift+F3)</source>
+        <translation>Buscar anterior (Mayúsculas+F3)</translation>
+    </message>
+    <message>
+        <source>Find next (F3)</source>
+        <translation>Buscar siguiente (F3)</translation>
+    </message>
+    <message>
+        <source>Close the find bar (Esc)</source>
+        <translation>Cerrar la barra de búsqueda (Escape)</translation>
+    </message>
+    <message>
+        <source>No hits</source>
+        <translation>Sin coincidencias</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1 hits</source>
+        <translation>%1 coincidencias</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::HelpWindow</name>
     <message>
         <source>Help - Orvan Diagnostic Tool</source>
         <translation>Ayuda - Herramienta de diagnóstico de Orvan</translation>
@@ -590,7 +673,7 @@
     </message>
 </context>
 <context>
-    <name>KeyList</name>
+    <name>desktop::KeyList</name>
     <message>
         <source>Keys</source>
         <translation>Teclas</translation>
@@ -681,7 +764,7 @@
     </message>
 </context>
 <context>
-    <name>LogView</name>
+    <name>desktop::LogView</name>
     <message>
         <source>Log lines</source>
         <translation>Líneas del registro</translation>
@@ -780,7 +863,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
+    <name>desktop::MainWindow</name>
     <message>
         <source>This site is read-only: logs can be read, but traces and settings cannot be changed. Make its folder writable, or open a copy.</source>
         <translation>Este sitio es de solo lectura: se pueden leer los registros, pero no cambiar trazas ni configuración. Permita escribir en su carpeta o abra una copia.</translation>
@@ -879,7 +962,7 @@ Abra uno con Control+Mayúsculas+O o cree un servidor de ejemplo con Control+May
     </message>
 </context>
 <context>
-    <name>MomentField</name>
+    <name>desktop::MomentField</name>
     <message>
         <source>Calendar</source>
         <translation>Calendario</translation>
@@ -903,97 +986,14 @@ Abra uno con Control+Mayúsculas+O o cree un servidor de ejemplo con Control+May
     </message>
 </context>
 <context>
-    <name>NoticeBar</name>
+    <name>desktop::NoticeBar</name>
     <message>
         <source>Close this notice</source>
         <translation>Cerrar este aviso</translation>
     </message>
 </context>
 <context>
-    <name>QObject</name>
-    <message>
-        <source>Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)</source>
-        <translation>Registros de diagnóstico (diag_*.txt data_*.txt *.log);;Todos los archivos (*)</translation>
-    </message>
-    <message>
-        <source>Date</source>
-        <translation>Fecha</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>Hora</translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation>Más</translation>
-    </message>
-    <message>
-        <source>Less</source>
-        <translation>Menos</translation>
-    </message>
-    <message>
-        <source>This site has no %1 to show.</source>
-        <translation>Este sitio no tiene ningún %1 que mostrar.</translation>
-    </message>
-    <message>
-        <source>The site %1 could not be opened: %2. Choose another one with Ctrl+Shift+O.</source>
-        <translation>No se ha podido abrir el sitio %1: %2. Elija otro con Control+Mayúsculas+O.</translation>
-    </message>
-    <message>
-        <source>The manual is not beside the tool. Install it again to read it.</source>
-        <translation>El manual no está junto a la herramienta. Vuelva a instalarlo para leerlo.</translation>
-    </message>
-    <message>
-        <source>it has no site.ini, registry.reg or drive_c in it</source>
-        <translation>no contiene site.ini, registry.reg ni drive_c</translation>
-    </message>
-    <message>
-        <source>No sample server could be made in %1: %2. Choose a new folder.</source>
-        <translation>No se ha podido crear un servidor de ejemplo en %1: %2. Elija una carpeta nueva.</translation>
-    </message>
-    <message>
-        <source>No sample server could be made in %1: %2. Choose another folder.</source>
-        <translation>No se ha podido crear un servidor de ejemplo en %1: %2. Elija otra carpeta.</translation>
-    </message>
-    <message>
-        <source>The site was not closed cleanly: %1. The language of its event log may not be the first one; open it again.</source>
-        <translation>El sitio no se ha cerrado correctamente: %1. Es posible que el idioma de su registro de eventos no sea el original; vuelva a abrirlo.</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Resumen</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progreso</translation>
-    </message>
-    <message>
-        <source>Choices</source>
-        <translation>Opciones</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a date, so %2 stays. Type a date as it is written there.</source>
-        <translation>«%1» no es una fecha, así que se mantiene %2. Escriba la fecha con ese formato.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a time, so %2 stays. Type a time as it is written there.</source>
-        <translation>«%1» no es una hora, así que se mantiene %2. Escriba la hora con ese formato.</translation>
-    </message>
-    <message>
-        <source>%1 can&apos;t be chosen here. The field now holds %2.</source>
-        <translation>%1 no se puede elegir aquí. El campo contiene ahora %2.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a number of megabytes, so the space for diagnostic files stays as it was.</source>
-        <translation>«%1» no es un número de megabytes, así que el espacio para los archivos de diagnóstico queda como estaba.</translation>
-    </message>
-    <message>
-        <source>Not all of it was done: %1.</source>
-        <translation>No se hizo todo: %1.</translation>
-    </message>
-</context>
-<context>
-    <name>SheetDialog</name>
+    <name>desktop::SheetDialog</name>
     <message>
         <source>&lt; &amp;Back</source>
         <translation>&lt; &amp;Atrás</translation>

@@ -253,177 +253,6 @@
     </message>
 </context>
 <context>
-    <name>ConsolePane</name>
-    <message>
-        <source>Server tree</source>
-        <translation>Arborescence du serveur</translation>
-    </message>
-    <message>
-        <source>Processes</source>
-        <translation>Processus</translation>
-    </message>
-    <message>
-        <source>Log files</source>
-        <translation>Fichiers journaux</translation>
-    </message>
-    <message>
-        <source>The tool is still finishing what was cancelled. One moment.</source>
-        <translation>L&apos;outil termine encore ce qui a été annulé. Un instant.</translation>
-    </message>
-    <message>
-        <source>That did not work: %1. Press F5 to renew what is shown, and try again.</source>
-        <translation>Cela n&apos;a pas fonctionné&#xa0;: %1. Appuyez sur F5 pour actualiser l&apos;affichage, puis réessayez.</translation>
-    </message>
-</context>
-<context>
-    <name>DetailsPane</name>
-    <message>
-        <source>Fields of the line</source>
-        <translation>Champs de la ligne</translation>
-    </message>
-    <message>
-        <source>Trace of the line</source>
-        <translation>Trace de la ligne</translation>
-    </message>
-    <message>
-        <source>Select a line to read all of it here.</source>
-        <translation>Sélectionnez une ligne pour la lire ici en entier.</translation>
-    </message>
-</context>
-<context>
-    <name>FilterBar</name>
-    <message>
-        <source>Only rows with this text</source>
-        <translation>Lignes contenant ce texte</translation>
-    </message>
-    <message>
-        <source>Filter by text</source>
-        <translation>Filtrer par texte</translation>
-    </message>
-    <message>
-        <source>hide &amp;matches</source>
-        <translation>&amp;masquer ces lignes</translation>
-    </message>
-    <message>
-        <source>Hide the rows with the text instead of showing them</source>
-        <translation>Masquer les lignes contenant le texte au lieu de les afficher</translation>
-    </message>
-    <message>
-        <source>Show all</source>
-        <translation>Tout afficher</translation>
-    </message>
-    <message>
-        <source>Show every row again (Ctrl+Shift+A)</source>
-        <translation>Afficher de nouveau toutes les lignes (Ctrl+Maj+A)</translation>
-    </message>
-    <message>
-        <source>Close the filter bar and show every row (Esc)</source>
-        <translation>Fermer la barre de filtre et afficher toutes les lignes (Échap)</translation>
-    </message>
-    <message>
-        <source>%1 rows</source>
-        <translation>%1 lignes</translation>
-    </message>
-    <message>
-        <source>%1 of %2 rows</source>
-        <translation>%1 lignes sur %2</translation>
-    </message>
-</context>
-<context>
-    <name>FilterButton</name>
-    <message>
-        <source>(none)</source>
-        <translation>(aucun)</translation>
-    </message>
-    <message>
-        <source>&amp;Hide the ticked ones</source>
-        <translation>&amp;Masquer les éléments cochés</translation>
-    </message>
-    <message>
-        <source>&amp;Untick all</source>
-        <translation>&amp;Tout décocher</translation>
-    </message>
-    <message>
-        <source>all</source>
-        <translation>tout</translation>
-    </message>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 et %2 de plus</translation>
-    </message>
-    <message>
-        <source>not %1</source>
-        <translation>sauf %1</translation>
-    </message>
-    <message>
-        <source>%1: %2 </source>
-        <translation>%1&#xa0;: %2 </translation>
-    </message>
-    <message>
-        <source>Filter by %1: %2</source>
-        <translation>Filtrer par %1&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>Show or hide rows by %1</source>
-        <translation>Afficher ou masquer des lignes par %1</translation>
-    </message>
-</context>
-<context>
-    <name>FindBar</name>
-    <message>
-        <source>Fi&amp;nd:</source>
-        <translation>&amp;Rechercher&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Go to &amp;time:</source>
-        <translation>A&amp;tteindre l&apos;heure&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Text in any column</source>
-        <translation>Texte dans n&apos;importe quelle colonne</translation>
-    </message>
-    <message>
-        <source>Text to find</source>
-        <translation>Texte à rechercher</translation>
-    </message>
-    <message>
-        <source>such as 15:23:07</source>
-        <translation>p. ex. 15:23:07</translation>
-    </message>
-    <message>
-        <source>Time to go to</source>
-        <translation>Heure à atteindre</translation>
-    </message>
-    <message>
-        <source>Hits</source>
-        <translation>Correspondances</translation>
-    </message>
-    <message>
-        <source>Find previous (Shift+F3)</source>
-        <translation>Rechercher le précédent (Maj+F3)</translation>
-    </message>
-    <message>
-        <source>Find next (F3)</source>
-        <translation>Rechercher le suivant (F3)</translation>
-    </message>
-    <message>
-        <source>Close the find bar (Esc)</source>
-        <translation>Fermer la barre de recherche (Échap)</translation>
-    </message>
-    <message>
-        <source>No hits</source>
-        <translation>Aucune correspondance</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 sur %2</translation>
-    </message>
-    <message>
-        <source>%1 hits</source>
-        <translation>%1 correspondances</translation>
-    </message>
-</context>
-<context>
     <name>GatherReport</name>
     <message>
         <source>The server names no current log of %1.</source>
@@ -559,7 +388,261 @@
     </message>
 </context>
 <context>
-    <name>HelpWindow</name>
+    <name>QObject</name>
+    <message>
+        <source>Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)</source>
+        <translation>Journaux de diagnostic (diag_*.txt data_*.txt *.log);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>Moins</translation>
+    </message>
+    <message>
+        <source>This site has no %1 to show.</source>
+        <translation>Ce site n&apos;a pas de %1 à afficher.</translation>
+    </message>
+    <message>
+        <source>The site %1 could not be opened: %2. Choose another one with Ctrl+Shift+O.</source>
+        <translation>Le site %1 n&apos;a pas pu être ouvert&#xa0;: %2. Choisissez-en un autre avec Ctrl+Maj+O.</translation>
+    </message>
+    <message>
+        <source>The manual is not beside the tool. Install it again to read it.</source>
+        <translation>Le manuel ne se trouve pas à côté de l&apos;outil. Réinstallez-le pour le lire.</translation>
+    </message>
+    <message>
+        <source>it has no site.ini, registry.reg or drive_c in it</source>
+        <translation>il ne contient ni site.ini, ni registry.reg, ni drive_c</translation>
+    </message>
+    <message>
+        <source>No sample server could be made in %1: %2. Choose a new folder.</source>
+        <translation>Aucun serveur d&apos;exemple n&apos;a pu être créé dans %1&#xa0;: %2. Choisissez un nouveau dossier.</translation>
+    </message>
+    <message>
+        <source>No sample server could be made in %1: %2. Choose another folder.</source>
+        <translation>Aucun serveur d&apos;exemple n&apos;a pu être créé dans %1&#xa0;: %2. Choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The site was not closed cleanly: %1. The language of its event log may not be the first one; open it again.</source>
+        <translation>Le site n&apos;a pas été fermé correctement&#xa0;: %1. La langue de son journal des événements n&apos;est peut-être pas celle d&apos;origine&#xa0;; ouvrez-le de nouveau.</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Choix</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date, so %2 stays. Type a date as it is written there.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une date, %2 est donc conservé. Saisissez une date sous cette forme.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time, so %2 stays. Type a time as it is written there.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une heure, %2 est donc conservé. Saisissez une heure sous cette forme.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be chosen here. The field now holds %2.</source>
+        <translation>%1 ne peut pas être choisi ici. Le champ contient maintenant %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of megabytes, so the space for diagnostic files stays as it was.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas un nombre de mégaoctets, l&apos;espace des fichiers de diagnostic reste donc inchangé.</translation>
+    </message>
+    <message>
+        <source>Not all of it was done: %1.</source>
+        <translation>Tout n&apos;a pas été effectué&#xa0;: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ConsolePane</name>
+    <message>
+        <source>Server tree</source>
+        <translation>Arborescence du serveur</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>Processus</translation>
+    </message>
+    <message>
+        <source>Log files</source>
+        <translation>Fichiers journaux</translation>
+    </message>
+    <message>
+        <source>The tool is still finishing what was cancelled. One moment.</source>
+        <translation>L&apos;outil termine encore ce qui a été annulé. Un instant.</translation>
+    </message>
+    <message>
+        <source>That did not work: %1. Press F5 to renew what is shown, and try again.</source>
+        <translation>Cela n&apos;a pas fonctionné&#xa0;: %1. Appuyez sur F5 pour actualiser l&apos;affichage, puis réessayez.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DetailsPane</name>
+    <message>
+        <source>Fields of the line</source>
+        <translation>Champs de la ligne</translation>
+    </message>
+    <message>
+        <source>Trace of the line</source>
+        <translation>Trace de la ligne</translation>
+    </message>
+    <message>
+        <source>Select a line to read all of it here.</source>
+        <translation>Sélectionnez une ligne pour la lire ici en entier.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::FilterBar</name>
+    <message>
+        <source>Only rows with this text</source>
+        <translation>Lignes contenant ce texte</translation>
+    </message>
+    <message>
+        <source>Filter by text</source>
+        <translation>Filtrer par texte</translation>
+    </message>
+    <message>
+        <source>hide &amp;matches</source>
+        <translation>&amp;masquer ces lignes</translation>
+    </message>
+    <message>
+        <source>Hide the rows with the text instead of showing them</source>
+        <translation>Masquer les lignes contenant le texte au lieu de les afficher</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message>
+        <source>Show every row again (Ctrl+Shift+A)</source>
+        <translation>Afficher de nouveau toutes les lignes (Ctrl+Maj+A)</translation>
+    </message>
+    <message>
+        <source>Close the filter bar and show every row (Esc)</source>
+        <translation>Fermer la barre de filtre et afficher toutes les lignes (Échap)</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 lignes</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows</source>
+        <translation>%1 lignes sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::FilterButton</name>
+    <message>
+        <source>(none)</source>
+        <translation>(aucun)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide the ticked ones</source>
+        <translation>&amp;Masquer les éléments cochés</translation>
+    </message>
+    <message>
+        <source>&amp;Untick all</source>
+        <translation>&amp;Tout décocher</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>tout</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 et %2 de plus</translation>
+    </message>
+    <message>
+        <source>not %1</source>
+        <translation>sauf %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 </source>
+        <translation>%1&#xa0;: %2 </translation>
+    </message>
+    <message>
+        <source>Filter by %1: %2</source>
+        <translation>Filtrer par %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Show or hide rows by %1</source>
+        <translation>Afficher ou masquer des lignes par %1</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::FindBar</name>
+    <message>
+        <source>Fi&amp;nd:</source>
+        <translation>&amp;Rechercher&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Go to &amp;time:</source>
+        <translation>A&amp;tteindre l&apos;heure&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Text in any column</source>
+        <translation>Texte dans n&apos;importe quelle colonne</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>Texte à rechercher</translation>
+    </message>
+    <message>
+        <source>such as 15:23:07</source>
+        <translation>p. ex. 15:23:07</translation>
+    </message>
+    <message>
+        <source>Time to go to</source>
+        <translation>Heure à atteindre</translation>
+    </message>
+    <message>
+        <source>Hits</source>
+        <translation>Correspondances</translation>
+    </message>
+    <message>
+        <source>Find previous (Shift+F3)</source>
+        <translation>Rechercher le précédent (Maj+F3)</translation>
+    </message>
+    <message>
+        <source>Find next (F3)</source>
+        <translation>Rechercher le suivant (F3)</translation>
+    </message>
+    <message>
+        <source>Close the find bar (Esc)</source>
+        <translation>Fermer la barre de recherche (Échap)</translation>
+    </message>
+    <message>
+        <source>No hits</source>
+        <translation>Aucune correspondance</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1 hits</source>
+        <translation>%1 correspondances</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::HelpWindow</name>
     <message>
         <source>Help - Orvan Diagnostic Tool</source>
         <translation>Aide - Outil de diagnostic Orvan</translation>
@@ -590,7 +673,7 @@
     </message>
 </context>
 <context>
-    <name>KeyList</name>
+    <name>desktop::KeyList</name>
     <message>
         <source>Keys</source>
         <translation>Touches</translation>
@@ -681,7 +764,7 @@
     </message>
 </context>
 <context>
-    <name>LogView</name>
+    <name>desktop::LogView</name>
     <message>
         <source>Log lines</source>
         <translation>Lignes du journal</translation>
@@ -780,7 +863,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
+    <name>desktop::MainWindow</name>
     <message>
         <source>This site is read-only: logs can be read, but traces and settings cannot be changed. Make its folder writable, or open a copy.</source>
         <translation>Ce site est en lecture seule&#xa0;: les journaux peuvent être lus, mais les traces et les paramètres ne peuvent pas être modifiés. Autorisez l&apos;écriture dans son dossier, ou ouvrez une copie.</translation>
@@ -879,7 +962,7 @@ Ouvrez-en un avec Ctrl+Maj+O, ou créez un serveur d&apos;exemple avec Ctrl+Maj+
     </message>
 </context>
 <context>
-    <name>MomentField</name>
+    <name>desktop::MomentField</name>
     <message>
         <source>Calendar</source>
         <translation>Calendrier</translation>
@@ -903,97 +986,14 @@ Ouvrez-en un avec Ctrl+Maj+O, ou créez un serveur d&apos;exemple avec Ctrl+Maj+
     </message>
 </context>
 <context>
-    <name>NoticeBar</name>
+    <name>desktop::NoticeBar</name>
     <message>
         <source>Close this notice</source>
         <translation>Fermer cet avis</translation>
     </message>
 </context>
 <context>
-    <name>QObject</name>
-    <message>
-        <source>Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)</source>
-        <translation>Journaux de diagnostic (diag_*.txt data_*.txt *.log);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
-        <source>Date</source>
-        <translation>Date</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>Heure</translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation>Plus</translation>
-    </message>
-    <message>
-        <source>Less</source>
-        <translation>Moins</translation>
-    </message>
-    <message>
-        <source>This site has no %1 to show.</source>
-        <translation>Ce site n&apos;a pas de %1 à afficher.</translation>
-    </message>
-    <message>
-        <source>The site %1 could not be opened: %2. Choose another one with Ctrl+Shift+O.</source>
-        <translation>Le site %1 n&apos;a pas pu être ouvert&#xa0;: %2. Choisissez-en un autre avec Ctrl+Maj+O.</translation>
-    </message>
-    <message>
-        <source>The manual is not beside the tool. Install it again to read it.</source>
-        <translation>Le manuel ne se trouve pas à côté de l&apos;outil. Réinstallez-le pour le lire.</translation>
-    </message>
-    <message>
-        <source>it has no site.ini, registry.reg or drive_c in it</source>
-        <translation>il ne contient ni site.ini, ni registry.reg, ni drive_c</translation>
-    </message>
-    <message>
-        <source>No sample server could be made in %1: %2. Choose a new folder.</source>
-        <translation>Aucun serveur d&apos;exemple n&apos;a pu être créé dans %1&#xa0;: %2. Choisissez un nouveau dossier.</translation>
-    </message>
-    <message>
-        <source>No sample server could be made in %1: %2. Choose another folder.</source>
-        <translation>Aucun serveur d&apos;exemple n&apos;a pu être créé dans %1&#xa0;: %2. Choisissez un autre dossier.</translation>
-    </message>
-    <message>
-        <source>The site was not closed cleanly: %1. The language of its event log may not be the first one; open it again.</source>
-        <translation>Le site n&apos;a pas été fermé correctement&#xa0;: %1. La langue de son journal des événements n&apos;est peut-être pas celle d&apos;origine&#xa0;; ouvrez-le de nouveau.</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>Résumé</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>Progression</translation>
-    </message>
-    <message>
-        <source>Choices</source>
-        <translation>Choix</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a date, so %2 stays. Type a date as it is written there.</source>
-        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une date, %2 est donc conservé. Saisissez une date sous cette forme.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a time, so %2 stays. Type a time as it is written there.</source>
-        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une heure, %2 est donc conservé. Saisissez une heure sous cette forme.</translation>
-    </message>
-    <message>
-        <source>%1 can&apos;t be chosen here. The field now holds %2.</source>
-        <translation>%1 ne peut pas être choisi ici. Le champ contient maintenant %2.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a number of megabytes, so the space for diagnostic files stays as it was.</source>
-        <translation>«&#xa0;%1&#xa0;» n&apos;est pas un nombre de mégaoctets, l&apos;espace des fichiers de diagnostic reste donc inchangé.</translation>
-    </message>
-    <message>
-        <source>Not all of it was done: %1.</source>
-        <translation>Tout n&apos;a pas été effectué&#xa0;: %1.</translation>
-    </message>
-</context>
-<context>
-    <name>SheetDialog</name>
+    <name>desktop::SheetDialog</name>
     <message>
         <source>&lt; &amp;Back</source>
         <translation>&lt; &amp;Précédent</translation>

@@ -253,177 +253,6 @@
     </message>
 </context>
 <context>
-    <name>ConsolePane</name>
-    <message>
-        <source>Server tree</source>
-        <translation>サーバーのツリー</translation>
-    </message>
-    <message>
-        <source>Processes</source>
-        <translation>プロセス</translation>
-    </message>
-    <message>
-        <source>Log files</source>
-        <translation>ログ ファイル</translation>
-    </message>
-    <message>
-        <source>The tool is still finishing what was cancelled. One moment.</source>
-        <translation>キャンセルされた処理を終了しています。しばらくお待ちください。</translation>
-    </message>
-    <message>
-        <source>That did not work: %1. Press F5 to renew what is shown, and try again.</source>
-        <translation>操作を完了できませんでした: %1。F5 キーを押して表示を更新し、もう一度実行してください。</translation>
-    </message>
-</context>
-<context>
-    <name>DetailsPane</name>
-    <message>
-        <source>Fields of the line</source>
-        <translation>行の項目</translation>
-    </message>
-    <message>
-        <source>Trace of the line</source>
-        <translation>行のトレース</translation>
-    </message>
-    <message>
-        <source>Select a line to read all of it here.</source>
-        <translation>行を選択すると、その全体がここに表示されます。</translation>
-    </message>
-</context>
-<context>
-    <name>FilterBar</name>
-    <message>
-        <source>Only rows with this text</source>
-        <translation>この文字列を含む行のみ</translation>
-    </message>
-    <message>
-        <source>Filter by text</source>
-        <translation>文字列でフィルター</translation>
-    </message>
-    <message>
-        <source>hide &amp;matches</source>
-        <translation>一致する行を隠す(&amp;M)</translation>
-    </message>
-    <message>
-        <source>Hide the rows with the text instead of showing them</source>
-        <translation>文字列を含む行を表示する代わりに非表示にします</translation>
-    </message>
-    <message>
-        <source>Show all</source>
-        <translation>すべて表示</translation>
-    </message>
-    <message>
-        <source>Show every row again (Ctrl+Shift+A)</source>
-        <translation>すべての行を再び表示します (Ctrl+Shift+A)</translation>
-    </message>
-    <message>
-        <source>Close the filter bar and show every row (Esc)</source>
-        <translation>フィルター バーを閉じて、すべての行を表示します (Esc)</translation>
-    </message>
-    <message>
-        <source>%1 rows</source>
-        <translation>%1 行</translation>
-    </message>
-    <message>
-        <source>%1 of %2 rows</source>
-        <translation>%1 / %2 行</translation>
-    </message>
-</context>
-<context>
-    <name>FilterButton</name>
-    <message>
-        <source>(none)</source>
-        <translation>(なし)</translation>
-    </message>
-    <message>
-        <source>&amp;Hide the ticked ones</source>
-        <translation>選択した項目を隠す(&amp;H)</translation>
-    </message>
-    <message>
-        <source>&amp;Untick all</source>
-        <translation>すべて選択解除(&amp;U)</translation>
-    </message>
-    <message>
-        <source>all</source>
-        <translation>すべて</translation>
-    </message>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 他 %2 件</translation>
-    </message>
-    <message>
-        <source>not %1</source>
-        <translation>%1 以外</translation>
-    </message>
-    <message>
-        <source>%1: %2 </source>
-        <translation>%1: %2 </translation>
-    </message>
-    <message>
-        <source>Filter by %1: %2</source>
-        <translation>%1 でフィルター: %2</translation>
-    </message>
-    <message>
-        <source>Show or hide rows by %1</source>
-        <translation>%1 で行を表示または非表示にします</translation>
-    </message>
-</context>
-<context>
-    <name>FindBar</name>
-    <message>
-        <source>Fi&amp;nd:</source>
-        <translation>検索(&amp;N):</translation>
-    </message>
-    <message>
-        <source>Go to &amp;time:</source>
-        <translation>時刻へ移動(&amp;T):</translation>
-    </message>
-    <message>
-        <source>Text in any column</source>
-        <translation>いずれかの列の文字列</translation>
-    </message>
-    <message>
-        <source>Text to find</source>
-        <translation>検索する文字列</translation>
-    </message>
-    <message>
-        <source>such as 15:23:07</source>
-        <translation>例: 15:23:07</translation>
-    </message>
-    <message>
-        <source>Time to go to</source>
-        <translation>移動先の時刻</translation>
-    </message>
-    <message>
-        <source>Hits</source>
-        <translation>一致</translation>
-    </message>
-    <message>
-        <source>Find previous (Shift+F3)</source>
-        <translation>前を検索 (Shift+F3)</translation>
-    </message>
-    <message>
-        <source>Find next (F3)</source>
-        <translation>次を検索 (F3)</translation>
-    </message>
-    <message>
-        <source>Close the find bar (Esc)</source>
-        <translation>検索バーを閉じます (Esc)</translation>
-    </message>
-    <message>
-        <source>No hits</source>
-        <translation>一致なし</translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation>%1 / %2</translation>
-    </message>
-    <message>
-        <source>%1 hits</source>
-        <translation>%1 件一致</translation>
-    </message>
-</context>
-<context>
     <name>GatherReport</name>
     <message>
         <source>The server names no current log of %1.</source>
@@ -559,7 +388,261 @@
     </message>
 </context>
 <context>
-    <name>HelpWindow</name>
+    <name>QObject</name>
+    <message>
+        <source>Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)</source>
+        <translation>診断ログ (diag_*.txt data_*.txt *.log);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>増やす</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>減らす</translation>
+    </message>
+    <message>
+        <source>This site has no %1 to show.</source>
+        <translation>このサイトには、表示する %1 がありません。</translation>
+    </message>
+    <message>
+        <source>The site %1 could not be opened: %2. Choose another one with Ctrl+Shift+O.</source>
+        <translation>サイト %1 を開けませんでした: %2。Ctrl+Shift+O で別のサイトを選択してください。</translation>
+    </message>
+    <message>
+        <source>The manual is not beside the tool. Install it again to read it.</source>
+        <translation>マニュアルがツールと同じ場所にありません。読むには、もう一度インストールしてください。</translation>
+    </message>
+    <message>
+        <source>it has no site.ini, registry.reg or drive_c in it</source>
+        <translation>site.ini、registry.reg、drive_c のいずれもありません</translation>
+    </message>
+    <message>
+        <source>No sample server could be made in %1: %2. Choose a new folder.</source>
+        <translation>%1 にサンプル サーバーを作成できませんでした: %2。新しいフォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <source>No sample server could be made in %1: %2. Choose another folder.</source>
+        <translation>%1 にサンプル サーバーを作成できませんでした: %2。別のフォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <source>The site was not closed cleanly: %1. The language of its event log may not be the first one; open it again.</source>
+        <translation>サイトを正しく閉じられませんでした: %1。イベント ログの言語が元に戻っていない可能性があります。もう一度開いてください。</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>概要</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>選択肢</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date, so %2 stays. Type a date as it is written there.</source>
+        <translation>「%1」は日付ではないため、%2 のままです。同じ形式で日付を入力してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a time, so %2 stays. Type a time as it is written there.</source>
+        <translation>「%1」は時刻ではないため、%2 のままです。同じ形式で時刻を入力してください。</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be chosen here. The field now holds %2.</source>
+        <translation>%1 はここでは選択できません。現在の値は %2 です。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number of megabytes, so the space for diagnostic files stays as it was.</source>
+        <translation>「%1」はメガバイト数ではないため、診断ファイルの容量は変更されません。</translation>
+    </message>
+    <message>
+        <source>Not all of it was done: %1.</source>
+        <translation>一部が実行されませんでした: %1。</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ConsolePane</name>
+    <message>
+        <source>Server tree</source>
+        <translation>サーバーのツリー</translation>
+    </message>
+    <message>
+        <source>Processes</source>
+        <translation>プロセス</translation>
+    </message>
+    <message>
+        <source>Log files</source>
+        <translation>ログ ファイル</translation>
+    </message>
+    <message>
+        <source>The tool is still finishing what was cancelled. One moment.</source>
+        <translation>キャンセルされた処理を終了しています。しばらくお待ちください。</translation>
+    </message>
+    <message>
+        <source>That did not work: %1. Press F5 to renew what is shown, and try again.</source>
+        <translation>操作を完了できませんでした: %1。F5 キーを押して表示を更新し、もう一度実行してください。</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::DetailsPane</name>
+    <message>
+        <source>Fields of the line</source>
+        <translation>行の項目</translation>
+    </message>
+    <message>
+        <source>Trace of the line</source>
+        <translation>行のトレース</translation>
+    </message>
+    <message>
+        <source>Select a line to read all of it here.</source>
+        <translation>行を選択すると、その全体がここに表示されます。</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::FilterBar</name>
+    <message>
+        <source>Only rows with this text</source>
+        <translation>この文字列を含む行のみ</translation>
+    </message>
+    <message>
+        <source>Filter by text</source>
+        <translation>文字列でフィルター</translation>
+    </message>
+    <message>
+        <source>hide &amp;matches</source>
+        <translation>一致する行を隠す(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Hide the rows with the text instead of showing them</source>
+        <translation>文字列を含む行を表示する代わりに非表示にします</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>すべて表示</translation>
+    </message>
+    <message>
+        <source>Show every row again (Ctrl+Shift+A)</source>
+        <translation>すべての行を再び表示します (Ctrl+Shift+A)</translation>
+    </message>
+    <message>
+        <source>Close the filter bar and show every row (Esc)</source>
+        <translation>フィルター バーを閉じて、すべての行を表示します (Esc)</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 行</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows</source>
+        <translation>%1 / %2 行</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::FilterButton</name>
+    <message>
+        <source>(none)</source>
+        <translation>(なし)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide the ticked ones</source>
+        <translation>選択した項目を隠す(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Untick all</source>
+        <translation>すべて選択解除(&amp;U)</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 他 %2 件</translation>
+    </message>
+    <message>
+        <source>not %1</source>
+        <translation>%1 以外</translation>
+    </message>
+    <message>
+        <source>%1: %2 </source>
+        <translation>%1: %2 </translation>
+    </message>
+    <message>
+        <source>Filter by %1: %2</source>
+        <translation>%1 でフィルター: %2</translation>
+    </message>
+    <message>
+        <source>Show or hide rows by %1</source>
+        <translation>%1 で行を表示または非表示にします</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::FindBar</name>
+    <message>
+        <source>Fi&amp;nd:</source>
+        <translation>検索(&amp;N):</translation>
+    </message>
+    <message>
+        <source>Go to &amp;time:</source>
+        <translation>時刻へ移動(&amp;T):</translation>
+    </message>
+    <message>
+        <source>Text in any column</source>
+        <translation>いずれかの列の文字列</translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation>検索する文字列</translation>
+    </message>
+    <message>
+        <source>such as 15:23:07</source>
+        <translation>例: 15:23:07</translation>
+    </message>
+    <message>
+        <source>Time to go to</source>
+        <translation>移動先の時刻</translation>
+    </message>
+    <message>
+        <source>Hits</source>
+        <translation>一致</translation>
+    </message>
+    <message>
+        <source>Find previous (Shift+F3)</source>
+        <translation>前を検索 (Shift+F3)</translation>
+    </message>
+    <message>
+        <source>Find next (F3)</source>
+        <translation>次を検索 (F3)</translation>
+    </message>
+    <message>
+        <source>Close the find bar (Esc)</source>
+        <translation>検索バーを閉じます (Esc)</translation>
+    </message>
+    <message>
+        <source>No hits</source>
+        <translation>一致なし</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 hits</source>
+        <translation>%1 件一致</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::HelpWindow</name>
     <message>
         <source>Help - Orvan Diagnostic Tool</source>
         <translation>ヘルプ - Orvan 診断ツール</translation>
@@ -590,7 +673,7 @@
     </message>
 </context>
 <context>
-    <name>KeyList</name>
+    <name>desktop::KeyList</name>
     <message>
         <source>Keys</source>
         <translation>キー一覧</translation>
@@ -681,7 +764,7 @@
     </message>
 </context>
 <context>
-    <name>LogView</name>
+    <name>desktop::LogView</name>
     <message>
         <source>Log lines</source>
         <translation>ログの行</translation>
@@ -780,7 +863,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
+    <name>desktop::MainWindow</name>
     <message>
         <source>This site is read-only: logs can be read, but traces and settings cannot be changed. Make its folder writable, or open a copy.</source>
         <translation>このサイトは読み取り専用です。ログは読み取れますが、トレースと設定は変更できません。フォルダーを書き込み可能にするか、コピーを開いてください。</translation>
@@ -879,7 +962,7 @@ Ctrl+Shift+O でサイトを開くか、Ctrl+Shift+N でサンプル サーバ�
     </message>
 </context>
 <context>
-    <name>MomentField</name>
+    <name>desktop::MomentField</name>
     <message>
         <source>Calendar</source>
         <translation>カレンダー</translation>
@@ -903,97 +986,14 @@ Ctrl+Shift+O でサイトを開くか、Ctrl+Shift+N でサンプル サーバ�
     </message>
 </context>
 <context>
-    <name>NoticeBar</name>
+    <name>desktop::NoticeBar</name>
     <message>
         <source>Close this notice</source>
         <translation>この通知を閉じます</translation>
     </message>
 </context>
 <context>
-    <name>QObject</name>
-    <message>
-        <source>Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)</source>
-        <translation>診断ログ (diag_*.txt data_*.txt *.log);;すべてのファイル (*)</translation>
-    </message>
-    <message>
-        <source>Date</source>
-        <translation>日付</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>時刻</translation>
-    </message>
-    <message>
-        <source>More</source>
-        <translation>増やす</translation>
-    </message>
-    <message>
-        <source>Less</source>
-        <translation>減らす</translation>
-    </message>
-    <message>
-        <source>This site has no %1 to show.</source>
-        <translation>このサイトには、表示する %1 がありません。</translation>
-    </message>
-    <message>
-        <source>The site %1 could not be opened: %2. Choose another one with Ctrl+Shift+O.</source>
-        <translation>サイト %1 を開けませんでした: %2。Ctrl+Shift+O で別のサイトを選択してください。</translation>
-    </message>
-    <message>
-        <source>The manual is not beside the tool. Install it again to read it.</source>
-        <translation>マニュアルがツールと同じ場所にありません。読むには、もう一度インストールしてください。</translation>
-    </message>
-    <message>
-        <source>it has no site.ini, registry.reg or drive_c in it</source>
-        <translation>site.ini、registry.reg、drive_c のいずれもありません</translation>
-    </message>
-    <message>
-        <source>No sample server could be made in %1: %2. Choose a new folder.</source>
-        <translation>%1 にサンプル サーバーを作成できませんでした: %2。新しいフォルダーを選択してください。</translation>
-    </message>
-    <message>
-        <source>No sample server could be made in %1: %2. Choose another folder.</source>
-        <translation>%1 にサンプル サーバーを作成できませんでした: %2。別のフォルダーを選択してください。</translation>
-    </message>
-    <message>
-        <source>The site was not closed cleanly: %1. The language of its event log may not be the first one; open it again.</source>
-        <translation>サイトを正しく閉じられませんでした: %1。イベント ログの言語が元に戻っていない可能性があります。もう一度開いてください。</translation>
-    </message>
-    <message>
-        <source>Summary</source>
-        <translation>概要</translation>
-    </message>
-    <message>
-        <source>Progress</source>
-        <translation>進行状況</translation>
-    </message>
-    <message>
-        <source>Choices</source>
-        <translation>選択肢</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a date, so %2 stays. Type a date as it is written there.</source>
-        <translation>「%1」は日付ではないため、%2 のままです。同じ形式で日付を入力してください。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a time, so %2 stays. Type a time as it is written there.</source>
-        <translation>「%1」は時刻ではないため、%2 のままです。同じ形式で時刻を入力してください。</translation>
-    </message>
-    <message>
-        <source>%1 can&apos;t be chosen here. The field now holds %2.</source>
-        <translation>%1 はここでは選択できません。現在の値は %2 です。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a number of megabytes, so the space for diagnostic files stays as it was.</source>
-        <translation>「%1」はメガバイト数ではないため、診断ファイルの容量は変更されません。</translation>
-    </message>
-    <message>
-        <source>Not all of it was done: %1.</source>
-        <translation>一部が実行されませんでした: %1。</translation>
-    </message>
-</context>
-<context>
-    <name>SheetDialog</name>
+    <name>desktop::SheetDialog</name>
     <message>
         <source>&lt; &amp;Back</source>
         <translation>&lt; 戻る(&amp;B)</translation>

@@ -13,6 +13,8 @@
 
 #include <algorithm>
 
+namespace desktop {
+
 namespace {
 
 constexpr int symbolSize = 64;
@@ -131,3 +133,5 @@ void AboutDialog::reject()
 {
     about_.cmdOK_Click();
 }
+
+} // namespace desktop

@@ -6,9 +6,12 @@
 #include <memory>
 #include <vector>
 
-class ControlView;
 class QPushButton;
 class frmAbout;
+
+namespace desktop {
+
+class ControlView;
 
 /// The tool's about box, with the menu of its interface languages.
 class AboutDialog final : public QDialog {
@@ -38,3 +41,5 @@ private:
     std::vector<std::unique_ptr<ControlView>> views_;
     QPushButton* language_ = nullptr;
 };
+
+} // namespace desktop

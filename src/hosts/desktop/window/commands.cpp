@@ -1,5 +1,7 @@
 #include "hosts/desktop/window/commands.h"
 
+namespace desktop {
+
 namespace {
 
 struct ConsoleItem {
@@ -121,3 +123,5 @@ QString iconOfConsoleItem(const std::string& name)
         if (name == item.name) return QString::fromLatin1(item.icon);
     return {};
 }
+
+} // namespace desktop

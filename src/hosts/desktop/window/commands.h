@@ -6,6 +6,8 @@
 
 #include <vector>
 
+namespace desktop {
+
 /// The window's own commands, and what a menu, the tool bar and the list of keys need to know of
 /// each.
 enum class Command {
@@ -80,3 +82,5 @@ bool changesServer(const std::string& name);
 
 /// The drawing for an item; empty for one without.
 QString iconOfConsoleItem(const std::string& name);
+
+} // namespace desktop

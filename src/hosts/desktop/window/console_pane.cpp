@@ -20,6 +20,8 @@
 #include <QStackedWidget>
 #include <QTreeView>
 
+namespace desktop {
+
 namespace {
 
 constexpr const char* splitterKey = "window/splitter";
@@ -353,3 +355,5 @@ void ConsolePane::handlerFailed(const RunTimeError& error)
             .arg(why);
     });
 }
+
+} // namespace desktop

@@ -14,12 +14,15 @@
 #include <string>
 
 class Console;
-class ListTable;
-class LogView;
 class QSettings;
 class QSplitter;
 class QStackedWidget;
 class QTreeView;
+
+namespace desktop {
+
+class ListTable;
+class LogView;
 class ScopeModel;
 class SheetDialog;
 class TaskPadView;
@@ -126,3 +129,5 @@ private:
     QPointer<SheetDialog> sheet_;
     int calls_ = 0;
 };
+
+} // namespace desktop

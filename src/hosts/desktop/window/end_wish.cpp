@@ -11,6 +11,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+namespace desktop {
+
 namespace {
 
 constexpr std::array wishes = {SIGTERM, SIGHUP, SIGINT};
@@ -79,3 +81,5 @@ void EndWish::hear()
     made_ = true;
     wished_();
 }
+
+} // namespace desktop

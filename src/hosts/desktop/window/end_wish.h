@@ -4,6 +4,8 @@
 
 #include <functional>
 
+namespace desktop {
+
 /// Hears, while it lives, that the program is to end from outside of its window: by SIGTERM, SIGHUP
 /// or SIGINT, or because the session ends. A signal that was ignored before stays ignored.
 ///
@@ -27,3 +29,5 @@ private:
     std::function<void()> wished_;
     bool made_ = false;
 };
+
+} // namespace desktop

@@ -3,6 +3,8 @@
 #include <string_view>
 #include <utility>
 
+namespace desktop {
+
 int helpTopic::ofPage(const std::string& name)
 {
     constexpr std::pair<std::string_view, int> pages[] = {
@@ -18,3 +20,5 @@ int helpTopic::ofPage(const std::string& name)
         if (page == name) return topic;
     return contents;
 }
+
+} // namespace desktop

@@ -10,6 +10,8 @@
 #include <QTextBrowser>
 #include <QToolBar>
 
+namespace desktop {
+
 namespace {
 
 /// The page of a topic by the manual's list "number page"; the first one for a topic not listed.
@@ -95,3 +97,5 @@ QString HelpWindow::shownPage() const
 {
     return pages_->source().fileName();
 }
+
+} // namespace desktop

@@ -4,6 +4,8 @@
 
 class QTextBrowser;
 
+namespace desktop {
+
 /// The manual: pages of a folder, with a list of them to find one's way.
 class HelpWindow final : public QMainWindow {
     Q_OBJECT
@@ -20,3 +22,5 @@ public:
 private:
     QTextBrowser* pages_ = nullptr;
 };
+
+} // namespace desktop

@@ -13,6 +13,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+namespace desktop {
+
 namespace {
 
 void addMenu(QTreeWidget& list, const QString& title, const QMenu& menu)
@@ -77,3 +79,5 @@ KeyList::KeyList(QMainWindow& window, QWidget* parent) : QDialog(parent)
     const int wanted = list->header()->length() + 60;
     resizeWithinScreen(*this, {wanted, 660});
 }
+
+} // namespace desktop

@@ -4,6 +4,8 @@
 
 class QMainWindow;
 
+namespace desktop {
+
 /// Every command with its key, in the order of the menus.
 class KeyList final : public QDialog {
     Q_OBJECT
@@ -11,3 +13,5 @@ class KeyList final : public QDialog {
 public:
     explicit KeyList(QMainWindow& window, QWidget* parent = nullptr);
 };
+
+} // namespace desktop

@@ -36,6 +36,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace desktop {
+
 namespace {
 
 constexpr const char* geometryKey = "window/geometry";
@@ -601,3 +603,5 @@ void MainWindow::closeEvent(QCloseEvent* event)
     keep(stateKey, saveState());
     QMainWindow::closeEvent(event);
 }
+
+} // namespace desktop

@@ -13,15 +13,18 @@
 #include <optional>
 #include <string>
 
-class ConsolePane;
-class ElidedLabel;
-class NoticeBar;
-class OpenTool;
 class QLabel;
 class QMenu;
 class QSettings;
 class QStackedWidget;
 class QToolBar;
+
+namespace desktop {
+
+class ConsolePane;
+class ElidedLabel;
+class NoticeBar;
+class OpenTool;
 class SheetDialog;
 
 /// The console's window: menus, tool bar, panes and status bar, over the tool that is open.
@@ -132,3 +135,5 @@ private:
     std::map<Command, QAction*> actions_;
     std::map<std::string, QAction*> consoleActions_;
 };
+
+} // namespace desktop

@@ -19,6 +19,8 @@
 
 #include <set>
 
+namespace desktop {
+
 namespace {
 
 /// Commands that need a log on show, and those that need any table of rows.
@@ -202,3 +204,5 @@ void MainWindow::updateActions()
     actions_[Command::lightTheme]->setChecked(scheme == theme::Scheme::light);
     actions_[Command::darkTheme]->setChecked(scheme == theme::Scheme::dark);
 }
+
+} // namespace desktop

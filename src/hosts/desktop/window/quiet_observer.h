@@ -2,6 +2,8 @@
 
 #include "console/console_observer.h"
 
+namespace desktop {
+
 /// Follows the console in part: what a class does not override is of no interest to it.
 class QuietObserver : public ConsoleObserver {
 public:
@@ -13,3 +15,5 @@ public:
     void viewFilled(ResultView&) override {}
     void statusBarChanged(const std::string&) override {}
 };
+
+} // namespace desktop

@@ -2,6 +2,8 @@
 
 #include <QSettings>
 
+namespace desktop {
+
 namespace {
 constexpr const char* sitesKey = "sites/recent";
 constexpr int keptSites = 8;
@@ -22,3 +24,5 @@ void rememberSite(QSettings& settings, const QString& folder)
     // Settings are written to the disk, and waited for, before the window is painted.
     if (sites != before) settings.setValue(sitesKey, sites);
 }
+
+} // namespace desktop

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace desktop {
+
 namespace {
 
 QIcon iconOf(const ScopeItem& item)
@@ -165,3 +167,5 @@ void ScopeModel::scopeItemRemoved(ScopeItem& item)
     above->children.erase(above->children.begin() + row);
     endRemoveRows();
 }
+
+} // namespace desktop

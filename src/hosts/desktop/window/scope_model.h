@@ -10,6 +10,8 @@
 
 class Console;
 
+namespace desktop {
+
 /// The console's tree as Qt's views see it; changes by the console's notifications alone.
 class ScopeModel final : public QAbstractItemModel, private QuietObserver {
     Q_OBJECT
@@ -57,3 +59,5 @@ private:
     Place top_; ///< above the root
     std::unordered_map<const ScopeItem*, Place*> places_;
 };
+
+} // namespace desktop

@@ -5,6 +5,8 @@
 #include <QTimer>
 #include <QWidget>
 
+namespace desktop {
+
 namespace {
 constexpr int paintMilliseconds = 400; ///< for the window manager, layouts and fonts to settle
 }
@@ -16,3 +18,5 @@ void takeScreenshot(QWidget& window, const QString& file)
         QApplication::exit((front ? front : &window)->grab().save(file) ? 0 : 1);
     });
 }
+
+} // namespace desktop

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace desktop {
+
 namespace {
 constexpr int margin = 16;
 constexpr int gap = 14;
@@ -137,3 +139,5 @@ void TaskCard::keyPressEvent(QKeyEvent* event)
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
     QAbstractButton::keyPressEvent(event);
 }
+
+} // namespace desktop

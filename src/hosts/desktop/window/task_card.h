@@ -4,6 +4,8 @@
 
 #include <map>
 
+namespace desktop {
+
 /// A button with a symbol, a title and a sentence that tells what it does.
 class TaskCard final : public QAbstractButton {
     Q_OBJECT
@@ -31,3 +33,5 @@ private:
     QString help_;
     mutable std::map<int, int> textHeights_; ///< by width: a layout asks for the same ones often
 };
+
+} // namespace desktop

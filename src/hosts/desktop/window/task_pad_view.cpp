@@ -13,6 +13,8 @@
 
 #include <algorithm>
 
+namespace desktop {
+
 namespace {
 
 /// The console's symbol font is not at hand: each task has a drawing of its own.
@@ -117,3 +119,5 @@ void TaskPadView::arrange()
     }
     grid_->setRowStretch(place / columns + 1, 1);
 }
+
+} // namespace desktop

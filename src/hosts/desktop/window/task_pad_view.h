@@ -7,6 +7,8 @@ class QGridLayout;
 class QLabel;
 class TaskPad;
 
+namespace desktop {
+
 /// The tasks of a task pad as large cards, to be clicked or reached by the keyboard.
 class TaskPadView final : public QWidget {
     Q_OBJECT
@@ -38,3 +40,5 @@ private:
     QPointer<QWidget> focused_; ///< the card that had the focus last
     int columns_ = 0;
 };
+
+} // namespace desktop

@@ -14,6 +14,8 @@
 
 #include <chrono>
 
+namespace desktop {
+
 namespace {
 
 ListViewDefinition definition(ListText text = ListText::serverCodePage)
@@ -203,3 +205,5 @@ TEST(ListModel, FiltersAndSortsThirtyThousandRowsWithoutAStutter)
 }
 
 } // namespace
+
+} // namespace desktop

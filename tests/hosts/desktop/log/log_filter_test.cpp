@@ -8,6 +8,8 @@
 
 #include <gmock/gmock.h>
 
+namespace desktop {
+
 namespace {
 
 using testing::ElementsAre;
@@ -174,3 +176,5 @@ TEST(Bookmarks, SurviveAReopeningOfTheLog)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -18,6 +18,8 @@
 
 #include <fstream>
 
+namespace desktop {
+
 namespace {
 
 QLineEdit& field(QWidget& bar, const char* accessibleName)
@@ -241,3 +243,5 @@ TEST(LogView, ALogThatShrankIsReadAnewByRefresh)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -15,6 +15,8 @@
 
 #include <numeric>
 
+namespace desktop {
+
 namespace {
 
 using testing::ElementsAre;
@@ -185,3 +187,5 @@ TEST(Overview, AClickOnItsLastMarkGoesThere)
 }
 
 } // namespace
+
+} // namespace desktop

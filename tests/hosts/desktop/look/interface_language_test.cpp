@@ -24,6 +24,8 @@
 #include <map>
 #include <set>
 
+namespace desktop {
+
 namespace {
 
 using testing::HasSubstr;
@@ -270,3 +272,5 @@ TEST(InterfaceLanguage, ChoosesByThePrimaryLanguageAndFallsBackToEnglish)
 }
 
 } // namespace
+
+} // namespace desktop

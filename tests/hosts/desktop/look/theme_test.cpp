@@ -10,6 +10,8 @@
 
 #include <cmath>
 
+namespace desktop {
+
 namespace {
 
 /// How bright a colour is to the eye, from 0 to 1, as the accessibility guidelines reckon it.
@@ -135,3 +137,5 @@ TEST(ToolStyle, DrawsTheSymbolsOfBarsAndFieldsInTheColoursOfTheTheme)
 }
 
 } // namespace
+
+} // namespace desktop

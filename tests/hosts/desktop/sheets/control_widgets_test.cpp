@@ -19,6 +19,8 @@
 
 #include <set>
 
+namespace desktop {
+
 namespace {
 
 /// Types over what is in a field, and ends with Enter.
@@ -311,3 +313,5 @@ TEST(PageWidget, ABodyWithoutACaptionTakesNoRoom)
 }
 
 } // namespace
+
+} // namespace desktop

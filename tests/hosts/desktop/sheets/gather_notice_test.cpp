@@ -18,6 +18,8 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 
+namespace desktop {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -190,3 +192,5 @@ TEST_F(GatherTold, ACancelAndWhatWasKeptAreSaidInTheLanguage)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace desktop {
+
 namespace {
 
 TEST(WithMnemonics, AreUniqueAndKeepTheLettersThatCaptionsName)
@@ -43,3 +45,5 @@ TEST(WithoutMnemonic, GivesTheCaptionAsItIsRead)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -11,6 +11,8 @@
 
 #include <gmock/gmock.h>
 
+namespace desktop {
+
 namespace {
 
 using testing::AllOf;
@@ -239,3 +241,5 @@ TEST(Picker, SaysWhatThePageMakesOfAStartInTheFuture)
 }
 
 } // namespace
+
+} // namespace desktop

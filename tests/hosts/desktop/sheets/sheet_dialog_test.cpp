@@ -14,6 +14,8 @@
 
 #include <set>
 
+namespace desktop {
+
 namespace {
 
 TEST(SheetDialog, AWizardGoesForthAndBackAndFinishes)
@@ -220,3 +222,5 @@ TEST(Wizards, AMacroTraceIsTurnedOnByKeysAlone)
 }
 
 } // namespace
+
+} // namespace desktop

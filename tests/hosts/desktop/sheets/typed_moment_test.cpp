@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace desktop {
+
 namespace {
 
 const QString english = QStringLiteral("M/d/yyyy");
@@ -90,3 +92,5 @@ TEST(TypedMoment, WhatIsNoTimeOrOnlyAPartOfOneIsNotUnderstood)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -15,6 +15,8 @@
 
 #include <filesystem>
 
+namespace desktop {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -204,3 +206,5 @@ TEST(Undone, TellsTheFirstErrorOfWhatWritesAndOnlyOnce)
 }
 
 } // namespace
+
+} // namespace desktop

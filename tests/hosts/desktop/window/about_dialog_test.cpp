@@ -8,6 +8,8 @@
 
 #include <gmock/gmock.h>
 
+namespace desktop {
+
 namespace {
 
 TEST(AboutDialog, GrowsWithItsLanguageSoThatNoTextIsCut)
@@ -33,3 +35,5 @@ TEST(AboutDialog, GrowsWithItsLanguageSoThatNoTextIsCut)
 }
 
 } // namespace
+
+} // namespace desktop

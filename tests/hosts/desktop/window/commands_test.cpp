@@ -23,6 +23,8 @@
 
 #include <set>
 
+namespace desktop {
+
 namespace {
 
 using Check = std::function<void()>;
@@ -397,3 +399,5 @@ TEST(Commands, ARecentSiteOpensByItsMenuEntry)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -18,6 +18,8 @@
 #include <fcntl.h>
 #include <sys/file.h>
 
+namespace desktop {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -222,3 +224,5 @@ TEST(EndWish, HearsOfTheEndOfTheSession)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -17,6 +17,8 @@
 
 #include <algorithm>
 
+namespace desktop {
+
 namespace {
 
 using testing::HasSubstr;
@@ -120,3 +122,5 @@ TEST(Help, EveryPageHasATopicThatTheManualHas)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -22,6 +22,8 @@
 
 #include <set>
 
+namespace desktop {
+
 namespace {
 
 using testing::HasSubstr;
@@ -316,3 +318,5 @@ TEST(MainWindow, StaysWithItsSiteWhileACancelledGatherEnds)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QSettings>
 
+namespace desktop {
+
 namespace {
 
 /// Settings in a file of their own.
@@ -46,3 +48,5 @@ TEST_F(RecentSites, AreNotWrittenAgainWhenTheSameSiteIsOpened)
 }
 
 } // namespace
+
+} // namespace desktop

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+namespace desktop {
+
 namespace {
 
 /// Every node below an index, each with its depth and text.
@@ -109,3 +111,5 @@ TEST(TreePane, SelectingANodeMovesTheConsolesSelectionAndTheOtherWayRound)
 }
 
 } // namespace
+
+} // namespace desktop

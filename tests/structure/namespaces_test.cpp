@@ -1,0 +1,46 @@
+#include "structure/source_tree.h"
+
+#include <gmock/gmock.h>
+
+#include <regex>
+
+namespace {
+
+/// Whether a header declares all that is its own within the namespace. Before it may stand what
+/// others define, behind it nothing.
+bool keepsTo(const std::string& space, const std::string& header)
+{
+    const std::regex begin("\nnamespace " + space + "(::\\w+)* \\{\n");
+    const std::regex end("\n\\} // namespace " + space + "(::\\w+)*\n$");
+    const std::regex definition("\n(class|struct|enum|constexpr|inline) [^;]*\\{");
+    std::smatch found;
+    if (!std::regex_search(header, found, begin)) return false;
+    return !std::regex_search(found.prefix().str(), definition) && std::regex_search(header, end);
+}
+
+std::vector<std::string> headersOutside(const std::string& folder, const std::string& space)
+{
+    std::vector<std::string> outside;
+    for (const auto& file : sourceFiles(folder))
+        if (file.ends_with(".h") && !keepsTo(space, textOf(file))) outside.push_back(file);
+    return outside;
+}
+
+TEST(Namespaces, AProgramsOwnNamesStandInItsNamespace)
+{
+    EXPECT_THAT(headersOutside("src/hosts/cli", "cli"), testing::IsEmpty());
+    EXPECT_THAT(headersOutside("src/hosts/desktop", "desktop"), testing::IsEmpty());
+}
+
+TEST(Namespaces, WhatStandsOutsideOfOneIsSeen)
+{
+    EXPECT_TRUE(keepsTo("cli", "#pragma once\n\nnamespace cli {\n\nclass A {};\n\n"
+                               "} // namespace cli\n"));
+    EXPECT_TRUE(
+        keepsTo("cli", "\nclass Q;\n\nnamespace cli::names {\n} // namespace cli::names\n"));
+    EXPECT_FALSE(keepsTo("cli", "\nclass A {};\n\nnamespace cli {\n} // namespace cli\n"));
+    EXPECT_FALSE(keepsTo("cli", "\nnamespace cli {\n} // namespace cli\n\nclass A {};\n"));
+    EXPECT_FALSE(keepsTo("cli", "\nclass A {};\n"));
+}
+
+} // namespace
