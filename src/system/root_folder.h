@@ -1,7 +1,7 @@
 #pragma once
 
 #include "system/file_descriptor.h"
-#include "system/open_beneath.h"
+#include "system/posix/open_beneath.h"
 
 #include <cstdint>
 #include <memory>

@@ -2,7 +2,7 @@
 
 #include "backends/site/command_line.h"
 #include "backends/site/files/site_paths.h"
-#include "system/posix_errors.h"
+#include "system/system_error.h"
 #include "system/whole_file.h"
 #include "text/utf8.h"
 
@@ -237,14 +237,14 @@ std::int32_t SiteProcesses::openFolder(const std::vector<std::string>& arguments
 std::int32_t SiteProcesses::spawn(const std::string& program, std::vector<std::string> arguments,
                                   Running running)
 {
-    if (::access(program.c_str(), X_OK) != 0) throw posixError(errno, runTimeErrors::fileNotFound);
+    if (::access(program.c_str(), X_OK) != 0) throw systemError(errno, runTimeErrors::fileNotFound);
     arguments.insert(arguments.begin(), program);
     auto variables = environmentWith(paths_.siteFolder());
     const SpawnPlan plan(paths_.currentFolder(), running.words.get());
     pid_t process = 0;
     const int error = ::posix_spawn(&process, program.c_str(), plan.actions(), plan.attributes(),
                                     pointersOf(arguments).data(), pointersOf(variables).data());
-    if (error == EACCES || error == EPERM) throw posixError(error, runTimeErrors::fileNotFound);
+    if (error == EACCES || error == EPERM) throw systemError(error, runTimeErrors::fileNotFound);
     if (error != 0) throw RunTimeError(runTimeErrors::invalidCall);
     running_[process] = std::move(running);
     return process;

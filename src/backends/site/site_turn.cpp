@@ -1,6 +1,6 @@
 #include "backends/site/site_turn.h"
 
-#include "system/posix_errors.h"
+#include "system/system_error.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -29,7 +29,7 @@ FileDescriptor openLock(const std::string& path)
         lock = FileDescriptor(::open(path.c_str(), O_RDONLY | always));
         if (!lock.isOpen() && (errno == ENOENT || errno == EACCES)) return lock;
     }
-    if (!lock.isOpen() && errno != ELOOP) throw posixError(errno, runTimeErrors::pathNotFound);
+    if (!lock.isOpen() && errno != ELOOP) throw systemError(errno, runTimeErrors::pathNotFound);
     struct stat facts {};
     if (!lock.isOpen() || ::fstat(lock.get(), &facts) != 0 || !S_ISREG(facts.st_mode))
         throw RunTimeError(runTimeErrors::permissionDenied, path + " is not a file");
@@ -41,7 +41,7 @@ bool tryLock(const FileDescriptor& lock)
 {
     while (::flock(lock.get(), LOCK_EX | LOCK_NB) != 0) {
         if (errno == EWOULDBLOCK) return false;
-        if (errno != EINTR) throw posixError(errno, runTimeErrors::deviceIo);
+        if (errno != EINTR) throw systemError(errno, runTimeErrors::deviceIo);
     }
     return true;
 }

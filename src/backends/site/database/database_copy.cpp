@@ -1,7 +1,7 @@
 #include "backends/site/database/database_copy.h"
 
 #include "runtime/run_time_error.h"
-#include "system/posix_errors.h"
+#include "system/system_error.h"
 #include "system/whole_file.h"
 
 #include <cerrno>
@@ -20,7 +20,7 @@ std::string newTemporaryFolder()
 {
     std::error_code none;
     std::string name = (fs::temp_directory_path(none) / "orvandiag-XXXXXX").string();
-    if (::mkdtemp(name.data()) == nullptr) throw posixError(errno, runTimeErrors::pathNotFound);
+    if (::mkdtemp(name.data()) == nullptr) throw systemError(errno, runTimeErrors::pathNotFound);
     return name;
 }
 

@@ -3,7 +3,7 @@
 #include "backends/site/events/trace_line_format.h"
 #include "platform/clock.h"
 #include "system/file_descriptor.h"
-#include "system/posix_errors.h"
+#include "system/system_error.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -66,7 +66,8 @@ void SiteEventReporter::report(const std::string& source, std::int32_t, int type
         site_.openFile(std::string(eventLogs) + "/Application.jsonl",
                        O_RDWR | O_CREAT | O_APPEND | O_NOFOLLOW, runTimeErrors::pathNotFound);
     if (endsWithinALine(log.get())) line.insert(0, "\n");
-    if (writeBytes(log.get(), line) < line.size()) throw posixError(errno, runTimeErrors::deviceIo);
+    if (writeBytes(log.get(), line) < line.size())
+        throw systemError(errno, runTimeErrors::deviceIo);
 }
 
 void SiteEventReporter::formatTraceLine(std::string_view rawLine, std::string& formatted)

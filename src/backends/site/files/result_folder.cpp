@@ -1,7 +1,7 @@
 #include "backends/site/files/result_folder.h"
 
 #include "backends/site/files/gather_leftovers.h"
-#include "system/posix_errors.h"
+#include "system/system_error.h"
 
 #include <cerrno>
 #include <ctime>

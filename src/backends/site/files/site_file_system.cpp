@@ -5,7 +5,7 @@
 #include "backends/site/files/folder_listing.h"
 #include "backends/site/files/site_text_reader.h"
 #include "backends/site/files/site_text_writer.h"
-#include "system/posix_errors.h"
+#include "system/system_error.h"
 #include "system/whole_file.h"
 
 #include <cerrno>
@@ -56,7 +56,7 @@ std::size_t startOfLastName(const std::string& path)
 struct stat factsOf(const FileDescriptor& file)
 {
     struct stat facts {};
-    if (::fstat(file.get(), &facts) != 0) throw posixError(errno, deviceIo);
+    if (::fstat(file.get(), &facts) != 0) throw systemError(errno, deviceIo);
     return facts;
 }
 
@@ -209,7 +209,7 @@ std::vector<FileInfo> SiteFileSystem::entries(const std::string& folder) const
     std::vector<FileInfo> found;
     for (auto& name : namesIn(place, folder)) {
         const auto facts = listing.factsOf(name);
-        if (listing.unseen() != 0) throw posixError(listing.unseen(), pathNotFound);
+        if (listing.unseen() != 0) throw systemError(listing.unseen(), pathNotFound);
         if (!S_ISREG(facts.st_mode) && !S_ISDIR(facts.st_mode)) continue;
         const auto [where, nameThere] = listing.entry(name);
         found.push_back(describe(where, nameThere, std::move(name), facts));
@@ -287,7 +287,7 @@ void SiteFileSystem::clearAttributes(const std::string& path)
     const std::string itself = "/proc/self/fd/" + std::to_string(file.get());
     const mode_t ordinary = 0666 & ~fileModeMask();
     if (::chmod(itself.c_str(), mode | ordinary | S_IRUSR | S_IWUSR) != 0)
-        throw posixError(errno, fileNotFound);
+        throw systemError(errno, fileNotFound);
 }
 
 std::unique_ptr<TextReader> SiteFileSystem::openForReading(const std::string& path) const
@@ -309,7 +309,7 @@ std::unique_ptr<TextWriter> SiteFileSystem::openForWriting(const std::string& pa
         place.root.removeFile(place.path);
         file = place.root.openFile(place.path, O_WRONLY | O_CREAT | O_EXCL, pathNotFound);
     } else if (flags != O_APPEND && ::ftruncate(file.get(), 0) != 0) {
-        throw posixError(errno, deviceIo);
+        throw systemError(errno, deviceIo);
     }
     return std::make_unique<SiteTextWriter>(std::move(file));
 }
@@ -345,7 +345,7 @@ DiskSpace SiteFileSystem::diskSpace(const std::string& drive) const
     const SitePlace place = paths_.place(drive);
     const FileDescriptor folder = place.root.open(place.path, O_PATH);
     if (!folder.isOpen()) place.root.fail(place.path, pathNotFound);
-    if (::fstatvfs(folder.get(), &facts) != 0) throw posixError(errno, pathNotFound);
+    if (::fstatvfs(folder.get(), &facts) != 0) throw systemError(errno, pathNotFound);
     const auto blockSize = static_cast<std::int64_t>(facts.f_frsize);
     return {static_cast<std::int64_t>(facts.f_bavail) * blockSize,
             static_cast<std::int64_t>(facts.f_blocks) * blockSize};

@@ -1,6 +1,6 @@
 #include "backends/site/files/site_text_reader.h"
 
-#include "system/posix_errors.h"
+#include "system/system_error.h"
 
 #include <cerrno>
 #include <cstring>
@@ -51,7 +51,7 @@ bool SiteTextReader::fill()
     for (;;) {
         const ssize_t count = ::read(file_.get(), buffer_.get() + end_, capacity_ - end_);
         if (count < 0 && errno == EINTR) continue;
-        if (count < 0) throw posixError(errno, runTimeErrors::deviceIo);
+        if (count < 0) throw systemError(errno, runTimeErrors::deviceIo);
         end_ += static_cast<std::size_t>(count);
         return count > 0;
     }

@@ -1,7 +1,7 @@
 #include "backends/site/files/site_text_writer.h"
 
 #include "runtime/text.h"
-#include "system/posix_errors.h"
+#include "system/system_error.h"
 
 #include <cerrno>
 #include <utility>
@@ -39,7 +39,7 @@ void SiteTextWriter::write(std::string_view text)
     if (text.size() < bufferSize) {
         buffer_ += text;
     } else if (writeBytes(file_.get(), text) < text.size()) {
-        throw posixError(errno, runTimeErrors::deviceIo);
+        throw systemError(errno, runTimeErrors::deviceIo);
     }
 }
 
@@ -57,12 +57,12 @@ void SiteTextWriter::flush()
     const int error = errno;
     const bool whole = written == buffer_.size();
     buffer_.erase(0, written);
-    if (!whole) throw posixError(error, runTimeErrors::deviceIo);
+    if (!whole) throw systemError(error, runTimeErrors::deviceIo);
 }
 
 void SiteTextWriter::close()
 {
     if (!file_.isOpen()) return;
     flush();
-    if (const int error = file_.close()) throw posixError(error, runTimeErrors::deviceIo);
+    if (const int error = file_.close()) throw systemError(error, runTimeErrors::deviceIo);
 }

@@ -1,7 +1,7 @@
 #include "backends/site/registry/site_registry.h"
 
 #include "backends/site/registry/registry_file.h"
-#include "system/posix_errors.h"
+#include "system/system_error.h"
 #include "system/whole_file.h"
 
 #include <cerrno>
@@ -74,7 +74,7 @@ void SiteRegistry::read() const
 const FileDescriptor& SiteRegistry::remember() const
 {
     struct stat facts {};
-    if (::fstat(file_.get(), &facts) != 0) throw posixError(errno, runTimeErrors::deviceIo);
+    if (::fstat(file_.get(), &facts) != 0) throw systemError(errno, runTimeErrors::deviceIo);
     facts_ = facts;
     return file_;
 }
@@ -164,7 +164,7 @@ void SiteRegistry::waitFor(const FileDescriptor& lock)
     patience_.begin();
     for (int tries = 0; ::flock(lock.get(), LOCK_EX | LOCK_NB) != 0; ++tries) {
         if (errno == EINTR) continue;
-        if (errno != EWOULDBLOCK) throw posixError(errno, runTimeErrors::deviceIo);
+        if (errno != EWOULDBLOCK) throw systemError(errno, runTimeErrors::deviceIo);
         if (!patience_.wait(tries))
             throw RunTimeError(runTimeErrors::permissionDenied,
                                "Permission denied: another program holds " + site_.shown(fileName) +

@@ -1,4 +1,4 @@
-#include "system/open_beneath.h"
+#include "system/posix/open_beneath.h"
 
 #include <algorithm>
 #include <atomic>

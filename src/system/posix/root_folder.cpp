@@ -1,6 +1,6 @@
 #include "system/root_folder.h"
 
-#include "system/posix_errors.h"
+#include "system/system_error.h"
 #include "text/utf8.h"
 
 #include <cerrno>
@@ -27,15 +27,15 @@ std::string joined(const std::string& folder, const std::string& name)
 /// Names in an open folder, without "." and "..". Raises 76, 70.
 std::vector<std::string> namesOf(FileDescriptor folder)
 {
-    if (!folder.isOpen()) throw posixError(errno, pathNotFound);
+    if (!folder.isOpen()) throw systemError(errno, pathNotFound);
     const std::unique_ptr<DIR, int (*)(DIR*)> listing(::fdopendir(folder.get()), ::closedir);
-    if (!listing) throw posixError(errno, pathNotFound);
+    if (!listing) throw systemError(errno, pathNotFound);
     folder.release();
     std::vector<std::string> names;
     for (;;) {
         errno = 0;
         const dirent* entry = ::readdir(listing.get());
-        if (entry == nullptr && errno != 0) throw posixError(errno, pathNotFound);
+        if (entry == nullptr && errno != 0) throw systemError(errno, pathNotFound);
         if (entry == nullptr) return names;
         const std::string_view name = entry->d_name;
         if (name != "." && name != "..") names.emplace_back(name);
@@ -67,13 +67,13 @@ void removeContents(FileDescriptor folder)
     for (const auto& name : namesOf(std::move(folder))) {
         struct stat facts {};
         if (::fstatat(present.get(), name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) != 0)
-            throw posixError(errno, pathNotFound);
+            throw systemError(errno, pathNotFound);
         const bool isFolder = S_ISDIR(facts.st_mode);
         if (isFolder) removeContents(openListing(present.get(), name));
         if (S_ISREG(facts.st_mode) && (facts.st_mode & S_IWUSR) == 0)
             throw RunTimeError(permissionDenied);
         if (::unlinkat(present.get(), name.c_str(), isFolder ? AT_REMOVEDIR : 0) != 0)
-            throw posixError(errno, pathNotFound);
+            throw systemError(errno, pathNotFound);
     }
 }
 
@@ -122,7 +122,7 @@ RootFolder::RootFolder(const std::string& path, Bounds bounds)
     : folder_(std::make_shared<FileDescriptor>(::open(path.c_str(), folderFlags))), path_(path),
       bounds_(bounds)
 {
-    if (!folder_->isOpen()) throw posixError(errno, pathNotFound);
+    if (!folder_->isOpen()) throw systemError(errno, pathNotFound);
 }
 
 RootFolder::RootFolder(std::shared_ptr<FileDescriptor> folder, std::string path, Bounds bounds)
@@ -339,5 +339,5 @@ void RootFolder::fail(const std::string& path, int missing) const
     if (error == ELOOP)
         throw RunTimeError(permissionDenied,
                            "Permission denied: " + shown(path) + " is a link that is not followed");
-    throw posixError(error, missing);
+    throw systemError(error, missing);
 }

@@ -1,6 +1,6 @@
 #include "system/whole_file.h"
 
-#include "system/posix_errors.h"
+#include "system/system_error.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -30,7 +30,7 @@ std::pair<std::string, FileDescriptor> makeTemporary(const RootFolder& folder, m
                            std::to_string(random() % 1'000'000'000);
         FileDescriptor file = folder.open(name, O_WRONLY | O_CREAT | O_EXCL, mode);
         if (file.isOpen()) return {std::move(name), std::move(file)};
-        if (errno != EEXIST) throw posixError(errno, runTimeErrors::pathNotFound);
+        if (errno != EEXIST) throw systemError(errno, runTimeErrors::pathNotFound);
     }
     throw RunTimeError(runTimeErrors::permissionDenied);
 }
@@ -95,7 +95,7 @@ std::string readWholeFile(const FileDescriptor& file, int missing, std::size_t l
     for (;;) {
         const ssize_t count = ::read(file.get(), buffer, sizeof buffer);
         if (count < 0 && errno == EINTR) continue;
-        if (count < 0) throw posixError(errno, missing);
+        if (count < 0) throw systemError(errno, missing);
         if (count == 0) return bytes;
         if (bytes.size() + static_cast<std::size_t>(count) > limit)
             throw RunTimeError(runTimeErrors::outOfStringSpace);
@@ -117,29 +117,29 @@ ReplacementFile::~ReplacementFile()
 void ReplacementFile::write(std::string_view bytes)
 {
     if (writeBytes(file_.get(), bytes) < bytes.size())
-        throw posixError(errno, runTimeErrors::deviceIo);
+        throw systemError(errno, runTimeErrors::deviceIo);
 }
 
 void ReplacementFile::commit(bool synced)
 {
-    if (synced && ::fdatasync(file_.get()) != 0) throw posixError(errno, runTimeErrors::deviceIo);
-    if (const int error = file_.close()) throw posixError(error, runTimeErrors::deviceIo);
+    if (synced && ::fdatasync(file_.get()) != 0) throw systemError(errno, runTimeErrors::deviceIo);
+    if (const int error = file_.close()) throw systemError(error, runTimeErrors::deviceIo);
     if (::renameat(folder_.descriptor(), temporary_.c_str(), folder_.descriptor(),
                    target_.c_str()) != 0)
-        throw posixError(errno, runTimeErrors::pathNotFound);
+        throw systemError(errno, runTimeErrors::pathNotFound);
     temporary_.clear();
 }
 
 void copyWholeFile(const FileDescriptor& source, const RootFolder& root, const std::string& target)
 {
     struct stat facts {};
-    if (::fstat(source.get(), &facts) != 0) throw posixError(errno, runTimeErrors::fileNotFound);
+    if (::fstat(source.get(), &facts) != 0) throw systemError(errno, runTimeErrors::fileNotFound);
     ReplacementFile copy(root, target, facts.st_mode & 0777);
     int way = 0;
     for (;;) {
         const ssize_t count = copySome(source.get(), copy.descriptor(), way);
         if (count == 0) break;
-        if (count < 0 && errno != EINTR) throw posixError(errno, runTimeErrors::deviceIo);
+        if (count < 0 && errno != EINTR) throw systemError(errno, runTimeErrors::deviceIo);
     }
     const timespec times[] = {facts.st_atim, facts.st_mtim};
     ::futimens(copy.descriptor(), times);

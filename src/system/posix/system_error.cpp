@@ -1,11 +1,11 @@
-#include "system/posix_errors.h"
+#include "system/system_error.h"
 
 #include <cerrno>
 
-int runTimeErrorNumber(int systemError, int missing)
+int runTimeErrorNumber(int error, int missing)
 {
     using namespace runTimeErrors;
-    switch (systemError) {
+    switch (error) {
     case ENOENT:
     case ENOTDIR:
     case ENAMETOOLONG:
@@ -35,7 +35,7 @@ int runTimeErrorNumber(int systemError, int missing)
     }
 }
 
-RunTimeError posixError(int systemError, int missing)
+RunTimeError systemError(int error, int missing)
 {
-    return RunTimeError(runTimeErrorNumber(systemError, missing));
+    return RunTimeError(runTimeErrorNumber(error, missing));
 }
