@@ -1,9 +1,8 @@
 #pragma once
 
-#include <string_view>
 #include <utility>
 
-/// Owner of an open file.
+/// Owner of an open file, by the small number that the C library gives it.
 class FileDescriptor {
 public:
     FileDescriptor() = default;
@@ -31,7 +30,3 @@ public:
 private:
     int descriptor_ = -1;
 };
-
-/// Writes bytes, however many calls it takes. Gives how many of them were written: all of them, or
-/// fewer with the system's error number in `errno`.
-std::size_t writeBytes(int descriptor, std::string_view bytes);

@@ -1,14 +1,20 @@
 #pragma once
 
 #include "system/file_descriptor.h"
-#include "system/posix/open_beneath.h"
+#include "system/file_facts.h"
+#include "system/file_opening.h"
 
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
-#include <sys/stat.h>
 #include <vector>
+
+/// How much a file system holds, in bytes.
+struct FileSystemRoom {
+    std::int64_t free = 0; ///< for this user
+    std::int64_t total = 0;
+};
 
 /// A folder of the machine, held open, and what lies below it.
 ///
@@ -47,19 +53,30 @@ public:
     /// there, else the first that differs in case alone. Raises 70 for a link that leads out.
     std::string pathIgnoringCase(const std::vector<std::string>& names) const;
 
-    /// Opens as open(2); not open, with `errno`, when that fails.
-    FileDescriptor open(const std::string& path, int flags, mode_t mode = 0,
-                        Links links = Links::within) const;
+    /// Opens a plain file, and nothing else, at once. Raises `missing` when it is not there, 58 for
+    /// a name that had to be free, 70, 61, 57.
+    FileDescriptor openFile(const std::string& path, const FileOpening& opening, int missing) const;
 
-    /// Opens a plain file, and nothing else, at once. Raises `missing` when it is not there, 70.
-    FileDescriptor openFile(const std::string& path, int flags, int missing,
-                            mode_t mode = 0666) const;
+    /// The same; not open where the user may not open it so.
+    FileDescriptor openIfAllowed(const std::string& path, const FileOpening& opening,
+                                 int missing) const;
+
+    /// The folder itself, to be locked. The programs that are started meanwhile get it too. Raises
+    /// 76, 70, 57.
+    FileDescriptor openToPassOn() const;
 
     /// Of what a path leads to; nothing when nothing is there. Raises 70, 57.
-    std::optional<struct stat> facts(const std::string& path) const;
+    std::optional<FileFacts> facts(const std::string& path) const;
 
     /// Of the last name itself, which may be a link; nothing when nothing is there. Raises 70, 57.
-    std::optional<struct stat> ownFacts(const std::string& path) const;
+    std::optional<FileFacts> ownFacts(const std::string& path) const;
+
+    /// When what a path leads to came to be; nothing where the file system does not know, or
+    /// nothing is there.
+    std::optional<FileMoment> birth(const std::string& path) const;
+
+    /// Of the file system where a path leads to. Raises 76, 70, 57.
+    FileSystemRoom room(const std::string& path) const;
 
     bool isFile(const std::string& path) const;   ///< false also where no way leads
     bool isFolder(const std::string& path) const; ///< false also where no way leads
@@ -71,7 +88,7 @@ public:
     std::int64_t size(const std::string& path) const;
 
     /// Makes the last name. Raises 58, 76, 70.
-    void makeFolder(const std::string& path, mode_t mode = 0777) const;
+    void makeFolder(const std::string& path, OthersMay others = OthersMay::write) const;
 
     /// Makes a folder with those above it, as far as they are missing. Raises 76, 70.
     void makeFolders(const std::string& path) const;
@@ -86,18 +103,23 @@ public:
     /// Removes an empty folder, never through a link. Raises 76, 70.
     void removeEmptyFolder(const std::string& path) const;
 
+    /// Lets the owner of a plain file read and write it, and others as far as the user's settings
+    /// leave new files to them. Raises 53, 70.
+    void allowWriting(const std::string& path) const;
+
     /// Removes a folder with what it holds, never through a link. Raises 76, and 70 at the first
     /// file that is read-only: what came before it is gone.
     void removeFolder(const std::string& path) const;
 
-    /// Raises `missing` or what else `errno` stands for, with the path where that tells more.
-    [[noreturn]] void fail(const std::string& path, int missing) const;
-
 private:
     RootFolder(std::shared_ptr<FileDescriptor> folder, std::string path, Bounds bounds);
 
-    /// The folder that holds the last name.
-    FileDescriptor parentOf(const std::string& path, Links links) const;
+    /// How this folder's own calls open what lies below it.
+    struct Way;
+    Way way() const;
+
+    /// Raises `missing` or what else `errno` stands for, with the path where that tells more.
+    [[noreturn]] void fail(const std::string& path, int missing) const;
 
     std::shared_ptr<FileDescriptor> folder_;
     std::string path_;
@@ -107,3 +129,7 @@ private:
 /// The last name of a path, and what stands before it without a separator at its end.
 std::string lastNameOf(const std::string& path);
 std::string folderPathOf(const std::string& path);
+
+/// Opens a plain file of the machine, and nothing else, at once: one that a person named, or we
+/// installed. Raises as `RootFolder::openFile`.
+FileDescriptor openMachineFile(const std::string& path, const FileOpening& opening, int missing);

@@ -2,9 +2,27 @@
 
 #include "runtime/run_time_error.h"
 
-/// The run-time error number of a failed system call. A name that leads nowhere gives `missing`,
-/// which the caller chooses: 53 for a file, 76 for a folder.
+#include <string>
+
+/// The run-time error number of a failed system call, by the number that it left in `errno`. A name
+/// that leads nowhere gives `missing`, which the caller chooses: 53 for a file, 76 for a folder.
 int runTimeErrorNumber(int error, int missing);
 
-/// The error itself, with its standard text.
-RunTimeError systemError(int error, int missing);
+/// A failed system call, with the standard text of its number.
+class SystemError : public RunTimeError {
+public:
+    SystemError(int error, int missing);
+
+    /// What the system itself says of it, such as "No space left on device".
+    std::string words() const;
+
+private:
+    int error_;
+};
+
+/// The error of a failed system call.
+SystemError systemError(int error, int missing);
+
+/// The same error, told with what was tried: `what`, ": ", and the system's own words where a call
+/// of it failed, else those that the error has.
+RunTimeError toldWith(const std::string& what, const RunTimeError& error);

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "system/file_bytes.h"
 #include "system/file_descriptor.h"
+#include "system/file_facts.h"
+#include "system/file_opening.h"
 #include "system/root_folder.h"
 
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <sys/types.h>
 
 /// All of a plain file. Raises `missing` (53, 76 or another number) when it is not there, 70, 57,
 /// and 14 for more than `limit` bytes.
@@ -24,22 +26,37 @@ std::string readWholeFile(const FileDescriptor& file, int missing, std::size_t l
 class ReplacementFile {
 public:
     /// Raises 76 when the folder is missing, 70, 61, 57.
-    ReplacementFile(const RootFolder& root, const std::string& target, mode_t mode);
+    ReplacementFile(const RootFolder& root, const std::string& target,
+                    OthersMay others = OthersMay::write);
     ~ReplacementFile();
 
     ReplacementFile(const ReplacementFile&) = delete;
     ReplacementFile& operator=(const ReplacementFile&) = delete;
 
-    int descriptor() const { return file_.get(); }
+    /// The open file, to be read and written; not open once it was closed.
+    const FileDescriptor& file() const { return file_; }
+
+    /// Gives the file what another one allows, and its owner where the system lets us.
+    void resemble(const FileDescriptor& model);
 
     /// Raises 61, 57.
-    void write(std::string_view bytes);
+    void write(std::string_view bytes) { writeAll(file_, bytes); }
+
+    /// Ends the writing before `commit` does: what the system still had to say has been said.
+    /// Raises 61, 57.
+    void close();
 
     /// Puts the file in the target's place, over what stands there, be it a link; `synced`: safe on
     /// the disk first. Raises 61, 57, 70.
     void commit(bool synced);
 
 private:
+    friend void copyWholeFile(const FileDescriptor& source, const RootFolder& root,
+                              const std::string& target);
+
+    /// `mode` is what the system is asked for.
+    ReplacementFile(const RootFolder& root, const std::string& target, unsigned mode);
+
     RootFolder folder_; ///< the target's
     std::string target_;
     std::string temporary_;
@@ -51,11 +68,17 @@ private:
 /// 70, 61, 57.
 void copyWholeFile(const FileDescriptor& source, const RootFolder& root, const std::string& target);
 
+/// Whether a name is one that a replacement file has until it is in its place.
+bool isReplacementFile(std::string_view name);
+
+/// Whether a file with such a name, which has these facts, is one that a program of ours that was
+/// killed has left: no program of this machine owns it any more, or it is older than an hour.
+bool isLeftReplacementFile(std::string_view name, const FileFacts& facts);
+
 /// Removes from a folder what programs of ours that were killed have left of their replacement
-/// files: those that no program of this machine owns any more, and those that are older than an
-/// hour. What can't be removed stays.
+/// files. What can't be removed stays.
 void sweepReplacementFiles(const RootFolder& root, const std::string& folder);
 
 /// Whether what bears a process's number in its name, and has these facts, is ours and owned by no
 /// program any more.
-bool isLeftBehind(std::string_view process, const struct stat& facts);
+bool isLeftBehind(std::string_view process, const FileFacts& facts);

@@ -1,15 +1,17 @@
 #include "system/root_folder.h"
 
 #include "support/temporary_folder.h"
+#include "system/file_bytes.h"
 
 #include <gmock/gmock.h>
 
 #include <cerrno>
-#include <fcntl.h>
+#include <sys/fsuid.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
+#include <unistd.h>
 
 namespace {
 
@@ -59,7 +61,7 @@ TEST_F(RootFolderTest, WhatLeadsOutIsRefusedByName)
 {
     const std::string text =
         "Permission denied: " + (box / "in/away/secret.txt") + " leads out of the site";
-    EXPECT_EQ(text, errorTextOf([&] { root.openFile("away/secret.txt", O_RDONLY, 53); }));
+    EXPECT_EQ(text, errorTextOf([&] { root.openFile("away/secret.txt", forReading, 53); }));
     EXPECT_EQ(70, errorOf([&] { root.facts("away/secret.txt"); }));
     EXPECT_EQ(70, errorOf([&] { root.names("away"); }));
     EXPECT_EQ(70, errorOf([&] { root.makeFolder("away/new"); }));
@@ -79,13 +81,15 @@ TEST_F(RootFolderTest, OpensPlainFilesAloneAndWaitsForNothing)
     ASSERT_EQ(0, ::bind(listener.get(), reinterpret_cast<sockaddr*>(&address), sizeof address));
 
     for (const char* name : {"pipe", "socket", "a"})
-        for (const int flags : {O_RDONLY, O_WRONLY, O_RDWR | O_CREAT})
-            EXPECT_EQ(70, errorOf([&] { root.openFile(name, flags, 53); })) << name << flags;
-    EXPECT_THAT(errorTextOf([&] { root.openFile("pipe", O_WRONLY, 53); }),
+        for (const auto& opening : {forReading, FileOpening{FileAccess::write},
+                                    FileOpening{FileAccess::readAndWrite, Creation::ifMissing}})
+            EXPECT_EQ(70, errorOf([&] { root.openFile(name, opening, 53); }))
+                << name << static_cast<int>(opening.access);
+    EXPECT_THAT(errorTextOf([&] { root.openFile("pipe", {FileAccess::write}, 53); }),
                 testing::EndsWith("in/pipe is no plain file"));
-    EXPECT_EQ(53, errorOf([&] { root.openFile("none", O_RDONLY, 53); }));
+    EXPECT_EQ(53, errorOf([&] { root.openFile("none", forReading, 53); }));
     const RootFolder devices("/dev", RootFolder::Bounds::machine);
-    EXPECT_EQ(70, errorOf([&] { devices.openFile("zero", O_RDONLY, 53); }));
+    EXPECT_EQ(70, errorOf([&] { devices.openFile("zero", forReading, 53); }));
 }
 
 TEST_F(RootFolderTest, FindsNamesInAnyCase)
@@ -126,9 +130,9 @@ TEST_F(RootFolderTest, TellsWhereAPathLies)
 
 TEST_F(RootFolderTest, FactsAreOfTheTargetOrOfTheNameItself)
 {
-    EXPECT_TRUE(S_ISDIR(root.facts("near")->st_mode));
-    EXPECT_TRUE(S_ISLNK(root.ownFacts("near")->st_mode));
-    EXPECT_TRUE(S_ISLNK(root.ownFacts("away")->st_mode));
+    EXPECT_EQ(FileKind::folder, root.facts("near")->kind);
+    EXPECT_EQ(FileKind::link, root.ownFacts("near")->kind);
+    EXPECT_EQ(FileKind::link, root.ownFacts("away")->kind);
     EXPECT_FALSE(root.facts("none"));
     EXPECT_FALSE(root.facts("a/File.txt/none"));
     EXPECT_TRUE(root.isFile("near/File.txt"));
@@ -159,6 +163,50 @@ TEST_F(RootFolderTest, MakesFolders)
     EXPECT_EQ(58, errorOf([&] { root.makeFolder("x"); }));
     EXPECT_EQ(76, errorOf([&] { root.makeFolder("none/x"); }));
     EXPECT_THAT(root.names(""), testing::UnorderedElementsAre("a", "away", "near", "x"));
+}
+
+TEST_F(RootFolderTest, AFolderCanBeMadeForItsOwnerAlone)
+{
+    root.makeFolder("own", OthersMay::nothing);
+    EXPECT_EQ(fs::perms::owner_all, fs::status(box / "in/own").permissions());
+}
+
+TEST_F(RootFolderTest, OpensAFileAsItIsAsked)
+{
+    const FileOpening fresh{FileAccess::write, Creation::always};
+    writeAll(root.openFile("new", fresh, 53), "one");
+    EXPECT_EQ(58, errorOf([&] { root.openFile("new", fresh, 53); }));
+    EXPECT_EQ(58, errorOf([&] { root.openFile("near", fresh, 53); })) << "a link bears the name";
+    writeAll(root.openFile("new", {FileAccess::append, Creation::ifMissing}, 53), " two");
+    EXPECT_EQ("one two", box.read("in/new"));
+    writeAll(root.openFile("new", {FileAccess::readAndWrite}, 53), "ONE");
+    EXPECT_EQ("ONE two", box.read("in/new"));
+    fs::create_symlink("new", box / "in/toNew");
+    EXPECT_EQ(70, errorOf([&] { root.openFile("toNew", {.lastLink = LastLink::refused}, 53); }));
+}
+
+TEST_F(RootFolderTest, WhatMayNotBeOpenedIsNoErrorWhereThatIsAllowedFor)
+{
+    const FileOpening writing{FileAccess::readAndWrite, Creation::ifMissing};
+    EXPECT_TRUE(root.openIfAllowed("lock", writing, 76).isOpen());
+    EXPECT_EQ(76, errorOf([&] { root.openIfAllowed("none/lock", writing, 76); }));
+    EXPECT_EQ(70, errorOf([&] { root.openIfAllowed("away/lock", writing, 76); }));
+    fs::permissions(box / "in", fs::perms(0555));
+    ::setfsuid(65534); // the one who may do everything is no test
+    EXPECT_FALSE(root.openIfAllowed("other", writing, 76).isOpen());
+    ::setfsuid(::geteuid());
+    fs::permissions(box / "in", fs::perms(0755));
+}
+
+TEST_F(RootFolderTest, AReadOnlyFileCanBeMadeWritable)
+{
+    fs::permissions(box / "in/a/File.txt", fs::perms::owner_read);
+    EXPECT_TRUE(root.facts("a/File.txt")->readOnly);
+    root.allowWriting("near/File.txt");
+    EXPECT_FALSE(root.facts("a/File.txt")->readOnly);
+    EXPECT_EQ(53, errorOf([&] { root.allowWriting("a"); })) << "a folder is no file";
+    EXPECT_EQ(53, errorOf([&] { root.allowWriting("none"); }));
+    EXPECT_EQ(70, errorOf([&] { root.allowWriting("away/secret.txt"); }));
 }
 
 } // namespace

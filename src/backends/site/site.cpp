@@ -5,10 +5,10 @@
 #include "backends/site/database/sqlite_handle.h"
 #include "backends/site/files/tool_folder.h"
 #include "runtime/run_time_error.h"
+#include "system/file_facts.h"
 #include "system/whole_file.h"
 
 #include <filesystem>
-#include <sys/stat.h>
 #include <utility>
 
 namespace {
@@ -69,11 +69,11 @@ InstalledPrograms installedPrograms(const std::string& installedData)
 bool isSite(const std::string& folder)
 {
     // What can't be opened as it should counts: the opening tells why.
-    struct stat facts {};
     for (const char* name : {"/site.ini", "/registry.reg"})
-        if (::lstat((folder + name).c_str(), &facts) == 0 && !S_ISDIR(facts.st_mode)) return true;
-    return ::lstat((folder + "/drive_c").c_str(), &facts) == 0 &&
-           (S_ISDIR(facts.st_mode) || S_ISLNK(facts.st_mode));
+        if (const auto facts = ownFactsOf(folder + name); facts && facts->kind != FileKind::folder)
+            return true;
+    const auto drive = ownFactsOf(folder + "/drive_c");
+    return drive && (drive->kind == FileKind::folder || drive->kind == FileKind::link);
 }
 
 Site::Site(const std::string& folder, const std::string& installedData, HostFacts host, SiteUse use)

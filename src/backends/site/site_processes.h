@@ -3,10 +3,10 @@
 #include "platform/processes.h"
 #include "system/file_descriptor.h"
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
-#include <sys/types.h>
 #include <vector>
 
 class SitePaths;
@@ -57,6 +57,6 @@ private:
 
     const SitePaths& paths_;
     InstalledPrograms installed_;
-    std::map<pid_t, Running> running_;
+    std::map<std::int32_t, Running> running_;
     ProcessReport lastReport_;
 };

@@ -5,12 +5,6 @@
 
 #include <string>
 
-/// The machine's host name, as far as it can be known.
-std::string machineName();
-
-/// The name of who runs the tool, as far as it can be known.
-std::string loginName();
-
 /// The computer and the user of a site; the machine's own where its settings leave them out.
 class SiteWorkstation final : public Workstation {
 public:

@@ -1,5 +1,8 @@
 #include "system/root_folder.h"
 
+#include "system/posix/open_beneath.h"
+#include "system/posix/permissions.h"
+#include "system/posix/stat_facts.h"
 #include "system/system_error.h"
 #include "text/utf8.h"
 
@@ -8,6 +11,8 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <string_view>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 #include <utility>
 
@@ -17,6 +22,50 @@ using namespace runTimeErrors;
 
 constexpr int folderFlags = O_PATH | O_DIRECTORY | O_CLOEXEC;
 constexpr int listingFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+
+int flagsOf(const FileOpening& opening)
+{
+    // What is no plain file is not waited for: a pipe has a writer, or none, that does not come.
+    int flags = O_NONBLOCK | O_NOCTTY;
+    switch (opening.access) {
+    case FileAccess::read:
+        flags |= O_RDONLY;
+        break;
+    case FileAccess::write:
+        flags |= O_WRONLY;
+        break;
+    case FileAccess::append:
+        flags |= O_WRONLY | O_APPEND;
+        break;
+    case FileAccess::readAndWrite:
+        flags |= O_RDWR;
+        break;
+    case FileAccess::readAndAppend:
+        flags |= O_RDWR | O_APPEND;
+        break;
+    }
+    if (opening.creation != Creation::never) flags |= O_CREAT;
+    if (opening.creation == Creation::always) flags |= O_EXCL;
+    if (opening.lastLink == LastLink::refused) flags |= O_NOFOLLOW;
+    return flags;
+}
+
+/// Refuses what is no plain file; `file` is not open where the system opens no such thing.
+FileDescriptor requirePlain(FileDescriptor file, const std::string& shown)
+{
+    struct stat facts {};
+    if (!file.isOpen() || ::fstat(file.get(), &facts) != 0 ||
+        (!S_ISREG(facts.st_mode) && !S_ISDIR(facts.st_mode)))
+        throw RunTimeError(permissionDenied, "Permission denied: " + shown + " is no plain file");
+    if (S_ISDIR(facts.st_mode)) throw RunTimeError(permissionDenied);
+    return file;
+}
+
+/// Whether a failed opening says that there is something, and no file.
+bool isNoFile(int error)
+{
+    return error == ENXIO || error == ENODEV;
+}
 
 std::string joined(const std::string& folder, const std::string& name)
 {
@@ -96,6 +145,12 @@ std::optional<std::string> nameIgnoringCase(FileDescriptor folder, const std::st
     return found;
 }
 
+/// Whether a path is a name in the folder itself, which leads nowhere else.
+bool isSingleName(const std::string& path)
+{
+    return !path.empty() && path != ".." && path.find('/') == std::string::npos;
+}
+
 /// What the system calls an open file.
 std::string nameOfDescriptor(int descriptor)
 {
@@ -106,6 +161,33 @@ std::string nameOfDescriptor(int descriptor)
 }
 
 } // namespace
+
+/// Opens as open(2), in the bounds of the root; not open, with `errno`, when that fails.
+struct RootFolder::Way {
+    const RootFolder& root;
+
+    FileDescriptor open(const std::string& path, int flags, Links links = Links::within) const
+    {
+        const int folder = root.descriptor();
+        const mode_t mode = newFileMode(OthersMay::write);
+        if (root.bounds_ == Bounds::beneath) return openBeneath(folder, path, flags, mode, links);
+        const char* name = path.empty() ? "." : path.c_str();
+        return FileDescriptor(::openat(folder, name, flags | O_CLOEXEC, mode));
+    }
+
+    /// The folder that holds the last name.
+    FileDescriptor parentOf(const std::string& path, Links links) const
+    {
+        FileDescriptor folder = open(folderPathOf(path), folderFlags, links);
+        if (!folder.isOpen()) root.fail(folderPathOf(path), pathNotFound);
+        return folder;
+    }
+};
+
+RootFolder::Way RootFolder::way() const
+{
+    return {*this};
+}
 
 std::string lastNameOf(const std::string& path)
 {
@@ -131,7 +213,7 @@ RootFolder::RootFolder(std::shared_ptr<FileDescriptor> folder, std::string path,
 
 std::optional<RootFolder> RootFolder::belowIfThere(const std::string& path) const
 {
-    auto folder = std::make_shared<FileDescriptor>(open(path, folderFlags));
+    auto folder = std::make_shared<FileDescriptor>(way().open(path, folderFlags));
     if (folder->isOpen()) return RootFolder(std::move(folder), shown(path), bounds_);
     if (errno == ENOENT || errno == ENOTDIR) return {};
     fail(path, pathNotFound);
@@ -155,7 +237,7 @@ std::string RootFolder::machinePath(const std::string& path) const
     const std::string top = nameOfDescriptor(folder_->get());
     std::string rest;
     for (std::string there = path;; there = folderPathOf(there)) {
-        const FileDescriptor file = open(there, O_PATH);
+        const FileDescriptor file = way().open(there, O_PATH);
         if (!file.isOpen() && errno != ENOENT && errno != ENOTDIR && errno != EACCES)
             fail(there, permissionDenied);
         const std::string name = file.isOpen() ? nameOfDescriptor(file.get()) : std::string();
@@ -172,13 +254,13 @@ std::string RootFolder::pathIgnoringCase(const std::vector<std::string>& names) 
 {
     std::string exact;
     for (const auto& name : names) exact = joined(exact, name);
-    if (open(exact, O_PATH).isOpen()) return exact;
+    if (way().open(exact, O_PATH).isOpen()) return exact;
     if (errno == EXDEV || errno == ELOOP) fail(exact, permissionDenied);
     std::string path;
     bool exists = true;
     for (const auto& name : names) {
         if (exists) {
-            const FileDescriptor folder = open(path, folderFlags);
+            const FileDescriptor folder = way().open(path, folderFlags);
             struct stat facts {};
             exists = folder.isOpen() &&
                      ::fstatat(folder.get(), name.c_str(), &facts, AT_SYMLINK_NOFOLLOW) == 0;
@@ -192,97 +274,124 @@ std::string RootFolder::pathIgnoringCase(const std::vector<std::string>& names) 
         }
         path = joined(path, name);
     }
-    if (exists && !open(path, O_PATH).isOpen() && (errno == EXDEV || errno == ELOOP))
+    if (exists && !way().open(path, O_PATH).isOpen() && (errno == EXDEV || errno == ELOOP))
         fail(path, permissionDenied);
     return path;
 }
 
-FileDescriptor RootFolder::open(const std::string& path, int flags, mode_t mode, Links links) const
+FileDescriptor RootFolder::openFile(const std::string& path, const FileOpening& opening,
+                                    int missing) const
 {
-    if (bounds_ == Bounds::beneath) return openBeneath(folder_->get(), path, flags, mode, links);
-    const char* name = path.empty() ? "." : path.c_str();
-    return FileDescriptor(::openat(folder_->get(), name, flags | O_CLOEXEC, mode));
+    FileDescriptor file = way().open(path, flagsOf(opening));
+    if (!file.isOpen() && !isNoFile(errno)) fail(path, missing);
+    return requirePlain(std::move(file), shown(path));
 }
 
-FileDescriptor RootFolder::openFile(const std::string& path, int flags, int missing,
-                                    mode_t mode) const
+FileDescriptor RootFolder::openIfAllowed(const std::string& path, const FileOpening& opening,
+                                         int missing) const
 {
-    // What is no plain file is not waited for: a pipe has a writer, or none, that does not come.
-    FileDescriptor file = open(path, flags | O_NONBLOCK | O_NOCTTY, mode);
-    if (!file.isOpen() && errno != ENXIO && errno != ENODEV) fail(path, missing);
-    struct stat facts {};
-    if (!file.isOpen() || ::fstat(file.get(), &facts) != 0 ||
-        (!S_ISREG(facts.st_mode) && !S_ISDIR(facts.st_mode)))
-        throw RunTimeError(permissionDenied,
-                           "Permission denied: " + shown(path) + " is no plain file");
-    if (S_ISDIR(facts.st_mode)) throw RunTimeError(permissionDenied);
-    return file;
+    FileDescriptor file = way().open(path, flagsOf(opening));
+    if (!file.isOpen() && (errno == EACCES || errno == EPERM || errno == EROFS)) return file;
+    if (!file.isOpen() && !isNoFile(errno)) fail(path, missing);
+    return requirePlain(std::move(file), shown(path));
 }
 
-std::optional<struct stat> RootFolder::facts(const std::string& path) const
+FileDescriptor RootFolder::openToPassOn() const
 {
-    struct stat facts {};
+    FileDescriptor folder(::openat(folder_->get(), ".", O_RDONLY | O_DIRECTORY));
+    if (!folder.isOpen()) fail({}, pathNotFound);
+    return folder;
+}
+
+std::optional<FileFacts> RootFolder::facts(const std::string& path) const
+{
+    struct stat record {};
     // A single name that is no link can't lead anywhere else.
-    if (path.find('/') == std::string::npos && !path.empty() && path != "..") {
-        if (::fstatat(folder_->get(), path.c_str(), &facts, AT_SYMLINK_NOFOLLOW) == 0) {
-            if (!S_ISLNK(facts.st_mode)) return facts;
+    if (isSingleName(path)) {
+        if (::fstatat(folder_->get(), path.c_str(), &record, AT_SYMLINK_NOFOLLOW) == 0) {
+            if (!S_ISLNK(record.st_mode)) return factsOf(record);
         } else if (errno == ENOENT) {
             return {};
         }
     }
-    const FileDescriptor file = open(path, O_PATH);
-    if (file.isOpen() && ::fstat(file.get(), &facts) == 0) return facts;
+    const FileDescriptor file = way().open(path, O_PATH);
+    if (file.isOpen() && ::fstat(file.get(), &record) == 0) return factsOf(record);
     if (errno == ENOENT || errno == ENOTDIR) return {};
     fail(path, fileNotFound);
 }
 
-std::optional<struct stat> RootFolder::ownFacts(const std::string& path) const
+std::optional<FileFacts> RootFolder::ownFacts(const std::string& path) const
 {
-    const FileDescriptor file = open(path, O_PATH | O_NOFOLLOW);
-    struct stat facts {};
-    if (file.isOpen() && ::fstat(file.get(), &facts) == 0) return facts;
+    struct stat record {};
+    if (isSingleName(path)) {
+        if (::fstatat(folder_->get(), path.c_str(), &record, AT_SYMLINK_NOFOLLOW) == 0)
+            return factsOf(record);
+    } else {
+        const FileDescriptor file = way().open(path, O_PATH | O_NOFOLLOW);
+        if (file.isOpen() && ::fstat(file.get(), &record) == 0) return factsOf(record);
+    }
     if (errno == ENOENT || errno == ENOTDIR) return {};
     fail(path, fileNotFound);
+}
+
+std::optional<FileMoment> RootFolder::birth(const std::string& path) const
+{
+    constexpr unsigned asked = STATX_TYPE | STATX_BTIME;
+    struct statx record {};
+    if (!isSingleName(path) ||
+        ::statx(folder_->get(), path.c_str(), AT_SYMLINK_NOFOLLOW, asked, &record) != 0 ||
+        S_ISLNK(record.stx_mode)) {
+        const FileDescriptor file = way().open(path, O_PATH);
+        if (!file.isOpen() || ::statx(file.get(), "", AT_EMPTY_PATH, asked, &record) != 0)
+            return {};
+    }
+    if ((record.stx_mask & STATX_BTIME) == 0) return {};
+    return FileMoment{record.stx_btime.tv_sec, record.stx_btime.tv_nsec};
+}
+
+FileSystemRoom RootFolder::room(const std::string& path) const
+{
+    struct statvfs record {};
+    const FileDescriptor folder = way().open(path, O_PATH);
+    if (!folder.isOpen()) fail(path, pathNotFound);
+    if (::fstatvfs(folder.get(), &record) != 0) throw systemError(errno, pathNotFound);
+    const auto blockSize = static_cast<std::int64_t>(record.f_frsize);
+    return {static_cast<std::int64_t>(record.f_bavail) * blockSize,
+            static_cast<std::int64_t>(record.f_blocks) * blockSize};
 }
 
 bool RootFolder::isFile(const std::string& path) const
 {
-    const FileDescriptor file = open(path, O_PATH);
+    const FileDescriptor file = way().open(path, O_PATH);
     struct stat facts {};
     return file.isOpen() && ::fstat(file.get(), &facts) == 0 && S_ISREG(facts.st_mode);
 }
 
 bool RootFolder::isFolder(const std::string& path) const
 {
-    return open(path, folderFlags).isOpen();
+    return way().open(path, folderFlags).isOpen();
 }
 
 std::vector<std::string> RootFolder::names(const std::string& path) const
 {
-    FileDescriptor folder = open(path, listingFlags);
+    FileDescriptor folder = way().open(path, listingFlags);
     if (!folder.isOpen()) fail(path, pathNotFound);
     return namesOf(std::move(folder));
 }
 
 std::int64_t RootFolder::size(const std::string& path) const
 {
-    FileDescriptor folder = open(path, listingFlags);
+    FileDescriptor folder = way().open(path, listingFlags);
     if (!folder.isOpen()) fail(path, pathNotFound);
     return sizeOf(std::move(folder));
 }
 
-FileDescriptor RootFolder::parentOf(const std::string& path, Links links) const
-{
-    FileDescriptor folder = open(folderPathOf(path), folderFlags, 0, links);
-    if (!folder.isOpen()) fail(folderPathOf(path), pathNotFound);
-    return folder;
-}
-
-void RootFolder::makeFolder(const std::string& path, mode_t mode) const
+void RootFolder::makeFolder(const std::string& path, OthersMay others) const
 {
     if (path.empty()) throw RunTimeError(fileAlreadyExists);
-    const FileDescriptor parent = parentOf(path, Links::within);
-    if (::mkdirat(parent.get(), lastNameOf(path).c_str(), mode) != 0) fail(path, pathNotFound);
+    const FileDescriptor parent = way().parentOf(path, Links::within);
+    if (::mkdirat(parent.get(), lastNameOf(path).c_str(), newFolderMode(others)) != 0)
+        fail(path, pathNotFound);
 }
 
 void RootFolder::makeFolders(const std::string& path) const
@@ -298,8 +407,8 @@ void RootFolder::makeFolders(const std::string& path) const
 
 void RootFolder::rename(const std::string& from, const std::string& to) const
 {
-    const FileDescriptor source = parentOf(from, Links::within);
-    const FileDescriptor target = parentOf(to, Links::within);
+    const FileDescriptor source = way().parentOf(from, Links::within);
+    const FileDescriptor target = way().parentOf(to, Links::within);
     if (::renameat(source.get(), lastNameOf(from).c_str(), target.get(), lastNameOf(to).c_str()) ==
         0)
         return;
@@ -309,22 +418,36 @@ void RootFolder::rename(const std::string& from, const std::string& to) const
 
 void RootFolder::removeFile(const std::string& path) const
 {
-    const FileDescriptor parent = parentOf(path, Links::none);
+    const FileDescriptor parent = way().parentOf(path, Links::none);
     if (::unlinkat(parent.get(), lastNameOf(path).c_str(), 0) != 0) fail(path, fileNotFound);
 }
 
 void RootFolder::removeEmptyFolder(const std::string& path) const
 {
-    const FileDescriptor parent = parentOf(path, Links::none);
+    const FileDescriptor parent = way().parentOf(path, Links::none);
     if (::unlinkat(parent.get(), lastNameOf(path).c_str(), AT_REMOVEDIR) != 0)
         fail(path, pathNotFound);
 }
 
+void RootFolder::allowWriting(const std::string& path) const
+{
+    const FileDescriptor file = way().open(path, O_PATH);
+    if (!file.isOpen()) fail(path, fileNotFound);
+    struct stat record {};
+    if (::fstat(file.get(), &record) != 0) throw systemError(errno, deviceIo);
+    if (S_ISDIR(record.st_mode)) throw RunTimeError(fileNotFound);
+    if (!S_ISREG(record.st_mode)) throw RunTimeError(permissionDenied);
+    // By its descriptor, as the name could be another file's by now; the file may not be readable.
+    const std::string itself = "/proc/self/fd/" + std::to_string(file.get());
+    const mode_t mode = (record.st_mode & 07777) | ordinaryFileMode() | S_IRUSR | S_IWUSR;
+    if (::chmod(itself.c_str(), mode) != 0) throw systemError(errno, fileNotFound);
+}
+
 void RootFolder::removeFolder(const std::string& path) const
 {
-    FileDescriptor folder = open(path, listingFlags | O_NOFOLLOW, 0, Links::none);
+    FileDescriptor folder = way().open(path, listingFlags | O_NOFOLLOW, Links::none);
     if (!folder.isOpen()) fail(path, pathNotFound);
-    const FileDescriptor parent = parentOf(path, Links::none);
+    const FileDescriptor parent = way().parentOf(path, Links::none);
     removeContents(std::move(folder));
     if (::unlinkat(parent.get(), lastNameOf(path).c_str(), AT_REMOVEDIR) != 0)
         fail(path, pathNotFound);
@@ -340,4 +463,15 @@ void RootFolder::fail(const std::string& path, int missing) const
         throw RunTimeError(permissionDenied,
                            "Permission denied: " + shown(path) + " is a link that is not followed");
     throw systemError(error, missing);
+}
+
+FileDescriptor openMachineFile(const std::string& path, const FileOpening& opening, int missing)
+{
+    FileDescriptor file(
+        ::open(path.c_str(), flagsOf(opening) | O_CLOEXEC, newFileMode(OthersMay::write)));
+    if (!file.isOpen() && errno == ELOOP)
+        throw RunTimeError(permissionDenied,
+                           "Permission denied: " + path + " is a link that is not followed");
+    if (!file.isOpen() && !isNoFile(errno)) throw systemError(errno, missing);
+    return requirePlain(std::move(file), path);
 }

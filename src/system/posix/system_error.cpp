@@ -1,6 +1,7 @@
 #include "system/system_error.h"
 
 #include <cerrno>
+#include <system_error>
 
 int runTimeErrorNumber(int error, int missing)
 {
@@ -35,7 +36,22 @@ int runTimeErrorNumber(int error, int missing)
     }
 }
 
-RunTimeError systemError(int error, int missing)
+SystemError::SystemError(int error, int missing)
+    : RunTimeError(runTimeErrorNumber(error, missing)), error_(error)
+{}
+
+std::string SystemError::words() const
 {
-    return RunTimeError(runTimeErrorNumber(error, missing));
+    return std::generic_category().message(error_);
+}
+
+SystemError systemError(int error, int missing)
+{
+    return {error, missing};
+}
+
+RunTimeError toldWith(const std::string& what, const RunTimeError& error)
+{
+    const auto* failed = dynamic_cast<const SystemError*>(&error);
+    return {error.number(), what + ": " + (failed ? failed->words() : error.description())};
 }

@@ -1,10 +1,11 @@
 #include "system/whole_file.h"
 
+#include "system/posix/permissions.h"
+#include "system/process.h"
 #include "system/system_error.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <csignal>
 #include <ctime>
 #include <fcntl.h>
 #include <random>
@@ -26,9 +27,10 @@ std::pair<std::string, FileDescriptor> makeTemporary(const RootFolder& folder, m
 {
     std::random_device random;
     for (int attempt = 0; attempt < 100; ++attempt) {
-        std::string name = std::string(temporaryStart) + std::to_string(::getpid()) + "-" +
+        std::string name = std::string(temporaryStart) + std::to_string(ownProcess()) + "-" +
                            std::to_string(random() % 1'000'000'000);
-        FileDescriptor file = folder.open(name, O_WRONLY | O_CREAT | O_EXCL, mode);
+        FileDescriptor file(::openat(folder.descriptor(), name.c_str(),
+                                     O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode));
         if (file.isOpen()) return {std::move(name), std::move(file)};
         if (errno != EEXIST) throw systemError(errno, runTimeErrors::pathNotFound);
     }
@@ -53,8 +55,10 @@ std::string_view processOf(std::string_view name)
 
 /// One step of a copy by the fastest way that the two file systems offer: 0 at the end, -1 with
 /// `errno` on failure. `way` moves on past a way that they don't.
-ssize_t copySome(int from, int to, int& way)
+ssize_t copySome(const FileDescriptor& source, const FileDescriptor& target, int& way)
 {
+    const int from = source.get();
+    const int to = target.get();
     if (way == 0) {
         const ssize_t count = ::copy_file_range(from, nullptr, to, nullptr, copyStep, 0);
         if (count > 0) return count;
@@ -69,7 +73,7 @@ ssize_t copySome(int from, int to, int& way)
     const ssize_t count = ::read(from, buffer, sizeof buffer);
     if (count <= 0) return count;
     const auto size = static_cast<std::size_t>(count);
-    return writeBytes(to, {buffer, size}) == size ? count : -1;
+    return writeBytes(target, {buffer, size}) == size ? count : -1;
 }
 
 } // namespace
@@ -77,12 +81,12 @@ ssize_t copySome(int from, int to, int& way)
 std::string readWholeFile(const RootFolder& root, const std::string& path, int missing,
                           std::size_t limit)
 {
-    return readWholeFile(root.openFile(path, O_RDONLY, missing), missing, limit);
+    return readWholeFile(root.openFile(path, forReading, missing), missing, limit);
 }
 
 std::string readMachineFile(const std::string& path, int missing, std::size_t limit)
 {
-    return readWholeFile(RootFolder("/", RootFolder::Bounds::machine), path, missing, limit);
+    return readWholeFile(openMachineFile(path, forReading, missing), missing, limit);
 }
 
 std::string readWholeFile(const FileDescriptor& file, int missing, std::size_t limit)
@@ -103,7 +107,12 @@ std::string readWholeFile(const FileDescriptor& file, int missing, std::size_t l
     }
 }
 
-ReplacementFile::ReplacementFile(const RootFolder& root, const std::string& target, mode_t mode)
+ReplacementFile::ReplacementFile(const RootFolder& root, const std::string& target,
+                                 OthersMay others)
+    : ReplacementFile(root, target, newFileMode(others))
+{}
+
+ReplacementFile::ReplacementFile(const RootFolder& root, const std::string& target, unsigned mode)
     : folder_(root.below(folderPathOf(target))), target_(lastNameOf(target))
 {
     std::tie(temporary_, file_) = makeTemporary(folder_, mode);
@@ -114,16 +123,23 @@ ReplacementFile::~ReplacementFile()
     if (!temporary_.empty()) ::unlinkat(folder_.descriptor(), temporary_.c_str(), 0);
 }
 
-void ReplacementFile::write(std::string_view bytes)
+void ReplacementFile::resemble(const FileDescriptor& model)
 {
-    if (writeBytes(file_.get(), bytes) < bytes.size())
-        throw systemError(errno, runTimeErrors::deviceIo);
+    struct stat record {};
+    if (::fstat(model.get(), &record) != 0) throw systemError(errno, runTimeErrors::deviceIo);
+    const bool owned = ::fchown(file_.get(), record.st_uid, record.st_gid) == 0;
+    ::fchmod(file_.get(), record.st_mode & (owned ? 07777 : 0777));
+}
+
+void ReplacementFile::close()
+{
+    if (const int error = file_.close()) throw systemError(error, runTimeErrors::deviceIo);
 }
 
 void ReplacementFile::commit(bool synced)
 {
     if (synced && ::fdatasync(file_.get()) != 0) throw systemError(errno, runTimeErrors::deviceIo);
-    if (const int error = file_.close()) throw systemError(error, runTimeErrors::deviceIo);
+    close();
     if (::renameat(folder_.descriptor(), temporary_.c_str(), folder_.descriptor(),
                    target_.c_str()) != 0)
         throw systemError(errno, runTimeErrors::pathNotFound);
@@ -134,36 +150,42 @@ void copyWholeFile(const FileDescriptor& source, const RootFolder& root, const s
 {
     struct stat facts {};
     if (::fstat(source.get(), &facts) != 0) throw systemError(errno, runTimeErrors::fileNotFound);
-    ReplacementFile copy(root, target, facts.st_mode & 0777);
+    ReplacementFile copy(root, target, unsigned{facts.st_mode} & 0777U);
     int way = 0;
     for (;;) {
-        const ssize_t count = copySome(source.get(), copy.descriptor(), way);
+        const ssize_t count = copySome(source, copy.file(), way);
         if (count == 0) break;
         if (count < 0 && errno != EINTR) throw systemError(errno, runTimeErrors::deviceIo);
     }
     const timespec times[] = {facts.st_atim, facts.st_mtim};
-    ::futimens(copy.descriptor(), times);
+    ::futimens(copy.file().get(), times);
     copy.commit(false);
 }
 
-bool isLeftBehind(std::string_view process, const struct stat& facts)
+bool isLeftBehind(std::string_view process, const FileFacts& facts)
 {
-    if (!isNumber(process) || facts.st_uid != ::geteuid()) return false;
-    if (facts.st_mtime < std::time(nullptr) - longestWork) return true;
-    const auto number = static_cast<pid_t>(std::stol(std::string(process)));
-    return number > 0 && ::kill(number, 0) != 0 && errno == ESRCH;
+    if (!isNumber(process) || !isOurs(facts)) return false;
+    return facts.modified.seconds < std::time(nullptr) - longestWork || isEndedProcess(process);
+}
+
+bool isReplacementFile(std::string_view name)
+{
+    return !processOf(name).empty();
+}
+
+bool isLeftReplacementFile(std::string_view name, const FileFacts& facts)
+{
+    return facts.kind == FileKind::file && isLeftBehind(processOf(name), facts);
 }
 
 void sweepReplacementFiles(const RootFolder& root, const std::string& folder)
 {
     try {
         for (const auto& name : root.names(folder)) {
-            const auto process = processOf(name);
-            if (process.empty()) continue;
+            if (!isReplacementFile(name)) continue;
             const std::string path = folder.empty() ? name : folder + "/" + name;
             const auto facts = root.ownFacts(path);
-            if (facts && S_ISREG(facts->st_mode) && isLeftBehind(process, *facts))
-                root.removeFile(path);
+            if (facts && isLeftReplacementFile(name, *facts)) root.removeFile(path);
         }
     } catch (const RunTimeError&) {
         return; // a folder that may not be read or changed keeps what it has

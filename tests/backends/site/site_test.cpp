@@ -4,6 +4,7 @@
 #include "support/fake_desktop.h"
 #include "support/fake_trace_database.h"
 #include "support/temporary_folder.h"
+#include "system/machine_names.h"
 
 #include <gmock/gmock.h>
 

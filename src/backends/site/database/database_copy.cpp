@@ -1,12 +1,9 @@
 #include "backends/site/database/database_copy.h"
 
 #include "runtime/run_time_error.h"
-#include "system/system_error.h"
+#include "system/temporary_folder.h"
 #include "system/whole_file.h"
 
-#include <cerrno>
-#include <cstdlib>
-#include <fcntl.h>
 #include <filesystem>
 #include <system_error>
 
@@ -16,13 +13,7 @@ namespace {
 
 using runTimeErrors::fileNotFound;
 
-std::string newTemporaryFolder()
-{
-    std::error_code none;
-    std::string name = (fs::temp_directory_path(none) / "orvandiag-XXXXXX").string();
-    if (::mkdtemp(name.data()) == nullptr) throw systemError(errno, runTimeErrors::pathNotFound);
-    return name;
-}
+constexpr FileOpening unlinked{.lastLink = LastLink::refused};
 
 /// The copy may be written to, whoever may write to what it was made from.
 void copyForWriting(const FileDescriptor& source, const std::string& target)
@@ -35,7 +26,7 @@ void copyForWriting(const FileDescriptor& source, const std::string& target)
 } // namespace
 
 DatabaseCopy::DatabaseCopy(const std::string& file)
-    : folder_(newTemporaryFolder()), path_(folder_ + "/database")
+    : folder_(makeTemporaryFolder("orvandiag-")), path_(folder_ + "/database")
 {
     try {
         const RootFolder folder(folderPathOf(file));
@@ -44,9 +35,9 @@ DatabaseCopy::DatabaseCopy(const std::string& file)
         // no harm; the other way round rows would be lost.
         for (const char* ending : {"-wal", "-journal"})
             if (folder.ownFacts(name + ending))
-                copyForWriting(folder.openFile(name + ending, O_RDONLY | O_NOFOLLOW, fileNotFound),
+                copyForWriting(folder.openFile(name + ending, unlinked, fileNotFound),
                                path_ + ending);
-        copyForWriting(folder.openFile(name, O_RDONLY | O_NOFOLLOW, fileNotFound), path_);
+        copyForWriting(folder.openFile(name, unlinked, fileNotFound), path_);
     } catch (...) {
         std::error_code none;
         fs::remove_all(folder_, none);

@@ -4,6 +4,7 @@
 #include "platform/database.h"
 #include "runtime/out_of_memory.h"
 #include "runtime/run_time_error.h"
+#include "system/file_facts.h"
 #include "system/root_folder.h"
 
 #include <filesystem>
@@ -14,7 +15,6 @@
 #include <vector>
 
 #include <sqlite3.h>
-#include <sys/stat.h>
 
 namespace {
 
@@ -59,17 +59,19 @@ std::string guardedPath(const std::string& file)
     const std::string name = lastNameOf(file);
     const RootFolder folder(folderPathOf(file).empty() ? "." : folderPathOf(file));
     for (const char* ending : {"", "-journal", "-wal", "-shm"})
-        if (const auto facts = folder.ownFacts(name + ending); facts && !S_ISREG(facts->st_mode))
+        if (const auto facts = folder.ownFacts(name + ending);
+            facts && facts->kind != FileKind::file)
             throw RunTimeError(runTimeErrors::permissionDenied,
                                folder.shown(name + ending) + " is no plain file");
     std::error_code none;
     return (std::filesystem::canonical(folder.shown(""), none) / name).string();
 }
 
-unsigned long long inodeOf(const std::string& file)
+/// Nothing where no file is.
+std::optional<FileIdentity> identityOf(const std::string& file)
 {
-    struct stat facts {};
-    return ::lstat(file.c_str(), &facts) == 0 ? facts.st_ino : 0;
+    const auto facts = ownFactsOf(file);
+    return facts ? std::optional(facts->identity) : std::nullopt;
 }
 
 /// Steps of the database's machine that one statement may take: about a second. A view may be
@@ -168,10 +170,10 @@ void SqliteStatement::release()
 
 SqliteHandle::SqliteHandle(const std::string& file, std::shared_ptr<LockPatience> patience,
                            DatabaseUse use)
-    : file_(file), patience_(std::move(patience)), inode_(inodeOf(file))
+    : file_(file), patience_(std::move(patience)), identity_(identityOf(file))
 {
     patience_->begin();
-    if (inode_ == 0) throw RunTimeError(databaseErrors::unspecified, "Cannot open " + file);
+    if (!identity_) throw RunTimeError(databaseErrors::unspecified, "Cannot open " + file);
     std::string failure;
     std::string path;
     try {
@@ -359,5 +361,5 @@ void SqliteHandle::fail() const
 
 bool SqliteHandle::isUsable() const
 {
-    return !broken_ && inodeOf(file_) == inode_;
+    return !broken_ && identityOf(file_) == identity_;
 }

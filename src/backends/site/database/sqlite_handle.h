@@ -1,8 +1,10 @@
 #pragma once
 
 #include "backends/site/database/lock_patience.h"
+#include "system/file_facts.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 
@@ -98,7 +100,7 @@ private:
 
     std::string file_;
     std::shared_ptr<LockPatience> patience_;
-    unsigned long long inode_ = 0;
+    std::optional<FileIdentity> identity_;
     sqlite3* database_ = nullptr;
     mutable bool broken_ = false;
     std::unordered_map<std::string, sqlite3_stmt*> statements_;

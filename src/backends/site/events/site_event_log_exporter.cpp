@@ -7,9 +7,6 @@
 #include "system/whole_file.h"
 #include "text/utf8.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-
 namespace {
 
 constexpr std::size_t enough = 256U << 10;
@@ -23,7 +20,7 @@ FileDescriptor openEventLog(const RootFolder& site, const std::string& logName)
     if (const auto folder = site.belowIfThere(eventLogs))
         for (const auto& name : sortedNames(folder->names("")))
             if (foldCase(name) == wanted)
-                return folder->openFile(name, O_RDONLY, runTimeErrors::fileNotFound);
+                return folder->openFile(name, forReading, runTimeErrors::fileNotFound);
     throw RunTimeError(runTimeErrors::fileNotFound);
 }
 
@@ -42,7 +39,7 @@ std::string nextCsvLine(SiteTextReader& log, CsvReader reader)
 void checkTarget(const SitePlace& target)
 {
     const auto facts = target.root.ownFacts(target.path);
-    if (facts && (!S_ISREG(facts->st_mode) || (facts->st_mode & S_IWUSR) == 0))
+    if (facts && (facts->kind != FileKind::file || facts->readOnly))
         throw RunTimeError(runTimeErrors::permissionDenied);
 }
 
@@ -57,7 +54,7 @@ void SiteEventLogExporter::exportEventLog(const std::string& logName, const std:
     const SitePlace place = paths_.place(target);
     checkTarget(place);
     sweepReplacementFiles(place.root, folderPathOf(place.path));
-    ReplacementFile csv(place.root, place.path, 0666);
+    ReplacementFile csv(place.root, place.path);
     std::string text(eventLogCsvHeader);
     while (!log.atEnd()) {
         text += nextCsvLine(log, reader_);

@@ -2,14 +2,11 @@
 
 #include "backends/site/events/trace_line_format.h"
 #include "platform/clock.h"
-#include "system/file_descriptor.h"
-#include "system/system_error.h"
+#include "runtime/run_time_error.h"
+#include "system/file_bytes.h"
+#include "system/file_facts.h"
 
-#include <cerrno>
-#include <fcntl.h>
 #include <nlohmann/json.hpp>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <utility>
 
 namespace {
@@ -19,12 +16,13 @@ using Json = nlohmann::ordered_json;
 constexpr const char* eventLogs = "eventlogs";
 
 /// Whether a log's last line was cut short, so that the next event needs a line end before it.
-bool endsWithinALine(int log)
-{
-    struct stat facts {};
+bool endsWithinALine(const FileDescriptor& log)
+try {
+    const auto size = static_cast<std::uint64_t>(factsOf(log).size);
     char last = '\n';
-    if (::fstat(log, &facts) != 0 || facts.st_size == 0) return false;
-    return ::pread(log, &last, 1, facts.st_size - 1) == 1 && last != '\n';
+    return size > 0 && readAt(log, &last, 1, size - 1) == 1 && last != '\n';
+} catch (const RunTimeError&) {
+    return false;
 }
 
 /// Another program may be quicker; what keeps the folder from being made keeps a log from it too.
@@ -64,10 +62,10 @@ void SiteEventReporter::report(const std::string& source, std::int32_t, int type
     if (!site_.isFolder(eventLogs)) makeEventLogs(site_);
     const FileDescriptor log =
         site_.openFile(std::string(eventLogs) + "/Application.jsonl",
-                       O_RDWR | O_CREAT | O_APPEND | O_NOFOLLOW, runTimeErrors::pathNotFound);
-    if (endsWithinALine(log.get())) line.insert(0, "\n");
-    if (writeBytes(log.get(), line) < line.size())
-        throw systemError(errno, runTimeErrors::deviceIo);
+                       {FileAccess::readAndAppend, Creation::ifMissing, LastLink::refused},
+                       runTimeErrors::pathNotFound);
+    if (endsWithinALine(log)) line.insert(0, "\n");
+    writeAll(log, line);
 }
 
 void SiteEventReporter::formatTraceLine(std::string_view rawLine, std::string& formatted)

@@ -3,8 +3,6 @@
 #include "runtime/run_time_error.h"
 
 #include <algorithm>
-#include <fcntl.h>
-#include <sys/stat.h>
 
 namespace {
 
@@ -43,14 +41,10 @@ std::optional<Date> stampOfName(std::string_view name)
     }
 }
 
-Date creationTime(int folder, const std::string& nameInFolder, std::string_view name,
+Date creationTime(std::string_view name, const RootFolder& root, const std::string& path,
                   const PosixTimeZone& zone, Date modified)
 {
     if (const auto stamp = stampOfName(name)) return *stamp;
-    struct statx facts {};
-    const int flags = AT_SYMLINK_NOFOLLOW | (nameInFolder.empty() ? AT_EMPTY_PATH : 0);
-    if (::statx(folder, nameInFolder.c_str(), flags, STATX_BTIME, &facts) != 0 ||
-        (facts.stx_mask & STATX_BTIME) == 0)
-        return modified;
-    return localDate(zone, facts.stx_btime.tv_sec);
+    const auto birth = root.birth(path);
+    return birth ? localDate(zone, birth->seconds) : modified;
 }

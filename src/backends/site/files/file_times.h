@@ -2,8 +2,8 @@
 
 #include "backends/site/time/posix_time_zone.h"
 #include "runtime/dates.h"
+#include "system/root_folder.h"
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,8 +12,7 @@
 /// carries none, or one that is no date.
 std::optional<Date> stampOfName(std::string_view name);
 
-/// When a file came to be, local time: its name's stamp, else the file system's birth time, else
-/// `modified`. The file is `nameInFolder` in an open folder, not followed when it is a link; an
-/// empty one is what is open itself.
-Date creationTime(int folder, const std::string& nameInFolder, std::string_view name,
+/// When a file came to be, local time: the stamp of the name that it is listed by, else the file
+/// system's birth time of what `path` leads to, else `modified`.
+Date creationTime(std::string_view name, const RootFolder& root, const std::string& path,
                   const PosixTimeZone& zone, Date modified);

@@ -6,11 +6,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <csignal>
 #include <optional>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -98,27 +94,6 @@ bool isReportOnACabinet(std::string_view text)
            text.find("Compression     MSZIP\r\n") != std::string_view::npos;
 }
 
-/// Whether a name is one that the cabinet maker gives to what it has not finished, and the program
-/// that gave it lives no more: NAME.PROCESS-NUMBER.tmp.
-bool isUnfinished(std::string_view name)
-{
-    constexpr std::string_view ending = ".tmp";
-    constexpr std::size_t mostDigits = 9;
-    if (!endsWith(name, ending)) return false;
-    name.remove_suffix(ending.size());
-    const auto dash = name.rfind('-');
-    const auto point = name.rfind('.');
-    if (dash == std::string_view::npos || point == std::string_view::npos || dash < point)
-        return false;
-    const auto process = name.substr(point + 1, dash - point - 1);
-    const auto target = name.substr(0, point);
-    if (!isNumber(process) || process.size() > mostDigits || !isNumber(name.substr(dash + 1)))
-        return false;
-    const bool ours = target == setupList || target == setupReport || isCabinetOfAGather(target);
-    const auto number = static_cast<pid_t>(std::stol(std::string(process)));
-    return ours && number > 0 && ::kill(number, 0) != 0 && errno == ESRCH;
-}
-
 /// A sweep of one folder.
 class Sweep {
 public:
@@ -141,7 +116,7 @@ public:
         // An empty folder tells nothing by itself.
         const std::string disk(diskFolder);
         const auto facts = ownFacts(disk);
-        if (left.empty() || !facts || !S_ISDIR(facts->st_mode)) return left;
+        if (left.empty() || !facts || facts->kind != FileKind::folder) return left;
         if (removes)
             folder_.removeEmptyFolder(disk);
         else if (folder_.names(disk).empty())
@@ -160,17 +135,17 @@ private:
     }
 
     /// Of what is this user's own.
-    std::optional<struct stat> ownFacts(const std::string& name) const
+    std::optional<FileFacts> ownFacts(const std::string& name) const
     {
         auto facts = folder_.ownFacts(name);
-        if (facts && facts->st_uid != ::geteuid()) facts.reset();
+        if (facts && !isOurs(*facts)) facts.reset();
         return facts;
     }
 
     /// What may not be looked at stays too.
     bool isLeft(const std::string& name) const
     try {
-        if (isUnfinished(name)) return isPlain(name);
+        if (isReplacementFile(name)) return isUnfinished(name);
         if (name == directiveFile) return isPlain(name) && isDirectiveFileOfAGather(text(name));
         if (name == setupList) return isPlain(name) && isListOfACabinet(text(name));
         if (name == setupReport) return isPlain(name) && isReportOnACabinet(text(name));
@@ -184,11 +159,18 @@ private:
         return false;
     }
 
+    /// Whether it is what the cabinet maker was writing when it was killed.
+    bool isUnfinished(const std::string& name) const
+    {
+        const auto facts = ownFacts(name);
+        return facts && isLeftReplacementFile(name, *facts);
+    }
+
     bool isPlain(const std::string& name) const
     {
         // A gather gives its files one name; another one is somebody's who keeps it.
         const auto facts = ownFacts(name);
-        return facts && S_ISREG(facts->st_mode) && facts->st_nlink <= 1;
+        return facts && facts->kind == FileKind::file && facts->names <= 1;
     }
 
     std::string text(const std::string& name, std::size_t limit = longestText) const

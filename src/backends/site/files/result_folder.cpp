@@ -1,34 +1,33 @@
 #include "backends/site/files/result_folder.h"
 
 #include "backends/site/files/gather_leftovers.h"
-#include "system/system_error.h"
+#include "runtime/run_time_error.h"
+#include "system/file_facts.h"
+#include "system/file_lock.h"
 
-#include <cerrno>
 #include <ctime>
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
 
 ResultFolder::ResultFolder(const std::string& path) : root_(path) {}
 
 ResultFolder::Turn ResultFolder::takeTurn()
-{
+try {
     if (lock_.isOpen()) return Turn::ours;
     // Started programs get the lock too, so it is not closed for them.
-    FileDescriptor lock(::openat(root_.descriptor(), ".", O_RDONLY | O_DIRECTORY));
-    if (!lock.isOpen()) return Turn::unknown;
-    if (::flock(lock.get(), LOCK_EX | LOCK_NB) != 0)
-        return errno == EWOULDBLOCK ? Turn::anothers : Turn::unknown;
+    FileDescriptor lock = root_.openToPassOn();
+    if (!tryLock(lock)) return Turn::anothers;
     lock_ = std::move(lock);
     return Turn::ours;
+} catch (const RunTimeError&) {
+    return Turn::unknown;
 }
 
 bool ResultFolder::isAt(const std::string& path) const
-{
-    struct stat here {};
-    struct stat there {};
-    return ::fstat(root_.descriptor(), &here) == 0 && ::stat(path.c_str(), &there) == 0 &&
-           here.st_dev == there.st_dev && here.st_ino == there.st_ino;
+try {
+    const auto here = root_.facts("");
+    const auto there = factsOf(path);
+    return here && there && here->identity == there->identity;
+} catch (const RunTimeError&) {
+    return false;
 }
 
 bool ResultFolder::hasNamesOfThisSecond() const
@@ -36,7 +35,7 @@ try {
     for (const auto& name : root_.names("")) {
         if (name.find("_WPN_") == std::string::npos) continue;
         const auto facts = root_.ownFacts(name);
-        if (facts && facts->st_ctime >= std::time(nullptr)) return true;
+        if (facts && facts->changed.seconds >= std::time(nullptr)) return true;
     }
     return false;
 } catch (const RunTimeError&) {

@@ -6,7 +6,6 @@
 
 #include <string>
 #include <string_view>
-#include <sys/stat.h>
 #include <vector>
 
 /// The files of a site, and those of the machine behind a leading `/` that a person named.
@@ -46,9 +45,9 @@ public:
 private:
     bool hasFolder(const std::string& path) const;
     std::vector<std::string> namesIn(const SitePlace& place, const std::string& folder) const;
-    FileInfo describe(int folder, const std::string& nameInFolder, std::string name,
-                      const struct stat& facts) const;
-    std::unique_ptr<TextWriter> openForWriting(const std::string& path, int flags) const;
+    FileInfo describe(const SitePlace& place, std::string name, const FileFacts& facts) const;
+    std::unique_ptr<TextWriter> openForWriting(const std::string& path,
+                                               const FileOpening& opening) const;
 
     SitePaths& paths_;
     PosixTimeZone zone_;

@@ -1,11 +1,9 @@
 #include "backends/site/files/site_text_reader.h"
 
-#include "system/system_error.h"
+#include "runtime/run_time_error.h"
+#include "system/file_bytes.h"
 
-#include <cerrno>
 #include <cstring>
-#include <fcntl.h>
-#include <unistd.h>
 #include <utility>
 
 namespace {
@@ -18,7 +16,7 @@ constexpr std::size_t longestText = 1U << 30;
 
 SiteTextReader::SiteTextReader(FileDescriptor file) : file_(std::move(file)), capacity_(bufferSize)
 {
-    ::posix_fadvise(file_.get(), 0, 0, POSIX_FADV_SEQUENTIAL);
+    expectReadingThrough(file_);
     buffer_.reset(new char[capacity_]);
 }
 
@@ -48,13 +46,9 @@ bool SiteTextReader::fill()
 {
     if (start_ == end_) start_ = end_ = 0;
     if (end_ == capacity_) makeRoom();
-    for (;;) {
-        const ssize_t count = ::read(file_.get(), buffer_.get() + end_, capacity_ - end_);
-        if (count < 0 && errno == EINTR) continue;
-        if (count < 0) throw systemError(errno, runTimeErrors::deviceIo);
-        end_ += static_cast<std::size_t>(count);
-        return count > 0;
-    }
+    const std::size_t count = readSome(file_, buffer_.get() + end_, capacity_ - end_);
+    end_ += count;
+    return count > 0;
 }
 
 bool SiteTextReader::atEnd()

@@ -1,6 +1,7 @@
 #include "backends/site/files/site_text_writer.h"
 
 #include "runtime/text.h"
+#include "system/file_bytes.h"
 #include "system/system_error.h"
 
 #include <cerrno>
@@ -19,7 +20,7 @@ SiteTextWriter::SiteTextWriter(FileDescriptor file) : file_(std::move(file))
 
 SiteTextWriter::~SiteTextWriter()
 {
-    if (file_.isOpen()) writeBytes(file_.get(), buffer_);
+    if (file_.isOpen()) writeBytes(file_, buffer_);
 }
 
 void SiteTextWriter::requireOpen() const
@@ -38,8 +39,8 @@ void SiteTextWriter::write(std::string_view text)
     makeRoom(text.size());
     if (text.size() < bufferSize) {
         buffer_ += text;
-    } else if (writeBytes(file_.get(), text) < text.size()) {
-        throw systemError(errno, runTimeErrors::deviceIo);
+    } else {
+        writeAll(file_, text);
     }
 }
 
@@ -53,7 +54,7 @@ void SiteTextWriter::writeLine(std::string_view text)
 void SiteTextWriter::flush()
 {
     requireOpen();
-    const std::size_t written = writeBytes(file_.get(), buffer_);
+    const std::size_t written = writeBytes(file_, buffer_);
     const int error = errno;
     const bool whole = written == buffer_.size();
     buffer_.erase(0, written);

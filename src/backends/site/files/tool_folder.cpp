@@ -3,16 +3,14 @@
 #include "backends/site/files/file_pattern.h"
 #include "backends/site/files/folder_listing.h"
 #include "runtime/run_time_error.h"
+#include "system/process.h"
 #include "system/whole_file.h"
 #include "text/utf8.h"
 
 #include <algorithm>
-#include <fcntl.h>
 #include <iterator>
 #include <set>
 #include <string_view>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
@@ -42,7 +40,7 @@ void copyFolder(const RootFolder& source, const RootFolder& root, const std::str
         if (const auto folder = source.belowIfThere(name))
             copyFolder(*folder, root, below(target, name));
         else
-            copyWholeFile(source.openFile(name, O_RDONLY, runTimeErrors::fileNotFound), root,
+            copyWholeFile(source.openFile(name, forReading, runTimeErrors::fileNotFound), root,
                           below(target, name));
     }
 }
@@ -53,11 +51,12 @@ void supply(const RootFolder& data, const std::string& name, const SitePlace& to
     const std::string target = below(tool.path, name);
     const auto source = data.belowIfThere(name);
     if (!source) {
-        copyWholeFile(data.openFile(name, O_RDONLY, runTimeErrors::fileNotFound), tool.root,
+        copyWholeFile(data.openFile(name, forReading, runTimeErrors::fileNotFound), tool.root,
                       target);
         return;
     }
-    const std::string temporary = target + std::string(temporaryMark) + std::to_string(::getpid());
+    const std::string temporary =
+        target + std::string(temporaryMark) + std::to_string(ownProcess());
     try {
         copyFolder(*source, tool.root, temporary);
         tool.root.rename(temporary, target);
@@ -75,7 +74,7 @@ void sweepFolders(const SitePlace& tool)
         if (mark == std::string::npos || !isSupplied(name.substr(0, mark))) continue;
         const std::string path = below(tool.path, name);
         const auto facts = tool.root.ownFacts(path);
-        if (facts && S_ISDIR(facts->st_mode) &&
+        if (facts && facts->kind == FileKind::folder &&
             isLeftBehind(name.substr(mark + temporaryMark.size()), *facts))
             tool.root.removeFolder(path);
     }

@@ -1,28 +1,21 @@
 #include "backends/site/registry/site_registry.h"
 
 #include "backends/site/registry/registry_file.h"
-#include "system/system_error.h"
+#include "runtime/run_time_error.h"
+#include "system/file_lock.h"
 #include "system/whole_file.h"
 
-#include <cerrno>
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
 #include <utility>
 
 namespace {
 
-constexpr mode_t ordinaryMode = 0644;
 constexpr const char* fileName = "registry.reg";
 constexpr const char* lockName = "registry.reg.lock";
 
-bool sameVersion(const struct stat& left, const struct stat& right)
+bool sameVersion(const FileFacts& left, const FileFacts& right)
 {
-    return left.st_dev == right.st_dev && left.st_ino == right.st_ino &&
-           left.st_size == right.st_size && left.st_mtim.tv_sec == right.st_mtim.tv_sec &&
-           left.st_mtim.tv_nsec == right.st_mtim.tv_nsec &&
-           left.st_ctim.tv_sec == right.st_ctim.tv_sec &&
-           left.st_ctim.tv_nsec == right.st_ctim.tv_nsec;
+    return left.identity == right.identity && left.size == right.size &&
+           left.modified == right.modified && left.changed == right.changed;
 }
 
 /// The path with its hive; the empty one, which names no key, for other hives than the tool's.
@@ -61,7 +54,7 @@ void SiteRegistry::read() const
     known_ = false;
     facts_.reset();
     if (site_.facts(fileName)) {
-        file_ = site_.openFile(fileName, O_RDONLY, runTimeErrors::fileNotFound);
+        file_ = site_.openFile(fileName, forReading, runTimeErrors::fileNotFound);
         tree_ = parseRegistryFile(readWholeFile(remember(), runTimeErrors::fileNotFound));
     } else {
         file_ = FileDescriptor();
@@ -73,9 +66,7 @@ void SiteRegistry::read() const
 /// Notes the facts of the open version.
 const FileDescriptor& SiteRegistry::remember() const
 {
-    struct stat facts {};
-    if (::fstat(file_.get(), &facts) != 0) throw systemError(errno, runTimeErrors::deviceIo);
-    facts_ = facts;
+    facts_ = factsOf(file_);
     return file_;
 }
 
@@ -146,30 +137,21 @@ bool SiteRegistry::setValue(std::uint32_t hive, const std::string& path, const s
 /// write.
 FileDescriptor SiteRegistry::takeLock()
 {
-    FileDescriptor lock = site_.open(lockName, O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK, 0666);
-    if (!lock.isOpen()) {
-        if (errno == EACCES || errno == EPERM || errno == EROFS) return lock;
-        site_.fail(lockName, runTimeErrors::pathNotFound);
-    }
-    struct stat facts {};
-    if (::fstat(lock.get(), &facts) != 0 || !S_ISREG(facts.st_mode))
-        throw RunTimeError(runTimeErrors::permissionDenied,
-                           "Permission denied: " + site_.shown(lockName) + " is no plain file");
-    waitFor(lock);
+    FileDescriptor lock = site_.openIfAllowed(
+        lockName, {FileAccess::readAndWrite, Creation::ifMissing, LastLink::refused},
+        runTimeErrors::pathNotFound);
+    if (lock.isOpen()) waitFor(lock);
     return lock;
 }
 
 void SiteRegistry::waitFor(const FileDescriptor& lock)
 {
     patience_.begin();
-    for (int tries = 0; ::flock(lock.get(), LOCK_EX | LOCK_NB) != 0; ++tries) {
-        if (errno == EINTR) continue;
-        if (errno != EWOULDBLOCK) throw systemError(errno, runTimeErrors::deviceIo);
+    for (int tries = 0; !tryLock(lock); ++tries)
         if (!patience_.wait(tries))
             throw RunTimeError(runTimeErrors::permissionDenied,
                                "Permission denied: another program holds " + site_.shown(fileName) +
                                    " and did not let go in time");
-    }
 }
 
 /// Makes a change under the lock. False where nobody may write.
@@ -179,7 +161,7 @@ bool SiteRegistry::write(const Change& change)
     const auto lock = takeLock();
     if (!lock.isOpen()) return false;
     auto& tree = current();
-    if (facts_ && (facts_->st_mode & S_IWUSR) == 0) return false;
+    if (facts_ && facts_->readOnly) return false;
     try {
         if (change(tree)) save();
     } catch (...) {
@@ -191,13 +173,10 @@ bool SiteRegistry::write(const Change& change)
 
 void SiteRegistry::save()
 {
-    ReplacementFile file(site_, fileName, ordinaryMode);
-    if (facts_) {
-        const bool owned = ::fchown(file.descriptor(), facts_->st_uid, facts_->st_gid) == 0;
-        ::fchmod(file.descriptor(), facts_->st_mode & (owned ? 07777 : 0777));
-    }
+    ReplacementFile file(site_, fileName, OthersMay::read);
+    if (facts_) file.resemble(file_);
     file.write(registryFileText(tree_));
     file.commit(true);
-    file_ = site_.openFile(fileName, O_RDONLY, runTimeErrors::fileNotFound);
+    file_ = site_.openFile(fileName, forReading, runTimeErrors::fileNotFound);
     remember();
 }

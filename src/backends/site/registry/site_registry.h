@@ -10,7 +10,6 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <sys/stat.h>
 
 /// The registry of a site: a file in the registry editor's text format.
 ///
@@ -65,6 +64,6 @@ private:
     mutable RegistryTree tree_;
     mutable FileDescriptor
         file_; ///< the version that was read; open, so that no other looks like it
-    mutable std::optional<struct stat> facts_; ///< of that version; nothing when none was read
-    mutable bool known_ = false;               ///< whether `tree_` is the state of `facts_`
+    mutable std::optional<FileFacts> facts_; ///< of that version; nothing when none was read
+    mutable bool known_ = false;             ///< whether `tree_` is the state of `facts_`
 };

@@ -1,7 +1,8 @@
 #include "backends/site/time/site_clock.h"
 
+#include <chrono>
 #include <ctime>
-#include <sched.h>
+#include <thread>
 #include <utility>
 
 SiteClock::SiteClock(PosixTimeZone zone) : zone_(std::move(zone)) {}
@@ -14,14 +15,14 @@ Date SiteClock::now() const
 float SiteClock::timer() const
 {
     constexpr std::int64_t secondsADay = 86400;
-    timespec moment{};
-    ::clock_gettime(CLOCK_REALTIME, &moment);
-    const auto second = (moment.tv_sec + offsetAt(zone_, moment.tv_sec)) % secondsADay;
+    const auto moment = std::chrono::system_clock::now().time_since_epoch();
+    const auto whole = std::chrono::duration_cast<std::chrono::seconds>(moment);
+    const auto second = (whole.count() + offsetAt(zone_, whole.count())) % secondsADay;
     return static_cast<float>(static_cast<double>(second) +
-                              static_cast<double>(moment.tv_nsec) * 1e-9);
+                              std::chrono::duration<double>(moment - whole).count());
 }
 
 void SiteClock::sleep(int)
 {
-    ::sched_yield();
+    std::this_thread::yield();
 }

@@ -3,13 +3,12 @@
 #include "hosts/cli/terminal/message.h"
 #include "hosts/cli/terminal/output.h"
 #include "platform/database.h"
+#include "system/file_bytes.h"
 #include "system/whole_file.h"
 #include "traces/trace_bits.h"
 
 #include <algorithm>
-#include <fcntl.h>
 #include <sstream>
-#include <unistd.h>
 
 namespace cli {
 
@@ -164,7 +163,7 @@ std::vector<TraceEvent> TraceCheck::newEvents() const
 std::int64_t TraceCheck::eventLogSize() const
 try {
     const auto facts = tool_.site().paths().root().facts(eventLog);
-    return facts ? facts->st_size : 0;
+    return facts ? facts->size : 0;
 } catch (const RunTimeError&) {
     return 0;
 }
@@ -173,8 +172,8 @@ try {
 std::string TraceCheck::eventLogFrom(std::int64_t place) const
 try {
     const FileDescriptor log =
-        tool_.site().paths().root().openFile(eventLog, O_RDONLY, runTimeErrors::fileNotFound);
-    ::lseek(log.get(), place, SEEK_SET);
+        tool_.site().paths().root().openFile(eventLog, forReading, runTimeErrors::fileNotFound);
+    goTo(log, static_cast<std::uint64_t>(place));
     return readWholeFile(log, runTimeErrors::fileNotFound);
 } catch (const RunTimeError&) {
     return {};

@@ -6,8 +6,6 @@
 
 #include <ctime>
 
-#include <fcntl.h>
-
 namespace {
 
 TEST(StampOfName, ReadsTheServersStampBeforeTheEnding)
@@ -46,16 +44,18 @@ TEST(CreationTime, IsTheNamesStampWhateverTheFileSystemSays)
     const std::string name = "diag_A_20051008_152307.txt";
 
     EXPECT_EQ(dateOf(2005, 10, 8, 15, 23, 7),
-              creationTime(AT_FDCWD, folder.write(name), name, PosixTimeZone{}, Date{}));
+              creationTime(name, RootFolder(folder.path()), (folder.write(name), name),
+                           PosixTimeZone{}, Date{}));
 }
 
 TEST(CreationTime, IsTheBirthTimeOtherwise)
 {
     const TemporaryFolder folder;
     const auto before = localDate(PosixTimeZone{}, std::time(nullptr) - 1);
-    const auto path = folder.write("notes.txt");
+    folder.write("notes.txt");
 
-    const auto created = creationTime(AT_FDCWD, path, "notes.txt", PosixTimeZone{}, before);
+    const auto created =
+        creationTime("notes.txt", RootFolder(folder.path()), "notes.txt", PosixTimeZone{}, before);
 
     EXPECT_GE(created, before);
     EXPECT_LE(created, localDate(PosixTimeZone{}, std::time(nullptr) + 1));
@@ -65,8 +65,8 @@ TEST(CreationTime, IsTheModifiedTimeWhereThereIsNoBirthTime)
 {
     const auto modified = dateOf(2001, 2, 3);
 
-    EXPECT_EQ(modified,
-              creationTime(AT_FDCWD, "/no such file", "no such file", PosixTimeZone{}, modified));
+    EXPECT_EQ(modified, creationTime("no such file", RootFolder("/"), "no such file",
+                                     PosixTimeZone{}, modified));
 }
 
 } // namespace

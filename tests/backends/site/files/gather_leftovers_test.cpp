@@ -75,9 +75,8 @@ TEST_F(GatherLeftoversTest, WhatAKilledGatherLeftGoesAndItsResultsStay)
     folder.write("setup.rpt", report);
     folder.makeFolder("disk1");
     const std::string ended = endedProcess();
-    folder.write("A_WPN_20250220_174200.cab." + ended + "-0.tmp", "half");
-    folder.write("A_WPN_20250220_174200_2.cab." + ended + "-0.tmp", "half");
-    folder.write("setup.inf." + ended + "-1.tmp", "half");
+    folder.write(".new-" + ended + "-0", "half");
+    folder.write(".new-" + ended + "-1", "half");
     folder.write("A_WPN_20250220_174100.mdb", "rows");
     folder.write("System.csv", "events");
     EXPECT_EQ((std::set<std::string>{"A_WPN_20250220_174100.mdb", "System.csv"}), swept());
@@ -90,8 +89,8 @@ TEST_F(GatherLeftoversTest, WhatANameAloneSpeaksForStays)
     folder.write("setup.inf", "[Version]\r\n");
     folder.write("setup.rpt", "my report");
     folder.makeFolder("disk1");
-    folder.write("A_WPN_20250220_174200.cab." + std::to_string(::getpid()) + "-0.tmp", "at work");
-    folder.write("mine.cab." + endedProcess() + "-0.tmp", "mine");
+    folder.write(".new-" + std::to_string(::getpid()) + "-0", "at work");
+    folder.write(".new-" + endedProcess() + "-mine", "mine");
     EXPECT_EQ(7U, swept().size());
 }
 

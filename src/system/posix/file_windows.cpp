@@ -1,0 +1,110 @@
+#include "system/file_windows.h"
+
+#include "runtime/run_time_error.h"
+
+#include <cerrno>
+#include <mutex>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace {
+
+/// Whose memory this thread is at; null for none.
+thread_local FileWindows* inUse = nullptr;
+
+struct sigaction handlerBefore {};
+
+void onFault(int number, siginfo_t* facts, void* context)
+{
+    const int error = errno;
+    if (inUse != nullptr && inUse->takeFault(static_cast<char*>(facts->si_addr))) {
+        errno = error;
+        return;
+    }
+    if ((handlerBefore.sa_flags & SA_SIGINFO) != 0)
+        handlerBefore.sa_sigaction(number, facts, context);
+    else if (handlerBefore.sa_handler != SIG_DFL && handlerBefore.sa_handler != SIG_IGN)
+        handlerBefore.sa_handler(number);
+    else
+        signal(number, SIG_DFL); // the store is tried again and ends the program as it would
+}
+
+void installHandler()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        struct sigaction handler {};
+        handler.sa_sigaction = onFault;
+        handler.sa_flags = SA_SIGINFO | SA_NODEFER;
+        sigemptyset(&handler.sa_mask);
+        sigaction(SIGBUS, &handler, &handlerBefore);
+    });
+}
+
+} // namespace
+
+FileWindows::FileWindows(const FileDescriptor& file, std::size_t places, std::size_t windowBytes)
+    : file_(file.get()), windowBytes_(windowBytes),
+      pageBytes_(static_cast<std::size_t>(::sysconf(_SC_PAGESIZE))), offsets_(places, nothing)
+{
+    void* area = ::mmap(nullptr, places * windowBytes, PROT_NONE,
+                        MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    if (area == MAP_FAILED) throw RunTimeError(runTimeErrors::outOfMemory);
+    base_ = static_cast<char*>(area);
+    installHandler();
+}
+
+FileWindows::~FileWindows()
+{
+    ::munmap(base_, offsets_.size() * windowBytes_);
+}
+
+void FileWindows::show(std::size_t place, std::uint64_t offset)
+{
+    offsets_[place] = static_cast<std::int64_t>(offset);
+    if (map(place)) return;
+    offsets_[place] = nothing;
+    throw RunTimeError(runTimeErrors::outOfMemory);
+}
+
+bool FileWindows::map(std::size_t place) const
+{
+    const int kind = failed() ? MAP_PRIVATE | MAP_NORESERVE : MAP_SHARED;
+    return ::mmap(base_ + place * windowBytes_, windowBytes_, PROT_READ | PROT_WRITE,
+                  kind | MAP_FIXED, file_, static_cast<off_t>(offsets_[place])) != MAP_FAILED;
+}
+
+void FileWindows::goOn()
+{
+    failed_ = 0;
+    for (std::size_t place = 0; place < offsets_.size(); ++place)
+        if (offsets_[place] != nothing && !map(place)) {
+            failed_ = 1;
+            throw RunTimeError(runTimeErrors::outOfMemory);
+        }
+}
+
+bool FileWindows::takeFault(char* at)
+{
+    if (at < base_ || at >= base_ + offsets_.size() * windowBytes_) return false;
+    if (!failed()) {
+        failed_ = 1;
+        for (std::size_t place = 0; place < offsets_.size(); ++place)
+            if (offsets_[place] != nothing && !map(place)) return false;
+        return true;
+    }
+    // The file has no such page any more: it reads as zeros.
+    char* page = base_ + static_cast<std::size_t>(at - base_) / pageBytes_ * pageBytes_;
+    return ::mmap(page, pageBytes_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_FIXED,
+                  -1, 0) != MAP_FAILED;
+}
+
+FileWindows::Use::Use(FileWindows& windows) : before_(inUse)
+{
+    inUse = &windows;
+}
+
+FileWindows::Use::~Use()
+{
+    inUse = before_;
+}
