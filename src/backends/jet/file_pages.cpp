@@ -1,36 +1,20 @@
 #include "backends/jet/file_pages.h"
 
+#include "backends/jet/database_file.h"
 #include "backends/jet/errors.h"
-#include "runtime/run_time_error.h"
+#include "system/file_bytes.h"
+#include "system/file_facts.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace jet {
 
-FilePages::FilePages(const std::string& path)
+FilePages::FilePages(const std::string& path) : file_(openDatabaseFile(path, forReading))
 {
-    // A pipe of that name would keep a reader waiting for its writer.
-    file_ = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (file_ < 0 && (errno == ENOENT || errno == ENOTDIR)) raiseFileNotFound(path);
-    struct stat facts {};
-    const bool readable = file_ >= 0 && fstat(file_, &facts) == 0 && S_ISREG(facts.st_mode);
-    const auto size = static_cast<std::uint64_t>(facts.st_size);
-    const bool fits = size <= std::uint64_t{formatFilePages} * pageSize;
-    if (!readable || !fits) {
-        if (file_ >= 0) ::close(file_);
-        if (readable) raiseUnknownFormat("a size of " + std::to_string(size));
-        raiseCannotOpen(path);
-    }
+    const auto size = static_cast<std::uint64_t>(factsOf(file_).size);
+    if (size > std::uint64_t{formatFilePages} * pageSize)
+        raiseUnknownFormat("a size of " + std::to_string(size));
     count_ = static_cast<std::uint32_t>(size / pageSize);
-}
-
-FilePages::~FilePages()
-{
-    ::close(file_);
 }
 
 const char* FilePages::look(std::uint32_t page) const
@@ -69,15 +53,8 @@ void FilePages::read(Block& block) const
     if (!block.bytes) block.bytes = std::make_unique<char[]>(size);
     const std::uint32_t first = block.number * pagesPerBlock;
     const std::size_t wanted = std::min<std::size_t>(pagesPerBlock, count_ - first) * pageSize;
-    std::size_t done = 0;
-    while (done < wanted) {
-        const ssize_t got = pread(file_, block.bytes.get() + done, wanted - done,
-                                  static_cast<off_t>(std::uint64_t{first} * pageSize + done));
-        if (got < 0 && errno == EINTR) continue;
-        if (got < 0) throw RunTimeError(runTimeErrors::deviceIo);
-        if (got == 0) raiseUnknownFormat("the file was cut while it was read");
-        done += static_cast<std::size_t>(got);
-    }
+    if (readAt(file_, block.bytes.get(), wanted, std::uint64_t{first} * pageSize) < wanted)
+        raiseUnknownFormat("the file was cut while it was read");
 }
 
 } // namespace jet

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "backends/jet/pages.h"
+#include "system/file_descriptor.h"
 
 #include <array>
 #include <cstddef>
@@ -20,7 +21,6 @@ public:
     /// Raises 3024 for a missing file, 3051 for one that can't be read, 3343 for one that is larger
     /// than the format allows.
     explicit FilePages(const std::string& path);
-    ~FilePages() override;
     FilePages(const FilePages&) = delete;
     FilePages& operator=(const FilePages&) = delete;
 
@@ -44,7 +44,7 @@ private:
     void read(Block& block) const;
     Block& blockFor(std::uint32_t number) const;
 
-    int file_ = -1;
+    FileDescriptor file_;
     std::uint32_t count_ = 0;
     mutable std::array<Block, mostBlocks> blocks_;
     mutable std::array<std::uint8_t, formatFilePages / pagesPerBlock> places_{}; ///< from 1

@@ -1,17 +1,18 @@
 #include "backends/jet/page_file.h"
 
 #include "backends/jet/data_page.h"
+#include "backends/jet/database_file.h"
 #include "backends/jet/errors.h"
 #include "platform/trace_database.h"
 #include "runtime/run_time_error.h"
+#include "system/file_bytes.h"
+#include "system/file_facts.h"
+#include "system/file_lock.h"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <fcntl.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <string_view>
 
 namespace jet {
 
@@ -25,10 +26,7 @@ using Clock = std::chrono::steady_clock;
 /// The most pages that the process may give a file; writing past it would end the program.
 std::uint64_t pagesAllowed()
 {
-    rlimit limit{};
-    if (getrlimit(RLIMIT_FSIZE, &limit) != 0 || limit.rlim_cur == RLIM_INFINITY)
-        return largestFilePages;
-    return limit.rlim_cur / pageSize;
+    return std::min<std::uint64_t>(largestFileAllowed() / pageSize, largestFilePages);
 }
 
 /// A run of pages as the file grows by them: empty data pages that belong to nothing. A file that
@@ -44,65 +42,28 @@ const std::array<char, pagesPerRun * pageSize>& emptyRun()
     return run;
 }
 
-/// Locks every byte that the file has or will have, until the file is closed. False where another
-/// program holds a lock on any of them; a file system without locks gives true.
-///
-/// This is the kind of lock that file servers carry from machine to machine.
-bool lockAgainstWriters(int file)
-{
-    struct flock all {};
-    all.l_type = F_WRLCK;
-    all.l_whence = SEEK_SET;
-    return fcntl(file, F_OFD_SETLK, &all) == 0 || (errno != EAGAIN && errno != EACCES);
-}
-
-/// Writes all bytes; what fails gives false.
-bool writeAll(int file, const char* bytes, std::size_t size, std::uint64_t at)
-{
-    while (size > 0) {
-        const ssize_t written = pwrite(file, bytes, size, static_cast<off_t>(at));
-        if (written < 0 && errno == EINTR) continue;
-        if (written <= 0) return false;
-        bytes += written;
-        size -= static_cast<std::size_t>(written);
-        at += static_cast<std::uint64_t>(written);
-    }
-    return true;
-}
-
 } // namespace
 
 PageFile::PageFile(const std::string& path)
-{
     // A link that was put in the place of the fresh copy would lead the rows elsewhere.
-    file_ = open(path.c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW);
-    if (file_ < 0) {
-        if (errno == ENOENT || errno == ENOTDIR) raiseFileNotFound(path);
-        raiseCannotOpen(path);
-    }
-    try {
-        if (!lockAgainstWriters(file_))
-            throw RunTimeError(traceDatabaseErrors::fileInUse,
-                               "Couldn't use '" + path + "'; file already in use.");
-        readSize();
-        windows_.emplace(file_);
-    } catch (const RunTimeError&) {
-        ::close(file_);
-        throw;
-    }
+    : file_(openDatabaseFile(path,
+                             {.access = FileAccess::readAndWrite, .lastLink = LastLink::refused}))
+{
+    if (!tryLockBytes(file_))
+        throw RunTimeError(traceDatabaseErrors::fileInUse,
+                           "Couldn't use '" + path + "'; file already in use.");
+    readSize();
+    windows_.emplace(file_);
 }
 
 PageFile::~PageFile()
 {
     if (extent_ > count_) trim();
-    ::close(file_);
 }
 
 void PageFile::readSize()
 {
-    struct stat facts {};
-    if (fstat(file_, &facts) != 0 || !S_ISREG(facts.st_mode)) raiseUnknownFormat("no plain file");
-    const auto size = static_cast<std::uint64_t>(facts.st_size);
+    const auto size = static_cast<std::uint64_t>(factsOf(file_).size);
     if (size < pageSize || size > largestBytes)
         raiseUnknownFormat("a size of " + std::to_string(size));
     count_ = extent_ = static_cast<std::uint32_t>(size / pageSize);
@@ -156,12 +117,13 @@ void PageFile::raiseRefused(Clock::time_point begun)
 bool PageFile::extendBy(std::uint64_t run)
 {
     const std::uint64_t end = std::uint64_t{extent_} * pageSize;
-    if (writeAll(file_, emptyRun().data(), run * pageSize, end)) {
+    const std::string_view pages(emptyRun().data(), run * pageSize);
+    if (writeBytesAt(file_, pages, end) == pages.size()) {
         extent_ += static_cast<std::uint32_t>(run);
         return true;
     }
     // What was written of the run goes; where that fails it is empty, which no reader minds.
-    if (ftruncate(file_, static_cast<off_t>(end)) != 0) errno = 0;
+    resize(file_, end);
     return false;
 }
 
@@ -176,10 +138,7 @@ void PageFile::trim()
 {
     if (wasCut()) return;
     // Where this fails, empty pages or a part of one stay: what a kill leaves, and no reader minds.
-    if (ftruncate(file_, static_cast<off_t>(std::size_t{count_} * pageSize)) == 0)
-        extent_ = count_;
-    else
-        errno = 0;
+    if (resize(file_, std::uint64_t{count_} * pageSize)) extent_ = count_;
 }
 
 void PageFile::replace(std::uint32_t number, const char* content)
@@ -189,16 +148,17 @@ void PageFile::replace(std::uint32_t number, const char* content)
         std::memcpy(page(number), content, pageSize);
         return;
     }
-    if (writeAll(file_, content, pageSize, std::uint64_t{number} * pageSize)) return;
+    if (writeBytesAt(file_, {content, pageSize}, std::uint64_t{number} * pageSize) == pageSize)
+        return;
     if (errno == EIO) throw RunTimeError(runTimeErrors::deviceIo);
     raiseDiskFull();
 }
 
 bool PageFile::wasCut() const
-{
-    struct stat facts {};
-    return fstat(file_, &facts) != 0 ||
-           static_cast<std::uint64_t>(facts.st_size) < std::uint64_t{extent_} * pageSize;
+try {
+    return static_cast<std::uint64_t>(factsOf(file_).size) < std::uint64_t{extent_} * pageSize;
+} catch (const RunTimeError&) {
+    return true;
 }
 
 void PageFile::raiseFailure() const

@@ -2,6 +2,7 @@
 
 #include "backends/jet/page_windows.h"
 #include "backends/jet/pages.h"
+#include "system/file_descriptor.h"
 
 #include <chrono>
 #include <cstdint>
@@ -76,7 +77,7 @@ private:
     bool extendBy(std::uint64_t run);
     [[noreturn]] void raiseRefused(std::chrono::steady_clock::time_point begun);
 
-    int file_ = -1;
+    FileDescriptor file_;
     mutable std::optional<PageWindows> windows_; ///< none until the file was opened
     std::uint32_t count_ = 0;                    ///< pages in use
     std::uint32_t extent_ = 0;                   ///< pages that the file has room for

@@ -16,23 +16,22 @@ public:
         EXPECT_EQ(0, unlink(name_.c_str()));
         cutTo(pages);
     }
-    ~PagesOnDisk() { close(file_); }
     PagesOnDisk(const PagesOnDisk&) = delete;
     PagesOnDisk& operator=(const PagesOnDisk&) = delete;
 
-    int file() const { return file_; }
-    void cutTo(int pages) const { EXPECT_EQ(0, ftruncate(file_, pages * 4096)); }
+    const FileDescriptor& file() const { return file_; }
+    void cutTo(int pages) const { EXPECT_EQ(0, ftruncate(file_.get(), pages * 4096)); }
 
     char at(int page) const
     {
         char byte = '?';
-        EXPECT_EQ(1, pread(file_, &byte, 1, page * 4096));
+        EXPECT_EQ(1, pread(file_.get(), &byte, 1, page * 4096));
         return byte;
     }
 
 private:
     std::string name_ = testing::TempDir() + "orvan_pages_XXXXXX";
-    int file_;
+    FileDescriptor file_;
 };
 
 TEST(PageWindows, AStoreIsInTheFileAtOnce)
