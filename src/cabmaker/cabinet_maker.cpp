@@ -10,11 +10,11 @@
 #include "cabmaker/cabinet_set.h"
 #include "cabmaker/cabinet_writer.h"
 #include "cabmaker/directive_file.h"
-#include "cabmaker/file_error.h"
 #include "cabmaker/names.h"
 #include "cabmaker/reports.h"
 #include "cabmaker/site_paths.h"
 #include "cabmaker/source_file.h"
+#include "system/system_error.h"
 
 namespace cabmaker {
 
@@ -53,7 +53,8 @@ public:
         fs::create_directories(path, error);
         if (!error) return;
         remove();
-        throw fileError("cannot make the folder " + path.string(), error.value());
+        throw toldWith("cannot make the folder " + path.string(),
+                       systemError(error.value(), runTimeErrors::pathNotFound));
     }
     ~DiskFolder() { remove(); }
     DiskFolder(const DiskFolder&) = delete;

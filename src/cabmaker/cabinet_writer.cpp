@@ -73,7 +73,7 @@ void Writer::place(const CabinetSource& source)
     const SourceFacts facts = sourceFacts(source.path, source.shownName);
     const MemberFacts member{.name = source.name,
                              .bytes = facts.bytes,
-                             .modified = cabinetTime(facts.modifiedSeconds),
+                             .modified = cabinetTime(facts.modified.seconds),
                              .readOnly = facts.readOnly};
     layout_.add(member);
     facts_.push_back(facts);

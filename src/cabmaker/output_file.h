@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "system/whole_file.h"
+
 namespace cabmaker {
 
 /// A file that appears under its name only when it is complete.
@@ -15,9 +17,6 @@ class OutputFile {
 public:
     /// `path` is a path of the machine. Nothing there is touched before `publish`.
     explicit OutputFile(std::string path);
-    ~OutputFile();
-    OutputFile(const OutputFile&) = delete;
-    OutputFile& operator=(const OutputFile&) = delete;
 
     void append(std::span<const std::uint8_t> bytes);
     void append(std::string_view text);
@@ -44,10 +43,8 @@ private:
     void write(std::uint64_t offset, std::span<const std::uint8_t> bytes);
 
     std::string path_;
-    std::string temporaryPath_;
-    int descriptor_ = -1;
+    ReplacementFile file_;
     std::uint64_t size_ = 0;
-    bool published_ = false;
 };
 
 } // namespace cabmaker

@@ -4,35 +4,45 @@
 #include <cerrno>
 #include <utility>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include "cabmaker/file_error.h"
+#include "system/file_bytes.h"
+#include "system/root_folder.h"
+#include "system/system_error.h"
 
 namespace cabmaker {
 
 namespace {
 
-SourceFacts factsOf(const struct stat& status)
+SourceFacts sourceFactsOf(const FileFacts& facts)
 {
-    return {.bytes = static_cast<std::uint64_t>(status.st_size),
-            .modifiedSeconds = status.st_mtim.tv_sec,
-            .modifiedNanoseconds = status.st_mtim.tv_nsec,
-            .identity = status.st_ino,
-            .readOnly = (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0};
+    return {.bytes = static_cast<std::uint64_t>(facts.size),
+            .modified = facts.modified,
+            .identity = facts.identity,
+            .readOnly = facts.readOnly};
+}
+
+template <typename Act>
+auto reading(const std::string& shownName, Act&& act)
+{
+    try {
+        return act();
+    } catch (const RunTimeError& error) {
+        throw toldWith("cannot read " + shownName, error);
+    }
 }
 
 } // namespace
 
 SourceFacts sourceFacts(const std::string& path, const std::string& shownName)
 {
-    struct stat status {};
-    if (::stat(path.c_str(), &status) != 0) throw fileError("cannot read " + shownName, errno);
-    if (!S_ISREG(status.st_mode))
+    const FileFacts facts = reading(shownName, [&] {
+        const auto found = RootFolder("/", RootFolder::Bounds::machine).facts(path);
+        if (!found) throw systemError(ENOENT, runTimeErrors::fileNotFound);
+        return *found;
+    });
+    if (facts.kind != FileKind::file)
         throw RunTimeError(runTimeErrors::pathFileAccess,
                            "cannot read " + shownName + ": it is not a plain file");
-    return factsOf(status);
+    return sourceFactsOf(facts);
 }
 
 CabinetTime cabinetTime(std::time_t moment)
@@ -51,37 +61,29 @@ CabinetTime cabinetTime(std::time_t moment)
 
 SourceReader::SourceReader(std::string path, std::string shownName, const SourceFacts& facts)
     : path_(std::move(path)), shownName_(std::move(shownName)), facts_(facts),
-      remaining_(facts.bytes), descriptor_(::open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
-{
-    if (descriptor_ < 0) throw fileError("cannot read " + shownName_, errno);
-}
-
-SourceReader::~SourceReader()
-{
-    ::close(descriptor_);
-}
+      remaining_(facts.bytes), file_(reading(shownName_, [this] {
+          return openMachineFile(path_, forReading, runTimeErrors::fileNotFound);
+      }))
+{}
 
 std::size_t SourceReader::read(std::span<std::uint8_t> target)
 {
     const auto wanted =
         static_cast<std::size_t>(std::min<std::uint64_t>(remaining_, target.size()));
     if (wanted == 0) return 0;
-    ssize_t count = 0;
-    do {
-        count = ::read(descriptor_, target.data(), wanted);
-    } while (count < 0 && errno == EINTR);
-    if (count < 0) throw fileError("cannot read " + shownName_, errno);
+    const std::size_t count = reading(shownName_, [&] {
+        return readSome(file_, reinterpret_cast<char*>(target.data()), wanted);
+    });
     if (count == 0) refuse();
-    remaining_ -= static_cast<std::uint64_t>(count);
-    return static_cast<std::size_t>(count);
+    remaining_ -= count;
+    return count;
 }
 
 void SourceReader::finish()
 {
-    struct stat status {};
-    if (::fstat(descriptor_, &status) != 0) throw fileError("cannot read " + shownName_, errno);
+    const FileFacts facts = reading(shownName_, [this] { return factsOf(file_); });
     // The open file may have lost its name meanwhile, so both are looked at.
-    if (factsOf(status) != facts_ || sourceFacts(path_, shownName_) != facts_) refuse();
+    if (sourceFactsOf(facts) != facts_ || sourceFacts(path_, shownName_) != facts_) refuse();
 }
 
 void SourceReader::refuse() const

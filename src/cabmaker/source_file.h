@@ -6,22 +6,22 @@
 #include <string>
 
 #include "cabmaker/cabinet_layout.h"
+#include "system/file_facts.h"
 
 namespace cabmaker {
 
 /// The state of a file that is going to be packed.
 struct SourceFacts {
     std::uint64_t bytes = 0;
-    std::int64_t modifiedSeconds = 0;
-    std::int64_t modifiedNanoseconds = 0;
-    std::uint64_t identity = 0; ///< another file under the same name has another one
+    FileMoment modified;
+    FileIdentity identity; ///< another file under the same name has another one
     bool readOnly = false;
 
     bool operator==(const SourceFacts&) const = default;
 };
 
 /// Looks at the file at `path`, a path of the machine, which messages call `shownName`.
-/// Raises 53, 70, 76, and 75 for what is not a plain file.
+/// Raises 53, 70, 57, and 75 for what is not a plain file.
 SourceFacts sourceFacts(const std::string& path, const std::string& shownName);
 
 /// A time in seconds since 1970 in cabinet form: local time, whole pairs of seconds. What lies
@@ -33,9 +33,6 @@ CabinetTime cabinetTime(std::time_t moment);
 class SourceReader {
 public:
     SourceReader(std::string path, std::string shownName, const SourceFacts& facts);
-    ~SourceReader();
-    SourceReader(const SourceReader&) = delete;
-    SourceReader& operator=(const SourceReader&) = delete;
 
     /// Bytes that are still to come.
     std::uint64_t remaining() const { return remaining_; }
@@ -53,7 +50,7 @@ private:
     std::string shownName_;
     SourceFacts facts_;
     std::uint64_t remaining_;
-    int descriptor_;
+    FileDescriptor file_;
 };
 
 } // namespace cabmaker

@@ -105,9 +105,10 @@ TEST(Program, LeavesNothingWhenItIsInterrupted)
     scratch.write("a.mdb", "");
     fs::resize_file(scratch.path() / "a.mdb", 2'147'450'880); // takes seconds to pack
     scratch.write("a.ddf", "a.mdb\n");
-    const CommandResult result = runCommand(
-        scratch.path(), program + "/f a.ddf & while kill -0 $! && ! ls disk1/*.tmp; do sleep 0.01; "
-                                  "done >/dev/null 2>&1; kill -TERM $!; wait $!");
+    const CommandResult result =
+        runCommand(scratch.path(),
+                   program + "/f a.ddf & while kill -0 $! && ! ls disk1/.new-*; do sleep 0.01; "
+                             "done >/dev/null 2>&1; kill -TERM $!; wait $!");
     EXPECT_EQ(128 + 15, result.status);
     EXPECT_TRUE(result.errors.starts_with("cabmaker: interrupted\n")) << result.errors;
     EXPECT_EQ((std::vector<std::string>{"a.ddf", "a.mdb"}), scratch.listing());

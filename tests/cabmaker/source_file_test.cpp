@@ -84,7 +84,7 @@ TEST(SourceFacts, RefuseWhatIsNoPlainFile)
         int number;
     };
     const Case cases[] = {{"none", runTimeErrors::fileNotFound},
-                          {"a/none", runTimeErrors::pathNotFound},
+                          {"a/none", runTimeErrors::fileNotFound},
                           {".", runTimeErrors::pathFileAccess},
                           {"pipe", runTimeErrors::pathFileAccess}};
     for (const auto& c : cases) {
