@@ -1,10 +1,9 @@
 #include "sample/output_file.h"
 
 #include "runtime/run_time_error.h"
+#include "system/file_facts.h"
 
-#include <fcntl.h>
 #include <iterator>
-#include <sys/stat.h>
 
 namespace sample {
 
@@ -51,9 +50,7 @@ std::string readFile(const fs::path& path)
 
 void setModified(const fs::path& path, Moment modified)
 {
-    timespec times[2] = {};
-    times[0].tv_sec = times[1].tv_sec = static_cast<time_t>(unixSeconds(modified));
-    if (::utimensat(AT_FDCWD, path.c_str(), times, 0) != 0)
+    if (!setTimes(path.string(), {.seconds = unixSeconds(modified)}))
         throw RunTimeError(runTimeErrors::deviceIo, "cannot date " + path.string());
 }
 

@@ -5,8 +5,7 @@
 #include "hosts/cli/terminal/message.h"
 #include "hosts/common/places.h"
 #include "shell/snapin_definition.h"
-
-#include <unistd.h>
+#include "system/file_facts.h"
 
 namespace cli {
 
@@ -24,11 +23,6 @@ HostFacts hostFacts(const GlobalOptions& options)
     facts.notice = printMessage;
     if (!options.toolFolder.empty()) facts.toolFolder = places::wholePath(options.toolFolder);
     return facts;
-}
-
-bool mayWrite(const std::string& folder)
-{
-    return ::access(folder.c_str(), W_OK) == 0;
 }
 
 /// The site's folder, once it is sure that a tool that changes something can keep its log and its

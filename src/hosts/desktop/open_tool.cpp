@@ -3,25 +3,13 @@
 #include "runtime/run_time_error.h"
 #include "runtime/visible_text.h"
 #include "shell/snapin_definition.h"
+#include "system/file_facts.h"
 
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 namespace desktop {
-
-namespace {
-
-/// As the process may write now, which is not always as the one who started it may.
-bool mayWrite(const std::string& folder)
-{
-    return ::faccessat(AT_FDCWD, folder.c_str(), W_OK, AT_EACCESS) == 0;
-}
-
-} // namespace
 
 OpenTool::OpenTool(const std::string& folder, const std::string& installedData, HostFacts facts,
                    Desktop& desktop)

@@ -17,8 +17,6 @@
 #include <cstdlib>
 #include <exception>
 
-#include <unistd.h>
-
 namespace desktop {
 
 namespace {
@@ -34,7 +32,7 @@ void sayWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&
 {
     if (type != QtFatalMsg) return;
     refuse("there is no display to open a window on (set DISPLAY or WAYLAND_DISPLAY)");
-    ::_exit(1);
+    std::_Exit(1);
 }
 
 HostFacts hostFacts(const ConsoleOptions& options)

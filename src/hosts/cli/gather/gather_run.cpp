@@ -4,12 +4,11 @@
 #include "hosts/cli/gather/gather_wizard.h"
 #include "hosts/common/destination_turn.h"
 #include "hosts/common/gather_outcome.h"
+#include "system/file_facts.h"
 
 #include <chrono>
 #include <filesystem>
 #include <thread>
-
-#include <unistd.h>
 
 namespace cli {
 
@@ -89,14 +88,14 @@ void requireUsableDestination(OpenTool& tool, const std::string& destination)
     if (fs::exists(folder, none)) {
         if (!fs::is_directory(folder, none))
             throw CommandFailure("the destination " + folder.string() + " is not a folder");
-        if (::access(folder.c_str(), W_OK) != 0)
+        if (!mayWrite(folder.string()))
             throw CommandFailure("the destination " + folder.string() + " may not be written to");
         return;
     }
     const fs::path parent = folder.parent_path();
     if (!fs::is_directory(parent, none))
         throw CommandFailure("the destination's folder " + parent.string() + " does not exist");
-    if (::access(parent.c_str(), W_OK) != 0)
+    if (!mayWrite(parent.string()))
         throw CommandFailure("the destination can't be made: " + parent.string() +
                              " may not be written to");
 }

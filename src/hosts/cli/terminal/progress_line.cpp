@@ -1,13 +1,11 @@
 #include "hosts/cli/terminal/progress_line.h"
 
 #include "runtime/visible_text.h"
+#include "system/terminal.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-
-#include <sys/ioctl.h>
-#include <unistd.h>
 
 namespace cli {
 
@@ -16,11 +14,9 @@ constexpr int barWidth = 24;
 constexpr auto redrawAfter = std::chrono::milliseconds(80);
 } // namespace
 
-ProgressLine::ProgressLine() : terminal_(isatty(STDERR_FILENO) == 1)
+ProgressLine::ProgressLine() : terminal_(errorsGoToATerminal())
 {
-    winsize size{};
-    if (terminal_ && ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0)
-        width_ = size.ws_col;
+    if (const auto width = widthOfErrorTerminal()) width_ = *width;
 }
 
 ProgressLine::~ProgressLine()

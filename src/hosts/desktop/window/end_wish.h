@@ -1,5 +1,7 @@
 #pragma once
 
+#include "system/end_signals.h"
+
 #include <QObject>
 
 #include <functional>
@@ -15,7 +17,6 @@ class EndWish final : public QObject {
 public:
     /// Calls `wished` from the event loop. Needs the application object.
     explicit EndWish(std::function<void()> wished);
-    ~EndWish() override;
 
     bool made() const { return made_; }
 
@@ -28,6 +29,7 @@ private:
 
     std::function<void()> wished_;
     bool made_ = false;
+    EndSignals signals_;
 };
 
 } // namespace desktop
