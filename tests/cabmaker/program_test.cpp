@@ -5,12 +5,13 @@
 #include <gtest/gtest.h>
 
 #include "cabmaker/scratch_folder.h"
+#include "support/places.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-const std::string program = std::string("'") + CABMAKER_PROGRAM + "' ";
+const std::string program = std::string("'") + built::cabmaker + "' ";
 
 std::string gatherDirectives()
 {

@@ -1,4 +1,5 @@
 #include "end_to_end/sample_site.h"
+#include "support/places.h"
 
 #include <gmock/gmock.h>
 
@@ -95,8 +96,8 @@ TEST_F(BadInput, AResultThatCantBeWrittenIsAFailure)
     for (const std::string& command : {std::string("status"), "read " + currentLog()}) {
         SCOPED_TRACE(command);
         expectOneLine(runProgram({"bash", "-c",
-                                  "exec '" ORVANDIAG_PROGRAM "' --site '" + site.string() + "' " +
-                                      command + " >/dev/full"}),
+                                  std::string("exec '") + built::orvandiag + "' --site '" +
+                                      site.string() + "' " + command + " >/dev/full"}),
                       1, "cannot write the result");
     }
 }

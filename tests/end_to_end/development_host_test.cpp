@@ -1,4 +1,5 @@
 #include "end_to_end/sample_site.h"
+#include "support/places.h"
 
 #include <gmock/gmock.h>
 
@@ -73,7 +74,7 @@ TEST_F(DevelopmentHost, LetsEveryStatementGoAfterAnInterrupt)
 
     const Outcome cancelled = runProgram(
         {"bash", "-c",
-         "'" ORVANDIAG_PROGRAM "' --site '" + site.string() +
+         std::string("'") + built::orvandiag + "' --site '" + site.string() +
              "' --development-host gather frame --from '2025-02-20 00:00' --hours 24 --to '" +
              target.string() + "' & gather=$!; until grep -qs 'processOrvanDataFileToDB) .*Err' '" +
              logs + "'/* || ! kill -0 $gather; do :; done; kill -INT $gather; wait $gather"});

@@ -1,6 +1,7 @@
 #include "backends/jet/outside_readers.h"
 #include "end_to_end/frame_model.h"
 #include "end_to_end/sample_site.h"
+#include "support/places.h"
 
 #include <gmock/gmock.h>
 
@@ -52,7 +53,7 @@ struct FrameGather : SampleSite {
             content += "15:23:07:123,Conv,1,CallFlow,2,good\n";
         write(drive("KelmaOrvan/Logs/diag_Long_20250101_000000.txt"), content);
         return runProgram({"bash", "-c",
-                           "'" ORVANDIAG_PROGRAM "' --site '" + site.string() +
+                           std::string("'") + built::orvandiag + "' --site '" + site.string() +
                                "' gather frame --from '2025-01-01 00:00' --hours 24 --to '" +
                                target.string() + "' & gather=$!; until [ -s '" + target.string() +
                                "'/*.mdb ] || ! kill -0 $gather; do :; done; " + command +
@@ -63,7 +64,7 @@ struct FrameGather : SampleSite {
     /// size, unless it ends before.
     void killGather(std::uintmax_t bytes, unsigned microseconds) const
     {
-        std::vector<std::string> words = {ORVANDIAG_PROGRAM, "--site", site.string()};
+        std::vector<std::string> words = {built::orvandiag, "--site", site.string()};
         for (const auto& word : gatherWords("2025-02-17 17:00", "100", target))
             words.push_back(word);
         const pid_t child = fork();

@@ -1,4 +1,5 @@
 #include "end_to_end/sample_site.h"
+#include "support/places.h"
 
 #include <gmock/gmock.h>
 
@@ -151,11 +152,12 @@ TEST_F(GatherCommand, AnInterruptIsTheWizardsCancelAndKeepsWhatWasRead)
     for (int i = 0; i < 500'000; ++i) content += "15:23:07:123,Conv,1,X,2,a line among many\n";
     write(drive("KelmaOrvan/Logs/" + log), content);
     const std::string copy = (target / formattedName(log)).string();
-    const Outcome cancelled = runProgram(
-        {"bash", "-c",
-         "'" ORVANDIAG_PROGRAM "' --site '" + site.string() + "' gather logs --log " + log +
-             " --event-log System --to '" + target.string() + "' & gather=$!; until [ -e '" + copy +
-             "' ] || ! kill -0 $gather; do :; done; kill -TERM $gather; wait $gather"});
+    const Outcome cancelled =
+        runProgram({"bash", "-c",
+                    std::string("'") + built::orvandiag + "' --site '" + site.string() +
+                        "' gather logs --log " + log + " --event-log System --to '" +
+                        target.string() + "' & gather=$!; until [ -e '" + copy +
+                        "' ] || ! kill -0 $gather; do :; done; kill -TERM $gather; wait $gather"});
     EXPECT_EQ(1, cancelled.status) << cancelled.out << cancelled.err;
     EXPECT_EQ("orvandiag: cancelled; what was read until then is kept in " + target.string() + "\n",
               cancelled.err);
@@ -201,10 +203,10 @@ TEST_F(GatherCommand, TellsOfAFullDisk)
     std::string content;
     for (int i = 0; i < 20'000; ++i) content += "15:23:07:123,Conv,1,X,2,a line among many\n";
     write(drive("KelmaOrvan/Logs/" + log), content);
-    const Outcome full =
-        runProgram({"bash", "-c",
-                    "ulimit -f 256; exec '" ORVANDIAG_PROGRAM "' --site '" + site.string() +
-                        "' gather logs --log " + log + " --to '" + target.string() + "'"});
+    const Outcome full = runProgram({"bash", "-c",
+                                     std::string("ulimit -f 256; exec '") + built::orvandiag +
+                                         "' --site '" + site.string() + "' gather logs --log " +
+                                         log + " --to '" + target.string() + "'"});
     EXPECT_EQ(1, full.status) << full.out << full.err;
     EXPECT_EQ("orvandiag: not everything was gathered: " + log + " was copied in part: Disk full\n",
               full.err);
@@ -224,11 +226,12 @@ TEST_F(GatherCommand, ASignalIsACancelAndNoEnd)
     for (const char* signal : {"INT", "TERM", "HUP"}) {
         SCOPED_TRACE(signal);
         const std::string copy = (target / formattedName(log)).string();
-        const Outcome cancelled = runProgram(
-            {"bash", "-mc",
-             "'" ORVANDIAG_PROGRAM "' --site '" + site.string() + "' gather logs --log " + log +
-                 " --to '" + target.string() + "' & child=$!; until [ -s '" + copy +
-                 "' ]; do sleep 0.01; done; kill -" + signal + " $child; wait $child"});
+        const Outcome cancelled =
+            runProgram({"bash", "-mc",
+                        std::string("'") + built::orvandiag + "' --site '" + site.string() +
+                            "' gather logs --log " + log + " --to '" + target.string() +
+                            "' & child=$!; until [ -s '" + copy +
+                            "' ]; do sleep 0.01; done; kill -" + signal + " $child; wait $child"});
         EXPECT_EQ(1, cancelled.status) << cancelled.err;
         EXPECT_THAT(cancelled.err, HasSubstr("cancelled; what was read until then is kept in "));
         fs::remove_all(target);

@@ -1,5 +1,6 @@
 #include "end_to_end/program.h"
 #include "end_to_end/site_record.h"
+#include "support/places.h"
 
 #include <gmock/gmock.h>
 
@@ -87,7 +88,7 @@ protected:
 
     Outcome run(const Words& words) const
     {
-        Words all{"timeout", "60", ORVANDIAG_PROGRAM, "--site", site.string()};
+        Words all{"timeout", "60", built::orvandiag, "--site", site.string()};
         all.insert(all.end(), words.begin(), words.end());
         return runProgram(all, box->string());
     }
@@ -226,7 +227,7 @@ TEST_F(HostileSites, NamesWithEscapesAreNames)
     expectNothingOutsideIsTouched("names");
     const Outcome onTerminal =
         runProgram({"script", "-qec",
-                    std::string(ORVANDIAG_PROGRAM) + " --site " + site.string() + " logs KoCSMgr",
+                    std::string(built::orvandiag) + " --site " + site.string() + " logs KoCSMgr",
                     "/dev/null"});
     EXPECT_THAT(onTerminal.out, HasSubstr("diag_KoCSMgr_\\x1b[2J.txt"));
     EXPECT_EQ(std::string::npos, onTerminal.out.find('\x1b'));

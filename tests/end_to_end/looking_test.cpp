@@ -1,5 +1,6 @@
 #include "end_to_end/sample_site.h"
 #include "end_to_end/site_record.h"
+#include "support/places.h"
 
 #include <gmock/gmock.h>
 
@@ -109,7 +110,7 @@ struct ReadOnlySite : Looking {
         // The superuser may write everywhere, so another user looks, with a program within its
         // reach.
         fs::create_directories(program.parent_path());
-        fs::copy_file(ORVANDIAG_PROGRAM, program);
+        fs::copy_file(built::orvandiag, program);
         for (const auto& place : {folder, program.parent_path(), program})
             fs::permissions(place, read | enter, perm_options::add);
         for (const auto& entry : fs::recursive_directory_iterator(site))

@@ -1,5 +1,7 @@
 #include "end_to_end/program.h"
 
+#include "support/places.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -64,6 +66,6 @@ Outcome runProgram(const std::vector<std::string>& words, const std::string& fol
 
 Outcome orvandiag(std::vector<std::string> words, const std::string& folder)
 {
-    words.insert(words.begin(), ORVANDIAG_PROGRAM);
+    words.insert(words.begin(), built::orvandiag);
     return runProgram(words, folder);
 }

@@ -1,4 +1,5 @@
 #include "end_to_end/program.h"
+#include "support/places.h"
 
 #include <gmock/gmock.h>
 
@@ -33,7 +34,7 @@ struct SampleCommand : testing::Test {
         const pid_t child = fork();
         if (child == 0) {
             dup2(open(said.c_str(), O_WRONLY | O_CREAT, 0666), STDERR_FILENO);
-            execl(ORVANDIAG_PROGRAM, "orvandiag", "sample", site.c_str(), "--lines", "900000000",
+            execl(built::orvandiag, "orvandiag", "sample", site.c_str(), "--lines", "900000000",
                   static_cast<char*>(nullptr));
             _exit(127);
         }
@@ -77,20 +78,20 @@ TEST_F(SampleCommand, LeavesNothingWhenItIsInterrupted)
 
 TEST_F(SampleCommand, GoesOnWithoutItsTerminalWhereItWasToldTo)
 {
-    const std::string said =
-        runProgram({"sh", "-c",
-                    "trap '' HUP; '" ORVANDIAG_PROGRAM "' sample '" + (folder / "site").string() +
-                        "' --lines 300000 & child=$!; sleep 0.1; "
-                        "kill -HUP $child; wait $child; echo $?"})
-            .out;
+    const std::string said = runProgram({"sh", "-c",
+                                         std::string("trap '' HUP; '") + built::orvandiag +
+                                             "' sample '" + (folder / "site").string() +
+                                             "' --lines 300000 & child=$!; sleep 0.1; "
+                                             "kill -HUP $child; wait $child; echo $?"})
+                                 .out;
     EXPECT_THAT(said, testing::EndsWith("0\n"));
     EXPECT_TRUE(fs::exists(folder / "site/site.ini"));
 }
 
 TEST_F(SampleCommand, ShowsItsProgressOnATerminalAlone)
 {
-    const std::string command =
-        "'" ORVANDIAG_PROGRAM "' sample '" + (folder / "site").string() + "' --lines 20000";
+    const std::string command = std::string("'") + built::orvandiag + "' sample '" +
+                                (folder / "site").string() + "' --lines 20000";
     const Outcome seen = runProgram({"script", "-qec", command, "/dev/null"});
     EXPECT_EQ(0, seen.status);
     EXPECT_THAT(seen.out, HasSubstr("%  Making a sample server"));

@@ -1,4 +1,5 @@
 #include "end_to_end/sample_site.h"
+#include "support/places.h"
 
 #include <gmock/gmock.h>
 
@@ -198,7 +199,7 @@ TEST_F(EventLanguageCommand, TheFirstLanguageComesBackWhenASignalComesInBetween)
         SCOPED_TRACE(signal);
         const Outcome ended = runProgram(
             {"bash", "-mc",
-             "'" ORVANDIAG_PROGRAM "' --site '" + site.string() +
+             std::string("'") + built::orvandiag + "' --site '" + site.string() +
                  "' event-language FRA & child=$!; until grep -q '" + registered + "' '" +
                  (site / "registry.reg").string() + "' || ! kill -0 $child; do :; done; kill -" +
                  signal + " $child; wait $child"});

@@ -1,4 +1,5 @@
 #include "end_to_end/program.h"
+#include "support/places.h"
 
 #include <gmock/gmock.h>
 
@@ -51,7 +52,7 @@ Words commands()
 Words completed(const Words& line)
 {
     std::string script =
-        "source <(" + std::string(ORVANDIAG_PROGRAM) + " completion bash)\nCOMP_WORDS=(orvandiag";
+        "source <(" + std::string(built::orvandiag) + " completion bash)\nCOMP_WORDS=(orvandiag";
     for (const auto& word : line) script += " '" + word + "'";
     script += ")\nCOMP_CWORD=" + std::to_string(line.size()) +
               "\n_orvandiag\nprintf '%s\\n' \"${COMPREPLY[@]}\"\n";
@@ -210,7 +211,7 @@ TEST(ManualPage, NoLineOfTextIsTakenForARequest)
 
 TEST(ManualPage, StandsWithTheCompletionWhereTheyAreInstalledFrom)
 {
-    const std::filesystem::path share = std::filesystem::path(ORVAN_BUILD_FOLDER) / "share";
+    const std::filesystem::path share = std::filesystem::path(built::folder) / "share";
     EXPECT_EQ(orvandiag({"man"}).out, contentOf(share / "man/man1/orvandiag.1"));
     EXPECT_EQ(orvandiag({"completion", "bash"}).out,
               contentOf(share / "bash-completion/completions/orvandiag"));

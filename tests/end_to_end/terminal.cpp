@@ -1,5 +1,7 @@
 #include "end_to_end/terminal.h"
 
+#include "support/places.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -22,7 +24,7 @@ std::string without(std::string text, const std::string& part)
 
 std::string onTerminal(std::vector<std::string> words, const std::string& folder)
 {
-    words.insert(words.begin(), ORVANDIAG_PROGRAM);
+    words.insert(words.begin(), built::orvandiag);
     termios asItIs{};
     cfmakeraw(&asItIs);
     winsize size{50, 200, 0, 0};

@@ -1,5 +1,7 @@
 #include "faults/box.h"
 
+#include "support/places.h"
+
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -214,7 +216,7 @@ void Box::begin() const
 Run Box::run(const Change& change, const std::string& plan) const
 {
     std::memset(static_cast<void*>(counts_), 0, sizeof(CallCounts));
-    std::vector<std::string> words{ORVANDIAG_PROGRAM};
+    std::vector<std::string> words{built::orvandiag};
     if (!change.makesSample) words.insert(words.end(), {"--site", site.string()});
     for (const auto& word : change.words) words.push_back(word == "TO" ? to.string() : word);
     std::vector<std::string> variables{
@@ -222,7 +224,7 @@ Run Box::run(const Change& change, const std::string& plan) const
         "LANG=C.UTF-8",
         "HOME=" + (folder / "home").string(),
         "TMPDIR=" + (folder / "temp").string(),
-        "LD_PRELOAD=" ORVAN_FAILING_CALLS,
+        std::string("LD_PRELOAD=") + built::failingCalls,
         std::string(countsVariable) + "=" + (folder / "counts").string(),
         std::string(patienceVariable) + "=60",
     };

@@ -1,6 +1,5 @@
-#ifdef ORVANDIAG_CONSOLE
-
 #include "end_to_end/program.h"
+#include "support/places.h"
 
 #include <gmock/gmock.h>
 
@@ -21,14 +20,14 @@ std::set<std::string> longOptions(const std::string& text)
 /// The console's manual page as the reader sees it: a hyphen that is not broken is written `\-`.
 std::string manualPage()
 {
-    std::ifstream file(ORVAN_PACKAGING "/orvandiag-console.1");
+    std::ifstream file(std::string(checkout::packaging) + "/orvandiag-console.1");
     const std::string source{std::istreambuf_iterator<char>(file), {}};
     return std::regex_replace(source, std::regex(R"(\\-)"), "-");
 }
 
 TEST(ConsoleManual, HasTheOptionsThatTheProgramTells)
 {
-    const Outcome help = runProgram({ORVANDIAG_CONSOLE, "--help"});
+    const Outcome help = runProgram({built::console, "--help"});
     ASSERT_EQ(0, help.status) << help.err;
     auto told = longOptions(help.out);
     told.erase("--development-host"); // for who builds the tool
@@ -37,5 +36,3 @@ TEST(ConsoleManual, HasTheOptionsThatTheProgramTells)
 }
 
 } // namespace
-
-#endif

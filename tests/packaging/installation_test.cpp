@@ -1,5 +1,6 @@
 #include "end_to_end/program.h"
 #include "end_to_end/sample_site.h"
+#include "support/places.h"
 
 #include <gmock/gmock.h>
 
@@ -21,9 +22,8 @@ protected:
     /// stands before it for a while.
     void install(const std::string& prefix, const std::string& destdir = {})
     {
-        const Outcome run =
-            runProgram({"env", "DESTDIR=" + destdir, ORVAN_CMAKE, "--install", ORVAN_BUILD_FOLDER,
-                        "--prefix", prefix, "--component", "tool"});
+        const Outcome run = runProgram({"env", "DESTDIR=" + destdir, built::cmake, "--install",
+                                        built::folder, "--prefix", prefix, "--component", "tool"});
         ASSERT_EQ(0, run.status) << run.out << run.err;
     }
 
@@ -99,7 +99,7 @@ TEST_F(Installation, HasEveryFileOfTheDataFolders)
     install(folder / "opt");
     const auto installed = filesBelow(folder / "opt" / "share" / "orvandiag");
     EXPECT_THAT(installed, Contains("help/index.html"));
-    for (const auto& entry : fs::directory_iterator(ORVAN_DATA_FOLDER)) {
+    for (const auto& entry : fs::directory_iterator(checkout::data)) {
         if (!entry.is_directory()) continue;
         const std::string name = entry.path().filename();
         const std::string before = name == "languages" ? "" : name + "/";

@@ -1,5 +1,6 @@
 #include "backends/site/sample_site.h"
 #include "runtime/run_time_error.h"
+#include "support/places.h"
 #include "system/whole_file.h"
 
 #include <gmock/gmock.h>
@@ -82,8 +83,8 @@ TEST(SampleGridCatalogue, ExplainsAtLeast25ComponentsWith8To32LevelsInTwoLanguag
 TEST(SampleGridCatalogue, ShowsComponentsWithoutParentheses)
 {
     for (const char* language : {"ENU", "FRA"}) {
-        const XmlFile file(readMachineFile(std::string(ORVAN_DATA_OUTPUT) +
-                                               "/sample/DiagnosticGrids_" + language + ".xml",
+        const XmlFile file(readMachineFile(std::string(built::data) + "/sample/DiagnosticGrids_" +
+                                               language + ".xml",
                                            runTimeErrors::fileNotFound));
         const auto components = file.document->selectNodes("DiagnosticGrids/*");
         EXPECT_FALSE(components.empty());

@@ -4,6 +4,7 @@
 #include "sample/day_profile.h"
 #include "sample/random.h"
 #include "support/error_of.h"
+#include "support/places.h"
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
@@ -30,7 +31,7 @@ SampleOptions optionsFor(const std::string& folder)
 {
     SampleOptions options;
     options.folder = folder;
-    options.dataFolder = ORVAN_DATA_OUTPUT;
+    options.dataFolder = built::data;
     options.lines = 200;
     return options;
 }
@@ -107,7 +108,7 @@ TEST(SampleServer, LeavesNothingBehindWhenAFileIsMissingHalfWay)
           "server/schema.sql", "sample/sample.sql"}) {
         SCOPED_TRACE(missing);
         const TemporaryFolder data;
-        fs::copy(ORVAN_DATA_OUTPUT, data.path(), fs::copy_options::recursive);
+        fs::copy(built::data, data.path(), fs::copy_options::recursive);
         fs::remove_all(data / missing);
         auto options = optionsFor(folder / "site");
         options.dataFolder = data.path();
@@ -120,7 +121,7 @@ TEST(SampleServer, LeavesNothingBehindWhenAFileIsMissingHalfWay)
 TEST(SampleServer, LeavesNothingBehindWhenTheDatabaseRefusesItsRows)
 {
     const TemporaryFolder folder, data;
-    fs::copy(ORVAN_DATA_OUTPUT, data.path(), fs::copy_options::recursive);
+    fs::copy(built::data, data.path(), fs::copy_options::recursive);
     data.write("sample/sample.sql", "INSERT INTO nowhere VALUES (1);");
     auto options = optionsFor(folder / "site");
     options.dataFolder = data.path();
@@ -145,7 +146,7 @@ TEST(SampleServer, DescribesItselfInItsSettingsFile)
 TEST(SampleServer, OpensAsASiteWhoseRegistryNamesTheCurrentLogs)
 {
     const SampleSite sample(100);
-    Site site(sample.path(""), ORVAN_DATA_OUTPUT, HostFacts{});
+    Site site(sample.path(""), built::data, HostFacts{});
     const std::string processes = "Software\\Kelma Systems\\Kelma Orvan\\RoLogMgr\\Process";
 
     const auto names = site.registry().subkeys(registryRoot::localMachine, processes);

@@ -12,12 +12,13 @@
 #include <vector>
 
 #include "core/string_table.h"
+#include "support/places.h"
 
 namespace {
 
 using Pages = std::map<std::string, std::string>;
 
-const std::filesystem::path folder = std::filesystem::path(ORVAN_DATA_FOLDER) / "help";
+const std::filesystem::path folder = std::filesystem::path(checkout::data) / "help";
 
 std::string contentOf(const std::filesystem::path& path)
 {

@@ -12,6 +12,7 @@
 
 #include "backends/site/language/language_catalogue.h"
 #include "core/string_table.h"
+#include "support/places.h"
 
 namespace {
 
@@ -19,7 +20,7 @@ constexpr std::size_t longestText = 1199;
 
 std::filesystem::path cataloguePath(const std::string& code)
 {
-    return std::filesystem::path(ORVAN_DATA_FOLDER) / "languages" /
+    return std::filesystem::path(checkout::data) / "languages" /
            ("ZMKbrandingres_" + code + ".txt");
 }
 

@@ -1,5 +1,7 @@
 #include "structure/source_tree.h"
 
+#include "support/places.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -8,7 +10,7 @@
 namespace fs = std::filesystem;
 
 namespace {
-const fs::path root = ORVAN_SOURCE_DIR;
+const fs::path root = checkout::folder;
 }
 
 std::vector<std::string> sourceFiles(const std::string& folder)

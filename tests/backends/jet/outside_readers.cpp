@@ -1,6 +1,7 @@
 #include "backends/jet/outside_readers.h"
 
 #include "backends/jet/file_pages.h"
+#include "support/places.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -13,6 +14,12 @@ namespace {
 constexpr char valueEnd = '\x1F';
 constexpr char rowEnd = '\x1E';
 const std::string null = "\x01";
+
+/// The command that tells a database's tables, or the rows of one, by an outside reader.
+std::string dumpTables()
+{
+    return "node " + std::string(checkout::readers) + "/dump_table.mjs ";
+}
 
 std::vector<std::vector<std::string>> splitRows(const std::string& text)
 {
@@ -127,13 +134,12 @@ std::vector<TextRow> jsonRows(const std::filesystem::path& path, const std::stri
 
 std::vector<std::vector<std::string>> nodeTables(const std::filesystem::path& path)
 {
-    auto tables = splitRows(outputOf("node " ORVAN_READERS "/dump_table.mjs " + quoted(path)));
+    auto tables = splitRows(outputOf(dumpTables() + quoted(path)));
     for (auto& names : tables) names.pop_back(); // what follows the last value's end
     return tables;
 }
 
 std::vector<TextRow> nodeRows(const std::filesystem::path& path, const std::string& table)
 {
-    return namedRows(columnsOf(path, table), outputOf("node " ORVAN_READERS "/dump_table.mjs " +
-                                                      quoted(path) + " " + table));
+    return namedRows(columnsOf(path, table), outputOf(dumpTables() + quoted(path) + " " + table));
 }

@@ -1,6 +1,7 @@
 #include "backends/jet/outside_readers.h"
 
 #include "backends/jet/row_filler.h"
+#include "support/places.h"
 
 #include <gtest/gtest.h>
 
@@ -231,7 +232,7 @@ TEST(OutsideReaders, CountAndSelectTheRowsOfATableOfMany)
     EXPECT_EQ(count, outputOf("mdb-export -H -Q -R $(printf '\\036') " + path +
                               " tblTraces | tr -dc '\\036' | wc -c"));
     EXPECT_EQ(count, outputOf("mdb-json " + path + " tblTraces | wc -l"));
-    EXPECT_EQ(count, outputOf("node " ORVAN_READERS "/dump_table.mjs " + path +
+    EXPECT_EQ(count, outputOf(std::string("node ") + checkout::readers + "/dump_table.mjs " + path +
                               " tblTraces | tr -dc '\\036' | wc -c"));
     EXPECT_EQ(rows, scratch.rows("tblTraces").size());
 }

@@ -1,6 +1,7 @@
 #include "backends/jet/scratch_database.h"
 
 #include "backends/jet/file_pages.h"
+#include "support/places.h"
 
 #include <gtest/gtest.h>
 
@@ -69,7 +70,7 @@ void lengthenTo(const std::filesystem::path& path, std::uint64_t pages)
 
 jet::Schema traceSchema()
 {
-    return jet::parseSchema(bytesOfFile(ORVAN_TRACE_SCHEMA));
+    return jet::parseSchema(bytesOfFile(checkout::traceSchema));
 }
 
 ScratchDatabase::ScratchDatabase() : ScratchDatabase(traceSchema()) {}

@@ -4,6 +4,7 @@
 #include "sample/sample_server.h"
 #include "support/fake_clock.h"
 #include "support/fake_file_system.h"
+#include "support/places.h"
 #include "support/temporary_folder.h"
 
 #include <map>
@@ -39,7 +40,7 @@ public:
     {
         SampleOptions options;
         options.folder = folder_ / "site";
-        options.dataFolder = ORVAN_DATA_OUTPUT;
+        options.dataFolder = built::data;
         options.lines = lines;
         options.seed = seed;
         options.logFields = fields;

@@ -1,5 +1,6 @@
 #include "end_to_end/program.h"
 #include "hosts/desktop/test_window.h"
+#include "support/places.h"
 
 #include <gmock/gmock.h>
 
@@ -23,7 +24,7 @@ TEST(NoDisplay, IsSaidInOneLine)
         SCOPED_TRACE(c.because);
         std::vector<std::string> words = {"env", "-u", "WAYLAND_DISPLAY"};
         words.insert(words.end(), c.environment.begin(), c.environment.end());
-        words.insert(words.end(), {ORVANDIAG_CONSOLE, "--site", server.site()});
+        words.insert(words.end(), {built::console, "--site", server.site()});
         const Outcome run = runProgram(words);
         EXPECT_EQ(1, run.status);
         EXPECT_EQ("", run.out);

@@ -3,6 +3,7 @@
 #include "hosts/desktop/person.h"
 #include "hosts/desktop/sheets/sheet_dialog.h"
 #include "hosts/desktop/window/task_pad_view.h"
+#include "support/places.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
@@ -15,7 +16,7 @@ namespace desktop {
 OpenProgram::OpenProgram(std::size_t lines, LogFields fields)
     : server((testApplication(), lines), fields),
       settings(QString::fromStdString(server.folder() / "console.ini"), QSettings::IniFormat),
-      program(settings, ORVAN_DATA_OUTPUT, HostFacts{})
+      program(settings, built::data, HostFacts{})
 {
     window().show();
     program.openSite(server.site());

@@ -4,6 +4,7 @@
 #include "hosts/desktop/window/about_dialog.h"
 #include "hosts/desktop/window/recent_sites.h"
 #include "settings/about_box.h"
+#include "support/places.h"
 
 #include <QAction>
 #include <QLabel>
@@ -28,7 +29,7 @@ struct TestProgram {
 
     TemporaryFolder folder;
     QSettings settings;
-    Program program{settings, ORVAN_DATA_OUTPUT, HostFacts{}};
+    Program program{settings, built::data, HostFacts{}};
 };
 
 TEST(Program, MakesASampleServerWhereNoSiteIs)

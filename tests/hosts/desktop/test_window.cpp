@@ -3,6 +3,7 @@
 #include "console/console.h"
 #include "hosts/desktop/look/theme.h"
 #include "settings/about_box.h"
+#include "support/places.h"
 
 #include <QTimer>
 
@@ -57,7 +58,7 @@ TestServer::TestServer(std::size_t lines, LogFields fields)
 {
     SampleOptions options;
     options.folder = site();
-    options.dataFolder = ORVAN_DATA_OUTPUT;
+    options.dataFolder = built::data;
     options.lines = lines;
     options.logFields = fields;
     makeSampleServer(options);
@@ -100,7 +101,7 @@ TestWindow::~TestWindow()
 
 void TestWindow::open()
 {
-    tool = std::make_unique<OpenTool>(server.site(), ORVAN_DATA_OUTPUT, HostFacts{}, desktop);
+    tool = std::make_unique<OpenTool>(server.site(), built::data, HostFacts{}, desktop);
     window = std::make_unique<MainWindow>(settings);
     window->show();
     window->setTool(tool.get());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/places.h"
+
 #include <QFile>
 #include <QString>
 #include <QXmlStreamReader>
@@ -20,7 +22,8 @@ struct TranslatedText {
 /// All texts of a file such as "de". Raises when it can't be read.
 inline std::vector<TranslatedText> translatedTexts(const char* code)
 {
-    QFile file(QStringLiteral(ORVAN_TRANSLATIONS "/window_%1.ts").arg(QLatin1String(code)));
+    QFile file(QStringLiteral("%1/window_%2.ts")
+                   .arg(QString::fromUtf8(checkout::translations), QLatin1String(code)));
     if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error(file.errorString().toStdString());
     QXmlStreamReader xml(&file);
     std::vector<TranslatedText> texts;

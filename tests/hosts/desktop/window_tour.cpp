@@ -10,6 +10,7 @@
 #include "hosts/desktop/window/help_window.h"
 #include "hosts/desktop/window/key_list.h"
 #include "settings/about_box.h"
+#include "support/places.h"
 
 #include <QAction>
 #include <QLineEdit>
@@ -172,7 +173,7 @@ void tourBoxes(TestWindow& shown, const Visit& visit)
     keys.hide();
 
     HelpWindow help(shown.window.get());
-    if (!help.open(QStringLiteral(ORVAN_DATA_OUTPUT "/help"), 0))
+    if (!help.open(QString::fromUtf8(built::data) + QStringLiteral("/help"), 0))
         throw std::runtime_error("there is no manual");
     settle();
     visit("help", help);
@@ -214,7 +215,7 @@ std::vector<std::string> toolLanguages()
 {
     static const std::string prefix = "ZMKbrandingres_";
     std::vector<std::string> codes;
-    for (const auto& entry : std::filesystem::directory_iterator(ORVAN_DATA_OUTPUT)) {
+    for (const auto& entry : std::filesystem::directory_iterator(built::data)) {
         const std::string name = entry.path().filename().string();
         if (name.rfind(prefix, 0) == 0) codes.push_back(entry.path().stem().string().substr(15));
     }

@@ -2,6 +2,7 @@
 
 #include "hosts/desktop/outside_view.h"
 #include "hosts/desktop/test_window.h"
+#include "support/places.h"
 #include "system/file_descriptor.h"
 
 #include <QProcess>
@@ -99,7 +100,7 @@ struct EndedFromOutside : testing::Test {
         environment.insert("XDG_CONFIG_HOME", QString::fromStdString(server.folder() / "config"));
         process.setProcessEnvironment(environment);
         process.setProcessChannelMode(QProcess::SeparateChannels);
-        process.start(CONSOLE_TO_END, arguments(what));
+        process.start(QString::fromUtf8(built::consoleToEnd), arguments(what));
         ASSERT_TRUE(process.waitForStarted());
         while (!process.canReadLine())
             ASSERT_TRUE(process.waitForReadyRead(patience))

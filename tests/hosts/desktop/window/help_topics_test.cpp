@@ -5,6 +5,7 @@
 #include "hosts/desktop/test_window.h"
 #include "hosts/desktop/window/task_pad_view.h"
 #include "settings/about_box.h"
+#include "support/places.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -105,7 +106,7 @@ TEST(Help, TheAboutBoxHasItsTopicToo)
 TEST(Help, EveryPageHasATopicThatTheManualHas)
 {
     TestWindow shown;
-    QFile list(QStringLiteral(ORVAN_DATA_OUTPUT "/help/topics.txt"));
+    QFile list(QString::fromUtf8(built::data) + QStringLiteral("/help/topics.txt"));
     ASSERT_TRUE(list.open(QIODevice::ReadOnly));
     const QString topics = QString::fromUtf8(list.readAll());
     for (const char* item : sheetItems) {
