@@ -27,6 +27,8 @@ struct SiteSettings {
 /// Reads the text of a `site.ini`: UTF-8, lines ending either way, comments behind `;` or `#` at
 /// the start of a line, names without regard to case. A key with nothing behind its "=" counts as
 /// left out; sections other than `[site]` are passed over.
+/// No library for such files reads it: one at hand ends a value at a ";" and joins lines that begin
+/// with a blank, the other lets a second key win and tells no line's number.
 /// Raises 321 with the line's number, as in "site.ini line 7: ...", for anything else: an unknown
 /// or second key, a value that is none, a line that is none.
 SiteSettings parseSiteSettings(std::string_view text);

@@ -23,7 +23,8 @@ struct TimeZoneChange {
 };
 
 /// A time zone by its rules, which hold for every year. Offsets are seconds to add to universal
-/// time.
+/// time. The C library knows one zone at a time, for the whole process, and does not tell its
+/// rules, which the record of a zone is made of; so they are read and reckoned with here.
 struct PosixTimeZone {
     std::string standardName = "UTC";
     int standardOffset = 0;
