@@ -76,7 +76,8 @@ bool isSite(const std::string& folder)
     return drive && (drive->kind == FileKind::folder || drive->kind == FileKind::link);
 }
 
-Site::Site(const std::string& folder, const std::string& installedData, HostFacts host, SiteUse use)
+Site::Site(const std::string& folder, const std::string& installedData, const HostFacts& host,
+           SiteUse use)
     : installedData_(wholePath(installedData)), paths_(requireSite(folder)),
       settings_(settingsOf(paths_, host)), zone_(zoneOf(settings_)), files_(paths_, zone_),
       registry_(paths_.root(), host.notice), clock_(zone_), timeZone_(zone_),

@@ -38,7 +38,7 @@ public:
     /// one that may be read alone; what the other services are told to write is still written.
     /// Raises 76 for a folder that is no site, 321 for a damaged `site.ini` or `registry.reg`, and
     /// 70, 61, 57.
-    Site(const std::string& folder, const std::string& installedData, HostFacts host,
+    Site(const std::string& folder, const std::string& installedData, const HostFacts& host,
          SiteUse use = SiteUse::change);
 
     Site(const Site&) = delete;
