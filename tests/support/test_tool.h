@@ -10,7 +10,7 @@
 #include "support/fake_event_reporter.h"
 #include "support/fake_file_system.h"
 #include "support/fake_languages.h"
-#include "support/fake_machine.h"
+#include "support/fake_host_module.h"
 #include "support/fake_processes.h"
 #include "support/fake_registry.h"
 #include "support/fake_time_zone.h"

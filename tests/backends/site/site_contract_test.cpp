@@ -4,7 +4,7 @@
 #include "platform/event_reporter_contract.h"
 #include "platform/file_system_contract.h"
 #include "platform/languages_contract.h"
-#include "platform/machine_contracts.h"
+#include "platform/processes_contract.h"
 #include "platform/registry_contract.h"
 #include "platform/time_zone_contract.h"
 #include "support/fake_desktop.h"
