@@ -7,7 +7,8 @@ class EventLogExporter {
 public:
     virtual ~EventLogExporter() = default;
 
-    /// Writes all records of an event log as comma-separated text, over an existing file.
+    /// Writes a row of names and all records of an event log, by name without regard to case, as
+    /// comma-separated text, over an existing file.
     /// Raises 53 for an event log that does not exist, 76, 61, 70 for the target.
     virtual void exportEventLog(const std::string& logName, const std::string& target,
                                 int flags) = 0;

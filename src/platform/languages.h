@@ -17,9 +17,11 @@ public:
     /// identifier is its own too; the empty text where it says nothing.
     virtual std::string languageName(std::int32_t id) const = 0;
 
-    /// Loads a library as data. A handle, or 0 when it does not exist or does not load.
+    /// Loads a library as data, by its path without regard to case. A handle, or 0 when it does
+    /// not exist or does not load.
     virtual std::int32_t loadLibrary(const std::string& path) = 0;
 
+    /// Lets a library go: the handle has no texts any more.
     virtual void freeLibrary(std::int32_t handle) = 0;
 
     /// A library's text; nothing when the handle is 0 or the library has no such id.

@@ -8,6 +8,7 @@ class TextReader {
 public:
     virtual ~TextReader() = default;
 
+    /// Whether nothing is left to read. Raises 91 after `close`.
     virtual bool atEnd() = 0;
 
     /// The next line without its line end (line feed, or carriage return and line feed); a last

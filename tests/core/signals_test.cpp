@@ -114,7 +114,7 @@ TEST(TimeStamp, HasNoFractionAndOneErrorInZonesOfTenHoursAndMore)
     for (const int minutes : {600, 720, -600, -660, -840, 570, -570}) {
         SCOPED_TRACE(minutes);
         TestTool tool;
-        tool.timeZone.fixed(minutes, TimeZoneState::standardTime);
+        tool.timeZone.inStandardTime(minutes);
         EXPECT_EQ(38633.0, stampOf(tool));
         EXPECT_EQ((std::vector<std::string>{"Err.Number = 6 Err.Description = Overflow"}),
                   tool.failures(stampRoutine));
@@ -125,7 +125,7 @@ TEST(TimeStamp, HasNoFractionAndOneErrorInZonesOfTenHoursAndMore)
 TEST(TimeStamp, ASecondSignalOfTheDayIsTheSameInHawaii)
 {
     TestTool tool;
-    tool.timeZone.fixed(600, TimeZoneState::standardTime);
+    tool.timeZone.inStandardTime(600);
     const double first = stampOf(tool);
     tool.clock.advance(3600);
     EXPECT_EQ(first, stampOf(tool));
@@ -138,7 +138,7 @@ TEST(TimeStamp, IsNearUniversalTimeInZonesUnderTenHours)
     for (int hours = -9; hours <= 9; ++hours) {
         SCOPED_TRACE(hours);
         TestTool tool;
-        tool.timeZone.fixed(hours * 60, TimeZoneState::standardTime);
+        tool.timeZone.inStandardTime(hours * 60);
         EXPECT_NEAR(FakeClock::initial.days + hours / 24.0, stampOf(tool), 1e-9);
         EXPECT_TRUE(tool.failures().empty());
     }
@@ -148,19 +148,19 @@ TEST(TimeStamp, MayLieInTheNextOrThePreviousDay)
 {
     TestTool late;
     late.clock.at(Date{38633 + 23.5 / 24});
-    late.timeZone.fixed(480, TimeZoneState::standardTime);
+    late.timeZone.inStandardTime(480);
     EXPECT_NEAR(38634 + 7.5 / 24, stampOf(late), 1e-9);
 
     TestTool early;
     early.clock.at(Date{38633 + 0.5 / 24});
-    early.timeZone.fixed(-120, TimeZoneState::standardTime);
+    early.timeZone.inStandardTime(-120);
     EXPECT_NEAR(38632 + 22.5 / 24, stampOf(early), 1e-9);
 }
 
 TEST(TimeStamp, TakesLocalTimeForUniversalTimeWithoutADaylightRule)
 {
     TestTool tool;
-    tool.timeZone.fixed(600, TimeZoneState::unknown);
+    tool.timeZone.fixed(600);
     EXPECT_NEAR(FakeClock::initial.days, stampOf(tool), 1e-9);
     EXPECT_TRUE(tool.failures().empty());
 }

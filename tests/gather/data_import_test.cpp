@@ -17,7 +17,7 @@ using Texts = std::vector<std::string>;
 struct DataTool : ImportTool {
     DataTool()
     {
-        timeZone.fixed(7 * 60, TimeZoneState::standardTime);
+        timeZone.fixed(7 * 60);
         timeZone.read(context.g_timeZone);
     }
 };
@@ -96,7 +96,7 @@ TEST(ProcessOrvanDataFileToDB, TheDateComesFromTheFileAndMidnightFromLocalTimes)
 TEST(ProcessOrvanDataFileToDB, LocalTimeIsThatOfTheZoneAsTheToolWasLoaded)
 {
     DataTool tool;
-    tool.timeZone.fixed(0, TimeZoneState::standardTime); // the machine's zone changes later
+    tool.timeZone.fixed(0); // the machine's zone changes later
     tool.withLog(file, morning, {"2005-10-08 22:23:07,S,1,x"});
     tool.importData(file);
     EXPECT_EQ((Texts{"10/8/2005 15:23:07:000"}), tool.column("Date"));
@@ -231,7 +231,7 @@ TEST(ProcessOrvanDataFileToDB, AMalformedLineIsToldAsItStandsAndStillARow)
 TEST(ProcessOrvanDataFileToDB, Error5IsAWarningUnderTheFirstImportersName)
 {
     DataTool tool;
-    tool.timeZone.fixed(7 * 60, TimeZoneState::standardTime);
+    tool.timeZone.fixed(7 * 60);
     const std::string line = "0100-01-01 00:00:00,S,1,before the calendar begins, locally";
     tool.withLog(file, morning, {"2005-10-08 22:00:00,S,1,first", line});
     tool.importData(file);

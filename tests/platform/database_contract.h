@@ -258,6 +258,22 @@ TYPED_TEST_P(DatabaseContract, AKeysetShowsEachRowAsItIsWhenTheCursorComesToIt)
     EXPECT_EQ(Value(64), rows->field("Flags"));
 }
 
+TYPED_TEST_P(DatabaseContract, ItsRowsMayBeWrittenToWhileAKeysetIsWalked)
+{
+    this->open();
+    const auto rows = this->keyset("Name, ObjectId, Flags");
+    int seen = 0;
+    for (; !rows->atEnd(); rows->moveNext(), ++seen) {
+        const auto command = this->modifyCommand();
+        command->assign("@ObjectId", rows->field("ObjectId"));
+        command->assign("@Flags", 64);
+        command->execute();
+    }
+    EXPECT_EQ(3, seen);
+    for (const char* name : {"A", "B", "O''Hara"})
+        EXPECT_EQ(Value(64), this->flagsOf(name)) << name;
+}
+
 TYPED_TEST_P(DatabaseContract, AKeysetShowsRowsThatNothingTellsApartAsTheyWere)
 {
     this->open();
@@ -383,7 +399,7 @@ REGISTER_TYPED_TEST_SUITE_P(
     RowsComeInTheOrderAskedFor, AQuoteInATextIsDoubledOrTheQueryIsRefused,
     AQueryThatIsNoneIsRefused, AViewThatIsNotThereHasANumberOfItsOwn,
     AForwardOnlyCursorCannotCountItsRows, AKeysetHoldsTheRowsThatThereWereAtItsOpening,
-    AKeysetShowsEachRowAsItIsWhenTheCursorComesToIt,
+    AKeysetShowsEachRowAsItIsWhenTheCursorComesToIt, ItsRowsMayBeWrittenToWhileAKeysetIsWalked,
     AKeysetShowsRowsThatNothingTellsApartAsTheyWere, AClosedRecordsetRaises3704,
     ACommandOfAClosedConnectionCanBeMadeAndRaises3709, ACommandWritesWhatWasAssignedInWhateverCase,
     WhatIsNotAssignedIsNull, AProcedureIsFoundWithoutRegardToCase,

@@ -6,9 +6,11 @@
 
 #include <gtest/gtest.h>
 
-/// What every EventLogExporter promises. A `Machine` has a default constructor that gives an event
-/// log "Application" with at least one record, `EventLogExporter& exporter()` and
-/// `FileSystem& files()`.
+#include <algorithm>
+#include <string>
+
+/// What every EventLogExporter promises. A `Machine` is one of FileSystemContract that has an event
+/// log "Application" of two records, and `EventLogExporter& exporter()`.
 template <typename Machine>
 class EventLogExporterContract : public testing::Test {
 protected:
@@ -22,7 +24,11 @@ TYPED_TEST_P(EventLogExporterContract, WritesARowOfNamesAndTheRecords)
     this->machine.exporter().exportEventLog("Application", "C:\\out.csv", 0);
     const auto reader = this->machine.files().openForReading("C:\\out.csv");
     EXPECT_EQ("Time,Type,Source,Event ID,Computer,Message", reader->readLine());
-    EXPECT_FALSE(reader->atEnd());
+    for (int record = 0; record < 2; ++record) {
+        const std::string line(reader->readLine());
+        EXPECT_EQ(5, std::count(line.begin(), line.end(), ',')) << line;
+    }
+    EXPECT_TRUE(reader->atEnd());
 }
 
 TYPED_TEST_P(EventLogExporterContract, WritesOverAnExistingFile)
@@ -48,6 +54,27 @@ TYPED_TEST_P(EventLogExporterContract, AMissingFolderRaises76)
               }));
 }
 
+TYPED_TEST_P(EventLogExporterContract, AReadOnlyTargetRaises70AndStays)
+{
+    this->machine.files().createTextFile("C:\\out.csv")->write("keep");
+    this->machine.makeReadOnly("C:\\out.csv");
+    EXPECT_EQ(70, errorOf([&] {
+                  this->machine.exporter().exportEventLog("Application", "C:\\out.csv", 0);
+              }));
+    EXPECT_EQ("keep", this->machine.files().openForReading("C:\\out.csv")->readAll());
+}
+
+TYPED_TEST_P(EventLogExporterContract, AFullDiskRaises61)
+{
+    int error = 0;
+    this->machine.withRoomFor(10, [&] {
+        error = errorOf(
+            [&] { this->machine.exporter().exportEventLog("Application", "C:\\out.csv", 0); });
+    });
+    EXPECT_EQ(61, error);
+}
+
 REGISTER_TYPED_TEST_SUITE_P(EventLogExporterContract, WritesARowOfNamesAndTheRecords,
                             WritesOverAnExistingFile, ALogThatDoesNotExistRaises53AndWritesNothing,
-                            AMissingFolderRaises76);
+                            AMissingFolderRaises76, AReadOnlyTargetRaises70AndStays,
+                            AFullDiskRaises61);

@@ -122,9 +122,38 @@ TYPED_TEST_P(EventReporterContract, TheLimitIsTheLastLengthThatIsFormatted)
     EXPECT_EQ(5, errorOf([&] { this->format(atLimit + "x"); }));
 }
 
+TYPED_TEST_P(EventReporterContract, ATimeThatIsToldAloneIsThatOfTheFormattedLine)
+{
+    const std::string lines[] = {
+        "15:23:07:123,S,1,C,2,trace",
+        "2005-10-08 15:23:07,S,1,C,2,trace",
+        "15:23:07:123,S,1,thread,port,call,C,2,trace",
+        "15:23:07:123 (S,1,C,2) trace",
+        "15:23:07:123,S,-1,C,-2,trace",
+        "15:23:07:123,S,99999999999,C,99999,trace",
+        "15:23:07:123,S,1,C,2",
+        "15:23:07:123,S,one,C,2,trace",
+        "1:23,S,1,C,2,trace",
+        "15:23:07:123,S,1,C,2," + std::string(EventReporter::traceLineLimit, 'x'),
+        "",
+    };
+    for (const bool extended : {false, true}) {
+        TypeParam other(extended);
+        for (const std::string& line : lines) {
+            SCOPED_TRACE(line);
+            const std::string time(other.reporter().timeOfSoundLine(line));
+            if (time.empty()) continue;
+            EXPECT_GE(time.size(), 12u);
+            EXPECT_EQ("before:" + time + " (",
+                      this->format(line, extended).substr(0, 9 + time.size()));
+        }
+    }
+}
+
 REGISTER_TYPED_TEST_SUITE_P(EventReporterContract, StartsUpRegistersAndReports,
                             ABasicLineIsFormatted, TheTraceIsAllAfterItsComma,
                             AnExtendedLineLosesThreadPortAndCallId, ALongCallIdStandsBeforeTheTrace,
                             AFormattedLineComesBackAsItIs, BytesOutsideAsciiAreKept,
                             AnyOtherLineRaises5AndAddsNothing,
-                            TheLimitIsTheLastLengthThatIsFormatted);
+                            TheLimitIsTheLastLengthThatIsFormatted,
+                            ATimeThatIsToldAloneIsThatOfTheFormattedLine);

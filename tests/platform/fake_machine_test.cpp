@@ -1,38 +1,61 @@
-#include "platform/event_log_exporter_contract.h"
+#include "platform/clock_contract.h"
 #include "platform/event_reporter_contract.h"
-#include "platform/file_system_contract.h"
+#include "platform/host_module_contract.h"
 #include "platform/languages_contract.h"
+#include "platform/missing_event_reporter_contract.h"
 #include "platform/processes_contract.h"
 #include "platform/registry_contract.h"
 #include "platform/time_zone_contract.h"
-#include "support/test_tool.h"
+#include "platform/workstation_contract.h"
+#include "support/fake_clock.h"
+#include "support/fake_event_reporter.h"
+#include "support/fake_host_module.h"
+#include "support/fake_languages.h"
+#include "support/fake_processes.h"
+#include "support/fake_registry.h"
+#include "support/fake_time_zone.h"
+#include "support/fake_workstation.h"
 
 namespace {
 
 /// The fakes as the contracts want a machine.
 class FakeMachine {
 public:
-    FakeMachine() { logs_.with("Application", "2005-10-08 15:23:07,Information,S,1,C,text\r\n"); }
-    explicit FakeMachine(bool extended) { reporter_.extended(extended); }
+    explicit FakeMachine(bool extended = false)
+    {
+        reporter_.extended(extended);
+        zoneWithoutRule_.fixed(7 * 60);
+        workstation_.machine->computerName = "VOICE01";
+        module_.command = "host.exe /now";
+        developersModule_.developmentHost = true;
+    }
 
-    FakeFileSystem& files() { return files_; }
-    FakeRegistry& registry() { return registry_; }
-    FakeClock& clock() { return clock_; }
-    FakeTimeZone& timeZone() { return timeZone_; }
-    FakeEventReporter& reporter() { return reporter_; }
-    FakeEventLogExporter& exporter() { return logs_; }
-    FakeProcesses& processes() { return processes_; }
-    FakeWorkstation& workstation() { return workstation_; }
-    FakeHostModule& module() { return module_; }
-    FakeLanguages& languages() { return languages_; }
+    Registry& registry() { return registry_; }
+    Clock& clock() { return clock_; }
+    TimeZoneService& timeZone() { return timeZone_; }
+    TimeZoneService& zoneWithoutRule() { return zoneWithoutRule_; }
+    EventReporter& reporter() { return reporter_; }
+    Processes& processes() { return processes_; }
+    Workstation& workstation() { return workstation_; }
+    HostModule& module() { return module_; }
+    HostModule& developersModule() { return developersModule_; }
+    Languages& languages() { return languages_; }
 
-    void makeReadOnly(const std::string& path) { files_.readOnly(path); }
-    std::string program() const { return "C:\\Tools\\cabmaker.exe"; }
+    std::vector<std::string> heard() const { return developersModule_.debugTexts; }
+
+    std::string program() const { return "C:\\My Tools\\cabmaker.exe"; }
+    void letProgramFail() { processes_.reporting({"it ended with status 1", false}); }
 
     std::string missingProgram()
     {
         processes_.missing("C:\\none.exe");
         return "C:\\none.exe";
+    }
+
+    std::string forbiddenProgram()
+    {
+        processes_.forbidden("C:\\other.exe");
+        return "C:\\other.exe";
     }
 
     std::string add(const std::string& code, int id, const std::string& text)
@@ -44,25 +67,35 @@ public:
 
 private:
     FakeClock clock_;
-    FakeFileSystem files_{clock_};
     FakeRegistry registry_;
     FakeTimeZone timeZone_;
+    FakeTimeZone zoneWithoutRule_;
     FakeEventReporter reporter_;
-    FakeEventLogExporter logs_{files_};
     FakeProcesses processes_;
     FakeWorkstation workstation_;
     FakeHostModule module_;
+    FakeHostModule developersModule_;
     FakeLanguages languages_;
 };
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Fake, FileSystemContract, FakeMachine);
+/// A server that installs no event reporter.
+class FakeMachineWithoutReporter {
+public:
+    FakeMachineWithoutReporter() { reporter_.missing(); }
+    EventReporter& reporter() { return reporter_; }
+
+private:
+    FakeEventReporter reporter_;
+};
+
 INSTANTIATE_TYPED_TEST_SUITE_P(Fake, RegistryContract, FakeMachine);
 INSTANTIATE_TYPED_TEST_SUITE_P(Fake, EventReporterContract, FakeMachine);
-INSTANTIATE_TYPED_TEST_SUITE_P(Fake, EventLogExporterContract, FakeMachine);
+INSTANTIATE_TYPED_TEST_SUITE_P(Fake, MissingEventReporterContract, FakeMachineWithoutReporter);
 INSTANTIATE_TYPED_TEST_SUITE_P(Fake, TimeZoneContract, FakeMachine);
 INSTANTIATE_TYPED_TEST_SUITE_P(Fake, LanguagesContract, FakeMachine);
 INSTANTIATE_TYPED_TEST_SUITE_P(Fake, ClockContract, FakeMachine);
 INSTANTIATE_TYPED_TEST_SUITE_P(Fake, ProcessesContract, FakeMachine);
-INSTANTIATE_TYPED_TEST_SUITE_P(Fake, IdentityContract, FakeMachine);
+INSTANTIATE_TYPED_TEST_SUITE_P(Fake, WorkstationContract, FakeMachine);
+INSTANTIATE_TYPED_TEST_SUITE_P(Fake, HostModuleContract, FakeMachine);
 
 } // namespace

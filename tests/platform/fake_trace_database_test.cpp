@@ -5,11 +5,12 @@ namespace {
 
 class FakeMachine {
 public:
-    FakeMachine() { engine_.with(path()); }
+    FakeMachine() { engine_.with(path()).damaged(damagedPath()); }
 
     TraceDatabaseEngine& engine() { return engine_; }
     std::string path() const { return "C:\\Temp\\trace.mdb"; }
     std::string missingPath() const { return "C:\\Temp\\none.mdb"; }
+    std::string damagedPath() const { return "C:\\Temp\\damaged.mdb"; }
     std::vector<FakeTraceRow> rows(const std::string& table) const { return engine_.rows(table); }
 
 private:

@@ -9,10 +9,11 @@
 #include <string>
 #include <vector>
 
-/// What every FileSystem promises.
+/// What every FileSystem promises; text_stream_contract.h has what it promises of its streams.
 ///
-/// A `Machine` has a default constructor that gives an empty drive C: with folders for Windows and
-/// for temporary files, `FileSystem& files()` and `void makeReadOnly(path)`.
+/// A `Machine` has a default constructor that gives a drive C: with folders for Windows and for
+/// temporary files and an empty drive D:, `FileSystem& files()`, `makeReadOnly(path)` and
+/// `withRoomFor(bytes, work)`, which calls `work` while no file may grow beyond so many.
 template <typename Machine>
 class FileSystemContract : public testing::Test {
 protected:
@@ -62,6 +63,26 @@ TYPED_TEST_P(FileSystemContract, NamesMatchWithoutRegardToCase)
     EXPECT_EQ(58, errorOf([&] { this->files().createFolder("C:\\LOGS"); }));
 }
 
+TYPED_TEST_P(FileSystemContract, LettersBeyondAsciiHaveACaseToo)
+{
+    this->write("C:\\Caf\u00E9.txt", "x");
+    EXPECT_EQ("x", this->read("C:\\CAF\u00C9.TXT"));
+    EXPECT_EQ((std::vector<std::string>{"Caf\u00E9.txt"}),
+              this->files().matching("C:\\caf\u00C9*"));
+}
+
+TYPED_TEST_P(FileSystemContract, TheEmptyPathLeadsNowhere)
+{
+    FileSystem& files = this->files();
+    EXPECT_FALSE(files.fileExists(""));
+    EXPECT_FALSE(files.folderExists(""));
+    EXPECT_TRUE(files.matching("").empty());
+    EXPECT_EQ(52, errorOf([&] { files.openForReading(""); }));
+    EXPECT_EQ(52, errorOf([&] { files.createTextFile(""); }));
+    EXPECT_EQ(52, errorOf([&] { files.entries(""); }));
+    EXPECT_EQ(52, errorOf([&] { files.changeFolder(""); }));
+}
+
 TYPED_TEST_P(FileSystemContract, WritingAnotherSpellingKeepsOneFile)
 {
     this->write("C:\\One.txt", "first");
@@ -105,7 +126,28 @@ TYPED_TEST_P(FileSystemContract, AFolderIsNoFile)
     EXPECT_FALSE(this->files().fileExists("C:\\Logs"));
     EXPECT_EQ(53, errorOf([&] { this->files().file("C:\\Logs"); }));
     EXPECT_EQ(53, errorOf([&] { this->files().deleteFile("C:\\Logs"); }));
+    EXPECT_EQ(53, errorOf([&] { this->files().clearAttributes("C:\\Logs"); }));
+    EXPECT_EQ(53, errorOf([&] { this->files().copyFile("C:\\Logs", "C:\\copy"); }));
+    EXPECT_EQ(70, errorOf([&] { this->files().createTextFile("C:\\Logs"); }));
+    EXPECT_EQ(70, errorOf([&] { this->files().openForAppending("C:\\Logs"); }));
+    this->write("C:\\a.txt", "x");
+    EXPECT_EQ(70, errorOf([&] { this->files().copyFile("C:\\a.txt", "C:\\Logs"); }));
     EXPECT_TRUE(this->files().folderExists("C:\\Logs"));
+    EXPECT_FALSE(this->files().fileExists("C:\\copy"));
+}
+
+TYPED_TEST_P(FileSystemContract, AFileIsNoFolder)
+{
+    FileSystem& files = this->files();
+    this->write("C:\\a.txt", "x");
+    EXPECT_EQ(76, errorOf([&] { files.entries("C:\\a.txt"); }));
+    EXPECT_EQ(76, errorOf([&] { files.folderSize("C:\\a.txt"); }));
+    EXPECT_EQ(76, errorOf([&] { files.removeFolder("C:\\a.txt"); }));
+    EXPECT_EQ(76, errorOf([&] { files.changeFolder("C:\\a.txt"); }));
+    EXPECT_EQ(76, errorOf([&] { files.createFolder("C:\\a.txt\\below"); }));
+    EXPECT_EQ(76, errorOf([&] { files.createTextFile("C:\\a.txt\\below"); }));
+    EXPECT_TRUE(files.matching("C:\\a.txt\\*").empty());
+    EXPECT_EQ("x", this->read("C:\\a.txt"));
 }
 
 TYPED_TEST_P(FileSystemContract, AMissingFolderRaises76)
@@ -117,6 +159,7 @@ TYPED_TEST_P(FileSystemContract, AMissingFolderRaises76)
     EXPECT_EQ(76, errorOf([&] { files.removeFolder("C:\\None"); }));
     EXPECT_EQ(76, errorOf([&] { files.changeFolder("C:\\None"); }));
     EXPECT_EQ(76, errorOf([&] { files.createFolder("C:\\None\\Below"); }));
+    EXPECT_EQ(76, errorOf([&] { files.createPrivateFolder("C:\\None\\Below"); }));
     EXPECT_EQ(76, errorOf([&] { files.openForReading("C:\\None\\a.txt"); }));
     EXPECT_EQ(76, errorOf([&] { files.openForAppending("C:\\None\\a.txt"); }));
     EXPECT_EQ(76, errorOf([&] { files.createTextFile("C:\\None\\a.txt"); }));
@@ -135,6 +178,16 @@ TYPED_TEST_P(FileSystemContract, AFolderIsMadeOneLevelAtATimeAndOnce)
     EXPECT_EQ(58, errorOf([&] { files.createFolder("C:\\file"); }));
 }
 
+TYPED_TEST_P(FileSystemContract, APrivateFolderIsAFolderOfTheUsersOwn)
+{
+    FileSystem& files = this->files();
+    files.createPrivateFolder("C:\\Own");
+    EXPECT_TRUE(files.folderExists("C:\\Own"));
+    this->write("C:\\Own\\a.txt", "x");
+    EXPECT_EQ("x", this->read("C:\\Own\\a.txt"));
+    EXPECT_EQ(58, errorOf([&] { files.createPrivateFolder("C:\\OWN"); }));
+}
+
 TYPED_TEST_P(FileSystemContract, EntriesAreFilesAndFoldersByName)
 {
     this->files().createFolder("C:\\Logs");
@@ -146,6 +199,8 @@ TYPED_TEST_P(FileSystemContract, EntriesAreFilesAndFoldersByName)
     EXPECT_EQ("a.txt", entries[0].name);
     EXPECT_EQ("b", entries[1].name);
     EXPECT_TRUE(entries[1].folder);
+    EXPECT_EQ(0, entries[1].size);
+    EXPECT_FALSE(entries[0].folder);
     EXPECT_EQ("c.txt", entries[2].name);
     EXPECT_EQ(3, entries[2].size);
     EXPECT_TRUE(this->files().entries("C:\\Logs\\b").empty());
@@ -167,12 +222,19 @@ TYPED_TEST_P(FileSystemContract, APatternFindsPlainFilesByName)
          "C:\\P\\HT*.xml",
          {"ht1.XML", "HT10.xml", "HT2.xml"}},
         {"a question mark is one character", "C:\\P\\HT?.xml", {"ht1.XML", "HT2.xml"}},
+        {"or none before a point", "C:\\P\\HT??.xml", {"ht1.XML", "HT10.xml", "HT2.xml"}},
+        {"or none at the end", "C:\\P\\pl?????", {"plain"}},
+        {"but not within a name", "C:\\P\\o?ther.xml", {}},
+        {"a name ends in a point where one is asked for", "C:\\P\\pl*.*", {"plain"}},
+        {"but not one before letters", "C:\\P\\pl*.x", {}},
+        {"many signs in a row", "C:\\P\\**1**.*m*", {"ht1.XML", "HT10.xml"}},
         {"a name without a sign finds itself", "C:\\P\\other.XML", {"other.xml"}},
         {"*.* is every file, with a dot or without",
          "C:\\P\\*.*",
          {"HT.txt", "ht1.XML", "HT10.xml", "HT2.xml", "other.xml", "plain"}},
         {"nothing matches", "C:\\P\\zz*", {}},
         {"no such folder", "C:\\None\\*", {}},
+        {"no such drive", "Q:\\*", {}},
         {"signs mean something in the last part alone", "C:\\*\\HT*.xml", {}},
     };
     for (const auto& c : cases) {
@@ -207,6 +269,13 @@ TYPED_TEST_P(FileSystemContract, AFolderIsRemovedOnceItIsEmpty)
     EXPECT_TRUE(this->files().folderExists("C:\\Fother"));
 }
 
+TYPED_TEST_P(FileSystemContract, TheRootOfADriveStays)
+{
+    EXPECT_EQ(70, errorOf([&] { this->files().removeFolder("C:\\"); }));
+    EXPECT_EQ(70, errorOf([&] { this->files().removeFolder("D:\\"); })) << "though it is empty";
+    EXPECT_TRUE(this->files().folderExists("D:\\"));
+}
+
 TYPED_TEST_P(FileSystemContract, ACopyReplacesItsTarget)
 {
     this->write("C:\\a", "new content");
@@ -214,6 +283,33 @@ TYPED_TEST_P(FileSystemContract, ACopyReplacesItsTarget)
     this->files().copyFile("C:\\a", "C:\\b");
     EXPECT_EQ("new content", this->read("C:\\b"));
     EXPECT_EQ("new content", this->read("C:\\a"));
+}
+
+TYPED_TEST_P(FileSystemContract, ACopyIsAsOldAndAsReadOnlyAsItsSource)
+{
+    this->write("C:\\a", "x");
+    this->machine.makeReadOnly("C:\\a");
+    this->files().copyFile("C:\\a", "C:\\b");
+    EXPECT_TRUE(this->files().file("C:\\b").readOnly);
+    EXPECT_EQ(this->files().file("C:\\a").modified, this->files().file("C:\\b").modified);
+}
+
+TYPED_TEST_P(FileSystemContract, AFileIsNotCopiedOntoItself)
+{
+    this->write("C:\\a", "keep");
+    EXPECT_EQ(70, errorOf([&] { this->files().copyFile("C:\\a", "C:\\A"); }));
+    EXPECT_EQ("keep", this->read("C:\\a"));
+}
+
+TYPED_TEST_P(FileSystemContract, ACopyThatFindsNoRoomRaises61AndLeavesTheTargetAsItWas)
+{
+    this->write("C:\\a", std::string(100'000, 'x'));
+    this->write("C:\\b", "old");
+    int error = 0;
+    this->machine.withRoomFor(
+        50'000, [&] { error = errorOf([&] { this->files().copyFile("C:\\a", "C:\\b"); }); });
+    EXPECT_EQ(61, error);
+    EXPECT_EQ("old", this->read("C:\\b"));
 }
 
 TYPED_TEST_P(FileSystemContract, AReadOnlyFileStaysAsItIs)
@@ -243,99 +339,6 @@ TYPED_TEST_P(FileSystemContract, ClearedAttributesMakeAFileWritable)
     EXPECT_FALSE(this->files().fileExists("C:\\a"));
 }
 
-TYPED_TEST_P(FileSystemContract, ALineEndsWithALineFeedOrBothSigns)
-{
-    this->write("C:\\a", "one\r\ntwo\n\r\nfour\rstill four\nlast");
-    const auto reader = this->files().openForReading("C:\\a");
-    for (const char* line : {"one", "two", "", "four\rstill four", "last"}) {
-        EXPECT_FALSE(reader->atEnd());
-        EXPECT_EQ(line, reader->readLine());
-    }
-    EXPECT_TRUE(reader->atEnd());
-    EXPECT_EQ(62, errorOf([&] { reader->readLine(); }));
-    EXPECT_EQ(62, errorOf([&] { reader->readAll(); }));
-}
-
-TYPED_TEST_P(FileSystemContract, AFinalLineEndBeginsNoLine)
-{
-    this->write("C:\\a", "one\r\n");
-    const auto reader = this->files().openForReading("C:\\a");
-    EXPECT_EQ("one", reader->readLine());
-    EXPECT_TRUE(reader->atEnd());
-}
-
-TYPED_TEST_P(FileSystemContract, AnEmptyFileIsAtItsEnd)
-{
-    this->write("C:\\a", "");
-    EXPECT_TRUE(this->files().openForReading("C:\\a")->atEnd());
-    EXPECT_EQ(62, errorOf([&] { this->files().openForReading("C:\\a")->readAll(); }));
-    EXPECT_EQ(62, errorOf([&] { this->files().openForReading("C:\\a")->readLine(); }));
-}
-
-TYPED_TEST_P(FileSystemContract, BytesAreReadAsTheyWereWritten)
-{
-    std::string bytes;
-    for (int byte = 0; byte < 256; ++byte)
-        if (byte != '\n') bytes += static_cast<char>(byte);
-    this->write("C:\\a", bytes + "\n" + bytes);
-    EXPECT_EQ(bytes, this->files().openForReading("C:\\a")->readLine());
-    EXPECT_EQ(bytes + "\n" + bytes, this->read("C:\\a"));
-}
-
-TYPED_TEST_P(FileSystemContract, ReadingAllGivesWhatLinesLeft)
-{
-    this->write("C:\\a", "one\r\ntwo\r\nthree");
-    const auto reader = this->files().openForReading("C:\\a");
-    reader->readLine();
-    EXPECT_EQ("two\r\nthree", reader->readAll());
-    EXPECT_TRUE(reader->atEnd());
-}
-
-TYPED_TEST_P(FileSystemContract, ALongLineComesWhole)
-{
-    const std::string longLine(300'000, 'x');
-    this->write("C:\\a", longLine + "\r\nnext");
-    const auto reader = this->files().openForReading("C:\\a");
-    EXPECT_EQ(longLine, reader->readLine());
-    EXPECT_EQ("next", reader->readLine());
-}
-
-TYPED_TEST_P(FileSystemContract, AClosedStreamRaises91)
-{
-    this->write("C:\\a", "x\ny");
-    const auto reader = this->files().openForReading("C:\\a");
-    reader->close();
-    reader->close();
-    EXPECT_EQ(91, errorOf([&] { reader->readLine(); }));
-    EXPECT_EQ(91, errorOf([&] { reader->readAll(); }));
-
-    const auto writer = this->files().openForAppending("C:\\a");
-    writer->close();
-    writer->close();
-    EXPECT_EQ(91, errorOf([&] { writer->write("z"); }));
-    EXPECT_EQ(91, errorOf([&] { writer->writeLine("z"); }));
-    EXPECT_EQ(91, errorOf([&] { writer->flush(); }));
-    EXPECT_EQ("x\ny", this->read("C:\\a"));
-}
-
-TYPED_TEST_P(FileSystemContract, AppendingGoesOnAtTheEnd)
-{
-    this->files().openForAppending("C:\\a")->writeLine("one");
-    this->files().openForAppending("C:\\a")->writeLine("two");
-    EXPECT_EQ("one\r\ntwo\r\n", this->read("C:\\a"));
-}
-
-TYPED_TEST_P(FileSystemContract, FlushedTextIsThereForOthers)
-{
-    const auto writer = this->files().createTextFile("C:\\a");
-    writer->write("one");
-    writer->flush();
-    EXPECT_EQ("one", this->read("C:\\a"));
-    writer->write(" two");
-    writer->close();
-    EXPECT_EQ("one two", this->read("C:\\a"));
-}
-
 TYPED_TEST_P(FileSystemContract, ANewFileIsModifiedNow)
 {
     this->write("C:\\a", "x");
@@ -356,14 +359,40 @@ TYPED_TEST_P(FileSystemContract, APathWithoutADriveStartsInTheCurrentFolder)
     EXPECT_TRUE(this->files().fileExists("C:\\Logs\\a.txt"));
     this->files().changeFolder("Sub");
     EXPECT_TRUE(this->files().fileExists("..\\a.txt"));
-    EXPECT_EQ(68, errorOf([&] { this->files().changeDrive("Q:"); }));
-    EXPECT_TRUE(this->files().fileExists("..\\a.txt"));
+}
+
+TYPED_TEST_P(FileSystemContract, EachDriveHasACurrentFolderOfItsOwn)
+{
+    FileSystem& files = this->files();
+    files.createFolder("C:\\Logs");
+    files.createFolder("D:\\Other");
+    files.changeFolder("C:\\Logs");
+    files.changeFolder("D:\\Other");
+    this->write("a.txt", "x");
+    EXPECT_TRUE(files.fileExists("C:\\Logs\\a.txt")) << "C: is still the current drive";
+    this->write("D:b.txt", "x");
+    EXPECT_TRUE(files.fileExists("D:\\Other\\b.txt"));
+    files.changeDrive("d:");
+    EXPECT_TRUE(files.fileExists("b.txt"));
+    EXPECT_TRUE(files.fileExists("C:a.txt"));
+    files.changeFolder("\\");
+    EXPECT_TRUE(files.folderExists("Other"));
+}
+
+TYPED_TEST_P(FileSystemContract, ADriveThatIsNotThereRaises68AndTheCurrentOneStays)
+{
+    this->write("a.txt", "x");
+    for (const char* drive : {"Q:", "Q:\\", "no drive"})
+        EXPECT_EQ(68, errorOf([&] { this->files().changeDrive(drive); })) << drive;
+    EXPECT_TRUE(this->files().fileExists("C:\\a.txt"));
+    EXPECT_TRUE(this->files().fileExists("a.txt"));
 }
 
 TYPED_TEST_P(FileSystemContract, ADriveHasANameAndSpace)
 {
     EXPECT_EQ("C:", this->files().driveName("C:\\x\\y"));
     EXPECT_EQ("", this->files().driveName("x\\y"));
+    EXPECT_EQ("", this->files().driveName(""));
     const DiskSpace space = this->files().diskSpace("C:\\");
     EXPECT_GT(space.totalBytes, 0);
     EXPECT_LE(space.freeBytes, space.totalBytes);
@@ -386,13 +415,14 @@ TYPED_TEST_P(FileSystemContract, ANameThatIsNotShortenedStays)
 
 REGISTER_TYPED_TEST_SUITE_P(
     FileSystemContract, AFileThatWasWrittenIsThere, NamesMatchWithoutRegardToCase,
-    WritingAnotherSpellingKeepsOneFile, BothSeparatorsSeparate, APathCannotClimbOutOfItsDrive,
-    AMissingFileRaises53, AFolderIsNoFile, AMissingFolderRaises76,
-    AFolderIsMadeOneLevelAtATimeAndOnce, EntriesAreFilesAndFoldersByName,
+    LettersBeyondAsciiHaveACaseToo, TheEmptyPathLeadsNowhere, WritingAnotherSpellingKeepsOneFile,
+    BothSeparatorsSeparate, APathCannotClimbOutOfItsDrive, AMissingFileRaises53, AFolderIsNoFile,
+    AFileIsNoFolder, AMissingFolderRaises76, AFolderIsMadeOneLevelAtATimeAndOnce,
+    APrivateFolderIsAFolderOfTheUsersOwn, EntriesAreFilesAndFoldersByName,
     APatternFindsPlainFilesByName, AFolderIsAsBigAsAllFilesBelow, AFolderIsRemovedOnceItIsEmpty,
-    ACopyReplacesItsTarget, AReadOnlyFileStaysAsItIs, ClearedAttributesMakeAFileWritable,
-    ALineEndsWithALineFeedOrBothSigns, AFinalLineEndBeginsNoLine, AnEmptyFileIsAtItsEnd,
-    BytesAreReadAsTheyWereWritten, ReadingAllGivesWhatLinesLeft, ALongLineComesWhole,
-    AClosedStreamRaises91, AppendingGoesOnAtTheEnd, FlushedTextIsThereForOthers,
-    ANewFileIsModifiedNow, APathWithoutADriveStartsInTheCurrentFolder, ADriveHasANameAndSpace,
+    TheRootOfADriveStays, ACopyReplacesItsTarget, ACopyIsAsOldAndAsReadOnlyAsItsSource,
+    AFileIsNotCopiedOntoItself, ACopyThatFindsNoRoomRaises61AndLeavesTheTargetAsItWas,
+    AReadOnlyFileStaysAsItIs, ClearedAttributesMakeAFileWritable, ANewFileIsModifiedNow,
+    APathWithoutADriveStartsInTheCurrentFolder, EachDriveHasACurrentFolderOfItsOwn,
+    ADriveThatIsNotThereRaises68AndTheCurrentOneStays, ADriveHasANameAndSpace,
     SpecialFoldersAreThere, ANameThatIsNotShortenedStays);

@@ -29,6 +29,14 @@ TYPED_TEST_P(LanguagesContract, ALibraryGivesItsTexts)
     EXPECT_FALSE(languages.text(handle, -1).has_value());
 }
 
+TYPED_TEST_P(LanguagesContract, ALibraryIsFoundWithoutRegardToCase)
+{
+    this->machine.add("FRA", 1000, "un");
+    Languages& languages = this->machine.languages();
+    const auto handle = languages.loadLibrary("c:\\orvandiagnostics\\zmkBRANDINGres_fra.DLL");
+    EXPECT_EQ("un", languages.text(handle, 1000));
+}
+
 TYPED_TEST_P(LanguagesContract, AMissingLibraryHasNoHandleAndNoTexts)
 {
     Languages& languages = this->machine.languages();
@@ -60,6 +68,7 @@ TYPED_TEST_P(LanguagesContract, ALanguageHasANameInTheSystemsWords)
 }
 
 REGISTER_TYPED_TEST_SUITE_P(LanguagesContract, ALibraryGivesItsTexts,
+                            ALibraryIsFoundWithoutRegardToCase,
                             AMissingLibraryHasNoHandleAndNoTexts,
                             AFreedLibraryHasNoTextsAndAnotherKeepsIts, TheUserHasALanguage,
                             ALanguageHasANameInTheSystemsWords);

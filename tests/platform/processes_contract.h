@@ -1,54 +1,33 @@
 #pragma once
 
-#include "platform/clock.h"
-#include "platform/host_module.h"
 #include "platform/processes.h"
-#include "platform/workstation.h"
 #include "support/error_of.h"
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <string>
 
-/// What every Clock promises. A `Machine` has `Clock& clock()`.
-template <typename Machine>
-class ClockContract : public testing::Test {
-protected:
-    Machine machine;
-};
-
-TYPED_TEST_SUITE_P(ClockContract);
-
-TYPED_TEST_P(ClockContract, TheMomentIsAWholeSecond)
-{
-    const double seconds = this->machine.clock().now().days * 86400;
-    EXPECT_NEAR(std::round(seconds), seconds, 1e-3);
-    EXPECT_GT(this->machine.clock().now().days, 36526.0) << "later than the year 2000";
-}
-
-TYPED_TEST_P(ClockContract, TheTimerCountsSecondsOfTheDay)
-{
-    const float seconds = this->machine.clock().timer();
-    EXPECT_GE(seconds, 0);
-    EXPECT_LT(seconds, 86400);
-}
-
-TYPED_TEST_P(ClockContract, SleepingGoesNeverBack)
-{
-    const Date before = this->machine.clock().now();
-    this->machine.clock().sleep(1);
-    EXPECT_LE(before, this->machine.clock().now());
-}
-
-REGISTER_TYPED_TEST_SUITE_P(ClockContract, TheMomentIsAWholeSecond, TheTimerCountsSecondsOfTheDay,
-                            SleepingGoesNeverBack);
-
-/// What every Processes promises. A `Machine` has `Processes& processes()`, `std::string program()`
-/// (the path of a program that is there and ends at once) and `std::string missingProgram()`.
+/// What every Processes promises.
+///
+/// A `Machine` has a default constructor and `Processes& processes()`; `std::string program()`, the
+/// path of a program that is there, ends in `.exe`, has a blank in it and ends at once;
+/// `letProgramFail()`, from which on the program ends in failure; `std::string missingProgram()`,
+/// a path that ends in `.exe`; and `std::string forbiddenProgram()`, one that may not be run.
 template <typename Machine>
 class ProcessesContract : public testing::Test {
 protected:
+    Processes& processes() { return machine.processes(); }
+
+    std::int32_t start(const std::string& program, const std::string& arguments = "one \"two 2\"")
+    {
+        return processes().start("\"" + program + "\" " + arguments, WindowStyle::hidden);
+    }
+
+    static std::string withoutEnding(const std::string& program)
+    {
+        return program.substr(0, program.size() - 4);
+    }
+
     Machine machine;
 };
 
@@ -56,63 +35,74 @@ TYPED_TEST_SUITE_P(ProcessesContract);
 
 TYPED_TEST_P(ProcessesContract, AStartedProgramCanBeWaitedFor)
 {
-    Processes& processes = this->machine.processes();
-    const std::int32_t id = processes.start("\"" + this->machine.program() + "\" one \"two three\"",
-                                            WindowStyle::hidden);
+    const std::int32_t id = this->start(this->machine.program());
     EXPECT_GT(id, 0);
-    EXPECT_TRUE(processes.wait(id, -1));
+    EXPECT_TRUE(this->processes().wait(id, -1));
+}
+
+TYPED_TEST_P(ProcessesContract, AProgramThatRunsTwiceIsTwoProcesses)
+{
+    const std::string program = this->machine.program();
+    const std::int32_t first = this->start(program);
+    const std::int32_t second = this->start(program);
+    EXPECT_NE(first, second);
+    EXPECT_TRUE(this->processes().wait(second, -1));
+    EXPECT_TRUE(this->processes().wait(first, -1));
+}
+
+TYPED_TEST_P(ProcessesContract, ANameWithoutAnEndingFindsTheProgram)
+{
+    const std::int32_t id = this->start(this->withoutEnding(this->machine.program()));
+    EXPECT_TRUE(this->processes().wait(id, -1));
 }
 
 TYPED_TEST_P(ProcessesContract, AMissingProgramRaises53)
 {
-    EXPECT_EQ(53, errorOf([&] {
-                  this->machine.processes().start(this->machine.missingProgram() + " /f x",
-                                                  WindowStyle::normal);
-              }));
+    const std::string program = this->machine.missingProgram();
+    EXPECT_EQ(53, errorOf([&] { this->start(program); }));
+    EXPECT_EQ(53, errorOf([&] { this->start(this->withoutEnding(program)); }));
+    EXPECT_EQ(53, errorOf([&] { this->processes().start(program + " /f x", WindowStyle::normal); }))
+        << "without quotes";
+}
+
+TYPED_TEST_P(ProcessesContract, AProgramThatMayNotBeRunRaises70AndSaysSo)
+{
+    const std::string program = this->machine.forbiddenProgram();
+    EXPECT_EQ(70, errorOf([&] { this->start(program); }));
+    EXPECT_NE(std::string::npos, errorTextOf([&] { this->start(program); }).find("is not run"));
 }
 
 TYPED_TEST_P(ProcessesContract, AProcessThatIsNotThereCannotBeWaitedFor)
 {
-    EXPECT_FALSE(this->machine.processes().wait(0, 10));
-    EXPECT_FALSE(this->machine.processes().wait(-5, 10));
-    EXPECT_FALSE(this->machine.processes().wait(2'000'000'000, 10));
+    for (const std::int32_t id : {0, -1, -5, 2'000'000'000})
+        EXPECT_FALSE(this->processes().wait(id, 10)) << id;
+}
+
+TYPED_TEST_P(ProcessesContract, NothingIsReportedUntilAProcessWasWaitedFor)
+{
+    this->machine.letProgramFail();
+    EXPECT_EQ("", this->processes().lastReport().failure);
+    this->start(this->machine.program());
+    EXPECT_EQ("", this->processes().lastReport().failure);
+    EXPECT_FALSE(this->processes().lastReport().replaced);
+}
+
+TYPED_TEST_P(ProcessesContract, AFailureIsReportedUntilAnotherStartWasTried)
+{
+    const std::string program = this->machine.program();
+    EXPECT_TRUE(this->processes().wait(this->start(program), -1));
+    EXPECT_EQ("", this->processes().lastReport().failure);
+    this->machine.letProgramFail();
+    EXPECT_TRUE(this->processes().wait(this->start(program), -1));
+    EXPECT_NE("", this->processes().lastReport().failure);
+    errorOf([&] { this->start(this->machine.missingProgram()); });
+    EXPECT_EQ("", this->processes().lastReport().failure);
 }
 
 REGISTER_TYPED_TEST_SUITE_P(ProcessesContract, AStartedProgramCanBeWaitedFor,
-                            AMissingProgramRaises53, AProcessThatIsNotThereCannotBeWaitedFor);
-
-/// What every Workstation and HostModule promises. A `Machine` has `Workstation& workstation()` and
-/// `HostModule& module()`.
-template <typename Machine>
-class IdentityContract : public testing::Test {
-protected:
-    Machine machine;
-};
-
-TYPED_TEST_SUITE_P(IdentityContract);
-
-TYPED_TEST_P(IdentityContract, TheMachineIsOfTheNtFamilyAndHasNames)
-{
-    const Workstation& workstation = this->machine.workstation();
-    EXPECT_EQ(2, workstation.platform());
-    ASSERT_TRUE(workstation.details().has_value());
-    EXPECT_NE("", workstation.details()->computerName);
-    ASSERT_TRUE(workstation.user().has_value());
-    EXPECT_NE("", workstation.user()->userName);
-}
-
-TYPED_TEST_P(IdentityContract, TheModuleHasANameAFolderAndAVersion)
-{
-    HostModule& module = this->machine.module();
-    EXPECT_EQ("OrvanDiagnostics", module.name());
-    ASSERT_FALSE(module.folder().empty());
-    EXPECT_NE('\\', module.folder().back());
-    EXPECT_GE(module.majorVersion(), 1);
-    EXPECT_GE(module.minorVersion(), 0);
-    EXPECT_GE(module.revision(), 0);
-    EXPECT_FALSE(module.isDevelopmentHost(0));
-    module.debugOutput("nobody listens");
-}
-
-REGISTER_TYPED_TEST_SUITE_P(IdentityContract, TheMachineIsOfTheNtFamilyAndHasNames,
-                            TheModuleHasANameAFolderAndAVersion);
+                            AProgramThatRunsTwiceIsTwoProcesses,
+                            ANameWithoutAnEndingFindsTheProgram, AMissingProgramRaises53,
+                            AProgramThatMayNotBeRunRaises70AndSaysSo,
+                            AProcessThatIsNotThereCannotBeWaitedFor,
+                            NothingIsReportedUntilAProcessWasWaitedFor,
+                            AFailureIsReportedUntilAnotherStartWasTried);

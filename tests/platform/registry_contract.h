@@ -50,6 +50,15 @@ TYPED_TEST_P(RegistryContract, KeyNamesMatchWithoutRegardToCaseAndKeepTheirSpell
     EXPECT_EQ((std::vector<std::string>{"Alpha"}), registry.subkeys(this->hive, "SOFTWARE"));
 }
 
+TYPED_TEST_P(RegistryContract, LettersBeyondAsciiHaveACaseToo)
+{
+    auto& registry = this->registry();
+    registry.createKey(this->hive, "Caf\u00E9");
+    EXPECT_TRUE(registry.keyExists(this->hive, "CAF\u00C9"));
+    EXPECT_TRUE(registry.setValue(this->hive, "caf\u00C9", "\u00DC", this->text("x")));
+    EXPECT_EQ(this->text(std::string("x\0", 2)), this->stored("Caf\u00E9", "\u00FC"));
+}
+
 TYPED_TEST_P(RegistryContract, ATrailingSeparatorMeansNothing)
 {
     auto& registry = this->registry();
@@ -158,8 +167,9 @@ TYPED_TEST_P(RegistryContract, AnotherHiveHasNothing)
 
 REGISTER_TYPED_TEST_SUITE_P(RegistryContract, AKeyIsMadeWithThoseAboveIt,
                             KeyNamesMatchWithoutRegardToCaseAndKeepTheirSpelling,
-                            ATrailingSeparatorMeansNothing, AMissingKeyHasNeitherValuesNorSubkeys,
-                            AMissingValueIsNothing, ATextGetsItsTerminatingZero,
+                            LettersBeyondAsciiHaveACaseToo, ATrailingSeparatorMeansNothing,
+                            AMissingKeyHasNeitherValuesNorSubkeys, AMissingValueIsNothing,
+                            ATextGetsItsTerminatingZero,
                             EveryKindOfTextEndsInAZeroAndIsWithoutBytesWhenEmpty,
                             BytesAndNumbersComeBackAsWritten, AValueIsReplacedWithItsType,
                             SubkeysComeInTheOrderOfTheStore, AnotherHiveHasNothing);

@@ -6,7 +6,8 @@
 #include <gtest/gtest.h>
 
 /// What every TimeZoneService promises. A `Machine` has a default constructor that puts it in
-/// Pacific time (PST8PDT,M3.2.0,M11.1.0), and `TimeZoneService& timeZone()`.
+/// Pacific time (PST8PDT,M3.2.0,M11.1.0), `TimeZoneService& timeZone()`, and
+/// `TimeZoneService& zoneWithoutRule()`, seven hours behind universal time all year.
 template <typename Machine>
 class TimeZoneContract : public testing::Test {
 protected:
@@ -32,6 +33,32 @@ TYPED_TEST_P(TimeZoneContract, ReadsTheZoneWithItsRule)
     EXPECT_EQ(-60, zone.daylightBias);
     EXPECT_EQ((SystemTime{0, 11, 0, 1, 2, 0, 0, 0}), zone.standardDate);
     EXPECT_EQ((SystemTime{0, 3, 0, 2, 2, 0, 0, 0}), zone.daylightDate);
+}
+
+TYPED_TEST_P(TimeZoneContract, AZoneWithoutADaylightRuleHasNoStateInForce)
+{
+    TimeZoneInformation zone;
+    EXPECT_EQ(TimeZoneState::unknown, this->machine.zoneWithoutRule().read(zone));
+    EXPECT_EQ(420, zone.bias);
+    EXPECT_EQ(0, zone.standardDate.month);
+    EXPECT_EQ(0, zone.daylightDate.month);
+    for (const int month : {1, 7}) {
+        const SystemTime noon{2010, month, 0, 4, 12, 0, 0, 0};
+        EXPECT_EQ(5, this->machine.zoneWithoutRule().toLocal(zone, noon).hour);
+    }
+}
+
+TYPED_TEST_P(TimeZoneContract, ReadingReplacesAllOfTheRecord)
+{
+    TimeZoneInformation zone;
+    this->machine.timeZone().read(zone);
+    TimeZoneInformation other;
+    other.bias = 1;
+    other.standardBias = 2;
+    other.standardName = "another";
+    other.daylightDate = {2010, 1, 1, 1, 1, 1, 1, 1};
+    this->machine.timeZone().read(other);
+    EXPECT_EQ(zone, other);
 }
 
 TYPED_TEST_P(TimeZoneContract, ConvertsByTheRuleInForceAtTheMoment)
@@ -91,6 +118,7 @@ TYPED_TEST_P(TimeZoneContract, PartsThatAreNoDateRaise5)
 }
 
 REGISTER_TYPED_TEST_SUITE_P(TimeZoneContract, ReadsTheZoneWithItsRule,
-                            ConvertsByTheRuleInForceAtTheMoment, KeepsSecondsAndNamesTheDay,
-                            FollowsARuleOfTheSouthernHalf, WeekFiveIsTheLastOfTheMonth,
-                            PartsThatAreNoDateRaise5);
+                            AZoneWithoutADaylightRuleHasNoStateInForce,
+                            ReadingReplacesAllOfTheRecord, ConvertsByTheRuleInForceAtTheMoment,
+                            KeepsSecondsAndNamesTheDay, FollowsARuleOfTheSouthernHalf,
+                            WeekFiveIsTheLastOfTheMonth, PartsThatAreNoDateRaise5);

@@ -14,8 +14,9 @@ using StoredTraceRow = std::map<std::string, std::string>;
 
 /// What every TraceDatabaseEngine promises. A `Machine` has a default constructor,
 /// `TraceDatabaseEngine& engine()`, `std::string path()`, a database with the tables of a gather,
-/// `std::string missingPath()` and `rows(table)`: what is stored, each row the texts of its values
-/// by column name, without those that are Null.
+/// `std::string missingPath()`, `std::string damagedPath()`, a file that is none, and
+/// `rows(table)`: what is stored, each row the texts of its values in UTF-8 by column name, without
+/// those that are Null.
 template <typename Machine>
 class TraceDatabaseContract : public testing::Test {
 protected:
@@ -47,6 +48,41 @@ TYPED_TEST_P(TraceDatabaseContract, AMissingFileRaises3024)
 {
     EXPECT_EQ(3024,
               errorOf([&] { this->machine.engine().openDatabase(this->machine.missingPath()); }));
+}
+
+TYPED_TEST_P(TraceDatabaseContract, AFileThatIsNoDatabaseRaises3343)
+{
+    EXPECT_EQ(3343,
+              errorOf([&] { this->machine.engine().openDatabase(this->machine.damagedPath()); }));
+}
+
+TYPED_TEST_P(TraceDatabaseContract, TextsAreStoredAsTheLettersThatTheyMean)
+{
+    const auto database = this->open();
+    const auto recordset = database->openRecordset("tblUniqueFilters");
+    EXPECT_EQ("caf\u00E9 \u20AC", recordset->utf8Of("caf\xE9 \x80"));
+    recordset->addNew();
+    recordset->field("Process").setText("caf\xE9 \x80");
+    recordset->field("Source").setUtf8("caf\u00E9 \u20AC");
+    recordset->field("Component").setUtf8("caf\xE9");
+    recordset->update();
+    EXPECT_EQ((std::vector<StoredTraceRow>{{{"Process", "caf\u00E9 \u20AC"},
+                                            {"Source", "caf\u00E9 \u20AC"},
+                                            {"Component", "caf\uFFFD"}}}),
+              this->machine.rows("tblUniqueFilters"));
+}
+
+TYPED_TEST_P(TraceDatabaseContract, ALongTextThatDoesNotFitRaises3163AndLeavesTheValueThatWasThere)
+{
+    const auto database = this->open();
+    const auto recordset = database->openRecordset("tblTraces");
+    recordset->addNew();
+    TraceField& trace = recordset->field("Trace");
+    trace.setText("first");
+    const std::string tooLong(8'388'608, 'x');
+    EXPECT_EQ(3163, errorOf([&] { trace.setText(tooLong); }));
+    EXPECT_EQ(3163, errorOf([&] { trace.setUtf8(tooLong); }));
+    EXPECT_EQ("first", trace.text());
 }
 
 TYPED_TEST_P(TraceDatabaseContract, ADatabaseHasOneWriterAtATime)
@@ -256,6 +292,22 @@ TYPED_TEST_P(TraceDatabaseContract, AClosedDatabaseClosesItsRecordsets)
     EXPECT_EQ(3420, errorOf([&] { database->close(); }));
 }
 
+TYPED_TEST_P(TraceDatabaseContract, ARecordsetStaysClosedWhenItsDatabaseIsOpenedAnew)
+{
+    auto first = this->open();
+    const auto recordset = first->openRecordset("tblTraces");
+    recordset->addNew();
+    first.reset();
+    EXPECT_EQ(3420, errorOf([&] { recordset->update(); })) << "let go without a close";
+    auto second = this->open();
+    EXPECT_EQ(3420, errorOf([&] { recordset->addNew(); }));
+    second->close();
+    const auto third = this->open();
+    second.reset();
+    third->openRecordset("tblTraces")->addNew();
+    EXPECT_TRUE(this->machine.rows("tblTraces").empty());
+}
+
 TYPED_TEST_P(TraceDatabaseContract, ThreeTablesTakeRowsInTurn)
 {
     const auto database = this->open();
@@ -274,13 +326,14 @@ TYPED_TEST_P(TraceDatabaseContract, ThreeTablesTakeRowsInTurn)
     EXPECT_EQ("0", this->machine.rows("tblUniqueFilters").at(0).at("Process"));
 }
 
-REGISTER_TYPED_TEST_SUITE_P(TraceDatabaseContract, AnUpdatedRowIsStoredAtOnce,
-                            AMissingFileRaises3024, ADatabaseHasOneWriterAtATime,
-                            TablesAndFieldsAreFoundWithoutRegardToCase,
-                            NothingIsSetReadOrUpdatedWithoutARow, AFieldReadsBackAsItWasSet,
-                            AFieldTakesWhatItsColumnHolds,
-                            AFailedAssignmentLeavesTheValueThatWasThere,
-                            ATextLongerThanItsColumnIsCutAtAWholeCharacter,
-                            AnEmptySourceOrTraceIsLeftNull, ATextColumnTakesANumberInDecimalForm,
-                            ARowThatIsBegunAgainForgetsItsValues, AClosedRecordsetRaises3420,
-                            AClosedDatabaseClosesItsRecordsets, ThreeTablesTakeRowsInTurn);
+REGISTER_TYPED_TEST_SUITE_P(
+    TraceDatabaseContract, AnUpdatedRowIsStoredAtOnce, AMissingFileRaises3024,
+    AFileThatIsNoDatabaseRaises3343, TextsAreStoredAsTheLettersThatTheyMean,
+    ALongTextThatDoesNotFitRaises3163AndLeavesTheValueThatWasThere, ADatabaseHasOneWriterAtATime,
+    TablesAndFieldsAreFoundWithoutRegardToCase, NothingIsSetReadOrUpdatedWithoutARow,
+    AFieldReadsBackAsItWasSet, AFieldTakesWhatItsColumnHolds,
+    AFailedAssignmentLeavesTheValueThatWasThere, ATextLongerThanItsColumnIsCutAtAWholeCharacter,
+    AnEmptySourceOrTraceIsLeftNull, ATextColumnTakesANumberInDecimalForm,
+    ARowThatIsBegunAgainForgetsItsValues, AClosedRecordsetRaises3420,
+    AClosedDatabaseClosesItsRecordsets, ARecordsetStaysClosedWhenItsDatabaseIsOpenedAnew,
+    ThreeTablesTakeRowsInTurn);

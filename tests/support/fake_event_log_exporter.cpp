@@ -12,7 +12,7 @@ FakeEventLogExporter::FakeEventLogExporter(FileSystem& files) : files_(files)
 FakeEventLogExporter& FakeEventLogExporter::with(const std::string& logName,
                                                  const std::string& records)
 {
-    logs_[fakePaths::lower(logName)] = records;
+    logs_[fakePaths::folded(logName)] = records;
     return *this;
 }
 
@@ -27,7 +27,7 @@ void FakeEventLogExporter::exportEventLog(const std::string& logName, const std:
 {
     exports_.push_back(Export{logName, target, flags});
     if (fault_ != 0) throw RunTimeError(fault_);
-    const auto log = logs_.find(fakePaths::lower(logName));
+    const auto log = logs_.find(fakePaths::folded(logName));
     if (log == logs_.end()) throw RunTimeError(runTimeErrors::fileNotFound);
     const auto file = files_.createTextFile(target);
     file->writeLine("Time,Type,Source,Event ID,Computer,Message");

@@ -2,12 +2,13 @@
 
 #include "platform/clock.h"
 #include "runtime/run_time_error.h"
+#include "runtime/text.h"
 #include "support/fake_paths.h"
 #include "support/fake_text_streams.h"
 
 #include <utility>
 
-using fakePaths::lower;
+using fakePaths::folded;
 
 FakeFileSystem::FakeFileSystem(const Clock& clock) : clock_(clock)
 {
@@ -18,14 +19,22 @@ FakeFileSystem::FakeFileSystem(const Clock& clock) : clock_(clock)
 
 FakeFileSystem::~FakeFileSystem() = default;
 
+std::string FakeFileSystem::fullPath(const std::string& path) const
+{
+    const std::string drive = driveName(driveName(path).empty() ? currentDrive_ : path);
+    const auto folder = currentFolders_.find(folded(drive));
+    return fakePaths::full(path, folder == currentFolders_.end() ? drive + "\\" : folder->second);
+}
+
 std::string FakeFileSystem::keyOf(const std::string& path) const
 {
-    return lower(fakePaths::full(path, currentFolder_));
+    return folded(fullPath(path));
 }
 
 std::string FakeFileSystem::use(const std::string& path) const
 {
     asked_.push_back(path);
+    if (path.empty()) throw RunTimeError(runTimeErrors::badFileNumber);
     std::string key = keyOf(path);
     if (faultOfAll_ != 0) throw RunTimeError(faultOfAll_);
     const auto fault = faults_.find(key);
@@ -47,6 +56,11 @@ void FakeFileSystem::takeRoom(std::size_t bytes)
     if (!room_) return;
     if (static_cast<std::int64_t>(bytes) > *room_) throw RunTimeError(runTimeErrors::diskFull);
     *room_ -= static_cast<std::int64_t>(bytes);
+}
+
+void FakeFileSystem::noteClosed(const std::string& key) const
+{
+    closed_.push_back(lowerCase(key));
 }
 
 Date FakeFileSystem::moment() const
@@ -76,11 +90,11 @@ void FakeFileSystem::requireParent(const std::string& key) const
 std::shared_ptr<FakeFileSystem::Node> FakeFileSystem::makeNode(const std::string& path, bool folder)
 {
     auto node = std::make_shared<Node>();
-    const std::string fullPath = fakePaths::full(path, currentFolder_);
-    node->info.name = fakePaths::lastPart(fullPath);
+    const std::string whole = fullPath(path);
+    node->info.name = fakePaths::lastPart(whole);
     node->info.created = node->info.modified = moment();
     node->info.folder = folder;
-    nodes_[lower(fullPath)] = node;
+    nodes_[folded(whole)] = node;
     return node;
 }
 
@@ -115,7 +129,7 @@ FileInfo FakeFileSystem::infoOf(const Node& node) const
 
 FakeFileSystem& FakeFileSystem::with(const std::string& path, std::string content)
 {
-    withFolder(fakePaths::parent(fakePaths::full(path, currentFolder_)));
+    withFolder(fakePaths::parent(fullPath(path)));
     makeNode(path, false)->content = std::move(content);
     return *this;
 }
@@ -149,14 +163,14 @@ FakeFileSystem& FakeFileSystem::withoutFolder(const std::string& path)
 
 FakeFileSystem& FakeFileSystem::withFolder(const std::string& path)
 {
-    const std::string fullPath = fakePaths::full(path, currentFolder_);
-    if (find(lower(fullPath))) return *this;
-    const std::string above = fakePaths::parent(fullPath);
+    const std::string whole = fullPath(path);
+    if (find(folded(whole))) return *this;
+    const std::string above = fakePaths::parent(whole);
     if (above.empty())
-        withDrive(fullPath, DiskSpace{200'000'000, 40'000'000'000});
+        withDrive(whole, DiskSpace{200'000'000, 40'000'000'000});
     else
         withFolder(above);
-    makeNode(fullPath, true);
+    makeNode(whole, true);
     return *this;
 }
 
@@ -222,6 +236,12 @@ FakeFileSystem& FakeFileSystem::roomFor(std::int64_t bytes)
     return *this;
 }
 
+FakeFileSystem& FakeFileSystem::roomForAll()
+{
+    room_.reset();
+    return *this;
+}
+
 std::string FakeFileSystem::content(const std::string& path) const
 {
     const auto node = find(keyOf(path));
@@ -241,12 +261,14 @@ bool FakeFileSystem::isOpen(const std::string& path) const
 
 bool FakeFileSystem::fileExists(const std::string& path) const
 {
+    if (path.empty()) return false;
     const auto node = find(use(path));
     return node && !node->info.folder;
 }
 
 bool FakeFileSystem::folderExists(const std::string& path) const
 {
+    if (path.empty()) return false;
     const auto node = find(use(path));
     return node && node->info.folder;
 }
@@ -299,7 +321,8 @@ void FakeFileSystem::createFolder(const std::string& path)
 void FakeFileSystem::removeFolder(const std::string& path)
 {
     const std::string key = use(path);
-    if (!childrenOf(key).empty()) throw RunTimeError(runTimeErrors::permissionDenied);
+    const bool isRoot = fakePaths::parent(key).empty();
+    if (!childrenOf(key).empty() || isRoot) throw RunTimeError(runTimeErrors::permissionDenied);
     nodes_.erase(key);
 }
 
@@ -307,6 +330,7 @@ void FakeFileSystem::copyFile(const std::string& source, const std::string& targ
 {
     const auto from = fileNode(use(source));
     const auto onto = writableFile(target, use(target));
+    if (onto == from) throw RunTimeError(runTimeErrors::permissionDenied);
     takeRoom(from->content.size());
     const std::string name = onto->info.name;
     const Date firstCreated = onto->info.created;
@@ -373,19 +397,24 @@ DiskSpace FakeFileSystem::diskSpace(const std::string& drive) const
     return found->second;
 }
 
+std::string FakeFileSystem::currentFolder() const
+{
+    const std::string whole = fullPath(".");
+    return fakePaths::parent(whole).empty() ? whole + "\\" : whole;
+}
+
 void FakeFileSystem::changeDrive(const std::string& drive)
 {
-    const std::string key = use(drive);
+    use(drive);
+    const std::string name = folded(driveName(drive));
     constexpr int deviceUnavailable = 68;
-    if (drives_.count(key.substr(0, 2)) == 0)
-        throw RunTimeError(deviceUnavailable, "Device unavailable");
-    if (key.substr(0, 2) != lower(currentFolder_.substr(0, 2)))
-        currentFolder_ = drive.substr(0, 2) + "\\";
+    if (drives_.count(name) == 0) throw RunTimeError(deviceUnavailable, "Device unavailable");
+    currentDrive_ = driveName(drive);
 }
 
 void FakeFileSystem::changeFolder(const std::string& path)
 {
     childrenOf(use(path));
-    currentFolder_ = fakePaths::full(path, currentFolder_);
-    if (currentFolder_.size() == 2) currentFolder_ += "\\";
+    const std::string whole = fullPath(path);
+    currentFolders_[folded(driveName(whole))] = whole + "\\";
 }

@@ -54,8 +54,9 @@ public:
     /// Ends what `failing` and `failingAfterLines` said of a path.
     FakeFileSystem& mended(const std::string& path);
 
-    /// Writing raises 61 once this many more bytes were written.
+    /// Writing raises 61 once this many more bytes were written; `roomForAll` ends that.
     FakeFileSystem& roomFor(std::int64_t bytes);
+    FakeFileSystem& roomForAll();
 
     /// The bytes of a file; the empty text when there is none.
     std::string content(const std::string& path) const;
@@ -71,7 +72,7 @@ public:
     const std::vector<std::string>& asked() const { return asked_; }
 
     /// The folder in which started processes begin.
-    const std::string& currentFolder() const { return currentFolder_; }
+    std::string currentFolder() const;
 
     bool fileExists(const std::string& path) const override;
     bool folderExists(const std::string& path) const override;
@@ -95,7 +96,7 @@ public:
     void changeDrive(const std::string& drive) override;
     void changeFolder(const std::string& path) override;
 
-    /// A file or folder; its key in the map is its full path in lower case.
+    /// A file or folder; its key in the map is its full path, folded.
     struct Node {
         FileInfo info;
         std::string content;
@@ -111,7 +112,7 @@ public:
     /// What an open stream asks of its file system.
     void checkOpenFile(const std::string& key, int linesRead) const;
     void takeRoom(std::size_t bytes);
-    void noteClosed(const std::string& key) const { closed_.push_back(key); }
+    void noteClosed(const std::string& key) const;
     Date moment() const;
 
 private:
@@ -120,6 +121,7 @@ private:
         int afterLines = 0;
     };
 
+    std::string fullPath(const std::string& path) const;
     std::string keyOf(const std::string& path) const;
     std::string use(const std::string& path) const;
     std::shared_ptr<Node> find(const std::string& key) const;
@@ -137,7 +139,8 @@ private:
     std::map<std::string, std::string> longNames_;
     int faultOfAll_ = 0;
     std::optional<std::int64_t> room_;
-    std::string currentFolder_ = "C:\\";
+    std::string currentDrive_ = "C:";
+    std::map<std::string, std::string> currentFolders_; ///< by drive; the root of one without
     mutable std::vector<std::string> asked_;
     mutable std::vector<std::string> closed_;
 };

@@ -6,7 +6,7 @@
 
 FakeLanguages& FakeLanguages::with(const std::string& path, std::map<int, std::string> texts)
 {
-    libraries_[fakePaths::lower(path)] = std::move(texts);
+    libraries_[fakePaths::folded(path)] = std::move(texts);
     return *this;
 }
 
@@ -19,7 +19,7 @@ std::string FakeLanguages::languageName(std::int32_t id) const
 std::int32_t FakeLanguages::loadLibrary(const std::string& path)
 {
     loads_.push_back(path);
-    const std::string key = fakePaths::lower(path);
+    const std::string key = fakePaths::folded(path);
     if (libraries_.count(key) == 0) return 0;
     open_[++lastHandle_] = key;
     return lastHandle_;

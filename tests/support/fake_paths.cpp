@@ -1,16 +1,15 @@
 #include "support/fake_paths.h"
 
+#include "text/utf8.h"
+
 #include <algorithm>
 #include <vector>
 
 namespace fakePaths {
 
-std::string lower(std::string_view text)
+std::string folded(std::string_view text)
 {
-    std::string result(text);
-    for (char& letter : result)
-        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
-    return result;
+    return foldCase(text);
 }
 
 namespace {
@@ -39,17 +38,24 @@ bool isSeparator(char letter)
     return letter == '\\' || letter == '/';
 }
 
-bool matchesLowered(std::string_view name, std::string_view pattern)
+/// A name that has no point ends in one, as far as a pattern asks for it.
+bool matchesFolded(std::string_view name, std::string_view pattern)
 {
     if (pattern.empty()) return name.empty();
+    if (name.empty() && pattern.front() == '.' && pattern.size() > 1)
+        return pattern.find_first_not_of("*?", 1) == std::string_view::npos;
     if (pattern.front() == '*') {
         for (std::size_t taken = 0; taken <= name.size(); ++taken)
-            if (matchesLowered(name.substr(taken), pattern.substr(1))) return true;
+            if (matchesFolded(name.substr(taken), pattern.substr(1))) return true;
         return false;
     }
-    if (name.empty()) return false;
-    return (pattern.front() == '?' || pattern.front() == name.front()) &&
-           matchesLowered(name.substr(1), pattern.substr(1));
+    if (pattern.front() == '?') {
+        const bool standsForNone = name.empty() || name.front() == '.';
+        const auto taken = standsForNone ? 0 : utf8CharacterLength(name);
+        return matchesFolded(name.substr(taken), pattern.substr(1));
+    }
+    return !name.empty() && pattern.front() == name.front() &&
+           matchesFolded(name.substr(1), pattern.substr(1));
 }
 
 } // namespace
@@ -63,7 +69,7 @@ std::string full(const std::string& path, const std::string& currentFolder)
         rest = path.substr(2);
     }
     const bool fromCurrent = !rest.empty() && !isSeparator(rest.front()) &&
-                             lower(drive) == lower(currentFolder.substr(0, 2));
+                             folded(drive) == folded(currentFolder.substr(0, 2));
     if (fromCurrent || path.empty()) rest = currentFolder.substr(2) + "\\" + rest;
     std::string result = drive;
     for (const std::string& part : partsOf(rest)) result.append("\\").append(part);
@@ -84,7 +90,7 @@ std::string lastPart(const std::string& path)
 
 bool matches(std::string_view name, std::string_view pattern)
 {
-    return pattern == "*.*" || matchesLowered(lower(name), lower(pattern));
+    return pattern == "*.*" || matchesFolded(folded(name), folded(pattern));
 }
 
 } // namespace fakePaths

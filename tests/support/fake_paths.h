@@ -6,8 +6,8 @@
 /// How the fakes see Windows paths and names.
 namespace fakePaths {
 
-/// ASCII letters in lower case.
-std::string lower(std::string_view text);
+/// Letters in the one case by which names are compared.
+std::string folded(std::string_view text);
 
 /// The full path with single backslashes, without `.`, `..` and a trailing separator; a drive's
 /// root is "C:". `..` stops at the root.
@@ -19,7 +19,7 @@ std::string parent(const std::string& fullPath);
 /// What stands behind the last separator.
 std::string lastPart(const std::string& path);
 
-/// Whether a name matches a pattern of `*` and `?`, without regard to case. "*.*" matches all.
+/// Whether a name matches a pattern of `*` and `?` as FileSystem::matching tells.
 bool matches(std::string_view name, std::string_view pattern);
 
 } // namespace fakePaths

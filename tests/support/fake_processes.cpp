@@ -5,13 +5,13 @@
 
 namespace {
 
-/// The program that a command line begins with, in lower case.
+/// The program that a command line begins with.
 std::string programOf(const std::string& commandLine)
 {
     const bool quoted = !commandLine.empty() && commandLine.front() == '"';
     const std::size_t start = quoted ? 1 : 0;
     const std::size_t end = commandLine.find(quoted ? '"' : ' ', start);
-    return fakePaths::lower(commandLine.substr(start, end - start));
+    return commandLine.substr(start, end - start);
 }
 
 } // namespace
@@ -30,7 +30,16 @@ FakeProcesses& FakeProcesses::failing(int number)
 
 FakeProcesses& FakeProcesses::missing(const std::string& program)
 {
-    missing_.insert(fakePaths::lower(program));
+    refusals_.insert_or_assign(fakePaths::folded(program),
+                               RunTimeError(runTimeErrors::fileNotFound));
+    return *this;
+}
+
+FakeProcesses& FakeProcesses::forbidden(const std::string& program)
+{
+    refusals_.insert_or_assign(
+        fakePaths::folded(program),
+        RunTimeError(runTimeErrors::permissionDenied, program + " is not run"));
     return *this;
 }
 
@@ -42,7 +51,7 @@ FakeProcesses& FakeProcesses::running(std::int32_t processId)
 
 FakeProcesses& FakeProcesses::reporting(ProcessReport report)
 {
-    report_ = std::move(report);
+    nextReport_ = std::move(report);
     return *this;
 }
 
@@ -50,9 +59,13 @@ std::int32_t FakeProcesses::start(const std::string& commandLine, WindowStyle wi
 {
     commandLines_.push_back(commandLine);
     windows_.push_back(window);
+    lastReport_ = {};
     if (fault_ != 0) throw RunTimeError(fault_);
-    if (missing_.count(programOf(commandLine)) != 0)
-        throw RunTimeError(runTimeErrors::fileNotFound);
+    const std::string program = programOf(commandLine);
+    for (const char* ending : {"", ".exe"}) {
+        const auto refusal = refusals_.find(fakePaths::folded(program + ending));
+        if (refusal != refusals_.end()) throw RunTimeError(refusal->second);
+    }
     if (program_) program_(commandLine);
     running_.insert(++lastId_);
     return lastId_;
@@ -61,5 +74,7 @@ std::int32_t FakeProcesses::start(const std::string& commandLine, WindowStyle wi
 bool FakeProcesses::wait(std::int32_t processId, std::int32_t milliseconds)
 {
     waits_.emplace_back(processId, milliseconds);
-    return running_.erase(processId) != 0;
+    if (running_.erase(processId) == 0) return false;
+    lastReport_ = nextReport_;
+    return true;
 }

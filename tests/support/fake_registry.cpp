@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-using fakePaths::lower;
+using fakePaths::folded;
 
 namespace {
 
@@ -44,7 +44,7 @@ template <typename Key>
 Key* childOf(const Key& above, const std::string& name)
 {
     for (const auto& key : above.keys)
-        if (lower(key->name) == lower(name)) return key.get();
+        if (folded(key->name) == folded(name)) return key.get();
     return nullptr;
 }
 
@@ -174,7 +174,7 @@ std::optional<RegistryValue> FakeRegistry::value(std::uint32_t hive, const std::
     const Key* key = find(hive, path).key;
     if (!key) return std::nullopt;
     for (const auto& [valueName, stored] : key->values)
-        if (lower(valueName) == lower(name)) return stored;
+        if (folded(valueName) == folded(name)) return stored;
     return std::nullopt;
 }
 
@@ -187,7 +187,7 @@ bool FakeRegistry::setValue(std::uint32_t hive, const std::string& path, const s
     if (isTextType(stored.type)) keepAsText(stored);
     written_.push_back(path + "\\" + name);
     for (auto& [valueName, old] : found.key->values) {
-        if (lower(valueName) != lower(name)) continue;
+        if (folded(valueName) != folded(name)) continue;
         old = std::move(stored);
         return true;
     }

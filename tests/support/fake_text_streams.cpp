@@ -39,7 +39,7 @@ std::string_view FakeTextReader::readLine()
     const bool ended = end != std::string::npos;
     std::size_t length = (ended ? end : text.size()) - position_;
     const std::size_t start = std::exchange(position_, ended ? end + 1 : text.size());
-    if (ended && length > 0 && text[start + length - 1] == '\r') --length;
+    if (ended && length > 0 && text[start + length - 1] == '\r') --length; // part of the line end
     ++linesRead_;
     if (length > longestLine) throw RunTimeError(runTimeErrors::outOfStringSpace);
     line_.assign(text, start, length);
@@ -49,10 +49,15 @@ std::string_view FakeTextReader::readLine()
 std::string FakeTextReader::readAll()
 {
     const std::string& text = content();
-    if (position_ >= text.size()) throw RunTimeError(runTimeErrors::inputPastEnd);
+    if (atEnd()) throw RunTimeError(runTimeErrors::inputPastEnd);
+    const auto timesLeft = static_cast<std::size_t>(node_->timesOver - timesRead_);
     const std::size_t start = std::exchange(position_, text.size());
-    if (text.size() - start > longestText) throw RunTimeError(runTimeErrors::outOfStringSpace);
-    return text.substr(start);
+    timesRead_ = node_->timesOver;
+    if (text.size() - start + timesLeft * text.size() > longestText)
+        throw RunTimeError(runTimeErrors::outOfStringSpace);
+    std::string all = text.substr(start);
+    for (std::size_t time = 0; time < timesLeft; ++time) all += text;
+    return all;
 }
 
 void FakeTextReader::close()

@@ -66,11 +66,17 @@ FakeTimeZone& FakeTimeZone::with(const TimeZoneInformation& zone, TimeZoneState 
     return *this;
 }
 
-FakeTimeZone& FakeTimeZone::fixed(int biasMinutes, TimeZoneState state)
+FakeTimeZone& FakeTimeZone::fixed(int biasMinutes)
 {
     TimeZoneInformation zone;
     zone.bias = biasMinutes;
-    return with(zone, state);
+    return with(zone, TimeZoneState::unknown);
+}
+
+FakeTimeZone& FakeTimeZone::inStandardTime(int biasMinutes)
+{
+    zone_.bias = biasMinutes;
+    return with(zone_, TimeZoneState::standardTime);
 }
 
 TimeZoneState FakeTimeZone::read(TimeZoneInformation& zone) const

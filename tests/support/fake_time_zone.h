@@ -11,8 +11,11 @@ public:
     /// A zone with a daylight rule of its own, in which `state` is in force.
     FakeTimeZone& with(const TimeZoneInformation& zone, TimeZoneState state);
 
-    /// A zone of a fixed distance with no daylight time ever; `state` is what `read` tells.
-    FakeTimeZone& fixed(int biasMinutes, TimeZoneState state);
+    /// A zone of a fixed distance with no daylight time ever.
+    FakeTimeZone& fixed(int biasMinutes);
+
+    /// A zone with the daylight rule there is, standard time in force.
+    FakeTimeZone& inStandardTime(int biasMinutes);
 
     TimeZoneState read(TimeZoneInformation& zone) const override;
     SystemTime toLocal(const TimeZoneInformation& zone, const SystemTime& universal) const override;

@@ -9,12 +9,13 @@
 #include "support/fake_event_log_exporter.h"
 #include "support/fake_event_reporter.h"
 #include "support/fake_file_system.h"
-#include "support/fake_languages.h"
 #include "support/fake_host_module.h"
+#include "support/fake_languages.h"
 #include "support/fake_processes.h"
 #include "support/fake_registry.h"
 #include "support/fake_time_zone.h"
 #include "support/fake_trace_database.h"
+#include "support/fake_workstation.h"
 
 #include <string>
 #include <vector>

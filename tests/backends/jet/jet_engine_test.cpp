@@ -14,6 +14,12 @@ public:
     TraceDatabaseEngine& engine() { return engine_; }
     std::string path() const { return scratch_.path().string(); }
     std::string missingPath() const { return path() + ".none"; }
+    std::string damagedPath() const
+    {
+        const std::string damaged = path() + ".damaged";
+        std::ofstream(damaged) << "no database";
+        return damaged;
+    }
     std::vector<TextRow> rows(const std::string& table) const { return scratch_.rows(table); }
 
 private:

@@ -73,13 +73,15 @@ std::string_view SiteTextReader::readLine()
         const char* from = buffer_.get() + start_;
         if (const void* found = std::memchr(from + searched, '\n', known - searched)) {
             const auto length = static_cast<std::size_t>(static_cast<const char*>(found) - from);
-            if (length > longestLine) passOverLine();
+            const bool endsInBoth = length > 0 && from[length - 1] == '\r';
+            if (length - (endsInBoth ? 1 : 0) > longestLine) passOverLine();
             return takeLine(length, 1);
         }
         searched = known;
-        if (known > longestLine) passOverLine();
+        if (known > longestLine + 1) passOverLine();
         if (fill()) continue;
         if (known == 0) throw RunTimeError(runTimeErrors::inputPastEnd);
+        if (known > longestLine) passOverLine();
         return takeLine(known, 0);
     }
 }

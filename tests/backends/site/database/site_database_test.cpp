@@ -74,17 +74,6 @@ struct SiteDatabaseTest : testing::Test {
     SiteDatabase database{file};
 };
 
-TEST_F(SiteDatabaseTest, IsClosedUntilItIsOpened)
-{
-    EXPECT_EQ(0, database.state());
-    EXPECT_EQ(3709, errorOf([&] { flags("A"); }));
-    EXPECT_EQ(3709, errorOf([&] { database.createCommand()->useActiveConnection(); }));
-    open();
-    EXPECT_EQ(1, database.state());
-    EXPECT_EQ(0, database.errorCount());
-    EXPECT_EQ(3705, errorOf([&] { open(); }));
-}
-
 TEST_F(SiteDatabaseTest, RaisesForAFileThatIsNoDatabase)
 {
     const struct {
@@ -150,33 +139,6 @@ TEST_F(SiteDatabaseTest, CountsTheStepsOfEachUseOfAStatementAnew)
                   " FROM n WHERE i < 400000) SELECT COUNT(*) Flags FROM n;");
     open();
     for (int use = 0; use < 12; ++use) EXPECT_EQ(Value(400000), one("SELECT Flags FROM long"));
-}
-
-TEST_F(SiteDatabaseTest, RefusesAQuoteThatIsNotEscaped)
-{
-    open();
-    EXPECT_EQ(databaseErrors::statementRefused, errorOf([&] { flags("O'Brien"); }));
-    EXPECT_EQ(Value(7), flags("O''Brien"));
-    EXPECT_EQ(databaseErrors::noSuchTable, errorOf([&] { one("SELECT Flags FROM nowhere"); }));
-}
-
-TEST_F(SiteDatabaseTest, CountsAndKeepsTheRowsOfAKeysetWhileTheTableChanges)
-{
-    open();
-    auto rows = database.openRecordset("SELECT Name, ObjectId, Flags FROM vw_LoggerDiagnosticGrid",
-                                       CursorKind::keyset, LockKind::optimistic);
-    EXPECT_EQ(3, rows->rowCount());
-    int seen = 0;
-    for (; !rows->atEnd(); rows->moveNext(), ++seen) {
-        auto command = database.createCommand();
-        command->setProcedure("csp_LoggerDiagnosticGridModify");
-        command->refreshParameters();
-        command->assign("@ObjectId", rows->field("ObjectId"));
-        command->assign("@Flags", std::int32_t{64});
-        command->execute();
-    }
-    EXPECT_EQ(3, seen);
-    EXPECT_EQ(Value(64), flags("B"));
 }
 
 TEST_F(SiteDatabaseTest, ShowsARowOfAKeysetAsItIsWhenTheCursorComesToIt)
@@ -249,23 +211,6 @@ TEST_F(SiteDatabaseTest, KeepsARecordsetWhenAnotherOfItsQueryIsClosed)
     EXPECT_EQ(Value(5), rows->field("Flags"));
 }
 
-TEST_F(SiteDatabaseTest, CallsAProcedureWithTheAssignedParametersAlone)
-{
-    open();
-    auto command = database.createCommand();
-    command->setProcedure("csp_LoggerDiagnosticGridModify");
-    EXPECT_EQ(3265, errorOf([&] { command->assign("@Flags", 1); })) << "before the refresh";
-    command->refreshParameters();
-    EXPECT_EQ(3265, errorOf([&] { command->assign("@Colour", 1); }));
-    command->assign("@auditalias", std::string("anna"));
-    command->assign("@ObjectId", std::string("1"));
-    command->assign("@Flags", std::int32_t{9});
-    command->execute();
-    EXPECT_EQ(Value(9), flags("A"));
-    EXPECT_EQ(Value(Null{}), one("SELECT name AS Flags FROM audit"));
-    EXPECT_EQ(Value(std::string("anna")), one("SELECT alias AS Flags FROM audit"));
-}
-
 TEST_F(SiteDatabaseTest, TellsWhatTheServerRefuses)
 {
     open();
@@ -278,17 +223,6 @@ TEST_F(SiteDatabaseTest, TellsWhatTheServerRefuses)
     command->assign("@Flags", std::int32_t{13});
     EXPECT_EQ("unlucky flags", errorTextOf([&] { command->execute(); }));
     EXPECT_EQ(1, database.state()) << "a refusal does not close the connection";
-}
-
-TEST_F(SiteDatabaseTest, IsABrokenConnectionWhenTheFileHasGone)
-{
-    open();
-    fs::rename(file, file + ".away");
-    EXPECT_EQ(0, database.state());
-    EXPECT_EQ(3709, errorOf([&] { flags("A"); }));
-    fs::rename(file + ".away", file);
-    open();
-    EXPECT_EQ(Value(5), flags("A"));
 }
 
 TEST_F(SiteDatabaseTest, SeesAnotherProgramsChangeAtOnce)
