@@ -1,6 +1,6 @@
 #include "require.h"
 
-#include "backends/site/files/site_paths.h"
+#include "drives/site_paths.h"
 #include "runtime/run_time_error.h"
 #include "support/temporary_folder.h"
 

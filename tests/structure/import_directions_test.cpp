@@ -12,17 +12,10 @@ using Layers = std::set<std::string>;
 
 /// The house from the ground up: a folder may know those of the storeys under its own.
 const std::vector<Layers> storeys = {
-    {"runtime"},
-    {"text"},
-    {"system"},
-    {"platform"},
-    {"controls"},
-    {"console"},
-    {"core"},
-    {"logreader", "server"},
-    {"traces"},
-    {"gather"},
-    {"wizards", "settings"},
+    {"runtime"}, {"text"},     {"system"},
+    {"drives"},  {"platform"}, {"controls"},
+    {"console"}, {"core"},     {"logreader", "server"},
+    {"traces"},  {"gather"},   {"wizards", "settings"},
     {"shell"},
 };
 
@@ -31,11 +24,11 @@ const Layers core = {"runtime", "text",   "platform", "controls", "console",  "c
 
 /// What stands beside the house, and what each of it may know.
 const std::map<std::string, Layers> annexes = {
-    {"cabmaker", {"runtime", "text", "system"}},
-    {"backends/site", {"runtime", "text", "system", "platform"}},
+    {"cabmaker", {"runtime", "text", "system", "drives"}},
+    {"backends/site", {"runtime", "text", "system", "drives", "platform"}},
     {"backends/jet", {"runtime", "text", "system", "platform"}},
     {"backends/windows", {"runtime", "text", "system", "platform"}},
-    {"sample", {"runtime", "text", "system", "platform", "backends/site"}},
+    {"sample", {"runtime", "text", "system", "drives", "platform", "backends/site"}},
 };
 
 /// What a folder may include besides itself; nothing for one that has no rule.

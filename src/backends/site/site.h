@@ -4,7 +4,6 @@
 #include "backends/site/events/site_event_log_exporter.h"
 #include "backends/site/events/site_event_reporter.h"
 #include "backends/site/files/site_file_system.h"
-#include "backends/site/files/site_paths.h"
 #include "backends/site/language/site_languages.h"
 #include "backends/site/registry/site_registry.h"
 #include "backends/site/site_host_module.h"
@@ -14,6 +13,7 @@
 #include "backends/site/time/site_clock.h"
 #include "backends/site/time/site_time_zone.h"
 #include "backends/site/xml/libxml_documents.h"
+#include "drives/site_paths.h"
 #include "platform/platform.h"
 #include "text/code_page.h"
 

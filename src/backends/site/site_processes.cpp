@@ -1,7 +1,7 @@
 #include "backends/site/site_processes.h"
 
 #include "backends/site/command_line.h"
-#include "backends/site/files/site_paths.h"
+#include "drives/site_paths.h"
 #include "runtime/run_time_error.h"
 #include "system/child_process.h"
 #include "system/file_bytes.h"

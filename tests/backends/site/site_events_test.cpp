@@ -2,8 +2,8 @@
 #include "backends/site/events/site_event_reporter.h"
 
 #include "backends/site/events/event_log_csv.h"
-#include "backends/site/files/site_paths.h"
 #include "backends/site/time/site_clock.h"
+#include "drives/site_paths.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

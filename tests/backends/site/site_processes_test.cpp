@@ -1,6 +1,6 @@
 #include "backends/site/site_processes.h"
 
-#include "backends/site/files/site_paths.h"
+#include "drives/site_paths.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "backends/site/events/site_event_log_exporter.h"
 
 #include "backends/site/files/folder_listing.h"
-#include "backends/site/files/site_paths.h"
 #include "backends/site/files/site_text_reader.h"
+#include "drives/site_paths.h"
 #include "runtime/run_time_error.h"
 #include "system/whole_file.h"
 #include "text/utf8.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "backends/site/files/site_paths.h"
 #include "backends/site/time/posix_time_zone.h"
+#include "drives/site_paths.h"
 #include "platform/file_system.h"
 
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/site/files/site_paths.h"
+#include "drives/site_paths.h"
 
 #include <map>
 #include <string>

@@ -1,7 +1,7 @@
 #include "backends/site/language/site_languages.h"
 
-#include "backends/site/files/site_paths.h"
 #include "backends/site/language/language_names.h"
+#include "drives/site_paths.h"
 #include "runtime/run_time_error.h"
 #include "system/whole_file.h"
 

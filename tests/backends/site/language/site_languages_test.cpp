@@ -1,6 +1,6 @@
 #include "backends/site/language/site_languages.h"
 
-#include "backends/site/files/site_paths.h"
+#include "drives/site_paths.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "backends/site/files/site_paths.h"
+#include "drives/site_paths.h"
 
 #include "support/temporary_folder.h"
 

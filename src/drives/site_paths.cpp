@@ -1,4 +1,4 @@
-#include "backends/site/files/site_paths.h"
+#include "drives/site_paths.h"
 
 #include "runtime/run_time_error.h"
 #include "runtime/windows_path.h"
