@@ -7,9 +7,10 @@
 
 #include "cabmaker/cabinet_layout.h"
 #include "cabmaker/directive_file.h"
-#include "cabmaker/names.h"
-#include "cabmaker/site_paths.h"
+#include "cabmaker/directive_paths.h"
 #include "runtime/run_time_error.h"
+#include "runtime/text.h"
+#include "runtime/windows_path.h"
 
 namespace {
 
@@ -18,7 +19,7 @@ void require(bool holds)
     if (!holds) std::abort();
 }
 
-void checkMember(const cabmaker::DirectiveMember& member, const cabmaker::SitePaths& paths)
+void checkMember(const cabmaker::DirectiveMember& member, const cabmaker::DirectivePaths& paths)
 {
     require(!member.name.empty() && member.name.size() <= cabmaker::formatLimits::nameBytes);
     require(member.name.front() != '\\' && member.name.back() != '\\');
@@ -36,16 +37,16 @@ void checkMember(const cabmaker::DirectiveMember& member, const cabmaker::SitePa
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static const cabmaker::SitePaths paths("", "/no-such-folder/work");
+    static const cabmaker::DirectivePaths paths("", "/");
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     try {
         const cabmaker::Directives directives = cabmaker::parseDirectives(text, "f.ddf");
         for (const std::size_t number : {1, 2, 65535}) {
             const std::string name = cabmaker::cabinetNameOf(directives, number);
-            require(!cabmaker::baseName(name).empty() && cabmaker::isUtf8(name));
-            require(cabmaker::isUtf8(cabmaker::diskFolderOf(directives, number)));
+            require(!baseName(name).empty() && isUtf8(name));
+            require(isUtf8(cabmaker::diskFolderOf(directives, number)));
         }
-        for (const auto& member : directives.members) require(cabmaker::isUtf8(member.name));
+        for (const auto& member : directives.members) require(isUtf8(member.name));
         for (const auto& member : directives.members) checkMember(member, paths);
     } catch (const RunTimeError& error) {
         require(error.number() == runTimeErrors::invalidCall);

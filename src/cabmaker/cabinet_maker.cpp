@@ -10,10 +10,10 @@
 #include "cabmaker/cabinet_set.h"
 #include "cabmaker/cabinet_writer.h"
 #include "cabmaker/directive_file.h"
-#include "cabmaker/names.h"
+#include "cabmaker/directive_paths.h"
 #include "cabmaker/reports.h"
-#include "cabmaker/site_paths.h"
 #include "cabmaker/source_file.h"
+#include "runtime/windows_path.h"
 #include "system/system_error.h"
 
 namespace cabmaker {
@@ -72,7 +72,7 @@ private:
     std::vector<fs::path> made_; // innermost first
 };
 
-std::vector<CabinetSource> sourcesOf(const Directives& directives, const SitePaths& paths,
+std::vector<CabinetSource> sourcesOf(const Directives& directives, const DirectivePaths& paths,
                                      const std::string& directiveFile)
 {
     if (directives.members.empty())
@@ -102,7 +102,7 @@ std::string beneath(const std::string& folder, const std::string& path)
 /// A run's outputs: what they may not take the place of, and what they are called.
 class Outputs {
 public:
-    Outputs(const Directives& directives, const SitePaths& paths)
+    Outputs(const Directives& directives, const DirectivePaths& paths)
         : directives_(directives), paths_(paths)
     {}
 
@@ -144,7 +144,7 @@ public:
 
 private:
     const Directives& directives_;
-    const SitePaths& paths_;
+    const DirectivePaths& paths_;
     std::vector<std::pair<std::string, std::string>> sources_;
 };
 
@@ -175,7 +175,7 @@ SetWish setWishOf(const Directives& directives, const Outputs& outputs)
 
 /// Divides what was packed, as its size asks for.
 Cabinets cabinetsOf(const PackedCabinet& packed, const OutputFile& whole,
-                    const Directives& directives, const SitePaths& paths, Outputs& outputs,
+                    const Directives& directives, const DirectivePaths& paths, Outputs& outputs,
                     const std::function<void()>& checkpoint)
 {
     const SetWish wish = setWishOf(directives, outputs);
@@ -213,7 +213,7 @@ ReportSubject subjectOf(const Cabinets& cabinets, const Directives& directives,
 
 MadeCabinet makeCabinet(const std::string& directivePath, const Surroundings& surroundings)
 {
-    const SitePaths paths(surroundings.drives, surroundings.workingFolder);
+    const DirectivePaths paths(surroundings.drives, surroundings.workingFolder);
     const std::string directiveFile = paths.machinePath(directivePath);
     const Directives directives =
         parseDirectives(readDirectiveFile(directiveFile, directivePath), directivePath);

@@ -7,8 +7,11 @@
 
 #include "cabmaker/cabinet_layout.h"
 #include "cabmaker/directive_line.h"
-#include "cabmaker/names.h"
 #include "runtime/run_time_error.h"
+#include "runtime/text.h"
+#include "runtime/windows_path.h"
+#include "text/code_page.h"
+#include "text/utf8.h"
 
 namespace cabmaker {
 
@@ -21,7 +24,7 @@ namespace {
 
 bool onOrOff(const std::string& value)
 {
-    const std::string folded = foldedName(value);
+    const std::string folded = lowerCase(value);
     if (folded == "on" || folded == "1" || folded == "yes" || folded == "true") return true;
     if (folded == "off" || folded == "0" || folded == "no" || folded == "false") return false;
     refuse("\"" + value + "\" is neither on nor off");
@@ -43,7 +46,7 @@ std::uint64_t diskBytes(const std::string& value)
         {"cdrom", 681'984'000}, {"1.44m", 1'457'664}, {"1.2m", 1'213'952},
         {"720k", 730'112},      {"360k", 362'496},
     };
-    const std::string folded = foldedName(value);
+    const std::string folded = lowerCase(value);
     for (const auto& [name, bytes] : disks)
         if (folded == name) return bytes;
     return bytesOf(value);
@@ -63,7 +66,7 @@ std::string numbered(std::string name, std::size_t number)
 
 std::string fileOrNone(const std::string& name)
 {
-    return foldedName(name) == "nul" ? std::string() : name;
+    return lowerCase(name) == "nul" ? std::string() : name;
 }
 
 std::string inFolder(const std::string& folder, const std::string& name)
@@ -111,7 +114,10 @@ private:
     /// UTF-8 of bytes of the file.
     std::string decoded(const std::string& bytes) const
     {
-        return utf8_ ? bytes : utf8FromWindows1252(bytes);
+        if (utf8_) return bytes;
+        std::string text;
+        codePage_.appendUtf8(text, bytes);
+        return text;
     }
 
     void setCabinet(const std::string& value);
@@ -136,6 +142,7 @@ private:
     std::uint64_t largestCabinet_ = 0;
     std::uint64_t largestDisk_ = 0;
     bool uniqueFiles_ = true;
+    const CodePage codePage_ = windows1252();
     bool utf8_ = false;
     std::set<std::string> names_;
 };
@@ -186,7 +193,7 @@ Directives Parser::result() &&
 void Parser::directive(DirectiveLine& line)
 {
     const std::string name = line.atEnd() ? std::string() : line.word();
-    const std::string folded = foldedName(name);
+    const std::string folded = lowerCase(name);
     if (folded == "option")
         option(line);
     else if (folded == "set")
@@ -198,14 +205,14 @@ void Parser::directive(DirectiveLine& line)
 void Parser::option(DirectiveLine& line)
 {
     const std::string name = line.atEnd() ? std::string() : line.word();
-    if (foldedName(name) != "explicit") refuse("the option \"" + decoded(name) + "\" is not known");
+    if (lowerCase(name) != "explicit") refuse("the option \"" + decoded(name) + "\" is not known");
     if (!line.atEnd()) refuse("something follows the option");
 }
 
 void Parser::setVariable(DirectiveLine& line)
 {
     const std::string name = line.atEnd() ? std::string() : line.word("=");
-    const std::string folded = foldedName(name);
+    const std::string folded = lowerCase(name);
     const auto variable = std::find_if(std::begin(variables), std::end(variables),
                                        [&](const Variable& v) { return v.name == folded; });
     if (variable == std::end(variables))
@@ -233,7 +240,7 @@ void Parser::member(DirectiveLine& line, unsigned number)
     if (!line.atEnd()) refuse("a name with blanks must stand in quotes");
 
     name = memberName(inFolder(destinationFolder_, name));
-    if (!names_.insert(foldedName(name)).second && uniqueFiles_)
+    if (!names_.insert(foldCase(name)).second && uniqueFiles_)
         refuse("the cabinet already has a file " + name);
     directives_.members.push_back({inFolder(sourceFolder_, source), std::move(name), number});
 }
@@ -257,7 +264,7 @@ void Parser::setCompress(const std::string& value)
 
 void Parser::setCompressionType(const std::string& value)
 {
-    if (foldedName(value) != "mszip") refuse("MSZIP is the one compression that is made");
+    if (lowerCase(value) != "mszip") refuse("MSZIP is the one compression that is made");
 }
 
 } // namespace

@@ -151,6 +151,7 @@ SitePlace SitePaths::placeOfMachine(const Names& names) const
         throw RunTimeError(runTimeErrors::permissionDenied,
                            "Permission denied: " + whole + " is not on a drive of the site");
     const RootFolder machine("/", RootFolder::Bounds::machine);
+    if (nearest->empty()) return {machine, machine.pathIgnoringCase(names)};
     const Names below(names.begin() + static_cast<std::ptrdiff_t>(nearest->size()), names.end());
     const std::string folder = "/" + joined(*nearest);
     if (below.empty() || !machine.isFolder(folder)) return {machine, joined(names)};

@@ -37,8 +37,8 @@ public:
     const RootFolder& root() const { return root_; }
 
     /// Lets a file or a folder of the machine, with what lies below it, be reached by its path,
-    /// which a person named. Links on the way to it are followed; below it none leads out. A path
-    /// that does not begin with `/` changes nothing.
+    /// which a person named. Links on the way to it are followed; below it none leads out, as long
+    /// as it is not the whole machine. A path that does not begin with `/` changes nothing.
     void permit(std::string_view path);
 
     /// Where a path lies, whether or not something is there. Raises 52 for the empty path and one

@@ -16,6 +16,11 @@ bool beginsWithDrive(std::string_view path)
     return path.size() >= 2 && isLetter(path[0]) && path[1] == ':';
 }
 
+std::string_view baseName(std::string_view path)
+{
+    return path.substr(path.find_last_of("\\/") + 1);
+}
+
 void followPath(std::vector<std::string>& names, std::string_view path)
 {
     while (!path.empty()) {

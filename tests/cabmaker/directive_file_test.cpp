@@ -209,6 +209,7 @@ TEST(ParseDirectives, RefusesWhatItDoesNotKnowWithTheLine)
         {"a C:\\b", "a.ddf:1: a member's name can't be C:\\b"},
         {"C:a", "a.ddf:1: a member's name can't be C:a"},
         {"x\\a.csv\ny\\A.CSV", "a.ddf:2: the cabinet already has a file A.CSV"},
+        {"\xEF\xBB\xBFx\\Ω.csv\ny\\ω.CSV", "a.ddf:2: the cabinet already has a file ω.CSV"},
         {"a\rb", "a.ddf:1: a control character"},
         {"a.csv\x1A", "a.ddf:1: a control character"},
         {"\xEF\xBB\xBF\"ok\"\n\"\xE9.csv\"",

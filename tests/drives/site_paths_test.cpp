@@ -225,4 +225,14 @@ TEST_F(SitePathsTest, KnowsRootsAndDriveNames)
     EXPECT_EQ("", SitePaths::driveName(""));
 }
 
+TEST_F(SitePathsTest, TheWholeMachineMayBePermitted)
+{
+    const TemporaryFolder other;
+    other.write("Data.txt");
+    std::filesystem::create_symlink(other / "Data.txt", folder / "link");
+    paths.permit("/");
+    EXPECT_EQ(other / "Data.txt", paths.machinePath(other / "data.TXT"));
+    EXPECT_TRUE(paths.place(folder / "link").root.isFile(paths.place(folder / "link").path));
+}
+
 } // namespace

@@ -32,6 +32,14 @@ TEST(FollowPath, GoesFromNameToName)
     }
 }
 
+TEST(BaseName, IsWhatStandsBehindTheLastSeparatorOfEitherKind)
+{
+    EXPECT_EQ("a.csv", baseName("C:\\Temp\\a.csv"));
+    EXPECT_EQ("a.csv", baseName("/tmp/x\\y/a.csv"));
+    EXPECT_EQ("a.csv", baseName("a.csv"));
+    EXPECT_EQ("", baseName("C:\\Temp\\"));
+}
+
 TEST(BeginsWithDrive, KnowsALetterAndAColon)
 {
     for (const char* path : {"C:", "c:\\x", "z:x"}) EXPECT_TRUE(beginsWithDrive(path)) << path;

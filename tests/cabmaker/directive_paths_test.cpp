@@ -1,4 +1,4 @@
-#include "cabmaker/site_paths.h"
+#include "cabmaker/directive_paths.h"
 
 #include <filesystem>
 
@@ -11,9 +11,9 @@ namespace cabmaker {
 
 namespace {
 
-class SitePathsTest : public testing::Test {
+class DirectivePathsTest : public testing::Test {
 protected:
-    SitePathsTest()
+    DirectivePathsTest()
     {
         scratch_.write("site/drive_c/Temp/Logs/Application.csv", "");
         scratch_.write("site/drive_c/Temp/Ärger.csv", "");
@@ -28,7 +28,7 @@ protected:
         return std::filesystem::canonical(scratch_.path()).string() + "/" + name;
     }
 
-    SitePaths paths(const std::string& working = "site/drive_c/Temp/Logs") const
+    DirectivePaths paths(const std::string& working = "site/drive_c/Temp/Logs") const
     {
         return {at("site"), at(working)};
     }
@@ -36,7 +36,7 @@ protected:
     ScratchFolder scratch_;
 };
 
-std::string messageOf(const SitePaths& paths, const std::string& path)
+std::string messageOf(const DirectivePaths& paths, const std::string& path)
 {
     try {
         return paths.machinePath(path);
@@ -46,9 +46,19 @@ std::string messageOf(const SitePaths& paths, const std::string& path)
     }
 }
 
+int numberOf(const DirectivePaths& paths, const std::string& path)
+{
+    try {
+        paths.machinePath(path);
+        return 0;
+    } catch (const RunTimeError& error) {
+        return error.number();
+    }
+}
+
 } // namespace
 
-TEST_F(SitePathsTest, FindsThePlaceOnTheMachine)
+TEST_F(DirectivePathsTest, FindsThePlaceOnTheMachine)
 {
     struct Case {
         const char* because;
@@ -67,7 +77,9 @@ TEST_F(SitePathsTest, FindsThePlaceOnTheMachine)
         {"the exact name comes first", "C:\\Temp\\twice\\b.csv", "site/drive_c/Temp/twice/b.csv"},
         {"what is absent keeps its case", "C:\\temp\\New\\X.cab", "site/drive_c/Temp/New/X.cab"},
         {"the drive itself", "C:\\", "site/drive_c"},
-        {"the drive's bare name", "C:", "site/drive_c"},
+        {"a drive's bare name is its current folder", "C:", "site/drive_c/Temp/Logs"},
+        {"from there on without a separator", "C:application.csv",
+         "site/drive_c/Temp/Logs/Application.csv"},
         {"up and down", "C:\\Temp\\Logs\\..\\.\\twice", "site/drive_c/Temp/twice"},
         {"up needs no folder", "C:\\Temp\\none\\..\\Logs", "site/drive_c/Temp/Logs"},
         {"a drive can't be left", "C:\\..\\..\\secret.txt", "site/drive_c/secret.txt"},
@@ -84,7 +96,7 @@ TEST_F(SitePathsTest, FindsThePlaceOnTheMachine)
     }
 }
 
-TEST_F(SitePathsTest, KnowsPathsOfTheMachineItself)
+TEST_F(DirectivePathsTest, KnowsPathsOfTheMachineItself)
 {
     EXPECT_EQ(at("Machine/File.txt"), messageOf(paths(), at("Machine/File.txt")));
     EXPECT_EQ(at("Machine/File.txt"), messageOf(paths(), at("Machine") + "\\file.TXT"));
@@ -93,29 +105,64 @@ TEST_F(SitePathsTest, KnowsPathsOfTheMachineItself)
     EXPECT_EQ(at("site/secret.txt"), messageOf(paths("Machine"), "..\\site\\secret.txt"));
 }
 
-TEST_F(SitePathsTest, TakesTheFirstOfSeveralNamesThatDifferInCase)
+TEST_F(DirectivePathsTest, TakesTheFirstOfSeveralNamesThatDifferInCase)
 {
     scratch_.write("site/drive_c/two/Abc", "");
     scratch_.write("site/drive_c/two/aBc", "");
     EXPECT_EQ(at("site/drive_c/two/Abc"), messageOf(paths(), "C:\\two\\abc"));
 }
 
-TEST_F(SitePathsTest, RefusesWhatHasNoPlaceHere)
+TEST_F(DirectivePathsTest, RefusesWhatHasNoPlaceHere)
 {
     EXPECT_EQ("D:\\x: the site has no such drive", messageOf(paths(), "D:\\x"));
-    EXPECT_EQ("C:x: a path on a drive begins at its top, as in C:\\", messageOf(paths(), "C:x"));
     EXPECT_EQ("\\\\server\\x: there are no network folders here",
               messageOf(paths(), "\\\\server\\x"));
-    const SitePaths bare("", at("Machine"));
+    const DirectivePaths bare("", at("Machine"));
     EXPECT_EQ("C:\\x: there are no drives here (ORVAN_SITE_DRIVES names the folder of the drives)",
               messageOf(bare, "C:\\x"));
     EXPECT_EQ(at("Machine/File.txt"), messageOf(bare, "file.txt"));
 }
 
-TEST_F(SitePathsTest, TakesTheFolderOfTheDrivesRelativeToTheWorkingFolder)
+TEST_F(DirectivePathsTest, TakesTheFolderOfTheDrivesRelativeToTheWorkingFolder)
 {
-    const SitePaths relative("../site", at("Machine"));
+    const DirectivePaths relative("../site", at("Machine"));
     EXPECT_EQ(at("site/drive_c/Temp"), messageOf(relative, "C:\\Temp"));
+}
+
+TEST_F(DirectivePathsTest, NothingLeadsOutOfADrive)
+{
+    namespace fs = std::filesystem;
+    scratch_.write("outside/secret.txt", "");
+    fs::create_symlink("../../outside", at("site/drive_c/away"));
+    fs::create_symlink(at("outside/secret.txt"), at("site/drive_c/Temp/Logs/link.csv"));
+    fs::create_symlink("Logs/Application.csv", at("site/drive_c/Temp/inside.csv"));
+    for (const char* path : {"C:\\away\\secret.txt", "link.csv"})
+        EXPECT_EQ(runTimeErrors::permissionDenied, numberOf(paths(), path)) << path;
+    EXPECT_EQ(0, numberOf(paths(), "C:\\Temp\\inside.csv"));
+}
+
+TEST_F(DirectivePathsTest, NothingLeadsOutOfTheWorkingFolderOfASiteElsewhere)
+{
+    std::filesystem::create_symlink(at("site/secret.txt"), at("Machine/link.csv"));
+    EXPECT_EQ(runTimeErrors::permissionDenied, numberOf(paths("Machine"), "link.csv"));
+    EXPECT_EQ(0, numberOf(DirectivePaths("", at("Machine")), "link.csv"))
+        << "who works for no site names what they please";
+}
+
+TEST_F(DirectivePathsTest, NamesOfOtherScriptsMatchWithoutCaseToo)
+{
+    scratch_.write("site/drive_c/Ωmega.csv", "");
+    EXPECT_EQ(at("site/drive_c/Ωmega.csv"), messageOf(paths(), "C:\\ωMEGA.CSV"));
+}
+
+TEST_F(DirectivePathsTest, NeedsTheFolderOfTheDrives)
+{
+    try {
+        const DirectivePaths none(at("none"), at("Machine"));
+        ADD_FAILURE();
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(at("none") + ": the folder of the drives is no folder", error.description());
+    }
 }
 
 } // namespace cabmaker

@@ -1,0 +1,78 @@
+#include "cabmaker/directive_paths.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "runtime/run_time_error.h"
+#include "runtime/text.h"
+#include "runtime/windows_path.h"
+
+namespace cabmaker {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+[[noreturn]] void refuse(std::string_view path, const char* because)
+{
+    throw RunTimeError(runTimeErrors::pathNotFound, std::string(path) + ": " + because);
+}
+
+std::string canonicalPath(const fs::path& path)
+{
+    std::error_code error;
+    return fs::weakly_canonical(path, error).string();
+}
+
+SitePaths sitePathsOf(const std::string& drives, const std::string& workingFolder)
+try {
+    return SitePaths(drives.empty() ? "/" : canonicalPath(fs::path(workingFolder) / drives));
+} catch (const RunTimeError& error) {
+    throw RunTimeError(error.number(), drives + ": the folder of the drives is no folder");
+}
+
+/// The drive of a path of the machine, and the path on it; empty for what lies on none.
+std::string onDrive(const std::string& path, const std::string& siteFolder)
+{
+    const std::string start = siteFolder + "/drive_";
+    if (!path.starts_with(start) || path.size() == start.size()) return {};
+    const std::string rest = path.substr(start.size() + 1);
+    if (!rest.empty() && rest.front() != '/') return {};
+    return path[start.size()] + std::string(":") + (rest.empty() ? "/" : rest);
+}
+
+} // namespace
+
+DirectivePaths::DirectivePaths(const std::string& drives, const std::string& workingFolder)
+    : hasDrives_(!drives.empty()), paths_(sitePathsOf(drives, workingFolder))
+{
+    paths_.permit("/");
+    const std::string working = canonicalPath(workingFolder);
+    const std::string path = hasDrives_ ? onDrive(working, paths_.siteFolder()) : std::string();
+    if (path.empty()) {
+        if (hasDrives_) paths_.permit(working);
+        paths_.changeFolder(working);
+        return;
+    }
+    paths_.changeDrive(path.substr(0, 2));
+    paths_.changeFolder(path);
+}
+
+std::string DirectivePaths::machinePath(std::string_view path) const
+{
+    if (beginsWithDrive(path)) {
+        if (!hasDrives_)
+            refuse(path,
+                   "there are no drives here (ORVAN_SITE_DRIVES names the folder of the drives)");
+        if (!paths_.root().isFolder("drive_" + lowerCase(path.substr(0, 1))))
+            refuse(path, "the site has no such drive");
+    } else if (path.size() >= 2 && path[0] == '\\' && isPathSeparator(path[1])) {
+        refuse(path, "there are no network folders here");
+    }
+    const SitePlace place = paths_.place(path.empty() ? "." : path);
+    const std::string name = lastNameOf(place.path);
+    const std::string folder = place.root.machinePath(folderPathOf(place.path));
+    return name.empty() || folder.back() == '/' ? folder + name : folder + "/" + name;
+}
+
+} // namespace cabmaker
