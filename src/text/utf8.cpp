@@ -20,12 +20,6 @@ bool isSurrogate(char32_t unit)
     return unit >= 0xD800 && unit <= 0xDFFF;
 }
 
-void appendUtf16Unit(std::string& bytes, char32_t unit)
-{
-    bytes += static_cast<char>(unit & 0xFF);
-    bytes += static_cast<char>(unit >> 8 & 0xFF);
-}
-
 /// Calls `take` with each code point, and with its bytes or the one byte that is none.
 template <typename Take>
 void forEachCharacter(std::string_view text, Take take)
@@ -86,44 +80,62 @@ void appendUtf8(std::string& text, char32_t codePoint)
     }
 }
 
-std::string utf8OfUtf16(std::string_view bytes, bool bigEndian)
+std::string utf8OfUtf16(std::u16string_view units)
 {
-    const auto unitAt = [&](std::size_t place) {
-        const char32_t first = static_cast<unsigned char>(bytes[place]);
-        const char32_t second = static_cast<unsigned char>(bytes[place + 1]);
-        return bigEndian ? first << 8 | second : second << 8 | first;
-    };
     std::string text;
-    text.reserve(bytes.size());
-    std::size_t place = 0;
-    for (; place + 1 < bytes.size(); place += 2) {
-        const char32_t unit = unitAt(place);
-        const bool high = unit >= 0xD800 && unit < 0xDC00;
-        const char32_t next = high && place + 3 < bytes.size() ? unitAt(place + 2) : 0;
-        if (next >= 0xDC00 && next <= 0xDFFF) {
+    text.reserve(units.size());
+    for (std::size_t at = 0; at < units.size(); ++at) {
+        const char32_t unit = units[at];
+        const char32_t next = unit < 0xDC00 && at + 1 < units.size() ? units[at + 1] : 0;
+        if (!isSurrogate(unit)) {
+            appendUtf8(text, unit);
+        } else if (next >= 0xDC00 && next <= 0xDFFF) {
             appendUtf8(text, 0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00));
-            place += 2;
+            ++at;
         } else {
-            appendUtf8(text, isSurrogate(unit) ? replacement : unit);
+            appendUtf8(text, replacement);
         }
     }
-    if (place < bytes.size()) appendUtf8(text, replacement);
     return text;
+}
+
+std::string utf8OfUtf16(std::string_view bytes, bool bigEndian)
+{
+    std::u16string units;
+    units.reserve(bytes.size() / 2 + 1);
+    for (std::size_t place = 0; place + 1 < bytes.size(); place += 2) {
+        const auto first = static_cast<unsigned char>(bytes[place]);
+        const auto second = static_cast<unsigned char>(bytes[place + 1]);
+        const int unit = bigEndian ? first << 8 | second : second << 8 | first;
+        units += static_cast<char16_t>(unit);
+    }
+    if (bytes.size() % 2 != 0) units += static_cast<char16_t>(replacement);
+    return utf8OfUtf16(units);
+}
+
+void appendUtf16(std::u16string& units, std::string_view text)
+{
+    forEachCharacter(text, [&](std::optional<char32_t> codePoint, std::string_view) {
+        const char32_t value = codePoint.value_or(replacement);
+        if (value < 0x10000) {
+            units += static_cast<char16_t>(value);
+        } else {
+            units += static_cast<char16_t>(0xD800 + ((value - 0x10000) >> 10));
+            units += static_cast<char16_t>(0xDC00 + ((value - 0x10000) & 0x3FF));
+        }
+    });
 }
 
 std::string utf16LittleEndian(std::string_view text)
 {
+    std::u16string units;
+    appendUtf16(units, text);
     std::string bytes;
-    bytes.reserve(text.size() * 2);
-    forEachCharacter(text, [&](std::optional<char32_t> codePoint, std::string_view) {
-        const char32_t value = codePoint.value_or(replacement);
-        if (value < 0x10000) {
-            appendUtf16Unit(bytes, value);
-        } else {
-            appendUtf16Unit(bytes, 0xD800 + ((value - 0x10000) >> 10));
-            appendUtf16Unit(bytes, 0xDC00 + ((value - 0x10000) & 0x3FF));
-        }
-    });
+    bytes.reserve(units.size() * 2);
+    for (const char16_t unit : units) {
+        bytes += static_cast<char>(unit & 0xFF);
+        bytes += static_cast<char>(unit >> 8);
+    }
     return bytes;
 }
 

@@ -16,8 +16,14 @@ char32_t utf8CodePoint(std::string_view character);
 
 void appendUtf8(std::string& text, char32_t codePoint);
 
-/// UTF-16 to UTF-8; U+FFFD for a lone surrogate, and for an odd byte at the end.
+/// UTF-16 to UTF-8; U+FFFD for a lone surrogate.
+std::string utf8OfUtf16(std::u16string_view units);
+
+/// The same of bytes; U+FFFD for a lone surrogate, and for an odd byte at the end.
 std::string utf8OfUtf16(std::string_view bytes, bool bigEndian = false);
+
+/// Appends the UTF-16 of a text in UTF-8; U+FFFD for each byte that belongs to no character.
+void appendUtf16(std::u16string& units, std::string_view text);
 
 /// UTF-8 to UTF-16, lowest byte first; U+FFFD for each byte that belongs to no character.
 std::string utf16LittleEndian(std::string_view text);

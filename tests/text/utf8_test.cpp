@@ -39,6 +39,16 @@ TEST(Utf8, GoesToUtf16AndBack)
     EXPECT_EQ("é", utf8OfUtf16(std::string("\x00\xE9", 2), true));
 }
 
+TEST(Utf8, GoesToUnitsOfUtf16AndBack)
+{
+    std::u16string units = u"> ";
+    appendUtf16(units, "a\xE9é\xF0\x9F\x93\x81");
+    EXPECT_EQ(u"> a\uFFFDé\U0001F4C1", units);
+    EXPECT_EQ("> a\xEF\xBF\xBDé\xF0\x9F\x93\x81", utf8OfUtf16(units));
+    const std::u16string halves = {u'a', char16_t{0xDC00}, char16_t{0xD800}, char16_t{0xD800}};
+    EXPECT_EQ("a\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD", utf8OfUtf16(halves));
+}
+
 TEST(Utf8, PutsAReplacementForHalvesOfUtf16)
 {
     const std::string mark = "\xEF\xBF\xBD";

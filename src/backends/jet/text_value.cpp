@@ -1,6 +1,7 @@
 #include "backends/jet/text_value.h"
 
 #include "backends/jet/format.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -35,68 +36,21 @@ bool isPlainAscii(std::string_view text)
     return found == 0;
 }
 
-bool isSurrogate(char32_t character)
+bool isHighSurrogate(char16_t unit)
 {
-    return character >= 0xD800 && character <= 0xDFFF;
+    return unit >= 0xD800 && unit < 0xDC00;
+}
+
+bool isLowSurrogate(char16_t unit)
+{
+    return unit >= 0xDC00 && unit < 0xE000;
 }
 
 char16_t storable(char16_t character)
 {
-    const bool fits = character != 0 && character != byteOrderMark && !isSurrogate(character);
+    const bool fits = character != 0 && character != byteOrderMark && !isHighSurrogate(character) &&
+                      !isLowSurrogate(character);
     return fits ? character : replacement;
-}
-
-/// One character of UTF-8 at `at`, which moves past it; U+FFFD for a byte that begins none.
-char32_t nextUtf8(std::string_view text, std::size_t& at)
-{
-    const auto first = static_cast<unsigned char>(text[at++]);
-    if (first < 0x80) return first;
-    const unsigned extra = first >= 0xF0 ? 3 : first >= 0xE0 ? 2 : 1;
-    if (first < 0xC2 || first > 0xF4) return replacement;
-    char32_t character = first & (0x3Fu >> extra);
-    for (unsigned count = 0; count < extra; ++count) {
-        if (at + count >= text.size()) return replacement;
-        const auto next = static_cast<unsigned char>(text[at + count]);
-        if ((next & 0xC0) != 0x80) return replacement;
-        character = character << 6 | (next & 0x3F);
-    }
-    constexpr char32_t least[] = {0, 0x80, 0x800, 0x10000};
-    if (character < least[extra] || character > 0x10FFFF || isSurrogate(character))
-        return replacement;
-    at += extra;
-    return character;
-}
-
-void appendUtf16(std::u16string& to, char32_t character)
-{
-    if (character < 0x10000) {
-        to.push_back(static_cast<char16_t>(character));
-        return;
-    }
-    to.push_back(static_cast<char16_t>(0xD7C0 + (character >> 10)));
-    to.push_back(static_cast<char16_t>(0xDC00 | (character & 0x3FF)));
-}
-
-void appendUtf8(std::string& to, char32_t character)
-{
-    const auto tail = [&](int shift) {
-        to.push_back(static_cast<char>(0x80 | (character >> shift & 0x3F)));
-    };
-    if (character < 0x80) {
-        to.push_back(static_cast<char>(character));
-    } else if (character < 0x800) {
-        to.push_back(static_cast<char>(0xC0 | character >> 6));
-        tail(0);
-    } else if (character < 0x10000) {
-        to.push_back(static_cast<char>(0xE0 | character >> 12));
-        tail(6);
-        tail(0);
-    } else {
-        to.push_back(static_cast<char>(0xF0 | character >> 18));
-        tail(12);
-        tail(6);
-        tail(0);
-    }
 }
 
 /// The characters of stored bytes. In the compressed form a zero byte switches between one and two
@@ -115,28 +69,6 @@ std::u16string storedCharacters(std::string_view stored)
         } else if (at < stored.size()) {
             const auto high = static_cast<unsigned char>(stored[at++]);
             text.push_back(static_cast<char16_t>(high << 8 | low));
-        }
-    }
-    return text;
-}
-
-/// Half of a surrogate pair gives U+FFFD.
-std::string utf8Of(std::u16string_view units)
-{
-    std::string text;
-    text.reserve(units.size());
-    for (std::size_t at = 0; at < units.size(); ++at) {
-        const char16_t unit = units[at];
-        if (!isSurrogate(unit)) {
-            appendUtf8(text, unit);
-            continue;
-        }
-        const char16_t next = at + 1 < units.size() ? units[at + 1] : u'\0';
-        if (unit < 0xDC00 && next >= 0xDC00 && next <= 0xDFFF) {
-            appendUtf8(text, 0x10000u + ((unit - 0xD800u) << 10) + (next - 0xDC00u));
-            ++at;
-        } else {
-            appendUtf8(text, replacement);
         }
     }
     return text;
@@ -161,10 +93,8 @@ void TextValue::assignUtf8(std::string_view text)
     ascii_ = isPlainAscii(text);
     if (ascii_) return;
     wide_.clear();
-    for (std::size_t at = 0; at < text.size();) {
-        const char32_t character = nextUtf8(text, at);
-        appendUtf16(wide_, character == 0 ? replacement : character);
-    }
+    appendUtf16(wide_, text);
+    std::replace(wide_.begin(), wide_.end(), u'\0', replacement);
     wide_.erase(0, wide_.find_first_not_of(byteOrderMark));
     takeWide();
 }
@@ -182,10 +112,9 @@ void TextValue::cutTo(std::size_t characters)
         source_.resize(characters);
         return;
     }
-    const bool splitsPair =
-        characters > 0 && isSurrogate(wide_[characters]) && wide_[characters] >= 0xDC00;
+    const bool splitsPair = characters > 0 && isLowSurrogate(wide_[characters]);
     wide_.resize(splitsPair ? characters - 1 : characters);
-    source_ = utf8Of(wide_);
+    source_ = utf8OfUtf16(wide_);
     takeWide();
 }
 
@@ -220,7 +149,7 @@ void TextValue::writePlain(char* to) const
 
 std::string decodeStoredText(std::string_view stored)
 {
-    return utf8Of(storedCharacters(stored));
+    return utf8OfUtf16(storedCharacters(stored));
 }
 
 std::string encodeName(std::string_view name)
