@@ -13,8 +13,8 @@
 #include <random>
 #include <string>
 
-#include "backends/jet/blank_database.h"
 #include "backends/jet/jet_engine.h"
+#include "backends/jet/schema/blank_database.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
-#include "backends/jet/blank_database.h"
 #include "backends/jet/jet_engine.h"
+#include "backends/jet/schema/blank_database.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "backends/jet/blank_database.h"
 #include "backends/jet/jet_engine.h"
+#include "backends/jet/schema/blank_database.h"
 
 #include <unistd.h>
 

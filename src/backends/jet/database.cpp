@@ -1,6 +1,6 @@
 #include "backends/jet/database.h"
 
-#include "backends/jet/catalog.h"
+#include "backends/jet/schema/catalog.h"
 #include "runtime/text.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "backends/jet/page_file.h"
-#include "backends/jet/table_definition.h"
-#include "backends/jet/usage_maps.h"
+#include "backends/jet/pages/page_file.h"
+#include "backends/jet/pages/usage_maps.h"
+#include "backends/jet/table/table_definition.h"
 
 #include <optional>
 #include <string>

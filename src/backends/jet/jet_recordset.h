@@ -1,7 +1,7 @@
 #pragma once
 
 #include "backends/jet/database.h"
-#include "backends/jet/table_appender.h"
+#include "backends/jet/table/table_appender.h"
 #include "platform/trace_database.h"
 
 #include <memory>

@@ -1,6 +1,6 @@
 // Makes a blank database of a schema: jet_make_template SCHEMA DATABASE.
 
-#include "backends/jet/blank_database.h"
+#include "backends/jet/schema/blank_database.h"
 #include "runtime/run_time_error.h"
 
 #include <cstdio>

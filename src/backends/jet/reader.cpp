@@ -1,7 +1,7 @@
 #include "backends/jet/reader.h"
 
-#include "backends/jet/catalog.h"
-#include "backends/jet/text_value.h"
+#include "backends/jet/schema/catalog.h"
+#include "backends/jet/table/text_value.h"
 #include "runtime/text.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "backends/jet/row_view.h"
-#include "backends/jet/table_definition.h"
+#include "backends/jet/table/row_view.h"
+#include "backends/jet/table/table_definition.h"
 
 #include <cstdint>
 #include <string>

@@ -1,6 +1,6 @@
 #include "backends/jet/scratch_database.h"
 
-#include "backends/jet/file_pages.h"
+#include "backends/jet/pages/file_pages.h"
 #include "support/places.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "backends/jet/blank_database.h"
 #include "backends/jet/jet_engine.h"
 #include "backends/jet/reader.h"
+#include "backends/jet/schema/blank_database.h"
 
 #include <cstdint>
 #include <filesystem>

@@ -1,0 +1,60 @@
+#include "backends/jet/pages/file_pages.h"
+
+#include "backends/jet/errors.h"
+#include "backends/jet/pages/database_file.h"
+#include "system/file_bytes.h"
+#include "system/file_facts.h"
+
+#include <algorithm>
+
+namespace jet {
+
+FilePages::FilePages(const std::string& path) : file_(openDatabaseFile(path, forReading))
+{
+    const auto size = static_cast<std::uint64_t>(factsOf(file_).size);
+    if (size > std::uint64_t{formatFilePages} * pageSize)
+        raiseUnknownFormat("a size of " + std::to_string(size));
+    count_ = static_cast<std::uint32_t>(size / pageSize);
+}
+
+const char* FilePages::look(std::uint32_t page) const
+{
+    const std::uint32_t number = page / pagesPerBlock;
+    Block& block = places_[number] != 0 ? blocks_[places_[number] - 1u] : blockFor(number);
+    block.used = ++looks_;
+    return block.bytes.get() + std::size_t{page % pagesPerBlock} * pageSize;
+}
+
+const char* FilePages::lookAgain(std::uint32_t page) const
+{
+    const std::uint32_t number = page / pagesPerBlock;
+    if (places_[number] != 0) read(blocks_[places_[number] - 1u]);
+    return look(page);
+}
+
+/// The block in the place of the one that was not looked at for the longest time.
+FilePages::Block& FilePages::blockFor(std::uint32_t number) const
+{
+    Block& block =
+        *std::min_element(blocks_.begin(), blocks_.end(), [](const Block& one, const Block& other) {
+            return one.used < other.used;
+        });
+    if (block.used != 0) places_[block.number] = 0;
+    block.used = 0;
+    block.number = number;
+    read(block);
+    places_[number] = static_cast<std::uint8_t>(&block - blocks_.data() + 1);
+    return block;
+}
+
+void FilePages::read(Block& block) const
+{
+    constexpr std::size_t size = pagesPerBlock * pageSize;
+    if (!block.bytes) block.bytes = std::make_unique<char[]>(size);
+    const std::uint32_t first = block.number * pagesPerBlock;
+    const std::size_t wanted = std::min<std::size_t>(pagesPerBlock, count_ - first) * pageSize;
+    if (readAt(file_, block.bytes.get(), wanted, std::uint64_t{first} * pageSize) < wanted)
+        raiseUnknownFormat("the file was cut while it was read");
+}
+
+} // namespace jet

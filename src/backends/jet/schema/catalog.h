@@ -1,0 +1,15 @@
+#pragma once
+
+#include "backends/jet/table/table_definition.h"
+
+#include <vector>
+
+namespace jet {
+
+/// Raises 3343 unless the first page is that of a Jet 4 file that is not encrypted.
+void checkHeader(const Pages& pages);
+
+/// The tables that people made, in the catalog's order, with their properties. Raises 3343.
+std::vector<TableDefinition> readCatalog(const Pages& pages);
+
+} // namespace jet
