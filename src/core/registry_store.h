@@ -14,6 +14,12 @@ constexpr const char* baseKey = "Software\\Kelma Systems\\Kelma Orvan";
 constexpr const char* toolKey = "Software\\Kelma Systems\\Kelma Orvan\\OrvanDiagnostics";
 constexpr const char* logManagerKey = "Software\\Kelma Systems\\Kelma Orvan\\RoLogMgr";
 
+/// The log manager's folder of logs. Below the other key stands one for each process that logs,
+/// whose value names the log that it writes now.
+constexpr const char* logFolderValue = "Output Path";
+constexpr const char* logProcessesKey = "Software\\Kelma Systems\\Kelma Orvan\\RoLogMgr\\Process";
+constexpr const char* currentLogValue = "CurrentLogFile";
+
 /// A registry value as routines pass it: nothing, a text, bytes or a 32-bit number.
 using RegistryData =
     std::variant<std::monostate, std::string, std::vector<std::uint8_t>, std::int32_t>;

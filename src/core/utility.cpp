@@ -8,15 +8,10 @@
 #include "platform/event_reporter.h"
 #include "platform/host_module.h"
 #include "platform/processes.h"
+#include "platform/tool_events.h"
 #include "runtime/numbers.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
-
-namespace {
-
-constexpr const char* eventSource = "OrvanDiagnosticTool_MC";
-
-} // namespace
 
 std::string selectDirectory(ToolContext& tool)
 {
@@ -106,7 +101,8 @@ bool waitForProcess(ToolContext& tool, std::int32_t processId, std::int32_t mill
 void reportServerEvent(ToolContext& tool, int type, std::int32_t eventId,
                        const std::vector<std::string>& inserts)
 {
-    tool.platform.eventReporter.report(eventSource, tool.g_eventLogHandle, type, eventId, inserts);
+    tool.platform.eventReporter.report(toolEvents::source, tool.g_eventLogHandle, type, eventId,
+                                       inserts);
 }
 
 std::string moduleVersionText(const HostModule& module)

@@ -2,6 +2,7 @@
 
 #include "core/error_trap.h"
 #include "core/registry_store.h"
+#include "logreader/log_file_names.h"
 #include "platform/file_system.h"
 #include "runtime/text.h"
 
@@ -15,7 +16,7 @@ constexpr const char* defaultLogs = "orvan_RoCsMgr, event_Application, event_Sys
 StringArray mdlLogs::getAllLogsForProcess(ToolContext& tool, const std::string& process)
 {
     ErrorTrap step{tool, "mdlLogs", "getAllLogsForProcess"};
-    const std::string pattern = tool.g_strLogFolder + "\\diag_" + process + "_*.txt";
+    const std::string pattern = tool.g_strLogFolder + "\\" + logFileNames::logsOfProcess(process);
     std::vector<std::string> names;
     StringArray logs;
 

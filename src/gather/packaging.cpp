@@ -7,21 +7,25 @@
 #include "platform/file_system.h"
 #include "platform/host_module.h"
 #include "platform/processes.h"
+#include "platform/tool_files.h"
 #include "server/workstation_info.h"
 #include "text/code_page.h"
 
 namespace {
 
-constexpr const char* templateName = "\\blankWPNDB.mdb";
-constexpr const char* directiveName = "\\ZMK.DDF";
-constexpr const char* cabinetMaker = "\\cabmaker";
+constexpr const char* cabinetMakerCommand = "cabmaker"; ///< as it is called
 constexpr std::int32_t endlessly = -1;
+
+std::string inFolder(const std::string& folder, const char* name)
+{
+    return folder + "\\" + name;
+}
 
 /// The name of a result made now.
 std::string resultName(ToolContext& tool, const std::string& ending)
 {
-    return workstationInfo(tool).ComputerName() + "_WPN_" + fileStamp(tool.platform.clock.now()) +
-           ending;
+    return workstationInfo(tool).ComputerName() + toolFiles::resultMark +
+           fileStamp(tool.platform.clock.now()) + ending;
 }
 
 /// Whether the single-byte encoding has every character of a text.
@@ -88,8 +92,8 @@ void writeDirectives(ToolContext& tool, ErrorTrap& step, const std::string& dest
 {
     std::string cabinet;
     Directives directives(tool, step, !fitsOneByte(destination + databasePath));
-    directives.create(destination + directiveName);
-    step([&] { cabinet = resultName(tool, ".cab"); });
+    directives.create(inFolder(destination, toolFiles::directiveFile));
+    step([&] { cabinet = resultName(tool, toolFiles::cabinetEnding); });
     directives.line(".Option EXPLICIT");
     directives.line(".Set CabinetNameTemplate=..\\" + cabinet);
     directives.line(".Set Cabinet=on");
@@ -105,14 +109,16 @@ void writeDirectives(ToolContext& tool, ErrorTrap& step, const std::string& dest
 void runCabinetMaker(ToolContext& tool, ErrorTrap& step, const std::string& destination)
 {
     FileSystem& files = tool.platform.files;
-    const std::string program = std::string(cabinetMaker) + ".exe";
     std::int32_t process = 0;
 
     step([&] { files.changeDrive(files.driveName(destination)); });
     step([&] { files.changeFolder(destination); });
-    step([&] { files.copyFile(tool.platform.module.folder() + program, destination + program); });
-    const std::string command =
-        quoted(destination + cabinetMaker) + " /f " + quoted(destination + directiveName);
+    step([&] {
+        files.copyFile(inFolder(tool.platform.module.folder(), toolFiles::cabinetMaker),
+                       inFolder(destination, toolFiles::cabinetMaker));
+    });
+    const std::string command = quoted(inFolder(destination, cabinetMakerCommand)) + " /f " +
+                                quoted(inFolder(destination, toolFiles::directiveFile));
     step.log("Command: " + command, logLevel::info);
     step([&] { process = tool.platform.processes.start(command, WindowStyle::hidden); });
     step([&] { waitForProcess(tool, process, endlessly); });
@@ -121,11 +127,11 @@ void runCabinetMaker(ToolContext& tool, ErrorTrap& step, const std::string& dest
 void cleanUp(ToolContext& tool, ErrorTrap& step, const std::string& destination)
 {
     FileSystem& files = tool.platform.files;
-    step([&] { files.deleteFile(destination + "\\setup.rpt"); });
-    step([&] { files.deleteFile(destination + "\\setup.inf"); });
-    step([&] { files.deleteFile(destination + directiveName); });
-    step([&] { files.removeFolder(destination + "\\disk1"); });
-    step([&] { files.deleteFile(destination + cabinetMaker + ".exe"); });
+    step([&] { files.deleteFile(inFolder(destination, toolFiles::setupReport)); });
+    step([&] { files.deleteFile(inFolder(destination, toolFiles::setupList)); });
+    step([&] { files.deleteFile(inFolder(destination, toolFiles::directiveFile)); });
+    step([&] { files.removeFolder(inFolder(destination, toolFiles::diskFolder)); });
+    step([&] { files.deleteFile(inFolder(destination, toolFiles::cabinetMaker)); });
 }
 
 } // namespace
@@ -136,8 +142,11 @@ std::string mdlLogs::createNewDB(ToolContext& tool, const std::string& destinati
     std::string path;
 
     step.enterProc();
-    step([&] { path = destination + "\\" + resultName(tool, ".mdb"); });
-    step([&] { tool.platform.files.copyFile(tool.platform.module.folder() + templateName, path); });
+    step([&] { path = destination + "\\" + resultName(tool, toolFiles::databaseEnding); });
+    step([&] {
+        tool.platform.files.copyFile(
+            inFolder(tool.platform.module.folder(), toolFiles::blankDatabase), path);
+    });
     step([&] { tool.platform.files.clearAttributes(path); });
     step.exitProc();
     return path;

@@ -15,6 +15,16 @@ std::string fileNameOf(const std::string& path)
 
 } // namespace
 
+std::string logFileNames::logsOfProcess(const std::string& process)
+{
+    return std::string(diagnosticPrefix) + process + "_*" + std::string(ending);
+}
+
+bool logFileNames::isFormattedCopy(std::string_view name)
+{
+    return lowerCase(name).find(formattedTag.substr(1)) != std::string::npos;
+}
+
 std::string mdlDiagnostics::getCurrentDiagnosticFile(ToolContext& tool, const std::string& process)
 {
     ErrorTrap step{tool, "mdlDiagnostics", "getCurrentDiagnosticFile"};
@@ -24,8 +34,8 @@ std::string mdlDiagnostics::getCurrentDiagnosticFile(ToolContext& tool, const st
 
     step.enterProc();
     step([&] {
-        path = getRegistryText(tool, std::string(logManagerKey) + "\\Process\\" + process,
-                               "CurrentLogFile");
+        path =
+            getRegistryText(tool, std::string(logProcessesKey) + "\\" + process, currentLogValue);
     });
     step([&] { exists = tool.platform.files.fileExists(path); });
     if (exists) name = fileNameOf(path);
@@ -64,7 +74,9 @@ std::string mdlDiagnostics::appendFormattedTagToFile(ToolContext& tool, const st
     step.enterProc();
     dot = static_cast<int>(positionOf(fileName, "."));
     step([&] {
-        tagged.append(mid(fileName, 1, dot - 1)).append("_fmtd").append(mid(fileName, dot));
+        tagged.append(mid(fileName, 1, dot - 1))
+            .append(logFileNames::formattedTag)
+            .append(mid(fileName, dot));
     });
     step.exitProc();
     return tagged;

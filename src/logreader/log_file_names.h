@@ -3,10 +3,32 @@
 #include "runtime/dates.h"
 
 #include <string>
+#include <string_view>
 
 struct ToolContext;
 
-/// The names of the server's log files: `diag_PROCESS_20051008_152307.txt`.
+/// What the names of log files are made of: `diag_PROCESS_20051008_152307.txt` for a log of a
+/// process, `data_...` for a data file, `..._fmtd.txt` for a formatted copy.
+namespace logFileNames {
+
+constexpr std::string_view diagnosticPrefix = "diag_";
+constexpr std::string_view dataPrefix = "data_";
+constexpr std::string_view ending = ".txt";
+constexpr std::string_view formattedTag = "_fmtd";
+
+/// Patterns for `FileSystem::matching`, without a folder: all logs, all data files, and the logs of
+/// one process; formatted copies match too.
+constexpr const char* diagnosticLogs = "diag_*.txt";
+constexpr const char* dataFiles = "data_*.txt";
+std::string logsOfProcess(const std::string& process);
+
+/// Whether a name is taken for that of a formatted copy: whether it has "fmtd" in it, in whatever
+/// letters and wherever.
+bool isFormattedCopy(std::string_view name);
+
+} // namespace logFileNames
+
+/// What the names of log files tell.
 ///
 /// Nothing here raises: what fails is logged in the tool's own log and gives what each routine
 /// gives for a name that does not fit.

@@ -1,5 +1,6 @@
 #include "sample/server_files.h"
 
+#include "platform/tool_files.h"
 #include "runtime/run_time_error.h"
 #include "sample/output_file.h"
 
@@ -89,8 +90,9 @@ void writeServerFiles(const fs::path& site, const fs::path& data, const ServerId
     }
     for (const auto& messages : filesIn(templates / "messages"))
         copyTo(install / "Localize" / "Messaging" / messages.stem() / "KoMessages.dll", messages);
-    for (const auto& definitions : filesIn(data / "ZMKXML"))
-        copyTo(site / "drive_c" / "OrvanDiagnostics" / "ZMKXML" / definitions.filename(),
+    for (const auto& definitions : filesIn(data / toolFiles::definitionsFolder))
+        copyTo(site / "drive_c" / "OrvanDiagnostics" / toolFiles::definitionsFolder /
+                   definitions.filename(),
                definitions);
     for (const char* folder : {"Temp", "Windows"})
         fs::create_directories(site / "drive_c" / folder);

@@ -86,7 +86,7 @@ void ppgConfLogSettings::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet&)
     fillMaxSpace(current);
     step([&] { enabled = equalsTrue(GetConfigurationSetting(tool_, writingEnabled)); });
     chkDiagnosticOutput.setChecked(enabled);
-    step([&] { path = getRegistryText(tool_, logManagerKey, "Output Path"); });
+    step([&] { path = getRegistryText(tool_, logManagerKey, logFolderValue); });
     txtLocationOfLogFiles.setText(path);
     m_bPathChanged = false;
     step.exitProc();
@@ -155,7 +155,7 @@ void ppgConfLogSettings::PropertyPage_ApplyChanges()
     });
     if (m_bPathChanged) {
         step([&] {
-            setRegistryValue(tool_, registryRoot::localMachine, logManagerKey, "Output Path",
+            setRegistryValue(tool_, registryRoot::localMachine, logManagerKey, logFolderValue,
                              registryType::text, txtLocationOfLogFiles.text());
         });
         m_bPathChanged = false;

@@ -6,9 +6,10 @@
 #include "core/utility.h"
 #include "platform/event_reporter.h"
 #include "platform/host_module.h"
+#include "platform/tool_events.h"
+#include "platform/tool_files.h"
 #include "server/configuration_database.h"
 #include "server/diagnostic_grid_catalogue.h"
-#include "shell/server_events.h"
 #include "traces/macro_trace_catalogue.h"
 
 void mdlInitialize::initGlobalVariables(ToolContext& tool)
@@ -20,16 +21,18 @@ void mdlInitialize::initGlobalVariables(ToolContext& tool)
     step.body([&] {
         step.enterProc();
         step([&] { tool.g_strInstalledFolder = getInstalledFolderPath(tool); });
-        step([&] { tool.g_strLogFolder = getRegistryText(tool, logManagerKey, "Output Path"); });
-        step([&] { tool.g_strMacroTraceFolder = module.folder() + "\\ZMKXML"; });
+        step([&] { tool.g_strLogFolder = getRegistryText(tool, logManagerKey, logFolderValue); });
+        step([&] {
+            tool.g_strMacroTraceFolder = module.folder() + "\\" + toolFiles::definitionsFolder;
+        });
         step([&] { initBitMasks(tool); });
         mdlTraces::initMacroTraces(tool);
         step([&] { eventLog.startUp(); });
         step([&] { eventLog.completeStartUp(); });
         step([&] { tool.g_eventLogHandle = eventLog.registerTool(module.name()); });
         step([&] {
-            eventLog.report(serverEvents::source, tool.g_eventLogHandle, serverEvents::success,
-                            serverEvents::reporterReady, {});
+            eventLog.report(toolEvents::source, tool.g_eventLogHandle, toolEvents::success,
+                            toolEvents::reporterReady, {});
         });
         step([&] { tool.g_bDebugMode = tool.g_log->DebugMode(); });
         step([&] { getTZBias(tool); });

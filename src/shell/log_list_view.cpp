@@ -71,10 +71,11 @@ void mdlSnapIn::populateListViewAllLogs(ToolContext& tool, ResultView& resultVie
     nameLogFileColumns(tool, resultView);
     step([&] { process = resultView.scopePaneItem().name(); });
     step([&] {
-        names = tool.platform.files.matching(tool.g_strLogFolder + "\\diag_" + process + "_*.txt");
+        names = tool.platform.files.matching(tool.g_strLogFolder + "\\" +
+                                             logFileNames::logsOfProcess(process));
     });
     for (const auto& name : names) {
-        if (lowerCase(name).find("fmtd") != std::string::npos) continue;
+        if (logFileNames::isFormattedCopy(name)) continue;
         addLogRow(step, tool, resultView, process, name, rowIndex);
     }
     step.exitProc();

@@ -9,6 +9,7 @@
 #include "runtime/integer16.h"
 #include "runtime/text.h"
 #include "shell/required_object.h"
+#include "shell/snapin_names.h"
 
 #include <cstddef>
 #include <string>
@@ -23,7 +24,8 @@ constexpr std::size_t furtherRoom = 25;
 /// Takes out the nodes whose key begins with the process's log name, last node first.
 void removeLogNodes(ErrorTrap& step, ScopeTree& scopeItems, const std::string& process)
 {
-    for (const std::string& key : scopeItems.keysBeginningWith("diag_" + process))
+    for (const std::string& key :
+         scopeItems.keysBeginningWith(std::string(logFileNames::diagnosticPrefix) + process))
         if (scopeItems.find(key)) step([&] { scopeItems.remove(key); });
 }
 
@@ -31,7 +33,7 @@ void addLogNode(ErrorTrap& step, ToolContext& tool, ScopeTree& scopeItems, Scope
                 const std::string& fileName, const std::string& displayName)
 {
     ScopeItem* node = nullptr;
-    step([&] { node = &scopeItems.addChild("nodeLogs", fileName, processNode); });
+    step([&] { node = &scopeItems.addChild(snapinNode::log, fileName, processNode); });
     step([&] { required(node).name(fileName); });
     step([&] { required(node).displayName(displayName); });
     step([&] { required(node).kind(mdlSnapIn::kindLogFile); });
@@ -56,7 +58,7 @@ void collectOtherLogs(ErrorTrap& step, ToolContext& tool, const std::string& pro
     for (const auto& name : found) {
         bool current = false;
         step([&] { current = name == mdlDiagnostics::getCurrentDiagnosticFile(tool, process); });
-        if (current || lowerCase(name).find("fmtd") != std::string::npos) continue;
+        if (current || logFileNames::isFormattedCopy(name)) continue;
         step([&] { logs.names.at(static_cast<std::size_t>(logs.position.value())) = name; });
         step([&] { ++logs.position; });
         if (static_cast<std::size_t>(logs.position.value()) + 1 == logs.names.size()) {
@@ -77,16 +79,14 @@ void mdlSnapIn::populateScopeProcesses(ToolContext& tool, ScopeTree& scopeItems,
     ScopeItem* node = nullptr;
 
     step.enterProc();
-    step([&] {
-        names = enumRegistryKeys(tool, registryRoot::localMachine,
-                                 std::string(logManagerKey) + "\\Process");
-    });
+    step([&] { names = enumRegistryKeys(tool, registryRoot::localMachine, logProcessesKey); });
     step([&] {
         first = names.lowerBound();
         last = names.upperBound();
     });
     for (int index = first; index <= last; ++index) {
-        step([&] { node = &scopeItems.addChild("nodeProcesses", names.at(index), parentNode); });
+        step(
+            [&] { node = &scopeItems.addChild(snapinNode::process, names.at(index), parentNode); });
         step([&] { required(node).name(names.at(index)); });
         step([&] { required(node).displayName(names.at(index)); });
         step([&] { required(node).kind(kindLogProcess); });
@@ -103,7 +103,7 @@ void mdlSnapIn::populateScopeAllLogs(ToolContext& tool, ScopeTree& scopeItems,
 
     step.enterProc();
     const std::string process = processNode.displayName();
-    const std::string pattern = tool.g_strLogFolder + "\\diag_" + process + "_*.txt";
+    const std::string pattern = tool.g_strLogFolder + "\\" + logFileNames::logsOfProcess(process);
     removeLogNodes(step, scopeItems, process);
     step([&] { tool.platform.clock.sleep(logManagerDelay); });
     step([&] { current = mdlDiagnostics::getCurrentDiagnosticFile(tool, process); });

@@ -4,6 +4,7 @@
 #include "core/utility.h"
 #include "shell/required_object.h"
 #include "shell/scope_nodes.h"
+#include "shell/snapin_names.h"
 #include "shell/snapin_orvan_diagnostics.h"
 
 #include <string_view>
@@ -13,6 +14,9 @@ namespace {
 
 constexpr const char* moduleName = "snapinOrvanDiagnostics";
 
+/// Key and name of the node above the logs that are opened by hand.
+constexpr const char* savedLogsKey = "SavedLog";
+
 struct MenuItemTexts {
     const char* name;
     TextId caption;
@@ -20,12 +24,12 @@ struct MenuItemTexts {
 };
 
 constexpr MenuItemTexts taskMenuTexts[] = {
-    {"mnuConfigureMacroTrace", TextId::configureMacroTraces, TextId::macroTraceActionHelp},
-    {"mnuConfigureMicroTraces", TextId::configureMicroTraces, TextId::microTraceActionHelp},
-    {"mnuDisableAllTraces", TextId::resetToDefaultTraces, TextId::resetActionHelp},
-    {"mnuStartNewLogFiles", TextId::startNewLogFiles, TextId::startNewLogFilesActionHelp},
-    {"mnuGatherLogFiles", TextId::gatherLogFiles, TextId::gatherActionHelp},
-    {"mnuConfigureLogSettings", TextId::configureLogSettings, TextId::logSettingsActionHelp},
+    {snapinItem::configureMacroTrace, TextId::configureMacroTraces, TextId::macroTraceActionHelp},
+    {snapinItem::configureMicroTraces, TextId::configureMicroTraces, TextId::microTraceActionHelp},
+    {snapinItem::disableAllTraces, TextId::resetToDefaultTraces, TextId::resetActionHelp},
+    {snapinItem::startNewLogFiles, TextId::startNewLogFiles, TextId::startNewLogFilesActionHelp},
+    {snapinItem::gatherLogFiles, TextId::gatherLogFiles, TextId::gatherActionHelp},
+    {snapinItem::configureLogSettings, TextId::configureLogSettings, TextId::logSettingsActionHelp},
 };
 
 struct TaskRoutine {
@@ -34,11 +38,11 @@ struct TaskRoutine {
 };
 
 constexpr TaskRoutine openingTasks[] = {
-    {"1", &snapinOrvanDiagnostics::startConfigureMacroTraceWizard},
-    {"2", &snapinOrvanDiagnostics::startConfigureMicroTracesWizard},
-    {"3", &snapinOrvanDiagnostics::startDisableAllTracesWizard},
-    {"5", &snapinOrvanDiagnostics::startGatherLogFilesWizard},
-    {"6", &snapinOrvanDiagnostics::displayConfigureLogSettingsPSheet},
+    {snapinTask::configureMacroTrace, &snapinOrvanDiagnostics::startConfigureMacroTraceWizard},
+    {snapinTask::configureMicroTraces, &snapinOrvanDiagnostics::startConfigureMicroTracesWizard},
+    {snapinTask::disableAllTraces, &snapinOrvanDiagnostics::startDisableAllTracesWizard},
+    {snapinTask::gatherLogFiles, &snapinOrvanDiagnostics::startGatherLogFilesWizard},
+    {snapinTask::configureLogSettings, &snapinOrvanDiagnostics::displayConfigureLogSettingsPSheet},
 };
 
 } // namespace
@@ -50,15 +54,15 @@ void snapinOrvanDiagnostics::Views_AddTaskMenuItems(View&, ScopeItem&, ContextMe
     step.enterProc();
     for (const MenuItemTexts& texts : taskMenuTexts) {
         step([&] {
-            console_.menu("mnuTask").item(texts.name).caption =
+            console_.menu(snapinMenu::task).item(texts.name).caption =
                 myLoadResString(tool_, texts.caption);
         });
         step([&] {
-            console_.menu("mnuTask").item(texts.name).statusBarText =
+            console_.menu(snapinMenu::task).item(texts.name).statusBarText =
                 myLoadResString(tool_, texts.statusBarText);
         });
     }
-    step([&] { menu.add(console_.menu("mnuTask")); });
+    step([&] { menu.add(console_.menu(snapinMenu::task)); });
     step.exitProc();
 }
 
@@ -67,7 +71,7 @@ void snapinOrvanDiagnostics::Views_AddTopMenuItems(View&, ScopeItem&, ContextMen
     ErrorTrap step{tool_, moduleName, "Views_AddTopMenuItems"};
 
     step.enterProc();
-    step([&] { menu.add(console_.menu("mnuMain")); });
+    step([&] { menu.add(console_.menu(snapinMenu::main)); });
     step.exitProc();
 }
 
@@ -82,14 +86,14 @@ void snapinOrvanDiagnostics::Views_AddViewMenuItems(View&, ScopeItem&, ContextMe
 void snapinOrvanDiagnostics::MenuItem_Click(const MenuItem& item)
 {
     static const std::pair<std::string_view, void (snapinOrvanDiagnostics::*)()> handlers[] = {
-        {"mnuConfigureMacroTrace", &snapinOrvanDiagnostics::mnuconfigureMacroTrace_Click},
-        {"mnuConfigureMicroTraces", &snapinOrvanDiagnostics::mnuConfigureMicroTraces_Click},
-        {"mnuDisableAllTraces", &snapinOrvanDiagnostics::mnuDisableAllTraces_Click},
-        {"mnuStartNewLogFiles", &snapinOrvanDiagnostics::mnuStartNewLogFiles_Click},
-        {"mnuGatherLogFiles", &snapinOrvanDiagnostics::mnuGatherLogFiles_Click},
-        {"mnuConfigureLogSettings", &snapinOrvanDiagnostics::mnuConfigureLogSettings_Click},
-        {"mnuChangeLanguage", &snapinOrvanDiagnostics::mnuChangeLanguage_Click},
-        {"mnuOpenLogFile", &snapinOrvanDiagnostics::mnuOpenLogFile_click},
+        {snapinItem::configureMacroTrace, &snapinOrvanDiagnostics::mnuconfigureMacroTrace_Click},
+        {snapinItem::configureMicroTraces, &snapinOrvanDiagnostics::mnuConfigureMicroTraces_Click},
+        {snapinItem::disableAllTraces, &snapinOrvanDiagnostics::mnuDisableAllTraces_Click},
+        {snapinItem::startNewLogFiles, &snapinOrvanDiagnostics::mnuStartNewLogFiles_Click},
+        {snapinItem::gatherLogFiles, &snapinOrvanDiagnostics::mnuGatherLogFiles_Click},
+        {snapinItem::configureLogSettings, &snapinOrvanDiagnostics::mnuConfigureLogSettings_Click},
+        {snapinItem::changeLanguage, &snapinOrvanDiagnostics::mnuChangeLanguage_Click},
+        {snapinItem::openLogFile, &snapinOrvanDiagnostics::mnuOpenLogFile_click},
     };
     for (const auto& [name, handler] : handlers)
         if (item.name == name) return (this->*handler)();
@@ -102,7 +106,7 @@ void snapinOrvanDiagnostics::ResultViews_TaskClick(ResultView&, Task& task)
     step.enterProc();
     for (const TaskRoutine& opening : openingTasks)
         if (task.key == opening.key) step([&] { (this->*opening.routine)(); });
-    if (task.key == "4") {
+    if (task.key == snapinTask::startNewLogFiles) {
         step([&] { signalCycleDiagFiles(tool_); });
         step([&] {
             console_.currentView().statusBarText(
@@ -140,12 +144,12 @@ void snapinOrvanDiagnostics::leaveShownLogs(ErrorTrap& step)
     };
 
     step(readShown);
-    if (shown == "listviewAllLogs") {
+    if (shown == snapinView::logFiles) {
         step([&] { view.select(view.selectedScopePaneItem().scopeItem()); });
         step(renewSelected);
     }
     step(readShown);
-    if (shown == "listviewDiagLog") {
+    if (shown == snapinView::logLines) {
         step([&] { view.select(view.scopePaneItem(2).scopeItem()); });
         step(renewSelected);
     }
@@ -171,15 +175,17 @@ void snapinOrvanDiagnostics::mnuOpenLogFile_click()
     m_strSavedLogFile = path;
     if (m_SavedLogsItem.expired()) {
         step([&] {
-            m_SavedLogsItem = scopeItems.addChild("nodeProcesses", "SavedLog", scopeItems.item(1))
-                                  .weak_from_this();
+            m_SavedLogsItem =
+                scopeItems.addChild(snapinNode::process, savedLogsKey, scopeItems.item(1))
+                    .weak_from_this();
         });
-        step([&] { savedLogs().name("SavedLog"); });
+        step([&] { savedLogs().name(savedLogsKey); });
         step([&] { savedLogs().displayName(myLoadResString(tool_, TextId::savedLogs)); });
         step([&] { savedLogs().kind(mdlSnapIn::kindLogProcess); });
     }
     step([&] { view.select(savedLogs()); });
-    step([&] { opened = &scopeItems.addChild("nodeLogs", path, console_.currentScopeItem()); });
+    step(
+        [&] { opened = &scopeItems.addChild(snapinNode::log, path, console_.currentScopeItem()); });
     step([&] { required(opened).name(path); });
     step([&] { required(opened).displayName(path); });
     step([&] { required(opened).kind(mdlSnapIn::kindLogFile); });

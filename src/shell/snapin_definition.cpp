@@ -1,11 +1,14 @@
 #include "shell/snapin_definition.h"
 
+#include "shell/scope_nodes.h"
+#include "shell/snapin_names.h"
+
 namespace {
 
 ListViewDefinition diagLogView()
 {
     ListViewDefinition view;
-    view.name = "listviewDiagLog";
+    view.name = snapinView::logLines;
     view.display = ListDisplay::report;
     view.sort = {true, 1, true};
     view.text = ListText::serverCodePage;
@@ -22,7 +25,7 @@ ListViewDefinition diagLogView()
 ListViewDefinition allLogsView()
 {
     ListViewDefinition view;
-    view.name = "listviewAllLogs";
+    view.name = snapinView::logFiles;
     view.display = ListDisplay::report;
     view.sort = {true, 3, false};
     view.columns = {{"", " ", 25},
@@ -36,7 +39,7 @@ ListViewDefinition allLogsView()
 ListViewDefinition allProcessesView()
 {
     ListViewDefinition view;
-    view.name = "listviewAllProcesses";
+    view.name = snapinView::processes;
     view.columns = {{"keyProcess", "Process*", automaticWidth}};
     return view;
 }
@@ -44,55 +47,56 @@ ListViewDefinition allProcessesView()
 TaskPadDefinition defaultTaskPad()
 {
     TaskPadDefinition pad;
-    pad.name = "taskpadDefault";
+    pad.name = snapinView::taskPad;
     pad.title = "Kelma Orvan Diagnostic Tasks*";
     pad.description = "Common diagnostics tasks for Kelma Orvan*";
     pad.background = "#2/bitmapRestart";
     pad.symbolFontFile = "res://mmc.exe/glyph100.eot";
     pad.tasks = {
-        {"1", "Configure Macro Traces*", "GLYPH 100", 'M',
+        {snapinTask::configureMacroTrace, "Configure Macro Traces*", "GLYPH 100", 'M',
          "Use this task to configure the macro traces*"},
-        {"2", "Configure Micro Traces*", "GLYPH 100", 'M',
+        {snapinTask::configureMicroTraces, "Configure Micro Traces*", "GLYPH 100", 'M',
          "Use this task to configure individual component traces and levels.*"},
-        {"3", "Disable All Traces*", "glyph 100", '$',
+        {snapinTask::disableAllTraces, "Disable All Traces*", "glyph 100", '$',
          "Use this task to have Orvan disable all traces that are not normally enabled.*"},
-        {"4", "Start New Log Files*", "GLYPH 100", '1',
+        {snapinTask::startNewLogFiles, "Start New Log Files*", "GLYPH 100", '1',
          "Use this task to have Orvan close the current log files and start new ones.*"},
-        {"5", "Gather Log Files*", "glyph 100", '2',
+        {snapinTask::gatherLogFiles, "Gather Log Files*", "glyph 100", '2',
          "Use this task to easily gather all necessary log files for diagnosing problems.*"},
-        {"6", "Configure Log Settings*", "glyph 100", '4', "Use this to Configure Log Settings"},
+        {snapinTask::configureLogSettings, "Configure Log Settings*", "glyph 100", '4',
+         "Use this to Configure Log Settings"},
     };
     return pad;
 }
 
 MenuDefinition taskMenu()
 {
-    return {"mnuTask",
+    return {snapinMenu::task,
             "Orvan Diag Tasks",
             {
-                {"mnuConfigureMacroTrace", "Enable Macro Trace*",
+                {snapinItem::configureMacroTrace, "Enable Macro Trace*",
                  "Allows one to enable a macro trace to help diagnose Orvan problems*"},
-                {"mnuConfigureMicroTraces", "Configure Micro Traces*",
+                {snapinItem::configureMicroTraces, "Configure Micro Traces*",
                  "Use this action to configure individual component traces and levels.*"},
-                {"mnuDisableAllTraces", "Disable All Traces*",
+                {snapinItem::disableAllTraces, "Disable All Traces*",
                  "Use this action to have Orvan disable all traces that are not normally "
                  "enabled.*"},
-                {"mnuStartNewLogFiles", "Start New Log Files*",
+                {snapinItem::startNewLogFiles, "Start New Log Files*",
                  "Causes Orvan to close current log files and start new ones.*"},
-                {"mnuGatherLogFiles", "Gather Log Files*",
+                {snapinItem::gatherLogFiles, "Gather Log Files*",
                  "Use this action to easily gather all necessary log files for diagnosing "
                  "problems.*"},
-                {"mnuConfigureLogSettings", "Configure Log Settings*",
+                {snapinItem::configureLogSettings, "Configure Log Settings*",
                  "Use this action to configure various log settings*"},
             }};
 }
 
 MenuDefinition mainMenu()
 {
-    return {"mnuMain",
+    return {snapinMenu::main,
             "",
-            {{"mnuOpenLogFile", "Open Log File", ""},
-             {"mnuChangeLanguage", "Change Orvan Event Log Language", ""}}};
+            {{snapinItem::openLogFile, "Open Log File", ""},
+             {snapinItem::changeLanguage, "Change Orvan Event Log Language", ""}}};
 }
 
 } // namespace
@@ -105,12 +109,12 @@ SnapInDefinition snapinDefinition()
     definition.provider = "Kelma Systems, Inc.";
     definition.version = "1.0";
     definition.nodeTypes = {
-        {"snapinOrvanDiagnostics", "Kelma Orvan Diagnostic Tool", "taskpadDefault"},
-        {"Processes", "Processes*", "listviewAllProcesses"},
-        {"nodeProcesses", "nodeProcesses", "listviewAllLogs"},
-        {"nodeLogs", "nodeLogs", "listviewDiagLog"},
+        {snapinNode::root, "Kelma Orvan Diagnostic Tool", snapinView::taskPad},
+        {snapinNode::processes, processesPlaceholder, snapinView::processes},
+        {snapinNode::process, "nodeProcesses", snapinView::logFiles},
+        {snapinNode::log, "nodeLogs", snapinView::logLines},
     };
-    definition.automaticNodes = {{"Processes", "Processes"}};
+    definition.automaticNodes = {{snapinNode::processes, mdlSnapIn::kindProcesses}};
     definition.listViews = {diagLogView(), allLogsView(), allProcessesView()};
     definition.taskPads = {defaultTaskPad()};
     definition.menus = {taskMenu(), mainMenu()};

@@ -6,3 +6,6 @@
 ///
 /// A text that ends in "*" is a placeholder until the code replaces it.
 SnapInDefinition snapinDefinition();
+
+/// What the node of the processes shows until it is opened.
+constexpr const char* processesPlaceholder = "Processes*";

@@ -2,13 +2,13 @@
 #include "core/localisation.h"
 #include "core/utility.h"
 #include "platform/host_module.h"
+#include "platform/tool_events.h"
 #include "runtime/text.h"
 #include "server/server_identity.h"
 #include "settings/about_box.h"
 #include "settings/event_log_language.h"
 #include "settings/help.h"
 #include "shell/initialize.h"
-#include "shell/server_events.h"
 #include "shell/snapin_orvan_diagnostics.h"
 
 namespace {
@@ -58,7 +58,7 @@ void snapinOrvanDiagnostics::SnapIn_Load()
 
     step.enterProc();
     step([&] { mdlInitialize::initGlobalVariables(tool_); });
-    step([&] { reportServerEvent(tool_, serverEvents::success, serverEvents::loaded, {}); });
+    step([&] { reportServerEvent(tool_, toolEvents::success, toolEvents::loaded, {}); });
     step.exitProc();
 }
 
@@ -68,5 +68,5 @@ void snapinOrvanDiagnostics::SnapIn_Unload()
     const std::string language = mdlLanguage::originalLanguage(tool_);
     if (!language.empty())
         mdlLanguage::changeEventLogLanguage(tool_, language, mdlLanguage::getEventLogKeys(tool_));
-    reportServerEvent(tool_, serverEvents::success, serverEvents::unloaded, {});
+    reportServerEvent(tool_, toolEvents::success, toolEvents::unloaded, {});
 }

@@ -4,6 +4,8 @@
 #include "shell/log_list_view.h"
 #include "shell/required_object.h"
 #include "shell/scope_nodes.h"
+#include "shell/snapin_definition.h"
+#include "shell/snapin_names.h"
 #include "shell/snapin_orvan_diagnostics.h"
 #include "shell/task_pad_view.h"
 
@@ -11,12 +13,6 @@
 
 namespace {
 constexpr const char* moduleName = "snapinOrvanDiagnostics";
-
-/// The views by their names in the definition.
-constexpr const char* taskPad = "taskpadDefault";
-constexpr const char* logFiles = "listviewAllLogs";
-constexpr const char* logLines = "listviewDiagLog";
-
 } // namespace
 
 void snapinOrvanDiagnostics::ScopeItems_Expand(ScopeItem& item)
@@ -28,7 +24,7 @@ void snapinOrvanDiagnostics::ScopeItems_Expand(ScopeItem& item)
     if (item.kind() == mdlSnapIn::kindProcesses) {
         bool placeholder = false;
         step([&] { mdlSnapIn::populateScopeProcesses(tool_, scopeItems, item); });
-        step([&] { placeholder = scopeItems.item(2).displayName() == "Processes*"; });
+        step([&] { placeholder = scopeItems.item(2).displayName() == processesPlaceholder; });
         if (placeholder) step([&] { scopeItems.item(2).displayName("Processes"); });
     } else if (item.kind() == mdlSnapIn::kindLogProcess) {
         step([&] { mdlSnapIn::populateScopeAllLogs(tool_, scopeItems, item); });
@@ -59,11 +55,11 @@ void snapinOrvanDiagnostics::ResultViews_Initialize(ResultView& resultView)
     const std::string& shown = resultView.displayString();
 
     step.enterProc();
-    if (shown == taskPad) {
+    if (shown == snapinView::taskPad) {
         step([&] { mdlSnapIn::populateTaskPadDefault(tool_, resultView); });
-    } else if (shown == logFiles) {
+    } else if (shown == snapinView::logFiles) {
         step([&] { mdlSnapIn::populateListViewAllLogs(tool_, resultView); });
-    } else if (shown == logLines) {
+    } else if (shown == snapinView::logLines) {
         step(
             [&] { mdlSnapIn::populateListViewDiagLog(tool_, resultView, console_.currentView()); });
     }
@@ -76,7 +72,7 @@ void snapinOrvanDiagnostics::ResultViews_ListItemDblClick(ResultView& resultView
     ErrorTrap step{tool_, moduleName, "ResultViews_ListItemDblClick"};
 
     step.enterProc();
-    if (resultView.displayString() == logFiles) {
+    if (resultView.displayString() == snapinView::logFiles) {
         step([&] {
             const auto log = tool_.g_dictLogItems.item(item.text()).lock();
             console_.currentView().select(required(log.get()));
@@ -122,8 +118,8 @@ void snapinOrvanDiagnostics::showLanguage()
     step([&] {
         ResultView& shown = console_.currentView().selectedScopePaneItem().resultView();
         const std::string& name = shown.displayString();
-        if (name == taskPad) mdlSnapIn::populateTaskPadDefault(tool_, shown);
-        if (name == logFiles) mdlSnapIn::nameLogFileColumns(tool_, shown);
-        if (name == logLines) mdlSnapIn::nameLogLineColumns(tool_, shown);
+        if (name == snapinView::taskPad) mdlSnapIn::populateTaskPadDefault(tool_, shown);
+        if (name == snapinView::logFiles) mdlSnapIn::nameLogFileColumns(tool_, shown);
+        if (name == snapinView::logLines) mdlSnapIn::nameLogLineColumns(tool_, shown);
     });
 }

@@ -4,9 +4,9 @@
 #include "core/registry_store.h"
 #include "core/utility.h"
 #include "platform/clock.h"
+#include "platform/tool_events.h"
 #include "runtime/dates.h"
 #include "runtime/numbers.h"
-#include "traces/trace_events.h"
 
 namespace {
 
@@ -50,12 +50,12 @@ void mdlTraces::recordMacroTrace(ToolContext& tool, const std::string& groupName
     if (enabled) {
         step([&] { writeEnabled(tool, key, 1); });
         step([&] {
-            reportServerEvent(tool, traceEvents::type, traceEvents::macroTraceOn, inserts);
+            reportServerEvent(tool, toolEvents::traceChange, toolEvents::macroTraceOn, inserts);
         });
     } else {
         step([&] { writeEnabled(tool, key, 0); });
         step([&] {
-            reportServerEvent(tool, traceEvents::type, traceEvents::macroTraceOff, inserts);
+            reportServerEvent(tool, toolEvents::traceChange, toolEvents::macroTraceOff, inserts);
         });
     }
     step([&] {

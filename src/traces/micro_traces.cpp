@@ -4,13 +4,13 @@
 #include "core/error_trap.h"
 #include "core/signals.h"
 #include "core/utility.h"
+#include "platform/tool_events.h"
 #include "runtime/dictionary.h"
 #include "runtime/text.h"
 #include "server/diagnostic_grid.h"
 #include "traces/counted_walk.h"
 #include "traces/reset_traces.h"
 #include "traces/trace_bits.h"
-#include "traces/trace_events.h"
 
 namespace {
 
@@ -59,7 +59,7 @@ void mdlTraces::configureMicroTrace(ToolContext& tool, const TreeView& tree)
         step([&] { word = levelMask(tool, level) | word; });
         step([&] { words.item(component) = word; });
         step([&] {
-            reportServerEvent(tool, traceEvents::type, traceEvents::microTraceOn,
+            reportServerEvent(tool, toolEvents::traceChange, toolEvents::microTraceOn,
                               {" (" + node.text() + ")"});
         });
     });

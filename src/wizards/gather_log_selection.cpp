@@ -77,8 +77,7 @@ void ppgGatherLogs01Step::populateLogsToGather()
     ErrorTrap step{tool(), pageName, "populateLogsToGather"};
 
     TreeNode& orvanLogs = treeviewLogsToGather.add(std::string(mdlLogs::orvanLogsBranch));
-    for (const std::string& process :
-         keyNames(tool(), step, std::string(logManagerKey) + "\\Process"))
+    for (const std::string& process : keyNames(tool(), step, logProcessesKey))
         addProcess(step, orvanLogs, process);
 
     TreeNode& windowsLogs =

@@ -1,9 +1,9 @@
 #include "wizards/time_frame_choice.h"
 
 #include "core/error_trap.h"
+#include "logreader/log_file_names.h"
 #include "platform/file_system.h"
 #include "runtime/numbers.h"
-#include "runtime/text.h"
 #include "wizards/trace_object.h"
 
 #include <optional>
@@ -12,13 +12,13 @@ namespace {
 
 /// Adds the logs of a pattern that overlap a frame. `file` is the one looked at last: it stands for
 /// a file that is gone by now, which thus comes a second time if it overlaps.
-void addLogs(ToolContext& tool, ErrorTrap& step, const std::string& pattern, const TimeFrame& frame,
+void addLogs(ToolContext& tool, ErrorTrap& step, const char* pattern, const TimeFrame& frame,
              std::optional<FileInfo>& file, classTraceObject& job)
 {
     std::vector<std::string> names;
-    step([&] { names = tool.platform.files.matching(tool.g_strLogFolder + pattern); });
+    step([&] { names = tool.platform.files.matching(tool.g_strLogFolder + "\\" + pattern); });
     for (const std::string& name : names) {
-        if (lowerCase(name).find("fmtd") != std::string::npos) continue;
+        if (logFileNames::isFormattedCopy(name)) continue;
         bool overlaps = false;
         step([&] { file = tool.platform.files.file(tool.g_strLogFolder + "\\" + name); });
         step([&] {
@@ -62,8 +62,8 @@ void determineSelectedLogsFromTimeFrame(ToolContext& tool, const TimeFrameChoice
     step.log("Gathering logs with data between: " + dateText(frame.start) + " - " +
                  dateText(frame.end),
              logLevel::info);
-    addLogs(tool, step, "\\diag_*.txt", frame, file, job);
-    addLogs(tool, step, "\\data_*.txt", frame, file, job);
+    addLogs(tool, step, logFileNames::diagnosticLogs, frame, file, job);
+    addLogs(tool, step, logFileNames::dataFiles, frame, file, job);
     if (choice.applicationLog) step([&] { job.addWindowsLog("Application"); });
     if (choice.systemLog) step([&] { job.addWindowsLog("System"); });
     step.exitProc();

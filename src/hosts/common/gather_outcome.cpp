@@ -6,10 +6,12 @@
 #include "gather/pipeline.h"
 #include "hosts/common/cabinet_names.h"
 #include "hosts/common/gather_report.h"
+#include "logreader/log_file_names.h"
 #include "platform/file_system.h"
 #include "platform/host_module.h"
 #include "platform/processes.h"
 #include "platform/registry.h"
+#include "platform/tool_files.h"
 #include "platform/trace_database.h"
 #include "runtime/text.h"
 #include "wizards/gather_progress.h"
@@ -76,16 +78,16 @@ std::vector<std::string> namesIn(const StringArray& list)
 std::string formattedName(const std::string& log)
 {
     const std::size_t dot = std::min(log.find('.'), log.size());
-    return log.substr(0, dot) + "_fmtd" + log.substr(dot);
+    return log.substr(0, dot) + std::string(logFileNames::formattedTag) + log.substr(dot);
 }
 
 /// Whether a frame would look at a file of this name.
 bool mayBeOfAFrame(const std::string& name)
 {
-    constexpr std::string_view ending = ".txt";
+    using namespace logFileNames;
     const std::string folded = lowerCase(name);
-    const bool log = beginsWith(folded, "diag_") || beginsWith(folded, "data_");
-    return log && folded.find("fmtd") == std::string::npos && folded.size() > ending.size() &&
+    const bool log = beginsWith(folded, diagnosticPrefix) || beginsWith(folded, dataPrefix);
+    return log && !isFormattedCopy(name) && folded.size() > ending.size() &&
            folded.compare(folded.size() - ending.size(), ending.size(), ending) == 0;
 }
 
@@ -304,8 +306,8 @@ bool GatherWatch::isCapture(const std::string& name) const
 bool GatherWatch::mayBeOfThisRun(const std::string& name) const
 {
     const fs::path ending = fs::path(name).extension();
-    const bool named = ending == ".mdb" || ending == ".cab";
-    if (timeFrame_ && named && name.find("_WPN_") != std::string::npos) return true;
+    const bool named = ending == toolFiles::databaseEnding || ending == toolFiles::cabinetEnding;
+    if (timeFrame_ && named && name.find(toolFiles::resultMark) != std::string::npos) return true;
     return isCapture(name) || (!timeFrame_ && isOfThisRun(name));
 }
 
@@ -316,7 +318,8 @@ bool GatherWatch::isOfThisRun(const std::string& name) const
     if (isCapture(name)) return true;
     if (timeFrame_)
         return name == fs::path(machinePath_(tool_.g_strTraceDatabase)).filename() ||
-               (name.find("_WPN_") != std::string::npos && fs::path(name).extension() == ".cab");
+               (name.find(toolFiles::resultMark) != std::string::npos &&
+                fs::path(name).extension() == toolFiles::cabinetEnding);
     const auto isCopied = [&](const std::string& log) { return named(formattedName(log)); };
     return std::any_of(logs_.begin(), logs_.end(), isCopied);
 }
@@ -332,9 +335,9 @@ void GatherWatch::findFiles(GatherOutcome& outcome) const
         outcome.files.push_back(name);
         const fs::path path = fs::path(outcome.destination) / name;
         if (!timeFrame_) continue;
-        if (path.extension() == ".cab")
+        if (path.extension() == toolFiles::cabinetEnding)
             outcome.cabinet = outcome.cabinet.value_or(path.string());
-        else if (path.extension() == ".mdb")
+        else if (path.extension() == toolFiles::databaseEnding)
             outcome.database = path.string();
     }
 }
@@ -412,12 +415,12 @@ void GatherWatch::tellOfCabinetsContents(GatherOutcome& outcome) const
 {
     std::vector<std::string> packed;
     for (const std::string& name : outcome.files)
-        if (fs::path(name).extension() == ".cab")
+        if (fs::path(name).extension() == toolFiles::cabinetEnding)
             for (std::string& member : namesInCabinet(fs::path(outcome.destination) / name))
                 packed.push_back(std::move(member));
     for (const std::string& name : outcome.files) {
         const bool wanted = name == "Application.csv" || name == "System.csv" ||
-                            fs::path(name).extension() == ".mdb";
+                            fs::path(name).extension() == toolFiles::databaseEnding;
         if (wanted && !holds(packed, name))
             outcome.missing.push_back(
                 {gatherSentences::logUnseen, {name, "it is not in the cabinet"}});
@@ -426,9 +429,8 @@ void GatherWatch::tellOfCabinetsContents(GatherOutcome& outcome) const
 
 void GatherWatch::tellOfCurrentLog(GatherOutcome& outcome) const
 {
-    const std::string current =
-        getRegistryText(tool_, std::string(logManagerKey) + "\\Process\\" + standardGatherProcess,
-                        "CurrentLogFile");
+    const std::string current = getRegistryText(
+        tool_, std::string(logProcessesKey) + "\\" + standardGatherProcess, currentLogValue);
     if (current.empty())
         outcome.missing.push_back({gatherSentences::noCurrentLog, {standardGatherProcess}});
     else
@@ -442,11 +444,11 @@ void GatherWatch::tellOfCurrentLogs(GatherOutcome& outcome) const
 {
     const std::string& folder = tool_.g_strLogFolder;
     if (report_.listingFailure(folder) || !isFolder(tool_.platform.files, folder)) return;
-    const std::string processes = std::string(logManagerKey) + "\\Process";
+    const std::string processes = logProcessesKey;
     const auto names = tool_.platform.registry.subkeys(registryRoot::localMachine, processes);
     for (const std::string& process : names.value_or(std::vector<std::string>{})) {
         const std::string current =
-            getRegistryText(tool_, processes + "\\" + process, "CurrentLogFile");
+            getRegistryText(tool_, processes + "\\" + process, currentLogValue);
         if (current.empty()) continue;
         try {
             if (!tool_.platform.files.fileExists(current)) tool_.platform.files.file(current);

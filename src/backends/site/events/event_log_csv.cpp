@@ -1,5 +1,6 @@
 #include "backends/site/events/event_log_csv.h"
 
+#include "platform/tool_events.h"
 #include "runtime/spreadsheet_cell.h"
 #include "text/utf8.h"
 
@@ -14,8 +15,6 @@ using Json = nlohmann::json;
 
 /// Deeper nesting than any event has; the parser's own memory is what it guards.
 constexpr int deepestNesting = 64;
-
-constexpr std::string_view toolSource = "OrvanDiagnosticTool_MC";
 
 bool isBlank(std::string_view line)
 {
@@ -76,20 +75,21 @@ std::string joinedInserts(const Json& event)
 std::string_view sentenceOf(const Json& event)
 {
     const auto id = event.find("id");
-    if (member(event, "source") != toolSource || id == event.end() || !id->is_number_integer())
+    if (member(event, "source") != toolEvents::source || id == event.end() ||
+        !id->is_number_integer())
         return {};
     switch (id->get<std::int64_t>()) {
-    case 10001:
+    case toolEvents::reporterReady:
         return "The diagnostic tool has set up its event reporter.";
-    case 10002:
+    case toolEvents::loaded:
         return "The diagnostic tool was loaded.";
-    case 10003:
+    case toolEvents::unloaded:
         return "The diagnostic tool was unloaded.";
-    case 10004:
+    case toolEvents::macroTraceOn:
         return "The macro trace was turned on: ";
-    case 10005:
+    case toolEvents::macroTraceOff:
         return "The macro trace was turned off: ";
-    case 10006:
+    case toolEvents::microTraceOn:
         return "The micro trace was configured: ";
     default:
         return {};

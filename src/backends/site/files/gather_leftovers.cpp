@@ -1,5 +1,6 @@
 #include "backends/site/files/gather_leftovers.h"
 
+#include "platform/tool_files.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
 #include "system/whole_file.h"
@@ -11,12 +12,11 @@
 
 namespace {
 
-constexpr std::string_view directiveFile = "ZMK.DDF";
-constexpr std::string_view cabinetMakerCopy = "cabmaker.exe";
-constexpr std::string_view diskFolder = "disk1";
-constexpr std::string_view setupList = "setup.inf";
-constexpr std::string_view setupReport = "setup.rpt";
-constexpr const char* databaseTemplate = "blankWPNDB.mdb";
+constexpr std::string_view directiveFile = toolFiles::directiveFile;
+constexpr std::string_view cabinetMakerCopy = toolFiles::cabinetMaker;
+constexpr std::string_view diskFolder = toolFiles::diskFolder;
+constexpr std::string_view setupList = toolFiles::setupList;
+constexpr std::string_view setupReport = toolFiles::setupReport;
 
 constexpr std::string_view lineEnd = "\r\n";
 constexpr std::size_t longestText = 1U << 20;
@@ -40,7 +40,7 @@ bool isNumber(std::string_view text)
 /// Whether a name is NAME_WPN_YYYYMMDD_HHMMSS, with what stands before `ending`, and that ending.
 bool isResult(std::string_view name, std::string_view ending)
 {
-    constexpr std::string_view mark = "_WPN_";
+    constexpr std::string_view mark = toolFiles::resultMark;
     constexpr std::size_t dateSize = 8;
     constexpr std::size_t stampSize = 15;
     const auto at = name.rfind(mark);
@@ -108,7 +108,7 @@ public:
         hasDatabase_ = std::any_of(names.begin(), names.end(),
                                    [](const auto& name) { return isResult(name, ".mdb"); });
         isOfTool_ = std::any_of(names.begin(), names.end(), [](const auto& name) {
-            return equalIgnoringCase(name, databaseTemplate);
+            return equalIgnoringCase(name, toolFiles::blankDatabase);
         });
         std::vector<std::string> left;
         for (const auto& name : names)

@@ -1,6 +1,7 @@
 #include "backends/site/files/result_folder.h"
 
 #include "backends/site/files/gather_leftovers.h"
+#include "platform/tool_files.h"
 #include "runtime/run_time_error.h"
 #include "system/file_facts.h"
 #include "system/file_lock.h"
@@ -33,7 +34,7 @@ try {
 bool ResultFolder::hasNamesOfThisSecond() const
 try {
     for (const auto& name : root_.names("")) {
-        if (name.find("_WPN_") == std::string::npos) continue;
+        if (name.find(toolFiles::resultMark) == std::string::npos) continue;
         const auto facts = root_.ownFacts(name);
         if (facts && facts->changed.seconds >= std::time(nullptr)) return true;
     }

@@ -2,6 +2,7 @@
 
 #include "backends/site/files/file_pattern.h"
 #include "backends/site/files/folder_listing.h"
+#include "platform/tool_files.h"
 #include "runtime/run_time_error.h"
 #include "system/process.h"
 #include "system/whole_file.h"
@@ -16,7 +17,8 @@ namespace {
 
 /// What lies beside the tool at run time.
 constexpr std::string_view suppliedNames[] = {
-    "ZMKXML", "blankWPNDB.mdb", "cabmaker.exe", "ZMKbrandingres_*", "OrvanDiagnosticTool*", "help",
+    toolFiles::definitionsFolder, toolFiles::blankDatabase, toolFiles::cabinetMaker,
+    "ZMKbrandingres_*",           "OrvanDiagnosticTool*",   "help",
 };
 
 bool isSupplied(std::string_view name)

@@ -3,6 +3,7 @@
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/terminal/output.h"
+#include "shell/snapin_names.h"
 
 #include <chrono>
 #include <cmath>
@@ -15,7 +16,6 @@ namespace cli {
 namespace {
 
 constexpr const char* signalName = "Cycle Diag File Time Set";
-constexpr const char* taskKey = "4";
 constexpr const char* dayAlone =
     "; in a time zone of ten hours or more it holds the day alone, so that one a day can be given";
 
@@ -32,13 +32,13 @@ public:
         OpenTool tool(options, ToolUse::change);
         const auto before = signalOf(tool);
         tool.registry().forget();
-        tool.console().clickTask(taskKey);
+        tool.console().clickTask(snapinTask::startNewLogFiles);
         auto after = signalOf(tool);
         if (after && after == before && !holdsTheDayAlone(*after) &&
             tool.registry().refusalOf(signalName).empty()) {
             // The signal is a moment in seconds: one of the same second changes nothing.
             std::this_thread::sleep_for(std::chrono::seconds(1));
-            tool.console().clickTask(taskKey);
+            tool.console().clickTask(snapinTask::startNewLogFiles);
             after = signalOf(tool);
         }
         const std::string refusal = tool.registry().refusalOf(signalName);

@@ -5,14 +5,13 @@
 #include "hosts/cli/terminal/output.h"
 #include "runtime/text.h"
 #include "settings/event_log_language.h"
+#include "shell/snapin_names.h"
 
 #include <algorithm>
 
 namespace cli {
 
 namespace {
-
-constexpr const char* menuItem = "mnuChangeLanguage";
 
 /// What the sheet of the event log's language tells.
 struct EventLanguages {
@@ -98,7 +97,7 @@ public:
         });
         EventLanguages shown;
         {
-            SheetDriver sheet(tool, menuItem);
+            SheetDriver sheet(tool, snapinItem::changeLanguage);
             requireNoted(tool);
             change(tool, sheet, language);
             shown = {sheet.control<TextBox>("txtOriginalLanguage").text(),

@@ -7,6 +7,7 @@
 #include "hosts/cli/gather/gather_run.h"
 #include "hosts/cli/gather/gather_wizard.h"
 #include "hosts/common/gather_outcome.h"
+#include "logreader/log_file_names.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
 #include "runtime/text.h"
@@ -116,7 +117,7 @@ private:
         const Platform& platform = tool.context().platform;
         if (frame_.given() && choice.startDate > platform.clock.now())
             throw CommandFailure("the time frame starts in the future");
-        const std::string folder = getRegistryText(tool.context(), logManagerKey, "Output Path");
+        const std::string folder = getRegistryText(tool.context(), logManagerKey, logFolderValue);
         for (const auto& log : orvanLogs_) requireLog(tool, folder, log);
         for (const auto& log : windowsLogs_)
             if (!holds(subkeys(tool, eventLogsKey), log))
@@ -128,10 +129,10 @@ private:
     /// wizard offers.
     static void requireLog(OpenTool& tool, const std::string& folder, const std::string& name)
     {
-        for (const std::string& process : subkeys(tool, std::string(logManagerKey) + "\\Process"))
-            if (holds(
-                    tool.context().platform.files.matching(folder + "\\diag_" + process + "_*.txt"),
-                    name))
+        for (const std::string& process : subkeys(tool, logProcessesKey))
+            if (holds(tool.context().platform.files.matching(folder + "\\" +
+                                                             logFileNames::logsOfProcess(process)),
+                      name))
                 return;
         throw CommandFailure("no log \"" + name + "\" of a process in " + folder);
     }

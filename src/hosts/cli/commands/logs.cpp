@@ -86,7 +86,7 @@ public:
 private:
     void requireProcess(OpenTool& tool) const
     {
-        const std::string key = std::string(logManagerKey) + "\\Process\\" + process_;
+        const std::string key = std::string(logProcessesKey) + "\\" + process_;
         if (process_.empty() || !registryKeyExists(tool.context(), registryRoot::localMachine, key))
             throw noSuchProcess(process_);
     }

@@ -8,14 +8,13 @@
 #include "hosts/cli/terminal/output.h"
 #include "platform/xml.h"
 #include "runtime/text.h"
+#include "shell/snapin_names.h"
 
 #include <algorithm>
 
 namespace cli {
 
 namespace {
-
-constexpr const char* taskKey = "1";
 
 struct MacroTrace {
     std::string group;
@@ -141,7 +140,7 @@ private:
         std::string summary;
         TraceCheck check(tool);
         {
-            WizardDriver wizard(tool, taskKey);
+            WizardDriver wizard(tool, snapinTask::configureMacroTrace);
             wizard.next();
             auto& tree = wizard.control<TreeView>("treeviewMacroTrace");
             for (const auto* names : {&on_, &off_})

@@ -11,12 +11,12 @@
 #include "runtime/text.h"
 #include "runtime/visible_text.h"
 #include "server/diagnostic_grid_catalogue.h"
+#include "shell/snapin_names.h"
 
 namespace cli {
 
 namespace {
 
-constexpr const char* taskKey = "2";
 constexpr const char* treeName = "treeviewMicroTraces";
 constexpr std::size_t levelTextStart = 4; ///< behind two digits and two blanks
 
@@ -181,7 +181,7 @@ private:
         std::string text;
         std::string refusal;
         {
-            WizardDriver wizard(tool, taskKey);
+            WizardDriver wizard(tool, snapinTask::configureMicroTraces);
             {
                 const TrappedErrorListener listener(
                     tool.context(), [&](const RunTimeError& error, std::string_view procName) {
@@ -229,7 +229,7 @@ private:
         std::vector<LevelName> staying;
         if (!off.empty()) staying = defaultLevels(tool.context().g_connection, off);
         {
-            WizardDriver wizard(tool, taskKey);
+            WizardDriver wizard(tool, snapinTask::configureMicroTraces);
             wizard.next();
             auto& tree = wizard.control<TreeView>(treeName);
             if (!tree.visible())

@@ -8,6 +8,7 @@
 #include "platform/file_system.h"
 #include "runtime/numbers.h"
 #include "runtime/visible_text.h"
+#include "shell/snapin_names.h"
 
 #include <algorithm>
 #include <array>
@@ -172,7 +173,7 @@ public:
                         failure = log_ + " could not be read: " + error.description();
                 });
             tool.desktop().answerPickers(path);
-            tool.console().clickMenuItem("mnuOpenLogFile");
+            tool.console().clickMenuItem(snapinItem::openLogFile);
         }
         if (!tool.desktop().failures().empty() || !failure.empty()) throw CommandFailure(failure);
         ListView& list = tool.console().currentView().selectedScopePaneItem().resultView().list();
@@ -190,7 +191,7 @@ private:
     {
         const bool bare = log_.find_first_of("/\\:") == std::string::npos;
         const auto& files = tool.context().platform.files;
-        const std::string folder = getRegistryText(tool.context(), logManagerKey, "Output Path");
+        const std::string folder = getRegistryText(tool.context(), logManagerKey, logFolderValue);
         if (bare && !log_.empty() && files.fileExists(folder + "\\" + log_)) return log_;
         std::string path = tool.toolPath(log_);
         if (log_.empty() || !files.fileExists(path))

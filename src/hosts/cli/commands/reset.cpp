@@ -5,12 +5,11 @@
 #include "hosts/cli/driving/wizard_driver.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/terminal/output.h"
+#include "shell/snapin_names.h"
 
 namespace cli {
 
 namespace {
-
-constexpr const char* taskKey = "3";
 
 class ResetCommand final : public Command {
 public:
@@ -32,7 +31,7 @@ public:
         OpenTool tool(options, ToolUse::change);
         TraceCheck check(tool);
         {
-            WizardDriver wizard(tool, taskKey);
+            WizardDriver wizard(tool, snapinTask::disableAllTraces);
             wizard.control<CheckBox>("chkDisableAllTraces").click();
             check.expect(expectedOfReset(tool.context(), check.present()));
             wizard.finish();

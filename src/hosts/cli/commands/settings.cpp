@@ -1,4 +1,5 @@
 #include "controls/controls.h"
+#include "core/registry_store.h"
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/driving/sheet_driver.h"
@@ -7,6 +8,7 @@
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "server/configuration_database.h"
+#include "shell/snapin_names.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -15,7 +17,6 @@ namespace cli {
 
 namespace {
 
-constexpr const char* menuItem = "mnuConfigureLogSettings";
 constexpr const char* pageName = "ppgConfLogSettings";
 constexpr const char* maxMegabytesName = "System.LogMgr.MaxDiagnosticMegabytesSaved";
 
@@ -98,7 +99,7 @@ public:
         tool.registry().forget();
         const bool rebootRequired = changes && change(tool);
         const ShownSettings shown = read(tool);
-        const std::string refusal = tool.registry().refusalOf("Output Path");
+        const std::string refusal = tool.registry().refusalOf(logFolderValue);
         requireWritten(shown, refusal);
         tool.close();
         report(output, shown, rebootRequired);
@@ -108,7 +109,7 @@ private:
     static ShownSettings read(OpenTool& tool)
     {
         const PassedOverErrors errors(tool, pageName);
-        SheetDriver sheet(tool, menuItem);
+        SheetDriver sheet(tool, snapinItem::configureLogSettings);
         errors.requireNone("the log settings can't be read");
         return shownSettings(tool, sheet);
     }
@@ -118,7 +119,7 @@ private:
     bool change(OpenTool& tool) const
     {
         const PassedOverErrors errors(tool, pageName);
-        SheetDriver sheet(tool, menuItem);
+        SheetDriver sheet(tool, snapinItem::configureLogSettings);
         errors.requireNone("the log settings can't be read");
         const ShownSettings before = shownSettings(tool, sheet);
         enter(sheet.control<ComboBox>("comboMaxSpace"),

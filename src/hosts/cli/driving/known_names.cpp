@@ -6,6 +6,7 @@
 #include "core/utility.h"
 #include "platform/file_system.h"
 #include "platform/host_module.h"
+#include "platform/tool_files.h"
 #include "platform/xml.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
@@ -94,7 +95,8 @@ std::vector<knownNames::ShownTrace> knownNames::shownTraces(const XmlDocument& c
 knownNames::MacroTraces knownNames::macroTraces(OpenTool& tool)
 {
     const Platform& platform = tool.context().platform;
-    const std::string folder = platform.module.folder() + "\\ZMKXML\\";
+    const std::string folder =
+        platform.module.folder() + "\\" + toolFiles::definitionsFolder + "\\";
     MacroTraces traces;
     MergedDefinitions definitions(platform.xml);
     for (const std::string& file : platform.files.matching(folder + "HT*.xml"))

@@ -3,12 +3,12 @@
 #include "controls/tree_view.h"
 #include "core/registry_store.h"
 #include "core/tool_context.h"
+#include "platform/tool_events.h"
 #include "platform/xml.h"
 #include "runtime/numbers.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
 #include "traces/trace_bits.h"
-#include "traces/trace_events.h"
 
 #include <optional>
 
@@ -123,7 +123,7 @@ TraceExpectation expectedOfMacroTraces(ToolContext& tool, const TreeView& tree,
                 combine(tool, traceNamed(tool, group->text(), trace->text()), on, expected);
                 expected.records[{group->text(), trace->text()}] = on;
                 expected.events.push_back(
-                    {on ? traceEvents::macroTraceOn : traceEvents::macroTraceOff,
+                    {on ? toolEvents::macroTraceOn : toolEvents::macroTraceOff,
                      group->text() + " - " + trace->text()});
             }
         }
@@ -144,7 +144,7 @@ TraceExpectation expectedOfMicroTraces(ToolContext& tool, const TreeView& tree,
             if (!level->checked()) continue;
             const auto mask = maskOf(tool, mdlTraces::leadingLevel(level->text()));
             if (name && mask) ticked[*name] |= *mask;
-            expected.events.push_back({traceEvents::microTraceOn, " (" + level->text() + ")"});
+            expected.events.push_back({toolEvents::microTraceOn, " (" + level->text() + ")"});
         }
     }
     expected.words = wordsOf(present);
@@ -166,7 +166,7 @@ TraceExpectation expectedOfReset(ToolContext& tool, const std::vector<FlagWords>
     for (const std::string& group : subkeys(toolKey))
         for (const std::string& trace : subkeys(std::string(toolKey) + "\\" + group)) {
             expected.records[{group, trace}] = false;
-            expected.events.push_back({traceEvents::macroTraceOff, group + " - " + trace});
+            expected.events.push_back({toolEvents::macroTraceOff, group + " - " + trace});
         }
     return expected;
 }

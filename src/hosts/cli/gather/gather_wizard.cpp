@@ -2,6 +2,7 @@
 
 #include "hosts/cli/gather/gather_run.h"
 #include "runtime/text.h"
+#include "shell/snapin_names.h"
 #include "wizards/gather_progress.h"
 #include "wizards/gather_welcome.h"
 
@@ -9,7 +10,6 @@ namespace cli {
 
 namespace {
 
-constexpr const char* taskKey = "5";
 constexpr const char* lastPageName = "ppgGatherLogs99Final";
 
 /// What a label shows below its caption.
@@ -48,7 +48,8 @@ void tickBox(CheckBox& box, bool ticked)
 
 } // namespace
 
-GatherWizard::GatherWizard(OpenTool& tool, const GatherRequest& request) : driver_(tool, taskKey)
+GatherWizard::GatherWizard(OpenTool& tool, const GatherRequest& request)
+    : driver_(tool, snapinTask::gatherLogFiles)
 {
     chooseDestination(tool, request);
     driver_.control<OptionButtonGroup>("optGatherLogs").click(request.option);

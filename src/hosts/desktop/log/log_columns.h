@@ -20,11 +20,4 @@ struct LogColumns {
     static LogColumns of(const ListView& list);
 };
 
-/// The names of the list views that the window shows in a manner of their own.
-namespace shownList {
-constexpr const char* logLines = "listviewDiagLog";
-constexpr const char* logFiles = "listviewAllLogs";
-constexpr const char* processes = "listviewAllProcesses";
-} // namespace shownList
-
 } // namespace desktop

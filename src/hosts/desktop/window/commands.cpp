@@ -1,4 +1,5 @@
 #include "hosts/desktop/window/commands.h"
+#include "shell/snapin_names.h"
 
 namespace desktop {
 
@@ -11,14 +12,14 @@ struct ConsoleItem {
 };
 
 constexpr ConsoleItem consoleItems[] = {
-    {"mnuConfigureMacroTrace", "Ctrl+1", "macro-traces"},
-    {"mnuConfigureMicroTraces", "Ctrl+2", "micro-traces"},
-    {"mnuDisableAllTraces", "Ctrl+3", "reset"},
-    {"mnuStartNewLogFiles", "Ctrl+4", "new-logs"},
-    {"mnuGatherLogFiles", "Ctrl+5", "gather"},
-    {"mnuConfigureLogSettings", "Ctrl+6", "settings"},
-    {"mnuOpenLogFile", "Ctrl+O", "open-log"},
-    {"mnuChangeLanguage", "Ctrl+7", "language"},
+    {snapinItem::configureMacroTrace, "Ctrl+1", "macro-traces"},
+    {snapinItem::configureMicroTraces, "Ctrl+2", "micro-traces"},
+    {snapinItem::disableAllTraces, "Ctrl+3", "reset"},
+    {snapinItem::startNewLogFiles, "Ctrl+4", "new-logs"},
+    {snapinItem::gatherLogFiles, "Ctrl+5", "gather"},
+    {snapinItem::configureLogSettings, "Ctrl+6", "settings"},
+    {snapinItem::openLogFile, "Ctrl+O", "open-log"},
+    {snapinItem::changeLanguage, "Ctrl+7", "language"},
 };
 
 } // namespace
@@ -114,7 +115,7 @@ QKeySequence keyOfConsoleItem(const std::string& name)
 bool changesServer(const std::string& name)
 {
     // The language's sheet notes the first language as it opens.
-    return name == startNewLogsItem || name == "mnuChangeLanguage";
+    return name == snapinItem::startNewLogFiles || name == snapinItem::changeLanguage;
 }
 
 QString iconOfConsoleItem(const std::string& name)

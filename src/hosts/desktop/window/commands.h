@@ -73,9 +73,6 @@ public:
 /// The key of a menu item that the tool declares, by its name; empty for one without.
 QKeySequence keyOfConsoleItem(const std::string& name);
 
-/// The item that signals the server to start new log files.
-constexpr const char* startNewLogsItem = "mnuStartNewLogFiles";
-
 /// Whether a click on an item of the tool may change the server at once. The other ones open
 /// sheets, which may do so later, or only look.
 bool changesServer(const std::string& name);

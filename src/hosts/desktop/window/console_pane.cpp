@@ -11,6 +11,7 @@
 #include "hosts/desktop/window/scope_model.h"
 #include "hosts/desktop/window/task_pad_view.h"
 #include "runtime/run_time_error.h"
+#include "shell/snapin_names.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -27,7 +28,6 @@ namespace {
 constexpr const char* splitterKey = "window/splitter";
 
 /// Of the tasks, the one that changes the server at once; the others open sheets.
-constexpr const char* startNewLogsTask = "4";
 
 /// The console is at work: the pointer says so, and further calls can see it.
 class AtWork {
@@ -122,8 +122,9 @@ void ConsolePane::makeTaskPad()
     views_->addWidget(taskPad_);
     connect(taskPad_, &TaskPadView::taskClicked, this, [this](const QString& key) {
         const auto click = [&](Console& console) { console.clickTask(key.toStdString()); };
-        key == QLatin1String(startNewLogsTask) ? performChange(startNewLogsItem, click)
-                                               : perform(click);
+        key == QLatin1String(snapinTask::startNewLogFiles)
+            ? performChange(snapinItem::startNewLogFiles, click)
+            : perform(click);
     });
 }
 
@@ -305,11 +306,11 @@ void ConsolePane::viewFilled(ResultView& resultView)
     if (resultView.type() == ResultViewType::taskPad) {
         taskPad_->show(resultView.taskPad());
         views_->setCurrentWidget(taskPad_);
-    } else if (resultView.displayString() == shownList::processes) {
+    } else if (resultView.displayString() == snapinView::processes) {
         // The console's list of processes has no rows of its own: it shows the nodes below.
         children().setRootIndex(scope_->indexOf(resultView.scopePaneItem().scopeItem()));
         views_->setCurrentWidget(children_);
-    } else if (resultView.displayString() == shownList::logLines) {
+    } else if (resultView.displayString() == snapinView::logLines) {
         const QString key = QString::fromStdString(resultView.scopePaneItem().key());
         log().show(resultView.list(), site_ + QLatin1Char('\n') + key);
         views_->setCurrentWidget(log_);

@@ -19,6 +19,7 @@
 #include "hosts/desktop/window/key_list.h"
 #include "hosts/desktop/window/task_pad_view.h"
 #include "settings/about_box.h"
+#include "shell/snapin_names.h"
 
 #include <QAction>
 #include <QApplication>
@@ -191,7 +192,7 @@ void MainWindow::connectPane()
 /// A command at once, whose own texts tell of no failure.
 void MainWindow::change(const std::string& item, const std::function<void()>& run)
 {
-    const bool startsLogs = item == startNewLogsItem;
+    const bool startsLogs = item == snapinItem::startNewLogFiles;
     const QString said = status_->text();
     bool ran = false;
     tool_->changing([&] {

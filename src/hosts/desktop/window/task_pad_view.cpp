@@ -4,6 +4,7 @@
 #include "hosts/desktop/look/icons.h"
 #include "hosts/desktop/look/theme.h"
 #include "hosts/desktop/window/task_card.h"
+#include "shell/snapin_names.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -21,8 +22,12 @@ namespace {
 QString symbolOf(const std::string& key)
 {
     static const std::pair<const char*, const char*> drawings[] = {
-        {"1", "macro-traces"}, {"2", "micro-traces"}, {"3", "reset"},
-        {"4", "new-logs"},     {"5", "gather"},       {"6", "settings"}};
+        {snapinTask::configureMacroTrace, "macro-traces"},
+        {snapinTask::configureMicroTraces, "micro-traces"},
+        {snapinTask::disableAllTraces, "reset"},
+        {snapinTask::startNewLogFiles, "new-logs"},
+        {snapinTask::gatherLogFiles, "gather"},
+        {snapinTask::configureLogSettings, "settings"}};
     for (const auto& [task, drawing] : drawings)
         if (key == task) return QString::fromLatin1(drawing);
     return QStringLiteral("console");
