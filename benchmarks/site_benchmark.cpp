@@ -1,6 +1,6 @@
-#include "backends/site/events/trace_line_format.h"
 #include "backends/site/files/site_file_system.h"
 #include "backends/site/registry/site_registry.h"
+#include "tracelines/trace_line_format.h"
 
 #include <benchmark/benchmark.h>
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "backends/site/events/trace_line_format.h"
 #include "platform/event_reporter.h"
+#include "tracelines/trace_line_format.h"
 
 namespace {
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tracelines/trace_line_format.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -9,7 +11,7 @@
 class EventReporter {
 public:
     /// What a formatter takes at most, in bytes.
-    static constexpr std::size_t traceLineLimit = 510;
+    static constexpr std::size_t traceLineLimit = longestTraceLine;
 
     virtual ~EventReporter() = default;
 

@@ -1,6 +1,6 @@
 #include "backends/site/sample_site.h"
 
-#include "backends/site/events/trace_line_format.h"
+#include "tracelines/trace_line_format.h"
 
 #include <algorithm>
 #include <ctime>

@@ -12,23 +12,32 @@ using Layers = std::set<std::string>;
 
 /// The house from the ground up: a folder may know those of the storeys under its own.
 const std::vector<Layers> storeys = {
-    {"runtime"}, {"text"},     {"system"},
-    {"drives"},  {"platform"}, {"controls"},
-    {"console"}, {"core"},     {"logreader", "server"},
-    {"traces"},  {"gather"},   {"wizards", "settings"},
+    {"runtime"},
+    {"text", "tracelines"},
+    {"system"},
+    {"drives"},
+    {"platform"},
+    {"controls"},
+    {"console"},
+    {"core"},
+    {"logreader", "server"},
+    {"traces"},
+    {"gather"},
+    {"wizards", "settings"},
     {"shell"},
 };
 
-const Layers core = {"runtime", "text",   "platform", "controls", "console",  "core", "logreader",
-                     "server",  "traces", "gather",   "wizards",  "settings", "shell"};
+const Layers core = {"runtime", "text",    "tracelines", "platform", "controls",
+                     "console", "core",    "logreader",  "server",   "traces",
+                     "gather",  "wizards", "settings",   "shell"};
 
 /// What stands beside the house, and what each of it may know.
 const std::map<std::string, Layers> annexes = {
     {"cabmaker", {"runtime", "text", "system", "drives"}},
-    {"backends/site", {"runtime", "text", "system", "drives", "platform"}},
-    {"backends/jet", {"runtime", "text", "system", "platform"}},
-    {"backends/windows", {"runtime", "text", "system", "platform"}},
-    {"sample", {"runtime", "text", "system", "drives", "platform", "backends/site"}},
+    {"backends/site", {"runtime", "text", "tracelines", "system", "drives", "platform"}},
+    {"backends/jet", {"runtime", "text", "tracelines", "system", "platform"}},
+    {"backends/windows", {"runtime", "text", "tracelines", "system", "platform"}},
+    {"sample", {"runtime", "text", "tracelines", "system", "drives", "platform", "backends/site"}},
 };
 
 /// What a folder may include besides itself; nothing for one that has no rule.

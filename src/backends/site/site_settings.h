@@ -1,14 +1,12 @@
 #pragma once
 
 #include "system/root_folder.h"
+#include "tracelines/trace_line_format.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
-
-/// Which raw line form the server writes.
-enum class LogFields { basic, extended };
 
 /// What `site.ini` says of a site; what it leaves out holds the default, or nothing where the
 /// machine itself gives the value.

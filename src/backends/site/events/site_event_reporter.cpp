@@ -1,10 +1,10 @@
 #include "backends/site/events/site_event_reporter.h"
 
-#include "backends/site/events/trace_line_format.h"
 #include "platform/clock.h"
 #include "runtime/run_time_error.h"
 #include "system/file_bytes.h"
 #include "system/file_facts.h"
+#include "tracelines/trace_line_format.h"
 
 #include <nlohmann/json.hpp>
 #include <utility>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "backends/site/site_settings.h"
 #include "platform/event_reporter.h"
 #include "system/root_folder.h"
+#include "tracelines/trace_line_format.h"
 
 #include <string>
 #include <string_view>

@@ -1,6 +1,4 @@
-#include "backends/site/events/trace_line_format.h"
-
-#include "platform/event_reporter.h"
+#include "tracelines/trace_line_format.h"
 
 #include <cstddef>
 #include <cstring>
@@ -20,8 +18,8 @@ bool isDigit(char c)
 template <std::size_t size>
 bool hasShape(const char* text, const char (&shape)[size])
 {
-    for (std::size_t place = 0; place + 1 < size; ++place)
-        if (shape[place] == 'd' ? !isDigit(text[place]) : text[place] != shape[place]) return false;
+    for (std::size_t i = 0; i + 1 < size; ++i)
+        if (shape[i] == 'd' ? !isDigit(text[i]) : text[i] != shape[i]) return false;
     return true;
 }
 
@@ -110,7 +108,7 @@ std::string_view timeOfSoundTraceLine(std::string_view rawLine, LogFields fields
 {
     constexpr std::size_t digitsOf32Bits = 9;
     constexpr std::size_t digitsOf16Bits = 4;
-    if (rawLine.size() > EventReporter::traceLineLimit) return {};
+    if (rawLine.size() > longestTraceLine) return {};
     const std::size_t length = timeLength(rawLine);
     if (length == 0) return {};
     auto rest = rawLine.substr(length);
@@ -123,7 +121,7 @@ std::string_view timeOfSoundTraceLine(std::string_view rawLine, LogFields fields
 
 bool appendFormattedTraceLine(std::string_view rawLine, LogFields fields, std::string& formatted)
 {
-    if (rawLine.size() > EventReporter::traceLineLimit) return false;
+    if (rawLine.size() > longestTraceLine) return false;
     const std::size_t length = timeLength(rawLine);
     if (length == 0) return false;
     const auto time = rawLine.substr(0, length);

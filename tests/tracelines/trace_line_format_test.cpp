@@ -1,4 +1,4 @@
-#include "backends/site/events/trace_line_format.h"
+#include "tracelines/trace_line_format.h"
 
 #include <gtest/gtest.h>
 
