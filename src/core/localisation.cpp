@@ -29,10 +29,8 @@ std::string libraryPath(ToolContext& tool)
 std::string myLoadResString(ToolContext& tool, TextId id)
 {
     ErrorTrap step{tool, "modLocalize", "myLoadResString"};
-    std::optional<std::string> text;
-
-    step([&] {
-        text = tool.platform.languages.text(tool.language.g_hResourceLibrary, static_cast<int>(id));
+    const std::optional<std::string> text = step.value(std::nullopt, [&] {
+        return tool.platform.languages.text(tool.language.g_hResourceLibrary, static_cast<int>(id));
     });
     return text && !text->empty() ? *text : std::string(englishText(id));
 }

@@ -51,15 +51,13 @@ int getTZBias(ToolContext& tool)
 void getCurrentDateTimeInBinaryFormat(ToolContext& tool, std::span<std::uint8_t, 8> buffer)
 {
     ErrorTrap step{tool, "mdlUtility", "getCurrentDateTimeInBinaryFormat"};
-    Date now;
-    double seconds = 0;
 
     step.enterProc();
-    step([&] { now = tool.platform.clock.now(); });
+    const Date now = step.value(Date{}, [&] { return tool.platform.clock.now(); });
     const double days = dayOf(now).days;
-    step([&] {
-        seconds = static_cast<double>(wholeSeconds(timeOf(now))) +
-                  multiply16(getTZBias(tool), secondsOfHour);
+    const double seconds = step.value(0.0, [&] {
+        return static_cast<double>(wholeSeconds(timeOf(now))) +
+               multiply16(getTZBias(tool), secondsOfHour);
     });
     const double fraction = seconds / secondsOfHour / 24;
     auto bits = std::bit_cast<std::uint64_t>(days + fraction);

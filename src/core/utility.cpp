@@ -16,12 +16,11 @@
 std::string selectDirectory(ToolContext& tool)
 {
     ErrorTrap step{tool, "mdlUtility", "selectDirectory"};
-    std::string picked;
 
     step.enterProc();
-    step([&] {
-        picked =
-            tool.platform.desktop.pickFolder(myLoadResString(tool, TextId::selectTheDestination));
+    std::string picked = step.value("", [&] {
+        return tool.platform.desktop.pickFolder(
+            myLoadResString(tool, TextId::selectTheDestination));
     });
     step.exitProc();
     return picked;
@@ -30,11 +29,10 @@ std::string selectDirectory(ToolContext& tool)
 std::string selectLogFile(ToolContext& tool)
 {
     ErrorTrap step{tool, "mdlUtility", "selectLogFile"};
-    std::string picked;
 
     step.enterProc();
-    step([&] {
-        picked = tool.platform.desktop.pickFile(myLoadResString(tool, TextId::selectLogFile));
+    std::string picked = step.value("", [&] {
+        return tool.platform.desktop.pickFile(myLoadResString(tool, TextId::selectLogFile));
     });
     step.exitProc();
     return picked;

@@ -62,8 +62,6 @@ bool mdlOrvanDatabase::openOrvanDB(ToolContext& tool, DatabaseConnection& connec
 {
     ErrorTrap step{tool, moduleName, "openOrvanDB", countedTrap};
     bool opened = false;
-    bool closed = false;
-    bool clean = false;
     std::string connectionString;
 
     step.specialCase([&](const RunTimeError& error) {
@@ -74,12 +72,11 @@ bool mdlOrvanDatabase::openOrvanDB(ToolContext& tool, DatabaseConnection& connec
     });
     step.body([&] {
         step.enterProc();
-        step([&] { closed = connection.state() == 0; });
+        const bool closed = step.value(false, [&] { return connection.state() == 0; });
         if (closed) {
             step([&] { connectionString = connectionStart + serverName + connectionEnd; });
             step([&] { connection.open(connectionString, "", ""); });
-            step([&] { clean = connection.errorCount() < 1; });
-            if (clean) opened = true;
+            opened = step.value(false, [&] { return connection.errorCount() < 1; });
         }
         step.exitProc();
     });
@@ -90,9 +87,6 @@ Value mdlOrvanDatabase::GetConfigurationSetting(ToolContext& tool, const std::st
 {
     ErrorTrap step{tool, moduleName, "GetConfigurationSetting", countedTrap};
     Value result = Null{};
-    std::unique_ptr<DatabaseRecordset> rows;
-    bool found = false;
-    std::int32_t typeCode = 0;
 
     step.specialCase([&](const RunTimeError& error) {
         if (error.number() != runTimeErrors::connectionClosed) return Resume::asUsual;
@@ -102,13 +96,14 @@ Value mdlOrvanDatabase::GetConfigurationSetting(ToolContext& tool, const std::st
     step.body([&] {
         const std::string query =
             "SELECT Value, Type From vw_ConfigurationValue WHERE FullName = '" + fullName + "'";
-        step([&] {
-            rows = tool.g_connection.openRecordset(query, CursorKind::forwardOnly,
+        const auto rows = step.value(nullptr, [&] {
+            return tool.g_connection.openRecordset(query, CursorKind::forwardOnly,
                                                    LockKind::optimistic);
         });
-        step([&] { found = !required(rows).atEnd(); });
+        const bool found = step.value(false, [&] { return !required(rows).atEnd(); });
         if (found) {
-            step([&] { typeCode = valueAsInteger32(rows->field("Type")); });
+            const std::int32_t typeCode =
+                step.value(0, [&] { return valueAsInteger32(rows->field("Type")); });
             step([&] { result = configurationValue(*rows, typeCode); });
         }
         step([&] { required(rows).close(); });

@@ -23,19 +23,17 @@ std::int32_t mdlOrvanDatabase::getFlags(ToolContext& tool, const std::string& co
 {
     ErrorTrap step{tool, moduleName, "getFlags", countedTrap};
     std::int32_t flags = 0;
-    std::unique_ptr<DatabaseRecordset> rows;
-    bool found = false;
 
     step.body([&] {
         const std::string column = kind == flagKind::current ? "Flags" : "DefaultFlags As Flags";
         const std::string query = "SELECT " + column +
                                   " FROM vw_LoggerDiagnosticGrid WHERE Name = '" + componentName +
                                   "'";
-        step([&] {
-            rows = tool.g_connection.openRecordset(query, CursorKind::forwardOnly,
+        const auto rows = step.value(nullptr, [&] {
+            return tool.g_connection.openRecordset(query, CursorKind::forwardOnly,
                                                    LockKind::optimistic);
         });
-        step([&] { found = !required(rows).atEnd(); });
+        const bool found = step.value(false, [&] { return !required(rows).atEnd(); });
         if (found) step([&] { flags = valueAsInteger32(required(rows).field("Flags")); });
         step([&] { required(rows).close(); });
     });
@@ -47,17 +45,15 @@ std::string mdlOrvanDatabase::getComponentsObjectId(ToolContext& tool,
 {
     ErrorTrap step{tool, moduleName, "getComponentsObjectId", countedTrap};
     std::string objectId;
-    std::unique_ptr<DatabaseRecordset> rows;
-    bool found = false;
 
     step.body([&] {
         const std::string query =
             "SELECT ObjectId FROM vw_LoggerDiagnosticGrid WHERE Name = '" + componentName + "'";
-        step([&] {
-            rows = tool.g_connection.openRecordset(query, CursorKind::forwardOnly,
+        const auto rows = step.value(nullptr, [&] {
+            return tool.g_connection.openRecordset(query, CursorKind::forwardOnly,
                                                    LockKind::optimistic);
         });
-        step([&] { found = !required(rows).atEnd(); });
+        const bool found = step.value(false, [&] { return !required(rows).atEnd(); });
         if (found) step([&] { objectId = valueAsText(required(rows).field("ObjectId")); });
         step([&] { required(rows).close(); });
     });
@@ -110,8 +106,7 @@ MemoryRecordset mdlOrvanDatabase::EnumComponents(ToolContext& tool)
         });
         step([&] { requireUpperBound(required(rows).rowCount() - 1); });
         for (;;) {
-            bool more = false;
-            step([&] { more = !required(rows).atEnd(); });
+            const bool more = step.value(false, [&] { return !required(rows).atEnd(); });
             if (!more) break;
             step([&] { components.addNew(); });
             step([&] { components.set("name", name()); });

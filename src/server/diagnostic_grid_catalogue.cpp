@@ -34,21 +34,17 @@ std::string mdlDiagnosticGrids::cataloguePath(const std::string& installFolder,
 void mdlDiagnosticGrids::openDiagGrids(ToolContext& tool)
 {
     ErrorTrap step{tool, moduleName, "openDiagGrids"};
-    std::string folder;
-    std::string language;
-    bool exists = false;
-    bool existsInEnglish = false;
 
     step.enterProc();
-    step([&] { folder = getInstalledFolderPath(tool); });
-    step([&] { language = userLanguageCode(tool); });
-    step([&] { exists = tool.platform.files.fileExists(cataloguePath(folder, language)); });
+    const std::string folder = step.value("", [&] { return getInstalledFolderPath(tool); });
+    const std::string language = step.value("", [&] { return userLanguageCode(tool); });
+    const bool exists = step.value(
+        false, [&] { return tool.platform.files.fileExists(cataloguePath(folder, language)); });
     if (exists) {
         step([&] { catalogue(tool).load(cataloguePath(folder, language)); });
     } else {
-        step([&] {
-            existsInEnglish = tool.platform.files.fileExists(cataloguePath(folder, "ENU"));
-        });
+        const bool existsInEnglish = step.value(
+            false, [&] { return tool.platform.files.fileExists(cataloguePath(folder, "ENU")); });
         if (existsInEnglish) step([&] { catalogue(tool).load(cataloguePath(folder, "ENU")); });
     }
     step.exitProc();
@@ -58,13 +54,11 @@ std::vector<std::string> mdlDiagnosticGrids::EnumDiagnosticLevels(ToolContext& t
                                                                   const std::string& componentName)
 {
     ErrorTrap step{tool, moduleName, "EnumDiagnosticLevels"};
-    XmlElementPtr found;
-    std::vector<XmlElementPtr> levels;
     std::vector<std::string> texts;
     int number = 0;
     std::string text;
 
-    step([&] { found = component(tool, componentName); });
+    const XmlElementPtr found = step.value(nullptr, [&] { return component(tool, componentName); });
     if (!found) {
         step.log("Cannot find " + componentName +
                      " in GuidResources\\Resources\\Enu\\DiagnosticGrids_ENU.xml, skipping this "
@@ -73,7 +67,8 @@ std::vector<std::string> mdlDiagnosticGrids::EnumDiagnosticLevels(ToolContext& t
                  logLevel::error);
         return {"", ""};
     }
-    step([&] { levels = found->selectNodes("DiagnosticLevels/DiagnosticLevel"); });
+    const auto levels =
+        step.value({}, [&] { return found->selectNodes("DiagnosticLevels/DiagnosticLevel"); });
     step([&] {
         if (levels.empty()) throw RunTimeError(runTimeErrors::subscriptOutOfRange);
         texts.resize(levels.size());
@@ -94,11 +89,7 @@ std::string mdlDiagnosticGrids::GetDiagnosticLevelText(ToolContext& tool,
                                                        const std::string& componentName)
 {
     ErrorTrap step{tool, moduleName, "GetDiagnosticLevelText"};
-    XmlElementPtr found;
-    std::string text;
-
-    step([&] { found = component(tool, componentName); });
+    const XmlElementPtr found = step.value(nullptr, [&] { return component(tool, componentName); });
     if (!found) return componentName;
-    step([&] { text = requiredAttribute(found, "text"); });
-    return text;
+    return step.value("", [&] { return requiredAttribute(found, "text"); });
 }

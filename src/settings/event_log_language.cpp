@@ -22,15 +22,15 @@ std::string sourceKey(const std::string& source)
 std::size_t sizeOfCharacters(std::string_view text, std::size_t count)
 {
     std::size_t characters = 0;
-    for (std::size_t place = 0; place < text.size(); ++place) {
-        const bool begins = (static_cast<unsigned char>(text[place]) & 0xC0) != 0x80;
-        if (begins && ++characters > count) return place;
+    for (std::size_t position = 0; position < text.size(); ++position) {
+        const bool begins = (static_cast<unsigned char>(text[position]) & 0xC0) != 0x80;
+        if (begins && ++characters > count) return position;
     }
     return text.size();
 }
 
-/// Bytes of a path up to its language. A text that is not there counts as found at place 0, which
-/// still leaves all of its length but one.
+/// Bytes of a path up to its language. A text that is not there counts as found at position 0,
+/// which still leaves all of its length but one.
 std::size_t sizeBeforeLanguage(std::string_view path)
 {
     const std::size_t found = path.find(mdlLanguage::messagingFolder);
@@ -59,19 +59,19 @@ std::vector<std::string> mdlLanguage::getEventLogKeys(ToolContext& tool)
 {
     ErrorTrap step{tool, moduleName, "getEventLogKeys"};
     std::vector<std::string> keys;
-    KeyNames sources;
     int first = 0;
     int last = -1;
 
     step.enterProc();
-    step([&] { sources = enumRegistryKeys(tool, registryRoot::localMachine, sourcesKey); });
+    const KeyNames sources = step.value(
+        {}, [&] { return enumRegistryKeys(tool, registryRoot::localMachine, sourcesKey); });
     step([&] {
         first = sources.lowerBound();
         last = sources.upperBound();
     });
     for (int index = first; index <= last; ++index) {
-        std::string messageFile;
-        step([&] { messageFile = eventMessageFile(tool, sources.at(index)); });
+        const std::string messageFile =
+            step.value("", [&] { return eventMessageFile(tool, sources.at(index)); });
         if (positionOf(messageFile, messagingMark) == 0) continue;
         step([&] { keys.push_back(sources.at(index)); });
     }
@@ -129,10 +129,10 @@ void mdlLanguage::changeEventLogLanguage(ToolContext& tool, const std::string& l
 void mdlLanguage::recordOriginalLanguage(ToolContext& tool, const std::string& language)
 {
     ErrorTrap step{tool, moduleName, "recordOriginalLanguage"};
-    bool keyExists = false;
 
     step.enterProc();
-    step([&] { keyExists = registryKeyExists(tool, registryRoot::localMachine, toolKey); });
+    const bool keyExists = step.value(
+        false, [&] { return registryKeyExists(tool, registryRoot::localMachine, toolKey); });
     if (!keyExists) step([&] { createRegistryKey(tool, registryRoot::localMachine, toolKey); });
     step([&] {
         setRegistryValue(tool, registryRoot::localMachine, toolKey, "OriginalEventLogLanguage",

@@ -42,19 +42,17 @@ void ppgEventLogLanguage::ppgEventLogLanguage_Auto_Init()
 void ppgEventLogLanguage::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet&)
 {
     ErrorTrap step{tool_, pageName, "IMMCPropertyPage_Initialize"};
-    std::vector<std::string> installed;
-    std::string messageFile;
-    std::string original;
 
     step.enterProc();
     applyFontToControls(tool_, *this);
     ppgEventLogLanguage_Auto_Init();
-    step([&] { installed = mdlLanguage::installedLanguages(tool_); });
+    const auto installed = step.value({}, [&] { return mdlLanguage::installedLanguages(tool_); });
     for (const std::string& language : installed) lstAvailableLangs.addItem(language);
     if (m_colEventKeys.empty()) m_colEventKeys = mdlLanguage::getEventLogKeys(tool_);
-    step([&] { messageFile = mdlLanguage::eventMessageFile(tool_, firstOf(m_colEventKeys)); });
+    const std::string messageFile = step.value(
+        "", [&] { return mdlLanguage::eventMessageFile(tool_, firstOf(m_colEventKeys)); });
     m_strCurrentLanguage = mdlLanguage::determineCurrentLanguage(tool_, messageFile);
-    step([&] { original = mdlLanguage::originalLanguage(tool_); });
+    std::string original = step.value("", [&] { return mdlLanguage::originalLanguage(tool_); });
     if (original.empty()) original = m_strCurrentLanguage;
     txtCurrentLanguage.setText(m_strCurrentLanguage);
     txtOriginalLanguage.setText(original);

@@ -18,9 +18,8 @@ std::string mdlHTMLHelp::getHelpFileName(ToolContext& tool)
     std::string file;
     step.body([&] {
         const std::string base = tool.platform.module.folder() + "\\OrvanDiagnosticTool";
-        std::string userCode;
         bool exists = false;
-        step([&] { userCode = userLanguageCode(tool); });
+        const std::string userCode = step.value("", [&] { return userLanguageCode(tool); });
         file = base + "_" + userCode + ".chm";
         step([&] { exists = tool.platform.files.fileExists(file); });
         if (exists) return;

@@ -70,30 +70,30 @@ void ppgConfLogSettings::ppgConfLogSettings_Auto_Init()
 void ppgConfLogSettings::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet&)
 {
     ErrorTrap step{tool_, pageName, "IMMCPropertyPage_Initialize"};
-    std::string language;
-    std::int32_t current = 0;
-    bool enabled = false;
-    std::string path;
 
     step.enterProc();
-    step([&] { language = getRegistryText(tool_, toolKey, "CurrentLocalizationLanguage"); });
+    const std::string language = step.value(
+        "", [&] { return getRegistryText(tool_, toolKey, "CurrentLocalizationLanguage"); });
     step([&] { tool_.language.g_lngCurrentLanguage = toInteger32(leadingNumber(language)); });
     InitalizeLanguages(tool_);
     applyFontToControls(tool_, *this);
     ppgConfLogSettings_Auto_Init();
     fillCycleDiagnosticLogs();
-    step([&] { current = valueAsInteger32(GetConfigurationSetting(tool_, maxMegabytes)); });
+    const std::int32_t current = step.value(
+        0, [&] { return valueAsInteger32(GetConfigurationSetting(tool_, maxMegabytes)); });
     fillMaxSpace(current);
-    step([&] { enabled = equalsTrue(GetConfigurationSetting(tool_, writingEnabled)); });
+    const bool enabled = step.value(
+        false, [&] { return equalsTrue(GetConfigurationSetting(tool_, writingEnabled)); });
     chkDiagnosticOutput.setChecked(enabled);
-    step([&] { path = getRegistryText(tool_, logManagerKey, logFolderValue); });
+    const std::string path =
+        step.value("", [&] { return getRegistryText(tool_, logManagerKey, logFolderValue); });
     txtLocationOfLogFiles.setText(path);
     m_bPathChanged = false;
     step.exitProc();
 }
 
-/// The steps of the list, and the current value in its place among them. As place 0 also stands
-/// for "not found yet", a value of 100 or less comes twice, and the second one is selected.
+/// The steps of the list, and the current value in its row among them. As index 0 also stands for
+/// "not found yet", a value of 100 or less comes twice, and the second one is selected.
 void ppgConfLogSettings::fillMaxSpace(std::int32_t current)
 {
     int selected = 0;
@@ -121,10 +121,9 @@ void ppgConfLogSettings::fillCycleDiagnosticLogs()
 void ppgConfLogSettings::cmdLogFileLocationBrowse_Click()
 {
     ErrorTrap step{tool_, pageName, "cmdLogFileLocationBrowse_Click"};
-    std::string picked;
 
     step.enterProc();
-    step([&] { picked = selectDirectory(tool_); });
+    const std::string picked = step.value("", [&] { return selectDirectory(tool_); });
     if (!picked.empty()) txtLocationOfLogFiles.setText(picked);
     step.exitProc();
 }

@@ -39,18 +39,16 @@ struct Merge {
 
     void addGroup()
     {
-        XmlElementPtr group;
-        std::vector<XmlElementPtr> traces;
-        step([&] { group = file->selectSingleNode("GA"); });
-        step([&] { traces = required(group).selectNodes("TRACE"); });
+        const XmlElementPtr group =
+            step.value(nullptr, [&] { return file->selectSingleNode("GA"); });
+        const auto traces = step.value({}, [&] { return required(group).selectNodes("TRACE"); });
         for (const auto& trace : traces) mark(trace);
         step([&] { required(tool.g_domMacroTraces->documentElement()).appendChild(group); });
     }
 
     void addTraces(XmlElement& group)
     {
-        std::vector<XmlElementPtr> traces;
-        step([&] { traces = file->selectNodes("GA/TRACE"); });
+        const auto traces = step.value({}, [&] { return file->selectNodes("GA/TRACE"); });
         for (const auto& trace : traces) {
             mark(trace);
             step([&] { group.appendChild(trace); });
@@ -78,14 +76,13 @@ void mdlTraces::initMacroTraces(ToolContext& tool)
 {
     ErrorTrap step{tool, moduleName, "initMacroTraces", countedTrap};
     Merge merge{tool, step, nullptr, {}, nullptr, {}};
-    std::vector<std::string> fileNames;
 
     step.body([&] {
         step.enterProc();
         step([&] { tool.g_domMacroTraces = tool.platform.xml.newDocument(); });
         step([&] { tool.g_domMacroTraces->appendDocumentElement("HYBRIDTRACES"); });
         step([&] { merge.file = tool.platform.xml.newDocument(); });
-        step([&] { fileNames = definitionFiles(tool); });
+        const auto fileNames = step.value({}, [&] { return definitionFiles(tool); });
         for (const auto& fileName : fileNames) merge.addFile(fileName);
         step.exitProc();
     });
@@ -95,8 +92,8 @@ void mdlTraces::appendEnabledAttribute(ToolContext& tool, const XmlElementPtr& t
                                        const std::string& groupName, const std::string& traceName)
 {
     ErrorTrap step{tool, moduleName, "appendEnabledAttribute"};
-    std::int16_t enabled = 0;
-    step([&] { enabled = isenabledMacroTrace(tool, groupName, traceName); });
+    const std::int16_t enabled =
+        step.value(0, [&] { return isenabledMacroTrace(tool, groupName, traceName); });
     step(
         [&] { required(traceElement).setAttribute("Enabled", numberText(std::int64_t{enabled})); });
 }

@@ -21,21 +21,20 @@ using Combine = std::int32_t (*)(std::int32_t mask, std::int32_t flags);
 void changeComponents(ToolContext& tool, ErrorTrap& step, const XmlElementPtr& traceNode,
                       Combine combine)
 {
-    std::vector<XmlElementPtr> components;
     std::string name;
     std::int32_t flags = 0;
     std::vector<XmlElementPtr> levels;
     int level = 0;
-    step([&] { components = required(traceNode).selectNodes("DIAG"); });
+    const auto components = step.value({}, [&] { return required(traceNode).selectNodes("DIAG"); });
     countedWalk(step, 0, static_cast<int>(components.size()) - 1, [&](int index) {
         const XmlElementPtr& component = components[static_cast<std::size_t>(index)];
         step([&] { name = requiredAttribute(component, "GROUP"); });
         flags = mdlOrvanDatabase::getFlags(tool, name, flagKind::current);
         step([&] { levels = component->selectNodes("FLAG"); });
-        countedWalk(step, 0, static_cast<int>(levels.size()) - 1, [&](int place) {
+        countedWalk(step, 0, static_cast<int>(levels.size()) - 1, [&](int position) {
             step([&] {
                 level = mdlTraces::leadingLevel(
-                    requiredAttribute(levels[static_cast<std::size_t>(place)], "ID"));
+                    requiredAttribute(levels[static_cast<std::size_t>(position)], "ID"));
             });
             step([&] { flags = combine(mdlTraces::levelMask(tool, level), flags); });
         });

@@ -24,8 +24,8 @@ std::string traceKey(const std::string& groupName, const std::string& traceName)
 
 void ensureKey(ToolContext& tool, ErrorTrap& step, const std::string& path)
 {
-    bool exists = false;
-    step([&] { exists = registryKeyExists(tool, registryRoot::localMachine, path); });
+    const bool exists = step.value(
+        false, [&] { return registryKeyExists(tool, registryRoot::localMachine, path); });
     if (!exists) step([&] { createRegistryKey(tool, registryRoot::localMachine, path); });
 }
 
@@ -68,9 +68,7 @@ std::int16_t mdlTraces::isenabledMacroTrace(ToolContext& tool, const std::string
                                             const std::string& traceName)
 {
     ErrorTrap step{tool, moduleName, "isenabledMacroTrace"};
-    std::int16_t enabled = 0;
-    step([&] {
-        enabled = toInteger16(getRegistryNumber(tool, traceKey(groupName, traceName), "Enabled"));
+    return step.value(0, [&] {
+        return toInteger16(getRegistryNumber(tool, traceKey(groupName, traceName), "Enabled"));
     });
-    return enabled;
 }

@@ -31,10 +31,8 @@ std::string componentNameOf(std::string_view text)
 bool mdlTraces::isTraceLevelSet(ToolContext& tool, int level, const std::string& componentName)
 {
     ErrorTrap step{tool, moduleName, "isTraceLevelSet"};
-    bool isSet = false;
     const std::int32_t flags = mdlOrvanDatabase::getFlags(tool, componentName, flagKind::current);
-    step([&] { isSet = (levelMask(tool, level) & flags) > 0; });
-    return isSet;
+    return step.value(false, [&] { return (levelMask(tool, level) & flags) > 0; });
 }
 
 void mdlTraces::configureMicroTrace(ToolContext& tool, const TreeView& tree)

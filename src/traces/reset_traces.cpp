@@ -74,16 +74,16 @@ void forEachSubkey(ToolContext& tool, ErrorTrap& step, const std::string& path, 
     for (int index = first; index <= last; ++index) {
         const std::string& name = names.at(index);
         const std::string subkey = path + "\\" + name;
-        bool exists = false;
-        step([&] { exists = registryKeyExists(tool, registryRoot::localMachine, subkey); });
+        const bool exists = step.value(
+            false, [&] { return registryKeyExists(tool, registryRoot::localMachine, subkey); });
         if (exists) visit(name, subkey);
     }
 }
 
 void recordAllAsOff(ToolContext& tool, ErrorTrap& step)
 {
-    bool everRecorded = false;
-    step([&] { everRecorded = registryKeyExists(tool, registryRoot::localMachine, toolKey); });
+    const bool everRecorded = step.value(
+        false, [&] { return registryKeyExists(tool, registryRoot::localMachine, toolKey); });
     if (!everRecorded) return;
     KeyNames groups;
     KeyNames traces;
@@ -100,21 +100,19 @@ void recordAllAsOff(ToolContext& tool, ErrorTrap& step)
 void mdlTraces::enableStandardTraces(ToolContext& tool)
 {
     ErrorTrap step{tool, moduleName, "enableStandardTraces", countedTrap};
-    std::unique_ptr<DatabaseRecordset> rows;
     const auto command = tool.g_connection.createCommand();
     FlagWords words;
 
     step.body([&] {
         step.enterProc();
-        step([&] {
-            rows = tool.g_connection.openRecordset(
+        const auto rows = step.value(nullptr, [&] {
+            return tool.g_connection.openRecordset(
                 "SELECT Name, ObjectId, DefaultFlags, Flags FROM vw_LoggerDiagnosticGrid ORDER BY "
                 "Name",
                 CursorKind::keyset, LockKind::optimistic);
         });
         for (;;) {
-            bool more = false;
-            step([&] { more = !required(rows).atEnd(); });
+            const bool more = step.value(false, [&] { return !required(rows).atEnd(); });
             if (!more) break;
             restoreDefaults(tool, step, *rows, *command, words);
             step([&] { rows->moveNext(); });
