@@ -40,14 +40,14 @@ void mdlLogs::processOrvanDataFileToDB(ToolContext& tool, const std::string& fil
     LogReading reading(tool, step, progressCurrent, label);
     FrameReading frame(step, dateStart, dateEnd);
     TraceRow row(tool, step, recordset);
-    std::string process;
     step.specialCase(
         [&](const RunTimeError& error) { return afterErrorAtLine(tool, reading.line(), error); });
 
     step.enterProc();
     if (reading.open(fileName)) {
         frame.begin(reading);
-        step([&] { process = processNameFromFileName(fileName); });
+        const std::string process =
+            step.value("", [&] { return processNameFromFileName(fileName); });
         addLinesOfFrame(tool, step, reading, frame, process, row);
         reading.finish();
     }

@@ -7,12 +7,11 @@
 std::string mdlLogs::getLogFileDestinationDirectory(ToolContext& tool)
 {
     ErrorTrap step{tool, "mdlLogs", "getLogFileDestinationDirectory"};
-    std::string temporaryFolder;
-    std::string longForm;
-    std::string destination;
 
-    step([&] { temporaryFolder = tool.platform.files.specialFolder(SpecialFolder::temporary); });
-    step([&] { longForm = tool.platform.files.longPathName(temporaryFolder); });
-    step([&] { destination = longForm + "\\LogsFrom" + fileStamp(tool.platform.clock.now()); });
-    return destination;
+    const std::string temporaryFolder =
+        step.value("", [&] { return tool.platform.files.specialFolder(SpecialFolder::temporary); });
+    const std::string longForm =
+        step.value("", [&] { return tool.platform.files.longPathName(temporaryFolder); });
+    return step.value(
+        "", [&] { return longForm + "\\LogsFrom" + fileStamp(tool.platform.clock.now()); });
 }

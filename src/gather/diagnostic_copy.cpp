@@ -19,13 +19,12 @@ void mdlLogs::processOrvanLogFile(ToolContext& tool, const std::string& fileName
         [&](const RunTimeError& error) { return afterErrorAtLine(tool, reading.line(), error); });
 
     if (reading.open(fileName)) {
-        std::string target;
-        std::unique_ptr<TextWriter> copy;
         std::string formatted;
-        step([&] {
-            target = destination + "\\" + mdlDiagnostics::appendFormattedTagToFile(tool, fileName);
+        const std::string target = step.value("", [&] {
+            return destination + "\\" + mdlDiagnostics::appendFormattedTagToFile(tool, fileName);
         });
-        step([&] { copy = tool.platform.files.createTextFile(target); });
+        const auto copy =
+            step.value(nullptr, [&] { return tool.platform.files.createTextFile(target); });
 
         while (reading.nextLine()) {
             if (!tool.g_bDebugMode)

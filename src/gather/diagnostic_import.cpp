@@ -71,7 +71,6 @@ void mdlLogs::processOrvanLogFileToDB(ToolContext& tool, const std::string& file
     LogReading reading(tool, step, progressCurrent, label);
     FrameReading frame(step, dateStart, dateEnd);
     TraceRow row(tool, step, recordset);
-    std::string process;
     step.specialCase(
         [&](const RunTimeError& error) { return afterErrorAtLine(tool, reading.line(), error); });
 
@@ -80,7 +79,8 @@ void mdlLogs::processOrvanLogFileToDB(ToolContext& tool, const std::string& file
         step.log("Processing " + fileName, logLevel::info);
         if (reading.open(fileName)) {
             frame.begin(reading);
-            step([&] { process = processNameFromFileName(fileName); });
+            const std::string process =
+                step.value("", [&] { return processNameFromFileName(fileName); });
             addLinesOfFrame(tool, step, reading, frame, process, row);
             reading.finish();
         }

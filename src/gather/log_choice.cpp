@@ -17,10 +17,9 @@ StringArray mdlLogs::getAllLogsForProcess(ToolContext& tool, const std::string& 
 {
     ErrorTrap step{tool, "mdlLogs", "getAllLogsForProcess"};
     const std::string pattern = tool.g_strLogFolder + "\\" + logFileNames::logsOfProcess(process);
-    std::vector<std::string> names;
     StringArray logs;
 
-    step([&] { names = tool.platform.files.matching(pattern); });
+    auto names = step.value({}, [&] { return tool.platform.files.matching(pattern); });
     logs.clear(static_cast<int>(names.size()));
     int index = 1;
     for (std::string& name : names) logs.set(index++, std::move(name));
@@ -30,12 +29,12 @@ StringArray mdlLogs::getAllLogsForProcess(ToolContext& tool, const std::string& 
 std::vector<std::string> mdlLogs::defineStandardLogs(ToolContext& tool)
 {
     ErrorTrap step{tool, "mdlLogs", "defineStandardLogs"};
-    bool keyExists = false;
-    std::string names;
 
-    step([&] { keyExists = registryKeyExists(tool, registryRoot::localMachine, toolKey); });
+    const bool keyExists = step.value(
+        false, [&] { return registryKeyExists(tool, registryRoot::localMachine, toolKey); });
     if (!keyExists) step([&] { createRegistryKey(tool, registryRoot::localMachine, toolKey); });
-    step([&] { names = getRegistryText(tool, toolKey, standardLogsValue); });
+    std::string names =
+        step.value("", [&] { return getRegistryText(tool, toolKey, standardLogsValue); });
     if (names.empty()) {
         names = defaultLogs;
         step([&] {

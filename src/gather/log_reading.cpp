@@ -41,8 +41,7 @@ LogReading::~LogReading() = default;
 bool LogReading::open(const std::string& fileName)
 {
     const std::string path = tool_.g_strLogFolder + "\\" + fileName;
-    bool exists = false;
-    step_([&] { exists = tool_.platform.files.fileExists(path); });
+    const bool exists = step_.value(false, [&] { return tool_.platform.files.fileExists(path); });
     if (!exists) {
         step_([&] {
             tool_.platform.desktop.messageBox(myLoadResString(tool_, TextId::logFile) + path +
@@ -67,8 +66,7 @@ const FileInfo& LogReading::file() const
 
 bool LogReading::nextLine()
 {
-    bool atEnd = true;
-    step_([&] { atEnd = objectOf(reader_).atEnd(); });
+    const bool atEnd = step_.value(true, [&] { return objectOf(reader_).atEnd(); });
     if (atEnd || failuresInARow_ > readFailuresAllowed) return false;
 
     ++failuresInARow_;

@@ -69,8 +69,8 @@ public:
     /// The line of a file to pack; none when the file is not there.
     void member(const std::string& path)
     {
-        bool exists = false;
-        step_([&] { exists = tool_.platform.files.fileExists(path); });
+        const bool exists =
+            step_.value(false, [&] { return tool_.platform.files.fileExists(path); });
         if (exists) line(quoted(path));
     }
 
@@ -90,10 +90,10 @@ private:
 void writeDirectives(ToolContext& tool, ErrorTrap& step, const std::string& destination,
                      const std::string& databasePath)
 {
-    std::string cabinet;
     Directives directives(tool, step, !fitsOneByte(destination + databasePath));
     directives.create(inFolder(destination, toolFiles::directiveFile));
-    step([&] { cabinet = resultName(tool, toolFiles::cabinetEnding); });
+    const std::string cabinet =
+        step.value("", [&] { return resultName(tool, toolFiles::cabinetEnding); });
     directives.line(".Option EXPLICIT");
     directives.line(".Set CabinetNameTemplate=..\\" + cabinet);
     directives.line(".Set Cabinet=on");
@@ -109,7 +109,6 @@ void writeDirectives(ToolContext& tool, ErrorTrap& step, const std::string& dest
 void runCabinetMaker(ToolContext& tool, ErrorTrap& step, const std::string& destination)
 {
     FileSystem& files = tool.platform.files;
-    std::int32_t process = 0;
 
     step([&] { files.changeDrive(files.driveName(destination)); });
     step([&] { files.changeFolder(destination); });
@@ -120,7 +119,8 @@ void runCabinetMaker(ToolContext& tool, ErrorTrap& step, const std::string& dest
     const std::string command = quoted(inFolder(destination, cabinetMakerCommand)) + " /f " +
                                 quoted(inFolder(destination, toolFiles::directiveFile));
     step.log("Command: " + command, logLevel::info);
-    step([&] { process = tool.platform.processes.start(command, WindowStyle::hidden); });
+    const std::int32_t process =
+        step.value(0, [&] { return tool.platform.processes.start(command, WindowStyle::hidden); });
     step([&] { waitForProcess(tool, process, endlessly); });
 }
 
@@ -139,10 +139,10 @@ void cleanUp(ToolContext& tool, ErrorTrap& step, const std::string& destination)
 std::string mdlLogs::createNewDB(ToolContext& tool, const std::string& destination)
 {
     ErrorTrap step{tool, "mdlLogs", "createNewDB"};
-    std::string path;
 
     step.enterProc();
-    step([&] { path = destination + "\\" + resultName(tool, toolFiles::databaseEnding); });
+    std::string path = step.value(
+        "", [&] { return destination + "\\" + resultName(tool, toolFiles::databaseEnding); });
     step([&] {
         tool.platform.files.copyFile(
             inFolder(tool.platform.module.folder(), toolFiles::blankDatabase), path);

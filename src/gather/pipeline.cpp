@@ -47,8 +47,8 @@ struct Gather {
 
 void makeDestination(Gather& run)
 {
-    bool exists = false;
-    run.step([&] { exists = run.tool.platform.files.folderExists(run.destination); });
+    const bool exists = run.step.value(
+        false, [&] { return run.tool.platform.files.folderExists(run.destination); });
     if (!exists) run.step([&] { run.tool.platform.files.createPrivateFolder(run.destination); });
 }
 
@@ -82,12 +82,11 @@ void gatherEventLog(Gather& run, const std::string& logName)
 
 void gatherLeaf(Gather& run, TreeNode& leaf)
 {
-    std::string path;
     run.step([&] { leaf.setBold(true); });
     run.step([&] { leaf.ensureVisible(); });
     run.step([&] { run.treeview.refresh(); });
 
-    run.step([&] { path = leaf.fullPath(); });
+    const std::string path = run.step.value("", [&] { return leaf.fullPath(); });
     const std::string log = leaf.text();
     if (!log.empty()) {
         if (beginsWith(path, mdlLogs::orvanLogsBranch))

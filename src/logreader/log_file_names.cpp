@@ -28,16 +28,14 @@ bool logFileNames::isFormattedCopy(std::string_view name)
 std::string mdlDiagnostics::getCurrentDiagnosticFile(ToolContext& tool, const std::string& process)
 {
     ErrorTrap step{tool, "mdlDiagnostics", "getCurrentDiagnosticFile"};
-    std::string path;
-    bool exists = false;
     std::string name;
 
     step.enterProc();
-    step([&] {
-        path =
-            getRegistryText(tool, std::string(logProcessesKey) + "\\" + process, currentLogValue);
+    const std::string path = step.value("", [&] {
+        return getRegistryText(tool, std::string(logProcessesKey) + "\\" + process,
+                               currentLogValue);
     });
-    step([&] { exists = tool.platform.files.fileExists(path); });
+    const bool exists = step.value(false, [&] { return tool.platform.files.fileExists(path); });
     if (exists) name = fileNameOf(path);
     step.exitProc();
     return name;
@@ -48,19 +46,18 @@ Date mdlDiagnostics::parseDateFromFileName(ToolContext& tool, const std::string&
 {
     ErrorTrap step{tool, "mdlDiagnostics", "parseDateFromFileName"};
     int position = 0;
-    std::string dateText;
-    std::string timeText;
-    Date opened;
     const auto digits = [&](int offset, int count) {
         return std::string(mid(fileName, position + offset, count));
     };
 
     step.enterProc();
     position = static_cast<int>(positionOf(fileName, process) + process.size() + 1);
-    step([&] { dateText = digits(4, 2) + "/" + digits(6, 2) + "/" + digits(0, 4); });
+    const std::string dateText =
+        step.value("", [&] { return digits(4, 2) + "/" + digits(6, 2) + "/" + digits(0, 4); });
     position += 9;
-    step([&] { timeText = digits(0, 2) + ":" + digits(2, 2) + ":" + digits(4, 2); });
-    step([&] { opened = parseDate(dateText + " " + timeText); });
+    const std::string timeText =
+        step.value("", [&] { return digits(0, 2) + ":" + digits(2, 2) + ":" + digits(4, 2); });
+    const Date opened = step.value(Date{}, [&] { return parseDate(dateText + " " + timeText); });
     step.exitProc();
     return opened;
 }

@@ -43,9 +43,8 @@ constexpr Header extendedHeaders[] = {{7, TextId::thread, 40},
 
 void makeColumns(ErrorTrap& step, bool extended, ResultView& resultView)
 {
-    int present = 0;
     int missing = 0;
-    step([&] { present = resultView.list().columnCount(); });
+    const int present = step.value(0, [&] { return resultView.list().columnCount(); });
     if (present == 0) {
         missing = extended ? extendedColumnCount : columnCount;
     } else if (extended && present != extendedColumnCount) {
@@ -70,10 +69,8 @@ void setHeaders(ErrorTrap& step, ToolContext& tool, ResultView& resultView,
 /// The key itself when it names a file, as an opened log's does, or else a file of the log folder.
 std::string logPath(ErrorTrap& step, ToolContext& tool, ResultView& resultView)
 {
-    std::string key;
-    bool isPath = false;
-    step([&] { key = resultView.scopePaneItem().key(); });
-    step([&] { isPath = tool.platform.files.fileExists(key); });
+    const std::string key = step.value("", [&] { return resultView.scopePaneItem().key(); });
+    const bool isPath = step.value(false, [&] { return tool.platform.files.fileExists(key); });
     return isPath ? key : tool.g_strLogFolder + "\\" + key;
 }
 
@@ -201,9 +198,6 @@ void mdlSnapIn::populateListViewDiagLog(ToolContext& tool, ResultView& resultVie
 {
     ErrorTrap step{tool, "mdlSnapIn", "populateListViewDiagLog"};
     FileSystem& files = tool.platform.files;
-    bool exists = false;
-    std::int64_t size = 0;
-    std::unique_ptr<TextReader> reader;
 
     step.enterProc();
     step([&] { view.statusBarText(myLoadResString(tool, TextId::formattingLog)); });
@@ -211,12 +205,12 @@ void mdlSnapIn::populateListViewDiagLog(ToolContext& tool, ResultView& resultVie
     nameLogLineColumns(tool, resultView);
 
     const std::string path = logPath(step, tool, resultView);
-    step([&] { exists = files.fileExists(path); });
+    const bool exists = step.value(false, [&] { return files.fileExists(path); });
     if (!exists) return sayNotFound(step, tool, path);
-    step([&] { size = files.file(path).size; });
+    const std::int64_t size = step.value(0, [&] { return files.file(path).size; });
     if (size > largestShownLog) return sayTooLarge(step, tool, path);
 
-    step([&] { reader = files.openForReading(path); });
+    const auto reader = step.value(nullptr, [&] { return files.openForReading(path); });
     RowReader(step, tool, resultView, view, size).readAll(reader.get());
     step([&] { required(reader.get()).close(); });
     step([&] { view.statusBarText(myLoadResString(tool, TextId::formatCompleted)); });

@@ -63,16 +63,14 @@ void mdlSnapIn::nameLogFileColumns(ToolContext& tool, ResultView& resultView)
 void mdlSnapIn::populateListViewAllLogs(ToolContext& tool, ResultView& resultView)
 {
     ErrorTrap step{tool, "mdlSnapIn", "populateListViewAllLogs"};
-    std::string process;
-    std::vector<std::string> names;
     Integer16 rowIndex = 1;
 
     step.enterProc();
     nameLogFileColumns(tool, resultView);
-    step([&] { process = resultView.scopePaneItem().name(); });
-    step([&] {
-        names = tool.platform.files.matching(tool.g_strLogFolder + "\\" +
-                                             logFileNames::logsOfProcess(process));
+    const std::string process = step.value("", [&] { return resultView.scopePaneItem().name(); });
+    const auto names = step.value({}, [&] {
+        return tool.platform.files.matching(tool.g_strLogFolder + "\\" +
+                                            logFileNames::logsOfProcess(process));
     });
     for (const auto& name : names) {
         if (logFileNames::isFormattedCopy(name)) continue;

@@ -32,8 +32,8 @@ void removeLogNodes(ErrorTrap& step, ScopeTree& scopeItems, const std::string& p
 void addLogNode(ErrorTrap& step, ToolContext& tool, ScopeTree& scopeItems, ScopeItem& processNode,
                 const std::string& fileName, const std::string& displayName)
 {
-    ScopeItem* node = nullptr;
-    step([&] { node = &scopeItems.addChild(snapinNode::log, fileName, processNode); });
+    ScopeItem* const node = step.value(
+        nullptr, [&] { return &scopeItems.addChild(snapinNode::log, fileName, processNode); });
     step([&] { required(node).name(fileName); });
     step([&] { required(node).displayName(displayName); });
     step([&] { required(node).kind(mdlSnapIn::kindLogFile); });
@@ -44,7 +44,7 @@ void addLogNode(ErrorTrap& step, ToolContext& tool, ScopeTree& scopeItems, Scope
 }
 
 /// Names from index 1 on, as the folder search gives them, without formatted copies and the log in
-/// use. The position is a 16-bit one: past its range the last place is written again and again.
+/// use. The position is a 16-bit one: past its range the last name is written again and again.
 struct LogNames {
     std::vector<std::string> names = std::vector<std::string>(firstRoom + 1);
     Integer16 position = 1; ///< of the next name
@@ -53,11 +53,10 @@ struct LogNames {
 void collectOtherLogs(ErrorTrap& step, ToolContext& tool, const std::string& process,
                       const std::string& pattern, LogNames& logs)
 {
-    std::vector<std::string> found;
-    step([&] { found = tool.platform.files.matching(pattern); });
+    const auto found = step.value({}, [&] { return tool.platform.files.matching(pattern); });
     for (const auto& name : found) {
-        bool current = false;
-        step([&] { current = name == mdlDiagnostics::getCurrentDiagnosticFile(tool, process); });
+        const bool current = step.value(
+            false, [&] { return name == mdlDiagnostics::getCurrentDiagnosticFile(tool, process); });
         if (current || logFileNames::isFormattedCopy(name)) continue;
         step([&] { logs.names.at(static_cast<std::size_t>(logs.position.value())) = name; });
         step([&] { ++logs.position; });
@@ -98,7 +97,6 @@ void mdlSnapIn::populateScopeAllLogs(ToolContext& tool, ScopeTree& scopeItems,
                                      ScopeItem& processNode)
 {
     ErrorTrap step{tool, "mdlSnapIn", "populateScopeAllLogs"};
-    std::string current;
     LogNames logs;
 
     step.enterProc();
@@ -106,7 +104,8 @@ void mdlSnapIn::populateScopeAllLogs(ToolContext& tool, ScopeTree& scopeItems,
     const std::string pattern = tool.g_strLogFolder + "\\" + logFileNames::logsOfProcess(process);
     removeLogNodes(step, scopeItems, process);
     step([&] { tool.platform.clock.sleep(logManagerDelay); });
-    step([&] { current = mdlDiagnostics::getCurrentDiagnosticFile(tool, process); });
+    const std::string current =
+        step.value("", [&] { return mdlDiagnostics::getCurrentDiagnosticFile(tool, process); });
     if (!current.empty()) {
         addLogNode(step, tool, scopeItems, processNode, current, "Current- " + current);
     }

@@ -161,7 +161,6 @@ void snapinOrvanDiagnostics::mnuOpenLogFile_click()
     ScopeTree& scopeItems = console_.scopeItems();
     View& view = console_.currentView();
     std::string path;
-    ScopeItem* opened = nullptr;
     const auto savedLogs = [&]() -> ScopeItem& { return required(m_SavedLogsItem.lock().get()); };
     step.specialCase([&](const RunTimeError& error) {
         if (error.number() != runTimeErrors::scopeItemExists) return Resume::asUsual;
@@ -184,8 +183,9 @@ void snapinOrvanDiagnostics::mnuOpenLogFile_click()
         step([&] { savedLogs().kind(mdlSnapIn::kindLogProcess); });
     }
     step([&] { view.select(savedLogs()); });
-    step(
-        [&] { opened = &scopeItems.addChild(snapinNode::log, path, console_.currentScopeItem()); });
+    ScopeItem* const opened = step.value(nullptr, [&] {
+        return &scopeItems.addChild(snapinNode::log, path, console_.currentScopeItem());
+    });
     step([&] { required(opened).name(path); });
     step([&] { required(opened).displayName(path); });
     step([&] { required(opened).kind(mdlSnapIn::kindLogFile); });

@@ -38,7 +38,6 @@ snapinOrvanDiagnostics::~snapinOrvanDiagnostics() = default;
 void snapinOrvanDiagnostics::SnapIn_Initialize()
 {
     ErrorTrap step{tool_, "snapinOrvanDiagnostics", "SnapIn_Initialize"};
-    ServerVersion server;
 
     step.enterProc();
     step([&] { InitalizeLanguages(tool_); });
@@ -47,7 +46,7 @@ void snapinOrvanDiagnostics::SnapIn_Initialize()
     step([&] { console_.identity().description = descriptionText(tool_); });
     step([&] { console_.identity().helpFileName = mdlHTMLHelp::getHelpFileName(tool_); });
     step([&] { console_.identity().version = moduleVersionText(tool_.platform.module); });
-    step([&] { server = mdlOrvan::getVersion(tool_); });
+    const ServerVersion server = step.value({}, [&] { return mdlOrvan::getVersion(tool_); });
     if (logsExtendedFields(server)) tool_.g_bExtendedLogFields = true;
     step.exitProc();
 }

@@ -46,10 +46,10 @@ void snapinOrvanDiagnostics::openSheet(const char* routine, int kind)
     ErrorTrap step{tool_, moduleName, routine};
     PropertySheetProvider& sheets = console_.currentView().propertySheetProvider();
     const SheetDefinition& definition = *sheetDefinition(kind);
-    ScopeItem* subject = nullptr;
 
     step.enterProc();
-    step([&] { subject = &console_.scopeItems().item(rootKey); });
+    ScopeItem* const subject =
+        step.value(nullptr, [&] { return &console_.scopeItems().item(rootKey); });
     m_WizardKind = kind;
     step([&] {
         sheets.createPropertySheet(definition.sheetTitle, definition.type, required(subject));

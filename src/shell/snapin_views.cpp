@@ -22,9 +22,9 @@ void snapinOrvanDiagnostics::ScopeItems_Expand(ScopeItem& item)
 
     step.enterProc();
     if (item.kind() == mdlSnapIn::kindProcesses) {
-        bool placeholder = false;
         step([&] { mdlSnapIn::populateScopeProcesses(tool_, scopeItems, item); });
-        step([&] { placeholder = scopeItems.item(2).displayName() == processesPlaceholder; });
+        const bool placeholder = step.value(
+            false, [&] { return scopeItems.item(2).displayName() == processesPlaceholder; });
         if (placeholder) step([&] { scopeItems.item(2).displayName("Processes"); });
     } else if (item.kind() == mdlSnapIn::kindLogProcess) {
         step([&] { mdlSnapIn::populateScopeAllLogs(tool_, scopeItems, item); });
@@ -36,10 +36,9 @@ void snapinOrvanDiagnostics::ScopeItems_Expand(ScopeItem& item)
 void snapinOrvanDiagnostics::refreshScopeItems()
 {
     ErrorTrap step{tool_, moduleName, "refreshScopeItems"};
-    std::vector<std::string> keys;
 
     step.enterProc();
-    step([&] { keys = tool_.g_dictProcessItems.keys(); });
+    const auto keys = step.value({}, [&] { return tool_.g_dictProcessItems.keys(); });
     for (const auto& key : keys) {
         step([&] {
             const auto process = tool_.g_dictProcessItems.item(key).lock();
@@ -98,13 +97,13 @@ void snapinOrvanDiagnostics::Views_Select(View&, ScopeItem&, bool, ConsoleVerbs&
 void snapinOrvanDiagnostics::Views_Refresh(View&, ScopeItem&)
 {
     ErrorTrap step{tool_, moduleName, "Views_Refresh"};
-    std::string displayString;
-    ResultViewType type = ResultViewType::list;
     View& current = console_.currentView();
 
     step.enterProc();
-    step([&] { displayString = current.selectedScopePaneItem().resultView().displayString(); });
-    step([&] { type = current.selectedScopePaneItem().resultView().type(); });
+    const std::string displayString = step.value(
+        "", [&] { return current.selectedScopePaneItem().resultView().displayString(); });
+    const ResultViewType type = step.value(
+        ResultViewType::list, [&] { return current.selectedScopePaneItem().resultView().type(); });
     step([&] { current.display(displayString, type); });
     step([&] { refreshScopeItems(); });
     step.exitProc();

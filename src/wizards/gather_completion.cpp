@@ -87,15 +87,15 @@ void ppgGatherLogs99Final::cmdOpenWindowsExplorer_Click()
 void ppgGatherLogs99Final::cmdLaunchQRV_Click()
 {
     ErrorTrap step{tool(), pageName, "cmdLaunchQRV_Click", countedTrapWithLine};
-    std::string path;
-    std::string command;
 
     step.body([&] {
         step.enterProc();
-        step([&] { path = getRegistryText(tool(), viewerKey, "Path"); });
+        std::string path =
+            step.value("", [&] { return getRegistryText(tool(), viewerKey, "Path"); });
         if (!path.empty()) {
             step([&] { path = expandPath(tool(), path); });
-            step([&] { command = path + " -db \"" + tool().g_strTraceDatabase + "\""; });
+            const std::string command =
+                step.value("", [&] { return path + " -db \"" + tool().g_strTraceDatabase + "\""; });
             step.log(command, logLevel::error);
             step([&] { tool().platform.processes.start(command, WindowStyle::normal); });
         }

@@ -18,12 +18,12 @@ constexpr const char* eventLogsKey = "System\\CurrentControlSet\\Services\\Event
 /// The names of the keys below one; none, and a logged error, when it can't be listed.
 std::vector<std::string> keyNames(ToolContext& tool, ErrorTrap& step, const std::string& path)
 {
-    KeyNames found;
     std::vector<std::string> names;
     int first = 0;
     int last = -1;
 
-    step([&] { found = enumRegistryKeys(tool, registryRoot::localMachine, path); });
+    const KeyNames found =
+        step.value({}, [&] { return enumRegistryKeys(tool, registryRoot::localMachine, path); });
     step([&] {
         first = found.lowerBound();
         last = found.upperBound();
@@ -125,12 +125,11 @@ void ppgGatherLogs01Step::IWizardPage_Next(int& NextPage)
 void ppgGatherLogs01Step::determineSelectedLogs()
 {
     ErrorTrap step{tool(), pageName, "determineSelectedLogs"};
-    const TreeNode* root = nullptr;
 
     step.enterProc();
     step([&] { SelectedControls(0).clearOrvanLogs(); });
     step([&] { SelectedControls(0).clearWindowsLogs(); });
-    step([&] { root = &treeviewLogsToGather.item(1); });
+    const TreeNode* root = step.value(nullptr, [&] { return &treeviewLogsToGather.item(1); });
     if (root) {
         for (const TreeNode* process = root->child(); process; process = process->next())
             addTicked(step, *process, &classTraceObject::addOrvanLog);

@@ -86,12 +86,9 @@ void ppgGatherLogs03Step::populateSteps()
 void ppgGatherLogs03Step::addSteps(ErrorTrap& step, std::string rootText,
                                    StringArray (classTraceObject::*logs)() const)
 {
-    StringArray names;
-    int last = 0;
-
     TreeNode& root = treeviewSteps.add(std::move(rootText));
-    step([&] { names = (SelectedControls(0).*logs)(); });
-    step([&] { last = names.upperBound(); });
+    const StringArray names = step.value({}, [&] { return (SelectedControls(0).*logs)(); });
+    const int last = step.value(0, [&] { return names.upperBound(); });
     for (int index = 1; index <= last; ++index)
         step([&] { treeviewSteps.addChild(root, names.at(index)).ensureVisible(); });
 }

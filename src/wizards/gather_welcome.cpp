@@ -67,9 +67,9 @@ void ppgGatherLogs00Welcome::IWizardPage_Activate(bool& EnableBack, int& NextOrF
 void ppgGatherLogs00Welcome::updateDestinationDirectory()
 {
     ErrorTrap step{tool(), pageName, "updateDestinationDirectory"};
-    bool unknown = false;
 
-    step([&] { unknown = SelectedControls(0).m_LogDestinationDirectory.empty(); });
+    const bool unknown =
+        step.value(false, [&] { return SelectedControls(0).m_LogDestinationDirectory.empty(); });
     if (unknown) {
         step([&] {
             SelectedControls(0).m_LogDestinationDirectory =
@@ -95,7 +95,6 @@ void ppgGatherLogs00Welcome::cmdChangeDestinationDirectory_Click()
 void ppgGatherLogs00Welcome::IWizardPage_Next(int& NextPage)
 {
     ErrorTrap step{tool(), pageName, "IWizardPage_Next"};
-    std::string currentLog;
 
     step.enterProc();
     step([&] { SelectedControls(0).clearOrvanLogs(); });
@@ -103,8 +102,8 @@ void ppgGatherLogs00Welcome::IWizardPage_Next(int& NextPage)
     if (optGatherLogs.isSelected(gatherOption::standard)) {
         step([&] { SelectedControls(0).m_bStandardLogs = true; });
         step([&] { SelectedControls(0).m_bTimeFrameLogs = false; });
-        step([&] {
-            currentLog = mdlDiagnostics::getCurrentDiagnosticFile(tool(), standardGatherProcess);
+        const std::string currentLog = step.value("", [&] {
+            return mdlDiagnostics::getCurrentDiagnosticFile(tool(), standardGatherProcess);
         });
         step([&] { SelectedControls(0).addOrvanLog(currentLog); });
         step([&] { SelectedControls(0).addWindowsLog("Application"); });

@@ -82,13 +82,12 @@ void ppgMacroTrace3Final::showSummary(ErrorTrap& step)
 {
     NameList enabled;
     NameList disabled;
-    std::shared_ptr<Dictionary<bool>> status;
     std::vector<std::string> keys;
 
     step([&] { lblSummary.setCaption({}); });
     step([&] { enabled.text = myLoadResString(tool(), TextId::macroTracesWereEnabled); });
     step([&] { disabled.text = myLoadResString(tool(), TextId::macroTracesWereDisabled); });
-    step([&] { status = SelectedControls(0).dictStatus; });
+    const auto status = step.value(nullptr, [&] { return SelectedControls(0).dictStatus; });
     step([&] {
         if (!status) throw RunTimeError(runTimeErrors::objectVariableNotSet);
         keys = status->keys();

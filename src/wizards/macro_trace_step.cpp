@@ -91,11 +91,10 @@ void ppgMacroTrace1::populateMacroTracesTreeview()
 void ppgMacroTrace1::addGroup(ErrorTrap& step, const XmlElementPtr& group)
 {
     TreeNode& node = treeviewMacroTrace.add();
-    XmlElementPtr description;
-    std::vector<XmlElementPtr> traces;
 
     step([&] { name_ = requiredAttribute(group, "NAME"); });
-    step([&] { description = group->selectSingleNode("DESCRIPTION"); });
+    const XmlElementPtr description =
+        step.value(nullptr, [&] { return group->selectSingleNode("DESCRIPTION"); });
     step([&] { node.setExpanded(false); });
     step([&] { node.setText(name_); });
     if (description)
@@ -103,7 +102,7 @@ void ppgMacroTrace1::addGroup(ErrorTrap& step, const XmlElementPtr& group)
     else
         step([&] { node.setKey(name_); });
     step([&] { node.setBold(true); });
-    step([&] { traces = group->selectNodes("TRACE"); });
+    const auto traces = step.value({}, [&] { return group->selectNodes("TRACE"); });
     countedWalk(step, 0, static_cast<int>(traces.size()) - 1, [&](int index) {
         addMacroTrace(step, node, traces[static_cast<std::size_t>(index)]);
     });
@@ -112,10 +111,10 @@ void ppgMacroTrace1::addGroup(ErrorTrap& step, const XmlElementPtr& group)
 /// A macro trace may not: its node stays without a key, and without a tool tip.
 void ppgMacroTrace1::addMacroTrace(ErrorTrap& step, TreeNode& groupNode, const XmlElementPtr& trace)
 {
-    XmlElementPtr description;
 
     step([&] { name_ = requiredAttribute(trace, "NAME"); });
-    step([&] { description = trace->selectSingleNode("DESCRIPTION"); });
+    const XmlElementPtr description =
+        step.value(nullptr, [&] { return trace->selectSingleNode("DESCRIPTION"); });
     TreeNode& node = treeviewMacroTrace.addChild(groupNode);
     step([&] { node.setExpanded(false); });
     step([&] { node.setText(name_); });

@@ -15,8 +15,8 @@ namespace {
 void addLogs(ToolContext& tool, ErrorTrap& step, const char* pattern, const TimeFrame& frame,
              std::optional<FileInfo>& file, classTraceObject& job)
 {
-    std::vector<std::string> names;
-    step([&] { names = tool.platform.files.matching(tool.g_strLogFolder + "\\" + pattern); });
+    const auto names = step.value(
+        {}, [&] { return tool.platform.files.matching(tool.g_strLogFolder + "\\" + pattern); });
     for (const std::string& name : names) {
         if (logFileNames::isFormattedCopy(name)) continue;
         bool overlaps = false;
