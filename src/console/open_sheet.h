@@ -34,7 +34,7 @@ public:
 /// runs the timers. It is made by `std::make_shared`, and stays alive until work that it began has
 /// returned, whoever lets go of it meanwhile. What a page's handler raises comes out of the call
 /// that ran the handler, after all that the call has to do; nothing else comes out.
-class OpenSheet : public PropertySheet, public std::enable_shared_from_this<OpenSheet> {
+class OpenSheet : public PageSheet, public std::enable_shared_from_this<OpenSheet> {
 public:
     OpenSheet(const OpenSheet&) = delete;
     OpenSheet& operator=(const OpenSheet&) = delete;

@@ -2,7 +2,7 @@
 
 #include <string>
 
-class PropertySheet;
+class PageSheet;
 class ScopeItem;
 
 /// What a sheet tells a page of a wizard. A handler without work leaves its arguments as they are.
@@ -32,8 +32,7 @@ public:
     virtual ~IMMCPropertyPage() = default;
 
     /// Comes once, before the page's first activation. `Data` is what the sheet is for, or null.
-    virtual void IMMCPropertyPage_Initialize(ScopeItem* /*Data*/, PropertySheet& /*PropertySheet*/)
-    {}
+    virtual void IMMCPropertyPage_Initialize(ScopeItem* /*Data*/, PageSheet& /*sheet*/) {}
 
     virtual void IMMCPropertyPage_Help() {}
 

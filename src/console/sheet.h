@@ -8,10 +8,11 @@ constexpr int finishEnabled = 2;
 constexpr int finishDisabled = 3;
 } // namespace wizardButton
 
-/// A wizard's sheet, as its pages see it. A sheet that is closed ignores its pages.
-class PropertySheet {
+/// A wizard's sheet, as its pages see it. A sheet that is closed ignores its pages. (The shorter
+/// name `PropertySheet` is a macro of a system header.)
+class PageSheet {
 public:
-    virtual ~PropertySheet() = default;
+    virtual ~PageSheet() = default;
 
     /// Changes the buttons while the page is on show; `nextOrFinish` is one of `wizardButton`.
     virtual void SetWizardButtons(bool enableBack, int nextOrFinish) = 0;

@@ -39,7 +39,7 @@ void ppgEventLogLanguage::ppgEventLogLanguage_Auto_Init()
                         {lblDescription, TextId::aboutEventLogLanguages}});
 }
 
-void ppgEventLogLanguage::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet&)
+void ppgEventLogLanguage::IMMCPropertyPage_Initialize(ScopeItem*, PageSheet&)
 {
     ErrorTrap step{tool_, pageName, "IMMCPropertyPage_Initialize"};
 

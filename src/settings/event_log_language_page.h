@@ -17,7 +17,7 @@ public:
 
     IMMCPropertyPage* propertyPage() override { return this; }
 
-    void IMMCPropertyPage_Initialize(ScopeItem* Data, PropertySheet& PropertySheet) override;
+    void IMMCPropertyPage_Initialize(ScopeItem* Data, PageSheet& sheet) override;
 
     /// Changes the registered message files to the selected language; nothing selected changes
     /// none. Every second delivery does nothing.

@@ -67,7 +67,7 @@ void ppgConfLogSettings::ppgConfLogSettings_Auto_Init()
                         {lblCycleDiagnosticLogs, TextId::cycleLogsEvery}});
 }
 
-void ppgConfLogSettings::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet&)
+void ppgConfLogSettings::IMMCPropertyPage_Initialize(ScopeItem*, PageSheet&)
 {
     ErrorTrap step{tool_, pageName, "IMMCPropertyPage_Initialize"};
 

@@ -18,7 +18,7 @@ public:
 
     /// Reads the settings. Selecting what is set is a change too, so the page may be applied as it
     /// is. What can't be read leaves its control empty, and a space of 0.
-    void IMMCPropertyPage_Initialize(ScopeItem* Data, PropertySheet& PropertySheet) override;
+    void IMMCPropertyPage_Initialize(ScopeItem* Data, PageSheet& sheet) override;
 
     /// Writes three configuration values, and the folder when its text was changed: then a box
     /// asks for a reboot. Every second delivery does nothing.

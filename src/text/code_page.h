@@ -14,7 +14,10 @@ public:
     explicit CodePage(const Table& characters) : characters_(characters) {}
 
     /// The character of a byte.
-    char16_t character(char byte) const { return characters_[static_cast<unsigned char>(byte)]; }
+    char16_t character(char encoded) const
+    {
+        return characters_[static_cast<unsigned char>(encoded)];
+    }
 
     /// Appends the characters of `bytes` in UTF-8.
     void appendUtf8(std::string& target, std::string_view bytes) const;

@@ -38,9 +38,9 @@ void ppgGatherLogs99Final::ppgGatherLogs99Final_Auto_Init()
                  {cmdLaunchQRV, TextId::openLogsInViewer}});
 }
 
-void ppgGatherLogs99Final::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet& PropertySheet)
+void ppgGatherLogs99Final::IMMCPropertyPage_Initialize(ScopeItem*, PageSheet& sheet)
 {
-    SelectedControls(0).m_PropertySheet(PropertySheet);
+    SelectedControls(0).m_PropertySheet(sheet);
 }
 
 void ppgGatherLogs99Final::IWizardPage_Activate(bool&, int& NextOrFinish, std::string&)

@@ -53,12 +53,12 @@ void ppgGatherLogs01Step::ppgGatherLogs01Step_Auto_Init()
                  {lblStepDescription, TextId::logSelectionDescription}});
 }
 
-void ppgGatherLogs01Step::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet& PropertySheet)
+void ppgGatherLogs01Step::IMMCPropertyPage_Initialize(ScopeItem*, PageSheet& sheet)
 {
     ErrorTrap step{tool(), pageName, "IMMCPropertyPage_Initialize"};
 
     step.enterProc();
-    step([&] { SelectedControls(0).m_PropertySheet(PropertySheet); });
+    step([&] { SelectedControls(0).m_PropertySheet(sheet); });
     step([&] { populateLogsToGather(); });
     step.exitProc();
 }

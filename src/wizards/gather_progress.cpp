@@ -41,10 +41,10 @@ void ppgGatherLogs03Step::ppgGatherLogs03Step_Auto_Init()
                  {lblOverallProgress, TextId::overallProgress}});
 }
 
-void ppgGatherLogs03Step::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet& PropertySheet)
+void ppgGatherLogs03Step::IMMCPropertyPage_Initialize(ScopeItem*, PageSheet& sheet)
 {
-    sheet_ = &PropertySheet;
-    SelectedControls(0).m_PropertySheet(PropertySheet);
+    sheet_ = &sheet;
+    SelectedControls(0).m_PropertySheet(sheet);
 }
 
 void ppgGatherLogs03Step::IMMCPropertyPage_QueryCancel(bool& Allow)

@@ -15,7 +15,7 @@ public:
 
     IMMCPropertyPage* propertyPage() override { return this; }
 
-    void IMMCPropertyPage_Initialize(ScopeItem* Data, PropertySheet& PropertySheet) override;
+    void IMMCPropertyPage_Initialize(ScopeItem* Data, PageSheet& sheet) override;
 
     /// Asks the run to end, and lets the sheet close at once.
     void IMMCPropertyPage_QueryCancel(bool& Allow) override;
@@ -48,5 +48,5 @@ private:
     void tmrDelayStart_Timer();
     void timerCheckForCancel_Timer();
 
-    PropertySheet* sheet_ = nullptr; ///< the page's own, whose Next the end of a run presses
+    PageSheet* sheet_ = nullptr; ///< the page's own, whose Next the end of a run presses
 };

@@ -64,12 +64,12 @@ void ppgGatherLogs02Step::ppgGatherLogs02Step_ControlInit()
                  {chkWindowsEventLogs_System, TextId::includeSystemEvents}});
 }
 
-void ppgGatherLogs02Step::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet& PropertySheet)
+void ppgGatherLogs02Step::IMMCPropertyPage_Initialize(ScopeItem*, PageSheet& sheet)
 {
     ErrorTrap step{tool(), pageName, "IMMCPropertyPage_Initialize"};
 
     step.enterProc();
-    step([&] { SelectedControls(0).m_PropertySheet(PropertySheet); });
+    step([&] { SelectedControls(0).m_PropertySheet(sheet); });
     step([&] { populateDefaultTimeRange(); });
     step([&] { chkWindowsEventLogs_Application.setChecked(true); });
     step([&] { chkWindowsEventLogs_System.setChecked(true); });

@@ -14,7 +14,7 @@ public:
 
     IMMCPropertyPage* propertyPage() override { return this; }
 
-    void IMMCPropertyPage_Initialize(ScopeItem* Data, PropertySheet& PropertySheet) override;
+    void IMMCPropertyPage_Initialize(ScopeItem* Data, PageSheet& sheet) override;
     void IWizardPage_Activate(bool& EnableBack, int& NextOrFinish,
                               std::string& FinishText) override;
     void IWizardPage_Back(int& NextPage) override;

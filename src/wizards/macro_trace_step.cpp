@@ -38,12 +38,12 @@ void ppgMacroTrace1::ppgMacroTrace1_Auto_Init()
                  {lblStepTitle, TextId::configureMacroTraces}});
 }
 
-void ppgMacroTrace1::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet& PropertySheet)
+void ppgMacroTrace1::IMMCPropertyPage_Initialize(ScopeItem*, PageSheet& sheet)
 {
     ErrorTrap step{tool(), pageName, "IMMCPropertyPage_Initialize"};
 
     step.enterProc();
-    step([&] { SelectedControls(0).m_PropertySheet(PropertySheet); });
+    step([&] { SelectedControls(0).m_PropertySheet(sheet); });
     step([&] { populateMacroTracesTreeview(); });
     step.exitProc();
 }

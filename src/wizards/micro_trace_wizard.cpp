@@ -58,12 +58,12 @@ void ppgMicroTrace01Step::ppgMicroTrace01Step_Auto_Init()
                  {lblStepTitle, TextId::configureMicroTraces}});
 }
 
-void ppgMicroTrace01Step::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet& PropertySheet)
+void ppgMicroTrace01Step::IMMCPropertyPage_Initialize(ScopeItem*, PageSheet& sheet)
 {
     ErrorTrap step{tool(), pageName, "IMMCPropertyPage_Initialize"};
 
     step.enterProc();
-    step([&] { SelectedControls(0).m_PropertySheet(PropertySheet); });
+    step([&] { SelectedControls(0).m_PropertySheet(sheet); });
     step([&] { populateMicroTracesTreeview(); });
     step.exitProc();
 }

@@ -28,9 +28,9 @@ void ppgDisableAllTraces0::ppgDisableAllTraces0_Auto_Init()
                  {lblWelcomeTitle, TextId::resetWelcome}});
 }
 
-void ppgDisableAllTraces0::IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet& PropertySheet)
+void ppgDisableAllTraces0::IMMCPropertyPage_Initialize(ScopeItem*, PageSheet& sheet)
 {
-    SelectedControls(0).m_PropertySheet(PropertySheet);
+    SelectedControls(0).m_PropertySheet(sheet);
 }
 
 void ppgDisableAllTraces0::IWizardPage_Activate(bool& EnableBack, int& NextOrFinish, std::string&)

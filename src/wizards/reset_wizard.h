@@ -10,7 +10,7 @@ public:
     IMMCPropertyPage* propertyPage() override { return this; }
 
     /// Raises 424 without a shared object.
-    void IMMCPropertyPage_Initialize(ScopeItem* Data, PropertySheet& PropertySheet) override;
+    void IMMCPropertyPage_Initialize(ScopeItem* Data, PageSheet& sheet) override;
     void IWizardPage_Activate(bool& EnableBack, int& NextOrFinish,
                               std::string& FinishText) override;
     void IWizardPage_Finish() override;

@@ -35,7 +35,7 @@ void classTraceObject::addWindowsLog(const std::string& name)
     windowsLogs_.add(name);
 }
 
-PropertySheet& classTraceObject::m_PropertySheet() const
+PageSheet& classTraceObject::m_PropertySheet() const
 {
     if (!propertySheet_) throw RunTimeError(runTimeErrors::objectRequired);
     return *propertySheet_;

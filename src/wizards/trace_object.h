@@ -8,7 +8,7 @@
 #include <memory>
 #include <string>
 
-class PropertySheet;
+class PageSheet;
 
 /// The one object that all pages of a wizard share; for the gather wizard it is the job.
 ///
@@ -39,10 +39,10 @@ public:
     void addWindowsLog(const std::string& name);
 
     /// The wizard's sheet; it is set by the first page that is given one, and outlives the pages.
-    void m_PropertySheet(PropertySheet& sheet) { propertySheet_ = &sheet; }
+    void m_PropertySheet(PageSheet& sheet) { propertySheet_ = &sheet; }
 
     /// Raises 424 while there is none.
-    PropertySheet& m_PropertySheet() const;
+    PageSheet& m_PropertySheet() const;
 
 private:
     struct NameList {
@@ -55,5 +55,5 @@ private:
 
     NameList orvanLogs_;
     NameList windowsLogs_;
-    PropertySheet* propertySheet_ = nullptr;
+    PageSheet* propertySheet_ = nullptr;
 };

@@ -67,10 +67,10 @@ struct RecordingSheetPage final : RecordingPage, IMMCPropertyPage {
 
     IMMCPropertyPage* propertyPage() override { return this; }
 
-    void IMMCPropertyPage_Initialize(ScopeItem*, PropertySheet& PropertySheet) override
+    void IMMCPropertyPage_Initialize(ScopeItem*, PageSheet& given) override
     {
         note("initialize");
-        sheet = &PropertySheet;
+        sheet = &given;
         onInitialize();
     }
     void IMMCPropertyPage_Help() override { note("help"); }
@@ -86,7 +86,7 @@ struct RecordingSheetPage final : RecordingPage, IMMCPropertyPage {
     }
     void IMMCPropertyPage_Close() override { note("close"); }
 
-    PropertySheet* sheet = nullptr;
+    PageSheet* sheet = nullptr;
     std::function<void()> onInitialize = [] {};
     std::function<void(bool&)> onQueryCancel = [](bool&) {};
     std::function<void()> onCancel = [] {};

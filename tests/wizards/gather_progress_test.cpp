@@ -33,15 +33,15 @@ struct GatherProgressPage : GatherWizardTest {
 
     /// The sheet as a page sees it while the person works in another program: the keystroke that
     /// is to press Next goes astray.
-    struct SheetInTheBackground final : PropertySheet {
-        explicit SheetInTheBackground(PropertySheet& behind) : sheet(behind) {}
+    struct SheetInTheBackground final : PageSheet {
+        explicit SheetInTheBackground(PageSheet& behind) : sheet(behind) {}
         void SetWizardButtons(bool enableBack, int nextOrFinish) override
         {
             sheet.SetWizardButtons(enableBack, nextOrFinish);
         }
         void pressNext() override { ++keystrokes; }
 
-        PropertySheet& sheet;
+        PageSheet& sheet;
         int keystrokes = 0;
     };
 

@@ -117,7 +117,7 @@ TEST(TraceObject, TheNameAfterNumber32767OverflowsAndIsNotAdded)
 
 TEST(TraceObject, HandsBackTheSheetThatAPageStored)
 {
-    struct Sheet final : PropertySheet {
+    struct Sheet final : PageSheet {
         int last = -1;
         void SetWizardButtons(bool, int nextOrFinish) override { last = nextOrFinish; }
     } sheet;
