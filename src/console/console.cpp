@@ -117,11 +117,11 @@ void Console::clickTask(std::string_view key)
     throw RunTimeError(runTimeErrors::keyNotFound);
 }
 
-void Console::doubleClickRow(int place)
+void Console::doubleClickRow(int row)
 {
     ResultView& shown = view_.selectedScopePaneItem().resultView();
     bool doDefault = true;
-    snapIn().ResultViews_ListItemDblClick(shown, shown.list().shown(place), doDefault);
+    snapIn().ResultViews_ListItemDblClick(shown, shown.list().shown(row), doDefault);
 }
 
 void Console::helpOnSnapIn()

@@ -76,9 +76,9 @@ public:
     /// no task pad is on show.
     void clickTask(std::string_view key);
 
-    /// A double click on a row of the list on show, by its place on the screen from 1. Raises 9,
+    /// A double click on a row of the list on show, by its position on the screen from 1. Raises 9,
     /// 91.
-    void doubleClickRow(int place);
+    void doubleClickRow(int row);
 
     /// The person asks for help: on the snap-in, on the selected node, on what is shown of it. The
     /// last two raise 91 before the first selection.

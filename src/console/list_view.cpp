@@ -82,15 +82,15 @@ ColumnHeader& ListView::column(std::string_view key)
 
 ListItem ListView::addItem(int index, std::string_view text)
 {
-    const std::size_t place = checkedPosition(index, rows_.size() + 1);
+    const std::size_t position = checkedPosition(index, rows_.size() + 1);
     const Row row{store(text), static_cast<std::uint32_t>(cells_.size()), 0, {}};
     order_.clear();
-    if (place == rows_.size()) {
+    if (position == rows_.size()) {
         rows_.push_back(row);
     } else {
-        rows_.insert(rows_.begin() + static_cast<std::ptrdiff_t>(place), row);
+        rows_.insert(rows_.begin() + static_cast<std::ptrdiff_t>(position), row);
     }
-    return {*this, place};
+    return {*this, position};
 }
 
 ListItem ListView::item(int index)
@@ -125,9 +125,9 @@ void ListView::sortOnLoad()
     }
 }
 
-ListItem ListView::shown(int place)
+ListItem ListView::shown(int row)
 {
-    const std::size_t position = checkedPosition(place, rows_.size());
+    const std::size_t position = checkedPosition(row, rows_.size());
     return {*this, order_.empty() ? position : order_[position]};
 }
 
@@ -151,7 +151,7 @@ std::string_view ListView::cell(std::size_t row, int index) const
 void ListView::addCell(std::size_t row, int index, std::string_view text)
 {
     Row& record = rows_[row];
-    const std::size_t place = checkedPosition(index, std::size_t{record.cellCount} + 1);
+    const std::size_t position = checkedPosition(index, std::size_t{record.cellCount} + 1);
     const Text stored = store(text);
     if (record.firstCell + record.cellCount != cells_.size()) {
         // Another row's cells follow: this row's move to the end, where there is room.
@@ -162,7 +162,8 @@ void ListView::addCell(std::size_t row, int index, std::string_view text)
         }
         record.firstCell = moved;
     }
-    cells_.insert(cells_.begin() + static_cast<std::ptrdiff_t>(record.firstCell + place), stored);
+    cells_.insert(cells_.begin() + static_cast<std::ptrdiff_t>(record.firstCell + position),
+                  stored);
     ++record.cellCount;
     order_.clear();
 }

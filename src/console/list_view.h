@@ -83,9 +83,9 @@ public:
     /// Puts the rows in the order that the definition asks for on load.
     void sortOnLoad();
 
-    /// The row at a place on the screen, from 1: in the order of the last sort, or of the index
-    /// when rows came since. Raises 9 for a place that is not there.
-    ListItem shown(int place);
+    /// The row at a position on the screen, from 1: in the order of the last sort, or of the index
+    /// when rows came since. Raises 9 for one that is not there.
+    ListItem shown(int row);
 
 private:
     friend class ListItem;

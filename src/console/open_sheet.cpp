@@ -22,15 +22,15 @@ void OpenSheet::addPage(std::unique_ptr<SheetPage> page, std::string pageTitle, 
     pages_.push_back({std::move(page), std::move(pageTitle), helpButton});
 }
 
-void OpenSheet::show(int place)
+void OpenSheet::show(int position)
 {
     const Work work{*this};
     if (pages_.empty()) return close();
     FirstFailure failure;
 
-    slot(place);
-    failure.attempt([&] { initialise(pages_[static_cast<std::size_t>(place - 1)]); });
-    failure.attempt([&] { enter(place); });
+    slot(position);
+    failure.attempt([&] { initialise(pages_[static_cast<std::size_t>(position - 1)]); });
+    failure.attempt([&] { enter(position); });
     for (Slot& other : pages_) failure.attempt([&] { initialise(other); });
     tellPageShown();
     failure.raise();
@@ -96,10 +96,11 @@ void OpenSheet::tellButtonsChanged()
     if (observer_ && !closed_) observer_->buttonsChanged(*this);
 }
 
-const OpenSheet::Slot& OpenSheet::slot(int place) const
+const OpenSheet::Slot& OpenSheet::slot(int position) const
 {
-    if (place < 1 || place > pageCount()) throw RunTimeError(runTimeErrors::subscriptOutOfRange);
-    return pages_[static_cast<std::size_t>(place - 1)];
+    if (position < 1 || position > pageCount())
+        throw RunTimeError(runTimeErrors::subscriptOutOfRange);
+    return pages_[static_cast<std::size_t>(position - 1)];
 }
 
 void OpenSheet::initialise(Slot& slot)

@@ -28,7 +28,8 @@ public:
     virtual void closed(OpenSheet& sheet) = 0;
 };
 
-/// A sheet with its pages, in order, places counted from 1: what a wizard and a plain sheet share.
+/// A sheet with its pages, in order, positions counted from 1: what a wizard and a plain sheet
+/// share.
 ///
 /// Any host shows one: it renders the current page's controls, hands on what the person does, and
 /// runs the timers. It is made by `std::make_shared`, and stays alive until work that it began has
@@ -51,15 +52,15 @@ public:
     /// Shows the sheet at a page: the page is initialised and activated, then all others that ask
     /// for it are initialised, in order. So what the first page prepares is there for them, and
     /// what they find is as of the sheet's opening. A sheet without pages closes at once. Raises 9
-    /// for a place without a page.
-    void show(int place = 1);
+    /// for a position without a page.
+    void show(int position = 1);
 
     int pageCount() const { return static_cast<int>(pages_.size()); }
 
-    /// Raise 9 for a place without a page.
-    SheetPage& page(int place) const { return *slot(place).page; }
-    const std::string& pageTitle(int place) const { return slot(place).title; }
-    bool hasHelpButton(int place) const { return slot(place).helpButton; }
+    /// Raise 9 for a position without a page.
+    SheetPage& page(int position) const { return *slot(position).page; }
+    const std::string& pageTitle(int position) const { return slot(position).title; }
+    bool hasHelpButton(int position) const { return slot(position).helpButton; }
 
     /// 0 before the sheet is shown.
     int currentPlace() const { return current_; }
@@ -103,7 +104,7 @@ protected:
     };
 
     /// Makes a page the current one and tells it; the observer hears of it afterwards.
-    virtual void enter(int place) { current_ = place; }
+    virtual void enter(int position) { current_ = position; }
 
     /// Tells all pages that the sheet is closing, and closes it.
     void close();
@@ -119,7 +120,7 @@ private:
         bool initialised = false;
     };
 
-    const Slot& slot(int place) const;
+    const Slot& slot(int position) const;
     void initialise(Slot& slot);
 
     std::string title_;

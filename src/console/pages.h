@@ -17,8 +17,8 @@ public:
                                       std::string& /*FinishText*/)
     {}
 
-    /// The person pressed a button. `NextPage` is the place, from 1, of the page to show; it comes
-    /// as 0, which stands for the page before or behind.
+    /// The person pressed a button. `NextPage` is the position, from 1, of the page to show; it
+    /// comes as 0, which stands for the page before or behind.
     virtual void IWizardPage_Back(int& /*NextPage*/) {}
     virtual void IWizardPage_Next(int& /*NextPage*/) {}
 

@@ -8,20 +8,20 @@ namespace {
 constexpr int deliveriesOfOneApply = 2;
 }
 
-void PlainSheet::selectPage(int place)
+void PlainSheet::selectPage(int position)
 {
     const Work work{*this};
-    page(place);
+    page(position);
     if (closed()) return;
-    enter(place);
+    enter(position);
     tellPageShown();
 }
 
 bool PlainSheet::canApply() const
 {
     if (closed()) return false;
-    for (int place = 1; place <= pageCount(); ++place)
-        if (page(place).Changed()) return true;
+    for (int position = 1; position <= pageCount(); ++position)
+        if (page(position).Changed()) return true;
     return false;
 }
 
@@ -30,8 +30,8 @@ void PlainSheet::apply()
     const Work work{*this};
     if (closed()) return;
     std::vector<SheetPage*> changed;
-    for (int place = 1; place <= pageCount(); ++place)
-        if (page(place).Changed()) changed.push_back(&page(place));
+    for (int position = 1; position <= pageCount(); ++position)
+        if (page(position).Changed()) changed.push_back(&page(position));
 
     FirstFailure failure;
     for (int delivery = 0; delivery < deliveriesOfOneApply; ++delivery)

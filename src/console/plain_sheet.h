@@ -11,8 +11,8 @@ public:
 
     PlainSheet* plainSheet() override { return this; }
 
-    /// The person picks a tab. Raises 9 for a place without a page.
-    void selectPage(int place);
+    /// The person picks a tab. Raises 9 for a position without a page.
+    void selectPage(int position);
 
     /// Whether Apply is enabled: some page has changed.
     bool canApply() const;

@@ -23,13 +23,13 @@ void PropertySheetProvider::addPrimaryPages()
     console_.createPropertyPages(waiting());
 }
 
-void PropertySheetProvider::show(int place)
+void PropertySheetProvider::show(int position)
 {
     OpenSheet& sheet = waiting();
-    if (sheet.pageCount() > 0) sheet.page(place);
+    if (sheet.pageCount() > 0) sheet.page(position);
     shown_.push_back(std::move(waiting_));
     try {
-        sheet.show(place);
+        sheet.show(position);
     } catch (const RunTimeError& error) {
         console_.tellHandlerFailed(error);
     }

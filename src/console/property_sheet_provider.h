@@ -28,8 +28,8 @@ public:
     void addPrimaryPages();
 
     /// Shows the sheet at a page, from 1, and returns when it is up. What a page raises is told to
-    /// the console's observers. Raises 91 as above, and 9 for a place without a page.
-    void show(int place);
+    /// the console's observers. Raises 91 as above, and 9 for a position without a page.
+    void show(int position);
 
     /// Sheets that are on show, the oldest first.
     std::vector<std::shared_ptr<OpenSheet>> openSheets() const;

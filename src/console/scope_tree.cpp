@@ -108,9 +108,9 @@ void ScopeTree::removeWithChildren(ScopeItem& item)
 
     const auto isItem = [&](const auto& other) { return &*other == &item; };
     // Renewals remove the youngest first, so that the search from the end is short.
-    const auto place = std::find_if(items_.rbegin(), items_.rend(), isItem);
-    const std::shared_ptr<ScopeItem> removed = *place;
-    items_.erase(std::next(place).base());
+    const auto found = std::find_if(items_.rbegin(), items_.rend(), isItem);
+    const std::shared_ptr<ScopeItem> removed = *found;
+    items_.erase(std::next(found).base());
     byKey_.erase(item.key());
     const auto [first, last] = byLowerKey_.equal_range(lowerCase(item.key()));
     byLowerKey_.erase(

@@ -119,10 +119,10 @@ bool View::showsInside(const ScopeItem& item) const
 
 void View::forget(const ScopeItem& item)
 {
-    const auto place = std::find_if(panes_.begin(), panes_.end(),
+    const auto found = std::find_if(panes_.begin(), panes_.end(),
                                     [&](const auto& pane) { return &pane->scopeItem() == &item; });
-    if (place == panes_.end()) return;
-    if (selected_ == place->get()) selected_ = nullptr;
-    if (fillsUnderWay_ > 0) retired_.push_back(std::move(*place));
-    panes_.erase(place);
+    if (found == panes_.end()) return;
+    if (selected_ == found->get()) selected_ = nullptr;
+    if (fillsUnderWay_ > 0) retired_.push_back(std::move(*found));
+    panes_.erase(found);
 }

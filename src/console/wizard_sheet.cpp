@@ -55,12 +55,12 @@ void WizardSheet::SetWizardButtons(bool enableBack, int nextOrFinish)
     tellButtonsChanged();
 }
 
-void WizardSheet::enter(int place)
+void WizardSheet::enter(int position)
 {
-    OpenSheet::enter(place);
-    const bool last = place == pageCount();
+    OpenSheet::enter(position);
+    const bool last = position == pageCount();
     WizardButtons asked{
-        place > 1, last ? wizardButton::finishEnabled : wizardButton::nextEnabled, {}};
+        position > 1, last ? wizardButton::finishEnabled : wizardButton::nextEnabled, {}};
     FirstFailure failure;
     IWizardPage* page = currentPage().wizardPage();
     if (page)
@@ -75,10 +75,10 @@ void WizardSheet::go(int nextPage, int inOrder)
 {
     if (closed()) return;
     if (nextPage == 0 && (inOrder < 1 || inOrder > pageCount())) return;
-    const int place = nextPage == 0 ? inOrder : nextPage;
+    const int position = nextPage == 0 ? inOrder : nextPage;
     FirstFailure failure;
-    page(place);
-    failure.attempt([&] { enter(place); });
+    page(position);
+    failure.attempt([&] { enter(position); });
     tellPageShown();
     failure.raise();
 }

@@ -40,7 +40,7 @@ public:
     void pressNext() override { next(); }
 
 private:
-    void enter(int place) override;
+    void enter(int position) override;
     void go(int nextPage, int inOrder);
 
     WizardButtons buttons_;

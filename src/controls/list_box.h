@@ -15,7 +15,7 @@ public:
 
     int count() const { return static_cast<int>(items_.size()); }
     const std::vector<std::string>& items() const { return items_; }
-    const std::string& item(int index) const { return items_[place(index)]; }
+    const std::string& item(int index) const { return items_[position(index)]; }
 
     void addItem(std::string text)
     {
@@ -36,7 +36,7 @@ public:
 
     void setSelectedIndex(int index)
     {
-        if (index != -1) place(index);
+        if (index != -1) position(index);
         if (!assign(selectedIndex_, index)) return;
         selectionChanged();
         if (onClick) onClick();
@@ -54,7 +54,7 @@ protected:
     void dropSelection() { selectedIndex_ = -1; }
 
 private:
-    std::size_t place(int index) const
+    std::size_t position(int index) const
     {
         if (index < 0 || index >= count()) throw RunTimeError(runTimeErrors::invalidPropertyValue);
         return static_cast<std::size_t>(index);

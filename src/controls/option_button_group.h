@@ -19,16 +19,16 @@ public:
 
     int count() const { return static_cast<int>(options_.size()); }
 
-    const std::string& caption(int index) const { return options_[place(index)].caption; }
+    const std::string& caption(int index) const { return options_[position(index)].caption; }
     void setCaption(int index, std::string caption)
     {
-        assign(options_[place(index)].caption, std::move(caption));
+        assign(options_[position(index)].caption, std::move(caption));
     }
 
-    const std::string& optionToolTip(int index) const { return options_[place(index)].toolTip; }
+    const std::string& optionToolTip(int index) const { return options_[position(index)].toolTip; }
     void setOptionToolTip(int index, std::string toolTip)
     {
-        assign(options_[place(index)].toolTip, std::move(toolTip));
+        assign(options_[position(index)].toolTip, std::move(toolTip));
     }
 
     /// -1 when none is selected.
@@ -36,13 +36,13 @@ public:
 
     bool isSelected(int index) const
     {
-        place(index);
+        position(index);
         return selected_ == index;
     }
 
     void select(int index)
     {
-        place(index);
+        position(index);
         if (assign(selected_, index) && onClick) onClick(index);
     }
 
@@ -58,7 +58,7 @@ private:
         std::string toolTip;
     };
 
-    std::size_t place(int index) const
+    std::size_t position(int index) const
     {
         if (index < 0 || index >= count()) throw RunTimeError(runTimeErrors::subscriptOutOfRange);
         return static_cast<std::size_t>(index);

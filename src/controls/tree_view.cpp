@@ -47,7 +47,7 @@ TreeNode* TreeNode::next() const
 {
     if (!tree_) return nullptr;
     const auto& siblings = parent_ ? parent_->children_ : tree_->roots_;
-    return place_ + 1 < siblings.size() ? siblings[place_ + 1] : nullptr;
+    return position_ + 1 < siblings.size() ? siblings[position_ + 1] : nullptr;
 }
 
 std::string TreeNode::fullPath() const

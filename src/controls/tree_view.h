@@ -54,8 +54,8 @@ public:
 
 private:
     friend class TreeView;
-    TreeNode(TreeView& tree, TreeNode* parent, std::size_t place)
-        : tree_(&tree), parent_(parent), place_(place)
+    TreeNode(TreeView& tree, TreeNode* parent, std::size_t position)
+        : tree_(&tree), parent_(parent), position_(position)
     {}
 
     /// Raises 35605 when the tree let the node go.
@@ -63,7 +63,7 @@ private:
 
     TreeView* tree_;
     TreeNode* parent_;
-    std::size_t place_; ///< among its siblings
+    std::size_t position_; ///< among its siblings
     std::vector<TreeNode*> children_;
     std::string text_;
     std::string key_;

@@ -37,9 +37,9 @@ constexpr int mostTries = 10;
 
 std::string_view levelWord(std::int32_t level)
 {
-    const auto place = static_cast<std::size_t>(level);
-    if (place >= levelWords.size()) throw RunTimeError(runTimeErrors::subscriptOutOfRange);
-    return levelWords[place];
+    const auto index = static_cast<std::size_t>(level);
+    if (index >= levelWords.size()) throw RunTimeError(runTimeErrors::subscriptOutOfRange);
+    return levelWords[index];
 }
 
 std::string timerKey(std::string_view procName, int number)

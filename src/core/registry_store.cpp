@@ -27,8 +27,8 @@ std::string textOf(const Bytes& bytes)
 std::int32_t numberOf(const Bytes& bytes)
 {
     std::uint32_t number = 0;
-    for (std::size_t place = 0; place < bytes.size(); ++place)
-        number |= std::uint32_t{bytes[place]} << (8 * place);
+    for (std::size_t index = 0; index < bytes.size(); ++index)
+        number |= std::uint32_t{bytes[index]} << (8 * index);
     return static_cast<std::int32_t>(number);
 }
 

@@ -202,15 +202,15 @@ constexpr std::array<Entry, lastTextId - firstTextId + 1> table = {{
     {TextId::includeSystemEvents, "Include Windows System Event Log"},
 }};
 
-constexpr bool everyIdHasItsPlace()
+constexpr bool everyIdHasItsIndex()
 {
-    for (std::size_t place = 0; place < table.size(); ++place) {
-        if (static_cast<int>(table[place].id) != firstTextId + static_cast<int>(place))
+    for (std::size_t index = 0; index < table.size(); ++index) {
+        if (static_cast<int>(table[index].id) != firstTextId + static_cast<int>(index))
             return false;
     }
     return true;
 }
-static_assert(everyIdHasItsPlace());
+static_assert(everyIdHasItsIndex());
 
 } // namespace
 

@@ -28,9 +28,9 @@ bool isDigit(char character)
 /// The seconds of "15:23:07"; -1 for a text of another form, or of a time that no day has.
 int secondsOfClock(std::string_view clock)
 {
-    const auto number = [&](std::size_t place) {
-        return isDigit(clock[place]) && isDigit(clock[place + 1])
-                   ? (clock[place] - '0') * 10 + clock[place + 1] - '0'
+    const auto number = [&](std::size_t position) {
+        return isDigit(clock[position]) && isDigit(clock[position + 1])
+                   ? (clock[position] - '0') * 10 + clock[position + 1] - '0'
                    : 60;
     };
     if (clock[2] != ':' || clock[5] != ':') return -1;

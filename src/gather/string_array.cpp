@@ -13,12 +13,12 @@ int StringArray::upperBound() const
 
 const std::string& StringArray::at(int index) const
 {
-    return texts_[place(index)];
+    return texts_[positionAt(index)];
 }
 
 void StringArray::set(int index, std::string text)
 {
-    texts_[place(index)] = std::move(text);
+    texts_[positionAt(index)] = std::move(text);
 }
 
 void StringArray::clear(int upperBound)
@@ -32,7 +32,7 @@ void StringArray::resize(int upperBound)
     texts_.resize(static_cast<std::size_t>(upperBound) + 1);
 }
 
-std::size_t StringArray::place(int index) const
+std::size_t StringArray::positionAt(int index) const
 {
     const auto position = static_cast<std::size_t>(index);
     if (index < 0 || position >= texts_.size())

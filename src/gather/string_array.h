@@ -24,7 +24,7 @@ public:
     void resize(int upperBound);
 
 private:
-    std::size_t place(int index) const;
+    std::size_t positionAt(int index) const;
 
     std::vector<std::string> texts_;
 };

@@ -76,7 +76,7 @@ void MemoryRecordset::sort(const std::string& name)
     });
     std::vector<std::vector<std::string>> sorted;
     sorted.reserve(rows_.size());
-    for (const std::size_t place : order) sorted.push_back(std::move(rows_[place]));
+    for (const std::size_t row : order) sorted.push_back(std::move(rows_[row]));
     rows_ = std::move(sorted);
     position_ = 0;
 }
