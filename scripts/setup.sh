@@ -1,16 +1,18 @@
 # Shared by the scripts that people start: installs what is missing, and builds. To be sourced.
 
 # Packages for the command line, and for the window besides; the tests need some readers more, the
-# benchmarks some peers, and packing some tools of Debian's.
+# count of the lines that they run a reporter, the benchmarks some peers, and packing some tools of
+# Debian's.
 build_packages=(
   ccache cmake g++ libcli11-dev libxml2-dev libsqlite3-dev ninja-build nlohmann-json3-dev
   zlib1g-dev
 )
 desktop_packages=(qt6-base-dev qt6-l10n-tools qt6-svg-dev qt6-translations-l10n)
 test_packages=(
-  appstream btrfs-progs cabextract clang clang-format desktop-file-utils gcab libclang-rt-14-dev libgmock-dev
-  libgtest-dev librapidcheck-dev mawk mdbtools p7zip-full sqlite3
+  appstream btrfs-progs cabextract clang clang-format clang-tidy desktop-file-utils gcab
+  libclang-rt-14-dev libgmock-dev libgtest-dev librapidcheck-dev mawk mdbtools p7zip-full sqlite3
 )
+coverage_packages=(gcovr)
 package_packages=(dpkg-dev file lintian)
 benchmark_packages=(cabextract gcab libbenchmark-dev mawk mdbtools sqlite3 time)
 
