@@ -11,10 +11,10 @@
 
 namespace desktop {
 
-OpenTool::OpenTool(const std::string& folder, const std::string& installedData, HostFacts facts,
-                   Desktop& desktop)
+OpenTool::OpenTool(const std::string& folder, const std::string& installedData,
+                   const HostFacts& facts, Desktop& desktop)
     : use_(mayWrite(folder) ? SiteUse::change : SiteUse::look),
-      site_(folder, installedData, std::move(facts), use_),
+      site_(folder, installedData, facts, use_),
       traceDatabases_([this](const std::string& path) { return site_.paths().machinePath(path); },
                       site_.codePage()),
       platform_(site_.platform(desktop, traceDatabases_)), watched_(platform_),

@@ -24,7 +24,7 @@ public:
     /// Opens a site; `desktop` outlives the tool. Raises what `Site` raises. The console is there,
     /// for a window to observe, and the snap-in is not loaded yet. A site that may not be written
     /// to is opened for a look, which leaves nothing there.
-    OpenTool(const std::string& folder, const std::string& installedData, HostFacts facts,
+    OpenTool(const std::string& folder, const std::string& installedData, const HostFacts& facts,
              Desktop& desktop);
     OpenTool(const OpenTool&) = delete;
     OpenTool& operator=(const OpenTool&) = delete;

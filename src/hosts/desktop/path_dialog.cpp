@@ -29,7 +29,8 @@ void PathDialog::accept()
     const QFileInfo there(typed);
     if (fileMode() == Directory ? there.isDir() : there.isFile()) {
         taken_ = QDir::cleanPath(typed);
-        return QDialog::accept();
+        // The file dialog would look for the path again, in its own way.
+        return QDialog::accept(); // NOLINT(bugprone-parent-virtual-call)
     }
     // What is not there is said, rather than the row taken that happens to be selected.
     for (auto* list : findChildren<QAbstractItemView*>())

@@ -238,7 +238,8 @@ void ToolStyle::drawArrow(ComplexControl control, const QStyleOptionComplex& opt
 {
     const bool spins = control == CC_SpinBox;
     if (spins == (part == SC_ComboBoxArrow) || !(option.subControls & part)) return;
-    QStyleOption arrow = option;
+    // An arrow is drawn by what every element has.
+    QStyleOption arrow = option; // NOLINT(cppcoreguidelines-slicing)
     arrow.rect = proxy()->subControlRect(control, &option, part, widget);
     const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(&option);
     const auto needed =
