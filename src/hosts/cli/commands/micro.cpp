@@ -181,15 +181,13 @@ private:
         std::string text;
         std::string refusal;
         {
+            const TrappedErrorListener listener(
+                tool.context(), [&](const RunTimeError& error, std::string_view procName) {
+                    if (refusal.empty() && procName == "[mdlOrvanDatabase]EnumComponents")
+                        refusal = ": " + error.description();
+                });
             WizardDriver wizard(tool, snapinTask::configureMicroTraces);
-            {
-                const TrappedErrorListener listener(
-                    tool.context(), [&](const RunTimeError& error, std::string_view procName) {
-                        if (refusal.empty() && procName == "[mdlOrvanDatabase]EnumComponents")
-                            refusal = ": " + error.description();
-                    });
-                wizard.next();
-            }
+            wizard.next();
             const auto& tree = wizard.control<TreeView>(treeName);
             if (!tree.visible())
                 output.message("not every component is listed: " + whereTheListEnds(tree) +
