@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-[[noreturn]] void refuse(std::string_view path, const char* because)
+[[noreturn]] void refuse(std::string_view path, const std::string& because)
 {
     throw RunTimeError(runTimeErrors::pathNotFound, std::string(path) + ": " + because);
 }
@@ -24,11 +24,19 @@ std::string canonicalPath(const fs::path& path)
     return fs::weakly_canonical(path, error).string();
 }
 
-SitePaths sitePathsOf(const std::string& drives, const std::string& workingFolder)
-try {
-    return SitePaths(drives.empty() ? "/" : canonicalPath(fs::path(workingFolder) / drives));
-} catch (const RunTimeError& error) {
-    throw RunTimeError(error.number(), drives + ": the folder of the drives is no folder");
+std::string folderOfDrives(const std::string& drives, const std::string& workingFolder)
+{
+    return canonicalPath(fs::path(workingFolder) / drives);
+}
+
+/// Why no path of a drive can be found; empty where there is a folder of drives.
+std::string whyNoDrives(const std::string& drives, const std::string& workingFolder)
+{
+    const std::string variable = "ORVAN_SITE_DRIVES names the folder of the drives";
+    if (drives.empty()) return "there are no drives here (" + variable + ")";
+    std::error_code error;
+    if (fs::is_directory(folderOfDrives(drives, workingFolder), error)) return {};
+    return drives + " is no folder (" + variable + ")";
 }
 
 /// The drive of a path of the machine, and the path on it; empty for what lies on none.
@@ -44,13 +52,15 @@ std::string onDrive(const std::string& path, const std::string& siteFolder)
 } // namespace
 
 DirectivePaths::DirectivePaths(const std::string& drives, const std::string& workingFolder)
-    : hasDrives_(!drives.empty()), paths_(sitePathsOf(drives, workingFolder))
+    : whyNoDrives_(whyNoDrives(drives, workingFolder)),
+      paths_(whyNoDrives_.empty() ? folderOfDrives(drives, workingFolder) : "/")
 {
     paths_.permit("/");
     const std::string working = canonicalPath(workingFolder);
-    const std::string path = hasDrives_ ? onDrive(working, paths_.siteFolder()) : std::string();
+    const std::string path =
+        whyNoDrives_.empty() ? onDrive(working, paths_.siteFolder()) : std::string();
     if (path.empty()) {
-        if (hasDrives_) paths_.permit(working);
+        if (!drives.empty()) paths_.permit(working);
         paths_.changeFolder(working);
         return;
     }
@@ -61,9 +71,7 @@ DirectivePaths::DirectivePaths(const std::string& drives, const std::string& wor
 std::string DirectivePaths::machinePath(std::string_view path) const
 {
     if (beginsWithDrive(path)) {
-        if (!hasDrives_)
-            refuse(path,
-                   "there are no drives here (ORVAN_SITE_DRIVES names the folder of the drives)");
+        if (!whyNoDrives_.empty()) refuse(path, whyNoDrives_);
         if (!paths_.root().isFolder("drive_" + lowerCase(path.substr(0, 1))))
             refuse(path, "the site has no such drive");
     } else if (path.size() >= 2 && path[0] == '\\' && isPathSeparator(path[1])) {

@@ -17,16 +17,17 @@ class DirectivePaths {
 public:
     /// `drives` holds `drive_c` and its like, empty when there are none. Relative paths start at
     /// `workingFolder`, a path of the machine: inside a drive they stay in that drive. Raises 76
-    /// where one of the two is no folder, 70.
+    /// where the working folder is none, 70; that `drives` is none is told by `machinePath`.
     DirectivePaths(const std::string& drives, const std::string& workingFolder);
 
     /// The machine's path of `path` (UTF-8), which need not exist; a link in its last name is not
-    /// resolved. Raises 76 (path not found) for a drive that isn't there and for a form of path
-    /// that has no place on this machine, 70 for what leads out.
+    /// resolved. Raises 76 (path not found) for a drive that isn't there, be it that the folder of
+    /// the drives is no folder, and for a form of path that has no place on this machine; 70 for
+    /// what leads out.
     std::string machinePath(std::string_view path) const;
 
 private:
-    bool hasDrives_;
+    std::string whyNoDrives_; ///< empty where there can be some
     SitePaths paths_;
 };
 

@@ -155,14 +155,20 @@ TEST_F(DirectivePathsTest, NamesOfOtherScriptsMatchWithoutCaseToo)
     EXPECT_EQ(at("site/drive_c/Ωmega.csv"), messageOf(paths(), "C:\\ωMEGA.CSV"));
 }
 
-TEST_F(DirectivePathsTest, NeedsTheFolderOfTheDrives)
+TEST_F(DirectivePathsTest, NeedsTheFolderOfTheDrivesForAPathOfADriveAlone)
 {
-    try {
-        const DirectivePaths none(at("none"), at("Machine"));
-        ADD_FAILURE();
-    } catch (const RunTimeError& error) {
-        EXPECT_EQ(at("none") + ": the folder of the drives is no folder", error.description());
+    for (const char* name : {"none", "Machine/File.txt"}) {
+        const DirectivePaths paths(at(name), at("Machine"));
+        EXPECT_EQ("C:\\x: " + at(name) +
+                      " is no folder (ORVAN_SITE_DRIVES names the folder of the drives)",
+                  messageOf(paths, "C:\\x"));
+        EXPECT_EQ(at("Machine/File.txt"), messageOf(paths, "file.txt"));
+        EXPECT_EQ(at("site/secret.txt"), messageOf(paths, at("site/secret.txt")));
     }
+    std::filesystem::create_symlink(at("site/secret.txt"), at("Machine/link.csv"));
+    EXPECT_EQ(runTimeErrors::permissionDenied,
+              numberOf(DirectivePaths(at("none"), at("Machine")), "link.csv"))
+        << "the work is done for a site all the same";
 }
 
 } // namespace cabmaker

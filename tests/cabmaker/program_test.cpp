@@ -86,6 +86,18 @@ TEST(Program, RefusesDrivesWithoutASite)
     EXPECT_EQ(std::vector<std::string>{"ZMK.DDF"}, scratch.listing());
 }
 
+TEST(Program, TakesAFolderOfDrivesThatIsMissingWhereNothingIsOnADrive)
+{
+    const ScratchFolder scratch;
+    scratch.write("a.txt", "a");
+    scratch.write("a.ddf", "a.txt\r\n");
+    const CommandResult result = runCommand(
+        scratch.path(), "ORVAN_SITE_DRIVES='" + scratch.at("none") + "' " + program + "/f a.ddf");
+    EXPECT_EQ(0, result.status);
+    EXPECT_EQ("", result.errors);
+    EXPECT_EQ(0, runCommand(scratch.path(), "cabextract -t disk1/1.cab").status);
+}
+
 TEST(Program, EndsWithOneLineAndLeavesNothingWhenThereIsNoRoom)
 {
     const ScratchFolder scratch;
