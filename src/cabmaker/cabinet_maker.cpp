@@ -113,12 +113,16 @@ public:
     }
 
     /// The machine's path of an output. Raises 75 for one that would take the place of a file that
-    /// is read or of an earlier output, and for what is no plain file.
+    /// is read or of an earlier output, and for what is no plain file; 76 for a name that is too
+    /// long, which would be told only when the finished file is to get it.
     std::string place(const std::string& name)
     {
         const std::string path = paths_.machinePath(name);
         std::error_code none;
         const fs::file_status status = fs::symlink_status(path, none);
+        if (none == std::errc::filename_too_long)
+            throw toldWith("cannot write " + path,
+                           systemError(none.value(), runTimeErrors::pathNotFound));
         if (fs::exists(status) && !fs::is_regular_file(status))
             throw RunTimeError(runTimeErrors::pathFileAccess,
                                "cannot write " + path + ": it is not a plain file");
@@ -222,6 +226,8 @@ MadeCabinet makeCabinet(const std::string& directivePath, const Surroundings& su
     Outputs outputs(directives, paths);
     outputs.protect(directiveFile, directivePath);
     for (const CabinetSource& source : sources) outputs.protect(source.path, source.shownName);
+    // Made first: the folder's file system alone knows how long a name may be.
+    DiskFolder diskFolder(paths.machinePath(diskFolderOf(directives, 1)));
     const std::string path = outputs.placeOfCabinet(1);
     const auto placeOfReport = [&](const std::string& name) {
         return name.empty() ? std::string() : outputs.place(name);
@@ -229,7 +235,6 @@ MadeCabinet makeCabinet(const std::string& directivePath, const Surroundings& su
     const std::string infPath = placeOfReport(directives.infFile);
     const std::string rptPath = placeOfReport(directives.rptFile);
 
-    DiskFolder diskFolder(paths.machinePath(diskFolderOf(directives, 1)));
     Packing packing{.compression = directives.compression,
                     .threads = surroundings.threads,
                     .checkpoint = surroundings.checkpoint};

@@ -2,6 +2,7 @@
 
 #include "support/temporary_folder.h"
 #include "system/file_bytes.h"
+#include "system/system_error.h"
 
 #include <gmock/gmock.h>
 
@@ -126,6 +127,25 @@ TEST_F(RootFolderTest, TellsWhereAPathLies)
     EXPECT_EQ(box / "in/a/new/more", root.machinePath("near/new/more"));
     EXPECT_EQ(box / "in", root.machinePath(""));
     EXPECT_EQ("/usr", RootFolder("/").machinePath("usr"));
+}
+
+TEST_F(RootFolderTest, ANameThatIsTooLongLiesWhereItWouldBe)
+{
+    const std::string name(300, 'x');
+    EXPECT_EQ((box / "in/a/") + name, root.machinePath("near/" + name));
+}
+
+TEST_F(RootFolderTest, AFolderThatIsMissingIsToldInTheSystemsWords)
+{
+    for (const auto& [path, words] : {std::pair{"none", "No such file or directory"},
+                                      std::pair{"a/File.txt", "Not a directory"}})
+        try {
+            root.below(path);
+            ADD_FAILURE() << path;
+        } catch (const SystemError& error) {
+            EXPECT_EQ(76, error.number());
+            EXPECT_EQ(words, error.words());
+        }
 }
 
 TEST_F(RootFolderTest, FactsAreOfTheTargetOrOfTheNameItself)

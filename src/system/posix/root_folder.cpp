@@ -221,9 +221,9 @@ std::optional<RootFolder> RootFolder::belowIfThere(const std::string& path) cons
 
 RootFolder RootFolder::below(const std::string& path) const
 {
-    auto folder = belowIfThere(path);
-    if (!folder) throw RunTimeError(pathNotFound);
-    return *std::move(folder);
+    auto folder = std::make_shared<FileDescriptor>(way().open(path, folderFlags));
+    if (!folder->isOpen()) fail(path, pathNotFound);
+    return RootFolder(std::move(folder), shown(path), bounds_);
 }
 
 std::string RootFolder::shown(const std::string& path) const
@@ -238,8 +238,7 @@ std::string RootFolder::machinePath(const std::string& path) const
     std::string rest;
     for (std::string there = path;; there = folderPathOf(there)) {
         const FileDescriptor file = way().open(there, O_PATH);
-        if (!file.isOpen() && errno != ENOENT && errno != ENOTDIR && errno != EACCES)
-            fail(there, permissionDenied);
+        if (!file.isOpen() && !isAnAnswer(errno)) fail(there, permissionDenied);
         const std::string name = file.isOpen() ? nameOfDescriptor(file.get()) : std::string();
         if (top.empty() || (there.empty() && name.empty())) return shown(path);
         if (name == top || (top == "/" && name.size() == 1)) return shown(rest);
