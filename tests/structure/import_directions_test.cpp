@@ -12,18 +12,8 @@ using Layers = std::set<std::string>;
 
 /// The house from the ground up: a folder may know those of the storeys under its own.
 const std::vector<Layers> storeys = {
-    {"runtime"},
-    {"text", "tracelines"},
-    {"system"},
-    {"drives"},
-    {"platform"},
-    {"controls"},
-    {"console"},
-    {"core"},
-    {"logreader", "server"},
-    {"traces"},
-    {"gather"},
-    {"wizards", "settings"},
+    {"runtime"}, {"text", "tracelines"},  {"platform"}, {"controls"}, {"console"},
+    {"core"},    {"logreader", "server"}, {"traces"},   {"gather"},   {"wizards", "settings"},
     {"shell"},
 };
 
@@ -31,8 +21,11 @@ const Layers core = {"runtime", "text",    "tracelines", "platform", "controls",
                      "console", "core",    "logreader",  "server",   "traces",
                      "gather",  "wizards", "settings",   "shell"};
 
-/// What stands beside the house, and what each of it may know.
+/// What stands beside the house, and what each of it may know. The machine lies there: no storey
+/// reaches it but through the services of `platform`.
 const std::map<std::string, Layers> annexes = {
+    {"system", {"runtime", "text"}},
+    {"drives", {"runtime", "text", "system"}},
     {"cabmaker", {"runtime", "text", "system", "drives"}},
     {"backends/site", {"runtime", "text", "tracelines", "system", "drives", "platform"}},
     {"backends/jet", {"runtime", "text", "tracelines", "system", "platform"}},
