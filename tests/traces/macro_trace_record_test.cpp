@@ -1,5 +1,6 @@
 #include "traces/macro_trace_record.h"
 
+#include "core/trapped_error_listener.h"
 #include "traces/traces_fixture.h"
 
 using mdlTraces::isenabledMacroTrace;
@@ -50,6 +51,27 @@ TEST_F(MacroTraceRecord, WritesStateBeforeDate)
 
     EXPECT_THAT(tool.registry.written(),
                 ElementsAre(recordKey("G", "T") + "\\Enabled", recordKey("G", "T") + "\\Date"));
+}
+
+TEST_F(MacroTraceRecord, WritesTheStateBeforeTheEventAndTheDateBehindIt)
+{
+    Texts writtenByTheEvent;
+    tool.eventReporter.failing(429);
+    const TrappedErrorListener listener(
+        tool.context, [&](const RunTimeError& /*error*/, std::string_view /*procName*/) {
+            writtenByTheEvent = tool.registry.written();
+        });
+
+    for (const bool enabled : {true, false}) {
+        const std::string key = recordKey("G", enabled ? "on" : "off");
+        const std::size_t before = tool.registry.written().size();
+
+        recordMacroTrace(tool.context, "G", enabled ? "on" : "off", enabled);
+
+        EXPECT_EQ(before + 1, writtenByTheEvent.size());
+        EXPECT_EQ(key + "\\Enabled", writtenByTheEvent.back());
+        EXPECT_EQ(key + "\\Date", tool.registry.written().back());
+    }
 }
 
 TEST_F(MacroTraceRecord, ReadsTheStateOfEachMacroTraceAlone)
