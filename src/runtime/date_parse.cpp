@@ -70,17 +70,17 @@ public:
         return rest_.size() != before;
     }
 
-    /// The place, from 1, of the name that stands here among `names`; it ends where letters end.
+    /// The index, from 1, of the name that stands here among `names`; it ends where letters end.
     template <std::size_t count>
     int name(const std::array<std::string_view, count>& names)
     {
         std::size_t length = 0;
         while (length < rest_.size() && isLetter(rest_[length])) ++length;
         const std::string_view word = rest_.substr(0, length);
-        for (std::size_t place = 0; place < count; ++place) {
-            if (!equalIgnoringCase(word, names[place])) continue;
+        for (std::size_t index = 0; index < count; ++index) {
+            if (!equalIgnoringCase(word, names[index])) continue;
             rest_.remove_prefix(length);
-            return static_cast<int>(place) + 1;
+            return static_cast<int>(index) + 1;
         }
         refuse();
     }

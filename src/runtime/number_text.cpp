@@ -172,9 +172,9 @@ std::string maskThousands(double value)
     roundTo(decimal, 0);
     const std::string whole = wholePart(decimal);
     std::string text = decimal.negative ? "-" : "";
-    for (std::size_t place = 0; place < whole.size(); ++place) {
-        if (place > 0 && (whole.size() - place) % 3 == 0) text += ',';
-        text += whole[place];
+    for (std::size_t index = 0; index < whole.size(); ++index) {
+        if (index > 0 && (whole.size() - index) % 3 == 0) text += ',';
+        text += whole[index];
     }
     return text;
 }

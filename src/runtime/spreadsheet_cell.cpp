@@ -32,11 +32,11 @@ std::string withoutFormulas(std::string_view cell)
     constexpr std::string_view passedOver = " \"\v\f";
     std::string safe;
     bool atStart = true;
-    for (std::size_t place = 0; place < cell.size(); ++place) {
-        if (atStart && beginsFormula(cell.substr(place))) safe += '\'';
-        atStart = separators.find(cell[place]) != std::string_view::npos ||
-                  (atStart && passedOver.find(cell[place]) != std::string_view::npos);
-        safe += cell[place];
+    for (std::size_t position = 0; position < cell.size(); ++position) {
+        if (atStart && beginsFormula(cell.substr(position))) safe += '\'';
+        atStart = separators.find(cell[position]) != std::string_view::npos ||
+                  (atStart && passedOver.find(cell[position]) != std::string_view::npos);
+        safe += cell[position];
     }
     return safe;
 }

@@ -120,13 +120,13 @@ std::string rightAlign(std::string_view text, std::size_t width)
 std::size_t utf8CharacterLength(std::string_view text)
 {
     if (text.empty()) return 0;
-    const auto byte = [&](std::size_t place) { return static_cast<unsigned char>(text[place]); };
+    const auto byte = [&](std::size_t index) { return static_cast<unsigned char>(text[index]); };
     const unsigned lead = byte(0);
     if (lead < 0x80) return 1;
     const std::size_t length = lengthAfter(lead);
     if (length == 0 || text.size() < length) return 0;
-    for (std::size_t place = 1; place < length; ++place)
-        if ((byte(place) & 0xC0U) != 0x80) return 0;
+    for (std::size_t index = 1; index < length; ++index)
+        if ((byte(index) & 0xC0U) != 0x80) return 0;
     const unsigned second = byte(1);
     const bool impossible = (lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F) ||
                             (lead == 0xF0 && second < 0x90) || (lead == 0xF4 && second > 0x8F);

@@ -17,8 +17,8 @@ struct ChildProcessPlan {
     /// What it finds in its environment besides what is in ours, or in place of it.
     std::map<std::string, std::string> variables;
 
-    /// Where it writes what goes to standard error: an open file, or -1 for nowhere.
-    int words = -1;
+    /// Where its standard error goes: an open file, or -1 for nowhere.
+    int standardError = -1;
 };
 
 /// How a program has ended.

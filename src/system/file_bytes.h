@@ -9,15 +9,15 @@
 /// Reads some bytes from where a file stands. Gives how many: none at its end. Raises 57, 7.
 std::size_t readSome(const FileDescriptor& file, char* into, std::size_t size);
 
-/// Reads bytes from a place of a file. Gives how many: fewer than `size` at its end alone. Raises
-/// 57, 7.
+/// Reads from the offset `at` of a file. Gives how many bytes: fewer than `size` at its end alone.
+/// Raises 57, 7.
 std::size_t readAt(const FileDescriptor& file, char* into, std::size_t size, std::uint64_t at);
 
 /// Writes bytes, however many calls it takes. Gives how many of them were written: all of them, or
 /// fewer with the system's error number in `errno`.
 std::size_t writeBytes(const FileDescriptor& file, std::string_view bytes);
 
-/// The same from a place of the file on.
+/// The same from the offset `at` on.
 std::size_t writeBytesAt(const FileDescriptor& file, std::string_view bytes, std::uint64_t at);
 
 /// Writes all bytes. Raises 61, 57.
@@ -30,7 +30,7 @@ bool resize(const FileDescriptor& file, std::uint64_t size);
 /// program.
 std::uint64_t largestFileAllowed();
 
-/// Lets the next reading begin at a place of a file.
+/// Lets the next reading begin at the offset `at` of a file.
 void goTo(const FileDescriptor& file, std::uint64_t at);
 
 /// Tells the system that a file will be read from its beginning to its end.

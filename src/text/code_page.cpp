@@ -65,9 +65,9 @@ std::string CodePage::bytesOf(std::string_view utf8) const
 char CodePage::byteOf(char32_t character) const
 {
     if (character < 0x80) return static_cast<char>(character);
-    const auto place = std::find(characters_.begin() + 0x80, characters_.end(), character);
-    if (character == replacement || place == characters_.end()) return missing;
-    return static_cast<char>(place - characters_.begin());
+    const auto found = std::find(characters_.begin() + 0x80, characters_.end(), character);
+    if (character == replacement || found == characters_.end()) return missing;
+    return static_cast<char>(found - characters_.begin());
 }
 
 CodePage windows1252()

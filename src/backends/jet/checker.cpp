@@ -47,11 +47,11 @@ private:
         std::uint32_t found = 0;
         Rows rows(pages_, table);
         for (; rows.next(); ++found) {
-            for (std::size_t place = 0; place < table.columns.size(); ++place) {
-                rows.text(place);
-                const Column& column = table.columns[place];
-                if (column.isLongValue() && !rows.isNull(place))
-                    checkLongValue(table.name + "." + column.name, rows.cell(place));
+            for (std::size_t index = 0; index < table.columns.size(); ++index) {
+                rows.text(index);
+                const Column& column = table.columns[index];
+                if (column.isLongValue() && !rows.isNull(index))
+                    checkLongValue(table.name + "." + column.name, rows.cell(index));
             }
         }
         if (found != table.rowCount)
@@ -141,9 +141,9 @@ private:
 
     void claim(std::uint32_t page, const std::string& name)
     {
-        const auto [place, first] = owners_.emplace(page, name);
+        const auto [owner, first] = owners_.emplace(page, name);
         if (!first)
-            report("page " + std::to_string(page) + " belongs to " + place->second + " and " +
+            report("page " + std::to_string(page) + " belongs to " + owner->second + " and " +
                    name);
         requireUsed(page, name);
     }

@@ -157,11 +157,11 @@ JetRecordset::JetRecordset(std::shared_ptr<Session> session, const TableDefiniti
 {
     appender_.emplace(*session_->database, table_);
     fields_.reserve(table_.columns.size());
-    for (std::size_t place = 0; place < table_.columns.size(); ++place) {
-        const Column& column = table_.columns[place];
-        fields_.emplace_back(*this, column, cells_[place]);
+    for (std::size_t index = 0; index < table_.columns.size(); ++index) {
+        const Column& column = table_.columns[index];
+        fields_.emplace_back(*this, column, cells_[index]);
         defaults_.push_back(defaultCell(column));
-        if (column.required) required_.push_back(place);
+        if (column.required) required_.push_back(index);
     }
 }
 
@@ -175,17 +175,17 @@ std::string JetRecordset::utf8Of(std::string_view text) const
 TraceField& JetRecordset::field(std::string_view name)
 {
     requireOpen();
-    const int place = table_.find(name);
-    if (place < 0) throw RunTimeError(noSuchField, "Item not found in this collection.");
-    return fields_[static_cast<std::size_t>(place)];
+    const int index = table_.find(name);
+    if (index < 0) throw RunTimeError(noSuchField, "Item not found in this collection.");
+    return fields_[static_cast<std::size_t>(index)];
 }
 
 void JetRecordset::addNew()
 {
     requireOpen();
-    for (std::size_t place = 0; place < cells_.size(); ++place) {
-        cells_[place].kind = Cell::Kind::null;
-        if (defaults_[place].kind != Cell::Kind::null) cells_[place] = defaults_[place];
+    for (std::size_t index = 0; index < cells_.size(); ++index) {
+        cells_[index].kind = Cell::Kind::null;
+        if (defaults_[index].kind != Cell::Kind::null) cells_[index] = defaults_[index];
     }
     adding_ = true;
 }
@@ -215,9 +215,9 @@ void JetRecordset::requireAdding(int otherwise) const
 
 void JetRecordset::checkRequired() const
 {
-    for (const std::size_t place : required_) {
-        if (cells_[place].kind == Cell::Kind::null)
-            throw RunTimeError(requiredField, "The field '" + table_.columns[place].name +
+    for (const std::size_t index : required_) {
+        if (cells_[index].kind == Cell::Kind::null)
+            throw RunTimeError(requiredField, "The field '" + table_.columns[index].name +
                                                   "' cannot contain a Null value.");
     }
 }

@@ -71,7 +71,7 @@ private:
     std::optional<TableAppender> appender_; ///< none when the recordset was closed
     std::vector<Cell> cells_;
     std::vector<Cell> defaults_;
-    std::vector<std::size_t> required_; ///< places of the columns that take no Null
+    std::vector<std::size_t> required_; ///< indexes of the columns that take no Null
     std::vector<JetField> fields_;
     bool adding_ = false;
 };

@@ -74,9 +74,9 @@ bool Rows::isNull(std::size_t column) const
     return !row_.has(table_.columns[column]);
 }
 
-std::string Rows::text(std::size_t place) const
+std::string Rows::text(std::size_t index) const
 {
-    const Column& column = table_.columns[place];
+    const Column& column = table_.columns[index];
     if (column.type == ColumnType::boolean) return row_.bit(column) ? "1" : "0";
     const std::string_view cell = row_.cell(column);
     if (!row_.has(column)) return {};
@@ -84,7 +84,7 @@ std::string Rows::text(std::size_t place) const
     case ColumnType::byte:
     case ColumnType::integer:
     case ColumnType::longInteger:
-        return std::to_string(number(place));
+        return std::to_string(number(index));
     case ColumnType::single:
         return realText(numberIn<float>(cell));
     case ColumnType::real:
@@ -106,9 +106,9 @@ std::string_view Rows::cell(std::size_t column) const
     return row_.cell(table_.columns[column]);
 }
 
-std::int64_t Rows::number(std::size_t place) const
+std::int64_t Rows::number(std::size_t index) const
 {
-    const Column& column = table_.columns[place];
+    const Column& column = table_.columns[index];
     const std::string_view cell = row_.cell(column);
     switch (column.type) {
     case ColumnType::byte:

@@ -65,10 +65,11 @@ std::string machineNameOf(const SitePaths& paths, const std::string& name)
 }
 
 /// The last line of what a process wrote, without the name that it puts before it.
-std::string lastWordsIn(const FileDescriptor& words, std::string_view name)
+std::string lastWordsIn(const FileDescriptor& standardError, std::string_view name)
 try {
     char buffer[4096];
-    std::string text(buffer, words.isOpen() ? readAt(words, buffer, sizeof buffer, 0) : 0);
+    std::string text(buffer,
+                     standardError.isOpen() ? readAt(standardError, buffer, sizeof buffer, 0) : 0);
     while (!text.empty() && (text.back() == '\n' || text.back() == '.')) text.pop_back();
     text.erase(0, text.rfind('\n') + 1);
     const std::string head = std::string(name) + ": ";
@@ -77,11 +78,11 @@ try {
     return {};
 }
 
-std::string failureOf(const ChildProcessEnd& end, const FileDescriptor& words)
+std::string failureOf(const ChildProcessEnd& end, const FileDescriptor& standardError)
 {
     if (end.signal != 0) return "signal " + std::to_string(end.signal) + " ended it";
     if (end.status == 0) return {};
-    const std::string said = lastWordsIn(words, cabinetMakerName);
+    const std::string said = lastWordsIn(standardError, cabinetMakerName);
     return said.empty() ? "it ended with status " + std::to_string(end.status) : said;
 }
 
@@ -142,7 +143,7 @@ std::int32_t SiteProcesses::startCabinetMaker(const std::string& asked,
         throw RunTimeError(runTimeErrors::fileNotFound,
                            "no cabinet maker is installed on this machine");
     Running running;
-    running.words = makeMemoryFile();
+    running.standardError = makeMemoryFile();
     running.replaced = !hasSameBytes(asked, installed_.cabinetMaker);
     return spawn(installed_.cabinetMaker, arguments, std::move(running));
 }
@@ -166,7 +167,7 @@ std::int32_t SiteProcesses::spawn(const std::string& program, std::vector<std::s
                            .arguments = std::move(arguments),
                            .folder = paths_.currentFolder(),
                            .variables = {{drivesVariable, paths_.siteFolder()}},
-                           .words = running.words.get()});
+                           .standardError = running.standardError.get()});
     running_[process] = std::move(running);
     return process;
 }
@@ -184,7 +185,8 @@ bool SiteProcesses::wait(std::int32_t processId, std::int32_t milliseconds)
         if (state != ChildProcessState::runs) {
             const bool ended = state == ChildProcessState::ended;
             if (ended)
-                lastReport_ = {failureOf(end, running->second.words), running->second.replaced};
+                lastReport_ = {failureOf(end, running->second.standardError),
+                               running->second.replaced};
             running_.erase(running);
             return ended;
         }

@@ -44,7 +44,7 @@ public:
 private:
     /// A process that runs.
     struct Running {
-        FileDescriptor words; ///< what it writes to standard error; not open for most
+        FileDescriptor standardError; ///< what it writes there; not open for most
         bool replaced = false;
     };
 

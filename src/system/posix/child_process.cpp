@@ -21,8 +21,8 @@ public:
         ::posix_spawn_file_actions_init(&actions_);
         ::posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
         ::posix_spawn_file_actions_addopen(&actions_, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-        if (plan.words >= 0)
-            ::posix_spawn_file_actions_adddup2(&actions_, plan.words, STDERR_FILENO);
+        if (plan.standardError >= 0)
+            ::posix_spawn_file_actions_adddup2(&actions_, plan.standardError, STDERR_FILENO);
         else
             ::posix_spawn_file_actions_addopen(&actions_, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
         ::posix_spawn_file_actions_addchdir_np(&actions_, plan.folder.c_str());

@@ -43,11 +43,11 @@ void installHandler()
 
 } // namespace
 
-FileWindows::FileWindows(const FileDescriptor& file, std::size_t places, std::size_t windowBytes)
+FileWindows::FileWindows(const FileDescriptor& file, std::size_t windows, std::size_t windowBytes)
     : file_(file.get()), windowBytes_(windowBytes),
-      pageBytes_(static_cast<std::size_t>(::sysconf(_SC_PAGESIZE))), offsets_(places, nothing)
+      pageBytes_(static_cast<std::size_t>(::sysconf(_SC_PAGESIZE))), offsets_(windows, nothing)
 {
-    void* area = ::mmap(nullptr, places * windowBytes, PROT_NONE,
+    void* area = ::mmap(nullptr, windows * windowBytes, PROT_NONE,
                         MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
     if (area == MAP_FAILED) throw RunTimeError(runTimeErrors::outOfMemory);
     base_ = static_cast<char*>(area);
@@ -59,26 +59,26 @@ FileWindows::~FileWindows()
     ::munmap(base_, offsets_.size() * windowBytes_);
 }
 
-void FileWindows::show(std::size_t place, std::uint64_t offset)
+void FileWindows::show(std::size_t window, std::uint64_t offset)
 {
-    offsets_[place] = static_cast<std::int64_t>(offset);
-    if (map(place)) return;
-    offsets_[place] = nothing;
+    offsets_[window] = static_cast<std::int64_t>(offset);
+    if (map(window)) return;
+    offsets_[window] = nothing;
     throw RunTimeError(runTimeErrors::outOfMemory);
 }
 
-bool FileWindows::map(std::size_t place) const
+bool FileWindows::map(std::size_t window) const
 {
     const int kind = failed() ? MAP_PRIVATE | MAP_NORESERVE : MAP_SHARED;
-    return ::mmap(base_ + place * windowBytes_, windowBytes_, PROT_READ | PROT_WRITE,
-                  kind | MAP_FIXED, file_, static_cast<off_t>(offsets_[place])) != MAP_FAILED;
+    return ::mmap(base_ + window * windowBytes_, windowBytes_, PROT_READ | PROT_WRITE,
+                  kind | MAP_FIXED, file_, static_cast<off_t>(offsets_[window])) != MAP_FAILED;
 }
 
 void FileWindows::goOn()
 {
     failed_ = 0;
-    for (std::size_t place = 0; place < offsets_.size(); ++place)
-        if (offsets_[place] != nothing && !map(place)) {
+    for (std::size_t window = 0; window < offsets_.size(); ++window)
+        if (offsets_[window] != nothing && !map(window)) {
             failed_ = 1;
             throw RunTimeError(runTimeErrors::outOfMemory);
         }
@@ -89,8 +89,8 @@ bool FileWindows::takeFault(char* at)
     if (at < base_ || at >= base_ + offsets_.size() * windowBytes_) return false;
     if (!failed()) {
         failed_ = 1;
-        for (std::size_t place = 0; place < offsets_.size(); ++place)
-            if (offsets_[place] != nothing && !map(place)) return false;
+        for (std::size_t window = 0; window < offsets_.size(); ++window)
+            if (offsets_[window] != nothing && !map(window)) return false;
         return true;
     }
     // The file has no such page any more: it reads as zeros.

@@ -20,7 +20,7 @@ FilePages::FilePages(const std::string& path) : file_(openDatabaseFile(path, for
 const char* FilePages::look(std::uint32_t page) const
 {
     const std::uint32_t number = page / pagesPerBlock;
-    Block& block = places_[number] != 0 ? blocks_[places_[number] - 1u] : blockFor(number);
+    Block& block = blockOf_[number] != 0 ? blocks_[blockOf_[number] - 1u] : blockFor(number);
     block.used = ++looks_;
     return block.bytes.get() + std::size_t{page % pagesPerBlock} * pageSize;
 }
@@ -28,7 +28,7 @@ const char* FilePages::look(std::uint32_t page) const
 const char* FilePages::lookAgain(std::uint32_t page) const
 {
     const std::uint32_t number = page / pagesPerBlock;
-    if (places_[number] != 0) read(blocks_[places_[number] - 1u]);
+    if (blockOf_[number] != 0) read(blocks_[blockOf_[number] - 1u]);
     return look(page);
 }
 
@@ -39,11 +39,11 @@ FilePages::Block& FilePages::blockFor(std::uint32_t number) const
         *std::min_element(blocks_.begin(), blocks_.end(), [](const Block& one, const Block& other) {
             return one.used < other.used;
         });
-    if (block.used != 0) places_[block.number] = 0;
+    if (block.used != 0) blockOf_[block.number] = 0;
     block.used = 0;
     block.number = number;
     read(block);
-    places_[number] = static_cast<std::uint8_t>(&block - blocks_.data() + 1);
+    blockOf_[number] = static_cast<std::uint8_t>(&block - blocks_.data() + 1);
     return block;
 }
 

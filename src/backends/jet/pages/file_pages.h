@@ -47,7 +47,7 @@ private:
     FileDescriptor file_;
     std::uint32_t count_ = 0;
     mutable std::array<Block, mostBlocks> blocks_;
-    mutable std::array<std::uint8_t, formatFilePages / pagesPerBlock> places_{}; ///< from 1
+    mutable std::array<std::uint8_t, formatFilePages / pagesPerBlock> blockOf_{}; ///< from 1
     mutable std::uint64_t looks_ = 0;
 };
 

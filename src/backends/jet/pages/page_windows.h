@@ -21,9 +21,9 @@ public:
     char* page(std::uint32_t number)
     {
         const std::uint32_t part = number / pagesPerWindow;
-        const unsigned place = places_[part] != 0 ? places_[part] - 1u : openWindow(part);
-        windows_[place].used = ++uses_;
-        return memory_.memory() + place * windowBytes +
+        const unsigned window = windowOf_[part] != 0 ? windowOf_[part] - 1u : openWindow(part);
+        windows_[window].used = ++uses_;
+        return memory_.memory() + window * windowBytes +
                std::size_t{number % pagesPerWindow} * pageSize;
     }
 
@@ -56,7 +56,7 @@ private:
 
     FileWindows memory_;
     std::array<Window, mostWindows> windows_{};
-    std::array<std::uint8_t, formatFilePages / pagesPerWindow> places_{}; ///< from 1
+    std::array<std::uint8_t, formatFilePages / pagesPerWindow> windowOf_{}; ///< from 1; 0: none
     std::uint64_t uses_ = 0;
 };
 

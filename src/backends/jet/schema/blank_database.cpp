@@ -188,9 +188,9 @@ private:
         if (const auto found = propertyCells_.find(object.id); found != propertyCells_.end())
             cells["LvProp"] = found->second;
         const auto row = addRow(objects_, encodeRow(system_[0].table, cells));
-        const std::string place = indexKey(RowPointer{systemPage::objectRows, row});
-        namesIndex_.push_back(indexKey(object.parent) + indexKey(object.name) + place);
-        idsIndex_.push_back(indexKey(object.id) + place);
+        const std::string pointer = indexKey(RowPointer{systemPage::objectRows, row});
+        namesIndex_.push_back(indexKey(object.parent) + indexKey(object.name) + pointer);
+        idsIndex_.push_back(indexKey(object.id) + pointer);
     }
 
     void addPermission(const Permission& permission)

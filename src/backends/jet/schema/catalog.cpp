@@ -32,9 +32,9 @@ private:
     /// `bytes` is the length that a number must have, 0 for a variable column.
     static const Column& find(const TableDefinition& catalog, const char* name, unsigned bytes)
     {
-        const int place = catalog.find(name);
-        if (place < 0) raiseUnknownFormat("the catalog's columns");
-        const Column& column = catalog.columns[static_cast<std::size_t>(place)];
+        const int index = catalog.find(name);
+        if (index < 0) raiseUnknownFormat("the catalog's columns");
+        const Column& column = catalog.columns[static_cast<std::size_t>(index)];
         if (column.fixed != (bytes > 0) || (bytes > 0 && column.length != bytes))
             raiseUnknownFormat("the catalog's columns");
         return column;

@@ -21,7 +21,7 @@ class Stream {
 public:
     explicit Stream(std::size_t size) : bytes_(size, '\0') {}
 
-    /// Appends zeros and returns their place, which holds until the next call.
+    /// Appends zeros and returns where they begin, which holds until the next call.
     char* add(std::size_t size)
     {
         bytes_.resize(bytes_.size() + size);
@@ -75,10 +75,10 @@ void addPhysicalIndex(Stream& stream, const IndexDefinition& index)
 {
     char* at = stream.add(52);
     store32(at, indexMark);
-    for (std::size_t place = 0; place < columnsPerIndex; ++place) {
-        const bool used = place < index.columns.size();
-        store16(at + 4 + 3 * place, used ? index.columns[place] : 0xFFFF);
-        at[6 + 3 * place] = used ? 1 : 0;
+    for (std::size_t i = 0; i < columnsPerIndex; ++i) {
+        const bool used = i < index.columns.size();
+        store16(at + 4 + 3 * i, used ? index.columns[i] : 0xFFFF);
+        at[6 + 3 * i] = used ? 1 : 0;
     }
     store32(at + 34, index.map.stored());
     store32(at + 38, index.rootPage);
@@ -112,7 +112,7 @@ void addLongValueMaps(Stream& stream, const Column& column)
     store32(at + 6, column.freePages.stored());
 }
 
-/// Places of the columns in the order of their definitions: system tables sort theirs by name.
+/// Indexes of the columns in the order of their definitions: system tables sort theirs by name.
 std::vector<std::size_t> definitionOrder(const TableDefinition& table, bool system)
 {
     std::vector<std::size_t> order(table.columns.size());
@@ -153,13 +153,13 @@ void writeTableDefinition(char* page, const TableDefinition& table, const Defini
     writeHead(stream.bytes().data(), table, marks);
     for (const auto& index : marks.indexes) store32(stream.add(12) + 4, index.distinctKeys);
     const auto order = definitionOrder(table, marks.system);
-    for (const std::size_t place : order)
-        addColumn(stream, table.columns[place], marks.columnFlags[place], marks.system);
-    for (const std::size_t place : order) stream.addName(table.columns[place].name);
+    for (const std::size_t column : order)
+        addColumn(stream, table.columns[column], marks.columnFlags[column], marks.system);
+    for (const std::size_t column : order) stream.addName(table.columns[column].name);
     for (const auto& index : marks.indexes) addPhysicalIndex(stream, index);
     addLogicalIndexes(stream, marks.indexes);
-    for (const std::size_t place : order) {
-        if (table.columns[place].isLongValue()) addLongValueMaps(stream, table.columns[place]);
+    for (const std::size_t column : order) {
+        if (table.columns[column].isLongValue()) addLongValueMaps(stream, table.columns[column]);
     }
     store16(stream.add(2), 0xFFFF);
 

@@ -45,7 +45,7 @@ void appendName(std::string& to, std::string_view name)
     to += stored;
 }
 
-/// `index` is the property's place in the list of names.
+/// `index` is the property's number in the list of names.
 void appendProperty(std::string& to, std::size_t index, char type, const std::string& value)
 {
     append16(to, value.size() + propertyHead);
@@ -133,8 +133,8 @@ void applyColumnBlock(Parts body, const std::vector<std::string>& names, TableDe
     const std::size_t ownerBytes = body.take32();
     Parts owner = body.takeSized(ownerBytes, 4);
     const std::size_t nameBytes = owner.take16();
-    const int place = table.find(decodeStoredText(owner.take(nameBytes)));
-    while (place >= 0 && !body.rest.empty()) {
+    const int columnIndex = table.find(decodeStoredText(owner.take(nameBytes)));
+    while (columnIndex >= 0 && !body.rest.empty()) {
         const std::size_t entryBytes = body.take16();
         Parts entry = body.takeSized(entryBytes, 2);
         entry.take(2);
@@ -142,7 +142,7 @@ void applyColumnBlock(Parts body, const std::vector<std::string>& names, TableDe
         const std::size_t valueBytes = entry.take16();
         const std::string_view value = entry.take(valueBytes);
         if (index >= names.size()) continue;
-        Column& column = table.columns[static_cast<std::size_t>(place)];
+        Column& column = table.columns[static_cast<std::size_t>(columnIndex)];
         if (names[index] == allowZeroLength)
             column.allowZeroLength = value.empty() || value[0] != 0;
         else if (names[index] == required)

@@ -63,11 +63,11 @@ void TableAppender::planColumns()
 {
     shape_ = {table_.columnsInRow, 0, table_.variableColumns};
     variable_.resize(table_.variableColumns);
-    for (std::size_t place = 0; place < table_.columns.size(); ++place) {
-        const Column& column = table_.columns[place];
+    for (std::size_t index = 0; index < table_.columns.size(); ++index) {
+        const Column& column = table_.columns[index];
         Slot* slot = column.fixed ? &fixed_.emplace_back() : &variable_[column.variableIndex];
         slot->column = &column;
-        slot->place = place;
+        slot->index = index;
         if (column.fixed)
             shape_.fixedBytes =
                 std::max<std::size_t>(shape_.fixedBytes, column.fixedOffset + column.length);
@@ -137,8 +137,8 @@ std::size_t TableAppender::planValues(std::span<const Cell> cells)
     std::size_t bytes = 0;
     for (auto& slot : variable_) {
         slot.form = {};
-        if (slot.column == nullptr || cells[slot.place].kind == Cell::Kind::null) continue;
-        const TextValue& text = cells[slot.place].text;
+        if (slot.column == nullptr || cells[slot.index].kind == Cell::Kind::null) continue;
+        const TextValue& text = cells[slot.index].text;
         if (slot.memos) {
             slot.form = formOfMemo(text, slot.column->compressed);
             bytes += slot.form.memoCellBytes();
@@ -154,7 +154,7 @@ void TableAppender::storeLongValues(std::span<const Cell> cells)
 {
     for (auto& slot : variable_) {
         if (slot.form.place != StoredForm::Place::inRow)
-            slot.stored = slot.memos->store(cells[slot.place].text, slot.form);
+            slot.stored = slot.memos->store(cells[slot.index].text, slot.form);
     }
 }
 
@@ -162,18 +162,18 @@ void TableAppender::writeRow(char* at, std::span<const Cell> cells, std::size_t 
 {
     RowWriter row(at, shape_, variableBytes);
     for (const auto& slot : fixed_) {
-        const Cell& cell = cells[slot.place];
+        const Cell& cell = cells[slot.index];
         if (cell.kind == Cell::Kind::null) continue;
         std::memcpy(row.fixed(slot.column->fixedOffset), &cell.number, slot.column->length);
         row.mark(slot.column->number);
     }
     for (const auto& slot : variable_) {
-        if (slot.column == nullptr || cells[slot.place].kind == Cell::Kind::null) {
+        if (slot.column == nullptr || cells[slot.index].kind == Cell::Kind::null) {
             row.variable(0);
             continue;
         }
         row.mark(slot.column->number);
-        const TextValue& text = cells[slot.place].text;
+        const TextValue& text = cells[slot.index].text;
         if (!slot.memos) {
             writeText(row.variable(slot.form.bytes), text, slot.form.compressed);
             continue;

@@ -50,7 +50,7 @@ private:
 
     struct Slot {
         const Column* column = nullptr; ///< null for a variable index that no column has
-        std::size_t place = 0;          ///< of the column and its cell
+        std::size_t index = 0;          ///< of the column and its cell
         std::optional<LongValueWriter> memos;
         StoredForm form;
         RowPointer stored; ///< of a memo that is not in the row

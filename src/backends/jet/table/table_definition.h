@@ -59,7 +59,7 @@ struct TableDefinition {
     RowPointer freePages;
     std::vector<Column> columns; ///< by number
 
-    /// The place in `columns` of a name, without regard to case; -1 for none.
+    /// The index in `columns` of a name, without regard to case; -1 for none.
     int find(std::string_view column) const;
 };
 

@@ -13,20 +13,20 @@
 
 namespace {
 
-void bind(sqlite3_stmt* statement, int place, const Value& value)
+void bind(sqlite3_stmt* statement, int index, const Value& value)
 {
     if (const auto* number = std::get_if<std::int32_t>(&value)) {
-        sqlite3_bind_int(statement, place, *number);
+        sqlite3_bind_int(statement, index, *number);
     } else if (const auto* real = std::get_if<double>(&value)) {
-        sqlite3_bind_double(statement, place, *real);
+        sqlite3_bind_double(statement, index, *real);
     } else if (const auto* flag = std::get_if<bool>(&value)) {
-        sqlite3_bind_int(statement, place, *flag ? 1 : 0);
+        sqlite3_bind_int(statement, index, *flag ? 1 : 0);
     } else if (const auto* date = std::get_if<Date>(&value)) {
         const std::string text = sortableDateTime(*date);
-        sqlite3_bind_text(statement, place, text.c_str(), -1, SQLITE_TRANSIENT);
+        sqlite3_bind_text(statement, index, text.c_str(), -1, SQLITE_TRANSIENT);
     } else if (!isNull(value) && !isEmpty(value)) {
         const std::string text = valueAsText(value);
-        sqlite3_bind_text(statement, place, text.data(), static_cast<int>(text.size()),
+        sqlite3_bind_text(statement, index, text.data(), static_cast<int>(text.size()),
                           SQLITE_TRANSIENT);
     }
 }
@@ -74,20 +74,21 @@ public:
         // A walk's call has begun when its row was read.
         if (!handle->isWalked()) handle->beginCall();
         std::string names;
-        std::string places;
+        std::string placeholders;
         for (const auto& parameter : parameters_) {
             if (!parameter.assigned) continue;
             names += (names.empty() ? "" : ",") + parameter.name;
-            places += places.empty() ? ":a" : ",:a";
-            places += std::to_string(std::count(places.begin(), places.end(), ':'));
+            placeholders += placeholders.empty() ? ":a" : ",:a";
+            placeholders +=
+                std::to_string(std::count(placeholders.begin(), placeholders.end(), ':'));
         }
-        const SqliteStatement statement =
-            prepared(*handle, "INSERT INTO " + procedure_ +
-                                  (names.empty() ? " DEFAULT VALUES"
-                                                 : " (" + names + ") VALUES (" + places + ")"));
-        int place = 0;
+        const SqliteStatement statement = prepared(
+            *handle, "INSERT INTO " + procedure_ +
+                         (names.empty() ? " DEFAULT VALUES"
+                                        : " (" + names + ") VALUES (" + placeholders + ")"));
+        int index = 0;
         for (const auto& parameter : parameters_)
-            if (parameter.assigned) bind(statement.get(), ++place, parameter.value);
+            if (parameter.assigned) bind(statement.get(), ++index, parameter.value);
         int result = SQLITE_ROW;
         while (result == SQLITE_ROW) result = sqlite3_step(statement.get());
         if (result != SQLITE_DONE) handle->fail();

@@ -246,9 +246,9 @@ SqliteStatement SqliteHandle::prepare(const std::string& sql)
         found = statements_.emplace(shared->sql, compile(shared->sql)).first;
     else if (sqlite3_stmt_busy(found->second))
         return unshared(sql);
-    int place = 0;
+    int index = 0;
     for (const auto& literal : shared->literals)
-        sqlite3_bind_text(found->second, ++place, literal.data(), static_cast<int>(literal.size()),
+        sqlite3_bind_text(found->second, ++index, literal.data(), static_cast<int>(literal.size()),
                           SQLITE_TRANSIENT);
     return SqliteStatement(found->second);
 }

@@ -52,13 +52,13 @@ std::string unescaped(std::string_view text, int lineNumber)
 {
     std::string result;
     result.reserve(text.size());
-    for (std::size_t place = 0; place < text.size(); ++place) {
-        if (text[place] != '\\') {
-            result += text[place];
+    for (std::size_t position = 0; position < text.size(); ++position) {
+        if (text[position] != '\\') {
+            result += text[position];
             continue;
         }
-        ++place;
-        switch (place < text.size() ? text[place] : '\0') {
+        ++position;
+        switch (position < text.size() ? text[position] : '\0') {
         case 's':
             result += ' ';
             break;

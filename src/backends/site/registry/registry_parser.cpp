@@ -44,9 +44,9 @@ public:
 private:
     [[noreturn]] void fail(const std::string& what) const { failAt(place_, what); }
 
-    [[noreturn]] void failAt(std::size_t place, const std::string& what) const
+    [[noreturn]] void failAt(std::size_t position, const std::string& what) const
     {
-        const auto before = text_.substr(0, std::min(place, text_.size()));
+        const auto before = text_.substr(0, std::min(position, text_.size()));
         const auto line = 1 + std::count(before.begin(), before.end(), '\n');
         throw RunTimeError(runTimeErrors::invalidFileFormat,
                            "registry.reg line " + std::to_string(line) + ": " + what);
@@ -54,11 +54,11 @@ private:
 
     void checkBytes() const
     {
-        for (std::size_t place = 0; place < text_.size();) {
-            const std::size_t length = utf8CharacterLength(text_.substr(place));
-            if (length == 0) failAt(place, "not UTF-8");
-            if (text_[place] == '\0') failAt(place, "a zero byte");
-            place += length;
+        for (std::size_t position = 0; position < text_.size();) {
+            const std::size_t length = utf8CharacterLength(text_.substr(position));
+            if (length == 0) failAt(position, "not UTF-8");
+            if (text_[position] == '\0') failAt(position, "a zero byte");
+            position += length;
         }
     }
 

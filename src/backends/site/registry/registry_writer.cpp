@@ -77,7 +77,7 @@ private:
     static std::string number(const std::vector<std::uint8_t>& bytes)
     {
         std::string result;
-        for (std::size_t place = bytes.size(); place-- > 0;) appendByte(result, bytes[place]);
+        for (std::size_t index = bytes.size(); index-- > 0;) appendByte(result, bytes[index]);
         return result;
     }
 
@@ -99,9 +99,9 @@ private:
 
     void writeBytes(std::string content, std::string_view bytes)
     {
-        for (std::size_t place = 0; place < bytes.size(); ++place) {
-            const bool isLast = place + 1 == bytes.size();
-            appendByte(content, static_cast<unsigned char>(bytes[place]));
+        for (std::size_t index = 0; index < bytes.size(); ++index) {
+            const bool isLast = index + 1 == bytes.size();
+            appendByte(content, static_cast<unsigned char>(bytes[index]));
             if (!isLast) content += ',';
             if (isLast || content.size() + 3 <= lineWidth) continue;
             line(content + "\\");

@@ -170,9 +170,9 @@ std::vector<xmlNode*> nodesOf(const Tree& tree, xmlNode* from, const std::string
     std::vector<xmlNode*> nodes;
     if (found->nodesetval == nullptr) return nodes;
     xmlXPathNodeSetSort(found->nodesetval);
-    for (int place = 0; place < found->nodesetval->nodeNr; ++place)
-        if (found->nodesetval->nodeTab[place]->type == XML_ELEMENT_NODE)
-            nodes.push_back(found->nodesetval->nodeTab[place]);
+    for (int index = 0; index < found->nodesetval->nodeNr; ++index)
+        if (found->nodesetval->nodeTab[index]->type == XML_ELEMENT_NODE)
+            nodes.push_back(found->nodesetval->nodeTab[index]);
     return nodes;
 }
 
