@@ -1,6 +1,6 @@
 #include "hosts/common/watched_files.h"
 
-#include "hosts/common/gather_report.h"
+#include "hosts/common/gather/gather_report.h"
 #include "hosts/common/tool_log_guard.h"
 #include "runtime/run_time_error.h"
 

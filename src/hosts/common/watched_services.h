@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hosts/common/gather_report.h"
+#include "hosts/common/gather/gather_report.h"
 #include "hosts/common/tool_log_guard.h"
 #include "hosts/common/watched_files.h"
 #include "hosts/common/watched_trace_databases.h"

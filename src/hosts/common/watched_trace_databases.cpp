@@ -1,6 +1,6 @@
 #include "hosts/common/watched_trace_databases.h"
 
-#include "hosts/common/gather_report.h"
+#include "hosts/common/gather/gather_report.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
 

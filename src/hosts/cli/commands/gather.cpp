@@ -6,7 +6,7 @@
 #include "hosts/cli/gather/gather_preview.h"
 #include "hosts/cli/gather/gather_run.h"
 #include "hosts/cli/gather/gather_wizard.h"
-#include "hosts/common/gather_outcome.h"
+#include "hosts/common/gather/gather_outcome.h"
 #include "logreader/log_file_names.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"

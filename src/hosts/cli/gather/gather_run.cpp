@@ -2,8 +2,8 @@
 
 #include "hosts/cli/gather/gather_progress.h"
 #include "hosts/cli/gather/gather_wizard.h"
-#include "hosts/common/destination_turn.h"
-#include "hosts/common/gather_outcome.h"
+#include "hosts/common/gather/destination_turn.h"
+#include "hosts/common/gather/gather_outcome.h"
 #include "system/file_facts.h"
 
 #include <chrono>

@@ -2,8 +2,8 @@
 
 #include "controls/sheet_page.h"
 #include "core/tool_context.h"
-#include "hosts/common/destination_turn.h"
-#include "hosts/common/gather_outcome.h"
+#include "hosts/common/gather/destination_turn.h"
+#include "hosts/common/gather/gather_outcome.h"
 #include "runtime/run_time_error.h"
 #include "wizards/gather_progress.h"
 

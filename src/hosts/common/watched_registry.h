@@ -5,8 +5,6 @@
 #include <map>
 #include <string>
 
-namespace cli {
-
 /// The site's registry, with a note of what it refused: the tool goes on after a value that was not
 /// written, and tells nobody.
 class WatchedRegistry final : public Registry {
@@ -39,5 +37,3 @@ private:
     std::string first_;
     std::map<std::string, std::string> ofValues_;
 };
-
-} // namespace cli

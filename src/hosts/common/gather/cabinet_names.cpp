@@ -1,4 +1,4 @@
-#include "hosts/common/cabinet_names.h"
+#include "hosts/common/gather/cabinet_names.h"
 
 #include <cstdint>
 #include <fstream>

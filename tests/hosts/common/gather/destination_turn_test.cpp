@@ -1,4 +1,4 @@
-#include "hosts/common/destination_turn.h"
+#include "hosts/common/gather/destination_turn.h"
 
 #include "backends/site/files/site_file_system.h"
 #include "support/temporary_folder.h"

@@ -1,8 +1,6 @@
-#include "hosts/cli/driving/watched_registry.h"
+#include "hosts/common/watched_registry.h"
 
 #include "runtime/run_time_error.h"
-
-namespace cli {
 
 namespace {
 
@@ -77,5 +75,3 @@ std::string WatchedRegistry::note(const std::string& what, const std::string& wh
     if (first_.empty()) first_ = refusal;
     return refusal;
 }
-
-} // namespace cli

@@ -1,8 +1,8 @@
-#include "hosts/common/gather_outcome.h"
+#include "hosts/common/gather/gather_outcome.h"
 
 #include "core/error_trap.h"
 #include "core/trapped_error_listener.h"
-#include "hosts/common/gather_report.h"
+#include "hosts/common/gather/gather_report.h"
 #include "platform/trace_database.h"
 #include "support/temporary_folder.h"
 #include "wizards/gather_wizard_fixture.h"

@@ -1,4 +1,4 @@
-#include "hosts/common/gather_report.h"
+#include "hosts/common/gather/gather_report.h"
 
 #include <utility>
 
