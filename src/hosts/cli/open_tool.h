@@ -1,18 +1,10 @@
 #pragma once
 
-#include "backends/jet/jet_engine.h"
-#include "backends/site/site.h"
 #include "backends/site/site_turn.h"
-#include "console/console.h"
-#include "core/tool_context.h"
 #include "hosts/cli/command.h"
 #include "hosts/cli/terminal/interrupt.h"
 #include "hosts/cli/terminal/terminal_desktop.h"
-#include "hosts/common/looking_services.h"
-#include "hosts/common/watched_registry.h"
-#include "hosts/common/watched_services.h"
-#include "shell/snapin_orvan_diagnostics.h"
-#include "text/code_page.h"
+#include "hosts/common/tool_on_site.h"
 
 #include <functional>
 #include <optional>
@@ -28,11 +20,18 @@ enum class ToolUse {
     look,   ///< leaves no event, log or value, and needs no leave to write
 };
 
+/// What has to be there before a command's tool and as long as it.
+struct AroundTool {
+    TerminalDesktop desktop_;
+    std::optional<SiteTurn> turn_;
+    std::optional<InterruptWish> interrupt_;
+};
+
 /// The tool at work on a site: from its loading to its unloading, with a terminal for a desktop.
 ///
 /// A program that leaves something there is not ended in the middle: Ctrl-C, SIGTERM and SIGHUP are
 /// a wish (`interrupted`) from the moment the tool is loaded.
-class OpenTool {
+class OpenTool final : private AroundTool, public ToolOnSite {
 public:
     using Check = std::function<void(OpenTool&)>;
 
@@ -47,32 +46,18 @@ public:
     /// A wish to end while the tool loads ends the command (CommandFailure) with the tool unloaded.
     OpenTool(const GlobalOptions& options, ToolUse use, const Check& check = {});
 
-    OpenTool(const OpenTool&) = delete;
-    OpenTool& operator=(const OpenTool&) = delete;
-
     /// Unloads the snap-in when a failure kept the command from `close`.
     ~OpenTool();
 
     /// Unloads the snap-in, and lets others change the site. Says, when the tool's own log could
-    /// not be written, why. Raises what the snap-in raises.
+    /// not be written, why. Raises what the snap-in raises, and CommandFailure when the registry
+    /// did not take what a command was to change.
     void close();
 
-    Site& site() { return site_; }
-    ToolContext& context() { return *context_; }
-    Console& console() { return console_; }
-    snapinOrvanDiagnostics& snapIn() { return *snapIn_; }
     TerminalDesktop& desktop() { return desktop_; }
-    const CodePage& codePage() const { return codePage_; }
-    WatchedRegistry& registry() { return registry_; }
-
-    /// What the tool saw of the server's logs.
-    GatherReport& report() { return watched_.report(); }
 
     /// Whether the person wished the command to end.
     bool interrupted() const { return interrupt_ && interrupt_->made(); }
-
-    /// Where a path of the tool lies on this machine.
-    std::string machinePath(const std::string& path) { return site_.paths().machinePath(path); }
 
     /// Whether a file can be left at a path of the tool as far as the site goes: a read-only one
     /// takes none. Raises as `machinePath`.
@@ -86,34 +71,13 @@ public:
     /// database.
     void requireDatabase();
 
-    /// Why the database could not be opened when the tool started; empty when it was.
-    const std::string& databaseFailure() const { return databaseFailure_; }
-
     /// The open Processes node. Its processes' names are those of its children.
     ScopeItem& processes();
 
 private:
-    void takeTurnIfItComes();
+    SiteTurn takeTurn();
 
     ToolUse use_;
-    bool looksOnly_; ///< nothing of the site is changed
-    std::optional<SiteTurn> turn_;
-    std::optional<InterruptWish> interrupt_;
-    Site site_;
-    TerminalDesktop desktop_;
-    jet::JetEngine traceDatabases_;
-    WatchedRegistry registry_;
-    Platform platform_;
-    WatchedServices watched_;
-    std::string toolLogFailure_;
-    LookingServices looking_;
-    std::optional<ToolContext> context_;
-    SnapInDefinition definition_;
-    Console console_;
-    std::optional<snapinOrvanDiagnostics> snapIn_;
-    CodePage codePage_;
-    std::string databaseFailure_;
-    bool loaded_ = false;
 };
 
 } // namespace cli

@@ -4,8 +4,9 @@
 
 WatchedServices::WatchedServices(const Platform& services)
     : toolLog_(services.module.folder()), files_(services.files, report_, toolLog_),
+      registry_(services.registry),
       traceDatabases_(services.traceDatabases, report_), platform_{files_,
-                                                                   services.registry,
+                                                                   registry_,
                                                                    services.clock,
                                                                    services.timeZone,
                                                                    services.eventReporter,

@@ -1,44 +1,28 @@
 #pragma once
 
-#include "backends/jet/jet_engine.h"
-#include "backends/site/site.h"
 #include "backends/site/site_turn.h"
-#include "console/console.h"
-#include "core/tool_context.h"
-#include "hosts/common/looking_services.h"
-#include "hosts/common/watched_services.h"
-#include "shell/snapin_orvan_diagnostics.h"
+#include "hosts/common/tool_on_site.h"
 
 #include <functional>
 #include <optional>
 #include <string>
-#include <utility>
-
-class Desktop;
 
 namespace desktop {
 
 /// The tool on a site: from its loading to its unloading.
-class OpenTool {
+class OpenTool final : public ToolOnSite {
 public:
     /// Opens a site; `desktop` outlives the tool. Raises what `Site` raises. The console is there,
     /// for a window to observe, and the snap-in is not loaded yet. A site that may not be written
     /// to is opened for a look, which leaves nothing there.
     OpenTool(const std::string& folder, const std::string& installedData, const HostFacts& facts,
              Desktop& desktop);
-    OpenTool(const OpenTool&) = delete;
-    OpenTool& operator=(const OpenTool&) = delete;
 
-    void load();
+    using ToolOnSite::load;
 
     /// Unloads the snap-in, once, in a turn of its own where that can be had. Raises what unloading
     /// raises.
     void close();
-
-    Site& site() { return site_; }
-    ToolContext& context() { return context_; }
-    Console& console() { return console_; }
-    snapinOrvanDiagnostics& snapIn() { return snapIn_; }
 
     /// Runs what may change the site while no other program does; nothing is run where the person
     /// gives the wait for that up. Raises 70, with a sentence, when another one does not come to
@@ -53,43 +37,17 @@ public:
     /// given up. Null: the wait is one without a window, told on the terminal.
     std::function<std::optional<SiteTurn>(const std::string& siteFolder)> takeTurn;
 
-    /// What the tool saw of the server's logs.
-    GatherReport& report() { return watched_.report(); }
-
-    /// Why the tool's own log could not be written, the first time that it is asked for since then;
-    /// empty for nothing new.
-    std::string takeToolLogFailure() { return std::exchange(toolLogFailure_, {}); }
-
-    /// Whether the tool was opened on a site that it only looks at.
-    bool looksOnly() const { return use_ == SiteUse::look; }
-
-    /// Whether the site can be written to now.
-    bool writable() const;
-
     /// Whether the site's folder still is one.
     bool present() const;
 
     /// A file that the person picked, as the tool names it: a file of the site's drive by its
-    /// drive, another one by its path on the machine.
-    /// The tool may reach it from then on.
+    /// drive, another one by its path on the machine. The tool may reach it from then on.
     std::string toolPath(const std::string& machinePath);
 
 private:
     std::optional<SiteTurn> turn();
     std::string pathOfTool(const std::string& machinePath) const;
 
-    SiteUse use_;
-    Site site_;
-    jet::JetEngine traceDatabases_;
-    Platform platform_;
-    WatchedServices watched_;
-    std::string toolLogFailure_;
-    LookingServices looking_;
-    ToolContext context_;
-    SnapInDefinition definition_;
-    Console console_;
-    snapinOrvanDiagnostics snapIn_;
-    bool loaded_ = false;
     bool changing_ = false;
     bool waiting_ = false; ///< for the turn to change
     std::optional<SiteTurn> turnOfChange_;

@@ -113,15 +113,7 @@ void MainWindow::setTool(OpenTool* tool)
         centre_->setCurrentWidget(pane_);
         connectPane();
         changeTextSize(0);
-        std::string databaseFailure;
-        {
-            const TrappedErrorListener opening(
-                tool_->context(), [&](const RunTimeError& error, std::string_view procName) {
-                    if (procName == "[mdlOrvanDatabase]openOrvanDB")
-                        databaseFailure = error.description();
-                });
-            pane_->perform([this](Console&) { tool_->load(); });
-        }
+        pane_->perform([this](Console&) { tool_->load(); });
         listener_.emplace(tool_->context(),
                           [this](const RunTimeError& error, std::string_view procName) {
                               undone_.note(error, procName);
@@ -131,7 +123,7 @@ void MainWindow::setTool(OpenTool* tool)
         rebuildConsoleItems();
         sayLanguage();
         if (tool_->looksOnly()) sayReadOnly();
-        if (!databaseFailure.empty()) sayWithoutDatabase(databaseFailure);
+        if (!tool_->databaseFailure().empty()) sayWithoutDatabase(tool_->databaseFailure());
         pane_->tree().setFocus();
     }
     updateActions();
