@@ -1,8 +1,8 @@
 #include "hosts/common/log_folder.h"
 
 #include "core/tool_context.h"
-#include "hosts/common/gather/gather_outcome.h"
 #include "hosts/common/gather/gather_report.h"
+#include "hosts/common/gather/gather_sentences.h"
 #include "platform/file_system.h"
 #include "runtime/run_time_error.h"
 

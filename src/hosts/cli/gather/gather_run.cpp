@@ -3,7 +3,8 @@
 #include "hosts/cli/gather/gather_progress.h"
 #include "hosts/cli/gather/gather_wizard.h"
 #include "hosts/common/gather/destination_turn.h"
-#include "hosts/common/gather/gather_outcome.h"
+#include "hosts/common/gather/gather_sentences.h"
+#include "hosts/common/gather/gather_watch.h"
 #include "system/file_facts.h"
 
 #include <chrono>
@@ -70,7 +71,7 @@ void requireRoom(const std::optional<Sentence>& refusal)
     if (refusal) throw CommandFailure(asClause(*refusal) + "; name another folder");
 }
 
-GatherWatch::MachinePath machinePathsOf(OpenTool& tool)
+MachinePath machinePathsOf(OpenTool& tool)
 {
     return [&tool](const std::string& path) { return tool.machinePath(path); };
 }

@@ -1,7 +1,7 @@
 #include "hosts/common/gather/destination_turn.h"
 
 #include "backends/site/files/result_folder.h"
-#include "hosts/common/gather/gather_outcome.h"
+#include "hosts/common/gather/gather_sentences.h"
 #include "platform/file_system.h"
 #include "runtime/run_time_error.h"
 

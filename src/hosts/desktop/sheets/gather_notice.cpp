@@ -3,7 +3,8 @@
 #include "controls/sheet_page.h"
 #include "core/tool_context.h"
 #include "hosts/common/gather/destination_turn.h"
-#include "hosts/common/gather/gather_outcome.h"
+#include "hosts/common/gather/gather_sentences.h"
+#include "hosts/common/gather/gather_watch.h"
 #include "runtime/run_time_error.h"
 #include "wizards/gather_progress.h"
 

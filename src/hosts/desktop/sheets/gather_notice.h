@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hosts/common/gather/gather_job.h"
 #include "hosts/desktop/look/interface_language.h"
 
 #include <functional>
@@ -23,8 +24,6 @@ QString inLanguage(const Sentence& sentence);
 /// own texts tell of no failure.
 class GatherNotice {
 public:
-    using MachinePath = std::function<std::string(const std::string&)>;
-
     /// Lets a timer of a page tick. Where that runs a gather: gives, when it has come to its end,
     /// what there is to say, and null for nothing; a gather that would harm its destination, or
     /// another one that writes there, is not run, and why is said at once. One that would name its

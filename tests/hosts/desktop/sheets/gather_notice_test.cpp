@@ -1,6 +1,6 @@
 #include "hosts/desktop/sheets/gather_notice.h"
 
-#include "hosts/common/gather/gather_outcome.h"
+#include "hosts/common/gather/gather_sentences.h"
 #include "hosts/desktop/look/notice_bar.h"
 #include "hosts/desktop/open_program.h"
 #include "hosts/desktop/person.h"
