@@ -13,24 +13,33 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <span>
 
 namespace cli {
 
 namespace {
 
-/// The log's columns by their place in the view.
-struct Columns {
+/// A column of the view of a log.
+struct Column {
     const char* name; ///< in JSON
     bool number;
 };
 
-constexpr Columns basicColumns[] = {{"number", true},      {"timeStamp", false}, {"source", false},
-                                    {"traceNumber", true}, {"component", false}, {"level", true},
-                                    {"trace", false}};
-constexpr Columns extendedColumns[] = {
+/// The columns of a view, from the first.
+constexpr Column basicColumns[] = {{"number", true},      {"timeStamp", false}, {"source", false},
+                                   {"traceNumber", true}, {"component", false}, {"level", true},
+                                   {"trace", false}};
+constexpr Column extendedColumns[] = {
     {"number", true},     {"timeStamp", false}, {"source", false}, {"traceNumber", true},
     {"component", false}, {"level", true},      {"thread", false}, {"port", false},
     {"callId", false},    {"trace", false}};
+
+/// Those that the view of a log has on this server.
+std::span<const Column> columnsOf(const ToolContext& tool)
+{
+    if (tool.g_bExtendedLogFields) return extendedColumns;
+    return basicColumns;
+}
 
 /// A number column's text, such as "000012", as its number; 0 for none.
 std::int64_t wholeNumber(std::string_view text)
@@ -42,18 +51,18 @@ std::int64_t wholeNumber(std::string_view text)
 
 /// One JSON object a row, with the line itself where the columns can't show it. A log has tens of
 /// thousands of rows, so one text buffer serves for all.
-void printJson(Output& output, ListView& list, const CodePage& codePage)
+void printJson(Output& output, ListView& list, std::span<const Column> columns,
+               const CodePage& codePage)
 {
-    const Columns* columns = list.columnCount() == 10 ? extendedColumns : basicColumns;
     std::string text;
     std::string cell;
-    for (int place = 1; place <= list.itemCount(); ++place) {
-        const ListItem row = list.shown(place);
+    for (int index = 1; index <= list.itemCount(); ++index) {
+        const ListItem row = list.shown(index);
         text.clear();
-        for (int column = 0; column < list.columnCount(); ++column) {
-            text.append(column == 0 ? "{\"" : ",\"").append(columns[column].name).append("\":");
-            const std::string_view bytes = row.subItem(column + 1);
-            if (columns[column].number) {
+        for (std::size_t at = 0; at < columns.size(); ++at) {
+            text.append(at == 0 ? "{\"" : ",\"").append(columns[at].name).append("\":");
+            const std::string_view bytes = row.subItem(static_cast<int>(at) + 1);
+            if (columns[at].number) {
                 text += numberText(wholeNumber(bytes));
                 continue;
             }
@@ -93,7 +102,7 @@ std::array<std::uint8_t, 256> widthsOfBytes(const CodePage& codePage)
     return widths;
 }
 
-/// A line that the columns can't show stands in the place of its trace.
+/// A line that the columns can't show stands where its trace would.
 void printColumns(Output& output, ListView& list, const CodePage& codePage)
 {
     const int count = list.columnCount();
@@ -105,10 +114,10 @@ void printColumns(Output& output, ListView& list, const CodePage& codePage)
     };
     std::vector<std::size_t> widths;
     for (const auto& header : list.columns()) widths.push_back(shownWidth(header.text));
-    for (int place = 1; place <= list.itemCount(); ++place)
+    for (int index = 1; index <= list.itemCount(); ++index)
         for (int column = 1; column < count; ++column) {
             std::size_t& widest = widths[static_cast<std::size_t>(column) - 1];
-            widest = std::max(widest, widthOf(list.item(place).subItem(column)));
+            widest = std::max(widest, widthOf(list.item(index).subItem(column)));
         }
     std::string line;
     const auto fill = [&](int column, std::size_t width) {
@@ -121,9 +130,9 @@ void printColumns(Output& output, ListView& list, const CodePage& codePage)
         fill(column, shownWidth(header));
     }
     output.line(line);
-    for (int place = 1; place <= list.itemCount(); ++place) {
+    for (int index = 1; index <= list.itemCount(); ++index) {
         line.clear();
-        const ListItem row = list.shown(place);
+        const ListItem row = list.shown(index);
         for (int column = 1; column < count; ++column) {
             appendPrinted(line, row.subItem(column), codePage);
             fill(column, widthOf(row.subItem(column)));
@@ -178,7 +187,7 @@ public:
         if (!tool.desktop().failures().empty() || !failure.empty()) throw CommandFailure(failure);
         ListView& list = tool.console().currentView().selectedScopePaneItem().resultView().list();
         if (output.json())
-            printJson(output, list, tool.codePage());
+            printJson(output, list, columnsOf(tool.context()), tool.codePage());
         else
             printColumns(output, list, tool.codePage());
         tool.close();
