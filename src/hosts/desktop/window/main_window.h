@@ -42,6 +42,8 @@ public:
 
     /// Says in a sentence what went wrong and what to do about it.
     void showProblem(LiveSentence sentence);
+
+    /// The sentence that is said now; empty for none.
     QString problem() const;
 
     /// Says in the status bar what the tool waits for, and paints that at once.
@@ -49,8 +51,11 @@ public:
 
     /// Null while no tool is open.
     ConsolePane* pane() { return pane_; }
+
+    /// What the tool said last in the status bar.
     QString statusText() const;
 
+    /// The action of a command, on offer or not.
     QAction& action(Command command) { return *actions_.at(command); }
 
     /// The action of a menu item that the tool declares; null for one that is not offered.
@@ -59,6 +64,7 @@ public:
     /// Opens the node of a key, below those that must be opened for it; false when there is none.
     bool showNode(const std::string& key);
 
+    /// Does what a command stands for; nothing where it is not on offer.
     void run(Command command);
 
     /// Ends the program without asking: work that runs is cancelled as by its button, a sheet is
@@ -69,6 +75,8 @@ public:
     void messageShown() { gathers_.messageShown(); }
 
 signals:
+    /// The person wants another site, in a folder of the machine; a sample server made in one; a
+    /// topic of the manual.
     void siteAsked(const QString& folder);
     void sampleAsked(const QString& folder);
     void helpAsked(int topic);
@@ -77,6 +85,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    static constexpr int sayMilliseconds = 6000; ///< how long the status bar keeps a sentence
+
     void makeActions();
     void makeMenus();
     void makeToolBar();
