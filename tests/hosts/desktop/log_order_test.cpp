@@ -129,7 +129,7 @@ TEST_F(LogOrder, ARefreshAndAnotherLogKeepFilterAndOrder)
         return a.compare(b, Qt::CaseInsensitive) < 0;
     }));
     shown.showLog("KoCSMgr");
-    table().goTo(model().rowOfPlace(selected.toUInt()));
+    table().goTo(model().rowOfPosition(selected.toUInt()));
     expectSame("come back to");
 
     shown.window->action(Command::showAll).trigger();
@@ -177,7 +177,7 @@ TEST_F(LogOrder, GoToTimeFindsTheFirstLineOfTheLogsOrderInASortedLog)
     for (const int sorted : {componentColumn, timeColumn}) {
         clickHeader(sorted);
         clickHeader(sorted);
-        table().goTo(model().rowOfPlace(1));
+        table().goTo(model().rowOfPosition(1));
         log().goToTime(time);
         EXPECT_EQ(expected, line()) << "sorted by " << sorted;
         EXPECT_TRUE(inSight());

@@ -36,7 +36,7 @@ DetailsPane::DetailsPane(QWidget* parent)
 void DetailsPane::show(const ListModel& rows, int row)
 {
     const ListView* list = rows.list();
-    if (!list || rows.placeOfRow(row) == 0) {
+    if (!list || rows.positionOfRow(row) == 0) {
         fields_->setText(tr("Select a line to read all of it here."));
         trace_->clear();
         return;

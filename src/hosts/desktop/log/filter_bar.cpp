@@ -79,8 +79,8 @@ void FilterBar::offer(ListView& list, const TextDecoder& decoder)
 {
     const LogColumns columns = LogColumns::of(list);
     const std::array<int, 3> offered = {columns.component, columns.source, columns.level};
-    for (std::size_t place = 0; place < offered.size(); ++place) {
-        const int column = offered[place];
+    for (std::size_t index = 0; index < offered.size(); ++index) {
+        const int column = offered[index];
         if (column > list.columnCount()) continue;
         auto values = valuesOf(list, column);
         if (column == columns.level) {
@@ -89,7 +89,7 @@ void FilterBar::offer(ListView& list, const TextDecoder& decoder)
                        QString::fromStdString(right.text).toInt();
             });
         }
-        buttons_[place]->offer(QString::fromStdString(list.column(column).text), column, values,
+        buttons_[index]->offer(QString::fromStdString(list.column(column).text), column, values,
                                decoder);
     }
 }
@@ -154,8 +154,8 @@ QSize FilterBar::minimumSizeHint() const
 {
     const QMargins around = rows_->contentsMargins();
     int width = 0;
-    for (int place = 0; place < rows_->count(); ++place)
-        width = std::max(width, rows_->itemAt(place)->minimumSize().width());
+    for (int index = 0; index < rows_->count(); ++index)
+        width = std::max(width, rows_->itemAt(index)->minimumSize().width());
     return {width + around.left() + around.right(), QWidget::minimumSizeHint().height()};
 }
 
@@ -163,8 +163,8 @@ QSize FilterBar::minimumSizeHint() const
 void FilterBar::arrange()
 {
     int needed = rows_->spacing() + rows_->contentsMargins().left();
-    for (int place = 0; place < rows_->count(); ++place)
-        needed += rows_->itemAt(place)->minimumSize().width();
+    for (int index = 0; index < rows_->count(); ++index)
+        needed += rows_->itemAt(index)->minimumSize().width();
     rows_->setDirection(needed <= contentsRect().width() ? QBoxLayout::LeftToRight
                                                          : QBoxLayout::TopToBottom);
 }

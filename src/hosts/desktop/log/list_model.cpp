@@ -1,7 +1,6 @@
 #include "hosts/desktop/log/list_model.h"
 
 #include "console/list_view.h"
-#include "hosts/desktop/log/sort_key.h"
 
 #include <algorithm>
 
@@ -30,7 +29,7 @@ void ListModel::leave()
     if (!list_) return;
     beginResetModel();
     list_ = nullptr;
-    places_.clear();
+    positions_.clear();
     endResetModel();
     emit rowsChanged();
 }
@@ -48,7 +47,7 @@ void ListModel::sort(int column, Qt::SortOrder order)
 {
     if (column == sortColumn_ && order == sortOrder_) return;
     emit layoutAboutToBeChanged({}, VerticalSortHint);
-    const std::vector<std::uint32_t> before = places_;
+    const std::vector<std::uint32_t> before = positions_;
     sortColumn_ = column;
     sortOrder_ = order;
     arrange();
@@ -57,14 +56,14 @@ void ListModel::sort(int column, Qt::SortOrder order)
     emit rowsChanged();
 }
 
-/// Lets what the views hold by its row, such as the selection, follow to where its place is now.
+/// Lets what the views hold by its row, such as the selection, follow to where that is now.
 void ListModel::moveMarks(const std::vector<std::uint32_t>& before)
 {
     const QModelIndexList held = persistentIndexList();
     if (held.empty()) return;
     std::vector<int> rowOf(static_cast<std::size_t>(list_->itemCount()) + 1, -1);
-    for (std::size_t row = 0; row < places_.size(); ++row)
-        rowOf[places_[row]] = static_cast<int>(row);
+    for (std::size_t row = 0; row < positions_.size(); ++row)
+        rowOf[positions_[row]] = static_cast<int>(row);
     QModelIndexList moved;
     moved.reserve(held.size());
     for (const QModelIndex& index : held)
@@ -72,50 +71,73 @@ void ListModel::moveMarks(const std::vector<std::uint32_t>& before)
     changePersistentIndexList(held, moved);
 }
 
-std::vector<std::uint32_t> ListModel::placesInOrder() const
+std::vector<std::uint32_t> ListModel::positionsInOrder() const
 {
-    std::vector<std::uint32_t> places = places_;
-    if (sortColumn_ >= 0) std::sort(places.begin(), places.end());
-    return places;
+    std::vector<std::uint32_t> positions = positions_;
+    if (sortColumn_ >= 0) std::sort(positions.begin(), positions.end());
+    return positions;
 }
 
 void ListModel::arrange()
 {
-    places_.clear();
+    positions_.clear();
     if (!list_) return;
-    places_ = filter_.places(*list_);
+    positions_ = filter_.positions(*list_);
     if (sortColumn_ < 0) return;
 
     // One key a row, made once: making them in each comparison would parse every cell many times.
     std::vector<SortKey> keys(static_cast<std::size_t>(list_->itemCount()) + 1);
-    for (const auto place : places_)
-        keys[place] = sortKeyOf(list_->shown(static_cast<int>(place)).subItem(sortColumn_ + 1));
+    for (const auto position : positions_) keys[position] = keyOf(position);
     const bool ascending = sortOrder_ == Qt::AscendingOrder;
-    std::stable_sort(places_.begin(), places_.end(), [&](std::uint32_t left, std::uint32_t right) {
-        return ascending ? keys[left] < keys[right] : keys[right] < keys[left];
-    });
+    std::stable_sort(positions_.begin(), positions_.end(),
+                     [&](std::uint32_t left, std::uint32_t right) {
+                         return ascending ? keys[left] < keys[right] : keys[right] < keys[left];
+                     });
 }
 
-int ListModel::rowOfPlace(std::uint32_t place) const
+/// What a row counts for in the order of the column that is sorted by.
+SortKey ListModel::keyOf(std::uint32_t position) const
+{
+    return sortKeyOf(list_->shown(static_cast<int>(position)).subItem(sortColumn_ + 1));
+}
+
+int ListModel::nearestRow(std::uint32_t position) const
+{
+    if (positions_.empty()) return -1;
+    const bool inOrder = sortColumn_ < 0 || position == 0;
+    const SortKey own = inOrder ? SortKey() : keyOf(position);
+    const bool ascending = sortOrder_ == Qt::AscendingOrder;
+    const auto standsBefore = [&](std::uint32_t shown) {
+        if (inOrder) return shown < position;
+        const SortKey key = keyOf(shown);
+        if (key < own) return ascending;
+        return own < key ? !ascending : shown < position;
+    };
+    const auto found = std::partition_point(positions_.begin(), positions_.end(), standsBefore);
+    const auto row = static_cast<int>(found - positions_.begin());
+    return std::min(row, rowCount() - 1);
+}
+
+int ListModel::rowOfPosition(std::uint32_t position) const
 {
     const bool inOrder = sortColumn_ < 0;
-    const auto found = inOrder ? std::lower_bound(places_.begin(), places_.end(), place)
-                               : std::find(places_.begin(), places_.end(), place);
-    if (found == places_.end() || *found != place) return -1;
-    return static_cast<int>(found - places_.begin());
+    const auto found = inOrder ? std::lower_bound(positions_.begin(), positions_.end(), position)
+                               : std::find(positions_.begin(), positions_.end(), position);
+    if (found == positions_.end() || *found != position) return -1;
+    return static_cast<int>(found - positions_.begin());
 }
 
-std::uint32_t ListModel::placeOfRow(int row) const
+std::uint32_t ListModel::positionOfRow(int row) const
 {
     if (row < 0 || row >= rowCount()) return 0;
-    return places_[static_cast<std::size_t>(row)];
+    return positions_[static_cast<std::size_t>(row)];
 }
 
 std::string_view ListModel::bytes(int row, int column) const
 {
-    const auto place = placeOfRow(row);
-    if (place == 0) return {};
-    return list_->shown(static_cast<int>(place)).subItem(column);
+    const auto position = positionOfRow(row);
+    if (position == 0) return {};
+    return list_->shown(static_cast<int>(position)).subItem(column);
 }
 
 QString ListModel::text(int row, int column) const
@@ -125,22 +147,22 @@ QString ListModel::text(int row, int column) const
 
 QString ListModel::rowText(int row) const
 {
-    const auto place = placeOfRow(row);
-    if (place == 0) return {};
-    const ListItem shown = list_->shown(static_cast<int>(place));
+    const auto position = positionOfRow(row);
+    if (position == 0) return {};
+    const ListItem shown = list_->shown(static_cast<int>(position));
     return decoder_.text(shown.note().empty() ? shown.text() : shown.note());
 }
 
 QString ListModel::note(int row) const
 {
-    const auto place = placeOfRow(row);
-    if (place == 0) return {};
-    return decoder_.text(list_->shown(static_cast<int>(place)).note());
+    const auto position = positionOfRow(row);
+    if (position == 0) return {};
+    return decoder_.text(list_->shown(static_cast<int>(position)).note());
 }
 
 int ListModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(places_.size());
+    return parent.isValid() ? 0 : static_cast<int>(positions_.size());
 }
 
 int ListModel::columnCount(const QModelIndex& parent) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hosts/desktop/log/log_filter.h"
+#include "hosts/desktop/log/sort_key.h"
 #include "hosts/desktop/log/text_decoder.h"
 
 #include <QAbstractTableModel>
@@ -17,7 +18,7 @@ namespace desktop {
 /// The rows of the console's list as Qt's views see them: those that pass the filter, in the
 /// console's own order or in that of a column.
 ///
-/// A row is a place of the console's list; texts are decoded when a view asks for them.
+/// A row is an item of the console's list; texts are decoded when a view asks for them.
 class ListModel final : public QAbstractTableModel {
     Q_OBJECT
 
@@ -36,12 +37,16 @@ public:
 
     void filter(LogFilter filter);
 
-    /// The places of the rows on show, in the console's own order.
-    std::vector<std::uint32_t> placesInOrder() const;
+    /// The positions of the rows on show, in the console's own order.
+    std::vector<std::uint32_t> positionsInOrder() const;
 
-    /// The row of a place of the console's list, and back; -1 and 0 where there is none.
-    int rowOfPlace(std::uint32_t place) const;
-    std::uint32_t placeOfRow(int row) const;
+    /// The row of a position in the console's list, and back; -1 and 0 where there is none.
+    int rowOfPosition(std::uint32_t position) const;
+    std::uint32_t positionOfRow(int row) const;
+
+    /// The row of a position in the console's list; for one that the filter hides, the first row on
+    /// show that would stand behind it, or else the last one. -1 when no row is on show.
+    int nearestRow(std::uint32_t position) const;
 
     /// A cell as the list holds it; the empty text where there is none. Column from 1.
     std::string_view bytes(int row, int column) const;
@@ -75,6 +80,7 @@ signals:
     void rowsChanged();
 
 private:
+    SortKey keyOf(std::uint32_t position) const;
     void arrange();
     void moveMarks(const std::vector<std::uint32_t>& before);
 
@@ -83,7 +89,7 @@ private:
     ListView* list_ = nullptr;
     std::string kind_; ///< of the lists that `sortColumn_` is for
     LogFilter filter_;
-    std::vector<std::uint32_t> places_; ///< of the rows on show
+    std::vector<std::uint32_t> positions_; ///< of the rows on show
     int sortColumn_ = -1;
     Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
 };

@@ -70,7 +70,7 @@ ListTable::ListTable(ListModel& model, QSettings& settings, QWidget* parent)
             fillLastColumn();
     });
     connect(this, &QTableView::doubleClicked, this,
-            [this](const QModelIndex& index) { emit opened(rows_.placeOfRow(index.row())); });
+            [this](const QModelIndex& index) { emit opened(rows_.positionOfRow(index.row())); });
 }
 
 QString ListTable::widthsKey() const
@@ -211,16 +211,16 @@ void ListTable::goTo(int row)
     scrollTo(currentIndex(), PositionAtCenter);
 }
 
-std::uint32_t ListTable::currentPlace() const
+std::uint32_t ListTable::currentPosition() const
 {
-    return currentIndex().isValid() ? rows_.placeOfRow(currentIndex().row()) : 0;
+    return currentIndex().isValid() ? rows_.positionOfRow(currentIndex().row()) : 0;
 }
 
 void ListTable::keyPressEvent(QKeyEvent* event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && currentPlace() != 0) {
-        emit opened(currentPlace());
+    if (enter && currentPosition() != 0) {
+        emit opened(currentPosition());
         return;
     }
     // Home and End go to the first and the last row: a log is read by lines, not by cells.

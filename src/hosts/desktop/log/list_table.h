@@ -30,12 +30,12 @@ public:
     /// Makes a row the current one and selects it alone.
     void goTo(int row);
 
-    /// The place, from 1, of the current row in the console's list; 0 when there is none.
-    std::uint32_t currentPlace() const;
+    /// The position, from 1, of the current row in the console's list; 0 when there is none.
+    std::uint32_t currentPosition() const;
 
 signals:
     /// The person opens a row, by a double click or the Enter key.
-    void opened(std::uint32_t place);
+    void opened(std::uint32_t position);
     void currentRowChanged(int row);
 
 protected:

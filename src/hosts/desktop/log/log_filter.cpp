@@ -36,7 +36,7 @@ bool LogFilter::passesAll() const
            });
 }
 
-std::vector<std::uint32_t> LogFilter::places(ListView& list) const
+std::vector<std::uint32_t> LogFilter::positions(ListView& list) const
 {
     const auto count = static_cast<std::uint32_t>(list.itemCount());
     std::vector<std::uint32_t> passing;
@@ -45,19 +45,20 @@ std::vector<std::uint32_t> LogFilter::places(ListView& list) const
         std::iota(passing.begin(), passing.end(), 1U);
         return passing;
     }
-    for (std::uint32_t place = 1; place <= count; ++place) {
-        const ListItem row = list.shown(static_cast<int>(place));
+    for (std::uint32_t position = 1; position <= count; ++position) {
+        const ListItem row = list.shown(static_cast<int>(position));
         const bool wanted = std::all_of(columns.begin(), columns.end(), [&](const auto& condition) {
             return passes(row, condition);
         });
-        if (wanted && (text.empty() || holds(row, text) != excludeText)) passing.push_back(place);
+        if (wanted && (text.empty() || holds(row, text) != excludeText))
+            passing.push_back(position);
     }
     return passing;
 }
 
-bool rowHolds(ListView& list, std::uint32_t place, const TextMatcher& matcher)
+bool rowHolds(ListView& list, std::uint32_t position, const TextMatcher& matcher)
 {
-    return holds(list.shown(static_cast<int>(place)), matcher);
+    return holds(list.shown(static_cast<int>(position)), matcher);
 }
 
 std::vector<ColumnValue> valuesOf(ListView& list, int column)

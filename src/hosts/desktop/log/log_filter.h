@@ -27,13 +27,13 @@ struct LogFilter {
     /// Whether every row passes.
     bool passesAll() const;
 
-    /// The places, from 1, of the rows that pass, in the list's order on the screen.
-    std::vector<std::uint32_t> places(ListView& list) const;
+    /// The positions, from 1, of the rows that pass, in the list's order on the screen.
+    std::vector<std::uint32_t> positions(ListView& list) const;
 };
 
-/// Whether `matcher` is found in a row at a place, in any column but the first or in the row's
+/// Whether `matcher` is found in a row at a position, in any column but the first or in the row's
 /// note.
-bool rowHolds(ListView& list, std::uint32_t place, const TextMatcher& matcher);
+bool rowHolds(ListView& list, std::uint32_t position, const TextMatcher& matcher);
 
 /// A value of a column and the number of rows that have it.
 struct ColumnValue {

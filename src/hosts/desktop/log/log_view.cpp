@@ -136,6 +136,7 @@ void LogView::show(ListView& list, const QString& log)
     // What the person looks for may be in several logs, so that filter and order stay.
     model_.show(list, filterBar_->filter(codePage_));
     filterBar_->offer(list, model_.decoder());
+    position_ = 0;
     table_->listShown();
     bookmarks_.emplace(settings_, log, [this](int line) { return timeOfLine(line); });
     showBookmarks();
@@ -180,7 +181,7 @@ int LogView::rowOfLine(int line) const
     return found;
 }
 
-/// The empty text for a line that is not there. Line n is at the n-th place, unless rows came in
+/// The empty text for a line that is not there. Line n is at the n-th position, unless rows came in
 /// another order than their numbers.
 QString LogView::timeOfLine(int line) const
 {
@@ -278,7 +279,7 @@ void LogView::findHits()
     const TextMatcher matcher(codePage_, findBar_->text().toStdU16String());
     if (model_.list() && !matcher.empty())
         for (int row = 0; row < model_.rowCount(); ++row)
-            if (rowHolds(*model_.list(), model_.placeOfRow(row), matcher)) hits_.push_back(row);
+            if (rowHolds(*model_.list(), model_.positionOfRow(row), matcher)) hits_.push_back(row);
     overview_->setRows(OverviewMark::hit, findBar_->isVisibleTo(this) ? hits_ : std::vector<int>());
     showHitCount();
 }
@@ -347,13 +348,10 @@ void LogView::closeBars()
 void LogView::filterChanged()
 {
     if (!model_.list()) return;
-    const auto place = table_->currentPlace();
+    // While no row is on show, the one that was current last is still where the person is.
+    if (const auto current = table_->currentPosition(); current > 0) position_ = current;
     model_.filter(filterBar_->filter(codePage_));
-    const int row = model_.rowOfPlace(place);
-    if (row >= 0)
-        table_->goTo(row);
-    else if (model_.rowCount() > 0)
-        table_->goTo(0);
+    if (const int row = model_.nearestRow(position_); row >= 0) table_->goTo(row);
     details_->show(model_, table_->currentIndex().row());
 }
 

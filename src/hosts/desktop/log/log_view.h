@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -31,6 +32,8 @@ public:
 
     /// Shows a list that the console has filled. `log` names the log for its bookmarks.
     void show(ListView& list, const QString& log);
+
+    /// Shows no list any more: the console is about to change it.
     void leave();
 
     /// Shows headers again that the console has given other texts. Lines, filter and marks stay.
@@ -42,20 +45,32 @@ public:
     FilterBar& filterBar() { return *filterBar_; }
     OverviewStrip& overview() { return *overview_; }
 
+    /// Open the bar for a text to find, for a time to go to, and for a filter.
     void startFind();
+    void startGoToTime();
+    void startFilter();
+
+    /// Go to the next hit, or the one before, and on from the other end.
     void findNext() { findFrom(1); }
     void findPrevious() { findFrom(-1); }
-    void startGoToTime();
+
+    /// Goes to the next line at a time or later, as a person types it; the bar says when it is no
+    /// time, or no line is that late.
     void goToTime(const QString& time);
-    void startFilter();
+
+    /// Lets every row pass the filter.
     void showAll();
+
+    /// Closes the find bar, or else the filter bar, which takes its filter with it.
     void closeBars();
 
+    /// Marks the current line, or takes its mark away; goes to the next mark, or the one before.
     void toggleBookmark();
     void nextBookmark() { goToBookmark(1); }
     void previousBookmark() { goToBookmark(-1); }
     void clearBookmarks();
 
+    /// Whether all of the current line stands below the table. It is remembered.
     bool detailsShown() const;
     void showDetails(bool shown);
 
@@ -94,6 +109,8 @@ private:
     LogColumns columns_;
     QString log_;  ///< on show, or left last
     int line_ = 0; ///< that it was left at
+    std::uint32_t position_ =
+        0; ///< in the list, of the row that a filter was changed at; 0 for none
     std::optional<Bookmarks> bookmarks_;
     std::vector<int> hits_; ///< rows with the text that is looked for, from the top
     ListTable* table_ = nullptr;

@@ -65,7 +65,7 @@ QRect OverviewStrip::room() const
     return {0, viewport.top(), width(), viewport.height()};
 }
 
-int OverviewStrip::placeOfRow(int row) const
+int OverviewStrip::yOfRow(int row) const
 {
     const QRect all = room();
     if (rowCount_ == 0) return all.top();
@@ -73,7 +73,7 @@ int OverviewStrip::placeOfRow(int row) const
     return all.top() + static_cast<int>(steps * row / std::max(1, rowCount_ - 1)) + markHeight / 2;
 }
 
-std::optional<int> OverviewStrip::markedRowAt(int place) const
+std::optional<int> OverviewStrip::markedRowAt(int y) const
 {
     std::optional<int> nearest;
     int distance = aim + 1;
@@ -81,7 +81,7 @@ std::optional<int> OverviewStrip::markedRowAt(int place) const
     for (const auto mark :
          {OverviewMark::bookmark, OverviewMark::hit, OverviewMark::error, OverviewMark::warning}) {
         for (const int row : rows(mark)) {
-            const int away = std::abs(placeOfRow(row) - place);
+            const int away = std::abs(yOfRow(row) - y);
             if (row >= rowCount_ || away >= distance) continue;
             nearest = row;
             distance = away;
@@ -96,11 +96,11 @@ void OverviewStrip::drawLane(QPainter& painter, OverviewMark mark, const QColor&
     int drawn = -1;
     for (const int row : rows(mark)) {
         if (row >= rowCount_) break;
-        const int place = placeOfRow(row);
+        const int y = yOfRow(row);
         // A log of many thousand rows has many marks on one line of pixels.
-        if (place == drawn) continue;
-        painter.fillRect(left, place - markHeight / 2, laneWidth, markHeight, colour);
-        drawn = place;
+        if (y == drawn) continue;
+        painter.fillRect(left, y - markHeight / 2, laneWidth, markHeight, colour);
+        drawn = y;
     }
 }
 
@@ -119,11 +119,11 @@ void OverviewStrip::paintEvent(QPaintEvent*)
 void OverviewStrip::mousePressEvent(QMouseEvent* event)
 {
     const QRect all = room();
-    const int place = event->position().toPoint().y();
+    const int y = event->position().toPoint().y();
     if (event->button() != Qt::LeftButton || rowCount_ == 0 || all.height() <= 0) return;
-    const qint64 share = std::clamp(place - all.top(), 0, all.height() - 1);
+    const qint64 share = std::clamp(y - all.top(), 0, all.height() - 1);
     const auto there = static_cast<int>(share * rowCount_ / all.height());
-    emit rowAsked(markedRowAt(place).value_or(there));
+    emit rowAsked(markedRowAt(y).value_or(there));
 }
 
 bool OverviewStrip::event(QEvent* event)

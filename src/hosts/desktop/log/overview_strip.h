@@ -35,10 +35,11 @@ public:
     const std::vector<int>& rows(OverviewMark mark) const;
 
     /// Where the middle of a row's mark is, in pixels from the strip's top.
-    int placeOfRow(int row) const;
+    int yOfRow(int row) const;
 
-    /// The marked row nearest to a place, if it is as near as a pointer aims; nothing else.
-    std::optional<int> markedRowAt(int place) const;
+    /// The marked row nearest to a height of the strip, if it is as near as a pointer aims; nothing
+    /// else.
+    std::optional<int> markedRowAt(int y) const;
 
     /// What a tool tip says of a marked row.
     std::function<QString(int row)> describe;

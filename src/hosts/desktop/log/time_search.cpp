@@ -75,11 +75,11 @@ std::optional<std::string> typedTime(std::string_view text)
 int rowAtTime(const ListModel& rows, int timeColumn, std::string_view time, int from)
 {
     if (!rows.list()) return -1;
-    const auto current = rows.placeOfRow(from);
+    const auto current = rows.positionOfRow(from);
     std::uint32_t firstMatch = 0;
     std::string_view before;
-    for (const auto place : rows.placesInOrder()) {
-        const ListItem line = rows.list()->shown(static_cast<int>(place));
+    for (const auto position : rows.positionsInOrder()) {
+        const ListItem line = rows.list()->shown(static_cast<int>(position));
         const auto now = timeOfDay(line.subItem(timeColumn));
         if (now.empty()) continue;
         const bool passed = isOfLaterDay(now, before) && before < time;
@@ -87,10 +87,10 @@ int rowAtTime(const ListModel& rows, int timeColumn, std::string_view time, int 
             passed || (now >= time && (before.empty() || before < time || before > now));
         before = now;
         if (!reached) continue;
-        if (place > current) return rows.rowOfPlace(place);
-        if (firstMatch == 0) firstMatch = place;
+        if (position > current) return rows.rowOfPosition(position);
+        if (firstMatch == 0) firstMatch = position;
     }
-    return firstMatch == 0 ? -1 : rows.rowOfPlace(firstMatch);
+    return firstMatch == 0 ? -1 : rows.rowOfPosition(firstMatch);
 }
 
 } // namespace desktop

@@ -163,8 +163,8 @@ ListTable& ConsolePane::list()
     list_ = new ListTable(listModel_, settings_, views_);
     showInLanguage(list_, [this] { list_->setAccessibleName(tr("Log files")); });
     views_->addWidget(list_);
-    connect(list_, &ListTable::opened, this, [this](std::uint32_t place) {
-        perform([&](Console& console) { console.doubleClickRow(static_cast<int>(place)); });
+    connect(list_, &ListTable::opened, this, [this](std::uint32_t position) {
+        perform([&](Console& console) { console.doubleClickRow(static_cast<int>(position)); });
     });
     return *list_;
 }

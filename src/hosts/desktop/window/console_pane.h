@@ -49,6 +49,7 @@ public:
     /// Runs such a command. Null: it runs by itself.
     std::function<void(const std::string& item, const std::function<void()>& run)> aroundChange;
 
+    /// Whether the console is at work.
     bool busy() const { return calls_ > 0; }
 
     /// Whether a page of a sheet is at work, on show or closed already.
@@ -62,6 +63,8 @@ public:
 
     /// The reader of logs, which is made when it is first asked for.
     LogView& log();
+
+    /// Whether a log is the view on show.
     bool logShown() const;
 
     /// The font of a log's lines.
@@ -85,15 +88,21 @@ public:
 signals:
     /// The tool's text for the status bar; to be painted at once.
     void statusText(const QString& text);
+    /// A sentence of the window's own for the status bar.
     void said(const QString& sentence);
+    /// What went wrong in a call.
     void failed(const LiveSentence& sentence);
+    /// Another node is selected, or its view has come on show.
     void viewChanged();
+    /// The console has come to the end of what the person asked for.
     void callDone();
+    /// The person asks for a topic of the manual.
     void helpAsked(int topic);
     /// Before the sheet is on show.
     void sheetMade(SheetDialog* dialog);
 
-    void treeMenuAsked(const QPoint& globalPlace);
+    /// The person asks for the menu of the tree, at a point of the screen.
+    void treeMenuAsked(const QPoint& point);
 
 private:
     void selectionChanged(View& view) override;

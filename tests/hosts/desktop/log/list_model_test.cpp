@@ -56,6 +56,44 @@ struct Rows {
     ListModel model{windows1252()};
 };
 
+TEST(ListModel, ARowThatIsHiddenHasANearestOneInTheOrderOnTheScreen)
+{
+    Rows rows({{"b", "1"}, {"keep a", "2"}, {"c", "3"}, {"keep d", "4"}, {"B", "5"}});
+    LogFilter filter;
+    filter.text = {windows1252(), u"keep"};
+    rows.model.filter(filter);
+    const auto nearest = [&](std::uint32_t position) {
+        return rows.model.text(rows.model.nearestRow(position), 2).toStdString();
+    };
+    EXPECT_EQ("keep a", nearest(1)) << "the next one";
+    EXPECT_EQ("keep a", nearest(2)) << "itself";
+    EXPECT_EQ("keep d", nearest(3));
+    EXPECT_EQ("keep d", nearest(5)) << "none is behind it";
+    EXPECT_EQ("keep a", nearest(0)) << "there was none";
+
+    rows.model.sort(2, Qt::DescendingOrder);
+    EXPECT_EQ("keep d", nearest(5));
+    EXPECT_EQ("keep a", nearest(3));
+    EXPECT_EQ("keep a", nearest(1)) << "none is behind it";
+
+    filter.text = {windows1252(), u"no such text"};
+    rows.model.filter(filter);
+    EXPECT_EQ(-1, rows.model.nearestRow(3));
+}
+
+TEST(ListModel, ANearestRowStandsBehindThoseThatCountTheSame)
+{
+    Rows rows({{"keep", "1"}, {"x", "1"}, {"keep", "1"}, {"keep", "2"}});
+    LogFilter filter;
+    filter.text = {windows1252(), u"keep"};
+    for (const auto order : {Qt::AscendingOrder, Qt::DescendingOrder}) {
+        rows.model.sort(2, order);
+        rows.model.filter(filter);
+        EXPECT_EQ("3", rows.model.text(rows.model.nearestRow(2), 1).toStdString());
+        rows.model.filter({});
+    }
+}
+
 TEST(ListModel, ShowsTheConsolesRowsInTheConsolesOrder)
 {
     TestWindow shown;

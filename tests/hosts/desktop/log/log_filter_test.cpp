@@ -35,7 +35,7 @@ struct Lines {
             row.addSubItem(++column, text);
     }
 
-    std::vector<std::uint32_t> places(const LogFilter& filter) { return filter.places(list); }
+    std::vector<std::uint32_t> positions(const LogFilter& filter) { return filter.positions(list); }
 
     ListViewDefinition declared;
     ListView list{declared};
@@ -54,7 +54,7 @@ TEST(LogFilter, FindsTheTextOfALineThatItsColumnsDoNotShow)
     lines.list.item(6).setNote("2005-10-08 22:23:07,Data,12,disk full");
     LogFilter filter;
     filter.text = text(u"Disk");
-    EXPECT_THAT(lines.places(filter), ElementsAre(6u));
+    EXPECT_THAT(lines.positions(filter), ElementsAre(6u));
     EXPECT_TRUE(rowHolds(lines.list, 6, filter.text));
     EXPECT_FALSE(rowHolds(lines.list, 5, filter.text));
 }
@@ -85,7 +85,7 @@ TEST(LogFilter, ShowsOrHidesRowsByColumnsAndText)
     Lines lines;
     for (const auto& c : cases) {
         SCOPED_TRACE(c.because);
-        EXPECT_EQ(c.expected, lines.places(c.filter));
+        EXPECT_EQ(c.expected, lines.positions(c.filter));
     }
 }
 

@@ -106,8 +106,73 @@ TEST(LogView, FiltersByTextAndComesBackToTheCurrentRow)
 
     shown.window->action(Command::showAll).trigger();
     EXPECT_EQ(all, log.model().rowCount());
-    log.table().goTo(log.model().rowOfPlace(static_cast<std::uint32_t>(line.toUInt())));
+    log.table().goTo(log.model().rowOfPosition(static_cast<std::uint32_t>(line.toUInt())));
     EXPECT_EQ(line, log.model().text(currentRow(log), 1));
+}
+
+/// The rows of a log of which some are hidden when only one component is shown.
+struct FilteredLog : OpenLog {
+    static constexpr int number = 1;
+    static constexpr int component = 5;
+
+    FilteredLog()
+    {
+        const ListModel& model = log().model();
+        for (int row = 0; row < model.rowCount(); ++row)
+            (isOfEngine(row) ? kept : hidden).push_back(lineAt(row));
+    }
+
+    bool isOfEngine(int row)
+    {
+        return log().model().text(row, component) == QLatin1String("RuleEngine");
+    }
+
+    int lineAt(int row) { return log().model().text(row, number).toInt(); }
+    int currentLine() { return currentRow(log()) < 0 ? -1 : lineAt(currentRow(log())); }
+    bool currentIsSeen()
+    {
+        ListTable& table = log().table();
+        return table.viewport()->rect().contains(table.visualRect(table.currentIndex()).center());
+    }
+    void goToLine(int line)
+    {
+        log().table().goTo(log().model().rowOfPosition(static_cast<std::uint32_t>(line)));
+    }
+    void showEngine() { log().filterBar().tick(component, "RuleEngine", false); }
+    void showAll() { window->action(Command::showAll).trigger(); }
+
+    std::vector<int> kept;   ///< lines that the filter shows
+    std::vector<int> hidden; ///< lines that it hides
+};
+
+TEST(LogView, AFilterThatHidesTheCurrentRowGoesToTheNextOneThatItShows)
+{
+    FilteredLog shown;
+    ASSERT_GT(shown.kept.size(), 60U) << "more than a screen";
+    const int before = shown.kept[50];
+    const int next = shown.kept[51];
+    ASSERT_GT(next, before + 1) << "lines between them are hidden";
+    shown.goToLine(before + 1);
+    shown.showEngine();
+    EXPECT_EQ(next, shown.currentLine());
+    EXPECT_TRUE(shown.currentIsSeen());
+    shown.showAll();
+    EXPECT_EQ(next, shown.currentLine());
+    EXPECT_TRUE(shown.currentIsSeen());
+}
+
+TEST(LogView, AFilterThatHidesEveryRowLosesNoPlace)
+{
+    FilteredLog shown;
+    const int line = shown.hidden[shown.hidden.size() / 2];
+    shown.goToLine(line);
+    QLineEdit& text = field(shown.log().filterBar(), "Filter by text");
+    text.setText("no such text");
+    QTest::keyClick(&text, Qt::Key_Return);
+    ASSERT_EQ(0, shown.log().model().rowCount());
+    shown.showAll();
+    EXPECT_EQ(line, shown.currentLine());
+    EXPECT_TRUE(shown.currentIsSeen());
 }
 
 TEST(LogView, ShowsOrHidesAComponentOfItsRows)

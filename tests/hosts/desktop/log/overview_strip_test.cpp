@@ -36,10 +36,10 @@ struct Strip {
         QObject::connect(&strip, &OverviewStrip::rowAsked, [this](int row) { asked = row; });
     }
 
-    void click(int place)
+    void click(int y)
     {
         asked = -1;
-        QTest::mouseClick(&strip, Qt::LeftButton, {}, QPoint(4, place));
+        QTest::mouseClick(&strip, Qt::LeftButton, {}, QPoint(4, y));
     }
 
     QApplication& application = testApplication();
@@ -51,17 +51,17 @@ struct Strip {
 TEST(OverviewStrip, AMarkIsAtItsRowsShareOfTheHeight)
 {
     Strip shown(1001);
-    EXPECT_EQ(1, shown.strip.placeOfRow(0));
-    EXPECT_EQ(201, shown.strip.placeOfRow(500));
-    EXPECT_EQ(401, shown.strip.placeOfRow(1000));
+    EXPECT_EQ(1, shown.strip.yOfRow(0));
+    EXPECT_EQ(201, shown.strip.yOfRow(500));
+    EXPECT_EQ(401, shown.strip.yOfRow(1000));
 }
 
 TEST(OverviewStrip, OneRowAndNoRowHaveAPlaceToo)
 {
     Strip shown(1);
-    EXPECT_EQ(1, shown.strip.placeOfRow(0));
+    EXPECT_EQ(1, shown.strip.yOfRow(0));
     shown.strip.setRowCount(0);
-    EXPECT_EQ(0, shown.strip.placeOfRow(0));
+    EXPECT_EQ(0, shown.strip.yOfRow(0));
     shown.click(10);
     EXPECT_EQ(-1, shown.asked);
 }
@@ -84,7 +84,7 @@ TEST(OverviewStrip, WhatThePersonMarkedComesBeforeWhatTheLogHolds)
     shown.strip.setRows(OverviewMark::warning, {50'000});
     shown.strip.setRows(OverviewMark::error, {50'001});
     shown.strip.setRows(OverviewMark::bookmark, {50'002});
-    EXPECT_EQ(50'002, shown.strip.markedRowAt(shown.strip.placeOfRow(50'000)));
+    EXPECT_EQ(50'002, shown.strip.markedRowAt(shown.strip.yOfRow(50'000)));
     EXPECT_EQ(std::nullopt, shown.strip.markedRowAt(20));
 }
 
@@ -96,12 +96,12 @@ TEST(OverviewStrip, EachKindIsDrawnInALaneOfItsOwn)
     shown.strip.setRows(OverviewMark::bookmark, {100});
     const QImage image = shown.strip.grab().toImage();
     const QPalette palette = shown.strip.palette();
-    const int place = shown.strip.placeOfRow(100);
-    EXPECT_EQ(theme::errorMark(palette).rgb(), image.pixel(3, place));
-    EXPECT_EQ(theme::hitMark(palette).rgb(), image.pixel(9, place));
-    EXPECT_EQ(palette.color(QPalette::Highlight).rgb(), image.pixel(15, place));
+    const int y = shown.strip.yOfRow(100);
+    EXPECT_EQ(theme::errorMark(palette).rgb(), image.pixel(3, y));
+    EXPECT_EQ(theme::hitMark(palette).rgb(), image.pixel(9, y));
+    EXPECT_EQ(palette.color(QPalette::Highlight).rgb(), image.pixel(15, y));
     for (const int lane : {3, 9, 15})
-        EXPECT_EQ(palette.color(QPalette::Base).rgb(), image.pixel(lane, place + 10)) << lane;
+        EXPECT_EQ(palette.color(QPalette::Base).rgb(), image.pixel(lane, y + 10)) << lane;
 }
 
 TEST(OverviewStrip, AnErrorIsNotHiddenByTheWarningsAroundIt)
@@ -113,7 +113,7 @@ TEST(OverviewStrip, AnErrorIsNotHiddenByTheWarningsAroundIt)
     shown.strip.setRows(OverviewMark::error, {50'000});
     const QImage image = shown.strip.grab().toImage();
     EXPECT_EQ(theme::errorMark(shown.strip.palette()).rgb(),
-              image.pixel(3, shown.strip.placeOfRow(50'000)));
+              image.pixel(3, shown.strip.yOfRow(50'000)));
 }
 
 TEST(Overview, ShowsTheErrorsAndWarningsOfTheRowsOnShow)
@@ -182,7 +182,7 @@ TEST(Overview, AClickOnItsLastMarkGoesThere)
     settle();
     OverviewStrip& overview = log.overview();
     QTest::mouseClick(&overview, Qt::LeftButton, {},
-                      QPoint(4, overview.placeOfRow(log.model().rowCount() - 1)));
+                      QPoint(4, overview.yOfRow(log.model().rowCount() - 1)));
     EXPECT_EQ(log.model().rowCount() - 1, log.table().currentIndex().row());
 }
 
