@@ -36,7 +36,10 @@ public:
     void close();
 
     MainWindow& window() { return window_; }
+
+    /// Null while no site is open.
     OpenTool* tool() { return tool_.get(); }
+
     DesktopServices& desktop() { return desktop_; }
 
 private:

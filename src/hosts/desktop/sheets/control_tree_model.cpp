@@ -12,7 +12,7 @@ void ControlTreeModel::attach()
 {
     beginResetModel();
     top_.children.clear();
-    places_.clear();
+    entries_.clear();
     for (TreeNode* root : tree_.roots()) take(top_, *root);
     count_ = tree_.count();
     attached_ = true;
@@ -24,27 +24,27 @@ void ControlTreeModel::detach()
     if (!attached_) return;
     beginResetModel();
     top_.children.clear();
-    places_.clear();
+    entries_.clear();
     attached_ = false;
     endResetModel();
 }
 
-void ControlTreeModel::take(Place& above, TreeNode& node)
+void ControlTreeModel::take(Entry& above, TreeNode& node)
 {
-    auto& made = above.children.emplace_back(std::make_unique<Place>());
+    auto& made = above.children.emplace_back(std::make_unique<Entry>());
     made->node = &node;
     made->parent = &above;
     made->row = static_cast<int>(above.children.size()) - 1;
-    places_[&node] = made.get();
-    Place& place = *made;
-    for (TreeNode* child = node.child(); child; child = child->next()) take(place, *child);
+    entries_[&node] = made.get();
+    Entry& entry = *made;
+    for (TreeNode* child = node.child(); child; child = child->next()) take(entry, *child);
 }
 
 void ControlTreeModel::nodesChanged()
 {
-    std::vector<const Place*> open{&top_};
+    std::vector<const Entry*> open{&top_};
     while (!open.empty()) {
-        const Place* above = open.back();
+        const Entry* above = open.back();
         open.pop_back();
         if (above->children.empty()) continue;
         emit dataChanged(indexOf(*above->children.front()), indexOf(*above->children.back()));
@@ -52,42 +52,42 @@ void ControlTreeModel::nodesChanged()
     }
 }
 
-const ControlTreeModel::Place& ControlTreeModel::placeAt(const QModelIndex& index) const
+const ControlTreeModel::Entry& ControlTreeModel::entryAt(const QModelIndex& index) const
 {
-    return index.isValid() ? *static_cast<const Place*>(index.internalPointer()) : top_;
+    return index.isValid() ? *static_cast<const Entry*>(index.internalPointer()) : top_;
 }
 
-QModelIndex ControlTreeModel::indexOf(const Place& place) const
+QModelIndex ControlTreeModel::indexOf(const Entry& entry) const
 {
-    return &place == &top_ ? QModelIndex() : createIndex(place.row, 0, &place);
+    return &entry == &top_ ? QModelIndex() : createIndex(entry.row, 0, &entry);
 }
 
 QModelIndex ControlTreeModel::indexOf(const TreeNode& node) const
 {
-    const auto found = places_.find(&node);
-    return found == places_.end() ? QModelIndex() : indexOf(*found->second);
+    const auto found = entries_.find(&node);
+    return found == entries_.end() ? QModelIndex() : indexOf(*found->second);
 }
 
 TreeNode* ControlTreeModel::nodeAt(const QModelIndex& index) const
 {
-    return placeAt(index).node;
+    return entryAt(index).node;
 }
 
 QModelIndex ControlTreeModel::index(int row, int column, const QModelIndex& parent) const
 {
-    const Place& above = placeAt(parent);
+    const Entry& above = entryAt(parent);
     if (column != 0 || row < 0 || row >= static_cast<int>(above.children.size())) return {};
     return indexOf(*above.children[static_cast<std::size_t>(row)]);
 }
 
 QModelIndex ControlTreeModel::parent(const QModelIndex& index) const
 {
-    return index.isValid() ? indexOf(*placeAt(index).parent) : QModelIndex();
+    return index.isValid() ? indexOf(*entryAt(index).parent) : QModelIndex();
 }
 
 int ControlTreeModel::rowCount(const QModelIndex& parent) const
 {
-    return static_cast<int>(placeAt(parent).children.size());
+    return static_cast<int>(entryAt(parent).children.size());
 }
 
 int ControlTreeModel::columnCount(const QModelIndex&) const

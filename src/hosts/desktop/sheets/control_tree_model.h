@@ -45,20 +45,20 @@ public:
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
 private:
-    struct Place {
+    struct Entry {
         TreeNode* node = nullptr;
-        Place* parent = nullptr;
+        Entry* parent = nullptr;
         int row = 0;
-        std::vector<std::unique_ptr<Place>> children;
+        std::vector<std::unique_ptr<Entry>> children;
     };
 
-    void take(Place& above, TreeNode& node);
-    const Place& placeAt(const QModelIndex& index) const;
-    QModelIndex indexOf(const Place& place) const;
+    void take(Entry& above, TreeNode& node);
+    const Entry& entryAt(const QModelIndex& index) const;
+    QModelIndex indexOf(const Entry& entry) const;
 
     TreeView& tree_;
-    Place top_;
-    std::unordered_map<const TreeNode*, const Place*> places_;
+    Entry top_;
+    std::unordered_map<const TreeNode*, const Entry*> entries_;
     int count_ = 0;
     bool attached_ = false;
 };

@@ -8,7 +8,7 @@ namespace desktop {
 
 namespace {
 
-/// The letter that a caption names by an "&" of its own, as a place in the caption; -1 for none.
+/// The letter that a caption names by an "&" of its own, as an index into the caption; -1 for none.
 qsizetype ownLetter(const QString& caption)
 {
     for (qsizetype at = 0; at + 1 < caption.size(); ++at) {
@@ -74,26 +74,26 @@ QStringList withMnemonics(const QStringList& captions)
     QSet<QChar> taken;
     QStringList marked = captions;
     QList<bool> settled(captions.size(), false);
-    for (qsizetype place = 0; place < captions.size(); ++place) {
-        const auto letter = ownLetter(captions[place]);
+    for (qsizetype index = 0; index < captions.size(); ++index) {
+        const auto letter = ownLetter(captions[index]);
         if (letter < 0) continue;
-        const QChar key = captions[place][letter].toLower();
-        settled[place] = !taken.contains(key);
-        if (settled[place])
+        const QChar key = captions[index][letter].toLower();
+        settled[index] = !taken.contains(key);
+        if (settled[index])
             taken.insert(key);
         else
-            unmark(marked[place], letter);
+            unmark(marked[index], letter);
     }
-    for (qsizetype place = 0; place < captions.size(); ++place) {
-        if (settled[place]) continue;
-        if (std::any_of(marked[place].begin(), marked[place].end(), isWithoutKey)) {
-            markBehind(marked[place], taken);
+    for (qsizetype index = 0; index < captions.size(); ++index) {
+        if (settled[index]) continue;
+        if (std::any_of(marked[index].begin(), marked[index].end(), isWithoutKey)) {
+            markBehind(marked[index], taken);
             continue;
         }
-        const auto letter = freeLetter(marked[place], taken);
+        const auto letter = freeLetter(marked[index], taken);
         if (letter < 0) continue;
-        taken.insert(marked[place][letter].toLower());
-        marked[place].insert(letter, QLatin1Char('&'));
+        taken.insert(marked[index][letter].toLower());
+        marked[index].insert(letter, QLatin1Char('&'));
     }
     return marked;
 }

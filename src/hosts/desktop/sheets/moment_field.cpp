@@ -234,11 +234,11 @@ void MomentField::openCalendar()
     connect(calendar, &QCalendarWidget::clicked, this, choose);
     connect(calendar, &QCalendarWidget::activated, this, choose);
     popup->adjustSize();
-    QRect place(mapToGlobal(rect().bottomLeft()), popup->size());
+    QRect area(mapToGlobal(rect().bottomLeft()), popup->size());
     const QRect room = screen()->availableGeometry();
-    if (place.bottom() > room.bottom()) place.moveBottom(mapToGlobal(rect().topLeft()).y());
-    place.moveRight(std::min(place.right(), room.right()));
-    popup->move(place.topLeft());
+    if (area.bottom() > room.bottom()) area.moveBottom(mapToGlobal(rect().topLeft()).y());
+    area.moveRight(std::min(area.right(), room.right()));
+    popup->move(area.topLeft());
     popup->show();
     calendar->setFocus();
 }

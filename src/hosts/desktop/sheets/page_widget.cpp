@@ -56,9 +56,9 @@ PageWidget::PageWidget(SheetPage& page, bool banner, QStringList taken, const Ac
 
 PageWidget::~PageWidget() = default;
 
-bool PageWidget::isBanner(std::size_t place) const
+bool PageWidget::isBanner(std::size_t index) const
 {
-    const ControlRole role = page_.controls()[place].role;
+    const ControlRole role = page_.controls()[index].role;
     return banner_ && (role == ControlRole::title || role == ControlRole::description);
 }
 
@@ -67,8 +67,8 @@ void PageWidget::addBanner()
     auto* band = new Banner(this);
     auto* texts = new QVBoxLayout;
     texts->setSpacing(6);
-    for (std::size_t place = 0; place < views_.size(); ++place)
-        if (isBanner(place)) texts->addWidget(views_[place]->widget());
+    for (std::size_t index = 0; index < views_.size(); ++index)
+        if (isBanner(index)) texts->addWidget(views_[index]->widget());
     texts->addStretch(1);
     auto* symbol = new QLabel(band);
     symbol->setPixmap(toolIcon(QStringLiteral("console")).pixmap(bannerSymbol, bannerSymbol));
@@ -86,10 +86,10 @@ void PageWidget::addControls()
     const auto& controls = page_.controls();
     QGridLayout* fields = nullptr;
     bool filled = false;
-    for (std::size_t place = 0; place < controls.size(); ++place) {
-        if (!views_[place] || isBanner(place)) continue;
-        const ControlRole role = controls[place].role;
-        QWidget* widget = views_[place]->widget();
+    for (std::size_t index = 0; index < controls.size(); ++index) {
+        if (!views_[index] || isBanner(index)) continue;
+        const ControlRole role = controls[index].role;
+        QWidget* widget = views_[index]->widget();
         if (role == ControlRole::fieldLabel || role == ControlRole::field) {
             if (!fields) {
                 fields = new QGridLayout;
@@ -98,8 +98,8 @@ void PageWidget::addControls()
                 fields->setColumnStretch(1, 1);
                 column_->addLayout(fields);
             }
-            addField(*fields, place);
-            if (dynamic_cast<ListBox*>(controls[place].control)) {
+            addField(*fields, index);
+            if (dynamic_cast<ListBox*>(controls[index].control)) {
                 column_->setStretchFactor(fields, 1);
                 filled = true;
             }
@@ -107,12 +107,12 @@ void PageWidget::addControls()
         }
         fields = nullptr;
         if (role == ControlRole::frame) {
-            addFramed(*column_, place);
+            addFramed(*column_, index);
         } else if (role == ControlRole::mainTree || role == ControlRole::summary) {
             column_->addWidget(widget, 1);
             filled = true;
         } else if (role == ControlRole::action) {
-            addActions(*column_, place);
+            addActions(*column_, index);
         } else {
             column_->addWidget(widget);
         }
@@ -121,21 +121,21 @@ void PageWidget::addControls()
 }
 
 /// A row of a caption and its fields; fields without a caption of their own stand beside the one
-/// before. Leaves `place` at the last control of the row.
-void PageWidget::addField(QGridLayout& grid, std::size_t& place)
+/// before. Leaves `index` at the last control of the row.
+void PageWidget::addField(QGridLayout& grid, std::size_t& index)
 {
     const auto& controls = page_.controls();
     const int row = grid.rowCount();
-    auto* label = dynamic_cast<LabelView*>(views_[place].get());
+    auto* label = dynamic_cast<LabelView*>(views_[index].get());
     auto* fields = new QHBoxLayout;
     fields->setSpacing(8);
-    if (label && place + 1 < controls.size() && controls[place + 1].role == ControlRole::field) {
-        ++place;
-        label->setBuddy(views_[place]->focusTarget());
+    if (label && index + 1 < controls.size() && controls[index + 1].role == ControlRole::field) {
+        ++index;
+        label->setBuddy(views_[index]->focusTarget());
         const QString name = QString::fromStdString(
-            static_cast<const Label*>(controls[place - 1].control)->caption());
-        views_[place]->focusTarget()->setAccessibleName(name);
-        const bool tall = dynamic_cast<ListBox*>(controls[place].control) != nullptr;
+            static_cast<const Label*>(controls[index - 1].control)->caption());
+        views_[index]->focusTarget()->setAccessibleName(name);
+        const bool tall = dynamic_cast<ListBox*>(controls[index].control) != nullptr;
         grid.addWidget(label->widget(), row, 0,
                        Qt::AlignLeft | (tall ? Qt::AlignTop : Qt::AlignVCenter));
         label = nullptr;
@@ -144,53 +144,53 @@ void PageWidget::addField(QGridLayout& grid, std::size_t& place)
         grid.addWidget(label->widget(), row, 0, 1, 2);
         return;
     }
-    fields->addWidget(views_[place]->widget());
-    const bool list = dynamic_cast<ListBox*>(controls[place].control) != nullptr;
+    fields->addWidget(views_[index]->widget());
+    const bool list = dynamic_cast<ListBox*>(controls[index].control) != nullptr;
     // A number with arrows and a picker are as wide as what they hold.
-    const bool counted = place + 1 < controls.size() &&
-                         dynamic_cast<SpinControl*>(controls[place + 1].control) != nullptr;
+    const bool counted = index + 1 < controls.size() &&
+                         dynamic_cast<SpinControl*>(controls[index + 1].control) != nullptr;
     const bool narrow =
-        counted || dynamic_cast<DateTimePicker*>(controls[place].control) != nullptr;
+        counted || dynamic_cast<DateTimePicker*>(controls[index].control) != nullptr;
     constexpr int pathCharacters = 26; ///< of a path, without scrolling in its field
-    if (!counted && dynamic_cast<TextBox*>(controls[place].control))
-        views_[place]->widget()->setMinimumWidth(fontMetrics().averageCharWidth() * pathCharacters);
+    if (!counted && dynamic_cast<TextBox*>(controls[index].control))
+        views_[index]->widget()->setMinimumWidth(fontMetrics().averageCharWidth() * pathCharacters);
     if (counted) {
-        views_[place]->widget()->setMaximumWidth(fontMetrics().averageCharWidth() * 12);
+        views_[index]->widget()->setMaximumWidth(fontMetrics().averageCharWidth() * 12);
         fields->setSpacing(2);
     }
-    while (place + 1 < controls.size() && controls[place + 1].role == ControlRole::field) {
-        ++place;
-        fields->addWidget(views_[place]->widget());
+    while (index + 1 < controls.size() && controls[index + 1].role == ControlRole::field) {
+        ++index;
+        fields->addWidget(views_[index]->widget());
     }
-    if (place + 1 < controls.size() && controls[place + 1].role == ControlRole::action) {
-        ++place;
-        fields->addWidget(views_[place]->widget());
+    if (index + 1 < controls.size() && controls[index + 1].role == ControlRole::action) {
+        ++index;
+        fields->addWidget(views_[index]->widget());
     }
     if (narrow) fields->addStretch(1);
     grid.addLayout(fields, row, 1);
     if (list) grid.setRowStretch(row, 1);
 }
 
-/// A row of buttons. Leaves `place` at the last one of it.
-void PageWidget::addActions(QBoxLayout& column, std::size_t& place)
+/// A row of buttons. Leaves `index` at the last one of it.
+void PageWidget::addActions(QBoxLayout& column, std::size_t& index)
 {
     const auto& controls = page_.controls();
     auto* row = new QHBoxLayout;
     row->setSpacing(8);
-    row->addWidget(views_[place]->widget());
-    while (place + 1 < controls.size() && controls[place + 1].role == ControlRole::action)
-        row->addWidget(views_[++place]->widget());
+    row->addWidget(views_[index]->widget());
+    while (index + 1 < controls.size() && controls[index + 1].role == ControlRole::action)
+        row->addWidget(views_[++index]->widget());
     row->addStretch(1);
     column.addLayout(row);
 }
 
-void PageWidget::addFramed(QBoxLayout& column, std::size_t& place)
+void PageWidget::addFramed(QBoxLayout& column, std::size_t& index)
 {
-    QWidget* box = views_[place]->widget();
+    QWidget* box = views_[index]->widget();
     column.addWidget(box);
-    if (place + 1 >= views_.size() || !views_[place + 1]) return;
-    ++place;
-    box->layout()->addWidget(views_[place]->widget());
+    if (index + 1 >= views_.size() || !views_[index + 1]) return;
+    ++index;
+    box->layout()->addWidget(views_[index]->widget());
 }
 
 void PageWidget::showState()
@@ -229,14 +229,14 @@ bool PageWidget::finishEditing()
 
 bool PageWidget::focusFirst()
 {
-    for (std::size_t place = 0; place < views_.size(); ++place) {
-        if (!views_[place] || isBanner(place)) continue;
-        QWidget* target = views_[place]->focusTarget();
-        const auto* tree = dynamic_cast<const TreeView*>(page_.controls()[place].control);
+    for (std::size_t index = 0; index < views_.size(); ++index) {
+        if (!views_[index] || isBanner(index)) continue;
+        QWidget* target = views_[index]->focusTarget();
+        const auto* tree = dynamic_cast<const TreeView*>(page_.controls()[index].control);
         const bool tells = tree && !tree->checkBoxes();
         const bool choice = target && !tells && target->isEnabled() && target->isVisibleTo(this) &&
                             (target->focusPolicy() & Qt::TabFocus) &&
-                            page_.controls()[place].role != ControlRole::summary;
+                            page_.controls()[index].role != ControlRole::summary;
         if (!choice) continue;
         target->setFocus(Qt::TabFocusReason);
         return true;

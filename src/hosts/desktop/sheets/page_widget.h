@@ -39,15 +39,16 @@ public:
 private:
     void addBanner();
     void addControls();
-    void addField(QGridLayout& grid, std::size_t& place);
-    void addActions(QBoxLayout& column, std::size_t& place);
-    void addFramed(QBoxLayout& column, std::size_t& place);
+    void addField(QGridLayout& grid, std::size_t& index);
+    void addActions(QBoxLayout& column, std::size_t& index);
+    void addFramed(QBoxLayout& column, std::size_t& index);
     void markLetters();
-    bool isBanner(std::size_t place) const;
+    bool isBanner(std::size_t index) const;
 
     SheetPage& page_;
     QStringList taken_;
-    std::vector<std::unique_ptr<ControlView>> views_; ///< by place of the control; null for timers
+    std::vector<std::unique_ptr<ControlView>>
+        views_; ///< by the index of the control; null for timers
     QBoxLayout* column_ = nullptr;
     bool banner_ = false;
     bool marking_ = false;

@@ -18,6 +18,7 @@ public:
     /// Calls `wished` from the event loop. Needs the application object.
     explicit EndWish(std::function<void()> wished);
 
+    /// Whether the wish was made.
     bool made() const { return made_; }
 
     /// Whether a signal has come, also while the event loop waits for work to end. False without

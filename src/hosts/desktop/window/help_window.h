@@ -17,6 +17,7 @@ public:
     /// there, shows the first page. False when the folder holds no manual.
     bool open(const QString& folder, int topic);
 
+    /// The file name of the page on show; empty before the first one.
     QString shownPage() const;
 
 private:

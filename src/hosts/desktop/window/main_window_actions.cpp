@@ -151,8 +151,8 @@ void MainWindow::rebuildConsoleItems()
 
     QMenu* menu = menus_[CommandMenu::action];
     const bool firstTime = consoleActions_.empty();
-    for (std::size_t place = 0; place < items.size(); ++place) {
-        const MenuItem& item = items[place];
+    for (std::size_t index = 0; index < items.size(); ++index) {
+        const MenuItem& item = items[index];
         QAction*& made = consoleActions_[item.name];
         if (!made) {
             made = new QAction(this);
@@ -163,17 +163,17 @@ void MainWindow::rebuildConsoleItems()
                 const auto click = [&](Console& console) { console.clickMenuItem(name); };
                 changesServer(name) ? pane_->performChange(name, click) : pane_->perform(click);
             });
-            if (place == tasks)
+            if (index == tasks)
                 menu->insertSeparator(menu->actions().value(menu->actions().size() - 2));
             menu->insertAction(menu->actions().value(menu->actions().size() - 2), made);
         }
-        made->setText(captions[static_cast<qsizetype>(place) + 1]);
+        made->setText(captions[static_cast<qsizetype>(index) + 1]);
         made->setStatusTip(QString::fromStdString(item.statusBarText));
         made->setToolTip(toolTipOf(*made));
         made->setVisible(item.visible);
         made->setEnabled(item.enabled);
         if (firstTime) toolBar_->addAction(made);
-        if (firstTime && place + 1 == tasks) toolBar_->addSeparator();
+        if (firstTime && index + 1 == tasks) toolBar_->addSeparator();
     }
     if (!firstTime) return;
     toolBar_->addSeparator();

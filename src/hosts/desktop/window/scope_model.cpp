@@ -32,8 +32,8 @@ ScopeModel::ScopeModel(Console& console, QObject* parent)
 {
     ScopeTree& tree = console_.scopeItems();
     if (tree.count() > 0) {
-        top_.children.push_back(std::make_unique<Place>());
-        Place& root = *top_.children.back();
+        top_.children.push_back(std::make_unique<Entry>());
+        Entry& root = *top_.children.back();
         root.item = &tree.item(1);
         root.parent = &top_;
         fill(root);
@@ -46,67 +46,67 @@ ScopeModel::~ScopeModel()
     console_.removeObserver(*this);
 }
 
-void ScopeModel::fill(Place& place)
+void ScopeModel::fill(Entry& entry)
 {
-    places_[place.item] = &place;
-    for (ScopeItem* child : place.item->children()) {
-        place.children.push_back(std::make_unique<Place>());
-        place.children.back()->item = child;
-        place.children.back()->parent = &place;
-        fill(*place.children.back());
+    entries_[entry.item] = &entry;
+    for (ScopeItem* child : entry.item->children()) {
+        entry.children.push_back(std::make_unique<Entry>());
+        entry.children.back()->item = child;
+        entry.children.back()->parent = &entry;
+        fill(*entry.children.back());
     }
 }
 
-ScopeModel::Place* ScopeModel::placeOf(const ScopeItem& item) const
+ScopeModel::Entry* ScopeModel::entryOf(const ScopeItem& item) const
 {
-    const auto found = places_.find(&item);
-    return found == places_.end() ? nullptr : found->second;
+    const auto found = entries_.find(&item);
+    return found == entries_.end() ? nullptr : found->second;
 }
 
-const ScopeModel::Place& ScopeModel::placeAt(const QModelIndex& index) const
+const ScopeModel::Entry& ScopeModel::entryAt(const QModelIndex& index) const
 {
-    return index.isValid() ? *static_cast<const Place*>(index.internalPointer()) : top_;
+    return index.isValid() ? *static_cast<const Entry*>(index.internalPointer()) : top_;
 }
 
-int ScopeModel::rowOf(const Place& place)
+int ScopeModel::rowOf(const Entry& entry)
 {
-    const auto& siblings = place.parent->children;
+    const auto& siblings = entry.parent->children;
     const auto found = std::find_if(siblings.begin(), siblings.end(),
-                                    [&](const auto& sibling) { return sibling.get() == &place; });
+                                    [&](const auto& sibling) { return sibling.get() == &entry; });
     return static_cast<int>(found - siblings.begin());
 }
 
-QModelIndex ScopeModel::indexOf(const Place* place) const
+QModelIndex ScopeModel::indexOf(const Entry* entry) const
 {
-    if (!place || place == &top_) return {};
-    return createIndex(rowOf(*place), 0, place);
+    if (!entry || entry == &top_) return {};
+    return createIndex(rowOf(*entry), 0, entry);
 }
 
 QModelIndex ScopeModel::indexOf(const ScopeItem& item) const
 {
-    return indexOf(placeOf(item));
+    return indexOf(entryOf(item));
 }
 
 ScopeItem* ScopeModel::itemAt(const QModelIndex& index) const
 {
-    return placeAt(index).item;
+    return entryAt(index).item;
 }
 
 QModelIndex ScopeModel::index(int row, int column, const QModelIndex& parent) const
 {
-    const Place& above = placeAt(parent);
+    const Entry& above = entryAt(parent);
     if (row < 0 || column != 0 || row >= static_cast<int>(above.children.size())) return {};
     return createIndex(row, column, above.children[static_cast<std::size_t>(row)].get());
 }
 
 QModelIndex ScopeModel::parent(const QModelIndex& index) const
 {
-    return index.isValid() ? indexOf(placeAt(index).parent) : QModelIndex();
+    return index.isValid() ? indexOf(entryAt(index).parent) : QModelIndex();
 }
 
 int ScopeModel::rowCount(const QModelIndex& parent) const
 {
-    return static_cast<int>(placeAt(parent).children.size());
+    return static_cast<int>(entryAt(parent).children.size());
 }
 
 int ScopeModel::columnCount(const QModelIndex&) const
@@ -116,9 +116,9 @@ int ScopeModel::columnCount(const QModelIndex&) const
 
 bool ScopeModel::hasChildren(const QModelIndex& parent) const
 {
-    const Place& place = placeAt(parent);
-    if (!place.children.empty() || !place.item) return !place.children.empty();
-    return !place.item->expanded() && !isLog(*place.item);
+    const Entry& entry = entryAt(parent);
+    if (!entry.children.empty() || !entry.item) return !entry.children.empty();
+    return !entry.item->expanded() && !isLog(*entry.item);
 }
 
 QVariant ScopeModel::data(const QModelIndex& index, int role) const
@@ -139,14 +139,14 @@ QVariant ScopeModel::data(const QModelIndex& index, int role) const
 
 void ScopeModel::scopeItemAdded(ScopeItem& item)
 {
-    Place* above = item.parent() ? placeOf(*item.parent()) : &top_;
+    Entry* above = item.parent() ? entryOf(*item.parent()) : &top_;
     if (!above) return;
     const int row = static_cast<int>(above->children.size());
     beginInsertRows(indexOf(above), row, row);
-    above->children.push_back(std::make_unique<Place>());
+    above->children.push_back(std::make_unique<Entry>());
     above->children.back()->item = &item;
     above->children.back()->parent = above;
-    places_[&item] = above->children.back().get();
+    entries_[&item] = above->children.back().get();
     endInsertRows();
 }
 
@@ -158,12 +158,12 @@ void ScopeModel::scopeItemChanged(ScopeItem& item)
 
 void ScopeModel::scopeItemRemoved(ScopeItem& item)
 {
-    Place* leaving = placeOf(item);
+    Entry* leaving = entryOf(item);
     if (!leaving) return;
-    Place* above = leaving->parent;
+    Entry* above = leaving->parent;
     const int row = rowOf(*leaving);
     beginRemoveRows(indexOf(above), row, row);
-    places_.erase(&item);
+    entries_.erase(&item);
     above->children.erase(above->children.begin() + row);
     endRemoveRows();
 }

@@ -37,27 +37,27 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:
-    /// A place in the tree. The console tells of a removal when the item has no parent any more, so
-    /// its place is kept here.
-    struct Place {
+    /// An entry of the tree. The console tells of a removal when the item has no parent any more,
+    /// so its parent is kept here.
+    struct Entry {
         ScopeItem* item = nullptr;
-        Place* parent = nullptr;
-        std::vector<std::unique_ptr<Place>> children;
+        Entry* parent = nullptr;
+        std::vector<std::unique_ptr<Entry>> children;
     };
 
     void scopeItemAdded(ScopeItem& item) override;
     void scopeItemChanged(ScopeItem& item) override;
     void scopeItemRemoved(ScopeItem& item) override;
 
-    void fill(Place& place);
-    Place* placeOf(const ScopeItem& item) const;
-    const Place& placeAt(const QModelIndex& index) const;
-    static int rowOf(const Place& place);
-    QModelIndex indexOf(const Place* place) const;
+    void fill(Entry& entry);
+    Entry* entryOf(const ScopeItem& item) const;
+    const Entry& entryAt(const QModelIndex& index) const;
+    static int rowOf(const Entry& entry);
+    QModelIndex indexOf(const Entry* entry) const;
 
     Console& console_;
-    Place top_; ///< above the root
-    std::unordered_map<const ScopeItem*, Place*> places_;
+    Entry top_; ///< above the root
+    std::unordered_map<const ScopeItem*, Entry*> entries_;
 };
 
 } // namespace desktop

@@ -116,13 +116,13 @@ void TaskPadView::arrange()
     columns_ = columns;
     for (auto* made : cards_) grid_->removeWidget(made);
     for (int row = 0; row <= cards_.size(); ++row) grid_->setRowStretch(row, 0);
-    int place = 0;
+    int index = 0;
     for (auto* made : cards_) {
-        grid_->addWidget(made, place / columns, place % columns);
+        grid_->addWidget(made, index / columns, index % columns);
         made->show();
-        ++place;
+        ++index;
     }
-    grid_->setRowStretch(place / columns + 1, 1);
+    grid_->setRowStretch(index / columns + 1, 1);
 }
 
 } // namespace desktop
