@@ -10,6 +10,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+// Not every header of a C library declares it.
 extern char** environ; // NOLINT(readability-redundant-declaration)
 
 namespace {

@@ -4,13 +4,11 @@
 
 #include <string>
 
-/// The run-time error number of a failed system call, by the number that it left in `errno`. A name
-/// that leads nowhere gives `missing`, which the caller chooses: 53 for a file, 76 for a folder.
-int runTimeErrorNumber(int error, int missing);
-
-/// A failed system call, with the standard text of its number.
+/// A failed system call as a run-time error, with the standard text of its number.
 class SystemError : public RunTimeError {
 public:
+    /// `error` is the number that the call left in `errno`. A name that leads nowhere gives
+    /// `missing`, which the caller chooses: 53 for a file, 76 for a folder.
     SystemError(int error, int missing);
 
     /// What the system itself says of it, such as "No space left on device".

@@ -3,6 +3,8 @@
 #include <cerrno>
 #include <system_error>
 
+namespace {
+
 int runTimeErrorNumber(int error, int missing)
 {
     using namespace runTimeErrors;
@@ -35,6 +37,8 @@ int runTimeErrorNumber(int error, int missing)
         return deviceIo;
     }
 }
+
+} // namespace
 
 SystemError::SystemError(int error, int missing)
     : RunTimeError(runTimeErrorNumber(error, missing)), error_(error)
