@@ -10,7 +10,7 @@
 
 #include "cabmaker/cabinet_maker.h"
 #include "runtime/run_time_error.h"
-#include "runtime/visible_text.h"
+#include "text/visible_text.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "hosts/desktop/console_options.h"
 
 #include "hosts/desktop/window/commands.h"
-#include "runtime/visible_text.h"
+#include "text/visible_text.h"
 
 #include <QCommandLineParser>
 #include <QRegularExpression>

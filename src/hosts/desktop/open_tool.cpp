@@ -1,7 +1,7 @@
 #include "hosts/desktop/open_tool.h"
 
 #include "runtime/run_time_error.h"
-#include "runtime/visible_text.h"
+#include "text/visible_text.h"
 
 #include <algorithm>
 #include <cctype>

@@ -6,7 +6,7 @@
 #include "hosts/desktop/program.h"
 #include "hosts/desktop/window/end_wish.h"
 #include "hosts/desktop/window/screenshot.h"
-#include "runtime/visible_text.h"
+#include "text/visible_text.h"
 
 #include <QAction>
 #include <QApplication>

@@ -9,9 +9,9 @@
 #include "hosts/cli/terminal/output.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "runtime/visible_text.h"
 #include "server/diagnostic_grid_catalogue.h"
 #include "shell/snapin_names.h"
+#include "text/visible_text.h"
 
 namespace cli {
 

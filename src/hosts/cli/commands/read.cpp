@@ -7,8 +7,8 @@
 #include "hosts/common/shown_width.h"
 #include "platform/file_system.h"
 #include "runtime/numbers.h"
-#include "runtime/visible_text.h"
 #include "shell/snapin_names.h"
+#include "text/visible_text.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "hosts/cli/terminal/message.h"
 
-#include "runtime/visible_text.h"
+#include "text/visible_text.h"
 
 #include <cstdio>
 

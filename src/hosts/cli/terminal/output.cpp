@@ -3,7 +3,7 @@
 #include "hosts/cli/command.h"
 #include "hosts/cli/terminal/message.h"
 #include "hosts/common/shown_width.h"
-#include "runtime/visible_text.h"
+#include "text/visible_text.h"
 
 #include <algorithm>
 #include <cerrno>

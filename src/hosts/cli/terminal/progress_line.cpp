@@ -1,7 +1,7 @@
 #include "hosts/cli/terminal/progress_line.h"
 
-#include "runtime/visible_text.h"
 #include "system/terminal.h"
+#include "text/visible_text.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "runtime/visible_text.h"
+#include "text/visible_text.h"
 
 #include "runtime/text.h"
 
