@@ -3,28 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cerrno>
 #include <fstream>
 #include <sys/resource.h>
-#include <sys/syscall.h>
 #include <unistd.h>
-
-namespace {
-
-bool writesAreRefused = false;
-int refusedWrites = 0;
-
-} // namespace
-
-/// Stands in for the system's, which the pages are written with.
-extern "C" ssize_t pwrite(int file, const void* bytes, size_t size, off_t at)
-{
-    if (!writesAreRefused) return ::syscall(SYS_pwrite64, file, bytes, size, at);
-    ++refusedWrites;
-    ::usleep(2'000);
-    errno = ENOSPC;
-    return -1;
-}
 
 namespace {
 
@@ -253,27 +234,6 @@ TEST(Growth, WhereTheDiskHoldsNoMoreTheUpdateRaises3026AndTheRowsBeforeStay)
     }
     EXPECT_GT(stored, 50u);
     traces->update();
-    EXPECT_EQ(stored + 1, countNumberedRows(scratch.path()));
-    database->close();
-    EXPECT_EQ("", problemsOf(scratch.path()));
-}
-
-TEST(Growth, AFullDiskIsAskedMoreAndMoreRarely)
-{
-    ScratchDatabase scratch;
-    auto engine = machineEngine();
-    const auto database = engine.openDatabase(scratch.path().string());
-    const auto traces = database->openRecordset("tblTraces");
-    std::size_t stored = 0;
-    refusedWrites = 0;
-    writesAreRefused = true;
-    while (errorOf([&] { addNumberedRow(*traces, stored); }) == 0) ++stored;
-    for (int row = 0; row < 10'000; ++row) EXPECT_EQ(3026, errorOf([&] { traces->update(); }));
-    EXPECT_GE(refusedWrites, 16) << "the first times it is asked each time";
-    EXPECT_LE(refusedWrites, 80);
-    writesAreRefused = false;
-    ::usleep(200'000);
-    EXPECT_EQ(0, errorOf([&] { traces->update(); })) << "room that is there again is found";
     EXPECT_EQ(stored + 1, countNumberedRows(scratch.path()));
     database->close();
     EXPECT_EQ("", problemsOf(scratch.path()));

@@ -21,8 +21,6 @@ namespace {
 constexpr std::size_t largestBytes = std::size_t{formatFilePages} * pageSize;
 constexpr std::uint32_t pagesPerRun = 64;
 
-using Clock = std::chrono::steady_clock;
-
 /// The most pages that the process may give a file; writing past it would end the program.
 std::uint64_t pagesAllowed()
 {
@@ -44,9 +42,10 @@ const std::array<char, pagesPerRun * pageSize>& emptyRun()
 
 } // namespace
 
-PageFile::PageFile(const std::string& path)
-    // A link that was put in the place of the fresh copy would lead the rows elsewhere.
-    : file_(openDatabaseFile(path,
+PageFile::PageFile(const std::string& path, std::function<Moment()> now)
+    : now_(std::move(now)),
+      // A link that was put in the place of the fresh copy would lead the rows elsewhere.
+      file_(openDatabaseFile(path,
                              {.access = FileAccess::readAndWrite, .lastLink = LastLink::refused}))
 {
     if (!tryLockBytes(file_))
@@ -86,7 +85,7 @@ void PageFile::extendTo(std::uint32_t pages)
     if (wasCut()) raiseFailure();
     const auto most = std::min<std::uint64_t>(largestFilePages, pagesAllowed());
     if (pages > most) raiseDiskFull();
-    const auto begun = Clock::now();
+    const Moment begun = now_();
     if (passedOver_ > 0 && begun < askedAgain_) {
         --passedOver_;
         raiseDiskFull();
@@ -97,15 +96,16 @@ void PageFile::extendTo(std::uint32_t pages)
         if (!extendBy(run) && !extendBy(wanted)) raiseRefused(begun);
     }
     refusals_ = 0;
+    passedOver_ = 0;
 }
 
 /// A full file system may write back all it holds before it refuses, which takes a moment each
 /// time; a gather has millions of rows. One that refuses at once is asked each time, and room that
 /// comes back is found before the few rows are lost that a table of filters has.
-void PageFile::raiseRefused(Clock::time_point begun)
+void PageFile::raiseRefused(Moment begun)
 {
     constexpr int share = 20; ///< of the time, one part is spent on asking at most
-    const auto now = Clock::now();
+    const Moment now = now_();
     askedAgain_ = now + share * (now - begun);
     constexpr int alwaysTried = 8;
     constexpr int rarest = 10; ///< once in as many, as a power of two

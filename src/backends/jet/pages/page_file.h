@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -20,9 +21,12 @@ namespace jet {
 /// kill would have left it. A few megabytes of the file are in memory at a time.
 class PageFile final : public PageSource {
 public:
-    /// Opens a file and keeps other writers out. Raises 3024, 3045, 3051, and 3343 for a file that
-    /// is too large or holds no whole page.
-    explicit PageFile(const std::string& path);
+    using Moment = std::chrono::steady_clock::time_point;
+
+    /// Opens a file and keeps other writers out; `now` tells how long a refusal of the file system
+    /// took. Raises 3024, 3045, 3051, and 3343 for a file that is too large or holds no whole page.
+    explicit PageFile(const std::string& path,
+                      std::function<Moment()> now = std::chrono::steady_clock::now);
     ~PageFile() override;
     PageFile(const PageFile&) = delete;
     PageFile& operator=(const PageFile&) = delete;
@@ -75,16 +79,16 @@ private:
     bool wasCut() const;
     void extendTo(std::uint32_t pages);
     bool extendBy(std::uint64_t run);
-    [[noreturn]] void raiseRefused(std::chrono::steady_clock::time_point begun);
+    [[noreturn]] void raiseRefused(Moment begun);
 
+    std::function<Moment()> now_;
     FileDescriptor file_;
     mutable std::optional<PageWindows> windows_; ///< none until the file was opened
     std::uint32_t count_ = 0;                    ///< pages in use
     std::uint32_t extent_ = 0;                   ///< pages that the file has room for
     int refusals_ = 0;                           ///< of the file system, in a row
     int passedOver_ = 0;                         ///< extensions not to be tried before the next one
-    std::chrono::steady_clock::time_point
-        askedAgain_{}; ///< from then on they are tried all the same
+    Moment askedAgain_{};                        ///< from then on they are tried all the same
 };
 
 } // namespace jet
