@@ -3,6 +3,7 @@
 #include "core/tool_context.h"
 #include "runtime/numbers.h"
 #include "runtime/run_time_error.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <utility>
@@ -61,13 +62,6 @@ std::int32_t convertedToNumber(const RegistryData& data)
     if (const auto* number = std::get_if<std::int32_t>(&data)) return *number;
     if (std::holds_alternative<std::monostate>(data)) return 0;
     throw RunTimeError(runTimeErrors::typeMismatch);
-}
-
-std::size_t charactersIn(const std::string& text)
-{
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
-    }));
 }
 
 } // namespace
@@ -159,7 +153,7 @@ KeyNames enumRegistryKeys(ToolContext& tool, std::uint32_t hive, const std::stri
     if (!found) return {};
     std::vector<std::string> names;
     for (std::string& name : *found) {
-        if (names.size() == mostKeys || charactersIn(name) >= nameBuffer) break;
+        if (names.size() == mostKeys || characterCount(name) >= nameBuffer) break;
         name.resize(std::min(name.find('\0'), name.size()));
         names.push_back(std::move(name));
     }

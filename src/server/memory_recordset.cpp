@@ -3,6 +3,7 @@
 #include "platform/database.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <numeric>
@@ -11,19 +12,11 @@ using runTimeErrors::itemNotInCollection;
 
 namespace {
 
-bool beginsCharacter(char byte)
-{
-    return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
-}
-
 /// A UTF-8 text cut or filled with blanks to `size` characters.
 std::string fitted(const std::string& text, std::size_t size)
 {
-    std::size_t characters = 0;
-    std::size_t end = 0;
-    for (; end < text.size(); ++end)
-        if (beginsCharacter(text[end]) && ++characters > size) return text.substr(0, end);
-    return text + std::string(size - characters, ' ');
+    const std::string_view cut = firstCharacters(text, size);
+    return std::string(cut).append(size - characterCount(cut), ' ');
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "core/utility.h"
 #include "platform/file_system.h"
 #include "runtime/text.h"
+#include "text/utf8.h"
 
 namespace {
 
@@ -18,24 +19,13 @@ std::string sourceKey(const std::string& source)
     return std::string(sourcesKey) + "\\" + source;
 }
 
-/// Bytes that the first `count` characters of a UTF-8 text take; all of a shorter text.
-std::size_t sizeOfCharacters(std::string_view text, std::size_t count)
-{
-    std::size_t characters = 0;
-    for (std::size_t position = 0; position < text.size(); ++position) {
-        const bool begins = (static_cast<unsigned char>(text[position]) & 0xC0) != 0x80;
-        if (begins && ++characters > count) return position;
-    }
-    return text.size();
-}
-
 /// Bytes of a path up to its language. A text that is not there counts as found at position 0,
 /// which still leaves all of its length but one.
 std::size_t sizeBeforeLanguage(std::string_view path)
 {
     const std::size_t found = path.find(mdlLanguage::messagingFolder);
     if (found != std::string_view::npos) return found + mdlLanguage::messagingFolder.size();
-    return sizeOfCharacters(path, mdlLanguage::messagingFolder.size() - 1);
+    return firstCharacters(path, mdlLanguage::messagingFolder.size() - 1).size();
 }
 
 std::string readText(ToolContext& tool, const std::string& source, const char* name)
@@ -86,7 +76,7 @@ std::string mdlLanguage::determineCurrentLanguage(ToolContext& tool, const std::
     step.enterProc();
     const std::string_view rest =
         std::string_view(messageFile).substr(sizeBeforeLanguage(messageFile));
-    const std::string language(rest.substr(0, sizeOfCharacters(rest, codeLength)));
+    const std::string language(firstCharacters(rest, codeLength));
     step.exitProc();
     return language;
 }
@@ -100,7 +90,7 @@ std::string mdlLanguage::replaceLanguage(ToolContext& tool, const std::string& p
     const std::size_t kept = sizeBeforeLanguage(path);
     const std::string_view rest = std::string_view(path).substr(kept);
     std::string replaced = path.substr(0, kept) + language;
-    replaced += rest.substr(sizeOfCharacters(rest, codeLength));
+    replaced += rest.substr(firstCharacters(rest, codeLength).size());
     step.exitProc();
     return replaced;
 }

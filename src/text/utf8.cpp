@@ -15,6 +15,11 @@ char32_t upperCaseOf(char32_t letter)
     return static_cast<char32_t>(towupper_l(static_cast<wint_t>(letter), unicode));
 }
 
+bool isContinuation(char byte)
+{
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80;
+}
+
 bool isSurrogate(char32_t unit)
 {
     return unit >= 0xD800 && unit <= 0xDFFF;
@@ -56,6 +61,20 @@ char32_t utf8CodePoint(std::string_view character)
     for (const char next : character.substr(1))
         codePoint = codePoint << 6 | (static_cast<unsigned char>(next) & 0x3FU);
     return codePoint;
+}
+
+std::size_t characterCount(std::string_view text)
+{
+    return text.size() -
+           static_cast<std::size_t>(std::count_if(text.begin(), text.end(), isContinuation));
+}
+
+std::string_view firstCharacters(std::string_view text, std::size_t count)
+{
+    std::size_t end = 0;
+    for (; end < text.size(); ++end)
+        if (!isContinuation(text[end]) && count-- == 0) break;
+    return text.substr(0, end);
 }
 
 void appendUtf8(std::string& text, char32_t codePoint)

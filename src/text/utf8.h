@@ -14,6 +14,12 @@ std::string validUtf8(std::string_view text);
 /// The code point of a whole character, as `utf8CharacterLength` delimits it.
 char32_t utf8CodePoint(std::string_view character);
 
+/// The characters of a text in UTF-8: its bytes without those that go on with one.
+std::size_t characterCount(std::string_view text);
+
+/// The first `count` of them; all of a text that has no more.
+std::string_view firstCharacters(std::string_view text, std::size_t count);
+
 void appendUtf8(std::string& text, char32_t codePoint);
 
 /// UTF-16 to UTF-8; U+FFFD for a lone surrogate.

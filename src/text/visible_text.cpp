@@ -1,28 +1,17 @@
 #include "text/visible_text.h"
 
 #include "runtime/text.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 
 namespace {
 
 constexpr char32_t lowestOfTwoBytes = 0x80;
-constexpr std::size_t longestHidden = 3; ///< bytes of the longest character that is written out
 
 bool isPlain(char c)
 {
     return (c >= ' ' && c <= '~') || c == '\t';
-}
-
-/// The code point of a character of at most three bytes; of a longer one some value past them.
-char32_t codePoint(std::string_view character)
-{
-    if (character.size() > longestHidden) return ~char32_t{0};
-    char32_t point = static_cast<unsigned char>(character.front());
-    if (character.size() > 1) point &= 0x7FU >> character.size();
-    for (const char next : character.substr(1))
-        point = point << 6 | (static_cast<unsigned char>(next) & 0x3FU);
-    return point;
 }
 
 /// Of the characters past ASCII.
@@ -65,16 +54,11 @@ void appendCharacter(std::string& target, std::string_view character, bool isUtf
         appendByte(target, lead);
         return;
     }
-    const char32_t point = codePoint(character);
+    const char32_t point = utf8CodePoint(character);
     if (point == 0x7F || actsUnseen(point))
         appendPoint(target, point);
     else
         target += character;
-}
-
-bool isContinuation(char c)
-{
-    return (static_cast<unsigned char>(c) & 0xC0U) == 0x80;
 }
 
 } // namespace
@@ -100,12 +84,4 @@ std::string visibleText(std::string_view text, LineEnds lineEnds)
     visible.reserve(text.size());
     appendVisible(visible, text, lineEnds);
     return visible;
-}
-
-std::string_view firstCharacters(std::string_view text, std::size_t count)
-{
-    std::size_t end = 0;
-    for (; end < text.size(); ++end)
-        if (!isContinuation(text[end]) && count-- == 0) break;
-    return text.substr(0, end);
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -20,6 +19,3 @@ std::string visibleText(std::string_view text, LineEnds lineEnds = LineEnds::sho
 
 /// Appends `visibleText` of a text.
 void appendVisible(std::string& target, std::string_view text, LineEnds lineEnds = LineEnds::shown);
-
-/// The first `count` code points of a text in UTF-8.
-std::string_view firstCharacters(std::string_view text, std::size_t count);

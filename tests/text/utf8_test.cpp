@@ -58,6 +58,22 @@ TEST(Utf8, PutsAReplacementForHalvesOfUtf16)
     EXPECT_EQ("a" + mark, utf8OfUtf16(std::string("a\0b", 3)));
 }
 
+TEST(FirstCharacters, CutsBetweenCharacters)
+{
+    EXPECT_EQ("caf\u00e9", firstCharacters("caf\u00e9 \u3053", 4));
+    EXPECT_EQ("caf", firstCharacters("caf\u00e9", 3));
+    EXPECT_EQ("caf\u00e9", firstCharacters("caf\u00e9", 9));
+    EXPECT_EQ("", firstCharacters("\u00e9", 0));
+}
+
+TEST(CharacterCount, CountsNoByteThatGoesOnWithACharacter)
+{
+    EXPECT_EQ(0U, characterCount(""));
+    EXPECT_EQ(4U, characterCount("caf\u00e9"));
+    EXPECT_EQ(3U, characterCount("\u3053\U0001F600a"));
+    EXPECT_EQ(2U, characterCount("\xE9\xE9")) << "bytes that begin a character and end none";
+}
+
 TEST(FoldCase, MakesNamesThatDifferInCaseAloneEqual)
 {
     EXPECT_EQ(foldCase("Größe Ébène Ωmega"), foldCase("größe éBÈNE ωMEGA"));

@@ -52,12 +52,4 @@ TEST(VisibleText, KeepsALineEndOnlyWhereItIsOne)
     EXPECT_EQ("a\n\\x0d\n", visibleText("a\n\r\n", LineEnds::kept));
 }
 
-TEST(FirstCharacters, CutsBetweenCharacters)
-{
-    EXPECT_EQ("caf\u00e9", firstCharacters("caf\u00e9 \u3053", 4));
-    EXPECT_EQ("caf", firstCharacters("caf\u00e9", 3));
-    EXPECT_EQ("caf\u00e9", firstCharacters("caf\u00e9", 9));
-    EXPECT_EQ("", firstCharacters("\u00e9", 0));
-}
-
 } // namespace

@@ -1,6 +1,7 @@
 #include "hosts/cli/terminal/progress_line.h"
 
 #include "system/terminal.h"
+#include "text/utf8.h"
 #include "text/visible_text.h"
 
 #include <algorithm>
