@@ -1,4 +1,3 @@
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -10,6 +9,8 @@
 
 #include "cabmaker/cabinet_maker.h"
 #include "runtime/run_time_error.h"
+#include "system/held_end_signals.h"
+#include "system/write_signals.h"
 #include "text/visible_text.h"
 
 namespace {
@@ -53,48 +54,17 @@ constexpr const char* help =
     "\n"
     "Exit status: 0 done, 1 the cabinet could not be made, 2 wrong usage.\n";
 
-/// Holds back the signals that end a program until `check` can end the work in good order.
-class Interruption {
-public:
-    Interruption()
-    {
-        sigemptyset(&signals_);
-        for (const int number : {SIGHUP, SIGINT, SIGTERM}) sigaddset(&signals_, number);
-        pthread_sigmask(SIG_BLOCK, &signals_, nullptr);
-        std::signal(SIGXFSZ, SIG_IGN); // a file past the limit is then an error with a text
-    }
-
-    /// Raises an error once such a signal has come.
-    void check()
-    {
-        const timespec atOnce{};
-        const int number = sigtimedwait(&signals_, nullptr, &atOnce);
-        if (number < 0) return;
-        received_ = number;
-        throw RunTimeError(runTimeErrors::deviceIo, "interrupted");
-    }
-
-    /// Lets the signal that has come, if any, do what it would have done.
-    void deliver() const
-    {
-        if (received_ == 0) return;
-        std::raise(received_);
-        pthread_sigmask(SIG_UNBLOCK, &signals_, nullptr);
-    }
-
-private:
-    sigset_t signals_{};
-    int received_ = 0;
-};
-
-int makeCabinet(const std::string& directivePath, Interruption& interruption)
+int makeCabinet(const std::string& directivePath, HeldEndSignals& interruptions)
 {
     const char* const drives = std::getenv("ORVAN_SITE_DRIVES");
     const cabmaker::MadeCabinet made = cabmaker::makeCabinet(
         directivePath, {.workingFolder = std::filesystem::current_path().string(),
                         .drives = drives != nullptr ? drives : "",
                         .threads = std::thread::hardware_concurrency(),
-                        .checkpoint = [&] { interruption.check(); }});
+                        .checkpoint = [&] {
+                            if (interruptions.came())
+                                throw RunTimeError(runTimeErrors::deviceIo, "interrupted");
+                        }});
     const std::string cabinets =
         made.cabinets == 1 ? "" : " in " + std::to_string(made.cabinets) + " cabinets";
     std::printf("%s: %zu files, %llu bytes packed into %llu%s\n", visibleText(made.path).c_str(),
@@ -105,17 +75,18 @@ int makeCabinet(const std::string& directivePath, Interruption& interruption)
 
 int run(const std::string& directivePath)
 {
-    Interruption interruption;
+    letWritesPastTheSizeLimitFail();
+    HeldEndSignals interruptions;
     std::string failure;
     try {
-        return makeCabinet(directivePath, interruption);
+        return makeCabinet(directivePath, interruptions);
     } catch (const std::bad_alloc&) {
         failure = "Out of memory";
     } catch (const std::exception& error) {
         failure = error.what();
     }
     std::fprintf(stderr, "cabmaker: %s\n", visibleText(failure).c_str());
-    interruption.deliver();
+    interruptions.letGo();
     return statusFailed;
 }
 

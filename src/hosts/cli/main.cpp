@@ -4,10 +4,10 @@
 #include "hosts/cli/terminal/output.h"
 #include "runtime/out_of_memory.h"
 #include "runtime/run_time_error.h"
+#include "system/write_signals.h"
 
 #include <CLI/CLI.hpp>
 
-#include <csignal>
 #include <cstdio>
 #include <exception>
 
@@ -63,8 +63,8 @@ int run(int argc, char** argv)
 int main(int argc, char** argv)
 {
     // A closed pipe and a file size limit are errors of a write, not the end of the program.
-    std::signal(SIGPIPE, SIG_IGN);
-    std::signal(SIGXFSZ, SIG_IGN);
+    letWritesToClosedPipesFail();
+    letWritesPastTheSizeLimitFail();
     endWhenOutOfMemory("orvandiag");
     try {
         return cli::run(argc, argv);
