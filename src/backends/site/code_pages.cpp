@@ -1,10 +1,9 @@
 #include "backends/site/code_pages.h"
 
-#include <cerrno>
+#include "backends/site/encoding_converter.h"
+
 #include <string>
 #include <vector>
-
-#include <iconv.h>
 
 namespace {
 
@@ -24,53 +23,28 @@ std::vector<std::string> namesOf(int number)
 /// What one byte of a code page is when it stands alone.
 enum class Meaning { character, nothing, partOfACharacter };
 
-/// Decodes the bytes of a code page one by one.
-class ByteDecoder {
-public:
-    explicit ByteDecoder(const std::string& name) : converter_(iconv_open("UTF-16LE", name.c_str()))
-    {}
-    ~ByteDecoder()
-    {
-        if (isKnown()) iconv_close(converter_);
-    }
-    ByteDecoder(const ByteDecoder&) = delete;
-    ByteDecoder& operator=(const ByteDecoder&) = delete;
-
-    bool isKnown() const { return converter_ != reinterpret_cast<iconv_t>(-1); }
-
-    /// Sets `character` where the byte is one.
-    Meaning decode(char byte, char16_t& character)
-    {
-        unsigned char units[8] = {};
-        char* to = reinterpret_cast<char*>(units);
-        std::size_t room = sizeof units;
-        char* from = &byte;
-        std::size_t left = 1;
-        iconv(converter_, nullptr, nullptr, nullptr, nullptr);
-        if (iconv(converter_, &from, &left, &to, &room) == failure)
-            return errno == EILSEQ ? Meaning::nothing : Meaning::partOfACharacter;
-        // A letter waits inside the converter for a mark that it may carry, until it is asked for.
-        iconv(converter_, nullptr, nullptr, &to, &room);
-        if (room != sizeof units - 2) return Meaning::partOfACharacter;
-        character = static_cast<char16_t>(units[0] | units[1] << 8);
-        return Meaning::character;
-    }
-
-private:
-    static constexpr auto failure = static_cast<std::size_t>(-1);
-
-    iconv_t converter_;
-};
+/// Sets `character` where the byte is one.
+Meaning decode(EncodingConverter& converter, char byte, char16_t& character)
+{
+    std::string units;
+    const auto result = converter.append(units, {&byte, 1});
+    if (result == EncodingConverter::Result::noCharacter) return Meaning::nothing;
+    if (result != EncodingConverter::Result::whole || units.size() != 2)
+        return Meaning::partOfACharacter;
+    character = static_cast<char16_t>(static_cast<unsigned char>(units[0]) |
+                                      static_cast<unsigned char>(units[1]) << 8);
+    return Meaning::character;
+}
 
 std::optional<CodePage> codePageNamed(const std::string& name)
 {
-    ByteDecoder decoder(name);
-    if (!decoder.isKnown()) return {};
+    EncodingConverter converter(name, "UTF-16LE");
+    if (!converter.isKnown()) return {};
     CodePage::Table table{};
     for (std::size_t byte = 0; byte < table.size(); ++byte) {
         const auto own = static_cast<char16_t>(byte);
         table[byte] = byte < 0xA0 ? own : replacement;
-        if (decoder.decode(static_cast<char>(byte), table[byte]) == Meaning::partOfACharacter)
+        if (decode(converter, static_cast<char>(byte), table[byte]) == Meaning::partOfACharacter)
             return {};
         if (byte < 0x80 && table[byte] != own) return {};
     }

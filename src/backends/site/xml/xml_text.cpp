@@ -1,12 +1,10 @@
 #include "backends/site/xml/xml_text.h"
 
+#include "backends/site/encoding_converter.h"
 #include "runtime/text.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-
-#include <iconv.h>
 
 namespace {
 
@@ -57,25 +55,9 @@ void skipBlanks(std::string_view& text)
 /// `bytes` in UTF-8; nothing when the encoding is unknown or the bytes do not fit it.
 std::optional<std::string> converted(std::string_view bytes, const std::string& encoding)
 {
-    const iconv_t converter = iconv_open("UTF-8", encoding.c_str());
-    if (converter == reinterpret_cast<iconv_t>(-1)) return {};
-    constexpr auto failure = static_cast<std::size_t>(-1);
-    std::array<char, 4096> part;
+    EncodingConverter converter(encoding, "UTF-8");
     std::string text;
-    char* from = const_cast<char*>(bytes.data()); // which is only read
-    std::size_t left = bytes.size();
-    bool fits = true;
-    for (bool atEnd = false; fits && !atEnd;) {
-        atEnd = left == 0;
-        char* to = part.data();
-        std::size_t room = part.size();
-        // At the end the converter is asked for what it still holds back.
-        fits = iconv(converter, atEnd ? nullptr : &from, &left, &to, &room) != failure ||
-               errno == E2BIG;
-        text.append(part.data(), part.size() - room);
-    }
-    iconv_close(converter);
-    if (!fits) return {};
+    if (converter.append(text, bytes) != EncodingConverter::Result::whole) return {};
     return text;
 }
 
