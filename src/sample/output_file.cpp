@@ -42,7 +42,8 @@ void writeFile(const fs::path& path, std::string_view bytes, Moment modified)
 std::string readFile(const fs::path& path)
 {
     std::ifstream stream(path, std::ios::binary);
-    if (!stream || fs::is_directory(path))
+    std::error_code none;
+    if (!stream || fs::is_directory(path, none))
         throw RunTimeError(runTimeErrors::fileNotFound,
                            "the installed data lack the file " + path.string());
     return {std::istreambuf_iterator<char>(stream), {}};

@@ -113,6 +113,12 @@ TEST_F(GatherCommand, RefusesWhatItDoesNotKnowAndChangesNothing)
         {"a destination in a missing folder",
          {"gather", "standard", "--to", (folder / "no/such/folder").string()},
          1},
+        {"a destination whose name is longer than a file system's",
+         {"gather", "standard", "--to", (folder / std::string(256, 'l')).string()},
+         1},
+        {"such a destination on the server's drive",
+         {"gather", "standard", "--to", "C:\\" + std::string(256, 'l')},
+         1},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.because);

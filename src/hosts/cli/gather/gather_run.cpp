@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <system_error>
 #include <thread>
 
 namespace cli {
@@ -86,8 +87,11 @@ void requireUsableDestination(OpenTool& tool, const std::string& destination)
                              "outside of it with --to");
     const fs::path folder = tool.machinePath(destination);
     std::error_code none;
-    if (fs::exists(folder, none)) {
-        if (!fs::is_directory(folder, none))
+    const fs::file_status status = fs::status(folder, none);
+    if (none == std::errc::filename_too_long)
+        throw CommandFailure("the destination " + folder.string() + " has too long a name");
+    if (fs::exists(status)) {
+        if (!fs::is_directory(status))
             throw CommandFailure("the destination " + folder.string() + " is not a folder");
         if (!mayWrite(folder.string()))
             throw CommandFailure("the destination " + folder.string() + " may not be written to");

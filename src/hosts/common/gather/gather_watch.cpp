@@ -4,14 +4,18 @@
 #include "hosts/common/gather/gather_report.h"
 #include "wizards/gather_progress.h"
 
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 GatherWatch::GatherWatch(ToolContext& tool, GatherReport& report, const ppgGatherLogs03Step& page,
                          MachinePath machinePath)
     : tool_(tool), report_(report), machinePath_(std::move(machinePath)),
       job_(gatherJobOf(page.job())), files_(tool_, job_, machinePath_),
-      troubles_(page.treeviewSteps,
-                [this] { return std::filesystem::is_directory(files_.folder()); })
+      troubles_(page.treeviewSteps, [this] {
+          std::error_code none;
+          return std::filesystem::is_directory(files_.folder(), none);
+      })
 {
     report_.forgetReadings();
     listener_.emplace(tool_, [this](const RunTimeError& error, std::string_view procName) {
