@@ -126,8 +126,8 @@ private:
     static void change(OpenTool& tool, SheetDriver& sheet, const std::string& language)
     {
         auto& list = sheet.control<ListBox>("lstAvailableLangs");
-        const auto place = std::find(list.items().begin(), list.items().end(), language);
-        list.chooseByPerson(static_cast<int>(place - list.items().begin()));
+        const auto found = std::find(list.items().begin(), list.items().end(), language);
+        list.chooseByPerson(static_cast<int>(found - list.items().begin()));
         sheet.apply();
         const std::string refusal = tool.registry().refusalOf("EventMessageFile");
         const auto sources = mdlLanguage::getEventLogKeys(tool.context());

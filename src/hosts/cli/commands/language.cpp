@@ -25,13 +25,13 @@ Codes offered(const Codes& codes)
     return codes.size() > 1 ? codes : Codes();
 }
 
-/// The place of a language in the about box's menu. Raises CommandFailure for one that it does not
+/// The index of a language in the about box's menu. Raises CommandFailure for one that it does not
 /// offer.
-int menuPlace(const Codes& codes, const std::string& wanted)
+int menuIndex(const Codes& codes, const std::string& wanted)
 {
     if (codes.empty() && equalIgnoringCase(wanted, english)) return 0;
-    for (std::size_t place = 0; place < codes.size(); ++place)
-        if (equalIgnoringCase(codes[place], wanted)) return static_cast<int>(place);
+    for (std::size_t index = 0; index < codes.size(); ++index)
+        if (equalIgnoringCase(codes[index], wanted)) return static_cast<int>(index);
     throw CommandFailure("no interface language " + wanted +
                          "; orvandiag language lists those beside the tool");
 }
@@ -66,13 +66,13 @@ public:
         OpenTool tool(options, code_.empty() ? ToolUse::look : ToolUse::change,
                       [this](OpenTool& opened) {
                           if (!code_.empty())
-                              menuPlace(offered(libraryCodes(opened.context())), code_);
+                              menuIndex(offered(libraryCodes(opened.context())), code_);
                       });
         frmAbout& box = tool.snapIn().showAbout();
         const Codes available = offered(tool.context().language.g_astrLanguages);
         tool.registry().forget();
         if (!code_.empty()) {
-            box.mnuLanguageList_Click(menuPlace(available, code_));
+            box.mnuLanguageList_Click(menuIndex(available, code_));
             if (!available.empty()) requireChosen(tool);
         }
         const std::int32_t current = tool.context().language.g_lngCurrentLanguage;

@@ -33,8 +33,8 @@ std::vector<LogFile> logFilesOf(OpenTool& tool, const std::string& process)
         view.select(*item);
         ListView& list = view.selectedScopePaneItem().resultView().list();
         std::vector<LogFile> files;
-        for (int place = 1; place <= list.itemCount(); ++place) {
-            const ListItem row = list.shown(place);
+        for (int position = 1; position <= list.itemCount(); ++position) {
+            const ListItem row = list.shown(position);
             files.push_back({row.subItem(2) == "x", std::string(row.subItem(3)),
                              std::string(row.subItem(4)),
                              static_cast<long long>(leadingNumber(row.subItem(5)))});

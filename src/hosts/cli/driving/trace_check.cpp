@@ -168,12 +168,12 @@ try {
     return 0;
 }
 
-/// What stands in the event log from a place on; nothing where it can't be read.
-std::string TraceCheck::eventLogFrom(std::int64_t place) const
+/// What stands in the event log from an offset on; nothing where it can't be read.
+std::string TraceCheck::eventLogFrom(std::int64_t offset) const
 try {
     const FileDescriptor log =
         tool_.site().paths().root().openFile(eventLog, forReading, runTimeErrors::fileNotFound);
-    goTo(log, static_cast<std::uint64_t>(place));
+    goTo(log, static_cast<std::uint64_t>(offset));
     return readWholeFile(log, runTimeErrors::fileNotFound);
 } catch (const RunTimeError&) {
     return {};

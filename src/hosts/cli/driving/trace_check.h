@@ -48,7 +48,7 @@ private:
     void compareEvents(std::vector<std::string>& wrong) const;
     std::vector<TraceEvent> newEvents() const;
     std::int64_t eventLogSize() const;
-    std::string eventLogFrom(std::int64_t place) const;
+    std::string eventLogFrom(std::int64_t offset) const;
 
     OpenTool& tool_;
     std::vector<FlagWords> present_;

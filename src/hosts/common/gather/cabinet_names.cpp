@@ -13,10 +13,10 @@ constexpr std::size_t placeOfCount = 28;
 constexpr std::size_t memberHead = 16; ///< before a member's name
 constexpr std::size_t longestName = 256;
 
-std::uint32_t number(std::string_view bytes, std::size_t place, std::size_t size)
+std::uint32_t number(std::string_view bytes, std::size_t offset, std::size_t size)
 {
     std::uint32_t value = 0;
-    while (size-- > 0) value = value << 8 | static_cast<unsigned char>(bytes[place + size]);
+    while (size-- > 0) value = value << 8 | static_cast<unsigned char>(bytes[offset + size]);
     return value;
 }
 

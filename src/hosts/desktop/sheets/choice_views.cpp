@@ -93,8 +93,8 @@ QStringList OptionsView::captions() const
 
 void OptionsView::showCaptions(const QStringList& marked)
 {
-    for (std::size_t place = 0; place < buttons_.size(); ++place)
-        buttons_[place]->setText(marked[static_cast<qsizetype>(place)]);
+    for (std::size_t index = 0; index < buttons_.size(); ++index)
+        buttons_[index]->setText(marked[static_cast<qsizetype>(index)]);
 }
 
 void OptionsView::render()

@@ -50,8 +50,8 @@ SheetDialog::SheetDialog(std::shared_ptr<OpenSheet> sheet, QWidget* parent)
     column->addWidget(notice_);
     column->addWidget(tabs_);
     column->addWidget(pages_, 1);
-    for (int place = 1; place <= sheet_->pageCount(); ++place)
-        tabs_->addTab(QString::fromStdString(sheet_->pageTitle(place)));
+    for (int position = 1; position <= sheet_->pageCount(); ++position)
+        tabs_->addTab(QString::fromStdString(sheet_->pageTitle(position)));
     tabs_->setVisible(sheet_->plainSheet() && sheet_->pageCount() > 1);
     makeButtons();
     auto* help = new QAction(this);
@@ -76,7 +76,7 @@ SheetDialog::~SheetDialog()
 {
     sheet_->observe(nullptr);
     // Views look at controls of the pages, so they go first.
-    for (const auto& [place, page] : shown_) delete page;
+    for (const auto& [position, page] : shown_) delete page;
 }
 
 void SheetDialog::makeButtons()
@@ -168,13 +168,13 @@ void SheetDialog::act(const std::function<void()>& what)
 
 void SheetDialog::showPage()
 {
-    const int place = sheet_->currentPlace();
-    if (place == 0 || sheet_->closed()) return;
-    PageWidget*& page = shown_[place];
+    const int position = sheet_->currentPlace();
+    if (position == 0 || sheet_->closed()) return;
+    PageWidget*& page = shown_[position];
     if (!page) {
         const bool wizard = sheet_->wizard() != nullptr;
         page = new PageWidget(
-            sheet_->page(place), wizard, wizard ? wizardCaptions() : plainCaptions(),
+            sheet_->page(position), wizard, wizard ? wizardCaptions() : plainCaptions(),
             [this](const std::function<void()>& what) { act(what); }, pages_);
         page->onSaid = [this](const LiveSentence& sentence) { say(sentence); };
         pages_->addWidget(page);
@@ -183,9 +183,9 @@ void SheetDialog::showPage()
     // What was said belongs to the page that is left.
     if (pages_->currentWidget() != page) say({});
     pages_->setCurrentWidget(page);
-    tabs_->setCurrentIndex(place - 1);
-    setWindowTitle(QString::fromStdString(sheet_->pageTitle(place)));
-    help_->setVisible(sheet_->hasHelpButton(place));
+    tabs_->setCurrentIndex(position - 1);
+    setWindowTitle(QString::fromStdString(sheet_->pageTitle(position)));
+    help_->setVisible(sheet_->hasHelpButton(position));
     showButtons();
     runTimers();
     if (page->focusFirst()) return;

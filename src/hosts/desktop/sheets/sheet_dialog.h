@@ -84,7 +84,7 @@ private:
     LiveSentence always_;
     QTabBar* tabs_ = nullptr;
     QStackedWidget* pages_ = nullptr;
-    std::map<int, PageWidget*> shown_; ///< by place
+    std::map<int, PageWidget*> shown_; ///< by position
     std::map<Timer*, QTimer*> timers_;
     QPushButton* back_ = nullptr;
     QPushButton* next_ = nullptr;

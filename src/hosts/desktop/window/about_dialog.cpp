@@ -97,8 +97,8 @@ void AboutDialog::popUpLanguages()
             ->setData(static_cast<int>(index));
     const QAction* chosen = menu.exec(language_->mapToGlobal(QPoint(0, language_->height())));
     if (!chosen) return;
-    const auto choose = [this, place = chosen->data().toInt()] {
-        about_.mnuLanguageList_Click(place);
+    const auto choose = [this, index = chosen->data().toInt()] {
+        about_.mnuLanguageList_Click(index);
     };
     aroundChange ? aroundChange(choose) : choose();
 }
