@@ -305,6 +305,8 @@ FileDescriptor RootFolder::openToPassOn() const
 std::optional<FileFacts> RootFolder::facts(const std::string& path) const
 {
     struct stat record {};
+    // Of the folder that is open, also where the user may not search it.
+    if (path.empty() && ::fstat(folder_->get(), &record) == 0) return factsOf(record);
     // A single name that is no link can't lead anywhere else.
     if (isSingleName(path)) {
         if (::fstatat(folder_->get(), path.c_str(), &record, AT_SYMLINK_NOFOLLOW) == 0) {
