@@ -8,6 +8,7 @@
 #include <optional>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -61,6 +62,19 @@ TEST(ResultFolder, KnowsWhetherItsNameStillLeadsToIt)
     folder.makeFolder("other");
     fs::create_symlink("other", folder / "to");
     EXPECT_FALSE(results.isAt(folder / "to"));
+}
+
+TEST(ResultFolder, KnowsItselfWhereNobodyMaySearchIt)
+{
+    if (::geteuid() != 0) GTEST_SKIP() << "needs two persons";
+    const TemporaryFolder folder;
+    folder.makeFolder("to");
+    fs::permissions(folder.path(), fs::perms(0755));
+    ASSERT_EQ(0, ::chown((folder / "to").c_str(), 65534, 65534));
+    fs::permissions(folder / "to", fs::perms(0600));
+    ASSERT_EQ(0, ::seteuid(65534));
+    EXPECT_TRUE(ResultFolder(folder / "to").isAt(folder / "to"));
+    ASSERT_EQ(0, ::seteuid(0));
 }
 
 TEST(ResultFolder, SweepsForWhoHasTheTurnByAnotherObjectAndKeepsNone)
