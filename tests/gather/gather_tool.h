@@ -4,7 +4,7 @@
 #include "controls/progress_bar.h"
 #include "controls/tree_view.h"
 #include "gather/cancel.h"
-#include "gather/diagnostic_copy.h"
+#include "gather/importers/diagnostic_copy.h"
 #include "gather/pipeline.h"
 #include "support/test_tool.h"
 

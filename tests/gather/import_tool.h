@@ -1,8 +1,8 @@
 #pragma once
 
-#include "gather/data_import.h"
-#include "gather/diagnostic_import.h"
 #include "gather/gather_tool.h"
+#include "gather/importers/data_import.h"
+#include "gather/importers/diagnostic_import.h"
 
 #include <initializer_list>
 #include <memory>

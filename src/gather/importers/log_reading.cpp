@@ -1,4 +1,4 @@
-#include "gather/log_reading.h"
+#include "gather/importers/log_reading.h"
 
 #include "controls/label.h"
 #include "controls/progress_bar.h"

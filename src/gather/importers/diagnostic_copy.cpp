@@ -1,8 +1,8 @@
-#include "gather/diagnostic_copy.h"
+#include "gather/importers/diagnostic_copy.h"
 
 #include "core/error_trap.h"
-#include "gather/log_reading.h"
-#include "gather/malformed_line.h"
+#include "gather/importers/log_reading.h"
+#include "gather/importers/malformed_line.h"
 #include "gather/object_reference.h"
 #include "logreader/format_line.h"
 #include "logreader/log_file_names.h"

@@ -1,4 +1,4 @@
-#include "gather/trace_row.h"
+#include "gather/importers/trace_row.h"
 
 #include "core/error_trap.h"
 #include "logreader/diagnostic_line.h"

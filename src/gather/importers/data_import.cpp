@@ -1,9 +1,9 @@
-#include "gather/data_import.h"
+#include "gather/importers/data_import.h"
 
 #include "core/utility.h"
-#include "gather/frame_reading.h"
-#include "gather/malformed_line.h"
-#include "gather/trace_row.h"
+#include "gather/importers/frame_reading.h"
+#include "gather/importers/malformed_line.h"
+#include "gather/importers/trace_row.h"
 #include "logreader/parse_data.h"
 
 namespace {

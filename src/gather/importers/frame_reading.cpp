@@ -1,4 +1,4 @@
-#include "gather/frame_reading.h"
+#include "gather/importers/frame_reading.h"
 
 void FrameReading::begin(const LogReading& reading)
 {

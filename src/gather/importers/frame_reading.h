@@ -1,7 +1,7 @@
 #pragma once
 
-#include "gather/log_reading.h"
-#include "gather/row_dates.h"
+#include "gather/importers/log_reading.h"
+#include "gather/importers/row_dates.h"
 
 /// Where a line lies to the time frame of a gather.
 enum class FramePlace {

@@ -1,4 +1,4 @@
-#include "gather/malformed_line.h"
+#include "gather/importers/malformed_line.h"
 
 Resume afterErrorAtLine(ToolContext& tool, const std::string& line, const RunTimeError& error)
 {

@@ -1,4 +1,4 @@
-#include "gather/event_log_capture.h"
+#include "gather/importers/event_log_capture.h"
 
 #include "controls/progress_bar.h"
 #include "core/error_trap.h"

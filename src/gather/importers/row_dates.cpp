@@ -1,4 +1,4 @@
-#include "gather/row_dates.h"
+#include "gather/importers/row_dates.h"
 
 #include "core/utility.h"
 #include "runtime/text.h"
