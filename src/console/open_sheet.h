@@ -63,7 +63,7 @@ public:
     bool hasHelpButton(int position) const { return slot(position).helpButton; }
 
     /// 0 before the sheet is shown.
-    int currentPlace() const { return current_; }
+    int currentPosition() const { return current_; }
     SheetPage& currentPage() const { return page(current_); }
 
     /// The current page's timers; none when the sheet is closed. The host calls `tick` when one's

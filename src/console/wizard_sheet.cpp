@@ -19,7 +19,7 @@ bool WizardSheet::back()
 {
     const Work work{*this};
     if (!canGoBack()) return false;
-    const int left = currentPlace();
+    const int left = currentPosition();
     int nextPage = 0;
     if (IWizardPage* page = currentPage().wizardPage()) page->IWizardPage_Back(nextPage);
     go(nextPage, left - 1);
@@ -30,7 +30,7 @@ bool WizardSheet::next()
 {
     const Work work{*this};
     if (!canGoNext()) return false;
-    const int left = currentPlace();
+    const int left = currentPosition();
     int nextPage = 0;
     if (IWizardPage* page = currentPage().wizardPage()) page->IWizardPage_Next(nextPage);
     go(nextPage, left + 1);

@@ -29,10 +29,10 @@ TEST_F(PlainSheetTest, InitialisesItsPagesAndActivatesNone)
 TEST_F(PlainSheetTest, ShowsTheTabThatThePersonPicks)
 {
     sheet->selectPage(2);
-    EXPECT_EQ(2, sheet->currentPlace());
+    EXPECT_EQ(2, sheet->currentPosition());
     EXPECT_EQ("shows second", heard.back());
     EXPECT_EQ(9, errorNumberOf([&] { sheet->selectPage(3); }));
-    EXPECT_EQ(2, sheet->currentPlace());
+    EXPECT_EQ(2, sheet->currentPosition());
 }
 
 TEST_F(PlainSheetTest, OffersApplyOnceAPageHasChanged)

@@ -102,7 +102,7 @@ TEST_F(WizardSheetTest, AButtonThatIsDisabledOrNotThereDoesNothing)
         heard.clear();
         EXPECT_FALSE((*sheet.*c.press)());
         EXPECT_EQ(Heard{}, heard);
-        EXPECT_EQ(2, sheet->currentPlace());
+        EXPECT_EQ(2, sheet->currentPosition());
     }
 }
 
@@ -112,9 +112,9 @@ TEST_F(WizardSheetTest, APageMayNameThePageToShow)
     last.onBack = [](int& page) { page = 2; };
     showAt(1);
     sheet->next();
-    EXPECT_EQ(4, sheet->currentPlace());
+    EXPECT_EQ(4, sheet->currentPosition());
     sheet->back();
-    EXPECT_EQ(2, sheet->currentPlace());
+    EXPECT_EQ(2, sheet->currentPosition());
 }
 
 TEST_F(WizardSheetTest, APageThatNamesItselfIsActivatedAnew)
@@ -132,7 +132,7 @@ TEST_F(WizardSheetTest, APlaceWithoutAPageRaises9AndTheWizardStays)
         welcome.onNext = [place](int& page) { page = place; };
         sheet->show();
         EXPECT_EQ(9, errorNumberOf([&] { sheet->next(); }));
-        EXPECT_EQ(1, sheet->currentPlace());
+        EXPECT_EQ(1, sheet->currentPosition());
     }
 }
 
@@ -148,7 +148,7 @@ TEST_F(WizardSheetTest, BackOnTheFirstPageAndNextOnTheLastStayWhereTheyAre)
     showAt(4);
     EXPECT_TRUE(sheet->next());
     EXPECT_EQ(Heard{"last next"}, heard);
-    EXPECT_EQ(4, sheet->currentPlace());
+    EXPECT_EQ(4, sheet->currentPosition());
 }
 
 TEST_F(WizardSheetTest, FinishEndsTheSheetBehindThePagesWork)
@@ -232,13 +232,13 @@ TEST_F(WizardSheetTest, PressNextPressesNextWhereItIsEnabled)
     showAt(2);
     sheet->SetWizardButtons(true, wizardButton::nextDisabled);
     first.sheet->pressNext();
-    EXPECT_EQ(2, sheet->currentPlace());
+    EXPECT_EQ(2, sheet->currentPosition());
     sheet->SetWizardButtons(true, wizardButton::nextEnabled);
     first.sheet->pressNext();
-    EXPECT_EQ(3, sheet->currentPlace());
+    EXPECT_EQ(3, sheet->currentPosition());
     sheet->SetWizardButtons(true, wizardButton::finishEnabled);
     first.sheet->pressNext();
-    EXPECT_EQ(3, sheet->currentPlace());
+    EXPECT_EQ(3, sheet->currentPosition());
 }
 
 TEST_F(WizardSheetTest, BackDuringAPagesWorkShowsThePageBeforeAndTheWorkGoesOn)
@@ -317,7 +317,7 @@ TEST_F(WizardSheetTest, AnErrorOfAHandlerComesOutAndTheSheetStaysUsable)
         c.arrange(fresh);
         fresh.showAt(2);
         EXPECT_EQ(5, errorNumberOf([&] { c.act(*fresh.sheet); }));
-        EXPECT_EQ(c.place, fresh.sheet->currentPlace());
+        EXPECT_EQ(c.place, fresh.sheet->currentPosition());
         EXPECT_EQ(c.closed, fresh.sheet->closed());
         EXPECT_FALSE(fresh.sheet->atWork());
     }

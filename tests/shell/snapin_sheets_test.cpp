@@ -101,7 +101,7 @@ struct SnapinSheets : ShellTest {
         OpenSheet& sheet = *sheets().openSheets().front();
         EXPECT_EQ(expected.title, sheet.title());
         EXPECT_EQ(expected.type == SheetType::wizard, sheet.wizard() != nullptr);
-        EXPECT_EQ(1, sheet.currentPlace());
+        EXPECT_EQ(1, sheet.currentPosition());
         Texts pages;
         for (int place = 1; place <= sheet.pageCount(); ++place) {
             pages.push_back(sheet.page(place).name());

@@ -87,7 +87,7 @@ TEST_F(AllFailing, AGatherRunGoesOnPastAllErrorsInEachWay)
         EXPECT_NO_THROW(sheet->show());
         options.click(option);
         EXPECT_NO_THROW(sheet->next());
-        while (sheet->currentPlace() < 4) {
+        while (sheet->currentPosition() < 4) {
             sheet->SetWizardButtons(true, wizardButton::nextEnabled);
             EXPECT_NO_THROW(sheet->next());
         }

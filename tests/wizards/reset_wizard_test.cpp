@@ -80,7 +80,7 @@ TEST_F(ResetWizard, BackIsEnabledByTheClickAndLeadsNowhere)
     sheet->show();
     page.chkDisableAllTraces.click();
     EXPECT_TRUE(sheet->back());
-    EXPECT_EQ(1, sheet->currentPlace());
+    EXPECT_EQ(1, sheet->currentPosition());
     EXPECT_TRUE(sheet->canFinish());
 }
 

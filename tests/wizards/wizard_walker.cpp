@@ -48,7 +48,7 @@ void WizardWalker::open()
     sheet_ = wizard_.make();
     work_ = wizard_.workDone();
     sheet_->show();
-    EXPECT_EQ(1, sheet_->currentPlace());
+    EXPECT_EQ(1, sheet_->currentPosition());
     EXPECT_FALSE(sheet_->canGoBack()) << "the first page has none before it";
     expectArrival();
     expectWork(0);
@@ -70,7 +70,7 @@ void WizardWalker::press(Press press)
 {
     trail_.back() += std::string(" ") + nameOf(press);
     const bool enabled = enabledOf(*sheet_, press);
-    const int place = sheet_->currentPlace();
+    const int place = sheet_->currentPosition();
     const WizardButtons before = sheet_->buttons();
     const bool works = enabled && wizard_.works(sheet_->currentPage(), press);
 
@@ -78,7 +78,7 @@ void WizardWalker::press(Press press)
     expectWork(works ? 1 : 0);
     if (enabled && press == Press::finish) {
         EXPECT_TRUE(sheet_->closed());
-    } else if (sheet_->currentPlace() != place) {
+    } else if (sheet_->currentPosition() != place) {
         EXPECT_TRUE(enabled);
         expectArrival();
     } else {
@@ -89,7 +89,7 @@ void WizardWalker::press(Press press)
 void WizardWalker::use(Control& control)
 {
     trail_.back() += " uses a control";
-    const int place = sheet_->currentPlace();
+    const int place = sheet_->currentPosition();
     if (auto* tree = dynamic_cast<TreeView*>(&control)) {
         if (tree->count() == 0) return;
         TreeNode& node = tree->item(1 + below(tree->count()));
@@ -107,7 +107,7 @@ void WizardWalker::use(Control& control)
     } else {
         enter(control);
     }
-    EXPECT_EQ(place, sheet_->currentPlace()) << "no control leaves the page";
+    EXPECT_EQ(place, sheet_->currentPosition()) << "no control leaves the page";
     expectWork(0);
 }
 
@@ -131,10 +131,10 @@ void WizardWalker::tickTimer()
     trail_.back() += " ticks";
     const auto timers = sheet_->timers();
     if (timers.empty()) return;
-    const int place = sheet_->currentPlace();
+    const int place = sheet_->currentPosition();
     sheet_->tick(*timers[static_cast<std::size_t>(below(static_cast<int>(timers.size())))]);
     work_ = wizard_.workDone();
-    if (!sheet_->closed() && sheet_->currentPlace() != place) expectArrival();
+    if (!sheet_->closed() && sheet_->currentPosition() != place) expectArrival();
 }
 
 void WizardWalker::cancel()

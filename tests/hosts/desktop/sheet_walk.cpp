@@ -128,7 +128,7 @@ double SheetWalk::gathered()
 
 void SheetWalk::waitFor(int place)
 {
-    const auto there = [&] { return dialog_ && dialog_->sheet().currentPlace() == place; };
+    const auto there = [&] { return dialog_ && dialog_->sheet().currentPosition() == place; };
     if (!QTest::qWaitFor(there, patience)) throw std::runtime_error("the page never came");
     settle();
 }

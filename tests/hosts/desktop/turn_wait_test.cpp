@@ -147,7 +147,7 @@ TEST_F(TurnWait, WhoLooksOrGathersWaitsForNobody)
     shown.clickCard("5");
     person::clickButton(shown.sheet(), "Select logs");
     person::clickButton(shown.sheet(), "Next >");
-    EXPECT_EQ(2, shown.sheet().sheet().currentPlace());
+    EXPECT_EQ(2, shown.sheet().sheet().currentPosition());
     person::press(Qt::Key_Escape);
     EXPECT_LT(clock.elapsed(), 5000);
 }

@@ -61,10 +61,10 @@ SheetDialog::SheetDialog(std::shared_ptr<OpenSheet> sheet, QWidget* parent)
     addAction(help);
     sheet_->observe(this);
     connect(tabs_, &QTabBar::currentChanged, this, [this](int tab) {
-        if (sheet_->plainSheet() && tab + 1 != sheet_->currentPlace())
+        if (sheet_->plainSheet() && tab + 1 != sheet_->currentPosition())
             act([&] {
                 if (finishEditing()) sheet_->plainSheet()->selectPage(tab + 1);
-                tabs_->setCurrentIndex(sheet_->currentPlace() - 1);
+                tabs_->setCurrentIndex(sheet_->currentPosition() - 1);
             });
     });
     showPage();
@@ -142,7 +142,7 @@ void SheetDialog::alwaysSay(LiveSentence sentence)
 
 bool SheetDialog::finishEditing()
 {
-    const auto page = shown_.find(sheet_->currentPlace());
+    const auto page = shown_.find(sheet_->currentPosition());
     return page == shown_.end() || page->second->finishEditing();
 }
 
@@ -168,7 +168,7 @@ void SheetDialog::act(const std::function<void()>& what)
 
 void SheetDialog::showPage()
 {
-    const int position = sheet_->currentPlace();
+    const int position = sheet_->currentPosition();
     if (position == 0 || sheet_->closed()) return;
     PageWidget*& page = shown_[position];
     if (!page) {

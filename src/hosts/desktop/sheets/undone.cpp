@@ -37,7 +37,7 @@ constexpr std::string_view doingRoutines[] = {
 /// The space for logs as the person typed it, where that is no number; else nothing.
 std::optional<QString> wrongMegabytes(const OpenSheet* sheet)
 {
-    if (!sheet || sheet->currentPlace() == 0) return std::nullopt;
+    if (!sheet || sheet->currentPosition() == 0) return std::nullopt;
     const auto* space =
         dynamic_cast<const ComboBox*>(sheet->currentPage().control("comboMaxSpace"));
     if (!space) return std::nullopt;

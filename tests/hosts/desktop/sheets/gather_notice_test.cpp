@@ -173,7 +173,7 @@ TEST_F(GatherTold, ACancelAndWhatWasKeptAreSaidInTheLanguage)
         auto* sheet = &shown.sheet();
         person::press(Qt::Key_Return);
         // Behind the first painting of the page at work.
-        ASSERT_TRUE(waitUntil([&] { return sheet->sheet().currentPlace() == 4; }));
+        ASSERT_TRUE(waitUntil([&] { return sheet->sheet().currentPosition() == 4; }));
         bool cancelled = false;
         std::function<void()> cancelWhenAtWork = [&] {
             if (!shown.pane().sheetAtWork())

@@ -49,7 +49,7 @@ struct Pickers : testing::Test {
         EXPECT_TRUE(waitUntil([&] { return !next.isDown(); }));
         settle();
     }
-    int place() { return shown.sheet->currentPlace(); }
+    int place() { return shown.sheet->currentPosition(); }
 
     ShownSheet<WizardSheet> shown{2};
     int changes = 0;

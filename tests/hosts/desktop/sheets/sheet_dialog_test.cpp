@@ -24,11 +24,11 @@ TEST(SheetDialog, AWizardGoesForthAndBackAndFinishes)
     EXPECT_EQ(QStringLiteral("Page title"), shown.dialog->windowTitle());
     EXPECT_FALSE(shown.push("< Back").isEnabled());
     shown.push("Next >").click();
-    EXPECT_EQ(2, shown.sheet->currentPlace());
+    EXPECT_EQ(2, shown.sheet->currentPosition());
     EXPECT_TRUE(shown.push("Finish").isVisible());
     EXPECT_FALSE(shown.push("Next >").isVisible());
     shown.push("< Back").click();
-    EXPECT_EQ(1, shown.sheet->currentPlace());
+    EXPECT_EQ(1, shown.sheet->currentPosition());
     shown.push("Next >").click();
     shown.push("Finish").click();
     EXPECT_TRUE(shown.sheet->closed());
