@@ -29,7 +29,8 @@ trap 'rm -rf "$work" 2>/dev/null' EXIT # mmdebstrap too removes what it made
 chmod 755 "$work" # in a user namespace the hooks are somebody else
 # Whoever runs this may be another one than the folder's owner, as in a container.
 git config --file "$work/git" safe.directory '*'
-GIT_CONFIG_GLOBAL=$work/git git clone --quiet --no-hardlinks . "$work/orvandiag"
+GIT_CONFIG_GLOBAL=$work/git git clone --quiet --no-hardlinks . "$work/orvandiag" ||
+  cannot "this folder is no clone of the project"
 cp "$inside" scripts/fresh_machine/prepare.sh "$work"
 mkdir "$work/packages"
 if [ "$mode" = package ]; then

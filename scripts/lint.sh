@@ -4,7 +4,21 @@
 # Leaves out the names of files that are gone.
 existing() { while IFS= read -r file; do [ ! -f "$file" ] || printf '%s\n' "$file"; done; }
 
-own_files() { git ls-files --cached --others --exclude-standard "$@" | sort -u | existing; }
+# Whoever runs this may be another one than the folder's owner, as in a container.
+own_git() { git -c safe.directory='*' "$@" 2>/dev/null; }
+
+# own_files PATTERN...: the project's own, such as 'src/*.cpp'. A folder that git does not know, as
+# one from an archive, holds nothing else in these.
+own_files() {
+  if own_git rev-parse --git-dir >/dev/null; then
+    own_git ls-files --cached --others --exclude-standard "$@" | sort -u | existing
+  else
+    local pattern
+    for pattern; do
+      find benchmarks fuzz src tests -path "${pattern/#\*/*/*}" -not -path '*/node_modules/*'
+    done | sort -u
+  fi
+}
 
 # Every source and header is as clang-format writes it.
 check_format() {
@@ -17,17 +31,19 @@ check_format() {
 base_commit() {
   local main base
   for main in '@{upstream}' origin/main main; do
-    base=$(git merge-base HEAD "$main" 2>/dev/null) || continue
-    [ "$base" = "$(git rev-parse HEAD)" ] || { echo "$base"; return; }
+    base=$(own_git merge-base HEAD "$main") || continue
+    [ "$base" = "$(own_git rev-parse HEAD)" ] || { echo "$base"; return; }
   done
-  git rev-parse --quiet --verify HEAD~1 || git rev-parse HEAD
+  own_git rev-parse --quiet --verify HEAD~1 || own_git rev-parse HEAD
 }
 
-# The sources of src/ that changed since then, and those beside a header that did.
+# The sources of src/ that changed since then, and those beside a header that did; none where git
+# does not know the folder.
 changed_sources() {
+  own_git rev-parse --git-dir >/dev/null || return 0
   {
-    git diff --name-only "$(base_commit)" -- 'src/*.cpp' 'src/*.h' | sed 's/\.h$/.cpp/'
-    git ls-files --others --exclude-standard 'src/*.cpp'
+    own_git diff --name-only "$(base_commit)" -- 'src/*.cpp' 'src/*.h' | sed 's/\.h$/.cpp/'
+    own_git ls-files --others --exclude-standard 'src/*.cpp'
   } | sort -u | existing
 }
 
