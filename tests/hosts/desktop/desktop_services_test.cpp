@@ -5,6 +5,7 @@
 #include "support/temporary_folder.h"
 
 #include <QAbstractItemView>
+#include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -38,6 +39,7 @@ struct FolderPicker : testing::Test {
         desktop.setWindow(&window);
         person::answerNextDialog([&](QWidget& dialog) {
             auto& picker = dynamic_cast<QFileDialog&>(dialog);
+            picker.setDirectory(QDir::current()); // not where a dialog before it was left
             act(picker, *picker.findChild<QLineEdit*>(QStringLiteral("fileNameEdit")));
             if (dialog.isVisible()) picker.reject();
         });
