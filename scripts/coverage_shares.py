@@ -5,7 +5,7 @@ import sys
 
 # The folders below src/ that use the standard library alone.
 CORE = {
-    "runtime", "text", "system", "platform", "controls", "console", "core", "server", "logreader",
+    "runtime", "text", "tracelines", "platform", "controls", "console", "core", "server", "logreader",
     "traces", "gather", "wizards", "settings", "shell",
 }
 

@@ -211,6 +211,31 @@ TEST_F(TraceResults, AComponentWithoutLevelsEndsTheListAndThatIsTold)
     EXPECT_EQ(words, sql("SELECT * FROM vw_LoggerDiagnosticGrid ORDER BY Name"));
 }
 
+TEST_F(TraceResults, LevelsAreNotTurnedOffForWantOfTheirTexts)
+{
+    const fs::path catalogue =
+        drive("KelmaOrvan/GuiResources/Resources/ENU/DiagnosticGrids_ENU.xml");
+    const std::string text = read(catalogue);
+    const std::string words = sql("SELECT * FROM vw_LoggerDiagnosticGrid ORDER BY Name");
+    for (const char* wrong : {"", "<DiagnosticGrids>", "<Other/>", "missing"}) {
+        SCOPED_TRACE(wrong);
+        write(catalogue, wrong);
+        if (wrong == std::string("missing")) fs::remove(catalogue);
+        const Outcome set = run({"micro", "set", "--on", "AddressBook:1"});
+        EXPECT_EQ(1, set.status);
+        EXPECT_EQ("orvandiag: no level is changed, as no level texts can be read from "
+                  "C:\\KelmaOrvan\\GuiResources\\Resources\\ENU\\DiagnosticGrids_ENU.xml: levels "
+                  "that are on would be turned off\n",
+                  set.err);
+        EXPECT_EQ(words, sql("SELECT * FROM vw_LoggerDiagnosticGrid ORDER BY Name"));
+        const Outcome listed = run({"micro", "AddressBook"});
+        EXPECT_EQ(0, listed.status);
+        EXPECT_THAT(listed.err, HasSubstr("no level texts can be read from C:\\"));
+    }
+    write(catalogue, text);
+    EXPECT_EQ(0, run({"micro", "set", "--on", "AddressBook:1"}).status);
+}
+
 TEST_F(TraceResults, AListThatTheDatabaseCutsSaysWhyInOneLine)
 {
     sql("DROP VIEW vw_LoggerDiagnosticGrid; CREATE VIEW vw_LoggerDiagnosticGrid (Name, ObjectId, "

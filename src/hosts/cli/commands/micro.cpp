@@ -13,6 +13,8 @@
 #include "shell/snapin_names.h"
 #include "text/visible_text.h"
 
+#include <memory>
+
 namespace cli {
 
 namespace {
@@ -101,6 +103,34 @@ std::string whereTheListEnds(const TreeView& tree)
            (last.child() ? "" : ", which has no levels in the catalogue of level texts");
 }
 
+/// Levels without texts are not shown, and what the page does not show it turns off. Raises
+/// CommandFailure.
+void requireLevelTexts(OpenTool& tool)
+{
+    if (const auto file = knownNames::unreadCatalogue(tool))
+        throw CommandFailure("no level is changed, as no level texts can be read from " + *file +
+                             ": levels that are on would be turned off");
+}
+
+/// Opens the wizard on the page of the levels. Raises CommandFailure when the level texts or the
+/// flags of a component can't be read: the page shows its levels off then, and would turn them off.
+std::unique_ptr<WizardDriver> wizardOfLevels(OpenTool& tool)
+{
+    std::string refusal;
+    const TrappedErrorListener listener(
+        tool.context(), [&](const RunTimeError& error, std::string_view procName) {
+            if (refusal.empty() && procName == "[mdlOrvanDatabase]getFlags")
+                refusal = error.description();
+        });
+    auto wizard = std::make_unique<WizardDriver>(tool, snapinTask::configureMicroTraces);
+    wizard->next();
+    requireLevelTexts(tool);
+    if (!refusal.empty())
+        throw CommandFailure("no level is changed, as the levels that are on can't be read: " +
+                             refusal);
+    return wizard;
+}
+
 /// Raises CommandFailure for a level that the wizard does not show.
 TreeNode& levelNode(const TreeView& tree, const LevelName& wanted)
 {
@@ -170,8 +200,9 @@ private:
     static void requireLevel(OpenTool& tool, const LevelName& wanted)
     {
         requireComponent(tool, wanted.component);
-        if (!knownNames::showsLevel(tool, wanted.component, wanted.level))
-            throw noSuchLevel(wanted);
+        const bool shown = knownNames::showsLevel(tool, wanted.component, wanted.level);
+        requireLevelTexts(tool);
+        if (!shown) throw noSuchLevel(wanted);
     }
 
     void list(OpenTool& tool, Output& output) const
@@ -189,6 +220,9 @@ private:
             WizardDriver wizard(tool, snapinTask::configureMicroTraces);
             wizard.next();
             const auto& tree = wizard.control<TreeView>(treeName);
+            if (const auto file = knownNames::unreadCatalogue(tool))
+                output.message("no level texts can be read from " + *file +
+                               ": no levels past 1 are listed");
             if (!tree.visible())
                 output.message("not every component is listed: " + whereTheListEnds(tree) +
                                refusal);
@@ -227,8 +261,8 @@ private:
         std::vector<LevelName> staying;
         if (!off.empty()) staying = defaultLevels(tool.context().g_connection, off);
         {
-            WizardDriver wizard(tool, snapinTask::configureMicroTraces);
-            wizard.next();
+            const auto opened = wizardOfLevels(tool);
+            WizardDriver& wizard = *opened;
             auto& tree = wizard.control<TreeView>(treeName);
             if (!tree.visible())
                 throw CommandFailure("no level can be changed: " + whereTheListEnds(tree));

@@ -74,6 +74,11 @@ std::string catalogueFile(ToolContext& context)
     return mdlDiagnosticGrids::cataloguePath(folder, "ENU");
 }
 
+bool holdsLevelTexts(const XmlDocument* catalogue)
+{
+    return catalogue && catalogue->selectSingleNode("DiagnosticGrids/DiagnosticGrid");
+}
+
 } // namespace
 
 std::vector<knownNames::ShownTrace> knownNames::shownTraces(const XmlDocument& catalogue)
@@ -121,6 +126,17 @@ bool knownNames::hasComponent(OpenTool& tool, const std::string& component)
     } catch (const RunTimeError&) {
         return true;
     }
+}
+
+std::optional<std::string> knownNames::unreadCatalogue(OpenTool& tool)
+{
+    ToolContext& context = tool.context();
+    if (holdsLevelTexts(context.g_domDiagnosticGrids.get())) return std::nullopt;
+    std::string file = catalogueFile(context);
+    // The server's folder may end with the separator that the tool puts behind it.
+    if (const auto doubled = file.find("\\\\", 1); doubled != std::string::npos)
+        file.erase(doubled, 1);
+    return file;
 }
 
 bool knownNames::showsLevel(OpenTool& tool, const std::string& component, int level)

@@ -4,6 +4,7 @@
 
 #include "platform/xml.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,6 +33,11 @@ MacroTraces macroTraces(OpenTool& tool);
 /// Whether the diagnostic grid has a component. A database that can't be asked is taken to have it:
 /// that is for the command to tell.
 bool hasComponent(OpenTool& tool, const std::string& component);
+
+/// The path of the catalogue of level texts where the one that the tool holds tells of no
+/// component, as it is missing or can't be read; absent where it does. To be asked once the tool
+/// holds one: after `showsLevel`, or after its start.
+std::optional<std::string> unreadCatalogue(OpenTool& tool);
 
 /// Whether the catalogue of level texts has a level that is more than a placeholder. The catalogue
 /// that is looked at is the one that the tool starts with.
