@@ -1,0 +1,88 @@
+# What building for Windows takes. To be sourced in the project's folder, behind setup.sh.
+
+windows_packages=(
+  dpkg-dev g++-mingw-w64-x86-64-posix googletest libz-mingw-w64-dev tclsh wine64
+)
+
+# The libraries that mingw-w64 has no package for, from Debian's own sources of them.
+windows_sources=(libxml2 sqlite3)
+windows_libraries=build/windows-libraries
+
+# fetch_sources FOLDER PACKAGE... : unpacks the sources of packages, from where the machine has its
+# packages. Leaves the machine's own lists as they are.
+fetch_sources() {
+  local folder=$1 list
+  shift
+  mkdir -p "$folder/lists/partial" "$folder/sources"
+  for list in /etc/apt/sources.list /etc/apt/sources.list.d/*; do
+    [ -f "$list" ] || continue
+    case $list in
+      *.sources) sed 's/^Types:.*/Types: deb-src/' "$list" >"$folder/sources/${list##*/}" ;;
+      *.list) sed -n 's/^deb /deb-src /p' "$list" >"$folder/sources/${list##*/}" ;;
+    esac
+  done
+  local options=(
+    -o Dir::Etc::sourcelist=/dev/null -o "Dir::Etc::sourceparts=$PWD/$folder/sources"
+    -o "Dir::State::lists=$PWD/$folder/lists" -o APT::Sandbox::User=
+  )
+  # A list that can't be read now need not be the one that tells of them.
+  apt-get "${options[@]}" update -qq >"$folder/apt.log" 2>&1 || true
+  (cd "$folder" && apt-get "${options[@]}" source -qq "$@" >>apt.log 2>&1) ||
+    { tail -n 5 "$folder/apt.log" >&2; return 1; }
+}
+
+# cross_build SOURCE BUILD [OPTION...] : builds and installs a library that CMake builds.
+cross_build() {
+  local source=$1 build=$2
+  shift 2
+  cmake -S "$source" -B "$build" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/windows.cmake" \
+    -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$PWD/$windows_libraries" \
+    -DBUILD_SHARED_LIBS=OFF "$@" >"$build.log" 2>&1 &&
+    cmake --build "$build" --target install >>"$build.log" 2>&1 ||
+    { tail -n 30 "$build.log" >&2; return 1; }
+}
+
+# Makes SQLite's one source file, as its own build does, and compiles it.
+cross_build_sqlite() {
+  local source=$1 target=$PWD/$windows_libraries
+  (
+    cd "$source" && mkdir -p for_windows && cd for_windows &&
+      ../configure --disable-tcl --disable-readline && make sqlite3.c sqlite3.h &&
+      x86_64-w64-mingw32-gcc-posix -O2 -DSQLITE_THREADSAFE=1 -DSQLITE_ENABLE_COLUMN_METADATA \
+        -c sqlite3.c -o sqlite3.o &&
+      x86_64-w64-mingw32-ar rcs "$target/lib/libsqlite3.a" sqlite3.o &&
+      cp sqlite3.h "$target/include/"
+  ) >"$source.log" 2>&1 || { tail -n 30 "$source.log" >&2; return 1; }
+}
+
+# Libraries of headers alone serve as they are.
+copy_header_libraries() {
+  mkdir -p "$windows_libraries/include" "$windows_libraries/share/cmake"
+  cp -r /usr/include/CLI /usr/include/nlohmann "$windows_libraries/include/"
+  cp -r /usr/share/cmake/CLI11 /usr/share/cmake/nlohmann_json "$windows_libraries/share/cmake/"
+}
+
+# What the libraries are made of, and how: other ones are made when this changes.
+windows_libraries_stamp() {
+  dpkg-query -W -f '${Package} ${Version}\n' g++-mingw-w64-x86-64-posix googletest libcli11-dev \
+    libsqlite3-0 libxml2 nlohmann-json3-dev
+  sha256sum scripts/windows.sh cmake/windows.cmake
+}
+
+# Builds the libraries, unless they are there already.
+build_windows_libraries() {
+  local stamp=$windows_libraries/stamp work=build/windows-sources
+  [ "$(cat "$stamp" 2>/dev/null)" = "$(windows_libraries_stamp)" ] && return 0
+  say "building libraries for Windows"
+  rm -rf "$windows_libraries" "$work"
+  mkdir -p "$windows_libraries/include" "$windows_libraries/lib" "$work"
+  copy_header_libraries
+  fetch_sources "$work" "${windows_sources[@]}"
+  cross_build_sqlite "$(echo "$work"/sqlite3-*/)"
+  cross_build "$(echo "$work"/libxml2-*/)" "$work/libxml2" -DLIBXML2_WITH_ICONV=OFF \
+    -DLIBXML2_WITH_LZMA=OFF -DLIBXML2_WITH_ZLIB=OFF -DLIBXML2_WITH_PYTHON=OFF \
+    -DLIBXML2_WITH_PROGRAMS=OFF -DLIBXML2_WITH_TESTS=OFF -DLIBXML2_WITH_FTP=OFF \
+    -DLIBXML2_WITH_HTTP=OFF
+  cross_build /usr/src/googletest "$work/googletest"
+  windows_libraries_stamp >"$stamp"
+}
