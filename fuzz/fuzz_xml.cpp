@@ -5,8 +5,8 @@
 #include "runtime/run_time_error.h"
 #include "text/utf8.h"
 
-#include "support/fake_clock.h"
-#include "support/fake_file_system.h"
+#include "support/fakes/fake_clock.h"
+#include "support/fakes/files/fake_file_system.h"
 
 #include <cstddef>
 #include <cstdint>

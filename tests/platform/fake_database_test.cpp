@@ -1,5 +1,5 @@
 #include "platform/database_contract.h"
-#include "support/fake_database.h"
+#include "support/fakes/database/fake_database.h"
 
 namespace {
 

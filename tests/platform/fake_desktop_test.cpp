@@ -1,5 +1,5 @@
 #include "platform/desktop_contract.h"
-#include "support/fake_desktop.h"
+#include "support/fakes/fake_desktop.h"
 
 #include <functional>
 

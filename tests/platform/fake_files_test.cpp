@@ -3,9 +3,9 @@
 #include "platform/file_system_contract.h"
 #include "platform/text_stream_contract.h"
 #include "platform/xml_contract.h"
-#include "support/fake_clock.h"
-#include "support/fake_event_log_exporter.h"
-#include "support/fake_file_system.h"
+#include "support/fakes/fake_clock.h"
+#include "support/fakes/fake_event_log_exporter.h"
+#include "support/fakes/files/fake_file_system.h"
 
 #include <functional>
 

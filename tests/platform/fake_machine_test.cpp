@@ -7,14 +7,14 @@
 #include "platform/registry_contract.h"
 #include "platform/time_zone_contract.h"
 #include "platform/workstation_contract.h"
-#include "support/fake_clock.h"
-#include "support/fake_event_reporter.h"
-#include "support/fake_host_module.h"
-#include "support/fake_languages.h"
-#include "support/fake_processes.h"
-#include "support/fake_registry.h"
-#include "support/fake_time_zone.h"
-#include "support/fake_workstation.h"
+#include "support/fakes/fake_clock.h"
+#include "support/fakes/fake_event_reporter.h"
+#include "support/fakes/fake_host_module.h"
+#include "support/fakes/fake_languages.h"
+#include "support/fakes/fake_processes.h"
+#include "support/fakes/fake_registry.h"
+#include "support/fakes/fake_time_zone.h"
+#include "support/fakes/fake_workstation.h"
 
 namespace {
 

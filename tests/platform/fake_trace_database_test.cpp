@@ -1,5 +1,5 @@
 #include "platform/trace_database_contract.h"
-#include "support/fake_trace_database.h"
+#include "support/fakes/trace_database/fake_trace_database.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "traces/macro_trace_catalogue.h"
 
-#include "support/fake_trace_database.h"
+#include "support/fakes/trace_database/fake_trace_database.h"
 #include "traces/traces_fixture.h"
 
 using testing::ElementsAre;

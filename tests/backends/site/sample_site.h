@@ -2,8 +2,8 @@
 
 #include "backends/site/xml/libxml_documents.h"
 #include "sample/sample_server.h"
-#include "support/fake_clock.h"
-#include "support/fake_file_system.h"
+#include "support/fakes/fake_clock.h"
+#include "support/fakes/files/fake_file_system.h"
 #include "support/places.h"
 #include "support/temporary_folder.h"
 

@@ -2,8 +2,8 @@
 
 #include "backends/site/site.h"
 #include "support/error_of.h"
-#include "support/fake_desktop.h"
-#include "support/fake_trace_database.h"
+#include "support/fakes/fake_desktop.h"
+#include "support/fakes/trace_database/fake_trace_database.h"
 #include "support/temporary_folder.h"
 
 #include <csignal>

@@ -1,7 +1,7 @@
 #include "hosts/common/tool_on_site.h"
 
 #include "support/error_of.h"
-#include "support/fake_desktop.h"
+#include "support/fakes/fake_desktop.h"
 #include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 #include "hosts/desktop/console_options.h"
 
-#include "hosts/desktop/test_window.h"
+#include "hosts/desktop/support/test_window.h"
 
 #include <gmock/gmock.h>
 

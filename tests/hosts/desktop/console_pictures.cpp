@@ -7,7 +7,7 @@
 
 #include "core/language_table.h"
 #include "hosts/desktop/look/theme.h"
-#include "hosts/desktop/window_tour.h"
+#include "hosts/desktop/support/window_tour.h"
 
 #include <QCommandLineParser>
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "hosts/desktop/desktop_services.h"
 
-#include "hosts/desktop/person.h"
-#include "hosts/desktop/test_window.h"
+#include "hosts/desktop/support/person.h"
+#include "hosts/desktop/support/test_window.h"
 #include "hosts/desktop/window/help_topics.h"
 #include "platform/desktop_contract.h"
 #include "support/places.h"

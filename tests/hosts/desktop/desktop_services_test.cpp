@@ -1,7 +1,7 @@
 #include "hosts/desktop/desktop_services.h"
 
-#include "hosts/desktop/person.h"
-#include "hosts/desktop/test_window.h"
+#include "hosts/desktop/support/person.h"
+#include "hosts/desktop/support/test_window.h"
 #include "support/temporary_folder.h"
 
 #include <QAbstractItemView>

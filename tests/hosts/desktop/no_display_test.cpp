@@ -1,5 +1,5 @@
 #include "end_to_end/program.h"
-#include "hosts/desktop/test_window.h"
+#include "hosts/desktop/support/test_window.h"
 #include "support/places.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 #include "hosts/desktop/program.h"
 
-#include "hosts/desktop/test_window.h"
+#include "hosts/desktop/support/test_window.h"
 #include "hosts/desktop/window/about_dialog.h"
 #include "hosts/desktop/window/recent_sites.h"
 #include "settings/about_box.h"

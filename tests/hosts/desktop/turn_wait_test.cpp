@@ -1,8 +1,8 @@
 #include "hosts/desktop/turn_wait.h"
 
-#include "hosts/desktop/open_program.h"
-#include "hosts/desktop/person.h"
 #include "hosts/desktop/sheets/sheet_dialog.h"
+#include "hosts/desktop/support/open_program.h"
+#include "hosts/desktop/support/person.h"
 #include "system/file_descriptor.h"
 
 #include <QAction>

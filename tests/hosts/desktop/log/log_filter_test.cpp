@@ -4,7 +4,7 @@
 #include "hosts/desktop/log/bookmarks.h"
 #include "hosts/desktop/log/list_model.h"
 #include "hosts/desktop/log/time_search.h"
-#include "hosts/desktop/test_window.h"
+#include "hosts/desktop/support/test_window.h"
 
 #include <gmock/gmock.h>
 

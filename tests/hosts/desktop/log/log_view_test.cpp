@@ -4,7 +4,7 @@
 #include "hosts/desktop/log/filter_bar.h"
 #include "hosts/desktop/log/find_bar.h"
 #include "hosts/desktop/log/list_table.h"
-#include "hosts/desktop/test_window.h"
+#include "hosts/desktop/support/test_window.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

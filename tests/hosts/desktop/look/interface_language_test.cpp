@@ -4,8 +4,8 @@
 #include "hosts/desktop/log/find_bar.h"
 #include "hosts/desktop/log/list_table.h"
 #include "hosts/desktop/log/log_view.h"
-#include "hosts/desktop/test_window.h"
-#include "hosts/desktop/translation_file.h"
+#include "hosts/desktop/support/test_window.h"
+#include "hosts/desktop/translations/translation_file.h"
 #include "hosts/desktop/window/key_list.h"
 #include "hosts/desktop/window/task_pad_view.h"
 

@@ -1,6 +1,6 @@
 #include "hosts/desktop/look/theme.h"
 
-#include "hosts/desktop/test_window.h"
+#include "hosts/desktop/support/test_window.h"
 
 #include <QApplication>
 #include <QIcon>

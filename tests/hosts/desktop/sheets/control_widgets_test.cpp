@@ -1,7 +1,7 @@
 #include "hosts/desktop/sheets/page_widget.h"
 
-#include "hosts/desktop/every_kind_page.h"
 #include "hosts/desktop/sheets/moment_field.h"
+#include "hosts/desktop/support/every_kind_page.h"
 
 #include <QCheckBox>
 #include <QComboBox>

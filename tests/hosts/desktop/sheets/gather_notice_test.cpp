@@ -2,9 +2,9 @@
 
 #include "hosts/common/gather/gather_sentences.h"
 #include "hosts/desktop/look/notice_bar.h"
-#include "hosts/desktop/open_program.h"
-#include "hosts/desktop/person.h"
 #include "hosts/desktop/sheets/sheet_dialog.h"
+#include "hosts/desktop/support/open_program.h"
+#include "hosts/desktop/support/person.h"
 #include "system/file_descriptor.h"
 
 #include <QAbstractButton>

@@ -1,9 +1,9 @@
 #include "hosts/desktop/sheets/moment_field.h"
 
-#include "hosts/desktop/every_kind_page.h"
 #include "hosts/desktop/look/notice_bar.h"
-#include "hosts/desktop/open_program.h"
-#include "hosts/desktop/person.h"
+#include "hosts/desktop/support/every_kind_page.h"
+#include "hosts/desktop/support/open_program.h"
+#include "hosts/desktop/support/person.h"
 
 #include <QAbstractButton>
 #include <QCalendarWidget>

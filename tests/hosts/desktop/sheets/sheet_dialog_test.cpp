@@ -1,8 +1,8 @@
 #include "hosts/desktop/sheets/sheet_dialog.h"
 
 #include "console/console.h"
-#include "hosts/desktop/every_kind_page.h"
 #include "hosts/desktop/sheets/page_widget.h"
+#include "hosts/desktop/support/every_kind_page.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>

@@ -1,10 +1,10 @@
 #include "hosts/desktop/sheets/undone.h"
 
 #include "hosts/desktop/look/notice_bar.h"
-#include "hosts/desktop/open_program.h"
-#include "hosts/desktop/outside_view.h"
-#include "hosts/desktop/person.h"
 #include "hosts/desktop/sheets/sheet_dialog.h"
+#include "hosts/desktop/support/open_program.h"
+#include "hosts/desktop/support/outside_view.h"
+#include "hosts/desktop/support/person.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

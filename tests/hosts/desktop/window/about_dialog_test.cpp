@@ -1,7 +1,7 @@
 #include "hosts/desktop/window/about_dialog.h"
 
-#include "hosts/desktop/cut_texts.h"
-#include "hosts/desktop/test_window.h"
+#include "hosts/desktop/support/cut_texts.h"
+#include "hosts/desktop/support/test_window.h"
 #include "settings/about_box.h"
 
 #include <QLayout>

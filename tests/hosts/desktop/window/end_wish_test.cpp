@@ -1,7 +1,7 @@
 #include "hosts/desktop/window/end_wish.h"
 
-#include "hosts/desktop/outside_view.h"
-#include "hosts/desktop/test_window.h"
+#include "hosts/desktop/support/outside_view.h"
+#include "hosts/desktop/support/test_window.h"
 #include "support/places.h"
 #include "system/file_descriptor.h"
 

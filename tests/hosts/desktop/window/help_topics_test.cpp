@@ -2,7 +2,7 @@
 
 #include "console/console.h"
 #include "hosts/desktop/sheets/sheet_dialog.h"
-#include "hosts/desktop/test_window.h"
+#include "hosts/desktop/support/test_window.h"
 #include "hosts/desktop/window/task_pad_view.h"
 #include "settings/about_box.h"
 #include "support/places.h"

@@ -1,7 +1,7 @@
 #include "hosts/desktop/window/scope_model.h"
 
 #include "console/console.h"
-#include "hosts/desktop/test_window.h"
+#include "hosts/desktop/support/test_window.h"
 
 #include <QAbstractItemModelTester>
 #include <QTreeView>
