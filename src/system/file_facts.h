@@ -33,12 +33,12 @@ struct FileIdentity {
 struct FileFacts {
     FileKind kind = FileKind::other;
     FileIdentity identity;
-    std::int64_t size = 0;   ///< in bytes
-    FileMoment modified;     ///< when its bytes changed last
-    FileMoment changed;      ///< when its bytes or what is told here changed last
-    std::uint64_t names = 1; ///< how many lead to it
-    std::uint64_t owner = 0; ///< the system's number of the user
-    bool readOnly = false;   ///< its owner may not write to it, whoever runs the program
+    std::int64_t size = 0;       ///< in bytes
+    FileMoment modified;         ///< when its bytes changed last
+    FileMoment changed;          ///< when its bytes or what is told here changed last
+    std::uint64_t hardLinks = 1; ///< how many names lead to it
+    std::uint64_t owner = 0;     ///< the system's number of the user
+    bool readOnly = false;       ///< its owner may not write to it, whoever runs the program
 };
 
 /// Of an open file. Raises 57.
@@ -49,7 +49,7 @@ FileFacts factsOf(const FileDescriptor& file);
 std::optional<FileFacts> factsOf(const std::string& path);
 
 /// Of what a path of the machine names, which may be a link; nothing as above.
-std::optional<FileFacts> ownFactsOf(const std::string& path);
+std::optional<FileFacts> unfollowedFactsOf(const std::string& path);
 
 /// Whether a path of the machine leads to a plain file.
 bool isPlainFile(const std::string& path);

@@ -69,7 +69,7 @@ public:
     std::optional<FileFacts> facts(const std::string& path) const;
 
     /// Of the last name itself, which may be a link; nothing when nothing is there. Raises 70, 57.
-    std::optional<FileFacts> ownFacts(const std::string& path) const;
+    std::optional<FileFacts> unfollowedFacts(const std::string& path) const;
 
     /// When what a path leads to came to be; nothing where the file system does not know, or
     /// nothing is there.

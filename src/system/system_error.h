@@ -12,7 +12,7 @@ public:
     SystemError(int error, int missing);
 
     /// What the system itself says of it, such as "No space left on device".
-    std::string words() const;
+    std::string systemMessage() const;
 
 private:
     int error_;

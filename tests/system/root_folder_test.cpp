@@ -144,15 +144,15 @@ TEST_F(RootFolderTest, AFolderThatIsMissingIsToldInTheSystemsWords)
             ADD_FAILURE() << path;
         } catch (const SystemError& error) {
             EXPECT_EQ(76, error.number());
-            EXPECT_EQ(words, error.words());
+            EXPECT_EQ(words, error.systemMessage());
         }
 }
 
 TEST_F(RootFolderTest, FactsAreOfTheTargetOrOfTheNameItself)
 {
     EXPECT_EQ(FileKind::folder, root.facts("near")->kind);
-    EXPECT_EQ(FileKind::link, root.ownFacts("near")->kind);
-    EXPECT_EQ(FileKind::link, root.ownFacts("away")->kind);
+    EXPECT_EQ(FileKind::link, root.unfollowedFacts("near")->kind);
+    EXPECT_EQ(FileKind::link, root.unfollowedFacts("away")->kind);
     EXPECT_FALSE(root.facts("none"));
     EXPECT_FALSE(root.facts("a/File.txt/none"));
     EXPECT_TRUE(root.isFile("near/File.txt"));

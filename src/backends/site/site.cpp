@@ -70,9 +70,10 @@ bool isSite(const std::string& folder)
 {
     // What can't be opened as it should counts: the opening tells why.
     for (const char* name : {"/site.ini", "/registry.reg"})
-        if (const auto facts = ownFactsOf(folder + name); facts && facts->kind != FileKind::folder)
+        if (const auto facts = unfollowedFactsOf(folder + name);
+            facts && facts->kind != FileKind::folder)
             return true;
-    const auto drive = ownFactsOf(folder + "/drive_c");
+    const auto drive = unfollowedFactsOf(folder + "/drive_c");
     return drive && (drive->kind == FileKind::folder || drive->kind == FileKind::link);
 }
 

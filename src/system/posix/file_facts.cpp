@@ -33,7 +33,7 @@ FileFacts factsOf(const struct stat& record)
     facts.size = record.st_size;
     facts.modified = {record.st_mtim.tv_sec, record.st_mtim.tv_nsec};
     facts.changed = {record.st_ctim.tv_sec, record.st_ctim.tv_nsec};
-    facts.names = record.st_nlink;
+    facts.hardLinks = record.st_nlink;
     facts.owner = record.st_uid;
     facts.readOnly = (record.st_mode & S_IWUSR) == 0;
     return facts;
@@ -53,7 +53,7 @@ std::optional<FileFacts> factsOf(const std::string& path)
     return factsOf(record);
 }
 
-std::optional<FileFacts> ownFactsOf(const std::string& path)
+std::optional<FileFacts> unfollowedFactsOf(const std::string& path)
 {
     struct stat record {};
     if (::lstat(path.c_str(), &record) != 0) return {};

@@ -321,7 +321,7 @@ std::optional<FileFacts> RootFolder::facts(const std::string& path) const
     fail(path, fileNotFound);
 }
 
-std::optional<FileFacts> RootFolder::ownFacts(const std::string& path) const
+std::optional<FileFacts> RootFolder::unfollowedFacts(const std::string& path) const
 {
     struct stat record {};
     if (isSingleName(path)) {

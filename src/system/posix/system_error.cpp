@@ -44,7 +44,7 @@ SystemError::SystemError(int error, int missing)
     : RunTimeError(runTimeErrorNumber(error, missing)), error_(error)
 {}
 
-std::string SystemError::words() const
+std::string SystemError::systemMessage() const
 {
     return std::generic_category().message(error_);
 }
@@ -57,5 +57,5 @@ SystemError systemError(int error, int missing)
 RunTimeError toldWith(const std::string& what, const RunTimeError& error)
 {
     const auto* failed = dynamic_cast<const SystemError*>(&error);
-    return {error.number(), what + ": " + (failed ? failed->words() : error.description())};
+    return {error.number(), what + ": " + (failed ? failed->systemMessage() : error.description())};
 }

@@ -184,7 +184,7 @@ void sweepReplacementFiles(const RootFolder& root, const std::string& folder)
         for (const auto& name : root.names(folder)) {
             if (!isReplacementFile(name)) continue;
             const std::string path = folder.empty() ? name : folder + "/" + name;
-            const auto facts = root.ownFacts(path);
+            const auto facts = root.unfollowedFacts(path);
             if (facts && isLeftReplacementFile(name, *facts)) root.removeFile(path);
         }
     } catch (const RunTimeError&) {

@@ -34,7 +34,7 @@ DatabaseCopy::DatabaseCopy(const std::string& file)
         // A log that is copied first holds what the database may have taken over since, which does
         // no harm; the other way round rows would be lost.
         for (const char* ending : {"-wal", "-journal"})
-            if (folder.ownFacts(name + ending))
+            if (folder.unfollowedFacts(name + ending))
                 copyForWriting(folder.openFile(name + ending, unlinked, fileNotFound),
                                path_ + ending);
         copyForWriting(folder.openFile(name, unlinked, fileNotFound), path_);

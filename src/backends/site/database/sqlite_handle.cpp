@@ -59,7 +59,7 @@ std::string guardedPath(const std::string& file)
     const std::string name = lastNameOf(file);
     const RootFolder folder(folderPathOf(file).empty() ? "." : folderPathOf(file));
     for (const char* ending : {"", "-journal", "-wal", "-shm"})
-        if (const auto facts = folder.ownFacts(name + ending);
+        if (const auto facts = folder.unfollowedFacts(name + ending);
             facts && facts->kind != FileKind::file)
             throw RunTimeError(runTimeErrors::permissionDenied,
                                folder.shown(name + ending) + " is no plain file");
@@ -70,7 +70,7 @@ std::string guardedPath(const std::string& file)
 /// Nothing where no file is.
 std::optional<FileIdentity> identityOf(const std::string& file)
 {
-    const auto facts = ownFactsOf(file);
+    const auto facts = unfollowedFactsOf(file);
     return facts ? std::optional(facts->identity) : std::nullopt;
 }
 

@@ -38,7 +38,7 @@ std::string nextCsvLine(SiteTextReader& log, CsvReader reader)
 /// Refuses a target that no file may take the place of.
 void checkTarget(const SitePlace& target)
 {
-    const auto facts = target.root.ownFacts(target.path);
+    const auto facts = target.root.unfollowedFacts(target.path);
     if (facts && (facts->kind != FileKind::file || facts->readOnly))
         throw RunTimeError(runTimeErrors::permissionDenied);
 }

@@ -115,7 +115,7 @@ public:
             if (isLeft(name) && (!removes || remove(name))) left.push_back(name);
         // An empty folder tells nothing by itself.
         const std::string disk(diskFolder);
-        const auto facts = ownFacts(disk);
+        const auto facts = factsIfOurs(disk);
         if (left.empty() || !facts || facts->kind != FileKind::folder) return left;
         if (removes)
             folder_.removeEmptyFolder(disk);
@@ -134,10 +134,10 @@ private:
         return false;
     }
 
-    /// Of what is this user's own.
-    std::optional<FileFacts> ownFacts(const std::string& name) const
+    /// Of what a name stands for itself; nothing where that is not this user's own.
+    std::optional<FileFacts> factsIfOurs(const std::string& name) const
     {
-        auto facts = folder_.ownFacts(name);
+        auto facts = folder_.unfollowedFacts(name);
         if (facts && !isOurs(*facts)) facts.reset();
         return facts;
     }
@@ -162,15 +162,15 @@ private:
     /// Whether it is what the cabinet maker was writing when it was killed.
     bool isUnfinished(const std::string& name) const
     {
-        const auto facts = ownFacts(name);
+        const auto facts = factsIfOurs(name);
         return facts && isLeftReplacementFile(name, *facts);
     }
 
     bool isPlain(const std::string& name) const
     {
         // A gather gives its files one name; another one is somebody's who keeps it.
-        const auto facts = ownFacts(name);
-        return facts && facts->kind == FileKind::file && facts->names <= 1;
+        const auto facts = factsIfOurs(name);
+        return facts && facts->kind == FileKind::file && facts->hardLinks <= 1;
     }
 
     std::string text(const std::string& name, std::size_t limit = longestText) const

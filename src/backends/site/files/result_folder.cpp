@@ -35,7 +35,7 @@ bool ResultFolder::hasNamesOfThisSecond() const
 try {
     for (const auto& name : root_.names("")) {
         if (name.find(toolFiles::resultMark) == std::string::npos) continue;
-        const auto facts = root_.ownFacts(name);
+        const auto facts = root_.unfollowedFacts(name);
         if (facts && facts->changed.seconds >= std::time(nullptr)) return true;
     }
     return false;

@@ -83,7 +83,7 @@ public:
                 {RootFolder("/", RootFolder::Bounds::machine), standIn->second.substr(1)});
         if (!folder_) return {{}, place_, RunTimeError(deviceIo)};
         try {
-            const auto facts = folder_->ownFacts(name);
+            const auto facts = folder_->unfollowedFacts(name);
             if (facts && facts->kind == FileKind::link)
                 return followed({place_.root, below(place_.path, name)});
             return {facts.value_or(FileFacts{}), {*folder_, name}, {}};
@@ -246,7 +246,7 @@ void SiteFileSystem::copyFile(const std::string& source, const std::string& targ
     factsOfFile(from);
     const FileDescriptor file = from.root.openFile(from.path, forReading, fileNotFound);
     const SitePlace to = paths_.place(target);
-    if (const auto there = to.root.ownFacts(to.path)) {
+    if (const auto there = to.root.unfollowedFacts(to.path)) {
         const bool same = factsOf(file).identity == there->identity;
         if (same || there->kind != FileKind::file || there->readOnly)
             throw RunTimeError(permissionDenied);
@@ -283,7 +283,7 @@ std::unique_ptr<TextWriter> SiteFileSystem::openForWriting(const std::string& pa
     FileDescriptor file = place.root.openFile(place.path, opening, pathNotFound);
     const auto facts = factsOf(file);
     if (facts.readOnly) throw RunTimeError(permissionDenied);
-    if (opening.access != FileAccess::append && facts.names > 1) {
+    if (opening.access != FileAccess::append && facts.hardLinks > 1) {
         // The file's other names, perhaps those of a backup, keep what it holds.
         place.root.removeFile(place.path);
         file = place.root.openFile(place.path, {FileAccess::write, Creation::always}, pathNotFound);

@@ -75,7 +75,7 @@ void sweepFolders(const SitePlace& tool)
         const auto mark = name.rfind(temporaryMark);
         if (mark == std::string::npos || !isSupplied(name.substr(0, mark))) continue;
         const std::string path = below(tool.path, name);
-        const auto facts = tool.root.ownFacts(path);
+        const auto facts = tool.root.unfollowedFacts(path);
         if (facts && facts->kind == FileKind::folder &&
             isLeftBehind(name.substr(mark + temporaryMark.size()), *facts))
             tool.root.removeFolder(path);
