@@ -9,8 +9,8 @@
 #include "cabmaker/directive_file.h"
 #include "cabmaker/directive_paths.h"
 #include "runtime/run_time_error.h"
-#include "runtime/text.h"
 #include "runtime/windows_path.h"
+#include "text/utf8.h"
 
 namespace {
 

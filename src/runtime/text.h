@@ -40,10 +40,4 @@ std::string_view trimEnd(std::string_view text);
 /// `text` in a field of `width` characters, filled with blanks on the left; a longer text is kept.
 std::string rightAlign(std::string_view text, std::size_t width);
 
-/// Bytes of the UTF-8 character that `text` begins with; 0 when it begins with none. Overlong
-/// forms, surrogates and what lies past U+10FFFF are no characters; nor is the empty text.
-std::size_t utf8CharacterLength(std::string_view text);
-
-bool isUtf8(std::string_view text);
-
 constexpr std::string_view lineBreak = "\r\n";

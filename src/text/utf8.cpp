@@ -8,6 +8,15 @@ namespace {
 
 constexpr char32_t replacement = 0xFFFD;
 
+/// Bytes of a character of more than one byte that begins with `lead`; 0 when none does.
+std::size_t lengthAfter(unsigned lead)
+{
+    if (lead < 0xC2) return 0;
+    if (lead < 0xE0) return 2;
+    if (lead < 0xF0) return 3;
+    return lead < 0xF5 ? 4 : 0;
+}
+
 char32_t upperCaseOf(char32_t letter)
 {
     static const locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
@@ -38,6 +47,32 @@ void forEachCharacter(std::string_view text, Take take)
 }
 
 } // namespace
+
+std::size_t utf8CharacterLength(std::string_view text)
+{
+    if (text.empty()) return 0;
+    const auto byte = [&](std::size_t index) { return static_cast<unsigned char>(text[index]); };
+    const unsigned lead = byte(0);
+    if (lead < 0x80) return 1;
+    const std::size_t length = lengthAfter(lead);
+    if (length == 0 || text.size() < length) return 0;
+    for (std::size_t index = 1; index < length; ++index)
+        if ((byte(index) & 0xC0U) != 0x80) return 0;
+    const unsigned second = byte(1);
+    const bool impossible = (lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F) ||
+                            (lead == 0xF0 && second < 0x90) || (lead == 0xF4 && second > 0x8F);
+    return impossible ? 0 : length;
+}
+
+bool isUtf8(std::string_view text)
+{
+    while (!text.empty()) {
+        const std::size_t length = utf8CharacterLength(text);
+        if (length == 0) return false;
+        text.remove_prefix(length);
+    }
+    return true;
+}
 
 std::string validUtf8(std::string_view text)
 {

@@ -1,12 +1,17 @@
 #pragma once
 
-#include "runtime/text.h"
-
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+
+/// Bytes of the UTF-8 character that `text` begins with; 0 when it begins with none. Overlong
+/// forms, surrogates and what lies past U+10FFFF are no characters; nor is the empty text.
+std::size_t utf8CharacterLength(std::string_view text);
+
+/// Whether a text has such characters alone.
+bool isUtf8(std::string_view text);
 
 /// `text` with U+FFFD for each byte that belongs to no character.
 std::string validUtf8(std::string_view text);

@@ -1,6 +1,5 @@
 #include "text/visible_text.h"
 
-#include "runtime/text.h"
 #include "text/utf8.h"
 
 #include <algorithm>

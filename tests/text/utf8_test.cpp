@@ -4,6 +4,42 @@
 
 namespace {
 
+TEST(Utf8CharacterLength, CountsTheBytesOfAWholeCharacterAndNoneOfABrokenOne)
+{
+    struct Case {
+        const char* because;
+        std::string_view text;
+        std::size_t length;
+    };
+    const Case cases[] = {
+        {"nothing begins with no character", "", 0},
+        {"ASCII", "ab", 1},
+        {"two bytes", "\xC3\xA9 and more", 2},
+        {"the first character of two bytes", "\xC2\x80", 2},
+        {"an overlong form of two bytes", "\xC1\xBF", 0},
+        {"three bytes", "\xE2\x82\xAC", 3},
+        {"four bytes", "\xF0\x9F\x93\x81", 4},
+        {"a byte that only continues", "\x80", 0},
+        {"a single-byte code page", "\xE9t\xE9", 0},
+        {"an overlong form", "\xE0\x80\xAF", 0},
+        {"half of a surrogate pair", "\xED\xA0\x80", 0},
+        {"past the last character", "\xF4\x90\x80\x80", 0},
+        {"cut short", "\xE2\x82", 0},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.because);
+        EXPECT_EQ(c.length, utf8CharacterLength(c.text));
+    }
+}
+
+TEST(IsUtf8, AsksEveryByte)
+{
+    EXPECT_TRUE(isUtf8(""));
+    EXPECT_TRUE(isUtf8("caf\xC3\xA9"));
+    EXPECT_FALSE(isUtf8("caf\xE9"));
+    EXPECT_FALSE(isUtf8("caf\xC3\xA9\xC3"));
+}
+
 TEST(Utf8, TellsCharactersFromBytesThatAreNone)
 {
     struct Case {

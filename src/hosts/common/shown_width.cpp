@@ -1,6 +1,6 @@
 #include "hosts/common/shown_width.h"
 
-#include "runtime/text.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 

@@ -2,6 +2,7 @@
 
 #include "backends/site/encoding_converter.h"
 #include "runtime/text.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <array>
