@@ -80,11 +80,6 @@ ContextMenu Console::topMenu()
     return builtMenu(&SnapInEvents::Views_AddTopMenuItems);
 }
 
-ContextMenu Console::viewMenu()
-{
-    return builtMenu(&SnapInEvents::Views_AddViewMenuItems);
-}
-
 ContextMenu Console::builtMenu(void (SnapInEvents::*event)(View&, ScopeItem&, ContextMenu&))
 {
     ContextMenu built;
@@ -144,13 +139,6 @@ void Console::refresh()
     if (!view_.verbs().enabled(consoleVerb::refresh)) return;
     const auto held = currentScopeItem().shared_from_this();
     snapIn().Views_Refresh(view_, *held);
-}
-
-bool Console::hasPropertyPages()
-{
-    bool answer = false;
-    snapIn().Views_QueryPagesFor(view_, currentScopeItem(), answer);
-    return answer;
 }
 
 void Console::createPropertyPages(OpenSheet& sheet)

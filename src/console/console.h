@@ -66,7 +66,6 @@ public:
     /// The menus as they stand for the present selection.
     ContextMenu taskMenu();
     ContextMenu topMenu();
-    ContextMenu viewMenu();
 
     /// A click on an item of a menu. Raises 35601 for a name that is not declared, 5 for an item
     /// that is hidden or disabled.
@@ -88,9 +87,6 @@ public:
 
     /// The refresh command; does nothing where the selection does not offer it.
     void refresh();
-
-    /// Whether the selection has property pages.
-    bool hasPropertyPages();
 
 private:
     friend class PropertySheetProvider;

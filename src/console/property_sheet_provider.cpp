@@ -6,7 +6,6 @@
 #include "runtime/run_time_error.h"
 
 #include <algorithm>
-#include <iterator>
 
 void PropertySheetProvider::createPropertySheet(const std::string& title, SheetType type,
                                                 ScopeItem& subject)
@@ -34,14 +33,6 @@ void PropertySheetProvider::show(int position)
         console_.tellHandlerFailed(error);
     }
     if (!sheet.closed()) console_.tellSheetShown(sheet);
-}
-
-std::vector<std::shared_ptr<OpenSheet>> PropertySheetProvider::openSheets() const
-{
-    std::vector<std::shared_ptr<OpenSheet>> open;
-    std::copy_if(shown_.begin(), shown_.end(), std::back_inserter(open),
-                 [](const auto& sheet) { return !sheet->closed(); });
-    return open;
 }
 
 std::shared_ptr<OpenSheet> PropertySheetProvider::lastSheet() const

@@ -31,9 +31,6 @@ public:
     /// the console's observers. Raises 91 as above, and 9 for a position without a page.
     void show(int position);
 
-    /// Sheets that are on show, the oldest first.
-    std::vector<std::shared_ptr<OpenSheet>> openSheets() const;
-
     /// The sheet that was shown last, closed or not; null before the first.
     std::shared_ptr<OpenSheet> lastSheet() const;
 

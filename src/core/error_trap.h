@@ -30,7 +30,6 @@ constexpr int errorCountExceeded = 0;
 constexpr TrapKind plainTrap{};
 constexpr TrapKind countedTrap{true, false};
 constexpr TrapKind countedTrapWithLine{true, true};
-constexpr TrapKind plainTrapWithLine{false, true};
 
 /// Leaves a routine whose trap has counted too many errors; caught by `ErrorTrap::body` alone.
 struct ForcedExit {

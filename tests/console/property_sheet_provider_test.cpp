@@ -4,6 +4,7 @@
 #include "console/plain_sheet.h"
 #include "console/recording_pages.h"
 #include "console/recording_snap_in.h"
+#include "console/shown_sheets.h"
 #include "console/wizard_sheet.h"
 #include "controls/recording_observer.h"
 
@@ -23,6 +24,7 @@ struct PropertySheetProviderTest : testing::Test {
     SnapInDefinition definition = definitionOfOneNode();
     Console console{definition};
     RecordingSnapIn snapIn;
+    ShownSheets shownSheets{console};
     PropertySheetProvider& sheets = console.currentView().propertySheetProvider();
     RecordingSheetPage* page = nullptr;
     Heard pageHeard;
@@ -54,7 +56,7 @@ TEST_F(PropertySheetProviderTest, AsksTheSnapInForPagesAndTellsObserversWhenTheS
     ASSERT_NE(nullptr, sheets.lastSheet());
     EXPECT_NE(nullptr, sheets.lastSheet()->wizard());
     EXPECT_EQ(nullptr, sheets.lastSheet()->plainSheet());
-    EXPECT_EQ(1u, sheets.openSheets().size());
+    EXPECT_EQ(1u, shownSheets.open().size());
 }
 
 TEST_F(PropertySheetProviderTest, MakesAPlainSheetWhereItIsAskedFor)
@@ -80,7 +82,7 @@ TEST_F(PropertySheetProviderTest, RaisesForAPlaceWithoutAPageAndTheSheetGoesOnWa
     EXPECT_EQ(9, errorNumberOf([&] { sheets.show(2); }));
     EXPECT_EQ(nullptr, sheets.lastSheet());
     sheets.show(1);
-    EXPECT_EQ(1u, sheets.openSheets().size());
+    EXPECT_EQ(1u, shownSheets.open().size());
 }
 
 TEST_F(PropertySheetProviderTest, TellsObserversWhatAPageRaises)
@@ -99,7 +101,7 @@ TEST_F(PropertySheetProviderTest, ASheetWithoutPagesIsNotShown)
     snapIn.onCreatePages = [](OpenSheet&) {};
     open();
     EXPECT_EQ(Heard{"pages for Static Node"}, snapIn.taken());
-    EXPECT_TRUE(sheets.openSheets().empty());
+    EXPECT_TRUE(shownSheets.open().empty());
     EXPECT_TRUE(sheets.lastSheet()->closed());
 }
 
@@ -107,10 +109,10 @@ TEST_F(PropertySheetProviderTest, TwoSheetsMayBeOpenAtTheSameTime)
 {
     open();
     open(SheetType::propertySheet);
-    ASSERT_EQ(2u, sheets.openSheets().size());
-    sheets.openSheets().front()->cancel();
-    ASSERT_EQ(1u, sheets.openSheets().size());
-    EXPECT_EQ(sheets.lastSheet(), sheets.openSheets().front());
+    ASSERT_EQ(2u, shownSheets.open().size());
+    shownSheets.open().front()->cancel();
+    ASSERT_EQ(1u, shownSheets.open().size());
+    EXPECT_EQ(sheets.lastSheet(), shownSheets.open().front());
 }
 
 TEST_F(PropertySheetProviderTest, AClosedSheetStaysWhileAnotherOneIsOpen)
@@ -121,7 +123,7 @@ TEST_F(PropertySheetProviderTest, AClosedSheetStaysWhileAnotherOneIsOpen)
     second.lock()->cancel();
     open(SheetType::propertySheet);
     EXPECT_FALSE(second.expired()) << "the first one's pages may know it as the wizard's sheet";
-    for (const auto& sheet : sheets.openSheets()) sheet->cancel();
+    for (const auto& sheet : shownSheets.open()) sheet->cancel();
     open();
     EXPECT_TRUE(second.expired());
 }
@@ -140,7 +142,7 @@ TEST_F(PropertySheetProviderTest, AClosedSheetGoesWithTheNextButNotWhileAnyIsAtW
         EXPECT_FALSE(second.expired());
     };
     first.lock()->tick(working.timer);
-    for (const auto& sheet : sheets.openSheets()) sheet->cancel();
+    for (const auto& sheet : shownSheets.open()) sheet->cancel();
     EXPECT_FALSE(first.expired());
     open();
     EXPECT_TRUE(first.expired());

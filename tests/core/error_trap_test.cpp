@@ -149,7 +149,7 @@ TEST(CountedTrap, CountsForEachCallAnew)
 TEST(TrapWithLine, NamesTheLineOfTheStatement)
 {
     TestTool tool;
-    ErrorTrap step{tool.context, "m", "r", plainTrapWithLine};
+    ErrorTrap step{tool.context, "m", "r", countedTrapWithLine};
     const int line = __LINE__ + 1;
     step(overflow);
     step(overflow, 1234);

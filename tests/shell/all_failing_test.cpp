@@ -37,8 +37,14 @@ struct AllFailing : ShellTest {
         const std::function<void()> commands[] = {
             [&] { console.taskMenu(); },
             [&] { console.topMenu(); },
-            [&] { console.viewMenu(); },
-            [&] { console.hasPropertyPages(); },
+            [&] {
+                ContextMenu menu;
+                snapIn.Views_AddViewMenuItems(view(), console.currentScopeItem(), menu);
+            },
+            [&] {
+                bool answer = false;
+                snapIn.Views_QueryPagesFor(view(), console.currentScopeItem(), answer);
+            },
             [&] { openFile(); },
             [&] { console.clickMenuItem("mnuStartNewLogFiles"); },
             [&] { snapIn.refreshScopeItems(); },

@@ -84,7 +84,10 @@ TEST_F(SnapInCommands, LeaveTheViewMenuAsItIs)
 {
     load();
 
-    EXPECT_THAT(console.viewMenu().entries(), IsEmpty());
+    ContextMenu menu;
+    snapIn.Views_AddViewMenuItems(view(), console.currentScopeItem(), menu);
+
+    EXPECT_THAT(menu.entries(), IsEmpty());
     EXPECT_TRUE(tool.logged("Entering [snapinOrvanDiagnostics]Views_AddViewMenuItems_0"));
     EXPECT_TRUE(tool.logged("Exiting [snapinOrvanDiagnostics]Views_AddViewMenuItems_0"));
 }
@@ -104,8 +107,11 @@ TEST_F(SnapInCommands, OfferRefreshAloneOfTheConsolesVerbs)
 TEST_F(SnapInCommands, SayThatEverySelectionHasPages)
 {
     load();
+    bool answer = false;
 
-    EXPECT_TRUE(console.hasPropertyPages());
+    snapIn.Views_QueryPagesFor(view(), console.currentScopeItem(), answer);
+
+    EXPECT_TRUE(answer);
 }
 
 TEST_F(SnapInCommands, RefreshShowsTheViewAnewAndRenewsTheTree)

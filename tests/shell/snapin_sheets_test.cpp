@@ -1,5 +1,6 @@
 #include "console/pages.h"
 #include "console/plain_sheet.h"
+#include "console/shown_sheets.h"
 #include "console/wizard_sheet.h"
 #include "controls/controls.h"
 #include "shell/sheet_definitions.h"
@@ -86,6 +87,8 @@ const Opening openings[] = {
 };
 
 struct SnapinSheets : ShellTest {
+    ShownSheets shownSheets{console};
+
     SnapinSheets()
     {
         load();
@@ -97,8 +100,8 @@ struct SnapinSheets : ShellTest {
 
     void expectOpened(const Opening& expected)
     {
-        ASSERT_EQ(1u, sheets().openSheets().size());
-        OpenSheet& sheet = *sheets().openSheets().front();
+        ASSERT_EQ(1u, shownSheets.open().size());
+        OpenSheet& sheet = *shownSheets.open().front();
         EXPECT_EQ(expected.title, sheet.title());
         EXPECT_EQ(expected.type == SheetType::wizard, sheet.wizard() != nullptr);
         EXPECT_EQ(1, sheet.currentPosition());
@@ -259,7 +262,7 @@ TEST_F(SnapinSheets, TheResetWizardWorksFromTheTaskPadToItsEnd)
     dynamic_cast<CheckBox&>(*wizard().currentPage().control("chkDisableAllTraces")).click();
     ASSERT_TRUE(wizard().finish());
     EXPECT_EQ(4, tool.database.flagsOf("A"));
-    EXPECT_TRUE(sheets().openSheets().empty());
+    EXPECT_TRUE(shownSheets.open().empty());
 }
 
 TEST_F(SnapinSheets, AChangedLogFolderReachesTheListsAtTheNextStartAlone)
