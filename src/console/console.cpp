@@ -1,5 +1,6 @@
 #include "console/console.h"
 
+#include "runtime/required_object.h"
 #include "runtime/run_time_error.h"
 
 #include <algorithm>
@@ -179,8 +180,7 @@ void Console::itemRemoved(ScopeItem& item)
 
 SnapInEvents& Console::snapIn() const
 {
-    if (!snapIn_) throw RunTimeError(runTimeErrors::objectVariableNotSet);
-    return *snapIn_;
+    return required(snapIn_);
 }
 
 const NodeTypeDefinition& Console::nodeType(std::string_view typeName) const

@@ -3,6 +3,7 @@
 #include "console/console.h"
 #include "console/plain_sheet.h"
 #include "console/wizard_sheet.h"
+#include "runtime/required_object.h"
 #include "runtime/run_time_error.h"
 
 #include <algorithm>
@@ -42,8 +43,7 @@ std::shared_ptr<OpenSheet> PropertySheetProvider::lastSheet() const
 
 OpenSheet& PropertySheetProvider::waiting() const
 {
-    if (!waiting_) throw RunTimeError(runTimeErrors::objectVariableNotSet);
-    return *waiting_;
+    return required(waiting_);
 }
 
 void PropertySheetProvider::letGoOfClosedSheets()

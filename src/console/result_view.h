@@ -3,7 +3,7 @@
 #include "console/list_view.h"
 #include "console/scope_tree.h"
 #include "console/task_pad.h"
-#include "runtime/run_time_error.h"
+#include "runtime/required_object.h"
 
 #include <memory>
 #include <string>
@@ -30,17 +30,10 @@ public:
     ScopePaneItem& scopePaneItem() const { return pane_; }
 
     /// Raise 91 for a view of the other type.
-    ListView& list() const { return *required(list_.get()); }
-    TaskPad& taskPad() const { return *required(taskPad_.get()); }
+    ListView& list() const { return required(list_); }
+    TaskPad& taskPad() const { return required(taskPad_); }
 
 private:
-    template <typename Object>
-    static Object* required(Object* object)
-    {
-        if (!object) throw RunTimeError(runTimeErrors::objectVariableNotSet);
-        return object;
-    }
-
     ScopePaneItem& pane_;
     std::string displayString_;
     ResultViewType type_;
@@ -60,11 +53,7 @@ public:
     const std::string& name() const { return item_->name(); }
 
     /// The view that is shown, or was when the item was last selected. Raises 91 before the first.
-    ResultView& resultView() const
-    {
-        if (!shown_) throw RunTimeError(runTimeErrors::objectVariableNotSet);
-        return *shown_;
-    }
+    ResultView& resultView() const { return required(shown_); }
 
 private:
     friend class View;

@@ -1,6 +1,7 @@
 #include "console/view.h"
 
 #include "console/console.h"
+#include "runtime/required_object.h"
 
 #include <algorithm>
 
@@ -20,8 +21,7 @@ ScopePaneItem& View::scopePaneItem(int position) const
 
 ScopePaneItem& View::selectedScopePaneItem() const
 {
-    if (!selected_) throw RunTimeError(runTimeErrors::objectVariableNotSet);
-    return *selected_;
+    return required(selected_);
 }
 
 void View::select(ScopeItem& item)

@@ -8,6 +8,7 @@
 #include "runtime/dates.h"
 #include "runtime/integer16.h"
 #include "runtime/numbers.h"
+#include "runtime/required_object.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
 
@@ -144,8 +145,7 @@ void classLog::openLogFile()
 
 TextWriter& classLog::stream()
 {
-    if (!logStream_) throw RunTimeError(runTimeErrors::objectRequired);
-    return *logStream_;
+    return required(logStream_, runTimeErrors::objectRequired);
 }
 
 bool classLog::writeLine(const std::string& text)
@@ -233,8 +233,7 @@ void classLog::exitProc(std::string_view procName)
 
 void classLog::closeLog()
 {
-    if (!logStream_) throw RunTimeError(runTimeErrors::objectVariableNotSet);
-    logStream_->close();
+    required(logStream_).close();
     logStream_.reset();
     strLogFile_ = makeLogFileName();
 }

@@ -2,8 +2,8 @@
 
 #include "core/error_trap.h"
 #include "gather/filter_table.h"
-#include "gather/object_reference.h"
 #include "gather/packaging.h"
+#include "runtime/required_object.h"
 #include "traces/macro_trace_catalogue.h"
 
 namespace {
@@ -44,7 +44,7 @@ void GatherDatabase::open(const std::string& destination)
 
 void GatherDatabase::openTable(std::unique_ptr<TraceRecordset>& table, std::string_view name)
 {
-    step_([&] { table = objectOf(database_).openRecordset(name); });
+    step_([&] { table = required(database_).openRecordset(name); });
 }
 
 void GatherDatabase::finish()
@@ -53,5 +53,5 @@ void GatherDatabase::finish()
     step_([&] { uniqueFilters_->close(); });
     step_([&] { macroTraces_->close(); });
     step_([&] { traces_->close(); });
-    step_([&] { objectOf(database_).close(); });
+    step_([&] { required(database_).close(); });
 }

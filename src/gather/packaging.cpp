@@ -2,12 +2,12 @@
 
 #include "core/error_trap.h"
 #include "core/utility.h"
-#include "gather/object_reference.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
 #include "platform/host_module.h"
 #include "platform/processes.h"
 #include "platform/tool_files.h"
+#include "runtime/required_object.h"
 #include "server/workstation_info.h"
 #include "text/code_page.h"
 
@@ -62,7 +62,7 @@ public:
         const std::string mark = utf8_ && first_ ? "\xEF\xBB\xBF" : "";
         first_ = false;
         step_([&] {
-            objectOf(file_).writeLine(mark + (utf8_ ? text : windows1252().bytesOf(text)));
+            required(file_).writeLine(mark + (utf8_ ? text : windows1252().bytesOf(text)));
         });
     }
 
@@ -76,7 +76,7 @@ public:
 
     void close()
     {
-        step_([&] { objectOf(file_).close(); });
+        step_([&] { required(file_).close(); });
     }
 
 private:

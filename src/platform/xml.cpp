@@ -1,16 +1,8 @@
 #include "platform/xml.h"
 
-#include "runtime/run_time_error.h"
-
-XmlElement& required(const XmlElementPtr& element)
-{
-    if (!element) throw RunTimeError(runTimeErrors::objectVariableNotSet);
-    return *element;
-}
+#include "runtime/required_object.h"
 
 std::string requiredAttribute(const XmlElementPtr& element, const std::string& name)
 {
-    auto value = required(element).attribute(name);
-    if (!value) throw RunTimeError(runTimeErrors::objectVariableNotSet);
-    return *std::move(value);
+    return required(required(element).attribute(name));
 }

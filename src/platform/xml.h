@@ -74,8 +74,5 @@ public:
     virtual std::string textOf(std::string_view bytes) const = 0;
 };
 
-/// The element of a look-up that may have found none. Raises 91.
-XmlElement& required(const XmlElementPtr& element);
-
 /// An attribute that has to be there. Raises 91.
 std::string requiredAttribute(const XmlElementPtr& element, const std::string& name);

@@ -100,13 +100,13 @@ Value mdlOrvanDatabase::GetConfigurationSetting(ToolContext& tool, const std::st
             return tool.g_connection.openRecordset(query, CursorKind::forwardOnly,
                                                    LockKind::optimistic);
         });
-        const bool found = step.value(false, [&] { return !required(rows).atEnd(); });
+        const bool found = step.value(false, [&] { return !opened(rows).atEnd(); });
         if (found) {
             const std::int32_t typeCode =
                 step.value(0, [&] { return valueAsInteger32(rows->field("Type")); });
             step([&] { result = configurationValue(*rows, typeCode); });
         }
-        step([&] { required(rows).close(); });
+        step([&] { opened(rows).close(); });
     });
     return result;
 }

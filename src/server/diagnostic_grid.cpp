@@ -33,9 +33,9 @@ std::int32_t mdlOrvanDatabase::getFlags(ToolContext& tool, const std::string& co
             return tool.g_connection.openRecordset(query, CursorKind::forwardOnly,
                                                    LockKind::optimistic);
         });
-        const bool found = step.value(false, [&] { return !required(rows).atEnd(); });
-        if (found) step([&] { flags = valueAsInteger32(required(rows).field("Flags")); });
-        step([&] { required(rows).close(); });
+        const bool found = step.value(false, [&] { return !opened(rows).atEnd(); });
+        if (found) step([&] { flags = valueAsInteger32(opened(rows).field("Flags")); });
+        step([&] { opened(rows).close(); });
     });
     return flags;
 }
@@ -53,9 +53,9 @@ std::string mdlOrvanDatabase::getComponentsObjectId(ToolContext& tool,
             return tool.g_connection.openRecordset(query, CursorKind::forwardOnly,
                                                    LockKind::optimistic);
         });
-        const bool found = step.value(false, [&] { return !required(rows).atEnd(); });
-        if (found) step([&] { objectId = valueAsText(required(rows).field("ObjectId")); });
-        step([&] { required(rows).close(); });
+        const bool found = step.value(false, [&] { return !opened(rows).atEnd(); });
+        if (found) step([&] { objectId = valueAsText(opened(rows).field("ObjectId")); });
+        step([&] { opened(rows).close(); });
     });
     return objectId;
 }
@@ -104,9 +104,9 @@ MemoryRecordset mdlOrvanDatabase::EnumComponents(ToolContext& tool)
                 "SELECT Name FROM vw_LoggerDiagnosticGrid ORDER BY Name", CursorKind::keyset,
                 LockKind::optimistic);
         });
-        step([&] { requireUpperBound(required(rows).rowCount() - 1); });
+        step([&] { requireUpperBound(opened(rows).rowCount() - 1); });
         for (;;) {
-            const bool more = step.value(false, [&] { return !required(rows).atEnd(); });
+            const bool more = step.value(false, [&] { return !opened(rows).atEnd(); });
             if (!more) break;
             step([&] { components.addNew(); });
             step([&] { components.set("name", name()); });

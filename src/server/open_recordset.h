@@ -6,7 +6,7 @@
 #include <memory>
 
 /// The recordset of a statement that may have failed. Raises 3704 (closed) when it did.
-inline DatabaseRecordset& required(const std::unique_ptr<DatabaseRecordset>& rows)
+inline DatabaseRecordset& opened(const std::unique_ptr<DatabaseRecordset>& rows)
 {
     if (!rows) throw RunTimeError(databaseErrors::closedObject);
     return *rows;

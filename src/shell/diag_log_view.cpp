@@ -9,8 +9,8 @@
 #include "platform/desktop.h"
 #include "platform/file_system.h"
 #include "runtime/numbers.h"
+#include "runtime/required_object.h"
 #include "runtime/text.h"
-#include "shell/required_object.h"
 
 #include <memory>
 #include <optional>
@@ -212,7 +212,7 @@ void mdlSnapIn::populateListViewDiagLog(ToolContext& tool, ResultView& resultVie
 
     const auto reader = step.value(nullptr, [&] { return files.openForReading(path); });
     RowReader(step, tool, resultView, view, size).readAll(reader.get());
-    step([&] { required(reader.get()).close(); });
+    step([&] { required(reader).close(); });
     step([&] { view.statusBarText(myLoadResString(tool, TextId::formatCompleted)); });
     step.exitProc();
 }

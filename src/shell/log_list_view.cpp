@@ -7,8 +7,8 @@
 #include "platform/file_system.h"
 #include "runtime/integer16.h"
 #include "runtime/numbers.h"
+#include "runtime/required_object.h"
 #include "runtime/text.h"
-#include "shell/required_object.h"
 
 #include <optional>
 #include <string>
@@ -37,7 +37,7 @@ void addLogRow(ErrorTrap& step, ToolContext& tool, ResultView& resultView,
         row().addSubItem(4, dateText(mdlDiagnostics::parseDateFromFileName(tool, process, name)));
     });
     step([&] {
-        const FileInfo& facts = required(file ? &*file : nullptr);
+        const FileInfo& facts = required(file);
         row().addSubItem(5, numberTextWithLeadingBlank(facts.size));
     });
     step([&] { ++rowIndex; });

@@ -7,8 +7,8 @@
 #include "platform/clock.h"
 #include "platform/file_system.h"
 #include "runtime/integer16.h"
+#include "runtime/required_object.h"
 #include "runtime/text.h"
-#include "shell/required_object.h"
 #include "shell/snapin_names.h"
 
 #include <cstddef>

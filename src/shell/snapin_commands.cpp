@@ -2,7 +2,7 @@
 #include "core/localisation.h"
 #include "core/signals.h"
 #include "core/utility.h"
-#include "shell/required_object.h"
+#include "runtime/required_object.h"
 #include "shell/scope_nodes.h"
 #include "shell/snapin_names.h"
 #include "shell/snapin_orvan_diagnostics.h"

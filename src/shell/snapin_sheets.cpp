@@ -1,6 +1,6 @@
 #include "core/error_trap.h"
 #include "core/localisation.h"
-#include "shell/required_object.h"
+#include "runtime/required_object.h"
 #include "shell/sheet_definitions.h"
 #include "shell/snapin_orvan_diagnostics.h"
 #include "shell/wizard_kinds.h"

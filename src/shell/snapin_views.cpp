@@ -1,8 +1,8 @@
 #include "core/error_trap.h"
 #include "core/localisation.h"
+#include "runtime/required_object.h"
 #include "shell/diag_log_view.h"
 #include "shell/log_list_view.h"
-#include "shell/required_object.h"
 #include "shell/scope_nodes.h"
 #include "shell/snapin_definition.h"
 #include "shell/snapin_names.h"
@@ -42,7 +42,7 @@ void snapinOrvanDiagnostics::refreshScopeItems()
     for (const auto& key : keys) {
         step([&] {
             const auto process = tool_.g_dictProcessItems.item(key).lock();
-            ScopeItems_Expand(required(process.get()));
+            ScopeItems_Expand(required(process));
         });
     }
     step.exitProc();
@@ -74,7 +74,7 @@ void snapinOrvanDiagnostics::ResultViews_ListItemDblClick(ResultView& resultView
     if (resultView.displayString() == snapinView::logFiles) {
         step([&] {
             const auto log = tool_.g_dictLogItems.item(item.text()).lock();
-            console_.currentView().select(required(log.get()));
+            console_.currentView().select(required(log));
         });
     }
     step.exitProc();

@@ -4,6 +4,7 @@
 #include "platform/file_system.h"
 #include "platform/trace_database.h"
 #include "runtime/numbers.h"
+#include "runtime/required_object.h"
 #include "traces/macro_trace_record.h"
 
 namespace {

@@ -3,6 +3,7 @@
 #include "controls/tree_view.h"
 #include "core/error_trap.h"
 #include "core/signals.h"
+#include "runtime/required_object.h"
 #include "server/diagnostic_grid.h"
 #include "traces/counted_walk.h"
 #include "traces/macro_trace_record.h"
@@ -47,9 +48,9 @@ void changeComponents(ToolContext& tool, ErrorTrap& step, const XmlElementPtr& t
 XmlElementPtr traceElement(const ToolContext& tool, const std::string& groupName,
                            const std::string& traceName)
 {
-    if (!tool.g_domMacroTraces) throw RunTimeError(runTimeErrors::objectVariableNotSet);
-    return tool.g_domMacroTraces->selectSingleNode("HYBRIDTRACES/GA[@NAME='" + groupName +
-                                                   "']/TRACE[@NAME='" + traceName + "']");
+    return required(tool.g_domMacroTraces)
+        .selectSingleNode("HYBRIDTRACES/GA[@NAME='" + groupName + "']/TRACE[@NAME='" + traceName +
+                          "']");
 }
 
 /// Calls `visit` with each macro trace of the tree, after `groupName` was set to its group's.

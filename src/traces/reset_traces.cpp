@@ -112,7 +112,7 @@ void mdlTraces::enableStandardTraces(ToolContext& tool)
                 CursorKind::keyset, LockKind::optimistic);
         });
         for (;;) {
-            const bool more = step.value(false, [&] { return !required(rows).atEnd(); });
+            const bool more = step.value(false, [&] { return !opened(rows).atEnd(); });
             if (!more) break;
             restoreDefaults(tool, step, *rows, *command, words);
             step([&] { rows->moveNext(); });

@@ -2,6 +2,7 @@
 
 #include "core/error_trap.h"
 #include "core/localisation.h"
+#include "runtime/required_object.h"
 #include "runtime/text.h"
 #include "traces/macro_trace_catalogue.h"
 
@@ -88,10 +89,7 @@ void ppgMacroTrace3Final::showSummary(ErrorTrap& step)
     step([&] { enabled.text = myLoadResString(tool(), TextId::macroTracesWereEnabled); });
     step([&] { disabled.text = myLoadResString(tool(), TextId::macroTracesWereDisabled); });
     const auto status = step.value(nullptr, [&] { return SelectedControls(0).dictStatus; });
-    step([&] {
-        if (!status) throw RunTimeError(runTimeErrors::objectVariableNotSet);
-        keys = status->keys();
-    });
+    step([&] { keys = required(status).keys(); });
     for (const auto& key : keys) (status->item(key) ? enabled : disabled).add(key);
 
     if (enabled.any) step([&] { lblSummary.setCaption(enabled.text + std::string(lineBreak)); });

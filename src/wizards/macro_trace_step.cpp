@@ -1,6 +1,7 @@
 #include "wizards/macro_trace_step.h"
 
 #include "core/error_trap.h"
+#include "runtime/required_object.h"
 #include "runtime/run_time_error.h"
 #include "traces/counted_walk.h"
 #include "traces/macro_trace_operations.h"
@@ -15,8 +16,7 @@ constexpr const char* pageName = "ppgMacroTrace1";
 /// "group - macro trace". Raises 91 for a node of the first level.
 std::string statusKey(const TreeNode& node)
 {
-    if (!node.parent()) throw RunTimeError(runTimeErrors::objectVariableNotSet);
-    return node.parent()->text() + " - " + node.text();
+    return required(node.parent()).text() + " - " + node.text();
 }
 
 } // namespace
@@ -74,10 +74,7 @@ void ppgMacroTrace1::populateMacroTracesTreeview()
     step.body([&] {
         step.enterProc();
         step([&] { treeviewMacroTrace.clear(); });
-        step([&] {
-            if (!tool().g_domMacroTraces) throw RunTimeError(runTimeErrors::objectVariableNotSet);
-            groups = tool().g_domMacroTraces->getElementsByTagName("GA");
-        });
+        step([&] { groups = required(tool().g_domMacroTraces).getElementsByTagName("GA"); });
         countedWalk(step, 0, static_cast<int>(groups.size()) - 1, [&](int index) {
             const XmlElementPtr& group = groups[static_cast<std::size_t>(index)];
             if (!group->attribute("DONTSHOW")) addGroup(step, group);

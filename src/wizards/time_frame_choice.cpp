@@ -4,6 +4,7 @@
 #include "logreader/log_file_names.h"
 #include "platform/file_system.h"
 #include "runtime/numbers.h"
+#include "runtime/required_object.h"
 #include "wizards/trace_object.h"
 
 #include <optional>
@@ -21,10 +22,7 @@ void addLogs(ToolContext& tool, ErrorTrap& step, const char* pattern, const Time
         if (logFileNames::isFormattedCopy(name)) continue;
         bool overlaps = false;
         step([&] { file = tool.platform.files.file(tool.g_strLogFolder + "\\" + name); });
-        step([&] {
-            if (!file) throw RunTimeError(runTimeErrors::objectVariableNotSet);
-            overlaps = fileOverlapsTimeFrame(*file, frame.start, frame.end);
-        });
+        step([&] { overlaps = fileOverlapsTimeFrame(required(file), frame.start, frame.end); });
         if (overlaps) step([&] { job.addOrvanLog(file->name); });
     }
 }

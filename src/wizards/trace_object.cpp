@@ -1,5 +1,6 @@
 #include "wizards/trace_object.h"
 
+#include "runtime/required_object.h"
 #include "runtime/run_time_error.h"
 
 void classTraceObject::NameList::clear()
@@ -37,6 +38,5 @@ void classTraceObject::addWindowsLog(const std::string& name)
 
 PageSheet& classTraceObject::m_PropertySheet() const
 {
-    if (!propertySheet_) throw RunTimeError(runTimeErrors::objectRequired);
-    return *propertySheet_;
+    return required(propertySheet_, runTimeErrors::objectRequired);
 }

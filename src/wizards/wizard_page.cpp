@@ -2,6 +2,7 @@
 
 #include "core/localisation.h"
 #include "core/tool_context.h"
+#include "runtime/required_object.h"
 #include "runtime/run_time_error.h"
 
 #include <utility>
@@ -14,8 +15,7 @@ WizardPage::WizardPage(ToolContext& tool, std::string name,
 classTraceObject& WizardPage::SelectedControls(int index) const
 {
     if (index != 0) throw RunTimeError(runTimeErrors::subscriptOutOfRange);
-    if (!shared_) throw RunTimeError(runTimeErrors::objectRequired);
-    return *shared_;
+    return required(shared_, runTimeErrors::objectRequired);
 }
 
 void WizardPage::applyFontToPage()

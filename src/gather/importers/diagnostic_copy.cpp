@@ -3,10 +3,10 @@
 #include "core/error_trap.h"
 #include "gather/importers/log_reading.h"
 #include "gather/importers/malformed_line.h"
-#include "gather/object_reference.h"
 #include "logreader/format_line.h"
 #include "logreader/log_file_names.h"
 #include "platform/file_system.h"
+#include "runtime/required_object.h"
 
 void mdlLogs::processOrvanLogFile(ToolContext& tool, const std::string& fileName,
                                   const std::string& destination, ProgressBar& progressCurrent,
@@ -31,12 +31,12 @@ void mdlLogs::processOrvanLogFile(ToolContext& tool, const std::string& fileName
                 step([&] { mdlDiagnostics::formatLineSafe(tool, reading.line(), formatted); });
             else
                 step([&] { formatted = reading.line(); });
-            step([&] { objectOf(copy).writeLine(formatted); });
+            step([&] { required(copy).writeLine(formatted); });
             if (reading.cancelledAtProgressPoint()) break;
         }
 
         reading.finish();
-        step([&] { objectOf(copy).close(); });
+        step([&] { required(copy).close(); });
     }
     step.exitProc();
 }

@@ -4,10 +4,10 @@
 #include "controls/progress_bar.h"
 #include "core/localisation.h"
 #include "gather/cancel.h"
-#include "gather/object_reference.h"
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "runtime/numbers.h"
+#include "runtime/required_object.h"
 
 #include <limits>
 
@@ -60,13 +60,12 @@ bool LogReading::open(const std::string& fileName)
 
 const FileInfo& LogReading::file() const
 {
-    if (!file_) throw RunTimeError(runTimeErrors::objectVariableNotSet);
-    return *file_;
+    return required(file_);
 }
 
 bool LogReading::nextLine()
 {
-    const bool atEnd = step_.value(true, [&] { return objectOf(reader_).atEnd(); });
+    const bool atEnd = step_.value(true, [&] { return required(reader_).atEnd(); });
     if (atEnd || failuresInARow_ > readFailuresAllowed) return false;
 
     ++failuresInARow_;
@@ -103,5 +102,5 @@ void LogReading::finish()
 {
     step_([&] { label_.setCaption(savedCaption_); });
     step_([&] { progressCurrent_.setValue(progressCurrent_.maximum()); });
-    step_([&] { objectOf(reader_).close(); });
+    step_([&] { required(reader_).close(); });
 }
