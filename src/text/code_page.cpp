@@ -1,5 +1,7 @@
 #include "text/code_page.h"
 
+#include "text/utf8.h"
+
 #include <algorithm>
 #include <cstddef>
 
@@ -8,49 +10,28 @@ namespace {
 constexpr char missing = '?';
 constexpr char32_t replacement = 0xFFFD; ///< stands where there is no character
 
-/// One character of UTF-8, taken off the front of a text; 0xFFFD for a byte that begins none.
-char32_t takeCharacter(std::string_view& text)
+bool isBeyondAscii(char byte)
 {
-    constexpr char32_t least[] = {0, 0x80, 0x800, 0x10000};
-    const auto first = static_cast<unsigned char>(text.front());
-    text.remove_prefix(1);
-    if (first < 0x80) return first;
-    if (first < 0xC0 || first >= 0xF8) return replacement;
-    const std::size_t tail = first < 0xE0 ? 1 : first < 0xF0 ? 2 : 3;
-    if (text.size() < tail) return replacement;
-    char32_t character = first & (0x3Fu >> tail);
-    for (const char byte : text.substr(0, tail)) {
-        if ((byte & 0xC0) != 0x80) return replacement;
-        character = character << 6 | (byte & 0x3Fu);
-    }
-    if (character < least[tail]) return replacement;
-    text.remove_prefix(tail);
-    return character;
+    return static_cast<unsigned char>(byte) >= 0x80;
+}
+
+/// The bytes that `text` begins with and that stand for themselves in every code page.
+std::string_view asciiHead(std::string_view text)
+{
+    const auto end = std::find_if(text.begin(), text.end(), isBeyondAscii);
+    return text.substr(0, static_cast<std::size_t>(end - text.begin()));
 }
 
 } // namespace
 
 void CodePage::appendUtf8(std::string& target, std::string_view bytes) const
 {
-    const auto beyondAscii = [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; };
     for (;;) {
-        const auto special = std::find_if(bytes.begin(), bytes.end(), beyondAscii);
-        const auto plain = static_cast<std::size_t>(special - bytes.begin());
-        target.append(bytes.substr(0, plain));
-        if (plain == bytes.size()) return;
-
-        const unsigned code = character(bytes[plain]);
-        if (code < 0x80) {
-            target.push_back(static_cast<char>(code));
-        } else if (code < 0x800) {
-            target.push_back(static_cast<char>(0xC0 | code >> 6));
-            target.push_back(static_cast<char>(0x80 | (code & 0x3F)));
-        } else {
-            target.push_back(static_cast<char>(0xE0 | code >> 12));
-            target.push_back(static_cast<char>(0x80 | (code >> 6 & 0x3F)));
-            target.push_back(static_cast<char>(0x80 | (code & 0x3F)));
-        }
-        bytes.remove_prefix(plain + 1);
+        const std::string_view plain = asciiHead(bytes);
+        target.append(plain);
+        if (plain.size() == bytes.size()) return;
+        ::appendUtf8(target, character(bytes[plain.size()]));
+        bytes.remove_prefix(plain.size() + 1);
     }
 }
 
@@ -58,8 +39,15 @@ std::string CodePage::bytesOf(std::string_view utf8) const
 {
     std::string bytes;
     bytes.reserve(utf8.size());
-    while (!utf8.empty()) bytes.push_back(byteOf(takeCharacter(utf8)));
-    return bytes;
+    for (;;) {
+        const std::string_view plain = asciiHead(utf8);
+        bytes.append(plain);
+        utf8.remove_prefix(plain.size());
+        if (utf8.empty()) return bytes;
+        const std::size_t length = utf8CharacterLength(utf8);
+        bytes.push_back(length == 0 ? missing : byteOf(utf8CodePoint(utf8.substr(0, length))));
+        utf8.remove_prefix(std::max<std::size_t>(length, 1));
+    }
 }
 
 char CodePage::byteOf(char32_t character) const

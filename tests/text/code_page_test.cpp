@@ -70,6 +70,8 @@ TEST(CodePage, GivesTheBytesOfAText)
         {"a character that something else ends", "\xC3x", "?x"},
         {"a longer form than needed", "\xC1\x81", "??"},
         {"bytes that never stand in UTF-8", "\xFE\xFF", "??"},
+        {"half of a surrogate pair", "\xED\xA0\x80x", "???x"},
+        {"past the last character", "\xF4\x90\x80\x80x", "????x"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.because);
