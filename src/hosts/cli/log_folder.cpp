@@ -5,7 +5,7 @@
 
 namespace cli {
 
-std::string logFolderTrouble(OpenTool& tool)
+std::string logFolderClause(OpenTool& tool)
 {
     const auto trouble = logFolderTrouble(tool.context(), tool.report());
     return trouble ? asClause(*trouble) : "";

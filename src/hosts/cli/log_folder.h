@@ -9,6 +9,6 @@ class OpenTool;
 /// Why the tool's lists of logs may lack some, as a clause: the server's log folder is not there,
 /// or could not be listed so far. Empty when neither is so. The tool's own lists are then just
 /// short.
-std::string logFolderTrouble(OpenTool& tool);
+std::string logFolderClause(OpenTool& tool);
 
 } // namespace cli

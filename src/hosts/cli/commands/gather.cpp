@@ -70,18 +70,18 @@ public:
         if (logs_.given() && orvanLogs_.empty() && windowsLogs_.empty())
             throw UsageError("gather logs needs a --log or an --event-log");
         if (gathersTo() && trim(to_).empty()) throw UsageError("gather --to needs a folder");
-        GatherRequest request;
-        request.option = option();
-        request.logs = orvanLogs_;
-        request.eventLogs = windowsLogs_;
-        if (frame_.given()) request.frame = frameChoice();
+        GatherAnswers answers;
+        answers.option = option();
+        answers.logs = orvanLogs_;
+        answers.eventLogs = windowsLogs_;
+        if (frame_.given()) answers.frame = frameChoice();
         OpenTool tool(options, dryRun_ ? ToolUse::look : ToolUse::add,
-                      [&](OpenTool& opened) { requireSound(opened, request.frame); });
-        if (!to_.empty()) request.destination = tool.toolPath(to_);
+                      [&](OpenTool& opened) { requireSound(opened, answers.frame); });
+        if (!to_.empty()) answers.destination = tool.toolPath(to_);
         if (excel_) tool.site().eventLogExporter().writeFor(CsvReader::spreadsheet);
         std::optional<GatherOutcome> outcome;
         {
-            GatherWizard wizard(tool, request);
+            GatherWizard wizard(tool, answers);
             if (dryRun_)
                 preview(tool, wizard, output);
             else

@@ -59,7 +59,7 @@ public:
     {
         OpenTool tool(options, ToolUse::look, [this](OpenTool& opened) { requireProcess(opened); });
         const auto files = logFilesOf(tool, process_);
-        const std::string trouble = logFolderTrouble(tool);
+        const std::string trouble = logFolderClause(tool);
         tool.close();
         if (!trouble.empty())
             output.message(trouble);

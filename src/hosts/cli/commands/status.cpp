@@ -30,7 +30,7 @@ public:
         std::vector<std::string> processes;
         for (const ScopeItem* process : tool.processes().children())
             processes.push_back(process->name());
-        const std::string trouble = logFolderTrouble(tool);
+        const std::string trouble = logFolderClause(tool);
         tool.close();
         if (!trouble.empty()) output.message(trouble);
 

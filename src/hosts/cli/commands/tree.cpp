@@ -49,7 +49,7 @@ public:
             output.value(Json::array({jsonOf(root)}));
         else
             print(output, root, "");
-        const std::string trouble = logFolderTrouble(tool);
+        const std::string trouble = logFolderClause(tool);
         tool.close();
         if (!trouble.empty()) output.message(trouble);
     }

@@ -95,7 +95,7 @@ void preview(OpenTool& tool, GatherWizard& wizard, Output& output)
     const Plan plan = planOf(tool, wizard.steps());
     const std::string destination = tool.machinePath(wizard.destination());
     const auto room = freeSpace(destination);
-    if (const std::string trouble = logFolderTrouble(tool); !trouble.empty())
+    if (const std::string trouble = logFolderClause(tool); !trouble.empty())
         output.message(trouble);
     if (!output.json()) {
         output.line("Would gather into " + destination);

@@ -48,14 +48,14 @@ void tickBox(CheckBox& box, bool ticked)
 
 } // namespace
 
-GatherWizard::GatherWizard(OpenTool& tool, const GatherRequest& request)
+GatherWizard::GatherWizard(OpenTool& tool, const GatherAnswers& answers)
     : driver_(tool, snapinTask::gatherLogFiles)
 {
-    chooseDestination(tool, request);
-    driver_.control<OptionButtonGroup>("optGatherLogs").click(request.option);
+    chooseDestination(tool, answers);
+    driver_.control<OptionButtonGroup>("optGatherLogs").click(answers.option);
     driver_.next();
-    if (request.option == gatherOption::byHand) tickLogs(request);
-    if (request.option == gatherOption::timeFrame) enterFrame(request.frame);
+    if (answers.option == gatherOption::byHand) tickLogs(answers);
+    if (answers.option == gatherOption::timeFrame) enterFrame(answers.frame);
     progressPage_ = dynamic_cast<ppgGatherLogs03Step*>(&driver_.sheet().currentPage());
     if (!progressPage_) throw CommandFailure("the wizard does not come to its progress page");
     steps_ = &driver_.control<TreeView>("treeviewSteps");
@@ -64,10 +64,10 @@ GatherWizard::GatherWizard(OpenTool& tool, const GatherRequest& request)
     overall_ = &driver_.control<ProgressBar>("progressbarOverall");
 }
 
-void GatherWizard::chooseDestination(OpenTool& tool, const GatherRequest& request)
+void GatherWizard::chooseDestination(OpenTool& tool, const GatherAnswers& answers)
 {
-    if (!request.destination.empty()) {
-        tool.desktop().answerPickers(request.destination);
+    if (!answers.destination.empty()) {
+        tool.desktop().answerPickers(answers.destination);
         driver_.control<Button>("cmdChangeDestinationDirectory").click();
         tool.desktop().answerPickers({});
     }
@@ -75,12 +75,12 @@ void GatherWizard::chooseDestination(OpenTool& tool, const GatherRequest& reques
     requireUsableDestination(tool, destination_);
 }
 
-void GatherWizard::tickLogs(const GatherRequest& request)
+void GatherWizard::tickLogs(const GatherAnswers& answers)
 {
     auto& tree = driver_.control<TreeView>("treeviewLogsToGather");
     if (tree.roots().size() < 2) throw CommandFailure("the wizard offers no logs");
-    for (const auto& name : request.logs) tickNode(tree, logNamed(*tree.roots()[0], name), name);
-    for (const auto& name : request.eventLogs)
+    for (const auto& name : answers.logs) tickNode(tree, logNamed(*tree.roots()[0], name), name);
+    for (const auto& name : answers.eventLogs)
         tickNode(tree, childNamed(*tree.roots()[1], name), name);
     driver_.next();
 }

@@ -11,8 +11,8 @@ class ppgGatherLogs03Step;
 
 namespace cli {
 
-/// What a person asks of the gather wizard.
-struct GatherRequest {
+/// What a person answers on the pages of the gather wizard.
+struct GatherAnswers {
     int option = 0;                     ///< one of `gatherOption`
     std::vector<std::string> logs;      ///< of a selection by hand, in any case
     std::vector<std::string> eventLogs; ///< the same
@@ -25,7 +25,7 @@ class GatherWizard {
 public:
     /// Answers the pages before. Raises CommandFailure for a destination that can't be written
     /// to, and for what the pages don't offer.
-    GatherWizard(OpenTool& tool, const GatherRequest& request);
+    GatherWizard(OpenTool& tool, const GatherAnswers& answers);
 
     /// Where the results go, as the tool's path.
     const std::string& destination() const { return destination_; }
@@ -48,8 +48,8 @@ public:
     void cancel() { driver_.sheet().cancel(); }
 
 private:
-    void chooseDestination(OpenTool& tool, const GatherRequest& request);
-    void tickLogs(const GatherRequest& request);
+    void chooseDestination(OpenTool& tool, const GatherAnswers& answers);
+    void tickLogs(const GatherAnswers& answers);
     void enterFrame(const TimeFrameChoice& choice);
 
     WizardDriver driver_;
