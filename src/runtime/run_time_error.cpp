@@ -2,6 +2,53 @@
 
 #include <utility>
 
+namespace {
+
+using namespace runTimeErrors;
+
+struct StandardText {
+    int number;
+    const char* text;
+};
+
+constexpr StandardText standardTexts[] = {
+    {invalidCall, "Invalid procedure call or argument"},
+    {overflow, "Overflow"},
+    {outOfMemory, "Out of memory"},
+    {subscriptOutOfRange, "Subscript out of range"},
+    {divisionByZero, "Division by zero"},
+    {typeMismatch, "Type mismatch"},
+    {outOfStringSpace, "Out of string space"},
+    {badFileNumber, "Bad file name or number"},
+    {fileNotFound, "File not found"},
+    {deviceIo, "Device I/O error"},
+    {fileAlreadyExists, "File already exists"},
+    {diskFull, "Disk full"},
+    {inputPastEnd, "Input past end of file"},
+    {permissionDenied, "Permission denied"},
+    {pathFileAccess, "Path/File access error"},
+    {pathNotFound, "Path not found"},
+    {objectVariableNotSet, "Object variable or With block variable not set"},
+    {invalidNull, "Invalid use of Null"},
+    {invalidFileFormat, "Invalid file format"},
+    {invalidPropertyValue, "Invalid property value"},
+    {objectRequired, "Object required"},
+    {cannotCreateObject, "ActiveX component can't create object"},
+    {keyAlreadyExists, "This key is already associated with an element of this collection"},
+    {keyNotFound, "Element not found"},
+    {keyNotUnique, "Key is not unique in collection"},
+    {3021, "Either BOF or EOF is True, or the current record has been deleted. Requested operation "
+           "requires a current record."},
+    {3704, "Operation is not allowed when the object is closed."},
+    {3705, "Operation is not allowed when the object is open."},
+    {connectionClosed, "The connection cannot be used to perform this operation. It is either "
+                       "closed or invalid in this context."},
+    {itemNotInCollection,
+     "Item cannot be found in the collection corresponding to the requested name or ordinal."},
+};
+
+} // namespace
+
 RunTimeError::RunTimeError(int number) : number_(number), description_(standardErrorText(number)) {}
 
 RunTimeError::RunTimeError(int number, std::string description)
@@ -10,72 +57,7 @@ RunTimeError::RunTimeError(int number, std::string description)
 
 std::string standardErrorText(int number)
 {
-    using namespace runTimeErrors;
-    switch (number) {
-    case invalidCall:
-        return "Invalid procedure call or argument";
-    case overflow:
-        return "Overflow";
-    case outOfMemory:
-        return "Out of memory";
-    case subscriptOutOfRange:
-        return "Subscript out of range";
-    case divisionByZero:
-        return "Division by zero";
-    case typeMismatch:
-        return "Type mismatch";
-    case outOfStringSpace:
-        return "Out of string space";
-    case badFileNumber:
-        return "Bad file name or number";
-    case fileNotFound:
-        return "File not found";
-    case deviceIo:
-        return "Device I/O error";
-    case fileAlreadyExists:
-        return "File already exists";
-    case diskFull:
-        return "Disk full";
-    case inputPastEnd:
-        return "Input past end of file";
-    case permissionDenied:
-        return "Permission denied";
-    case pathFileAccess:
-        return "Path/File access error";
-    case pathNotFound:
-        return "Path not found";
-    case objectVariableNotSet:
-        return "Object variable or With block variable not set";
-    case invalidNull:
-        return "Invalid use of Null";
-    case invalidFileFormat:
-        return "Invalid file format";
-    case invalidPropertyValue:
-        return "Invalid property value";
-    case objectRequired:
-        return "Object required";
-    case cannotCreateObject:
-        return "ActiveX component can't create object";
-    case keyAlreadyExists:
-        return "This key is already associated with an element of this collection";
-    case keyNotFound:
-        return "Element not found";
-    case keyNotUnique:
-        return "Key is not unique in collection";
-    case 3021:
-        return "Either BOF or EOF is True, or the current record has been deleted. Requested "
-               "operation requires a current record.";
-    case 3704:
-        return "Operation is not allowed when the object is closed.";
-    case 3705:
-        return "Operation is not allowed when the object is open.";
-    case connectionClosed:
-        return "The connection cannot be used to perform this operation. It is either closed or "
-               "invalid in this context.";
-    case itemNotInCollection:
-        return "Item cannot be found in the collection corresponding to the requested name or "
-               "ordinal.";
-    default:
-        return "Application-defined or object-defined error";
-    }
+    for (const auto& standard : standardTexts)
+        if (standard.number == number) return standard.text;
+    return "Application-defined or object-defined error";
 }
