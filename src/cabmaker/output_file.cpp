@@ -3,21 +3,15 @@
 #include <cerrno>
 #include <utility>
 
+#include "cabmaker/told_failure.h"
 #include "system/system_error.h"
 
 namespace cabmaker {
 
 namespace {
 
-template <typename Act>
-auto writing(const std::string& path, Act&& act)
-{
-    try {
-        return act();
-    } catch (const RunTimeError& error) {
-        throw toldWith("cannot write " + path, error);
-    }
-}
+constexpr const char* cannotRead = "cannot read";
+constexpr const char* cannotWrite = "cannot write";
 
 std::string_view textOf(std::span<const std::uint8_t> bytes)
 {
@@ -27,7 +21,7 @@ std::string_view textOf(std::span<const std::uint8_t> bytes)
 } // namespace
 
 OutputFile::OutputFile(std::string path)
-    : path_(std::move(path)), file_(writing(path_, [this] {
+    : path_(std::move(path)), file_(tellingFailure(cannotWrite, path_, [this] {
           return ReplacementFile(RootFolder("/", RootFolder::Bounds::machine), path_);
       }))
 {}
@@ -49,27 +43,27 @@ void OutputFile::overwrite(std::uint64_t offset, std::span<const std::uint8_t> b
 }
 
 void OutputFile::readBack(std::uint64_t offset, std::span<std::uint8_t> bytes) const
-try {
-    if (readAt(file_.file(), reinterpret_cast<char*>(bytes.data()), bytes.size(), offset) <
-        bytes.size())
-        throw systemError(EIO, runTimeErrors::deviceIo);
-} catch (const RunTimeError& error) {
-    throw toldWith("cannot read " + path_, error);
+{
+    tellingFailure(cannotRead, path_, [&] {
+        if (readAt(file_.file(), reinterpret_cast<char*>(bytes.data()), bytes.size(), offset) <
+            bytes.size())
+            throw systemError(EIO, runTimeErrors::deviceIo);
+    });
 }
 
 void OutputFile::close()
 {
-    writing(path_, [this] { file_.close(); });
+    tellingFailure(cannotWrite, path_, [this] { file_.close(); });
 }
 
 void OutputFile::publish()
 {
-    writing(path_, [this] { file_.commit(false); });
+    tellingFailure(cannotWrite, path_, [this] { file_.commit(false); });
 }
 
 void OutputFile::write(std::uint64_t offset, std::span<const std::uint8_t> bytes)
 {
-    writing(path_, [&] {
+    tellingFailure(cannotWrite, path_, [&] {
         if (writeBytesAt(file_.file(), textOf(bytes), offset) < bytes.size())
             throw systemError(errno, runTimeErrors::deviceIo);
     });

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <utility>
 
+#include "cabmaker/told_failure.h"
 #include "system/file_bytes.h"
 #include "system/root_folder.h"
 #include "system/system_error.h"
@@ -20,21 +21,13 @@ SourceFacts sourceFactsOf(const FileFacts& facts)
             .readOnly = facts.readOnly};
 }
 
-template <typename Act>
-auto reading(const std::string& shownName, Act&& act)
-{
-    try {
-        return act();
-    } catch (const RunTimeError& error) {
-        throw toldWith("cannot read " + shownName, error);
-    }
-}
+constexpr const char* cannotRead = "cannot read";
 
 } // namespace
 
 SourceFacts sourceFacts(const std::string& path, const std::string& shownName)
 {
-    const FileFacts facts = reading(shownName, [&] {
+    const FileFacts facts = tellingFailure(cannotRead, shownName, [&] {
         const auto found = RootFolder("/", RootFolder::Bounds::machine).facts(path);
         if (!found) throw systemError(ENOENT, runTimeErrors::fileNotFound);
         return *found;
@@ -61,7 +54,7 @@ CabinetTime cabinetTime(std::time_t moment)
 
 SourceReader::SourceReader(std::string path, std::string shownName, const SourceFacts& facts)
     : path_(std::move(path)), shownName_(std::move(shownName)), facts_(facts),
-      remaining_(facts.bytes), file_(reading(shownName_, [this] {
+      remaining_(facts.bytes), file_(tellingFailure(cannotRead, shownName_, [this] {
           return openMachineFile(path_, forReading, runTimeErrors::fileNotFound);
       }))
 {}
@@ -71,7 +64,7 @@ std::size_t SourceReader::read(std::span<std::uint8_t> target)
     const auto wanted =
         static_cast<std::size_t>(std::min<std::uint64_t>(remaining_, target.size()));
     if (wanted == 0) return 0;
-    const std::size_t count = reading(shownName_, [&] {
+    const std::size_t count = tellingFailure(cannotRead, shownName_, [&] {
         return readSome(file_, reinterpret_cast<char*>(target.data()), wanted);
     });
     if (count == 0) refuse();
@@ -81,7 +74,8 @@ std::size_t SourceReader::read(std::span<std::uint8_t> target)
 
 void SourceReader::finish()
 {
-    const FileFacts facts = reading(shownName_, [this] { return factsOf(file_); });
+    const FileFacts facts =
+        tellingFailure(cannotRead, shownName_, [this] { return factsOf(file_); });
     // The open file may have lost its name meanwhile, so both are looked at.
     if (sourceFactsOf(facts) != facts_ || sourceFacts(path_, shownName_) != facts_) refuse();
 }
