@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/log_name_parts.h"
 #include "runtime/dates.h"
 
 #include <string>
@@ -7,14 +8,7 @@
 
 struct ToolContext;
 
-/// What the names of log files are made of: `diag_PROCESS_20051008_152307.txt` for a log of a
-/// process, `data_...` for a data file, `..._fmtd.txt` for a formatted copy.
 namespace logFileNames {
-
-constexpr std::string_view diagnosticPrefix = "diag_";
-constexpr std::string_view dataPrefix = "data_";
-constexpr std::string_view ending = ".txt";
-constexpr std::string_view formattedTag = "_fmtd";
 
 /// Patterns for `FileSystem::matching`, without a folder: all logs, all data files, and the logs of
 /// one process; formatted copies match too.

@@ -1,15 +1,28 @@
 #include "sample/log_plan.h"
 
+#include "platform/log_name_parts.h"
+
 namespace sample {
+
+namespace {
+
+std::string fileName(std::string_view prefix, const LogPeriod& period)
+{
+    std::string name(prefix);
+    name.append(nameOf(period.process)).append("_").append(fileStamp(period.opened));
+    return name.append(logFileNames::ending);
+}
+
+} // namespace
 
 std::string LogPeriod::logName() const
 {
-    return "diag_" + std::string(nameOf(process)) + '_' + fileStamp(opened) + ".txt";
+    return fileName(logFileNames::diagnosticPrefix, *this);
 }
 
 std::string LogPeriod::dataName() const
 {
-    return "data_" + std::string(nameOf(process)) + '_' + fileStamp(opened) + ".txt";
+    return fileName(logFileNames::dataPrefix, *this);
 }
 
 std::vector<LogPeriod> drawLogPlan(Random& random)

@@ -1,5 +1,7 @@
 #include "sample/log_writer.h"
 
+#include "platform/log_name_parts.h"
+
 namespace sample {
 
 namespace {
@@ -15,7 +17,7 @@ bool isFormattedInPlace(const LogPeriod& period)
 std::string formattedName(const LogPeriod& period)
 {
     std::string name = period.logName();
-    return name.insert(name.find('.'), "_fmtd");
+    return name.insert(name.find('.'), logFileNames::formattedTag);
 }
 
 } // namespace
