@@ -50,32 +50,15 @@ Platform exchanged(Platform services, FileSystem& files, Registry& registry,
 
 } // namespace
 
-bool LookingRegistry::keyExists(std::uint32_t hive, const std::string& path) const
-{
-    return registry_.keyExists(hive, path);
-}
-
 std::optional<bool> LookingRegistry::createKey(std::uint32_t hive, const std::string& path)
 {
-    return registry_.keyExists(hive, path);
-}
-
-std::optional<RegistryValue> LookingRegistry::value(std::uint32_t hive, const std::string& path,
-                                                    const std::string& name) const
-{
-    return registry_.value(hive, path, name);
+    return behind().keyExists(hive, path);
 }
 
 bool LookingRegistry::setValue(std::uint32_t hive, const std::string& path, const std::string&,
                                const RegistryValue&)
 {
-    return registry_.keyExists(hive, path);
-}
-
-std::optional<std::vector<std::string>> LookingRegistry::subkeys(std::uint32_t hive,
-                                                                 const std::string& path) const
-{
-    return registry_.subkeys(hive, path);
+    return behind().keyExists(hive, path);
 }
 
 std::int32_t LookingEventReporter::registerTool(const std::string& moduleName)

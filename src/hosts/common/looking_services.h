@@ -1,9 +1,9 @@
 #pragma once
 
+#include "hosts/common/registry_reader.h"
 #include "platform/event_reporter.h"
 #include "platform/file_system.h"
 #include "platform/platform.h"
-#include "platform/registry.h"
 
 #include <functional>
 #include <memory>
@@ -11,21 +11,13 @@
 #include <vector>
 
 /// A registry that is read alone. The tool is told that its keys are made and its values written.
-class LookingRegistry final : public Registry {
+class LookingRegistry final : public RegistryReader {
 public:
-    explicit LookingRegistry(Registry& registry) : registry_(registry) {}
+    explicit LookingRegistry(Registry& registry) : RegistryReader(registry) {}
 
-    bool keyExists(std::uint32_t hive, const std::string& path) const override;
     std::optional<bool> createKey(std::uint32_t hive, const std::string& path) override;
-    std::optional<RegistryValue> value(std::uint32_t hive, const std::string& path,
-                                       const std::string& name) const override;
     bool setValue(std::uint32_t hive, const std::string& path, const std::string& name,
                   const RegistryValue& value) override;
-    std::optional<std::vector<std::string>> subkeys(std::uint32_t hive,
-                                                    const std::string& path) const override;
-
-private:
-    Registry& registry_;
 };
 
 /// An event reporter that formats lines and takes events without reporting them.

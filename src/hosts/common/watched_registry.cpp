@@ -11,28 +11,17 @@ std::string permissionDenied()
 
 } // namespace
 
-bool WatchedRegistry::keyExists(std::uint32_t hive, const std::string& path) const
-{
-    return registry_.keyExists(hive, path);
-}
-
 std::optional<bool> WatchedRegistry::createKey(std::uint32_t hive, const std::string& path)
 {
     const std::string what = "key \"" + path + "\"";
     try {
-        const auto existed = registry_.createKey(hive, path);
+        const auto existed = behind().createKey(hive, path);
         if (!existed) note(what, permissionDenied());
         return existed;
     } catch (const RunTimeError& error) {
         note(what, error.description());
         throw;
     }
-}
-
-std::optional<RegistryValue> WatchedRegistry::value(std::uint32_t hive, const std::string& path,
-                                                    const std::string& name) const
-{
-    return registry_.value(hive, path, name);
 }
 
 bool WatchedRegistry::setValue(std::uint32_t hive, const std::string& path, const std::string& name,
@@ -42,19 +31,13 @@ bool WatchedRegistry::setValue(std::uint32_t hive, const std::string& path, cons
         ofValues_.emplace(name, note("value \"" + name + "\"", why));
     };
     try {
-        const bool written = registry_.setValue(hive, path, name, value);
-        if (!written && registry_.keyExists(hive, path)) noteValue(permissionDenied());
+        const bool written = behind().setValue(hive, path, name, value);
+        if (!written && behind().keyExists(hive, path)) noteValue(permissionDenied());
         return written;
     } catch (const RunTimeError& error) {
         noteValue(error.description());
         throw;
     }
-}
-
-std::optional<std::vector<std::string>> WatchedRegistry::subkeys(std::uint32_t hive,
-                                                                 const std::string& path) const
-{
-    return registry_.subkeys(hive, path);
 }
 
 std::string WatchedRegistry::refusalOf(const std::string& value) const

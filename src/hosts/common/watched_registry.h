@@ -1,25 +1,20 @@
 #pragma once
 
-#include "platform/registry.h"
+#include "hosts/common/registry_reader.h"
 
 #include <map>
 #include <string>
 
 /// The site's registry, with a note of what it refused: the tool goes on after a value that was not
 /// written, and tells nobody.
-class WatchedRegistry final : public Registry {
+class WatchedRegistry final : public RegistryReader {
 public:
     /// `registry` outlives it.
-    explicit WatchedRegistry(Registry& registry) : registry_(registry) {}
+    explicit WatchedRegistry(Registry& registry) : RegistryReader(registry) {}
 
-    bool keyExists(std::uint32_t hive, const std::string& path) const override;
     std::optional<bool> createKey(std::uint32_t hive, const std::string& path) override;
-    std::optional<RegistryValue> value(std::uint32_t hive, const std::string& path,
-                                       const std::string& name) const override;
     bool setValue(std::uint32_t hive, const std::string& path, const std::string& name,
                   const RegistryValue& value) override;
-    std::optional<std::vector<std::string>> subkeys(std::uint32_t hive,
-                                                    const std::string& path) const override;
 
     /// The first write since `forget` that was refused, and why, as the end of a sentence; empty
     /// when there was none. A value of a key that is not there is none: no one was to write it.
@@ -33,7 +28,6 @@ public:
 private:
     std::string note(const std::string& what, const std::string& why);
 
-    Registry& registry_;
     std::string first_;
     std::map<std::string, std::string> ofValues_;
 };
