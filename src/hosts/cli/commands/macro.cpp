@@ -3,6 +3,7 @@
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/driving/known_names.h"
 #include "hosts/cli/driving/trace_check.h"
+#include "hosts/cli/driving/trace_choice.h"
 #include "hosts/cli/driving/wizard_driver.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/terminal/output.h"
@@ -79,18 +80,16 @@ public:
     void declare(Arguments& arguments) override
     {
         set_ = arguments.addCommand("set", "Turn macro traces on and off");
-        set_.add("--on", on_, "turn on, as in \"GROUP - TRACE\"").called("NAME");
-        set_.add("--off", off_, "turn off").called("NAME");
+        set_.add("--on", choice_.on, "turn on, as in \"GROUP - TRACE\"").called("NAME");
+        set_.add("--off", choice_.off, "turn off").called("NAME");
     }
 
     void run(const GlobalOptions& options, Output& output) override
     {
-        if (set_.given() && on_.empty() && off_.empty())
+        if (set_.given() && choice_.empty())
             throw UsageError("macro set needs an --on or an --off");
-        for (const auto& on : on_)
-            for (const auto& off : off_)
-                if (equalIgnoringCase(on, off))
-                    throw UsageError("\"" + on + "\" is to be turned on and off");
+        if (const std::string* both = choice_.contradiction(equalIgnoringCase))
+            throw UsageError("\"" + *both + "\" is to be turned on and off");
         OpenTool tool(options, set_.given() ? ToolUse::change : ToolUse::look,
                       [&](OpenTool& opened) { requireMacroTraces(opened, output); });
         if (set_.given())
@@ -106,10 +105,10 @@ private:
         for (const auto& file : passedOver)
             output.message(file + " is passed over: it is no definition of macro traces");
         if (!set_.given()) return;
-        for (const auto* names : {&on_, &off_})
-            for (const auto& name : *names)
-                if (std::find(known.begin(), known.end(), name) == known.end())
-                    throw noSuchMacroTrace(name);
+        choice_.forEach([&](const std::string& name) {
+            if (std::find(known.begin(), known.end(), name) == known.end())
+                throw noSuchMacroTrace(name);
+        });
     }
 
     static void list(OpenTool& tool, Output& output)
@@ -143,10 +142,7 @@ private:
             WizardDriver wizard(tool, snapinTask::configureMacroTrace);
             wizard.next();
             auto& tree = wizard.control<TreeView>("treeviewMacroTrace");
-            for (const auto* names : {&on_, &off_})
-                for (const auto& name : *names) macroTraceNode(tree, name);
-            for (const auto& name : off_) wizard.choose(tree, macroTraceNode(tree, name), false);
-            for (const auto& name : on_) wizard.choose(tree, macroTraceNode(tree, name), true);
+            choice_.make(wizard, tree, macroTraceNode);
             check.expect(expectedOfMacroTraces(tool.context(), tree, check.present()));
             wizard.next();
             summary = wizard.control<Label>("lblSummary").caption();
@@ -161,8 +157,7 @@ private:
     }
 
     Arguments set_;
-    std::vector<std::string> on_;
-    std::vector<std::string> off_;
+    TraceChoice<std::string> choice_;
 };
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/driving/known_names.h"
 #include "hosts/cli/driving/trace_check.h"
+#include "hosts/cli/driving/trace_choice.h"
 #include "hosts/cli/driving/wizard_driver.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/terminal/output.h"
@@ -44,6 +45,12 @@ struct LevelName {
     std::string component;
     int level;
 };
+
+/// The same level of the same component, in whatever case its name is written.
+bool isSameLevel(const LevelName& left, const LevelName& right)
+{
+    return left.level == right.level && equalIgnoringCase(left.component, right.component);
+}
 
 /// The parts of "COMPONENT:LEVEL". Raises UsageError for a text of another form.
 LevelName levelName(const std::string& wanted)
@@ -171,22 +178,18 @@ public:
     {
         if (set_.given() && on_.empty() && off_.empty())
             throw UsageError("micro set needs an --on or an --off");
-        std::vector<LevelName> on;
-        std::vector<LevelName> off;
-        for (const auto& name : on_) on.push_back(levelName(name));
-        for (const auto& name : off_) off.push_back(levelName(name));
-        for (const auto& name : on)
-            for (const auto& other : off)
-                if (name.level == other.level && equalIgnoringCase(name.component, other.component))
-                    throw UsageError(textOf(name) + " is to be turned on and off");
-        OpenTool tool(options, set_.given() ? ToolUse::change : ToolUse::look,
-                      [&](OpenTool& opened) {
-                          if (!component_.empty()) requireComponent(opened, component_);
-                          for (const auto* names : {&on, &off})
-                              for (const auto& name : *names) requireLevel(opened, name);
-                      });
+        TraceChoice<LevelName> choice;
+        for (const auto& name : on_) choice.on.push_back(levelName(name));
+        for (const auto& name : off_) choice.off.push_back(levelName(name));
+        if (const LevelName* both = choice.contradiction(isSameLevel))
+            throw UsageError(textOf(*both) + " is to be turned on and off");
+        OpenTool tool(
+            options, set_.given() ? ToolUse::change : ToolUse::look, [&](OpenTool& opened) {
+                if (!component_.empty()) requireComponent(opened, component_);
+                choice.forEach([&](const LevelName& name) { requireLevel(opened, name); });
+            });
         if (set_.given())
-            set(tool, output, on, off);
+            set(tool, output, choice);
         else
             list(tool, output);
     }
@@ -253,26 +256,24 @@ private:
             output.text(text);
     }
 
-    static void set(OpenTool& tool, Output& output, const std::vector<LevelName>& on,
-                    const std::vector<LevelName>& off)
+    static void set(OpenTool& tool, Output& output, const TraceChoice<LevelName>& choice)
     {
         std::string summary;
         TraceCheck check(tool);
         std::vector<LevelName> staying;
-        if (!off.empty()) staying = defaultLevels(tool.context().g_connection, off);
+        if (!choice.off.empty()) staying = defaultLevels(tool.context().g_connection, choice.off);
         {
             const auto opened = wizardOfLevels(tool);
             WizardDriver& wizard = *opened;
             auto& tree = wizard.control<TreeView>(treeName);
             if (!tree.visible())
                 throw CommandFailure("no level can be changed: " + whereTheListEnds(tree));
-            for (const auto* names : {&on, &off})
-                for (const auto& name : *names) levelNode(tree, name);
-            for (const auto& name : off) wizard.choose(tree, levelNode(tree, name), false);
-            for (const auto& name : on) wizard.choose(tree, levelNode(tree, name), true);
+            choice.make(wizard, tree, levelNode);
             check.expect(expectedOfMicroTraces(tool.context(), tree, check.present()));
-            for (const auto& [component, level] : off) check.expectLevel(component, level, false);
-            for (const auto& [component, level] : on) check.expectLevel(component, level, true);
+            for (const auto& [component, level] : choice.off)
+                check.expectLevel(component, level, false);
+            for (const auto& [component, level] : choice.on)
+                check.expectLevel(component, level, true);
             wizard.next();
             summary = wizard.control<Label>("lblCompletionStatment").caption();
             wizard.finish();
