@@ -5,12 +5,13 @@
 # Debian's.
 build_packages=(
   ccache cmake g++ libcli11-dev libxml2-dev libsqlite3-dev ninja-build nlohmann-json3-dev
-  zlib1g-dev
+  unixodbc-dev zlib1g-dev
 )
 desktop_packages=(qt6-base-dev qt6-l10n-tools qt6-svg-dev qt6-translations-l10n)
 test_packages=(
   appstream btrfs-progs cabextract clang clang-format clang-tidy desktop-file-utils gcab
-  libclang-rt-14-dev libgmock-dev libgtest-dev librapidcheck-dev mawk mdbtools p7zip-full sqlite3
+  libclang-rt-14-dev libgmock-dev libgtest-dev librapidcheck-dev libsqliteodbc mawk mdbtools
+  odbc-postgresql p7zip-full postgresql sqlite3
 )
 coverage_packages=(gcovr)
 package_packages=(dpkg-dev file lintian)

@@ -29,6 +29,7 @@ const std::map<std::string, Layers> annexes = {
     {"cabmaker", {"runtime", "text", "system", "drives"}},
     {"backends/site", {"runtime", "text", "tracelines", "system", "drives", "platform"}},
     {"backends/jet", {"runtime", "text", "tracelines", "system", "platform"}},
+    {"backends/odbc", {"runtime", "text", "platform"}},
     {"backends/windows", {"runtime", "text", "tracelines", "system", "platform"}},
     {"sample", {"runtime", "text", "tracelines", "system", "drives", "platform", "backends/site"}},
 };

@@ -8,7 +8,14 @@ namespace {
 
 /// The libraries' own headers. Every other header in angle brackets with an ending is the
 /// machine's.
-const std::set<std::string> libraries = {"iconv.h", "sqlite3.h", "zlib.h"};
+const std::set<std::string> libraries = {"iconv.h",   "sql.h",      "sqlext.h",
+                                         "sqlite3.h", "sqlucode.h", "zlib.h"};
+
+/// Windows' own headers have to come before those of ODBC, which is a library everywhere else.
+bool isNeededByALibrary(const std::string& file, const Include& include)
+{
+    return file == "src/backends/odbc/odbc_api.h" && include.target == "windows.h";
+}
 
 bool isOfTheMachine(const Include& include)
 {
@@ -31,7 +38,7 @@ TEST(MachineHeaders, AreIncludedWhereTheCodeForOneSystemLies)
             if (!isOfTheMachine(include)) continue;
             if (isCodeForOneSystem(file))
                 ++found;
-            else
+            else if (!isNeededByALibrary(file, include))
                 violations.push_back(file + " includes <" + include.target + ">");
         }
     EXPECT_THAT(violations, testing::IsEmpty());

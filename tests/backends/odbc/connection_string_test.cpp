@@ -1,0 +1,97 @@
+#include "backends/odbc/connection_string.h"
+
+#include "support/error_of.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+constexpr const char* toolsOwn =
+    "Provider=SQLOLEDB.1;Integrated Security=SSPI;Persist Security Info=False;Initial "
+    "Catalog=OrvanDirDb;Data Source=(local)\\kelmaorvan";
+
+const Names drivers = {"SQLite3", "PostgreSQL Unicode"};
+
+TEST(ServerDriver, IsTheNewestByItsNumber)
+{
+    EXPECT_EQ("ODBC Driver 18 for SQL Server",
+              newestServerDriver(Names{"SQL Server", "ODBC Driver 9 for SQL Server",
+                                       "ODBC Driver 18 for SQL Server",
+                                       "ODBC Driver 17 for SQL Server"}));
+    EXPECT_EQ("SQL Server Native Client 11.0",
+              newestServerDriver(Names{"SQL Server Native Client 11.0", "SQL Server Native Client",
+                                       "SQL Server Native Client 10.0"}));
+}
+
+TEST(ServerDriver, OfAnOlderFamilyServesWhereThereIsNoNewerOne)
+{
+    EXPECT_EQ("ODBC Driver 13 for SQL Server",
+              newestServerDriver(
+                  Names{"SQL Server Native Client 11.0", "ODBC Driver 13 for SQL Server"}));
+    EXPECT_EQ("SQL Server Native Client 11.0",
+              newestServerDriver(Names{"SQL Server", "SQL Server Native Client 11.0"}));
+    EXPECT_EQ("SQL Server", newestServerDriver(Names{"SQLite3", "SQL Server"}));
+}
+
+TEST(ServerDriver, IsNoneOfAnotherServer)
+{
+    EXPECT_EQ(std::nullopt, newestServerDriver({}));
+    EXPECT_EQ(std::nullopt, newestServerDriver(Names{"PostgreSQL Unicode", "SQLite3",
+                                                     "SQL Server Compact", "ODBC Driver 18"}));
+}
+
+TEST(ConnectionString, OfTheToolBecomesOneOfOdbc)
+{
+    EXPECT_EQ("Driver=SQL Server;Server=(local)\\kelmaorvan;Database=OrvanDirDb;"
+              "Trusted_Connection=yes;TrustServerCertificate=yes",
+              odbcConnectionString(toolsOwn, "SQL Server", "", ""));
+}
+
+TEST(ConnectionString, OfTheToolGoesByTheAdministratorsAccountWhateverUserIsGiven)
+{
+    EXPECT_NE(std::string::npos,
+              odbcConnectionString(toolsOwn, "SQL Server", "sa", "x").find("Trusted_Connection"));
+    EXPECT_EQ("Driver=D;Server=here;UID=me;PWD={a;}}b};TrustServerCertificate=yes",
+              odbcConnectionString("data source = here ", "D", "me", "a;}b"));
+}
+
+TEST(ConnectionString, WithoutAServerIsRefused)
+{
+    for (const char* none : {"", ";;;", "Data Source", "Data Source=", "garbage"})
+        EXPECT_EQ(-2147467259, errorOf([&] { odbcConnectionString(none, "D", "", ""); })) << none;
+}
+
+TEST(ConnectionStringOfASource, IsTheSourceItselfOrItsName)
+{
+    EXPECT_EQ("driver=PostgreSQL Unicode;Server=here;Port=5432;PWD={a;b=c}",
+              connectionStringOfSource(
+                  " driver = {PostgreSQL Unicode}; Server=here;;Port=5432;PWD={a;b=c} ;", drivers));
+    EXPECT_EQ("DSN=OrvanDirDb", connectionStringOfSource("OrvanDirDb", drivers));
+    EXPECT_EQ("DSN={Orvan;Dir}", connectionStringOfSource("Orvan;Dir", drivers));
+}
+
+TEST(ConnectionStringOfASource, MakesNoFile)
+{
+    EXPECT_EQ("Driver=SQLite3;Database=x;NoCreat=1",
+              connectionStringOfSource("Driver=SQLite3;NoCreat=0;Database=x", drivers));
+}
+
+TEST(ConnectionStringOfASource, NamesNoFileToLoadOrToWrite)
+{
+    for (const char* source :
+         {"Driver=/tmp/driver.so;Server=x", "Driver={/tmp/driver.so}", "Driver=None",
+          "Driver=SQLite3;LoadExt=/tmp/x.so", "Driver=SQLite3;loadext=/tmp/x.so", "FILEDSN=/tmp/x",
+          "DSN=a;SAVEFILE=/tmp/x", "Driver=SQLite3;Driver=/tmp/x.so",
+          "Driver=SQLite3;dRiVeR=/tmp/x.so", "Driver=PostgreSQL Unicode;pqopt={sslkey=x}",
+          "Driver=PostgreSQL Unicode;ConnSettings=DROP", "Driver={SQLite3;Database=x",
+          "Driver={SQLite3}x;Database=x", "Driver={SQLite3} ;Driver={/x}", "Server=here", "=",
+          "a=", ";;=;;", "Driver=;DSN="})
+        EXPECT_EQ(-2147467259, errorOf([&] { connectionStringOfSource(source, drivers); }))
+            << source;
+    EXPECT_EQ(-2147467259,
+              errorOf([] { connectionStringOfSource(std::string(100'000, 'x'), drivers); }));
+}
+
+} // namespace
