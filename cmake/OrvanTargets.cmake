@@ -15,6 +15,11 @@ target_compile_options(orvan_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow
 set(old_gcc $<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>)
 target_compile_options(orvan_options INTERFACE
   $<${old_gcc}:-Wno-restrict> $<${old_gcc}:-Wno-maybe-uninitialized>)
+# Where sources are compiled together, each one's own names are no header's though the compiler sees
+# it included, and what it calls its variables is nothing to the next one.
+set(together $<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>)
+target_compile_options(orvan_options INTERFACE
+  $<${together}:-Wno-shadow> $<$<AND:${together},$<CXX_COMPILER_ID:GNU>>:-Wno-subobject-linkage>)
 if(ORVAN_SANITIZE)
   target_compile_options(orvan_options INTERFACE
     -fsanitize=${ORVAN_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -23,6 +28,21 @@ endif()
 if(ORVAN_FUZZ)
   target_compile_options(orvan_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
+
+# compiled_together(TARGET APART a.cpp ...): with ORVAN_TOGETHER, up to eight of its sources are
+# compiled as one. Headers, most of all those of GoogleMock, Qt, CLI11 and JSON, and what is made
+# from their templates take longer to compile than what stands in a source. APART are the sources
+# that give something a name of their own which another source has too.
+function(compiled_together target)
+  cmake_parse_arguments(arg "" "" "APART" ${ARGN})
+  if(NOT ORVAN_TOGETHER)
+    return()
+  endif()
+  set_target_properties(${target} PROPERTIES UNITY_BUILD ON)
+  if(arg_APART)
+    set_source_files_properties(${arg_APART} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+  endif()
+endfunction()
 
 # A folder of src/: orvan_folder(NAME SOURCES a.cpp b.cpp LINKS orvan_core ... PRIVATE_LINKS ...)
 #
@@ -39,12 +59,12 @@ function(orvan_folder name)
   endif()
 endfunction()
 
-# A test program: orvan_test(NAME SOURCES a_test.cpp ... LINKS orvan_x ...)
+# A test program: orvan_test(NAME SOURCES a_test.cpp ... APART a_test.cpp ... LINKS orvan_x ...)
 #
 # Makes NAME_test, linked with GoogleTest, GoogleMock and tests/support, and registers it. The tests
 # of runtime, which knows nothing of a tool, go without tests/support.
 function(orvan_test name)
-  cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;APART;LINKS" ${ARGN})
   add_executable(${name}_test ${arg_SOURCES})
   target_link_libraries(${name}_test PRIVATE
     orvan_options ${arg_LINKS} GTest::gmock GTest::gtest GTest::gtest_main)
@@ -52,6 +72,7 @@ function(orvan_test name)
   if(TARGET orvan_test_support AND NOT name STREQUAL "runtime")
     target_link_libraries(${name}_test PRIVATE orvan_test_support)
   endif()
+  compiled_together(${name}_test APART ${arg_APART})
   add_test(NAME ${name} COMMAND ${name}_test)
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 120)

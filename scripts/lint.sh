@@ -51,8 +51,14 @@ changed_sources() {
 lint() {
   say "clang-tidy, sources: $#"
   command -v clang-tidy >/dev/null || { say "there is no clang-tidy here"; return 1; }
+  local commands=build/dev
+  # Sources that are compiled together have no commands of their own there.
+  if grep -qsx 'ORVAN_TOGETHER:BOOL=ON' build/dev/CMakeCache.txt; then
+    commands=build/lint
+    cmake --preset dev -B "$commands" -DORVAN_TOGETHER=OFF >/dev/null || return 1
+  fi
   # What it says on standard error counts what it passed over in the headers of others.
-  printf '%s\0' "$@" | xargs -0 -P "$(nproc)" -n 1 clang-tidy -p build/dev --quiet 2>/dev/null
+  printf '%s\0' "$@" | xargs -0 -P "$(nproc)" -n 1 clang-tidy -p "$commands" --quiet 2>/dev/null
 }
 
 # A run of everything takes minutes, so a change of many sources is looked at in part.

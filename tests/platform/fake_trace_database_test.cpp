@@ -3,9 +3,9 @@
 
 namespace {
 
-class FakeMachine {
+class MachineOfTraces {
 public:
-    FakeMachine() { engine_.with(path()).damaged(damagedPath()); }
+    MachineOfTraces() { engine_.with(path()).damaged(damagedPath()); }
 
     TraceDatabaseEngine& engine() { return engine_; }
     std::string path() const { return "C:\\Temp\\trace.mdb"; }
@@ -17,7 +17,7 @@ private:
     FakeTraceDatabaseEngine engine_;
 };
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Fake, TraceDatabaseContract, FakeMachine);
+INSTANTIATE_TYPED_TEST_SUITE_P(Fake, TraceDatabaseContract, MachineOfTraces);
 
 TEST(FakeTraceDatabase, FailsAtTheCallThatItIsToldTo)
 {

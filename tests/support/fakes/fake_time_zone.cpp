@@ -8,7 +8,7 @@ namespace {
 
 using Minutes = std::chrono::sys_time<std::chrono::minutes>;
 
-std::chrono::year_month_day dateOf(int year, int month, int day)
+std::chrono::year_month_day calendarDate(int year, int month, int day)
 {
     return std::chrono::year{year} / std::chrono::month(static_cast<unsigned>(month)) /
            std::chrono::day(static_cast<unsigned>(day));
@@ -41,7 +41,7 @@ bool daylightAt(const TimeZoneInformation& zone, Minutes universal)
 bool isMoment(const SystemTime& moment)
 {
     return moment.month >= 1 && moment.month <= 12 && moment.day >= 1 &&
-           dateOf(moment.year, moment.month, moment.day).ok() && moment.year >= 1601 &&
+           calendarDate(moment.year, moment.month, moment.day).ok() && moment.year >= 1601 &&
            moment.hour >= 0 && moment.hour < 24 && moment.minute >= 0 && moment.minute < 60 &&
            moment.second >= 0 && moment.second < 60 && moment.milliseconds >= 0 &&
            moment.milliseconds < 1000;
@@ -89,7 +89,7 @@ SystemTime FakeTimeZone::toLocal(const TimeZoneInformation& zone, const SystemTi
 {
     using namespace std::chrono;
     if (!isMoment(universal)) throw RunTimeError(runTimeErrors::invalidCall);
-    const Minutes moment = sys_days(dateOf(universal.year, universal.month, universal.day)) +
+    const Minutes moment = sys_days(calendarDate(universal.year, universal.month, universal.day)) +
                            hours{universal.hour} + minutes{universal.minute};
     const int extra = daylightAt(zone, moment) ? zone.daylightBias : zone.standardBias;
     const Minutes local = moment - minutes{zone.bias + extra};

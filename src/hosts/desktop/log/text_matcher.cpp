@@ -9,7 +9,7 @@ namespace desktop {
 
 namespace {
 
-char16_t lowered(char16_t character)
+char16_t lowerCase(char16_t character)
 {
     return QChar(character).toLower().unicode();
 }
@@ -18,9 +18,9 @@ char16_t lowered(char16_t character)
 
 TextMatcher::TextMatcher(const CodePage& codePage, std::u16string_view text) : text_(text)
 {
-    std::transform(text_.begin(), text_.end(), text_.begin(), lowered);
+    std::transform(text_.begin(), text_.end(), text_.begin(), lowerCase);
     for (std::size_t byte = 0; byte < folded_.size(); ++byte)
-        folded_[byte] = lowered(codePage.character(static_cast<char>(byte)));
+        folded_[byte] = lowerCase(codePage.character(static_cast<char>(byte)));
 }
 
 bool TextMatcher::in(std::string_view bytes) const
