@@ -1,5 +1,6 @@
 #include "backends/site/xml/libxml_documents.h"
 
+#include "runtime/required_object.h"
 #include "support/error_of.h"
 #include "support/test_tool.h"
 
