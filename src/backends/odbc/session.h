@@ -2,6 +2,7 @@
 
 #include "backends/odbc/diagnostic.h"
 #include "backends/odbc/odbc_api.h"
+#include "backends/odbc/odbc_use.h"
 #include "backends/odbc/server_kind.h"
 
 #include <chrono>
@@ -14,9 +15,6 @@ struct OdbcPatience {
     std::chrono::seconds login{15};
     std::chrono::seconds statement{30};
 };
-
-/// What a connection is for. One that looks runs no procedure.
-enum class OdbcUse { change, look };
 
 /// What a statement was to do.
 enum class Asked { query, call };

@@ -114,10 +114,11 @@ SitePlace Site::toolFolder() const
     return paths_.place(settings_.toolFolder);
 }
 
-Platform Site::platform(Desktop& desktop, TraceDatabaseEngine& traceDatabases)
+Platform Site::platform(Desktop& desktop, TraceDatabaseEngine& traceDatabases,
+                        DatabaseConnection& directory)
 {
     return {files_,     registry_,     clock_,  timeZone_,  eventReporter_, eventLogExporter_,
-            processes_, workstation_,  module_, languages_, desktop,        database_,
+            processes_, workstation_,  module_, languages_, desktop,        directory,
             xml_,       traceDatabases};
 }
 

@@ -48,9 +48,16 @@ public:
     /// database must be closed still. Raises 70, 61, 57.
     void startChanges();
 
-    /// The services, with the desktop and the trace databases that the host composes. They live as
-    /// long as the site.
-    Platform platform(Desktop& desktop, TraceDatabaseEngine& traceDatabases);
+    /// The services, with the desktop, the trace databases and the directory database that the host
+    /// composes. They live as long as the site.
+    Platform platform(Desktop& desktop, TraceDatabaseEngine& traceDatabases,
+                      DatabaseConnection& directory);
+
+    /// The same with the site's own directory database.
+    Platform platform(Desktop& desktop, TraceDatabaseEngine& traceDatabases)
+    {
+        return platform(desktop, traceDatabases, database_);
+    }
 
     const std::string& folder() const { return paths_.siteFolder(); }
 

@@ -51,6 +51,8 @@ bool hasHiddenCharacter(std::string_view text)
     return text.find('\t') != std::string_view::npos;
 }
 
+enum class Section { none, site, database, other };
+
 /// Reads the lines one by one and knows where it stands, for its messages.
 class Parser {
 public:
@@ -82,17 +84,33 @@ private:
         if (line.empty() || line.front() == ';' || line.front() == '#') return;
         if (line.front() == '[') {
             if (line.back() != ']') fail("a section without \"]\"");
-            inSite_ = sameName(trimmed(line.substr(1, line.size() - 2)), "site");
-            inOther_ = !inSite_;
+            section_ = sectionOf(trimmed(line.substr(1, line.size() - 2)));
             return;
         }
-        if (inOther_) return;
+        if (section_ == Section::other) return;
         const auto equals = line.find('=');
         if (equals == std::string_view::npos) fail("neither a section nor \"key = value\"");
-        if (!inSite_) fail("a key before the section [site]");
+        if (section_ == Section::none) fail("a key before the section [site]");
         const auto key = trimmed(line.substr(0, equals));
         if (!seen_.insert(foldCase(key)).second) fail("a second \"" + std::string(key) + "\"");
-        assign(key, unquoted(trimmed(line.substr(equals + 1))));
+        const std::string value = unquoted(trimmed(line.substr(equals + 1)));
+        if (section_ == Section::database)
+            assignOfDatabase(key, value);
+        else
+            assign(key, value);
+    }
+
+    static Section sectionOf(std::string_view name)
+    {
+        if (sameName(name, "site")) return Section::site;
+        return sameName(name, "database") ? Section::database : Section::other;
+    }
+
+    void assignOfDatabase(std::string_view key, const std::string& value)
+    {
+        if (!sameName(key, "odbc")) fail("unknown key \"" + std::string(key) + "\"");
+        if (hasHiddenCharacter(value)) fail("odbc has a character that can't be seen");
+        if (!value.empty()) settings_.odbc = value;
     }
 
     static std::string unquoted(std::string_view value)
@@ -197,8 +215,7 @@ private:
     SiteSettings settings_;
     std::set<std::string> seen_;
     int lineNumber_ = 0;
-    bool inSite_ = false;
-    bool inOther_ = false;
+    Section section_ = Section::none;
 };
 
 } // namespace

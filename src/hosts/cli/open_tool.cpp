@@ -44,7 +44,7 @@ OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check
       use_(use)
 {
     const bool changes = use != ToolUse::look && writable();
-    site().database().another().waitAsOneRun(); // all connections share the patience
+    database().waitAsOneRun();
     if (check) check(*this);
     if (use == ToolUse::change) turn_.emplace(takeTurn());
     if (use != ToolUse::look) interrupt_.emplace();

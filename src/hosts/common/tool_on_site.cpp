@@ -11,11 +11,12 @@ ToolOnSite::ToolOnSite(const std::string& folder, const std::string& installedDa
     : use_(use), site_(folder, installedData, facts, use),
       traceDatabases_([this](const std::string& path) { return machinePath(path); },
                       site_.codePage()),
-      watched_(site_.platform(desktop, traceDatabases_)),
+      database_(site_), watched_(site_.platform(desktop, traceDatabases_, database_)),
       looking_(watched_.platform(),
                [this](const std::string& path) { return site_.paths().isOfSite(path); }),
       definition_(snapinDefinition()), console_(definition_), codePage_(site_.codePage())
 {
+    database_.openFor(use);
     watched_.toolLog().onFailure([this](const std::string& why) { toolLogFailure_ = why; });
     forgetContext();
 }
@@ -23,6 +24,7 @@ ToolOnSite::ToolOnSite(const std::string& folder, const std::string& installedDa
 void ToolOnSite::startChanges()
 {
     site_.startChanges();
+    database_.openFor(SiteUse::change);
     use_ = SiteUse::change;
     forgetContext();
 }

@@ -5,6 +5,7 @@
 #include "backends/site/site_turn.h"
 #include "console/console.h"
 #include "core/tool_context.h"
+#include "hosts/common/directory_database.h"
 #include "hosts/common/looking_services.h"
 #include "hosts/common/watched_services.h"
 #include "shell/snapin_orvan_diagnostics.h"
@@ -28,6 +29,7 @@ public:
 
     Site& site() { return site_; }
     const Site& site() const { return site_; }
+    DirectoryDatabase& database() { return database_; }
     ToolContext& context() { return *context_; }
     Console& console() { return console_; }
     snapinOrvanDiagnostics& snapIn() { return *snapIn_; }
@@ -94,6 +96,7 @@ private:
     SiteUse use_;
     Site site_;
     jet::JetEngine traceDatabases_;
+    DirectoryDatabase database_;
     WatchedServices watched_;
     LookingServices looking_;
     SnapInDefinition definition_;

@@ -134,6 +134,24 @@ TEST(SiteSettings, RefusesDamageWithTheNumberOfItsLine)
               errorTextOf([] { parseSiteSettings("[site]\ncompter=a"); }));
 }
 
+TEST(SiteSettings, ReadsTheSourceOfAServersDatabase)
+{
+    EXPECT_EQ(std::nullopt, parseSiteSettings("[database]\nodbc =\n").odbc);
+    EXPECT_EQ("Driver=D;Server=a=b;PWD={x;y}",
+              parseSiteSettings("[database]\n; ours\nODBC = Driver=D;Server=a=b;PWD={x;y}").odbc);
+    const auto both = parseSiteSettings("[Database]\nodbc=Orvan\n[site]\ncomputer=a");
+    EXPECT_EQ("Orvan", both.odbc);
+    EXPECT_EQ("a", both.computer);
+    EXPECT_EQ("site.ini line 2: unknown key \"computer\"",
+              errorTextOf([] { parseSiteSettings("[database]\ncomputer=a"); }));
+    EXPECT_EQ("site.ini line 3: a second \"odbc\"",
+              errorTextOf([] { parseSiteSettings("[database]\nodbc=a\nodbc=b"); }));
+    EXPECT_EQ("site.ini line 2: unknown key \"odbc\"",
+              errorTextOf([] { parseSiteSettings("[site]\nodbc=a"); }));
+    EXPECT_EQ("site.ini line 2: odbc has a character that can't be seen",
+              errorTextOf([] { parseSiteSettings("[database]\nodbc=a\xE2\x80\xAE"); }));
+}
+
 TEST(SiteSettings, TakesTheNamesOfRealServers)
 {
     for (const char* name : {"VOICE01", "voice-01.office.example", "Sprachbox Größe", "音声サーバ",

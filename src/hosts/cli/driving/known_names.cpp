@@ -115,11 +115,10 @@ knownNames::MacroTraces knownNames::macroTraces(OpenTool& tool)
 bool knownNames::hasComponent(OpenTool& tool, const std::string& component)
 {
     try {
-        SiteDatabase database = tool.site().database().another();
-        database.openFor(DatabaseUse::look);
-        database.open("", "", "");
-        const auto rows = database.openRecordset("SELECT Name FROM vw_LoggerDiagnosticGrid",
-                                                 CursorKind::forwardOnly, LockKind::readOnly);
+        const auto database = tool.database().anotherToLook();
+        database->open("", "", "");
+        const auto rows = database->openRecordset("SELECT Name FROM vw_LoggerDiagnosticGrid",
+                                                  CursorKind::forwardOnly, LockKind::readOnly);
         for (; !rows->atEnd(); rows->moveNext())
             if (trim(valueAsText(rows->field("Name"))) == component) return true;
         return false;

@@ -58,7 +58,7 @@ TraceCheck::TraceCheck(OpenTool& tool) : tool_(tool)
 TraceCheck::~TraceCheck()
 {
     try {
-        tool_.site().database().letCallsGo();
+        tool_.database().letCallsGo();
     } catch (const RunTimeError&) {
         // What keeps the command from its end is on its way to the person.
     }
@@ -74,7 +74,7 @@ void TraceCheck::expect(TraceExpectation expected)
     listener_.emplace(tool_.context(), [this](const RunTimeError& error, std::string_view) {
         if (firstError_.empty()) firstError_ = error.description();
     });
-    tool_.site().database().holdCalls();
+    tool_.database().holdCalls();
 }
 
 void TraceCheck::expectLevel(const std::string& component, int level, bool on)
@@ -85,7 +85,7 @@ void TraceCheck::expectLevel(const std::string& component, int level, bool on)
 void TraceCheck::requireSuccess()
 {
     try {
-        tool_.site().database().letCallsGo();
+        tool_.database().letCallsGo();
     } catch (const RunTimeError& error) {
         if (firstError_.empty()) firstError_ = error.description();
     }

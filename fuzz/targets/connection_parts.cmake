@@ -1,0 +1,1 @@
+orvan_fuzz(connection_parts LINKS orvan_odbc)
