@@ -20,6 +20,11 @@ target_compile_options(orvan_options INTERFACE
 set(together $<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>)
 target_compile_options(orvan_options INTERFACE
   $<${together}:-Wno-shadow> $<$<AND:${together},$<CXX_COMPILER_ID:GNU>>:-Wno-subobject-linkage>)
+if(WIN32)
+  # The calls that take UTF-16, those of Windows 10 with them, and no macros that nobody asks for.
+  target_compile_definitions(orvan_options INTERFACE
+    UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0A00)
+endif()
 if(ORVAN_SANITIZE)
   target_compile_options(orvan_options INTERFACE
     -fsanitize=${ORVAN_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -62,14 +67,14 @@ endfunction()
 # A test program: orvan_test(NAME SOURCES a_test.cpp ... APART a_test.cpp ... LINKS orvan_x ...)
 #
 # Makes NAME_test, linked with GoogleTest, GoogleMock and tests/support, and registers it. The tests
-# of runtime, which knows nothing of a tool, go without tests/support.
+# of what knows nothing of a tool go without the fakes.
 function(orvan_test name)
   cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;APART;LINKS" ${ARGN})
   add_executable(${name}_test ${arg_SOURCES})
   target_link_libraries(${name}_test PRIVATE
     orvan_options ${arg_LINKS} GTest::gmock GTest::gtest GTest::gtest_main)
   target_include_directories(${name}_test PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-  if(TARGET orvan_test_support AND NOT name STREQUAL "runtime")
+  if(TARGET orvan_test_support AND NOT name MATCHES "^(runtime|system|text)$")
     target_link_libraries(${name}_test PRIVATE orvan_test_support)
   endif()
   compiled_together(${name}_test APART ${arg_APART})

@@ -2,19 +2,19 @@
 
 #include "system/file_descriptor.h"
 
-#include <csignal>
 #include <cstddef>
 #include <cstdint>
-#include <vector>
+#include <memory>
+#include <string_view>
 
-/// Parts of a file that is being written, as memory that the system shares with it: windows of
-/// one size, each of which shows a part of the file.
+/// Parts of a file that is being written, as memory: windows of one size, each of which shows a
+/// part of the file. What is stored there is in the file at once, or, where the system can't share
+/// memory with it so, when `failed` is asked, another part is shown, or its `Use` ends.
 ///
 /// A store may fail: a file system that writes each change to new blocks has no room for it, the
-/// file was cut, the disk is broken. The system then sends a signal, and would end the program.
-/// Here the store and all after it go to memory of the program's own instead, so that the file
-/// stays as it was just before: what a kill at that moment leaves. `failed` tells of it, and `goOn`
-/// comes back to the file.
+/// file was cut, the disk is broken. The store and all after it then stay in memory of the
+/// program's own, so that the file is as it was just before: what a kill at that moment leaves.
+/// `failed` tells of it, and `goOn` comes back to the file.
 class FileWindows {
 public:
     /// `file` is open for reading and writing, and stays open; `windowBytes` is a whole number of
@@ -31,11 +31,19 @@ public:
     /// whole number of windows. Raises 7, and then the window shows nothing.
     void show(std::size_t window, std::uint64_t offset);
 
+    /// Writes bytes by a call in place of a store, after all that was stored before, from the
+    /// offset `at` of the file on. Gives how many of them were written, as `writeBytesAt`. Windows
+    /// that show the place show them.
+    std::size_t write(std::string_view bytes, std::uint64_t at);
+
     /// Whether a store has not reached the file, and those after it have not either.
-    bool failed() const { return failed_ != 0; }
+    bool failed() const;
 
     /// Forgets what did not reach the file, and comes back to it. Raises 7.
     void goOn();
+
+    /// The memory and what it shows, as the system offers it.
+    class Memory;
 
     /// The memory may be looked at and changed on this thread while one of these lives.
     class Use {
@@ -46,22 +54,10 @@ public:
         Use& operator=(const Use&) = delete;
 
     private:
-        FileWindows* before_;
+        Memory* before_;
     };
 
-    /// Takes the store at an address away from the file. False when it lies in no window. For the
-    /// handler of the signal.
-    bool takeFault(char* at);
-
 private:
-    static constexpr std::int64_t nothing = -1;
-
-    bool map(std::size_t window) const;
-
-    int file_;
-    std::size_t windowBytes_;
-    std::size_t pageBytes_;             ///< of the system
-    std::vector<std::int64_t> offsets_; ///< of what each window shows, or `nothing`
+    std::unique_ptr<Memory> memory_;
     char* base_ = nullptr;
-    volatile std::sig_atomic_t failed_ = 0;
 };

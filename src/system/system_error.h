@@ -14,6 +14,9 @@ public:
     /// What the system itself says of it, such as "No space left on device".
     std::string systemMessage() const;
 
+    /// The same error where a name that leads nowhere gives another number.
+    SystemError whereMissingIs(int missing) const { return {error_, missing}; }
+
 private:
     int error_;
 };

@@ -1,8 +1,8 @@
 #include "text/utf8.h"
 
+#include "text/upper_case.h"
+
 #include <algorithm>
-#include <clocale>
-#include <cwctype>
 
 namespace {
 
@@ -15,13 +15,6 @@ std::size_t lengthAfter(unsigned lead)
     if (lead < 0xE0) return 2;
     if (lead < 0xF0) return 3;
     return lead < 0xF5 ? 4 : 0;
-}
-
-char32_t upperCaseOf(char32_t letter)
-{
-    static const locale_t unicode = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
-    if (unicode == nullptr) return letter;
-    return static_cast<char32_t>(towupper_l(static_cast<wint_t>(letter), unicode));
 }
 
 bool isContinuation(char byte)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstdlib>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -13,9 +13,13 @@ class TemporaryFolder {
 public:
     TemporaryFolder()
     {
-        std::string pattern =
-            (std::filesystem::temp_directory_path() / "orvan-test-XXXXXX").string();
-        path_ = std::filesystem::canonical(::mkdtemp(pattern.data())).string();
+        const auto place = std::filesystem::temp_directory_path();
+        auto number = std::chrono::steady_clock::now().time_since_epoch().count();
+        std::filesystem::path folder;
+        do folder = place / ("orvan-test-" + std::to_string(number++));
+        while (!std::filesystem::create_directory(folder));
+        std::filesystem::permissions(folder, std::filesystem::perms::owner_all);
+        path_ = textOf(std::filesystem::canonical(folder));
     }
     ~TemporaryFolder()
     {
@@ -31,29 +35,38 @@ public:
     /// Makes a file and the folders above it; gives its path.
     std::string write(const std::string& name, const std::string& bytes = "") const
     {
-        const std::filesystem::path path = path_ + "/" + name;
+        const auto path = placeOf(name);
         std::filesystem::create_directories(path.parent_path());
         std::ofstream(path, std::ios::binary) << bytes;
-        return path.string();
+        return textOf(path);
     }
 
     std::string makeFolder(const std::string& name) const
     {
-        std::filesystem::create_directories(path_ + "/" + name);
+        std::filesystem::create_directories(placeOf(name));
         return path_ + "/" + name;
     }
 
     std::string read(const std::string& name) const
     {
-        std::ifstream file(path_ + "/" + name, std::ios::binary);
+        std::ifstream file(placeOf(name), std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
-    bool exists(const std::string& name) const
-    {
-        return std::filesystem::exists(path_ + "/" + name);
-    }
+    bool exists(const std::string& name) const { return std::filesystem::exists(placeOf(name)); }
 
 private:
+    /// Paths are UTF-8 with "/" between their names, whatever the machine's own are.
+    static std::string textOf(const std::filesystem::path& path)
+    {
+        const auto text = path.generic_u8string();
+        return {text.begin(), text.end()};
+    }
+    std::filesystem::path placeOf(const std::string& name) const
+    {
+        const std::string path = path_ + "/" + name;
+        return std::u8string(path.begin(), path.end());
+    }
+
     std::string path_;
 };

@@ -6,133 +6,195 @@
 
 #include <gmock/gmock.h>
 
-#include <cerrno>
-#include <sys/fsuid.h>
-#include <sys/resource.h>
-#include <sys/socket.h>
-#include <sys/stat.h>
-#include <sys/un.h>
-#include <unistd.h>
+#include <ctime>
 
 namespace {
 
 namespace fs = std::filesystem;
+using testing::UnorderedElementsAre;
 
 class RootFolderTest : public testing::Test {
 protected:
-    RootFolderTest()
-    {
-        box.write("in/a/File.txt", "inside");
-        box.write("out/secret.txt", "secret");
-        fs::create_symlink("../out", box / "in/away");
-        fs::create_symlink("a", box / "in/near");
-    }
+    RootFolderTest() { box.write("in/a/File.txt", "inside"); }
 
     TemporaryFolder box;
     RootFolder root{(box.makeFolder("in"), box / "in")};
 };
 
-TEST_F(RootFolderTest, ThePersonsOwnWayToItMayBeALink)
-{
-    fs::create_symlink("in", box / "byLink");
-    EXPECT_TRUE(RootFolder(box / "byLink").isFile("a/File.txt"));
-    EXPECT_EQ(76, errorOf([&] { RootFolder(box / "none"); }));
-    EXPECT_EQ(76, errorOf([&] { RootFolder(box / "out/secret.txt"); }));
-}
-
 TEST_F(RootFolderTest, StaysTheFolderThatWasOpened)
 {
     fs::rename(box / "in", box / "elsewhere");
-    fs::create_directory_symlink("out", box / "in");
+    box.write("in/secret.txt", "secret");
     EXPECT_TRUE(root.isFile("a/File.txt"));
     EXPECT_FALSE(root.isFile("secret.txt"));
+    EXPECT_THAT(root.names(""), UnorderedElementsAre("a"));
+}
+
+TEST_F(RootFolderTest, NoWayLeadsUpOutOfIt)
+{
+    box.write("out.txt", "secret");
+    EXPECT_EQ(70, errorOf([&] { root.openFile("../out.txt", forReading, 53); }));
+    EXPECT_EQ(70, errorOf([&] { root.openFile("a/../../out.txt", forReading, 53); }));
+    EXPECT_EQ(70, errorOf([&] { root.names(".."); }));
+    EXPECT_EQ(70, errorOf([&] { root.facts("a/../.."); }));
+    EXPECT_EQ("Permission denied: " + (box / "in/../out.txt") + " leads out of the site",
+              errorTextOf([&] { root.openFile("../out.txt", forReading, 53); }));
+    EXPECT_TRUE(root.isFile("a/../a/./File.txt"));
 }
 
 TEST_F(RootFolderTest, AFolderBelowIsABoundOfItsOwn)
 {
-    box.write("in/b/x.txt");
-    fs::create_symlink("../b/x.txt", box / "in/a/neighbour");
-    EXPECT_TRUE(root.isFile("a/neighbour"));
-    EXPECT_FALSE(root.below("a").isFile("neighbour"));
-    EXPECT_EQ(70, errorOf([&] { root.below("away"); }));
+    box.write("in/b/x.txt", "x");
+    const RootFolder below = root.below("a");
+    EXPECT_THAT(below.names(""), UnorderedElementsAre("File.txt"));
+    EXPECT_EQ(70, errorOf([&] { below.openFile("../b/x.txt", forReading, 53); }));
     EXPECT_EQ(76, errorOf([&] { root.below("a/File.txt"); }));
+    EXPECT_FALSE(root.belowIfThere("none"));
+    EXPECT_FALSE(root.belowIfThere("a/File.txt"));
+    EXPECT_EQ(76, errorOf([&] { RootFolder(box / "none"); }));
+    EXPECT_EQ(76, errorOf([&] { RootFolder(box / "in/a/File.txt"); }));
 }
 
-TEST_F(RootFolderTest, WhatLeadsOutIsRefusedByName)
+TEST_F(RootFolderTest, AFolderIsNoFile)
 {
-    const std::string text =
-        "Permission denied: " + (box / "in/away/secret.txt") + " leads out of the site";
-    EXPECT_EQ(text, errorTextOf([&] { root.openFile("away/secret.txt", forReading, 53); }));
-    EXPECT_EQ(70, errorOf([&] { root.facts("away/secret.txt"); }));
-    EXPECT_EQ(70, errorOf([&] { root.names("away"); }));
-    EXPECT_EQ(70, errorOf([&] { root.makeFolder("away/new"); }));
-    EXPECT_EQ(70, errorOf([&] { root.removeFile("away/secret.txt"); }));
-    EXPECT_EQ(76, errorOf([&] { root.removeFolder("away"); })) << "a link is no folder";
-    EXPECT_EQ(70, errorOf([&] { root.machinePath("away/secret.txt"); }));
-    EXPECT_EQ("secret", box.read("out/secret.txt"));
-}
-
-TEST_F(RootFolderTest, OpensPlainFilesAloneAndWaitsForNothing)
-{
-    ASSERT_EQ(0, ::mkfifo((box / "in/pipe").c_str(), 0666));
-    const FileDescriptor listener(::socket(AF_UNIX, SOCK_STREAM, 0));
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    (box / "in/socket").copy(address.sun_path, sizeof address.sun_path - 1);
-    ASSERT_EQ(0, ::bind(listener.get(), reinterpret_cast<sockaddr*>(&address), sizeof address));
-
-    for (const char* name : {"pipe", "socket", "a"})
-        for (const auto& opening : {forReading, FileOpening{FileAccess::write},
-                                    FileOpening{FileAccess::readAndWrite, Creation::ifMissing}})
-            EXPECT_EQ(70, errorOf([&] { root.openFile(name, opening, 53); }))
-                << name << static_cast<int>(opening.access);
-    EXPECT_THAT(errorTextOf([&] { root.openFile("pipe", {FileAccess::write}, 53); }),
-                testing::EndsWith("in/pipe is no plain file"));
+    for (const auto& opening : {forReading, FileOpening{FileAccess::write},
+                                FileOpening{FileAccess::readAndWrite, Creation::ifMissing}})
+        EXPECT_EQ(70, errorOf([&] { root.openFile("a", opening, 53); }));
     EXPECT_EQ(53, errorOf([&] { root.openFile("none", forReading, 53); }));
-    const RootFolder devices("/dev", RootFolder::Bounds::machine);
-    EXPECT_EQ(70, errorOf([&] { devices.openFile("zero", forReading, 53); }));
+    EXPECT_EQ(53, errorOf([&] { root.openFile("a/File.txt/none", forReading, 53); }));
+    EXPECT_EQ(76, errorOf([&] { root.openFile("none/x", {FileAccess::write}, 76); }));
+    EXPECT_FALSE(root.isFile("a"));
+    EXPECT_FALSE(root.isFolder("a/File.txt"));
+}
+
+TEST_F(RootFolderTest, OpensAFileAsItIsAsked)
+{
+    const FileOpening fresh{FileAccess::write, Creation::always};
+    writeAll(root.openFile("new", fresh, 53), "one");
+    EXPECT_EQ(58, errorOf([&] { root.openFile("new", fresh, 53); }));
+    writeAll(root.openFile("new", {FileAccess::append, Creation::ifMissing}, 53), " two");
+    EXPECT_EQ("one two", box.read("in/new"));
+    writeAll(root.openFile("new", {FileAccess::readAndWrite}, 53), "ONE");
+    EXPECT_EQ("ONE two", box.read("in/new"));
+    EXPECT_EQ(53, errorOf([&] { root.openFile("other", {FileAccess::append}, 53); }));
+}
+
+TEST_F(RootFolderTest, WhatIsAppendedStandsBehindWhatOthersAppended)
+{
+    const FileOpening appending{FileAccess::readAndAppend, Creation::ifMissing};
+    const FileDescriptor one = root.openFile("log", appending, 53);
+    const FileDescriptor other = root.openFile("log", {FileAccess::append}, 53);
+    writeAll(one, "1");
+    writeAll(other, "2");
+    writeAll(one, "3");
+    EXPECT_EQ("123", box.read("in/log"));
+    char bytes[4] = {};
+    EXPECT_EQ(3u, readAt(one, bytes, sizeof bytes, 0));
+    EXPECT_STREQ("123", bytes);
+}
+
+TEST_F(RootFolderTest, AFileThatIsReadCanBeWrittenRenamedAndRemovedMeanwhile)
+{
+    const FileDescriptor reading = root.openFile("a/File.txt", forReading, 53);
+    writeAll(root.openFile("a/File.txt", {FileAccess::append}, 53), " more");
+    root.rename("a/File.txt", "a/old.txt");
+    root.removeFile("a/old.txt");
+    char bytes[16] = {};
+    EXPECT_EQ(11u, readAt(reading, bytes, sizeof bytes, 0));
+    EXPECT_STREQ("inside more", bytes);
 }
 
 TEST_F(RootFolderTest, FindsNamesInAnyCase)
 {
     EXPECT_EQ("a/File.txt", root.pathIgnoringCase({"A", "FILE.TXT"}));
-    EXPECT_EQ("near/File.txt", root.pathIgnoringCase({"NEAR", "file.txt"}));
+    EXPECT_EQ("a/File.txt", root.pathIgnoringCase({"a", "File.txt"}));
     EXPECT_EQ("a/New/More", root.pathIgnoringCase({"A", "New", "More"}));
     EXPECT_EQ("", root.pathIgnoringCase({}));
-    EXPECT_EQ(70, errorOf([&] { root.pathIgnoringCase({"AWAY", "secret.txt"}); }));
-    EXPECT_EQ(70, errorOf([&] { root.pathIgnoringCase({"AWAY"}); }));
-}
-
-TEST_F(RootFolderTest, ANameInAnotherCaseThatTheMachineCannotLookForIsNotTakenForAbsent)
-{
-    rlimit before{};
-    ::getrlimit(RLIMIT_NOFILE, &before);
-    const int next = ::dup(0);
-    ::close(next);
-    std::vector<std::string> found;
-    std::vector<int> errors;
-    for (rlim_t more = 0; more < 3; ++more) {
-        const rlimit few{static_cast<rlim_t>(next) + more, before.rlim_max};
-        ::setrlimit(RLIMIT_NOFILE, &few);
-        errors.push_back(errorOf([&] { found.push_back(root.pathIgnoringCase({"A"})); }));
-        ::setrlimit(RLIMIT_NOFILE, &before);
-    }
-    EXPECT_THAT(errors, testing::ElementsAre(57, 57, 0));
-    EXPECT_THAT(found, testing::ElementsAre("a"));
+    box.write("in/\xC3\xA4/\xE6\x97\xA5.txt");
+    EXPECT_EQ("\xC3\xA4/\xE6\x97\xA5.txt", root.pathIgnoringCase({"\xC3\x84", "\xE6\x97\xA5.TXT"}));
 }
 
 TEST_F(RootFolderTest, TellsWhereAPathLies)
 {
-    EXPECT_EQ(box / "in/a/File.txt", root.machinePath("near/File.txt"));
-    EXPECT_EQ(box / "in/a/new/more", root.machinePath("near/new/more"));
+    EXPECT_EQ(box / "in/a/File.txt", root.machinePath("a/File.txt"));
+    EXPECT_EQ(box / "in/a/new/more", root.machinePath("a/new/more"));
     EXPECT_EQ(box / "in", root.machinePath(""));
-    EXPECT_EQ("/usr", RootFolder("/").machinePath("usr"));
+    EXPECT_EQ(box / "in/x", root.shown("x"));
 }
 
-TEST_F(RootFolderTest, ANameThatIsTooLongLiesWhereItWouldBe)
+TEST_F(RootFolderTest, FactsAreWhatTheSystemTells)
 {
-    const std::string name(300, 'x');
-    EXPECT_EQ((box / "in/a/") + name, root.machinePath("near/" + name));
+    const auto file = root.facts("a/File.txt");
+    ASSERT_TRUE(file);
+    EXPECT_EQ(FileKind::file, file->kind);
+    EXPECT_EQ(6, file->size);
+    EXPECT_EQ(1u, file->hardLinks);
+    EXPECT_TRUE(isOurs(*file));
+    EXPECT_FALSE(file->readOnly);
+    EXPECT_NEAR(static_cast<double>(std::time(nullptr)), file->modified.seconds, 60);
+    EXPECT_EQ(file->identity, root.unfollowedFacts("a/File.txt")->identity);
+    EXPECT_EQ(file->identity, factsOf(box / "in/a/File.txt")->identity);
+    EXPECT_EQ(file->identity, factsOf(root.openFile("a/File.txt", forReading, 53)).identity);
+    EXPECT_NE(file->identity, root.facts("a")->identity);
+    EXPECT_EQ(FileKind::folder, root.facts("a")->kind);
+    EXPECT_EQ(FileKind::folder, root.facts("")->kind);
+    EXPECT_FALSE(root.facts("none"));
+    EXPECT_FALSE(root.unfollowedFacts("none/none"));
+    EXPECT_FALSE(root.facts("a/File.txt/none"));
+}
+
+TEST_F(RootFolderTest, AMomentThatIsSetIsTheOneThatIsTold)
+{
+    const FileMoment moment{1'000'000'000, 123'456'700};
+    EXPECT_TRUE(setTimes(box / "in/a/File.txt", moment));
+    EXPECT_EQ(moment, root.facts("a/File.txt")->modified);
+    EXPECT_FALSE(setTimes(box / "in/none", moment));
+}
+
+TEST_F(RootFolderTest, TellsTheRoomOfItsFileSystem)
+{
+    const FileSystemRoom room = root.room("a");
+    EXPECT_LT(0, room.total);
+    EXPECT_LE(0, room.free);
+    EXPECT_LE(room.free, room.total);
+    EXPECT_EQ(76, errorOf([&] { root.room("none"); }));
+}
+
+TEST_F(RootFolderTest, GivesAnotherName)
+{
+    box.write("in/b/x.txt", "x");
+    root.rename("a/File.txt", "b/x.txt");
+    EXPECT_EQ("inside", box.read("in/b/x.txt"));
+    EXPECT_THAT(root.names("a"), testing::IsEmpty());
+    EXPECT_EQ(58, errorOf([&] { root.rename("a", "b"); })) << "a folder that is not empty";
+    root.rename("b", "a");
+    EXPECT_EQ("inside", box.read("in/a/x.txt"));
+    EXPECT_EQ(76, errorOf([&] { root.rename("none", "more"); }));
+    EXPECT_EQ(76, errorOf([&] { root.rename("a", "none/more"); }));
+}
+
+TEST_F(RootFolderTest, RemovesFilesAndFolders)
+{
+    box.write("in/a/deep/y.txt", "12345");
+    EXPECT_EQ(11, root.size("a"));
+    EXPECT_EQ(70, errorOf([&] { root.removeEmptyFolder("a"); }));
+    EXPECT_EQ(53, errorOf([&] { root.removeFile("a/none"); }));
+    EXPECT_EQ(76, errorOf([&] { root.removeEmptyFolder("none"); }));
+    root.removeFile("a/File.txt");
+    EXPECT_THAT(root.names("a"), UnorderedElementsAre("deep"));
+    root.removeFolder("a");
+    EXPECT_FALSE(box.exists("in/a"));
+    EXPECT_EQ(76, errorOf([&] { root.removeFolder("a"); }));
+}
+
+TEST_F(RootFolderTest, AReadOnlyFileKeepsItsFolder)
+{
+    fs::permissions(box / "in/a/File.txt", fs::perms::owner_read);
+    EXPECT_EQ(70, errorOf([&] { root.removeFolder("a"); }));
+    EXPECT_EQ("inside", box.read("in/a/File.txt"));
+    root.allowWriting("a/File.txt");
+    root.removeFolder("a");
+    EXPECT_FALSE(box.exists("in/a"));
 }
 
 TEST_F(RootFolderTest, AFolderThatIsMissingIsToldInTheSystemsWords)
@@ -148,33 +210,6 @@ TEST_F(RootFolderTest, AFolderThatIsMissingIsToldInTheSystemsWords)
         }
 }
 
-TEST_F(RootFolderTest, FactsAreOfTheTargetOrOfTheNameItself)
-{
-    EXPECT_EQ(FileKind::folder, root.facts("near")->kind);
-    EXPECT_EQ(FileKind::link, root.unfollowedFacts("near")->kind);
-    EXPECT_EQ(FileKind::link, root.unfollowedFacts("away")->kind);
-    EXPECT_FALSE(root.facts("none"));
-    EXPECT_FALSE(root.facts("a/File.txt/none"));
-    EXPECT_TRUE(root.isFile("near/File.txt"));
-    EXPECT_FALSE(root.isFile("away/secret.txt"));
-    EXPECT_FALSE(root.isFolder("away"));
-}
-
-TEST_F(RootFolderTest, RemovesNothingThroughALink)
-{
-    EXPECT_EQ(70, errorOf([&] { root.removeFile("near/File.txt"); }));
-    EXPECT_EQ(76, errorOf([&] { root.removeFolder("near"); }));
-    root.removeFile("near");
-    EXPECT_FALSE(fs::is_symlink(box / "in/near"));
-    EXPECT_EQ("inside", box.read("in/a/File.txt"));
-
-    fs::create_symlink("../../out", box / "in/a/away");
-    EXPECT_EQ(6, root.size("a"));
-    root.removeFolder("a");
-    EXPECT_FALSE(box.exists("in/a"));
-    EXPECT_EQ("secret", box.read("out/secret.txt"));
-}
-
 TEST_F(RootFolderTest, MakesFolders)
 {
     root.makeFolders("x/y/z");
@@ -182,51 +217,30 @@ TEST_F(RootFolderTest, MakesFolders)
     EXPECT_TRUE(root.isFolder("x/y/z"));
     EXPECT_EQ(58, errorOf([&] { root.makeFolder("x"); }));
     EXPECT_EQ(76, errorOf([&] { root.makeFolder("none/x"); }));
-    EXPECT_THAT(root.names(""), testing::UnorderedElementsAre("a", "away", "near", "x"));
-}
-
-TEST_F(RootFolderTest, AFolderCanBeMadeForItsOwnerAlone)
-{
-    root.makeFolder("own", OthersMay::nothing);
-    EXPECT_EQ(fs::perms::owner_all, fs::status(box / "in/own").permissions());
-}
-
-TEST_F(RootFolderTest, OpensAFileAsItIsAsked)
-{
-    const FileOpening fresh{FileAccess::write, Creation::always};
-    writeAll(root.openFile("new", fresh, 53), "one");
-    EXPECT_EQ(58, errorOf([&] { root.openFile("new", fresh, 53); }));
-    EXPECT_EQ(58, errorOf([&] { root.openFile("near", fresh, 53); })) << "a link bears the name";
-    writeAll(root.openFile("new", {FileAccess::append, Creation::ifMissing}, 53), " two");
-    EXPECT_EQ("one two", box.read("in/new"));
-    writeAll(root.openFile("new", {FileAccess::readAndWrite}, 53), "ONE");
-    EXPECT_EQ("ONE two", box.read("in/new"));
-    fs::create_symlink("new", box / "in/toNew");
-    EXPECT_EQ(70, errorOf([&] { root.openFile("toNew", {.lastLink = LastLink::refused}, 53); }));
-}
-
-TEST_F(RootFolderTest, WhatMayNotBeOpenedIsNoErrorWhereThatIsAllowedFor)
-{
-    const FileOpening writing{FileAccess::readAndWrite, Creation::ifMissing};
-    EXPECT_TRUE(root.openIfAllowed("lock", writing, 76).isOpen());
-    EXPECT_EQ(76, errorOf([&] { root.openIfAllowed("none/lock", writing, 76); }));
-    EXPECT_EQ(70, errorOf([&] { root.openIfAllowed("away/lock", writing, 76); }));
-    fs::permissions(box / "in", fs::perms(0555));
-    ::setfsuid(65534); // the one who may do everything is no test
-    EXPECT_FALSE(root.openIfAllowed("other", writing, 76).isOpen());
-    ::setfsuid(::geteuid());
-    fs::permissions(box / "in", fs::perms(0755));
+    EXPECT_THAT(root.names(""), UnorderedElementsAre("a", "x"));
 }
 
 TEST_F(RootFolderTest, AReadOnlyFileCanBeMadeWritable)
 {
     fs::permissions(box / "in/a/File.txt", fs::perms::owner_read);
     EXPECT_TRUE(root.facts("a/File.txt")->readOnly);
-    root.allowWriting("near/File.txt");
+    root.allowWriting("a/File.txt");
     EXPECT_FALSE(root.facts("a/File.txt")->readOnly);
     EXPECT_EQ(53, errorOf([&] { root.allowWriting("a"); })) << "a folder is no file";
     EXPECT_EQ(53, errorOf([&] { root.allowWriting("none"); }));
-    EXPECT_EQ(70, errorOf([&] { root.allowWriting("away/secret.txt"); }));
+}
+
+TEST_F(RootFolderTest, OpensWhatAPersonNamedThroughAnyWay)
+{
+    box.write("other/x.txt", "x");
+    const RootFolder machine(box / "in", RootFolder::Bounds::machine);
+    EXPECT_TRUE(machine.isFile("a/File.txt"));
+    EXPECT_TRUE(machine.isFile("../other/x.txt"));
+    EXPECT_TRUE(machine.isFile(box / "other/x.txt")) << "a whole path of the machine";
+    EXPECT_TRUE(RootFolder("/", RootFolder::Bounds::machine).isFile(box / "other/x.txt"));
+    EXPECT_TRUE(openMachineFile(box / "other/x.txt", forReading, 53).isOpen());
+    EXPECT_EQ(53, errorOf([&] { openMachineFile(box / "other/none", forReading, 53); }));
+    EXPECT_EQ(70, errorOf([&] { openMachineFile(box / "other", forReading, 53); }));
 }
 
 } // namespace

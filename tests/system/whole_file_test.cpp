@@ -44,13 +44,44 @@ TEST_F(ReplacementFileTest, CanBeClosedBeforeItTakesItsPlace)
     EXPECT_EQ("new", box.read("target"));
 }
 
-TEST_F(ReplacementFileTest, AllowsWhatAnotherFileAllows)
+TEST_F(ReplacementFileTest, TakesThePlaceOfAFileThatIsReadAndOfOneThatIsReadOnly)
 {
-    fs::permissions(box / "target", fs::perms(0640));
-    ReplacementFile file(root, "other", OthersMay::read);
-    file.resemble(root.openFile("target", forReading, 53));
-    file.commit(false);
-    EXPECT_EQ(fs::perms(0640), fs::status(box / "other").permissions());
+    {
+        const FileDescriptor reading = root.openFile("target", forReading, 53);
+        fs::permissions(box / "target", fs::perms::owner_read);
+        ReplacementFile file(root, "target");
+        file.write("new");
+        file.commit(true);
+        EXPECT_EQ("new", box.read("target"));
+        EXPECT_EQ("old", readWholeFile(reading, 53));
+    }
+    EXPECT_THAT(root.names(""), testing::ElementsAre("target"));
+}
+
+TEST_F(ReplacementFileTest, DoesNotTakeThePlaceOfAFolder)
+{
+    box.write("folder/x");
+    ReplacementFile file(root, "folder");
+    EXPECT_EQ(70, errorOf([&] { file.commit(false); }));
+    EXPECT_TRUE(box.exists("folder/x"));
+}
+
+TEST_F(ReplacementFileTest, ACopyHasTheBytesAndTheMomentOfItsSource)
+{
+    const std::string bytes(200'000, 'x');
+    box.write("source", bytes);
+    ASSERT_TRUE(setTimes(box / "source", {1'000'000'000, 0}));
+    copyWholeFile(root.openFile("source", forReading, 53), root, "target");
+    EXPECT_EQ(bytes, box.read("target"));
+    EXPECT_EQ(1'000'000'000, root.facts("target")->modified.seconds);
+}
+
+TEST_F(ReplacementFileTest, AWholeFileIsReadUpToALimit)
+{
+    EXPECT_EQ("old", readWholeFile(root, "target", 53, 3));
+    EXPECT_EQ(14, errorOf([&] { readWholeFile(root, "target", 53, 2); }));
+    EXPECT_EQ(53, errorOf([&] { readWholeFile(root, "none", 53); }));
+    EXPECT_EQ("old", readMachineFile(box / "target", 53));
 }
 
 TEST_F(ReplacementFileTest, IsSweptWhenItsProgramHasEnded)

@@ -3,6 +3,7 @@
 #include "system/posix/open_beneath.h"
 #include "system/posix/permissions.h"
 #include "system/posix/stat_facts.h"
+#include "system/slash_paths.h"
 #include "system/system_error.h"
 #include "text/utf8.h"
 
@@ -65,12 +66,6 @@ FileDescriptor requirePlain(FileDescriptor file, const std::string& shown)
 bool isNoFile(int error)
 {
     return error == ENXIO || error == ENODEV;
-}
-
-std::string joined(const std::string& folder, const std::string& name)
-{
-    if (folder.empty() || name.empty()) return folder + name;
-    return folder + (folder.back() == '/' ? "" : "/") + name;
 }
 
 /// Names in an open folder, without "." and "..". Raises 76, 70.
@@ -189,27 +184,12 @@ RootFolder::Way RootFolder::way() const
     return {*this};
 }
 
-std::string lastNameOf(const std::string& path)
-{
-    return path.substr(path.rfind('/') + 1);
-}
-
-std::string folderPathOf(const std::string& path)
-{
-    const auto slash = path.rfind('/');
-    return slash == std::string::npos ? std::string() : path.substr(0, slash);
-}
-
 RootFolder::RootFolder(const std::string& path, Bounds bounds)
     : folder_(std::make_shared<FileDescriptor>(::open(path.c_str(), folderFlags))), path_(path),
       bounds_(bounds)
 {
     if (!folder_->isOpen()) throw systemError(errno, pathNotFound);
 }
-
-RootFolder::RootFolder(std::shared_ptr<FileDescriptor> folder, std::string path, Bounds bounds)
-    : folder_(std::move(folder)), path_(std::move(path)), bounds_(bounds)
-{}
 
 std::optional<RootFolder> RootFolder::belowIfThere(const std::string& path) const
 {
@@ -226,11 +206,6 @@ RootFolder RootFolder::below(const std::string& path) const
     return RootFolder(std::move(folder), shown(path), bounds_);
 }
 
-std::string RootFolder::shown(const std::string& path) const
-{
-    return joined(path_, path);
-}
-
 std::string RootFolder::machinePath(const std::string& path) const
 {
     if (bounds_ == Bounds::machine) return shown(path);
@@ -244,15 +219,15 @@ std::string RootFolder::machinePath(const std::string& path) const
         if (name == top || (top == "/" && name.size() == 1)) return shown(rest);
         const std::size_t start = top == "/" ? 0 : top.size();
         if (!name.empty() && name.compare(0, start, top, 0, start) == 0 && name[start] == '/')
-            return shown(joined(name.substr(start + 1), rest));
-        rest = joined(lastNameOf(there), rest);
+            return shown(joinedPath(name.substr(start + 1), rest));
+        rest = joinedPath(lastNameOf(there), rest);
     }
 }
 
 std::string RootFolder::pathIgnoringCase(const std::vector<std::string>& names) const
 {
     std::string exact;
-    for (const auto& name : names) exact = joined(exact, name);
+    for (const auto& name : names) exact = joinedPath(exact, name);
     if (way().open(exact, O_PATH).isOpen()) return exact;
     if (errno == EXDEV || errno == ELOOP) fail(exact, permissionDenied);
     std::string path;
@@ -267,11 +242,11 @@ std::string RootFolder::pathIgnoringCase(const std::vector<std::string>& names) 
             if (!exists && folder.isOpen() && errno == ENOENT)
                 if (const auto other = nameIgnoringCase(openListing(folder.get(), "."), name)) {
                     exists = true;
-                    path = joined(path, *other);
+                    path = joinedPath(path, *other);
                     continue;
                 }
         }
-        path = joined(path, name);
+        path = joinedPath(path, name);
     }
     if (exists && !way().open(path, O_PATH).isOpen() && (errno == EXDEV || errno == ELOOP))
         fail(path, permissionDenied);
@@ -395,17 +370,6 @@ void RootFolder::makeFolder(const std::string& path, OthersMay others) const
         fail(path, pathNotFound);
 }
 
-void RootFolder::makeFolders(const std::string& path) const
-{
-    if (path.empty() || isFolder(path)) return;
-    makeFolders(folderPathOf(path));
-    try {
-        makeFolder(path);
-    } catch (const RunTimeError& error) {
-        if (error.number() != fileAlreadyExists || !isFolder(path)) throw;
-    }
-}
-
 void RootFolder::rename(const std::string& from, const std::string& to) const
 {
     const FileDescriptor source = way().parentOf(from, Links::within);
@@ -452,18 +416,6 @@ void RootFolder::removeFolder(const std::string& path) const
     removeContents(std::move(folder));
     if (::unlinkat(parent.get(), lastNameOf(path).c_str(), AT_REMOVEDIR) != 0)
         fail(path, pathNotFound);
-}
-
-void RootFolder::fail(const std::string& path, int missing) const
-{
-    const int error = errno;
-    if (error == EXDEV)
-        throw RunTimeError(permissionDenied,
-                           "Permission denied: " + shown(path) + " leads out of the site");
-    if (error == ELOOP)
-        throw RunTimeError(permissionDenied,
-                           "Permission denied: " + shown(path) + " is a link that is not followed");
-    throw systemError(error, missing);
 }
 
 FileDescriptor openMachineFile(const std::string& path, const FileOpening& opening, int missing)

@@ -118,7 +118,7 @@ bool PageFile::extendBy(std::uint64_t run)
 {
     const std::uint64_t end = std::uint64_t{extent_} * pageSize;
     const std::string_view pages(emptyRun().data(), run * pageSize);
-    if (writeBytesAt(file_, pages, end) == pages.size()) {
+    if (windows_->write(pages, end) == pages.size()) {
         extent_ += static_cast<std::uint32_t>(run);
         return true;
     }
@@ -148,8 +148,7 @@ void PageFile::replace(std::uint32_t number, const char* content)
         std::memcpy(page(number), content, pageSize);
         return;
     }
-    if (writeBytesAt(file_, {content, pageSize}, std::uint64_t{number} * pageSize) == pageSize)
-        return;
+    if (windows_->write({content, pageSize}, std::uint64_t{number} * pageSize) == pageSize) return;
     if (errno == EIO) throw RunTimeError(runTimeErrors::deviceIo);
     raiseDiskFull();
 }

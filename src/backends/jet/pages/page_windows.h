@@ -6,11 +6,12 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace jet {
 
-/// The pages of a file that is being written, as memory that the system shares with it
-/// (`FileWindows`): sixteen parts of the file at a time.
+/// The pages of a file that is being written, as memory (`FileWindows`): sixteen
+/// parts of the file at a time.
 class PageWindows {
 public:
     /// `file` is open for reading and writing, and stays open. Raises 7.
@@ -26,6 +27,9 @@ public:
         return memory_.memory() + window * windowBytes +
                std::size_t{number % pagesPerWindow} * pageSize;
     }
+
+    /// Writes bytes by a call in place of a store, as `FileWindows::write`.
+    std::size_t write(std::string_view bytes, std::uint64_t at) { return memory_.write(bytes, at); }
 
     /// Whether a store has not reached the file, and those after it have not either.
     bool failed() const { return memory_.failed(); }

@@ -28,7 +28,9 @@ int runTimeErrorNumber(int error, int missing)
     case ENOTEMPTY:
         return permissionDenied;
     case ENOSPC:
+#ifdef EDQUOT // Windows has no such number: a quota that is used up is a full disk there
     case EDQUOT:
+#endif
     case EFBIG:
         return diskFull;
     case ENOMEM:
