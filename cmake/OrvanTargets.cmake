@@ -37,7 +37,7 @@ endif()
 # compiled_together(TARGET APART a.cpp ...): with ORVAN_TOGETHER, up to eight of its sources are
 # compiled as one. Headers, most of all those of GoogleMock, Qt, CLI11 and JSON, and what is made
 # from their templates take longer to compile than what stands in a source. APART are the sources
-# that give something a name of their own which another source has too.
+# that give something a name of their own which another source has too, or a header of its a macro.
 function(compiled_together target)
   cmake_parse_arguments(arg "" "" "APART" ${ARGN})
   if(NOT ORVAN_TOGETHER)

@@ -51,20 +51,51 @@ install_missing() {
   return 1
 }
 
+# little_cached : whether the compiler cache can't hold a build with its tests, which leaves 1300 files
+# in it. One of the programs alone leaves 600, but with other options.
+little_cached() {
+  command -v ccache >/dev/null || return 0
+  [ "$(ccache --print-stats 2>/dev/null | awk '$1 == "files_in_cache" { print $2 }')" -lt 1000 ]
+}
+
+# choose_together PRESET : the option that compiles several sources as one, where a cache can't help.
+# Chosen with the first build folder and kept, for the cache does not stay empty. What people run is
+# never built so: a package must not depend on what a cache holds.
+choose_together() {
+  [[ $1 != release && $1 != benchmark && ! -f build/$1/CMakeCache.txt ]] || return 0
+  local chosen
+  chosen=$(grep -hs '^ORVAN_TOGETHER:' build/{dev,asan,tsan,coverage,fuzz}/CMakeCache.txt || true)
+  if [[ $chosen == *=ON* ]] || { [ -z "$chosen" ] && little_cached; }; then
+    echo -DORVAN_TOGETHER=ON
+  fi
+}
+
 # build_preset PRESET [TARGET...]: configures when needed and builds on all cores, quietly. What
 # stands in configure_options goes before the preset's own settings.
 configure_options=()
 build_preset() {
-  local preset=$1 log=build/$1.log
+  local preset=$1 log=build/$1.log together
   shift
   mkdir -p build
-  if ! cmake --preset "$preset" "${configure_options[@]}" >"$log" 2>&1; then
-    cat "$log" >&2
-    return 1
-  fi
+  together=$(choose_together "$preset")
+  configure_preset "$preset" ${together:+"$together"} || return 1
   say "building ($preset)"
-  if ! cmake --build --preset "$preset" ${1:+--target "$@"} >"$log" 2>&1; then
-    grep -E -A8 'error|FAILED' "$log" >&2 || tail -n 40 "$log" >&2
-    return 1
+  cmake --build --preset "$preset" ${1:+--target "$@"} >"$log" 2>&1 && return 0
+  # Sources that compile one by one may have come to use one name.
+  if grep -qsx 'ORVAN_TOGETHER:BOOL=ON' "build/$preset/CMakeCache.txt"; then
+    say "building ($preset) one source at a time; together: $(grep -m 1 'error: ' "$log" || true)"
+    configure_preset "$preset" -DORVAN_TOGETHER=OFF || return 1
+    cmake --build --preset "$preset" ${1:+--target "$@"} >"$log" 2>&1 && return 0
   fi
+  grep -E -A8 'error|FAILED' "$log" >&2 || tail -n 40 "$log" >&2
+  return 1
+}
+
+# configure_preset PRESET [OPTION...]
+configure_preset() {
+  local preset=$1 log=build/$1.log
+  shift
+  cmake --preset "$preset" "${configure_options[@]}" "$@" >"$log" 2>&1 && return 0
+  cat "$log" >&2
+  return 1
 }
