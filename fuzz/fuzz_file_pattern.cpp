@@ -1,6 +1,6 @@
 #include "require.h"
 
-#include "backends/site/files/file_pattern.h"
+#include "backends/common/file_pattern.h"
 #include "text/utf8.h"
 
 #include <cstddef>

@@ -1,1 +1,1 @@
-orvan_fuzz(file_pattern LINKS orvan_site)
+orvan_fuzz(file_pattern LINKS orvan_backends_common)

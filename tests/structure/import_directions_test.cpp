@@ -27,10 +27,13 @@ const std::map<std::string, Layers> annexes = {
     {"system", {"runtime", "text"}},
     {"drives", {"runtime", "text", "system"}},
     {"cabmaker", {"runtime", "text", "system", "drives"}},
-    {"backends/site", {"runtime", "text", "tracelines", "system", "drives", "platform"}},
+    {"backends/common", {"runtime", "text", "system", "platform"}},
+    {"backends/site",
+     {"runtime", "text", "tracelines", "system", "drives", "platform", "backends/common"}},
     {"backends/jet", {"runtime", "text", "tracelines", "system", "platform"}},
     {"backends/odbc", {"runtime", "text", "platform"}},
-    {"backends/windows", {"runtime", "text", "tracelines", "system", "platform"}},
+    {"backends/windows",
+     {"runtime", "text", "tracelines", "system", "platform", "backends/common"}},
     {"sample", {"runtime", "text", "tracelines", "system", "drives", "platform", "backends/site"}},
 };
 

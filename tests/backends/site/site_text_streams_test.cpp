@@ -1,5 +1,5 @@
-#include "backends/site/files/site_text_reader.h"
-#include "backends/site/files/site_text_writer.h"
+#include "backends/common/text_file_reader.h"
+#include "backends/common/text_file_writer.h"
 
 #include "support/temporary_folder.h"
 
@@ -23,13 +23,13 @@ FileDescriptor toWrite(const std::string& path, int flags = O_TRUNC)
 
 std::vector<std::string> linesOf(const std::string& path)
 {
-    SiteTextReader reader(toRead(path));
+    TextFileReader reader(toRead(path));
     std::vector<std::string> lines;
     while (!reader.atEnd()) lines.emplace_back(reader.readLine());
     return lines;
 }
 
-TEST(SiteTextReader, GivesLinesWithoutTheirEnds)
+TEST(TextFileReader, GivesLinesWithoutTheirEnds)
 {
     struct Case {
         const char* because;
@@ -56,7 +56,7 @@ TEST(SiteTextReader, GivesLinesWithoutTheirEnds)
     }
 }
 
-TEST(SiteTextReader, GivesLinesOfAnyLengthAcrossItsBuffer)
+TEST(TextFileReader, GivesLinesOfAnyLengthAcrossItsBuffer)
 {
     std::mt19937 random(3);
     std::vector<std::string> lines;
@@ -73,13 +73,13 @@ TEST(SiteTextReader, GivesLinesOfAnyLengthAcrossItsBuffer)
     EXPECT_TRUE(lines == linesOf(folder.write("a.txt", bytes)));
 }
 
-TEST(SiteTextReader, PassesOverALineThatIsTooLong)
+TEST(TextFileReader, PassesOverALineThatIsTooLong)
 {
     const TemporaryFolder folder;
     const std::string longest(64U << 20, 'x');
     const auto path =
         folder.write("a.txt", "a\n" + longest + "\n" + longest + "x\nb\n" + longest + "y");
-    SiteTextReader reader(toRead(path));
+    TextFileReader reader(toRead(path));
 
     EXPECT_EQ("a", reader.readLine());
     EXPECT_EQ(longest.size(), reader.readLine().size());
@@ -89,32 +89,32 @@ TEST(SiteTextReader, PassesOverALineThatIsTooLong)
     EXPECT_TRUE(reader.atEnd());
 }
 
-TEST(SiteTextReader, Raises62AtTheEnd)
+TEST(TextFileReader, Raises62AtTheEnd)
 {
     const TemporaryFolder folder;
-    SiteTextReader reader(toRead(folder.write("a.txt", "a")));
+    TextFileReader reader(toRead(folder.write("a.txt", "a")));
     reader.readLine();
 
     EXPECT_EQ(62, errorOf([&] { reader.readLine(); }));
     EXPECT_EQ(62, errorOf([&] { reader.readAll(); }));
 }
 
-TEST(SiteTextReader, ReadsAllFromHereToTheEnd)
+TEST(TextFileReader, ReadsAllFromHereToTheEnd)
 {
     const TemporaryFolder folder;
     const std::string rest(1'000'000, 'r');
-    SiteTextReader reader(toRead(folder.write("a.txt", "a\r\nb\r\n" + rest)));
+    TextFileReader reader(toRead(folder.write("a.txt", "a\r\nb\r\n" + rest)));
     reader.readLine();
 
     EXPECT_EQ("b\r\n" + rest, reader.readAll());
     EXPECT_TRUE(reader.atEnd());
 }
 
-TEST(SiteTextReader, SeesWhatIsAppendedAndSurvivesWhatIsCutOff)
+TEST(TextFileReader, SeesWhatIsAppendedAndSurvivesWhatIsCutOff)
 {
     const TemporaryFolder folder;
     const auto path = folder.write("a.txt", "a\n");
-    SiteTextReader reader(toRead(path));
+    TextFileReader reader(toRead(path));
     EXPECT_EQ("a", reader.readLine());
     EXPECT_TRUE(reader.atEnd());
 
@@ -127,17 +127,17 @@ TEST(SiteTextReader, SeesWhatIsAppendedAndSurvivesWhatIsCutOff)
     EXPECT_TRUE(reader.atEnd());
 }
 
-TEST(SiteTextReader, TellsWhyAFileDoesNotRead)
+TEST(TextFileReader, TellsWhyAFileDoesNotRead)
 {
-    SiteTextReader broken(toRead("/proc/self/mem")); // reading its first page fails
+    TextFileReader broken(toRead("/proc/self/mem")); // reading its first page fails
     EXPECT_EQ(57, errorOf([&] { broken.readLine(); }));
     EXPECT_EQ(57, errorOf([&] { broken.atEnd(); }));
 }
 
-TEST(SiteTextReader, Raises91OnceClosed)
+TEST(TextFileReader, Raises91OnceClosed)
 {
     const TemporaryFolder folder;
-    SiteTextReader reader(toRead(folder.write("a.txt", "a\nb\n")));
+    TextFileReader reader(toRead(folder.write("a.txt", "a\nb\n")));
     reader.readLine();
     reader.close();
     reader.close();
@@ -147,11 +147,11 @@ TEST(SiteTextReader, Raises91OnceClosed)
     EXPECT_EQ(91, errorOf([&] { reader.atEnd(); }));
 }
 
-TEST(SiteTextWriter, WritesBytesAsTheyAreAndLinesWithTheirEnds)
+TEST(TextFileWriter, WritesBytesAsTheyAreAndLinesWithTheirEnds)
 {
     const TemporaryFolder folder;
     const auto path = folder.write("a.txt", "old and longer");
-    SiteTextWriter writer(toWrite(path));
+    TextFileWriter writer(toWrite(path));
     writer.write(std::string("a\0\xE9\n", 4));
     writer.writeLine("line");
     writer.writeLine("");
@@ -160,31 +160,31 @@ TEST(SiteTextWriter, WritesBytesAsTheyAreAndLinesWithTheirEnds)
     EXPECT_EQ(std::string("a\0\xE9\nline\r\n\r\n", 12), folder.read("a.txt"));
 }
 
-TEST(SiteTextWriter, AppendsAndMakesTheFile)
+TEST(TextFileWriter, AppendsAndMakesTheFile)
 {
     const TemporaryFolder folder;
-    SiteTextWriter(toWrite(folder / "a.txt", O_APPEND)).writeLine("one");
-    SiteTextWriter(toWrite(folder / "a.txt", O_APPEND)).writeLine("two");
+    TextFileWriter(toWrite(folder / "a.txt", O_APPEND)).writeLine("one");
+    TextFileWriter(toWrite(folder / "a.txt", O_APPEND)).writeLine("two");
 
     EXPECT_EQ("one\r\ntwo\r\n", folder.read("a.txt")) << "the end of the object closes the file";
 }
 
-TEST(SiteTextWriter, ShowsOthersWhatWasFlushed)
+TEST(TextFileWriter, ShowsOthersWhatWasFlushed)
 {
     const TemporaryFolder folder;
-    SiteTextWriter writer(toWrite(folder / "a.txt"));
+    TextFileWriter writer(toWrite(folder / "a.txt"));
     writer.writeLine("one");
     writer.flush();
 
     EXPECT_EQ("one\r\n", folder.read("a.txt"));
 }
 
-TEST(SiteTextWriter, WritesAnyAmount)
+TEST(TextFileWriter, WritesAnyAmount)
 {
     const TemporaryFolder folder;
     std::string expected;
     {
-        SiteTextWriter writer(toWrite(folder / "a.txt"));
+        TextFileWriter writer(toWrite(folder / "a.txt"));
         for (int i = 0; i < 100; ++i) {
             const std::string text(static_cast<std::size_t>(i) * 7001,
                                    static_cast<char>('a' + i % 26));
@@ -195,25 +195,25 @@ TEST(SiteTextWriter, WritesAnyAmount)
     EXPECT_TRUE(expected == folder.read("a.txt"));
 }
 
-TEST(SiteTextWriter, Raises61WhenTheDiskIsFull)
+TEST(TextFileWriter, Raises61WhenTheDiskIsFull)
 {
     const std::string large(300'000, 'x');
     {
-        SiteTextWriter writer(toWrite("/dev/full"));
+        TextFileWriter writer(toWrite("/dev/full"));
         writer.write("buffered");
         EXPECT_EQ(61, errorOf([&] { writer.flush(); }));
         EXPECT_EQ(61, errorOf([&] { writer.close(); }));
     }
-    SiteTextWriter writer(toWrite("/dev/full", O_APPEND));
+    TextFileWriter writer(toWrite("/dev/full", O_APPEND));
     EXPECT_EQ(61, errorOf([&] { writer.write(large); }));
     EXPECT_EQ(61, errorOf([&] { writer.writeLine(large); }));
     writer.close();
 }
 
-TEST(SiteTextWriter, Raises91OnceClosed)
+TEST(TextFileWriter, Raises91OnceClosed)
 {
     const TemporaryFolder folder;
-    SiteTextWriter writer(toWrite(folder / "a.txt"));
+    TextFileWriter writer(toWrite(folder / "a.txt"));
     writer.close();
     writer.close();
 

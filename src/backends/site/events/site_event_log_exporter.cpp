@@ -1,7 +1,7 @@
 #include "backends/site/events/site_event_log_exporter.h"
 
-#include "backends/site/files/folder_listing.h"
-#include "backends/site/files/site_text_reader.h"
+#include "backends/common/folder_listing.h"
+#include "backends/common/text_file_reader.h"
 #include "drives/site_paths.h"
 #include "runtime/run_time_error.h"
 #include "system/whole_file.h"
@@ -25,7 +25,7 @@ FileDescriptor openEventLog(const RootFolder& site, const std::string& logName)
 }
 
 /// The next line as comma-separated text, with a mark in place of one that is too long to hold.
-std::string nextCsvLine(SiteTextReader& log, CsvReader reader)
+std::string nextCsvLine(TextFileReader& log, CsvReader reader)
 {
     try {
         return eventLogCsvLine(log.readLine(), reader);
@@ -50,7 +50,7 @@ SiteEventLogExporter::SiteEventLogExporter(const SitePaths& paths) : paths_(path
 void SiteEventLogExporter::exportEventLog(const std::string& logName, const std::string& target,
                                           int)
 {
-    SiteTextReader log(openEventLog(paths_.root(), logName));
+    TextFileReader log(openEventLog(paths_.root(), logName));
     const SitePlace place = paths_.place(target);
     checkTarget(place);
     sweepReplacementFiles(place.root, folderPathOf(place.path));

@@ -1,10 +1,10 @@
 #include "backends/site/files/site_file_system.h"
 
-#include "backends/site/files/file_pattern.h"
+#include "backends/common/file_pattern.h"
 #include "backends/site/files/file_times.h"
-#include "backends/site/files/folder_listing.h"
-#include "backends/site/files/site_text_reader.h"
-#include "backends/site/files/site_text_writer.h"
+#include "backends/common/folder_listing.h"
+#include "backends/common/text_file_reader.h"
+#include "backends/common/text_file_writer.h"
 #include "system/file_bytes.h"
 #include "system/file_facts.h"
 #include "system/system_error.h"
@@ -272,7 +272,7 @@ std::unique_ptr<TextReader> SiteFileSystem::openForReading(const std::string& pa
 {
     const SitePlace place = paths_.place(path);
     const bool folderThere = place.root.isFolder(folderPathOf(place.path));
-    return std::make_unique<SiteTextReader>(
+    return std::make_unique<TextFileReader>(
         place.root.openFile(place.path, forReading, folderThere ? fileNotFound : pathNotFound));
 }
 
@@ -290,7 +290,7 @@ std::unique_ptr<TextWriter> SiteFileSystem::openForWriting(const std::string& pa
     } else if (opening.access != FileAccess::append && !resize(file, 0)) {
         throw systemError(errno, deviceIo);
     }
-    return std::make_unique<SiteTextWriter>(std::move(file));
+    return std::make_unique<TextFileWriter>(std::move(file));
 }
 
 std::unique_ptr<TextWriter> SiteFileSystem::openForAppending(const std::string& path)

@@ -1,7 +1,7 @@
 #include "backends/site/files/tool_folder.h"
 
-#include "backends/site/files/file_pattern.h"
-#include "backends/site/files/folder_listing.h"
+#include "backends/common/file_pattern.h"
+#include "backends/common/folder_listing.h"
 #include "platform/tool_files.h"
 #include "runtime/run_time_error.h"
 #include "system/process.h"

@@ -1,4 +1,4 @@
-#include "backends/site/files/site_text_reader.h"
+#include "backends/common/text_file_reader.h"
 
 #include "runtime/run_time_error.h"
 #include "system/file_bytes.h"
@@ -14,19 +14,19 @@ constexpr std::size_t longestText = 1U << 30;
 
 } // namespace
 
-SiteTextReader::SiteTextReader(FileDescriptor file) : file_(std::move(file)), capacity_(bufferSize)
+TextFileReader::TextFileReader(FileDescriptor file) : file_(std::move(file)), capacity_(bufferSize)
 {
     expectReadingThrough(file_);
     buffer_.reset(new char[capacity_]);
 }
 
-void SiteTextReader::requireOpen() const
+void TextFileReader::requireOpen() const
 {
     if (!file_.isOpen()) throw RunTimeError(runTimeErrors::objectVariableNotSet);
 }
 
 /// Moves what is left to the front of the buffer, and doubles it when that is all of it.
-void SiteTextReader::makeRoom()
+void TextFileReader::makeRoom()
 {
     const std::size_t left = end_ - start_;
     if (left == capacity_) {
@@ -42,7 +42,7 @@ void SiteTextReader::makeRoom()
 }
 
 /// Reads more behind what is there. False at the end of the file.
-bool SiteTextReader::fill()
+bool TextFileReader::fill()
 {
     if (start_ == end_) start_ = end_ = 0;
     if (end_ == capacity_) makeRoom();
@@ -51,13 +51,13 @@ bool SiteTextReader::fill()
     return count > 0;
 }
 
-bool SiteTextReader::atEnd()
+bool TextFileReader::atEnd()
 {
     requireOpen();
     return start_ == end_ && !fill();
 }
 
-std::string_view SiteTextReader::takeLine(std::size_t length, std::size_t lineEnd)
+std::string_view TextFileReader::takeLine(std::size_t length, std::size_t lineEnd)
 {
     std::string_view line(buffer_.get() + start_, length);
     start_ += length + lineEnd;
@@ -65,7 +65,7 @@ std::string_view SiteTextReader::takeLine(std::size_t length, std::size_t lineEn
     return line;
 }
 
-std::string_view SiteTextReader::readLine()
+std::string_view TextFileReader::readLine()
 {
     requireOpen();
     for (std::size_t searched = 0;;) {
@@ -86,7 +86,7 @@ std::string_view SiteTextReader::readLine()
     }
 }
 
-void SiteTextReader::passOverLine()
+void TextFileReader::passOverLine()
 {
     for (;;) {
         const char* from = buffer_.get() + start_;
@@ -100,7 +100,7 @@ void SiteTextReader::passOverLine()
     throw RunTimeError(runTimeErrors::outOfStringSpace);
 }
 
-std::string SiteTextReader::readAll()
+std::string TextFileReader::readAll()
 {
     requireOpen();
     std::string text;
@@ -114,7 +114,7 @@ std::string SiteTextReader::readAll()
     return text;
 }
 
-void SiteTextReader::close()
+void TextFileReader::close()
 {
     file_.close();
 }

@@ -8,10 +8,10 @@
 
 /// Writes an open file through a buffer of 256 KiB. A failed write loses the text of that
 /// call; what was buffered before it is tried again by the next one.
-class SiteTextWriter final : public TextWriter {
+class TextFileWriter final : public TextWriter {
 public:
-    explicit SiteTextWriter(FileDescriptor file);
-    ~SiteTextWriter() override;
+    explicit TextFileWriter(FileDescriptor file);
+    ~TextFileWriter() override;
 
     void write(std::string_view text) override;
     void writeLine(std::string_view text) override;

@@ -1,4 +1,4 @@
-#include "backends/site/files/folder_listing.h"
+#include "backends/common/folder_listing.h"
 
 #include "text/utf8.h"
 

@@ -1,4 +1,4 @@
-#include "backends/site/files/file_pattern.h"
+#include "backends/common/file_pattern.h"
 
 #include "text/utf8.h"
 

@@ -1,4 +1,4 @@
-#include "backends/site/files/site_text_writer.h"
+#include "backends/common/text_file_writer.h"
 
 #include "runtime/text.h"
 #include "system/file_bytes.h"
@@ -13,28 +13,28 @@ constexpr std::size_t bufferSize = 256U << 10;
 
 } // namespace
 
-SiteTextWriter::SiteTextWriter(FileDescriptor file) : file_(std::move(file))
+TextFileWriter::TextFileWriter(FileDescriptor file) : file_(std::move(file))
 {
     buffer_.reserve(bufferSize);
 }
 
-SiteTextWriter::~SiteTextWriter()
+TextFileWriter::~TextFileWriter()
 {
     if (file_.isOpen()) writeBytes(file_, buffer_);
 }
 
-void SiteTextWriter::requireOpen() const
+void TextFileWriter::requireOpen() const
 {
     if (!file_.isOpen()) throw RunTimeError(runTimeErrors::objectVariableNotSet);
 }
 
-void SiteTextWriter::makeRoom(std::size_t length)
+void TextFileWriter::makeRoom(std::size_t length)
 {
     requireOpen();
     if (buffer_.size() + length > bufferSize) flush();
 }
 
-void SiteTextWriter::write(std::string_view text)
+void TextFileWriter::write(std::string_view text)
 {
     makeRoom(text.size());
     if (text.size() < bufferSize) {
@@ -44,14 +44,14 @@ void SiteTextWriter::write(std::string_view text)
     }
 }
 
-void SiteTextWriter::writeLine(std::string_view text)
+void TextFileWriter::writeLine(std::string_view text)
 {
     makeRoom(text.size() + lineBreak.size());
     write(text);
     write(lineBreak);
 }
 
-void SiteTextWriter::flush()
+void TextFileWriter::flush()
 {
     requireOpen();
     const std::size_t written = writeBytes(file_, buffer_);
@@ -61,7 +61,7 @@ void SiteTextWriter::flush()
     if (!whole) throw systemError(error, runTimeErrors::deviceIo);
 }
 
-void SiteTextWriter::close()
+void TextFileWriter::close()
 {
     if (!file_.isOpen()) return;
     flush();

@@ -10,9 +10,9 @@
 
 /// Reads an open file through one buffer, which only a long line enlarges. What another
 /// program appends or cuts off meanwhile is read as it is found.
-class SiteTextReader final : public TextReader {
+class TextFileReader final : public TextReader {
 public:
-    explicit SiteTextReader(FileDescriptor file);
+    explicit TextFileReader(FileDescriptor file);
 
     bool atEnd() override;
     std::string_view readLine() override;
