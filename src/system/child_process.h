@@ -43,6 +43,6 @@ enum class ChildProcessState {
 /// `ended`, after which its number means nothing.
 ChildProcessState lookAtChildProcess(std::int32_t process, bool waits, ChildProcessEnd& end);
 
-/// A file without a name, in memory, to be read and written. Not open where there is none to be
-/// had.
+/// A file of the program's own, which is gone once nobody has it open, in memory where the system
+/// has such: to be read and written. Not open where there is none to be had.
 FileDescriptor makeMemoryFile();

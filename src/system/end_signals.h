@@ -10,8 +10,8 @@ public:
     EndSignals(const EndSignals&) = delete;
     EndSignals& operator=(const EndSignals&) = delete;
 
-    /// A descriptor that has something to read once a signal has come; -1 where there is none, and
-    /// then no signal is heard.
+    /// A descriptor that has something to read once a signal has come; -1 where the system has none
+    /// to give: then `came` is to be asked from time to time.
     int descriptor() const;
 
     /// Takes off what the signals have made to be read.
