@@ -8,6 +8,7 @@
 #include "console/view.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -24,9 +25,17 @@ struct SnapInIdentity {
     std::string version;
 };
 
-/// The management console in memory: tree, view, menus and what a person does with them.
+/// What keeps the console from taking an event: the tool takes one at a time.
+enum class Busy {
+    no,
+    call,  ///< a call into the console is under way
+    sheet, ///< a page of a sheet is at work, on show or closed already
+};
+
+/// The management console in memory: tree, views, menus and what a person does with them.
 ///
 /// Every host drives this one: a command line by its calls, a window by calls and by observing.
+/// What a call says of the selection, or of what is on show, it says of the current view.
 class Console : private ScopeTreeListener {
 public:
     /// `definition` outlives the console. The root is there, and so are its automatic children.
@@ -37,8 +46,8 @@ public:
     void addObserver(ConsoleObserver& observer);
     void removeObserver(ConsoleObserver& observer);
 
-    /// Initialises and loads the snap-in, then selects the root. `snapIn` outlives the console, or
-    /// the call of `unload`.
+    /// Initialises and loads the snap-in. Nothing is on show yet: the host selects what it shows
+    /// first. `snapIn` outlives the console, or the call of `unload`.
     void load(SnapInEvents& snapIn);
 
     /// Raises what the snap-in raises; it is let go all the same.
@@ -51,10 +60,46 @@ public:
     void displayName(std::string text) { tree_.item(1).displayName(std::move(text)); }
 
     ScopeTree& scopeItems() { return tree_; }
-    View& currentView() { return view_; }
+    ScopeItem& root() { return tree_.item(1); }
+
+    /// The view that the person is in, and while a view is worked on that one.
+    View& currentView() { return *current_; }
+
+    /// The person went to a view. Raises 5 for a closed one.
+    void activate(View& view);
+
+    /// One more window, without a selection. It is not the current one yet. There is one view from
+    /// the start.
+    View& addView();
+
+    /// Lets a view go, with its selection, as soon as no call is under way. Another one is current
+    /// then. Raises 5 for the last one, and for one that is closed.
+    void closeView(View& view);
+
+    /// The open views, the oldest first.
+    std::vector<View*> views() const;
 
     /// The scope item of the current view's selection. Raises 91 before the first selection.
-    ScopeItem& currentScopeItem() { return view_.selectedScopePaneItem().scopeItem(); }
+    ScopeItem& currentScopeItem() { return current_->selectedScopePaneItem().scopeItem(); }
+
+    /// What an item shows when it is selected. Raises 5 for a type that is not declared.
+    ViewChoice defaultView(const ScopeItem& item) const;
+
+    /// A host gives the console no event unless it answers "no".
+    Busy busy() const;
+
+    /// Keeps the console busy with a call: as each call does, and a host around what belongs to
+    /// one.
+    class Work {
+    public:
+        explicit Work(Console& console) : console_(console) { ++console_.callsUnderWay_; }
+        ~Work() { console_.endWork(); }
+        Work(const Work&) = delete;
+        Work& operator=(const Work&) = delete;
+
+    private:
+        Console& console_;
+    };
 
     /// By name. Raises 35601 for a menu that is not declared.
     Menu& menu(std::string_view name);
@@ -97,9 +142,27 @@ private:
     void itemLeaving(ScopeItem& item) override;
     void itemRemoved(ScopeItem& item) override;
 
+    /// Makes a view the current one for as long as it lives.
+    class WorkInView {
+    public:
+        WorkInView(Console& console, View& view);
+        ~WorkInView();
+        WorkInView(const WorkInView&) = delete;
+        WorkInView& operator=(const WorkInView&) = delete;
+
+    private:
+        Work work_;
+        Console& console_;
+        View& view_;
+        View* before_;
+    };
+
+    void endWork();
+    bool isOpen(const View& view) const;
     SnapInEvents& snapIn() const;
-    const NodeTypeDefinition& nodeType(std::string_view typeName) const;
-    std::pair<std::string, ResultViewType> defaultView(std::string_view typeName) const;
+
+    /// Null for a type that is not declared.
+    const NodeTypeDefinition* nodeType(std::string_view typeName) const;
     void tellAll(const std::function<void(ConsoleObserver&)>& call);
     void createPropertyPages(OpenSheet& sheet);
     void tellSheetShown(OpenSheet& sheet);
@@ -110,7 +173,14 @@ private:
     SnapInIdentity identity_;
     std::vector<Menu> menus_;
     ScopeTree tree_;
-    View view_;
+    PropertySheetProvider sheets_;
+    std::vector<std::unique_ptr<View>> views_;
+    View* current_ = nullptr;
     std::vector<ConsoleObserver*> observers_;
     SnapInEvents* snapIn_ = nullptr;
+    int callsUnderWay_ = 0;
+
+    // What went while a call was under way, which may still have it in its hands.
+    std::vector<std::unique_ptr<View>> closedViews_;
+    std::vector<std::unique_ptr<ScopePaneItem>> removedPanes_;
 };

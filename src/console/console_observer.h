@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 class OpenSheet;
 class ResultView;
 class RunTimeError;
@@ -10,14 +8,15 @@ class View;
 
 /// Follows the console: a window does, and keeps itself like the model.
 ///
-/// Calls come while the snap-in works; an observer shows what it is told and asks for nothing.
+/// Calls come while the snap-in works; an observer shows what it is told and asks for nothing. It
+/// may take leave in any of them, and is told nothing more.
 class ConsoleObserver {
 public:
     virtual ~ConsoleObserver() = default;
 
     virtual void scopeItemAdded(ScopeItem& item) = 0;
 
-    /// Name, display name or kind.
+    /// Name, display name, kind or image.
     virtual void scopeItemChanged(ScopeItem& item) = 0;
 
     /// The item is out of the tree; told for what lay below it first. The object itself is gone
@@ -34,8 +33,14 @@ public:
     /// All rows, columns and tasks are there, rows in their order on the screen.
     virtual void viewFilled(ResultView& resultView) = 0;
 
-    /// To be seen at once, as long work goes on behind it.
-    virtual void statusBarChanged(const std::string& text) = 0;
+    /// The selection of `view` stands, moved or shown anew: its rows are there, and its verbs.
+    /// Comes last of all that a selection brings, and not for one that another took the place of
+    /// meanwhile.
+    virtual void selected(View& /*view*/) {}
+
+    /// `view` has another text in its status bar: to be seen at once, as long work goes on behind
+    /// it.
+    virtual void statusBarChanged(View& view) = 0;
 
     /// A sheet is up, at the page that it was opened at. A host that shows sheets follows it from
     /// here on; one that drives them by calls may do without.

@@ -15,6 +15,14 @@ struct ColumnHeader {
     int width = automaticWidth;
 };
 
+/// An order of rows that a person chose.
+struct RowOrder {
+    int column = 0; ///< from 1; 0 for the list's own order
+    bool ascending = true;
+
+    friend bool operator==(const RowOrder&, const RowOrder&) = default;
+};
+
 class ListView;
 
 /// A row: a text and sub-items numbered from 1. Sub-item n shows in column n.
@@ -87,6 +95,11 @@ public:
     /// when rows came since. Raises 9 for one that is not there.
     ListItem shown(int row);
 
+    /// What the person chose. No row moves by it: `row_order.h` puts those in order that a host
+    /// shows.
+    const RowOrder& chosenOrder() const { return chosenOrder_; }
+    void chooseOrder(RowOrder order) { chosenOrder_ = order; }
+
 private:
     friend class ListItem;
     struct Text {
@@ -111,4 +124,5 @@ private:
     std::vector<Row> rows_;
     std::vector<Text> cells_;
     std::vector<std::uint32_t> order_; ///< empty: as the rows stand
+    RowOrder chosenOrder_;
 };

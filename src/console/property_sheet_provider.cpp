@@ -36,6 +36,12 @@ void PropertySheetProvider::show(int position)
     if (!sheet.closed()) console_.tellSheetShown(sheet);
 }
 
+bool PropertySheetProvider::atWork() const
+{
+    return std::any_of(shown_.begin(), shown_.end(),
+                       [](const auto& sheet) { return sheet->atWork(); });
+}
+
 std::shared_ptr<OpenSheet> PropertySheetProvider::lastSheet() const
 {
     return shown_.empty() ? nullptr : shown_.back();

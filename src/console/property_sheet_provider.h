@@ -31,6 +31,9 @@ public:
     /// the console's observers. Raises 91 as above, and 9 for a position without a page.
     void show(int position);
 
+    /// Whether a page of a sheet is at work, on show or closed already.
+    bool atWork() const;
+
     /// The sheet that was shown last, closed or not; null before the first.
     std::shared_ptr<OpenSheet> lastSheet() const;
 

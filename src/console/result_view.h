@@ -10,8 +10,16 @@
 #include <vector>
 
 class ScopePaneItem;
+class View;
 
 enum class ResultViewType { list, taskPad };
+
+/// Which view an item shows, known before it is shown.
+struct ViewChoice {
+    std::string displayString;
+    ResultViewType type = ResultViewType::list;
+    ListRows rows = ListRows::own; ///< of a list
+};
 
 /// What the right pane shows for a node: a list or a task pad.
 class ResultView {
@@ -44,10 +52,11 @@ private:
 /// A scope item as a view shows it: made when the item is first selected there.
 class ScopePaneItem {
 public:
-    explicit ScopePaneItem(ScopeItem& item) : item_(item.shared_from_this()) {}
+    ScopePaneItem(View& view, ScopeItem& item) : view_(view), item_(item.shared_from_this()) {}
     ScopePaneItem(const ScopePaneItem&) = delete;
     ScopePaneItem& operator=(const ScopePaneItem&) = delete;
 
+    View& view() const { return view_; }
     ScopeItem& scopeItem() const { return *item_; }
     const std::string& key() const { return item_->key(); }
     const std::string& name() const { return item_->name(); }
@@ -58,6 +67,7 @@ public:
 private:
     friend class View;
 
+    View& view_;
     std::shared_ptr<ScopeItem> item_;
     std::vector<std::unique_ptr<ResultView>> views_;
     ResultView* shown_ = nullptr;

@@ -30,6 +30,12 @@ void ScopeItem::kind(std::string text)
     changed();
 }
 
+void ScopeItem::image(std::string name)
+{
+    image_ = std::move(name);
+    changed();
+}
+
 void ScopeItem::changed()
 {
     if (listener_) listener_->itemChanged(*this);

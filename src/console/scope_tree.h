@@ -17,7 +17,7 @@ public:
 
     virtual void itemAdded(ScopeItem& item) = 0;
 
-    /// A name, display name or kind changed.
+    /// A name, display name, kind or image changed.
     virtual void itemChanged(ScopeItem& item) = 0;
 
     /// The item is about to go, with what lies below it; all is in place still.
@@ -38,9 +38,14 @@ public:
     const std::string& displayName() const { return displayName_; }
     const std::string& kind() const { return kind_; } ///< says how the node is expanded
 
+    /// The name of the picture beside the node, for the host to find; that of the node's type until
+    /// it is set. Empty for none.
+    const std::string& image() const { return image_; }
+
     void name(std::string text);
     void displayName(std::string text);
     void kind(std::string text);
+    void image(std::string name);
 
     ScopeItem* parent() const { return parent_; } ///< null for the root
     const std::vector<ScopeItem*>& children() const { return children_; }
@@ -49,6 +54,10 @@ public:
 
     /// Whether the snap-in was told that the node was opened.
     bool expanded() const { return expanded_; }
+
+    /// Whether there is something to open: nodes below, or, before the first opening, the chance of
+    /// some.
+    bool hasChildren() const { return !children_.empty() || (opens_ && !expanded_); }
 
 private:
     friend class Console;
@@ -63,6 +72,8 @@ private:
     std::string name_;
     std::string displayName_;
     std::string kind_;
+    std::string image_;
+    bool opens_ = true; ///< as the type says
     ScopeItem* parent_ = nullptr;
     std::vector<ScopeItem*> children_;
     ScopeTreeListener* listener_ = nullptr;

@@ -12,6 +12,12 @@ enum class ListText {
     serverCodePage, ///< bytes as the server's logs hold them, for the host to decode
 };
 
+/// What the rows of a list are.
+enum class ListRows {
+    own,        ///< those that the snap-in puts in
+    childNodes, ///< the nodes below the item on show: the list has no others
+};
+
 struct ColumnDefinition {
     std::string key; ///< may be empty
     std::string header;
@@ -33,6 +39,7 @@ struct ListViewDefinition {
     ListSort sort;
     int filterChangeTimeOut = 1000; ///< milliseconds
     ListText text = ListText::utf8;
+    ListRows rows = ListRows::own;
     std::vector<ColumnDefinition> columns;
 };
 
@@ -69,6 +76,8 @@ struct NodeTypeDefinition {
     std::string typeName;
     std::string displayName;
     std::string defaultView;
+    std::string image = {}; ///< what a new node's `ScopeItem::image` is
+    bool opens = true;      ///< whether nodes may come below one of this type
 };
 
 /// A child that the console makes with the root.

@@ -8,7 +8,7 @@
 void View::statusBarText(std::string text)
 {
     statusBarText_ = std::move(text);
-    console_.tellAll([&](ConsoleObserver& observer) { observer.statusBarChanged(statusBarText_); });
+    console_.tellAll([&](ConsoleObserver& observer) { observer.statusBarChanged(*this); });
 }
 
 ScopePaneItem& View::scopePaneItem(int position) const
@@ -24,8 +24,14 @@ ScopePaneItem& View::selectedScopePaneItem() const
     return required(selected_);
 }
 
+PropertySheetProvider& View::propertySheetProvider()
+{
+    return console_.sheets_;
+}
+
 void View::select(ScopeItem& item)
 {
+    const Console::WorkInView work{console_, *this};
     const auto held = item.shared_from_this();
     console_.expand(item);
     if (!item.inTree()) throw RunTimeError(runTimeErrors::invalidCall);
@@ -35,13 +41,17 @@ void View::select(ScopeItem& item)
 
     verbs_ = {};
     ScopePaneItem& pane = paneOf(item);
-    const auto [displayString, type] = console_.defaultView(item.typeName());
-    show(pane, resultViewOf(pane, displayString, type));
-    if (selected_ == &pane) console_.snapIn().Views_Select(*this, item, true, verbs_);
+    const ViewChoice choice = console_.defaultView(item);
+    show(pane, resultViewOf(pane, choice.displayString, choice.type));
+    if (selected_ != &pane) return;
+    console_.snapIn().Views_Select(*this, item, true, verbs_);
+    if (selected_ == &pane)
+        console_.tellAll([&](ConsoleObserver& observer) { observer.selected(*this); });
 }
 
 void View::display(const std::string& displayString, ResultViewType type)
 {
+    const Console::WorkInView work{console_, *this};
     ScopePaneItem& pane = selectedScopePaneItem();
     show(pane, resultViewOf(pane, displayString, type));
 }
@@ -50,7 +60,7 @@ ScopePaneItem& View::paneOf(ScopeItem& item)
 {
     for (auto& pane : panes_)
         if (&pane->scopeItem() == &item) return *pane;
-    return *panes_.emplace_back(std::make_unique<ScopePaneItem>(item));
+    return *panes_.emplace_back(std::make_unique<ScopePaneItem>(*this, item));
 }
 
 ResultView& View::resultViewOf(ScopePaneItem& pane, const std::string& displayString,
@@ -77,6 +87,7 @@ void View::show(ScopePaneItem& pane, ResultView& resultView)
 {
     // Rows are for the view on show alone: tens of thousands of them are not kept behind it.
     if (selected_ && selected_->shown_ && selected_->shown_->type() == ResultViewType::list) {
+        noteOrder(selected_->shown_->list());
         selected_->shown_->list().clear();
     }
     const bool moved = selected_ != &pane;
@@ -90,23 +101,29 @@ void View::show(ScopePaneItem& pane, ResultView& resultView)
 
 void View::fill(ResultView& resultView)
 {
-    struct UnderWay {
-        explicit UnderWay(View& view) : view_(view) { ++view_.fillsUnderWay_; }
-        UnderWay(const UnderWay&) = delete;
-        UnderWay& operator=(const UnderWay&) = delete;
-        ~UnderWay()
-        {
-            if (--view_.fillsUnderWay_ == 0) view_.retired_.clear();
-        }
-        View& view_;
-    };
-    const UnderWay underWay{*this};
-
     console_.tellAll([&](ConsoleObserver& observer) { observer.viewReset(resultView); });
     console_.snapIn().ResultViews_Initialize(resultView);
     if (!selected_ || selected_->shown_ != &resultView) return;
-    if (resultView.type() == ResultViewType::list) resultView.list().sortOnLoad();
+    if (resultView.type() == ResultViewType::list) {
+        ListView& list = resultView.list();
+        list.sortOnLoad();
+        list.chooseOrder(orders_[{resultView.displayString(), list.columnCount()}]);
+    }
     console_.tellAll([&](ConsoleObserver& observer) { observer.viewFilled(resultView); });
+}
+
+void View::noteOrder(ListView& list)
+{
+    orders_[{list.definition().name, list.columnCount()}] = list.chosenOrder();
+}
+
+void View::leaveSelection()
+{
+    if (!selected_) return;
+    const Console::WorkInView work{console_, *this};
+    const auto held = selected_->scopeItem().shared_from_this();
+    if (console_.snapIn_) console_.snapIn_->Views_Select(*this, *held, false, verbs_);
+    selected_ = nullptr;
 }
 
 bool View::showsInside(const ScopeItem& item) const
@@ -123,6 +140,6 @@ void View::forget(const ScopeItem& item)
                                     [&](const auto& pane) { return &pane->scopeItem() == &item; });
     if (found == panes_.end()) return;
     if (selected_ == found->get()) selected_ = nullptr;
-    if (fillsUnderWay_ > 0) retired_.push_back(std::move(*found));
+    if (console_.callsUnderWay_ > 0) console_.removedPanes_.push_back(std::move(*found));
     panes_.erase(found);
 }

@@ -4,16 +4,21 @@
 #include "console/property_sheet_provider.h"
 #include "console/result_view.h"
 
+#include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 class Console;
 
-/// A window of the console: the selected node and what the right pane shows of it.
+/// A window of the console: the selected node and what the right pane shows of it, with rows, and
+/// an order of rows, of its own.
+///
+/// The order that a person chose for a list goes on to the next list of the same name and columns.
 class View {
 public:
-    explicit View(Console& console) : console_(console), sheets_(console) {}
+    explicit View(Console& console) : console_(console) {}
     View(const View&) = delete;
     View& operator=(const View&) = delete;
 
@@ -32,17 +37,19 @@ public:
     ScopePaneItem& selectedScopePaneItem() const;
 
     /// Moves the selection and shows the item's view; what is selected already is shown anew. An
-    /// item that was never opened is opened first. Raises 5 for an item that is out of the tree.
+    /// item that was never opened is opened first. Raises 5 for an item that is out of the tree,
+    /// and when the view is closed.
     void select(ScopeItem& item);
 
     /// Shows one of the views of the selected item anew. Raises 91 before the first selection, 5
-    /// for a view that is not declared.
+    /// for a view that is not declared, and when this one is closed.
     void display(const std::string& displayString, ResultViewType type);
 
     /// What the selection offers.
     ConsoleVerbs& verbs() { return verbs_; }
 
-    PropertySheetProvider& propertySheetProvider() { return sheets_; }
+    /// The one of the console, which its views share: a sheet outlives the view it was opened in.
+    PropertySheetProvider& propertySheetProvider();
 
 private:
     friend class Console;
@@ -54,13 +61,13 @@ private:
     void fill(ResultView& resultView);
     bool showsInside(const ScopeItem& item) const;
     void forget(const ScopeItem& item);
+    void leaveSelection();
+    void noteOrder(ListView& list);
 
     Console& console_;
-    PropertySheetProvider sheets_;
     std::vector<std::unique_ptr<ScopePaneItem>> panes_;
-    std::vector<std::unique_ptr<ScopePaneItem>> retired_; ///< removed while a view was filled
     ScopePaneItem* selected_ = nullptr;
-    int fillsUnderWay_ = 0;
+    std::map<std::pair<std::string, int>, RowOrder> orders_; ///< by a list's name and columns
     ConsoleVerbs verbs_;
     std::string statusBarText_;
 };

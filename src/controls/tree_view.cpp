@@ -95,6 +95,7 @@ TreeView::~TreeView()
 void TreeView::clear()
 {
     letGoOfNodes();
+    ++generation_;
     notify();
 }
 

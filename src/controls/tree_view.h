@@ -97,6 +97,10 @@ public:
 
     void clear();
 
+    /// Another one after each `clear`, so that a tree that was filled anew tells itself from the
+    /// one before even where it looks the same.
+    unsigned generation() const { return generation_; }
+
     /// The number of all nodes.
     int count() const { return static_cast<int>(nodes_.size()); }
 
@@ -131,5 +135,6 @@ private:
     std::vector<TreeNode*> roots_;
     std::unordered_map<std::string, TreeNode*> byKey_;
     TreeNode* nodeInSight_ = nullptr;
+    unsigned generation_ = 0;
     bool checkBoxes_ = false;
 };

@@ -18,13 +18,13 @@ namespace {
 constexpr std::string_view libraryPrefix = "ZMKbrandingres_";
 constexpr std::size_t codeLength = 3;
 
-std::string libraryPath(ToolContext& tool)
-{
-    return tool.platform.module.folder() + "\\" + std::string(libraryPrefix) +
-           codeFromLanguageId(tool.language.g_lngCurrentLanguage) + ".dll";
-}
-
 } // namespace
+
+std::string languageLibraryPath(const HostModule& module, std::int32_t language)
+{
+    return module.folder() + "\\" + std::string(libraryPrefix) + codeFromLanguageId(language) +
+           ".dll";
+}
 
 std::string myLoadResString(ToolContext& tool, TextId id)
 {
@@ -60,7 +60,10 @@ void InitalizeLanguages(ToolContext& tool)
     if (language.g_hResourceLibrary > 0)
         step([&] { libraries.freeLibrary(language.g_hResourceLibrary); });
     language.g_hResourceLibrary = 0;
-    step([&] { language.g_hResourceLibrary = libraries.loadLibrary(libraryPath(tool)); });
+    step([&] {
+        language.g_hResourceLibrary = libraries.loadLibrary(
+            languageLibraryPath(tool.platform.module, language.g_lngCurrentLanguage));
+    });
 
     step([&] { keyExists = registryKeyExists(tool, registryRoot::localMachine, toolKey); });
     if (!keyExists) step([&] { createRegistryKey(tool, registryRoot::localMachine, toolKey); });

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+class HostModule;
 struct ToolContext;
 
 /// A window of the tool, from its opening to its closing in `LanguageState::openForms`: what a new
@@ -29,6 +30,9 @@ public:
 /// The text of an id, from the language's library or else from the English table; the empty text
 /// for an id of neither. Raises nothing.
 std::string myLoadResString(ToolContext& tool, TextId id);
+
+/// The path of a language's library beside the tool, which may not be there.
+std::string languageLibraryPath(const HostModule& module, std::int32_t language);
 
 /// Loads the current language's library, remembers the choice in the registry, lists the libraries
 /// beside the tool and gives the open forms the language's font. A failed step is shown in a

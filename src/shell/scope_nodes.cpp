@@ -30,10 +30,12 @@ void removeLogNodes(ErrorTrap& step, ScopeTree& scopeItems, const std::string& p
 }
 
 void addLogNode(ErrorTrap& step, ToolContext& tool, ScopeTree& scopeItems, ScopeItem& processNode,
-                const std::string& fileName, const std::string& displayName)
+                const std::string& fileName, const std::string& displayName,
+                const char* image = snapinImage::log)
 {
     ScopeItem* const node = step.value(
         nullptr, [&] { return &scopeItems.addChild(snapinNode::log, fileName, processNode); });
+    if (node) node->image(image);
     step([&] { required(node).name(fileName); });
     step([&] { required(node).displayName(displayName); });
     step([&] { required(node).kind(mdlSnapIn::kindLogFile); });
@@ -107,7 +109,8 @@ void mdlSnapIn::populateScopeAllLogs(ToolContext& tool, ScopeTree& scopeItems,
     const std::string current =
         step.value("", [&] { return mdlDiagnostics::getCurrentDiagnosticFile(tool, process); });
     if (!current.empty()) {
-        addLogNode(step, tool, scopeItems, processNode, current, "Current- " + current);
+        addLogNode(step, tool, scopeItems, processNode, current, "Current- " + current,
+                   snapinImage::logInUse);
     }
     collectOtherLogs(step, tool, process, pattern, logs);
     for (auto index = static_cast<std::size_t>(logs.position.value()) - 1; index >= 1; --index) {

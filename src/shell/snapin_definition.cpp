@@ -40,6 +40,7 @@ ListViewDefinition allProcessesView()
 {
     ListViewDefinition view;
     view.name = snapinView::processes;
+    view.rows = ListRows::childNodes;
     view.columns = {{"keyProcess", "Process*", automaticWidth}};
     return view;
 }
@@ -108,11 +109,14 @@ SnapInDefinition snapinDefinition()
     definition.description = "Kelma Orvan Diagnostic Tool MMC Snap-in";
     definition.provider = "Kelma Systems, Inc.";
     definition.version = "1.0";
+    constexpr bool opens = true;
     definition.nodeTypes = {
-        {snapinNode::root, "Kelma Orvan Diagnostic Tool", snapinView::taskPad},
-        {snapinNode::processes, processesPlaceholder, snapinView::processes},
-        {snapinNode::process, "nodeProcesses", snapinView::logFiles},
-        {snapinNode::log, "nodeLogs", snapinView::logLines},
+        {snapinNode::root, "Kelma Orvan Diagnostic Tool", snapinView::taskPad, snapinImage::root,
+         opens},
+        {snapinNode::processes, processesPlaceholder, snapinView::processes, snapinImage::processes,
+         opens},
+        {snapinNode::process, "nodeProcesses", snapinView::logFiles, snapinImage::process, opens},
+        {snapinNode::log, "nodeLogs", snapinView::logLines, snapinImage::log, !opens},
     };
     definition.automaticNodes = {{snapinNode::processes, mdlSnapIn::kindProcesses}};
     definition.listViews = {diagLogView(), allLogsView(), allProcessesView()};

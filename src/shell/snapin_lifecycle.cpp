@@ -3,23 +3,15 @@
 #include "core/utility.h"
 #include "platform/host_module.h"
 #include "platform/tool_events.h"
-#include "runtime/text.h"
 #include "server/server_identity.h"
 #include "settings/about_box.h"
 #include "settings/event_log_language.h"
 #include "settings/help.h"
 #include "shell/initialize.h"
+#include "shell/snapin_identity.h"
 #include "shell/snapin_orvan_diagnostics.h"
 
 namespace {
-
-std::string descriptionText(ToolContext& tool)
-{
-    std::string text = myLoadResString(tool, TextId::snapInFullName);
-    text.append(lineBreak).append(myLoadResString(tool, TextId::copyright));
-    text.append(lineBreak).append(myLoadResString(tool, TextId::trademarks));
-    return text;
-}
 
 /// Each part is compared by itself, so that a server 3.0 is taken for one without the fields.
 bool logsExtendedFields(const ServerVersion& server)
@@ -43,7 +35,10 @@ void snapinOrvanDiagnostics::SnapIn_Initialize()
     step([&] { InitalizeLanguages(tool_); });
     step([&] { console_.displayName(myLoadResString(tool_, TextId::snapInName)); });
     step([&] { console_.identity().provider = myLoadResString(tool_, TextId::companyName); });
-    step([&] { console_.identity().description = descriptionText(tool_); });
+    step([&] {
+        console_.identity().description =
+            snapinDescription([&](TextId id) { return myLoadResString(tool_, id); });
+    });
     step([&] { console_.identity().helpFileName = mdlHTMLHelp::getHelpFileName(tool_); });
     step([&] { console_.identity().version = moduleVersionText(tool_.platform.module); });
     const ServerVersion server = step.value({}, [&] { return mdlOrvan::getVersion(tool_); });

@@ -19,6 +19,15 @@ constexpr const char* process = "nodeProcesses"; ///< also the one above logs op
 constexpr const char* log = "nodeLogs";
 } // namespace snapinNode
 
+/// The pictures beside the nodes. A host has a drawing of each of these names.
+namespace snapinImage {
+constexpr const char* root = "console";
+constexpr const char* processes = "processes";
+constexpr const char* process = "process";
+constexpr const char* log = "log";
+constexpr const char* logInUse = "log-current";
+} // namespace snapinImage
+
 namespace snapinMenu {
 constexpr const char* task = "mnuTask";
 constexpr const char* main = "mnuMain";

@@ -1,67 +1,7 @@
 #include "console/console.h"
 
-#include "console/recording_snap_in.h"
+#include "console/console_fixture.h"
 #include "controls/recording_observer.h"
-
-#include <gtest/gtest.h>
-
-namespace {
-
-using Texts = std::vector<std::string>;
-
-SnapInDefinition smallDefinition()
-{
-    SnapInDefinition definition;
-    definition.displayName = "Tool";
-    definition.provider = "Provider";
-    definition.nodeTypes = {{"tool", "Tool", "pad"},
-                            {"Machines", "Machines*", "machines"},
-                            {"nodeMachine", "nodeMachine", "files"}};
-    definition.automaticNodes = {{"Machines", "Machines"}};
-    ListViewDefinition machines;
-    machines.name = "machines";
-    machines.columns = {{"keyMachine", "Machine", automaticWidth}};
-    ListViewDefinition files = machines;
-    files.name = "files";
-    files.sort = {true, 1, false};
-    definition.listViews = {machines, files};
-    TaskPadDefinition pad;
-    pad.name = "pad";
-    pad.background = "#2/nothing";
-    pad.tasks = {{"1", "One", "font", 'M', "help"}, {"2", "Two", "font", 'M', "help"}};
-    definition.taskPads = {pad};
-    definition.menus = {{"mnuTask", "Tasks", {{"mnuOne", "One", "does one"}, {"mnuTwo", "", ""}}}};
-    return definition;
-}
-
-struct ConsoleTest : testing::Test {
-    SnapInDefinition definition = smallDefinition();
-    Console console{definition};
-    RecordingSnapIn snapIn;
-
-    ConsoleTest()
-    {
-        snapIn.console = &console;
-        console.addObserver(snapIn);
-    }
-
-    /// The root is on show, and nothing was heard yet.
-    void load()
-    {
-        console.load(snapIn);
-        snapIn.heard.clear();
-    }
-
-    ScopeItem& root() { return console.scopeItems().item(1); }
-    ScopeItem& add(const std::string& key, ScopeItem& parent)
-    {
-        return console.scopeItems().addChild("nodeMachine", key, parent);
-    }
-    View& view() { return console.currentView(); }
-    std::string selected() { return view().selectedScopePaneItem().key(); }
-};
-
-} // namespace
 
 TEST_F(ConsoleTest, HasTheRootFirstAndItsAutomaticChildrenBehindIt)
 {
@@ -77,12 +17,23 @@ TEST_F(ConsoleTest, HasTheRootFirstAndItsAutomaticChildrenBehindIt)
     EXPECT_EQ(&root(), machines.parent());
 }
 
-TEST_F(ConsoleTest, InitialisesThenLoadsThenShowsTheRoot)
+TEST_F(ConsoleTest, InitialisesThenLoadsAndShowsNothingYet)
 {
     console.load(snapIn);
 
-    EXPECT_EQ((Texts{"initialize", "load", "expand Static Node", "> Static Node", "reset pad",
-                     "fill pad of Static Node", "filled pad", "select Static Node"}),
+    EXPECT_EQ((Texts{"initialize", "load"}), snapIn.taken());
+    EXPECT_EQ(91, errorNumberOf([&] { console.currentScopeItem(); }));
+}
+
+TEST_F(ConsoleTest, TellsThatTheSelectionStandsAfterRowsAndVerbs)
+{
+    console.load(snapIn);
+    snapIn.heard.clear();
+
+    view().select(root());
+
+    EXPECT_EQ((Texts{"expand Static Node", "> Static Node", "reset pad", "fill pad of Static Node",
+                     "filled pad", "select Static Node", "selected Static Node"}),
               snapIn.taken());
 }
 
@@ -113,7 +64,8 @@ TEST_F(ConsoleTest, OpensANodeBeforeItsViewIsShown)
     view().select(console.scopeItems().item(2));
 
     EXPECT_EQ((Texts{"expand Machines", "deselect Static Node", "> Machines", "reset machines",
-                     "fill machines of Machines", "filled machines", "select Machines"}),
+                     "fill machines of Machines", "filled machines", "select Machines",
+                     "selected Machines"}),
               snapIn.taken());
 }
 
@@ -124,7 +76,7 @@ TEST_F(ConsoleTest, ShowsAnewWhatIsSelectedAlready)
     view().select(root());
 
     EXPECT_EQ((Texts{"deselect Static Node", "reset pad", "fill pad of Static Node", "filled pad",
-                     "select Static Node"}),
+                     "select Static Node", "selected Static Node"}),
               snapIn.taken());
 }
 
@@ -221,9 +173,10 @@ TEST_F(ConsoleTest, MovesTheSelectionToTheParentWhenWhatIsSelectedGoes)
 
     EXPECT_EQ("Static Node", selected());
     EXPECT_EQ(1, view().scopePaneItemCount());
-    EXPECT_EQ((Texts{"deselect below", "> Static Node", "reset pad", "fill pad of Static Node",
-                     "filled pad", "select Static Node", "- below", "- one"}),
-              snapIn.taken());
+    EXPECT_EQ(
+        (Texts{"deselect below", "> Static Node", "reset pad", "fill pad of Static Node",
+               "filled pad", "select Static Node", "selected Static Node", "- below", "- one"}),
+        snapIn.taken());
 }
 
 TEST_F(ConsoleTest, LeavesTheSelectionWhenAnotherItemGoes)
@@ -253,7 +206,7 @@ TEST_F(ConsoleTest, SurvivesASnapInThatRemovesTheItemWhoseViewItFills)
     view().select(one);
 
     EXPECT_EQ("Static Node", selected());
-    EXPECT_EQ("select Static Node", snapIn.heard[snapIn.heard.size() - 2]);
+    EXPECT_EQ("selected Static Node", snapIn.heard[snapIn.heard.size() - 2]);
     EXPECT_EQ("- one", snapIn.heard.back()) << "the removed item is neither filled nor selected";
 }
 
@@ -377,4 +330,125 @@ TEST_F(ConsoleTest, TellsAnObserverNothingMoreOnceItLeft)
     view().statusBarText("Working");
 
     EXPECT_TRUE(snapIn.taken().empty());
+}
+
+TEST_F(ConsoleTest, TellsNothingToWhoLeavesWhileOthersAreTold)
+{
+    struct Leaving final : RecordingSnapIn {
+        std::function<void()> leave;
+        void statusBarChanged(View& view) override
+        {
+            RecordingSnapIn::statusBarChanged(view);
+            leave();
+        }
+    };
+    Leaving first;
+    RecordingSnapIn second;
+    RecordingSnapIn last;
+    first.leave = [&] {
+        console.removeObserver(first);
+        console.removeObserver(second);
+    };
+    console.addObserver(first);
+    console.addObserver(second);
+    console.addObserver(last);
+
+    view().statusBarText("Working");
+    EXPECT_EQ((Texts{"status Working"}), first.taken());
+    EXPECT_EQ(Texts{}, second.taken()) << "it left before its turn";
+    EXPECT_EQ((Texts{"status Working"}), last.taken()) << "nobody is passed over";
+
+    view().statusBarText("Done");
+    EXPECT_EQ(Texts{}, first.taken());
+    EXPECT_EQ((Texts{"status Done"}), last.taken());
+}
+
+TEST_F(ConsoleTest, TellsWhoJoinsWhileOthersAreToldFromTheNextTimeOn)
+{
+    struct Joining final : RecordingSnapIn {
+        std::function<void()> join;
+        void statusBarChanged(View&) override { join(); }
+    };
+    Joining first;
+    RecordingSnapIn joined;
+    first.join = [&] {
+        console.addObserver(joined);
+        first.join = [] {};
+    };
+    console.addObserver(first);
+
+    view().statusBarText("Working");
+    EXPECT_EQ(Texts{}, joined.taken());
+    view().statusBarText("Done");
+    EXPECT_EQ((Texts{"status Done"}), joined.taken());
+}
+
+TEST_F(ConsoleTest, KnowsTheViewOfAnItemBeforeItIsShown)
+{
+    const ViewChoice pad = console.defaultView(root());
+    EXPECT_EQ("pad", pad.displayString);
+    EXPECT_EQ(ResultViewType::taskPad, pad.type);
+
+    const ViewChoice machines = console.defaultView(console.scopeItems().item(2));
+    EXPECT_EQ("machines", machines.displayString);
+    EXPECT_EQ(ResultViewType::list, machines.type);
+    EXPECT_EQ(ListRows::childNodes, machines.rows);
+    EXPECT_EQ(ListRows::own, console.defaultView(add("one", root())).rows);
+
+    ScopeItem& unknown = console.scopeItems().addChild("no such type", "two", root());
+    EXPECT_EQ(5, errorNumberOf([&] { console.defaultView(unknown); }));
+    EXPECT_TRUE(snapIn.taken() == (Texts{"+ one", "+ two"})) << "nothing was shown for it";
+}
+
+TEST_F(ConsoleTest, GivesANodeThePictureOfItsTypeBeforeObserversHearOfIt)
+{
+    struct Watching final : RecordingSnapIn {
+        void scopeItemAdded(ScopeItem& item) override { heard.push_back(item.image()); }
+        void scopeItemChanged(ScopeItem& item) override { heard.push_back("now " + item.image()); }
+    };
+    Watching watching;
+    console.addObserver(watching);
+    EXPECT_EQ("house", root().image());
+
+    ScopeItem& one = add("one", root());
+    one.image("open box");
+    console.scopeItems().addChild("no such type", "two", root());
+
+    EXPECT_EQ((Texts{"box", "now open box", ""}), watching.taken());
+}
+
+TEST_F(ConsoleTest, OffersToOpenANodeUntilItProvesEmptyAndNeverOneOfATypeWithoutNodes)
+{
+    load();
+    ScopeItem& machine = add("one", root());
+    ScopeItem& file = console.scopeItems().addChild("nodeFile", "file", machine);
+    EXPECT_TRUE(machine.hasChildren());
+    EXPECT_FALSE(file.hasChildren());
+
+    console.scopeItems().remove("file");
+    EXPECT_TRUE(machine.hasChildren()) << "it was never opened";
+    console.expand(machine);
+    EXPECT_FALSE(machine.hasChildren());
+    add("below", machine);
+    EXPECT_TRUE(machine.hasChildren());
+}
+
+TEST_F(ConsoleTest, IsBusyWhileACallIsUnderWay)
+{
+    EXPECT_EQ(Busy::no, console.busy());
+    load();
+    Busy inCall = Busy::no;
+    snapIn.onInitialize = [&](ResultView&) { inCall = console.busy(); };
+
+    view().select(root());
+    EXPECT_EQ(Busy::call, inCall);
+    EXPECT_EQ(Busy::no, console.busy());
+
+    snapIn.onExpand = [](ScopeItem&) { throw RunTimeError(5); };
+    EXPECT_EQ(5, errorNumberOf([&] { console.expand(add("one", root())); }));
+    EXPECT_EQ(Busy::no, console.busy()) << "a call that raises is over, too";
+
+    const Console::Work around{console};
+    view().select(root());
+    EXPECT_EQ(Busy::call, console.busy()) << "a host keeps it busy around its calls";
 }

@@ -36,6 +36,7 @@ struct PropertySheetProviderTest : testing::Test {
             page = &addPage<RecordingSheetPage>(sheet, "page", pageHeard);
         };
         console.load(snapIn);
+        console.currentView().select(console.root());
         console.addObserver(snapIn);
         snapIn.taken();
     }
@@ -146,6 +147,26 @@ TEST_F(PropertySheetProviderTest, AClosedSheetGoesWithTheNextButNotWhileAnyIsAtW
     EXPECT_FALSE(first.expired());
     open();
     EXPECT_TRUE(first.expired());
+}
+
+TEST_F(PropertySheetProviderTest, KeepsTheConsoleBusyWhileAPageOfAnySheetIsAtWork)
+{
+    open();
+    RecordingSheetPage& working = *page;
+    const std::shared_ptr<OpenSheet> first = sheets.lastSheet();
+    open(SheetType::propertySheet);
+    Busy inTick = Busy::no;
+    working.timer.setEnabled(true);
+    working.timer.onTick = [&] {
+        first->cancel();
+        inTick = console.busy();
+    };
+    EXPECT_EQ(Busy::no, console.busy()) << "sheets on show wait for the person";
+
+    first->tick(working.timer);
+
+    EXPECT_EQ(Busy::sheet, inTick) << "closed already, and not the one that was shown last";
+    EXPECT_EQ(Busy::no, console.busy());
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 #include <vector>
 
 /// A snap-in that writes down what the console tells it, and a console observer that does the same.
-struct RecordingSnapIn final : SnapInEvents, ConsoleObserver {
+struct RecordingSnapIn : SnapInEvents, ConsoleObserver {
     std::vector<std::string> heard;
     std::function<void(ScopeItem&)> onExpand = [](ScopeItem&) {};
     std::function<void(ResultView&)> onInitialize = [](ResultView&) {};
@@ -85,7 +85,14 @@ struct RecordingSnapIn final : SnapInEvents, ConsoleObserver {
     {
         heard.push_back("filled " + view.displayString());
     }
-    void statusBarChanged(const std::string& text) override { heard.push_back("status " + text); }
+    void selected(View& view) override
+    {
+        heard.push_back("selected " + view.selectedScopePaneItem().key());
+    }
+    void statusBarChanged(View& view) override
+    {
+        heard.push_back("status " + view.statusBarText());
+    }
     void sheetShown(OpenSheet& sheet) override { heard.push_back("sheet " + sheet.title()); }
     void handlerFailed(const RunTimeError& error) override
     {

@@ -33,7 +33,7 @@ public:
     void selectionChanged(View&) override {}
     void viewReset(ResultView&) override {}
     void viewFilled(ResultView&) override {}
-    void statusBarChanged(const std::string&) override {}
+    void statusBarChanged(View&) override {}
 
 private:
     Console& console_;

@@ -218,6 +218,21 @@ TEST(TreeView, ANodeHeldPastAClearingHasNoRelativesAndRefusesChanges)
     EXPECT_EQ(35605, errorNumberOf([&] { held->fullPath(); }));
 }
 
+TEST(TreeView, ATreeThatIsFilledAnewTellsItselfFromTheOneBefore)
+{
+    TreeView tree;
+    tree.add("a");
+    const unsigned before = tree.generation();
+    tree.add("b");
+    tree.item(1).setText("c");
+    EXPECT_EQ(before, tree.generation()) << "the same nodes, and one more";
+
+    tree.clear();
+    tree.add("c");
+    tree.add("b");
+    EXPECT_NE(before, tree.generation());
+}
+
 TEST(TreeView, ANodeMayOutliveItsTree)
 {
     std::shared_ptr<TreeNode> held;

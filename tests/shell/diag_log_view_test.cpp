@@ -21,7 +21,7 @@ struct StatusTexts final : ConsoleObserver {
     void selectionChanged(View&) override {}
     void viewReset(ResultView&) override {}
     void viewFilled(ResultView&) override {}
-    void statusBarChanged(const std::string& text) override { texts.push_back(text); }
+    void statusBarChanged(View& view) override { texts.push_back(view.statusBarText()); }
 };
 
 struct DiagLogView : ShellTest {

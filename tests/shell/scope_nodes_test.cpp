@@ -122,6 +122,23 @@ TEST_F(ScopeNodes, ShowsTheCurrentLogFirstAndNoFormattedCopies)
     EXPECT_THAT(tool.failures(), IsEmpty());
 }
 
+TEST_F(ScopeNodes, GivesTheLogInUseAPictureOfItsOwn)
+{
+    withProcess("RoCsMgr");
+    withLog("diag_RoCsMgr_20051001_080000.txt");
+    withCurrentLog("RoCsMgr", "diag_RoCsMgr_20051002_080000.txt");
+    load();
+    console.expand(processes());
+    console.expand(node("RoCsMgr"));
+
+    EXPECT_EQ("console", console.root().image());
+    EXPECT_EQ("processes", processes().image());
+    EXPECT_EQ("process", node("RoCsMgr").image());
+    EXPECT_EQ("log-current", node("diag_RoCsMgr_20051002_080000.txt").image());
+    EXPECT_EQ("log", node("diag_RoCsMgr_20051001_080000.txt").image());
+    EXPECT_FALSE(node("diag_RoCsMgr_20051001_080000.txt").hasChildren());
+}
+
 TEST_F(ScopeNodes, ShowsOlderLogsAgainstTheOrderOfTheFolder)
 {
     withProcess("RoCsMgr");

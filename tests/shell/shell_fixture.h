@@ -33,7 +33,11 @@ struct ShellTest : testing::Test {
     /// Whatever a test does, each traced routine that was entered was left.
     void TearDown() override { EXPECT_EQ(outOfPairs, tracesOutOfPairs(tool)); }
 
-    void load() { console.load(snapIn); }
+    void load()
+    {
+        console.load(snapIn);
+        view().select(console.root());
+    }
 
     void withProcess(const std::string& process) { tool.registry.withKey(processKey(process)); }
 

@@ -49,6 +49,25 @@ TEST(SnapinDefinition, NamesAViewForEachNodeType)
     }
 }
 
+TEST(SnapinDefinition, GivesEachNodeTypeAPictureAndLetsNothingBelowALog)
+{
+    std::set<std::string> images;
+    const auto definition = snapinDefinition();
+    for (const auto& type : definition.nodeTypes) {
+        EXPECT_NE("", type.image);
+        images.insert(type.image);
+        EXPECT_EQ(type.typeName != "nodeLogs", type.opens);
+    }
+    EXPECT_EQ(definition.nodeTypes.size(), images.size());
+}
+
+TEST(SnapinDefinition, HasNoRowsOfTheProcessesButTheirNodes)
+{
+    for (const auto& view : snapinDefinition().listViews)
+        EXPECT_EQ(view.name == "listviewAllProcesses" ? ListRows::childNodes : ListRows::own,
+                  view.rows);
+}
+
 TEST(SnapinDefinition, HasTheProcessesNodeMadeWithTheRoot)
 {
     const auto definition = snapinDefinition();

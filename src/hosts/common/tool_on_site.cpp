@@ -44,6 +44,7 @@ void ToolOnSite::load()
             if (procName == "[mdlOrvanDatabase]openOrvanDB") databaseFailure_ = error.description();
         });
     console_.load(*snapIn_);
+    console_.currentView().select(console_.root());
 }
 
 void ToolOnSite::unload(const TakeTurn& takeTurn)

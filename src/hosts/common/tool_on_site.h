@@ -81,8 +81,8 @@ protected:
     /// loaded yet.
     void forgetContext();
 
-    /// Loads the snap-in into the console. Raises what loading raises; it counts as loaded then,
-    /// and is to be unloaded, too.
+    /// Loads the snap-in into the console and selects the root. Raises what loading raises; it
+    /// counts as loaded then, and is to be unloaded, too.
     void load();
 
     bool loaded() const { return loaded_; }

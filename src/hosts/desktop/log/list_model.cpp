@@ -1,6 +1,7 @@
 #include "hosts/desktop/log/list_model.h"
 
 #include "console/list_view.h"
+#include "console/row_order.h"
 
 #include <algorithm>
 
@@ -16,9 +17,6 @@ void ListModel::show(ListView& list, LogFilter filter)
     list_ = &list;
     decoder_ = TextDecoder(codePage_, list.definition().text);
     filter_ = std::move(filter);
-    const std::string kind = list.definition().name + '/' + std::to_string(list.columnCount());
-    if (kind != kind_) sortColumn_ = -1;
-    kind_ = kind;
     arrange();
     endResetModel();
     emit rowsChanged();
@@ -45,11 +43,11 @@ void ListModel::filter(LogFilter filter)
 
 void ListModel::sort(int column, Qt::SortOrder order)
 {
-    if (column == sortColumn_ && order == sortOrder_) return;
+    const RowOrder chosen{column + 1, order == Qt::AscendingOrder};
+    if (!list_ || chosen == list_->chosenOrder()) return;
     emit layoutAboutToBeChanged({}, VerticalSortHint);
     const std::vector<std::uint32_t> before = positions_;
-    sortColumn_ = column;
-    sortOrder_ = order;
+    list_->chooseOrder(chosen);
     arrange();
     moveMarks(before);
     emit layoutChanged({}, VerticalSortHint);
@@ -74,8 +72,13 @@ void ListModel::moveMarks(const std::vector<std::uint32_t>& before)
 std::vector<std::uint32_t> ListModel::positionsInOrder() const
 {
     std::vector<std::uint32_t> positions = positions_;
-    if (sortColumn_ >= 0) std::sort(positions.begin(), positions.end());
+    if (!inOwnOrder()) std::sort(positions.begin(), positions.end());
     return positions;
+}
+
+bool ListModel::inOwnOrder() const
+{
+    return !list_ || list_->chosenOrder().column < 1;
 }
 
 void ListModel::arrange()
@@ -83,46 +86,25 @@ void ListModel::arrange()
     positions_.clear();
     if (!list_) return;
     positions_ = filter_.positions(*list_);
-    if (sortColumn_ < 0) return;
-
-    // One key a row, made once: making them in each comparison would parse every cell many times.
-    std::vector<SortKey> keys(static_cast<std::size_t>(list_->itemCount()) + 1);
-    for (const auto position : positions_) keys[position] = keyOf(position);
-    const bool ascending = sortOrder_ == Qt::AscendingOrder;
-    std::stable_sort(positions_.begin(), positions_.end(),
-                     [&](std::uint32_t left, std::uint32_t right) {
-                         return ascending ? keys[left] < keys[right] : keys[right] < keys[left];
-                     });
-}
-
-/// What a row counts for in the order of the column that is sorted by.
-SortKey ListModel::keyOf(std::uint32_t position) const
-{
-    return sortKeyOf(list_->shown(static_cast<int>(position)).subItem(sortColumn_ + 1));
+    arrangeRows(*list_, positions_);
 }
 
 int ListModel::nearestRow(std::uint32_t position) const
 {
     if (positions_.empty()) return -1;
-    const bool inOrder = sortColumn_ < 0 || position == 0;
-    const SortKey own = inOrder ? SortKey() : keyOf(position);
-    const bool ascending = sortOrder_ == Qt::AscendingOrder;
-    const auto standsBefore = [&](std::uint32_t shown) {
-        if (inOrder) return shown < position;
-        const SortKey key = keyOf(shown);
-        if (key < own) return ascending;
-        return own < key ? !ascending : shown < position;
+    const auto stands = [&](std::uint32_t shown) {
+        return position > 0 && standsBefore(*list_, shown, position);
     };
-    const auto found = std::partition_point(positions_.begin(), positions_.end(), standsBefore);
+    const auto found = std::partition_point(positions_.begin(), positions_.end(), stands);
     const auto row = static_cast<int>(found - positions_.begin());
     return std::min(row, rowCount() - 1);
 }
 
 int ListModel::rowOfPosition(std::uint32_t position) const
 {
-    const bool inOrder = sortColumn_ < 0;
-    const auto found = inOrder ? std::lower_bound(positions_.begin(), positions_.end(), position)
-                               : std::find(positions_.begin(), positions_.end(), position);
+    const auto found = inOwnOrder()
+                           ? std::lower_bound(positions_.begin(), positions_.end(), position)
+                           : std::find(positions_.begin(), positions_.end(), position);
     if (found == positions_.end() || *found != position) return -1;
     return static_cast<int>(found - positions_.begin());
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "hosts/desktop/log/log_filter.h"
-#include "hosts/desktop/log/sort_key.h"
 #include "hosts/desktop/log/text_decoder.h"
 
 #include <QAbstractTableModel>
@@ -25,9 +24,9 @@ class ListModel final : public QAbstractTableModel {
 public:
     explicit ListModel(const CodePage& codePage, QObject* parent = nullptr);
 
-    /// Shows the rows of a list that pass the filter. They stand as the console has filled them in,
-    /// unless a list of the same kind was sorted before: then by that column again. The list
-    /// outlives the model's look at it, which `leave` ends.
+    /// Shows the rows of a list that pass the filter, in the order that was chosen for it: the
+    /// console's own until a person chose another. The list outlives the model's look at it, which
+    /// `leave` ends.
     void show(ListView& list, LogFilter filter = {});
     void leave();
 
@@ -70,28 +69,24 @@ public:
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /// By column from 0; -1 for the console's own order. Selected rows stay selected.
+    /// By column from 0; -1 for the console's own order. Selected rows stay selected. Nothing
+    /// happens while no list is on show.
     void sort(int column, Qt::SortOrder order) override;
-    int sortColumn() const { return sortColumn_; }
-    Qt::SortOrder sortOrder() const { return sortOrder_; }
 
 signals:
     /// Other rows are on show, or the same in another order.
     void rowsChanged();
 
 private:
-    SortKey keyOf(std::uint32_t position) const;
+    bool inOwnOrder() const;
     void arrange();
     void moveMarks(const std::vector<std::uint32_t>& before);
 
     CodePage codePage_;
     TextDecoder decoder_;
     ListView* list_ = nullptr;
-    std::string kind_; ///< of the lists that `sortColumn_` is for
     LogFilter filter_;
     std::vector<std::uint32_t> positions_; ///< of the rows on show
-    int sortColumn_ = -1;
-    Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
 };
 
 } // namespace desktop

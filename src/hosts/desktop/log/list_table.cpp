@@ -107,11 +107,11 @@ void ListTable::listShown()
 void ListTable::markOrder()
 {
     const ListSort& own = rows_.list()->definition().sort;
-    const bool sorted = rows_.sortColumn() >= 0;
-    const int column = sorted ? rows_.sortColumn() : own.onLoad ? own.column - 1 : -1;
-    const Qt::SortOrder ownOrder = own.ascending ? Qt::AscendingOrder : Qt::DescendingOrder;
+    RowOrder order = rows_.list()->chosenOrder();
+    if (order.column < 1) order = {own.onLoad ? own.column : 0, own.ascending};
     horizontalHeader()->setSortIndicatorShown(true);
-    horizontalHeader()->setSortIndicator(column, sorted ? rows_.sortOrder() : ownOrder);
+    horizontalHeader()->setSortIndicator(order.column - 1, order.ascending ? Qt::AscendingOrder
+                                                                           : Qt::DescendingOrder);
 }
 
 /// The current row stays in sight, wherever it goes.

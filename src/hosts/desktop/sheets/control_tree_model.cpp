@@ -14,6 +14,7 @@ void ControlTreeModel::attach()
     top_.children.clear();
     entries_.clear();
     for (TreeNode* root : tree_.roots()) take(top_, *root);
+    generation_ = tree_.generation();
     count_ = tree_.count();
     attached_ = true;
     endResetModel();

@@ -25,7 +25,10 @@ public:
     bool attached() const { return attached_; }
 
     /// Whether the tree holds other nodes than those that were taken.
-    bool outdated() const { return !attached_ || tree_.count() != count_; }
+    bool outdated() const
+    {
+        return !attached_ || tree_.generation() != generation_ || tree_.count() != count_;
+    }
 
     /// Texts, ticks or weights of nodes changed.
     void nodesChanged();
@@ -59,6 +62,7 @@ private:
     TreeView& tree_;
     Entry top_;
     std::unordered_map<const TreeNode*, const Entry*> entries_;
+    unsigned generation_ = 0;
     int count_ = 0;
     bool attached_ = false;
 };

@@ -32,21 +32,16 @@ constexpr const char* splitterKey = "window/splitter";
 /// The console is at work: the pointer says so, and further calls can see it.
 class AtWork {
 public:
-    explicit AtWork(int& calls) : calls_(calls)
+    explicit AtWork(Console& console) : work_(console)
     {
-        ++calls_;
         QApplication::setOverrideCursor(Qt::WaitCursor);
     }
-    ~AtWork()
-    {
-        QApplication::restoreOverrideCursor();
-        --calls_;
-    }
+    ~AtWork() { QApplication::restoreOverrideCursor(); }
     AtWork(const AtWork&) = delete;
     AtWork& operator=(const AtWork&) = delete;
 
 private:
-    int& calls_;
+    Console::Work work_;
 };
 
 } // namespace
@@ -191,7 +186,7 @@ void ConsolePane::perform(const std::function<void(Console&)>& call)
     if (sheetAtWork())
         return emit said(tr("The tool is still finishing what was cancelled. One moment."));
     {
-        const AtWork atWork{calls_};
+        const AtWork atWork{console_};
         try {
             call(console_);
         } catch (const RunTimeError& error) {
@@ -306,8 +301,7 @@ void ConsolePane::viewFilled(ResultView& resultView)
     if (resultView.type() == ResultViewType::taskPad) {
         taskPad_->show(resultView.taskPad());
         views_->setCurrentWidget(taskPad_);
-    } else if (resultView.displayString() == snapinView::processes) {
-        // The console's list of processes has no rows of its own: it shows the nodes below.
+    } else if (resultView.list().definition().rows == ListRows::childNodes) {
         children().setRootIndex(scope_->indexOf(resultView.scopePaneItem().scopeItem()));
         views_->setCurrentWidget(children_);
     } else if (resultView.displayString() == snapinView::logLines) {
@@ -322,15 +316,19 @@ void ConsolePane::viewFilled(ResultView& resultView)
     emit viewChanged();
 }
 
-void ConsolePane::statusBarChanged(const std::string& text)
+void ConsolePane::statusBarChanged(View& view)
 {
-    emit statusText(QString::fromStdString(text));
+    emit statusText(QString::fromStdString(view.statusBarText()));
+}
+
+bool ConsolePane::busy() const
+{
+    return console_.busy() == Busy::call;
 }
 
 bool ConsolePane::sheetAtWork() const
 {
-    const auto shown = console_.currentView().propertySheetProvider().lastSheet();
-    return shown && shown->atWork();
+    return console_.currentView().propertySheetProvider().atWork();
 }
 
 SheetDialog* ConsolePane::sheet() const

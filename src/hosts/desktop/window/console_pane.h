@@ -49,8 +49,8 @@ public:
     /// Runs such a command. Null: it runs by itself.
     std::function<void(const std::string& item, const std::function<void()>& run)> aroundChange;
 
-    /// Whether the console is at work.
-    bool busy() const { return calls_ > 0; }
+    /// Whether a call into the console is under way.
+    bool busy() const;
 
     /// Whether a page of a sheet is at work, on show or closed already.
     bool sheetAtWork() const;
@@ -108,7 +108,7 @@ private:
     void selectionChanged(View& view) override;
     void viewReset(ResultView& resultView) override;
     void viewFilled(ResultView& resultView) override;
-    void statusBarChanged(const std::string& text) override;
+    void statusBarChanged(View& view) override;
     void sheetShown(OpenSheet& sheet) override;
     void handlerFailed(const RunTimeError& error) override;
 
@@ -136,7 +136,6 @@ private:
     LogView* log_ = nullptr;
     QPersistentModelIndex pending_; ///< what the person selected and the console has not yet
     QPointer<SheetDialog> sheet_;
-    int calls_ = 0;
 };
 
 } // namespace desktop

@@ -3,29 +3,10 @@
 #include "console/console.h"
 #include "hosts/desktop/look/icons.h"
 #include "hosts/desktop/look/plain_tool_tip.h"
-#include "shell/scope_nodes.h"
 
 #include <algorithm>
 
 namespace desktop {
-
-namespace {
-
-QIcon iconOf(const ScopeItem& item)
-{
-    if (!item.parent()) return toolIcon("console");
-    if (item.kind() == mdlSnapIn::kindProcesses) return toolIcon("processes");
-    if (item.kind() == mdlSnapIn::kindLogProcess) return toolIcon("process");
-    // The tree marks the log in use by its display name, which other logs have as their key.
-    return toolIcon(item.displayName() == item.key() ? "log" : "log-current");
-}
-
-bool isLog(const ScopeItem& item)
-{
-    return item.kind() == mdlSnapIn::kindLogFile;
-}
-
-} // namespace
 
 ScopeModel::ScopeModel(Console& console, QObject* parent)
     : QAbstractItemModel(parent), console_(console)
@@ -117,8 +98,7 @@ int ScopeModel::columnCount(const QModelIndex&) const
 bool ScopeModel::hasChildren(const QModelIndex& parent) const
 {
     const Entry& entry = entryAt(parent);
-    if (!entry.children.empty() || !entry.item) return !entry.children.empty();
-    return !entry.item->expanded() && !isLog(*entry.item);
+    return entry.item ? entry.item->hasChildren() : !entry.children.empty();
 }
 
 QVariant ScopeModel::data(const QModelIndex& index, int role) const
@@ -131,7 +111,7 @@ QVariant ScopeModel::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole:
         return plainToolTip(QString::fromStdString(item->displayName()));
     case Qt::DecorationRole:
-        return iconOf(*item);
+        return toolIcon(QString::fromStdString(item->image()));
     default:
         return {};
     }

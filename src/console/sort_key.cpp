@@ -1,12 +1,10 @@
-#include "hosts/desktop/log/sort_key.h"
+#include "console/sort_key.h"
 
 #include "runtime/dates.h"
 #include "runtime/run_time_error.h"
 
 #include <algorithm>
 #include <charconv>
-
-namespace desktop {
 
 namespace {
 
@@ -49,5 +47,3 @@ bool operator<(const SortKey& left, const SortKey& right)
                                         right.text.end(),
                                         [](char a, char b) { return lowered(a) < lowered(b); });
 }
-
-} // namespace desktop

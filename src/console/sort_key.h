@@ -2,8 +2,6 @@
 
 #include <string_view>
 
-namespace desktop {
-
 /// What a cell counts for when a person sorts a column: a number, a date or a text, in this order.
 struct SortKey {
     enum class Kind { number, date, text };
@@ -13,8 +11,7 @@ struct SortKey {
     std::string_view text = {}; ///< of a text; compared without regard to the case of ASCII letters
 };
 
+/// Blanks around the cell do not count.
 SortKey sortKeyOf(std::string_view cell);
 
 bool operator<(const SortKey& left, const SortKey& right);
-
-} // namespace desktop
