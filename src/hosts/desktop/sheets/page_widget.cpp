@@ -11,6 +11,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace desktop {
 
 namespace {
@@ -32,7 +34,7 @@ public:
 
 PageWidget::PageWidget(SheetPage& page, bool banner, QStringList taken, const ActOnControl& act,
                        QWidget* parent)
-    : QWidget(parent), page_(page), taken_(std::move(taken)), banner_(banner)
+    : QWidget(parent), page_(page), layout_(layoutOf(page, banner)), taken_(std::move(taken))
 {
     for (const PageControl& declared : page_.controls()) {
         views_.push_back(makeControlView(declared, this, act));
@@ -45,12 +47,12 @@ PageWidget::PageWidget(SheetPage& page, bool banner, QStringList taken, const Ac
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->setSpacing(0);
-    if (banner_) addBanner();
+    if (banner) addBanner();
     column_ = new QVBoxLayout;
     column_->setContentsMargins(pageMargin, 18, pageMargin, 18);
     column_->setSpacing(12);
     whole->addLayout(column_, 1);
-    addControls();
+    addRows();
     showState();
 }
 
@@ -58,8 +60,7 @@ PageWidget::~PageWidget() = default;
 
 bool PageWidget::isBanner(std::size_t index) const
 {
-    const ControlRole role = page_.controls()[index].role;
-    return banner_ && (role == ControlRole::title || role == ControlRole::description);
+    return std::find(layout_.banner.begin(), layout_.banner.end(), index) != layout_.banner.end();
 }
 
 void PageWidget::addBanner()
@@ -67,8 +68,7 @@ void PageWidget::addBanner()
     auto* band = new Banner(this);
     auto* texts = new QVBoxLayout;
     texts->setSpacing(6);
-    for (std::size_t index = 0; index < views_.size(); ++index)
-        if (isBanner(index)) texts->addWidget(views_[index]->widget());
+    for (const std::size_t index : layout_.banner) texts->addWidget(widgetOf(index));
     texts->addStretch(1);
     auto* symbol = new QLabel(band);
     symbol->setPixmap(toolIcon(QStringLiteral("console")).pixmap(bannerSymbol, bannerSymbol));
@@ -81,116 +81,100 @@ void PageWidget::addBanner()
     layout()->addWidget(new ThinLine(this));
 }
 
-void PageWidget::addControls()
+void PageWidget::addRows()
 {
-    const auto& controls = page_.controls();
     QGridLayout* fields = nullptr;
     bool filled = false;
-    for (std::size_t index = 0; index < controls.size(); ++index) {
-        if (!views_[index] || isBanner(index)) continue;
-        const ControlRole role = controls[index].role;
-        QWidget* widget = views_[index]->widget();
-        if (role == ControlRole::fieldLabel || role == ControlRole::field) {
-            if (!fields) {
-                fields = new QGridLayout;
-                fields->setHorizontalSpacing(12);
-                fields->setVerticalSpacing(10);
-                fields->setColumnStretch(1, 1);
-                column_->addLayout(fields);
-            }
-            addField(*fields, index);
-            if (dynamic_cast<ListBox*>(controls[index].control)) {
-                column_->setStretchFactor(fields, 1);
-                filled = true;
-            }
-            continue;
-        }
-        fields = nullptr;
-        if (role == ControlRole::frame) {
-            addFramed(*column_, index);
-        } else if (role == ControlRole::mainTree || role == ControlRole::summary) {
-            column_->addWidget(widget, 1);
-            filled = true;
-        } else if (role == ControlRole::action) {
-            addActions(*column_, index);
-        } else {
-            column_->addWidget(widget);
+    for (const PageRow& row : layout_.rows) {
+        filled |= row.grows;
+        if (row.kind != PageRow::Kind::field) fields = nullptr;
+        switch (row.kind) {
+        case PageRow::Kind::field:
+            if (!fields) fields = addGrid();
+            addField(*fields, row);
+            if (row.grows) column_->setStretchFactor(fields, 1);
+            break;
+        case PageRow::Kind::frame:
+            addFramed(row);
+            break;
+        case PageRow::Kind::actions:
+            addActions(row);
+            break;
+        case PageRow::Kind::alone:
+            column_->addWidget(widgetOf(row.controls.front()), row.grows ? 1 : 0);
+            break;
         }
     }
     if (!filled) column_->addStretch(1);
 }
 
-/// A row of a caption and its fields; fields without a caption of their own stand beside the one
-/// before. Leaves `index` at the last control of the row.
-void PageWidget::addField(QGridLayout& grid, std::size_t& index)
+QWidget* PageWidget::widgetOf(std::size_t index) const
 {
-    const auto& controls = page_.controls();
-    const int row = grid.rowCount();
-    auto* label = dynamic_cast<LabelView*>(views_[index].get());
-    auto* fields = new QHBoxLayout;
-    fields->setSpacing(8);
-    if (label && index + 1 < controls.size() && controls[index + 1].role == ControlRole::field) {
-        ++index;
-        label->setBuddy(views_[index]->focusTarget());
-        const QString name = QString::fromStdString(
-            static_cast<const Label*>(controls[index - 1].control)->caption());
-        views_[index]->focusTarget()->setAccessibleName(name);
-        const bool tall = dynamic_cast<ListBox*>(controls[index].control) != nullptr;
-        grid.addWidget(label->widget(), row, 0,
-                       Qt::AlignLeft | (tall ? Qt::AlignTop : Qt::AlignVCenter));
-        label = nullptr;
-    }
-    if (label) {
-        grid.addWidget(label->widget(), row, 0, 1, 2);
+    return views_[index]->widget();
+}
+
+QGridLayout* PageWidget::addGrid()
+{
+    auto* fields = new QGridLayout;
+    fields->setHorizontalSpacing(12);
+    fields->setVerticalSpacing(10);
+    fields->setColumnStretch(1, 1);
+    column_->addLayout(fields);
+    return fields;
+}
+
+void PageWidget::addField(QGridLayout& grid, const PageRow& row)
+{
+    const int line = grid.rowCount();
+    if (row.controls.empty()) {
+        grid.addWidget(widgetOf(*row.caption), line, 0, 1, 2);
         return;
     }
-    fields->addWidget(views_[index]->widget());
-    const bool list = dynamic_cast<ListBox*>(controls[index].control) != nullptr;
-    // A number with arrows and a picker are as wide as what they hold.
-    const bool counted = index + 1 < controls.size() &&
-                         dynamic_cast<SpinControl*>(controls[index + 1].control) != nullptr;
-    const bool narrow =
-        counted || dynamic_cast<DateTimePicker*>(controls[index].control) != nullptr;
+    const std::size_t first = row.controls.front();
+    if (row.caption) nameField(*row.caption, first);
+    if (row.caption)
+        grid.addWidget(widgetOf(*row.caption), line, 0,
+                       Qt::AlignLeft | (row.grows ? Qt::AlignTop : Qt::AlignVCenter));
+
+    auto* fields = new QHBoxLayout;
+    const bool counted = row.width == PageRow::Width::number;
+    fields->setSpacing(counted ? 2 : 8);
     constexpr int pathCharacters = 26; ///< of a path, without scrolling in its field
-    if (!counted && dynamic_cast<TextBox*>(controls[index].control))
-        views_[index]->widget()->setMinimumWidth(fontMetrics().averageCharWidth() * pathCharacters);
-    if (counted) {
-        views_[index]->widget()->setMaximumWidth(fontMetrics().averageCharWidth() * 12);
-        fields->setSpacing(2);
-    }
-    while (index + 1 < controls.size() && controls[index + 1].role == ControlRole::field) {
-        ++index;
-        fields->addWidget(views_[index]->widget());
-    }
-    if (index + 1 < controls.size() && controls[index + 1].role == ControlRole::action) {
-        ++index;
-        fields->addWidget(views_[index]->widget());
-    }
-    if (narrow) fields->addStretch(1);
-    grid.addLayout(fields, row, 1);
-    if (list) grid.setRowStretch(row, 1);
+    constexpr int numberCharacters = 12;
+    const int letter = fontMetrics().averageCharWidth();
+    if (counted)
+        widgetOf(first)->setMaximumWidth(letter * numberCharacters);
+    else if (dynamic_cast<TextBox*>(page_.controls()[first].control))
+        widgetOf(first)->setMinimumWidth(letter * pathCharacters);
+    for (const std::size_t index : row.controls) fields->addWidget(widgetOf(index));
+    if (row.width != PageRow::Width::rest) fields->addStretch(1);
+    grid.addLayout(fields, line, 1);
+    if (row.grows) grid.setRowStretch(line, 1);
 }
 
-/// A row of buttons. Leaves `index` at the last one of it.
-void PageWidget::addActions(QBoxLayout& column, std::size_t& index)
+/// The caption's letter leads to the field, and its text tells what the field is.
+void PageWidget::nameField(std::size_t caption, std::size_t field)
 {
-    const auto& controls = page_.controls();
-    auto* row = new QHBoxLayout;
-    row->setSpacing(8);
-    row->addWidget(views_[index]->widget());
-    while (index + 1 < controls.size() && controls[index + 1].role == ControlRole::action)
-        row->addWidget(views_[++index]->widget());
-    row->addStretch(1);
-    column.addLayout(row);
+    static_cast<LabelView&>(*views_[caption]).setBuddy(views_[field]->focusTarget());
+    const auto* label = static_cast<const Label*>(page_.controls()[caption].control);
+    views_[field]->focusTarget()->setAccessibleName(QString::fromStdString(label->caption()));
 }
 
-void PageWidget::addFramed(QBoxLayout& column, std::size_t& index)
+void PageWidget::addActions(const PageRow& row)
 {
-    QWidget* box = views_[index]->widget();
-    column.addWidget(box);
-    if (index + 1 >= views_.size() || !views_[index + 1]) return;
-    ++index;
-    box->layout()->addWidget(views_[index]->widget());
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
+    for (const std::size_t index : row.controls) buttons->addWidget(widgetOf(index));
+    buttons->addStretch(1);
+    column_->addLayout(buttons);
+}
+
+void PageWidget::addFramed(const PageRow& row)
+{
+    QWidget* box = widgetOf(row.controls.front());
+    column_->addWidget(box);
+    for (std::size_t inner = 1; inner < row.controls.size(); ++inner)
+        box->layout()->addWidget(widgetOf(row.controls[inner]));
 }
 
 void PageWidget::showState()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hosts/common/page_layout.h"
 #include "hosts/desktop/sheets/control_view.h"
 
 #include <QWidget>
@@ -14,7 +15,7 @@ struct PageControl;
 
 namespace desktop {
 
-/// A page of a sheet, laid out by the roles of its controls.
+/// A page of a sheet, its controls in the rows that every host lays them out in.
 class PageWidget final : public QWidget {
 public:
     /// `page` outlives the widget. `banner` puts title and description on a band at the top, as
@@ -38,19 +39,22 @@ public:
 
 private:
     void addBanner();
-    void addControls();
-    void addField(QGridLayout& grid, std::size_t& index);
-    void addActions(QBoxLayout& column, std::size_t& index);
-    void addFramed(QBoxLayout& column, std::size_t& index);
+    void addRows();
+    QGridLayout* addGrid();
+    void addField(QGridLayout& grid, const PageRow& row);
+    void addActions(const PageRow& row);
+    void addFramed(const PageRow& row);
+    void nameField(std::size_t caption, std::size_t field);
+    QWidget* widgetOf(std::size_t index) const;
     void markLetters();
     bool isBanner(std::size_t index) const;
 
     SheetPage& page_;
+    PageLayout layout_;
     QStringList taken_;
     std::vector<std::unique_ptr<ControlView>>
         views_; ///< by the index of the control; null for timers
     QBoxLayout* column_ = nullptr;
-    bool banner_ = false;
     bool marking_ = false;
 };
 
