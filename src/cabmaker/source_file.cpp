@@ -6,6 +6,7 @@
 
 #include "cabmaker/told_failure.h"
 #include "system/file_bytes.h"
+#include "system/local_time.h"
 #include "system/root_folder.h"
 #include "system/system_error.h"
 
@@ -40,8 +41,7 @@ SourceFacts sourceFacts(const std::string& path, const std::string& shownName)
 
 CabinetTime cabinetTime(std::time_t moment)
 {
-    std::tm local{};
-    localtime_r(&moment, &local);
+    const std::tm local = localTimeOf(moment);
     const int year = local.tm_year + 1900;
     if (year < 1980) return {};
     constexpr std::uint16_t lastDate = 0xff9f;
