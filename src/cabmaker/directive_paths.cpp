@@ -18,10 +18,13 @@ namespace {
     throw RunTimeError(runTimeErrors::pathNotFound, std::string(path) + ": " + because);
 }
 
+/// A path without links, below the machine's top: one on a drive as "/C:/x".
 std::string canonicalPath(const fs::path& path)
 {
     std::error_code error;
-    return fs::weakly_canonical(path, error).string();
+    const auto found = fs::weakly_canonical(path, error).generic_u8string();
+    const bool isBelowTop = found.empty() || found.front() == u8'/';
+    return (isBelowTop ? "" : "/") + std::string(found.begin(), found.end());
 }
 
 std::string folderOfDrives(const std::string& drives, const std::string& workingFolder)

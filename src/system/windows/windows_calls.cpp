@@ -29,6 +29,8 @@ std::string utf8Of(std::wstring_view text)
 std::wstring machinePathOf(const std::string& path)
 {
     std::wstring given = wideOf(path);
+    const bool isBelowTop = given.size() > 2 && given[0] == L'/' && given[2] == L':';
+    if (isBelowTop) given.erase(0, 1);
     std::replace(given.begin(), given.end(), L'/', L'\\');
     if (given.starts_with(L"\\\\?\\") || given.starts_with(L"\\\\.\\")) return given;
     constexpr std::size_t lengthOfDrive = 2;

@@ -46,6 +46,13 @@ TEST(WindowsNames, ALongPathIsReached)
     root.removeFolder(name);
 }
 
+TEST(WindowsNames, ADriveMayStandBelowTheMachinesTop)
+{
+    EXPECT_EQ(L"\\\\?\\C:\\x\\y", machinePathOf("/C:/x/y"));
+    EXPECT_EQ(L"\\\\?\\C:\\x\\y", machinePathOf("C:\\x/y"));
+    EXPECT_EQ(L"\\\\?\\C:\\", machinePathOf("/C:"));
+}
+
 TEST(WindowsErrors, AreTheNumbersThatEveryMachineHas)
 {
     EXPECT_EQ(ENOENT, errnoOf(ERROR_PATH_NOT_FOUND));
