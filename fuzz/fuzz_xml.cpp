@@ -1,7 +1,7 @@
 #include "require.h"
 
-#include "backends/site/xml/libxml_documents.h"
-#include "backends/site/xml/xml_text.h"
+#include "backends/xml/libxml_documents.h"
+#include "backends/xml/xml_text.h"
 #include "runtime/run_time_error.h"
 #include "text/utf8.h"
 

@@ -1,1 +1,1 @@
-orvan_fuzz(xml LINKS orvan_site orvan_test_support)
+orvan_fuzz(xml LINKS orvan_xml orvan_test_support)

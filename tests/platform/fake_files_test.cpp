@@ -1,4 +1,4 @@
-#include "backends/site/xml/libxml_documents.h"
+#include "backends/xml/libxml_documents.h"
 #include "platform/event_log_exporter_contract.h"
 #include "platform/file_system_contract.h"
 #include "platform/text_stream_contract.h"

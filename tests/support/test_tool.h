@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/site/xml/libxml_documents.h"
+#include "backends/xml/libxml_documents.h"
 #include "core/tool_context.h"
 #include "support/error_of.h"
 #include "support/fakes/database/fake_database.h"

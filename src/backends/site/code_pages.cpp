@@ -1,6 +1,6 @@
 #include "backends/site/code_pages.h"
 
-#include "backends/site/encoding_converter.h"
+#include "system/encoding_converter.h"
 
 #include <string>
 #include <vector>

@@ -12,7 +12,7 @@
 #include "backends/site/site_workstation.h"
 #include "backends/site/time/site_clock.h"
 #include "backends/site/time/site_time_zone.h"
-#include "backends/site/xml/libxml_documents.h"
+#include "backends/xml/libxml_documents.h"
 #include "drives/site_paths.h"
 #include "platform/platform.h"
 #include "text/code_page.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/site/xml/libxml_documents.h"
+#include "backends/xml/libxml_documents.h"
 #include "sample/sample_server.h"
 #include "support/fakes/fake_clock.h"
 #include "support/fakes/files/fake_file_system.h"

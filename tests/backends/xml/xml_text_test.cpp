@@ -1,4 +1,4 @@
-#include "backends/site/xml/xml_text.h"
+#include "backends/xml/xml_text.h"
 
 #include <gtest/gtest.h>
 

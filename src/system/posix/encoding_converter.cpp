@@ -1,4 +1,4 @@
-#include "backends/site/encoding_converter.h"
+#include "system/encoding_converter.h"
 
 #include <array>
 #include <cerrno>

@@ -1,4 +1,4 @@
-#include "backends/site/xml/libxml_documents.h"
+#include "backends/xml/libxml_documents.h"
 
 #include "runtime/required_object.h"
 #include "support/error_of.h"

@@ -1,4 +1,4 @@
-#include "backends/site/xml/xml_path.h"
+#include "backends/xml/xml_path.h"
 
 #include <algorithm>
 #include <cstring>

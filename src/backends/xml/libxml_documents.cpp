@@ -1,7 +1,7 @@
-#include "backends/site/xml/libxml_documents.h"
+#include "backends/xml/libxml_documents.h"
 
-#include "backends/site/xml/xml_path.h"
-#include "backends/site/xml/xml_text.h"
+#include "backends/xml/xml_path.h"
+#include "backends/xml/xml_text.h"
 #include "platform/file_system.h"
 #include "runtime/out_of_memory.h"
 #include "runtime/run_time_error.h"

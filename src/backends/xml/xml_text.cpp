@@ -1,7 +1,7 @@
-#include "backends/site/xml/xml_text.h"
+#include "backends/xml/xml_text.h"
 
-#include "backends/site/encoding_converter.h"
 #include "runtime/text.h"
+#include "system/encoding_converter.h"
 #include "text/utf8.h"
 
 #include <algorithm>
