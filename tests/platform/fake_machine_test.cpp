@@ -41,6 +41,12 @@ public:
     HostModule& developersModule() { return developersModule_; }
     Languages& languages() { return languages_; }
 
+    std::string commandLine() const { return "host.exe /now"; }
+    std::string computer() const { return "VOICE01"; }
+    std::string user() const { return "support"; }
+
+    static std::vector<std::string> inOrderOfStore(std::vector<std::string> names) { return names; }
+
     std::vector<std::string> heard() const { return developersModule_.debugTexts; }
 
     std::string program() const { return "C:\\My Tools\\cabmaker.exe"; }

@@ -4,8 +4,9 @@
 
 #include <gtest/gtest.h>
 
-/// What every Workstation promises. A `Machine` has a default constructor that gives the computer
-/// "VOICE01" and its user "support", and `Workstation& workstation()`.
+/// What every Workstation promises. A `Machine` has a default constructor, `Workstation&
+/// workstation()`, and the names that this is to tell: `std::string computer()` and `std::string
+/// user()`.
 template <typename Machine>
 class WorkstationContract : public testing::Test {
 protected:
@@ -23,10 +24,10 @@ TYPED_TEST_P(WorkstationContract, TheMachineAndItsUserHaveTheirNames)
 {
     const Workstation& workstation = this->machine.workstation();
     ASSERT_TRUE(workstation.details().has_value());
-    EXPECT_EQ("VOICE01", workstation.details()->computerName);
+    EXPECT_EQ(this->machine.computer(), workstation.details()->computerName);
     EXPECT_GE(workstation.details()->loggedOnUsers, 1);
     ASSERT_TRUE(workstation.user().has_value());
-    EXPECT_EQ("support", workstation.user()->userName);
+    EXPECT_EQ(this->machine.user(), workstation.user()->userName);
 }
 
 REGISTER_TYPED_TEST_SUITE_P(WorkstationContract, TheMachineIsOfTheNtFamily,

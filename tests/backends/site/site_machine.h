@@ -42,6 +42,12 @@ public:
     Languages& languages() { return platform().languages; }
     XmlService& xml() { return platform().xml; }
 
+    std::string commandLine() const { return "host.exe /now"; }
+    std::string computer() const { return "VOICE01"; }
+    std::string user() const { return "support"; }
+
+    static std::vector<std::string> inOrderOfStore(std::vector<std::string> names) { return names; }
+
     std::vector<std::string> heard() const { return heard_; }
 
     void makeReadOnly(const std::string& path)
