@@ -74,7 +74,7 @@ function(orvan_test name)
   target_link_libraries(${name}_test PRIVATE
     orvan_options ${arg_LINKS} GTest::gmock GTest::gtest GTest::gtest_main)
   target_include_directories(${name}_test PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-  if(TARGET orvan_test_support AND NOT name MATCHES "^(runtime|system|text)$")
+  if(TARGET orvan_test_support AND NOT name MATCHES "^(runtime|system|text|windows_backend)$")
     target_link_libraries(${name}_test PRIVATE orvan_test_support)
   endif()
   compiled_together(${name}_test APART ${arg_APART})
