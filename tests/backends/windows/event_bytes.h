@@ -46,7 +46,8 @@ inline std::string eventBytes(const EventParts& parts)
     putNumber(bytes, parts.id, 4);
     putNumber(bytes, parts.type, 2);
     putNumber(bytes, static_cast<std::uint32_t>(parts.inserts.size()), 2);
-    putNumber(bytes, 0, 8); // category, flags, closing record
+    putNumber(bytes, 0, 4); // category and flags
+    putNumber(bytes, 0, 4); // closing record
     putNumber(bytes, offset, 4);
     putNumber(bytes, 0, 4);
     putNumber(bytes, offset, 4);
