@@ -101,12 +101,12 @@ public:
 private:
     void requireMacroTraces(OpenTool& tool, Output& output) const
     {
-        const auto [known, passedOver] = knownNames::macroTraces(tool);
-        for (const auto& file : passedOver)
+        const auto traces = knownNames::macroTraces(tool);
+        for (const auto& file : traces.passedOver)
             output.message(file + " is passed over: it is no definition of macro traces");
         if (!set_.given()) return;
         choice_.forEach([&](const std::string& name) {
-            if (std::find(known.begin(), known.end(), name) == known.end())
+            if (std::find(traces.shown.begin(), traces.shown.end(), name) == traces.shown.end())
                 throw noSuchMacroTrace(name);
         });
     }
