@@ -151,7 +151,11 @@ std::int32_t SiteProcesses::startCabinetMaker(const std::string& asked,
 std::int32_t SiteProcesses::openFolder(const std::vector<std::string>& arguments)
 {
     const std::string opener = "/usr/bin/xdg-open";
-    if (!hasScreen() || !isPlainFile(opener)) throw RunTimeError(runTimeErrors::fileNotFound);
+    if (!hasScreen())
+        throw RunTimeError(runTimeErrors::fileNotFound, "there is no screen to show a folder on");
+    if (!isPlainFile(opener))
+        throw RunTimeError(runTimeErrors::fileNotFound,
+                           "no program that shows folders is installed here (xdg-open)");
     const auto folder = paths_.machinePath(arguments.empty() ? "C:\\" : arguments.front());
     const auto facts = factsOf(folder);
     if (!facts || facts->kind != FileKind::folder)

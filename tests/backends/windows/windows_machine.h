@@ -18,8 +18,8 @@
 #include <vector>
 
 /// This machine as the contracts of the platform's interfaces want one. The drives C: and D: are as
-/// before when it goes; from the first call of `registry` on, the tool's hive is a key of the test's
-/// own.
+/// before when it goes; from the first call of `registry` on, the tool's hive is a key of the
+/// test's own.
 class WindowsMachine {
 public:
     explicit WindowsMachine(bool extended = false);

@@ -38,8 +38,8 @@ struct ToolOnServer : testing::Test {
         server().reset();
         server().runFile(checkout::data + std::string("/server/postgres.sql"));
         server().run("INSERT INTO tbl_ConfigurationValue VALUES('" + std::string(maximum) +
-                   "','400',3);"
-                   "INSERT INTO tbl_LoggerDiagnosticGrid VALUES('{A}','Codec',1,1)");
+                     "','400',3);"
+                     "INSERT INTO tbl_LoggerDiagnosticGrid VALUES('{A}','Codec',1,1)");
         folder.makeFolder("drive_c");
         folder.write("site.ini", "[database]\nodbc = " + server().connectionString());
     }
@@ -47,7 +47,7 @@ struct ToolOnServer : testing::Test {
     static void endConnections()
     {
         server().run("SELECT pg_terminate_backend(pid) FROM pg_stat_activity"
-                   " WHERE pid <> pg_backend_pid() AND application_name <> 'psql'");
+                     " WHERE pid <> pg_backend_pid() AND application_name <> 'psql'");
     }
 
     static std::string flags() { return server().run("SELECT Flags FROM vw_LoggerDiagnosticGrid"); }

@@ -1,10 +1,10 @@
 #include "backends/site/files/site_file_system.h"
 
 #include "backends/common/file_pattern.h"
-#include "backends/site/files/file_times.h"
 #include "backends/common/folder_listing.h"
 #include "backends/common/text_file_reader.h"
 #include "backends/common/text_file_writer.h"
+#include "backends/site/files/file_times.h"
 #include "system/file_bytes.h"
 #include "system/file_facts.h"
 #include "system/system_error.h"

@@ -125,9 +125,8 @@ void FilterBar::tick(int column, const std::string& value, bool exclude)
 void FilterBar::reset()
 {
     for (auto* button : buttons_) button->reset();
-    const QSignalBlocker quietText(text_);
     const QSignalBlocker quietExclude(excludeText_);
-    text_->clear();
+    text_->clear(); // its own clear button has to hear of it
     excludeText_->setChecked(false);
     typing_.stop();
     emit changed();
