@@ -14,6 +14,7 @@
 #include "cabmaker/reports.h"
 #include "cabmaker/source_file.h"
 #include "runtime/windows_path.h"
+#include "system/machine_path.h"
 #include "system/system_error.h"
 
 namespace cabmaker {
@@ -53,8 +54,9 @@ public:
         fs::create_directories(path, error);
         if (!error) return;
         remove();
-        throw toldWith("cannot make the folder " + path.string(),
-                       systemError(error.value(), runTimeErrors::pathNotFound));
+        throw toldWith(
+            "cannot make the folder " + machineTextOf(path),
+            systemError(error.default_error_condition().value(), runTimeErrors::pathNotFound));
     }
     ~DiskFolder() { remove(); }
     DiskFolder(const DiskFolder&) = delete;
@@ -119,15 +121,17 @@ public:
     {
         const std::string path = paths_.machinePath(name);
         std::error_code none;
-        const fs::file_status status = fs::symlink_status(path, none);
+        const fs::path file = filePathOf(path);
+        const fs::file_status status = fs::symlink_status(file, none);
         if (none == std::errc::filename_too_long)
-            throw toldWith("cannot write " + path,
-                           systemError(none.value(), runTimeErrors::pathNotFound));
+            throw toldWith(
+                "cannot write " + path,
+                systemError(none.default_error_condition().value(), runTimeErrors::pathNotFound));
         if (fs::exists(status) && !fs::is_regular_file(status))
             throw RunTimeError(runTimeErrors::pathFileAccess,
                                "cannot write " + path + ": it is not a plain file");
         for (const auto& [source, shownName] : sources_)
-            if (path == source || fs::equivalent(path, source, none))
+            if (path == source || fs::equivalent(file, filePathOf(source), none))
                 throw RunTimeError(runTimeErrors::pathFileAccess,
                                    "cannot write " + path + ": " + shownName + " would be lost");
         sources_.emplace_back(path, name);
@@ -188,8 +192,8 @@ Cabinets cabinetsOf(const PackedCabinet& packed, const OutputFile& whole,
     for (std::size_t number = 1; number <= plan.size(); ++number) {
         checkpoint();
         if (number > 1)
-            cabinets.folders.push_back(
-                std::make_unique<DiskFolder>(paths.machinePath(diskFolderOf(directives, number))));
+            cabinets.folders.push_back(std::make_unique<DiskFolder>(
+                filePathOf(paths.machinePath(diskFolderOf(directives, number)))));
         auto file = std::make_unique<OutputFile>(number == 1 ? whole.path()
                                                              : outputs.placeOfCabinet(number));
         writeSetPart(packed, whole, directives.compression, plan, number, wish, *file);
@@ -227,7 +231,7 @@ MadeCabinet makeCabinet(const std::string& directivePath, const Surroundings& su
     outputs.protect(directiveFile, directivePath);
     for (const CabinetSource& source : sources) outputs.protect(source.path, source.shownName);
     // Made first: the folder's file system alone knows how long a name may be.
-    DiskFolder diskFolder(paths.machinePath(diskFolderOf(directives, 1)));
+    DiskFolder diskFolder(filePathOf(paths.machinePath(diskFolderOf(directives, 1))));
     const std::string path = outputs.placeOfCabinet(1);
     const auto placeOfReport = [&](const std::string& name) {
         return name.empty() ? std::string() : outputs.place(name);

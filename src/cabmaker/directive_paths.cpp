@@ -6,6 +6,7 @@
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
 #include "runtime/windows_path.h"
+#include "system/machine_path.h"
 
 namespace cabmaker {
 
@@ -22,14 +23,12 @@ namespace {
 std::string canonicalPath(const fs::path& path)
 {
     std::error_code error;
-    const auto found = fs::weakly_canonical(path, error).generic_u8string();
-    const bool isBelowTop = found.empty() || found.front() == u8'/';
-    return (isBelowTop ? "" : "/") + std::string(found.begin(), found.end());
+    return machineTextOf(fs::weakly_canonical(path, error));
 }
 
 std::string folderOfDrives(const std::string& drives, const std::string& workingFolder)
 {
-    return canonicalPath(fs::path(workingFolder) / drives);
+    return canonicalPath(filePathOf(workingFolder) / filePathOf(drives));
 }
 
 /// Why no path of a drive can be found; empty where there is a folder of drives.
@@ -38,7 +37,7 @@ std::string whyNoDrives(const std::string& drives, const std::string& workingFol
     const std::string variable = "ORVAN_SITE_DRIVES names the folder of the drives";
     if (drives.empty()) return "there are no drives here (" + variable + ")";
     std::error_code error;
-    if (fs::is_directory(folderOfDrives(drives, workingFolder), error)) return {};
+    if (fs::is_directory(filePathOf(folderOfDrives(drives, workingFolder)), error)) return {};
     return drives + " is no folder (" + variable + ")";
 }
 
@@ -59,7 +58,7 @@ DirectivePaths::DirectivePaths(const std::string& drives, const std::string& wor
       paths_(whyNoDrives_.empty() ? folderOfDrives(drives, workingFolder) : "/")
 {
     paths_.permit("/");
-    const std::string working = canonicalPath(workingFolder);
+    const std::string working = canonicalPath(filePathOf(workingFolder));
     const std::string path =
         whyNoDrives_.empty() ? onDrive(working, paths_.siteFolder()) : std::string();
     if (path.empty()) {

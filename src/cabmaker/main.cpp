@@ -1,15 +1,19 @@
 #include <cstdio>
-#include <cstdlib>
 #include <exception>
 #include <filesystem>
 #include <new>
 #include <string>
 #include <string_view>
 #include <thread>
+#include <vector>
 
 #include "cabmaker/cabinet_maker.h"
 #include "runtime/run_time_error.h"
+#include "system/environment.h"
 #include "system/held_end_signals.h"
+#include "system/machine_path.h"
+#include "system/program_arguments.h"
+#include "system/terminal.h"
 #include "system/write_signals.h"
 #include "text/visible_text.h"
 
@@ -56,10 +60,10 @@ constexpr const char* help =
 
 int makeCabinet(const std::string& directivePath, HeldEndSignals& interruptions)
 {
-    const char* const drives = std::getenv("ORVAN_SITE_DRIVES");
+    const auto drives = environmentVariable("ORVAN_SITE_DRIVES");
     const cabmaker::MadeCabinet made = cabmaker::makeCabinet(
-        directivePath, {.workingFolder = std::filesystem::current_path().string(),
-                        .drives = drives != nullptr ? drives : "",
+        directivePath, {.workingFolder = machineTextOf(std::filesystem::current_path()),
+                        .drives = drives.value_or(""),
                         .threads = std::thread::hardware_concurrency(),
                         .checkpoint = [&] {
                             if (interruptions.came())
@@ -92,16 +96,18 @@ int run(const std::string& directivePath)
 
 } // namespace
 
-int main(int argumentCount, char** arguments)
+int main(int count, char** given)
 {
-    const std::string_view option = argumentCount > 1 ? arguments[1] : "";
-    if (argumentCount == 3 && (option == "/f" || option == "/F" || option == "-f"))
+    writeUtf8ToTerminals();
+    const std::vector<std::string> arguments = programArguments(count, given);
+    const std::string_view option = arguments.size() > 1 ? arguments[1] : "";
+    if (arguments.size() == 3 && (option == "/f" || option == "/F" || option == "-f"))
         return run(arguments[2]);
-    if (argumentCount == 2 && (option == "--help" || option == "/?")) {
+    if (arguments.size() == 2 && (option == "--help" || option == "/?")) {
         std::printf("%s\n%s", usage, help);
         return statusDone;
     }
-    if (argumentCount == 2 && option == "--version") {
+    if (arguments.size() == 2 && option == "--version") {
         std::printf("cabmaker %s\n", CABMAKER_VERSION);
         return statusDone;
     }

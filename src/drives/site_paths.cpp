@@ -2,11 +2,11 @@
 
 #include "runtime/run_time_error.h"
 #include "runtime/windows_path.h"
+#include "system/machine_path.h"
 #include "text/utf8.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <filesystem>
 #include <optional>
 #include <utility>
 
@@ -56,7 +56,7 @@ bool beginsWithNames(const std::vector<std::string>& path, const std::vector<std
 } // namespace
 
 SitePaths::SitePaths(const std::string& siteFolder)
-    : siteFolder_(withoutEnd(std::filesystem::absolute(siteFolder).string())), root_(siteFolder_)
+    : siteFolder_(withoutEnd(wholePathOf(siteFolder))), root_(siteFolder_)
 {}
 
 std::string SitePaths::driveName(std::string_view path)

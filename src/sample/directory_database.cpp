@@ -1,6 +1,7 @@
 #include "runtime/run_time_error.h"
 #include "sample/output_file.h"
 #include "sample/server_files.h"
+#include "system/machine_path.h"
 
 #include <memory>
 #include <sqlite3.h>
@@ -27,10 +28,10 @@ void writeDirectoryDatabase(const std::filesystem::path& site, const std::filesy
 {
     const std::filesystem::path path = site / "OrvanDirDb.sqlite";
     sqlite3* opened = nullptr;
-    const int result = sqlite3_open(path.c_str(), &opened);
+    const int result = sqlite3_open(machineTextOf(path).c_str(), &opened);
     std::unique_ptr<sqlite3, CloseDatabase> database(opened);
     if (result != SQLITE_OK)
-        throw RunTimeError(runTimeErrors::deviceIo, "cannot make the file " + path.string());
+        throw RunTimeError(runTimeErrors::deviceIo, "cannot make the file " + machineTextOf(path));
     execute(opened, readFile(data / "server" / "schema.sql"));
     execute(opened, readFile(data / "sample" / "sample.sql"));
     database.reset();

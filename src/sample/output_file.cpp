@@ -2,6 +2,7 @@
 
 #include "runtime/run_time_error.h"
 #include "system/file_facts.h"
+#include "system/machine_path.h"
 
 #include <iterator>
 
@@ -14,7 +15,7 @@ OutputFile::OutputFile(fs::path path) : path_(std::move(path)), buffer_(std::siz
     stream_.rdbuf()->pubsetbuf(buffer_.data(), static_cast<std::streamsize>(buffer_.size()));
     stream_.open(path_, std::ios::binary);
     if (!stream_)
-        throw RunTimeError(runTimeErrors::deviceIo, "cannot make the file " + path_.string());
+        throw RunTimeError(runTimeErrors::deviceIo, "cannot make the file " + machineTextOf(path_));
 }
 
 void OutputFile::write(std::string_view bytes)
@@ -26,7 +27,8 @@ void OutputFile::close(Moment modified)
 {
     stream_.close();
     if (!stream_)
-        throw RunTimeError(runTimeErrors::diskFull, "cannot write the file " + path_.string());
+        throw RunTimeError(runTimeErrors::diskFull,
+                           "cannot write the file " + machineTextOf(path_));
     setModified(path_, modified);
 }
 
@@ -45,14 +47,14 @@ std::string readFile(const fs::path& path)
     std::error_code none;
     if (!stream || fs::is_directory(path, none))
         throw RunTimeError(runTimeErrors::fileNotFound,
-                           "the installed data lack the file " + path.string());
+                           "the installed data lack the file " + machineTextOf(path));
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 void setModified(const fs::path& path, Moment modified)
 {
-    if (!setTimes(path.string(), {.seconds = unixSeconds(modified)}))
-        throw RunTimeError(runTimeErrors::deviceIo, "cannot date " + path.string());
+    if (!setTimes(machineTextOf(path), {.seconds = unixSeconds(modified)}))
+        throw RunTimeError(runTimeErrors::deviceIo, "cannot date " + machineTextOf(path));
 }
 
 } // namespace sample

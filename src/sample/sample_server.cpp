@@ -5,6 +5,7 @@
 #include "sample/log_writer.h"
 #include "sample/server_files.h"
 #include "sample/traffic.h"
+#include "system/machine_path.h"
 
 #include <algorithm>
 
@@ -17,7 +18,7 @@ constexpr std::size_t linesBetweenTellings = 1000;
 
 fs::path targetOf(const SampleOptions& options)
 {
-    fs::path target = fs::absolute(options.folder).lexically_normal();
+    fs::path target = fs::absolute(filePathOf(options.folder)).lexically_normal();
     if (!target.has_filename()) target = target.parent_path();
     return target;
 }
@@ -27,24 +28,24 @@ void refuseUnlessFree(const fs::path& target)
     std::error_code failure;
     if (!fs::is_directory(target.parent_path(), failure))
         throw RunTimeError(runTimeErrors::pathNotFound,
-                           "the folder " + target.parent_path().string() + " does not exist");
+                           "the folder " + machineTextOf(target.parent_path()) + " does not exist");
     if (!fs::exists(fs::symlink_status(target, failure))) return;
     if (!fs::is_directory(target, failure) || !fs::is_empty(target, failure) || failure)
         throw RunTimeError(runTimeErrors::fileAlreadyExists,
-                           target.string() + " is already there; choose another folder");
+                           machineTextOf(target) + " is already there; choose another folder");
 }
 
 /// The folder that the sample is made in. Unless it was kept, it goes again.
 class PartialFolder {
 public:
-    explicit PartialFolder(const fs::path& target) : path_(target.string() + ".partial")
+    explicit PartialFolder(const fs::path& target) : path_(fs::path(target) += ".partial")
     {
         std::error_code failure;
         if (!fs::create_directory(path_, failure))
             throw RunTimeError(failure ? runTimeErrors::pathFileAccess
                                        : runTimeErrors::fileAlreadyExists,
-                               failure ? "cannot make the folder " + path_.string()
-                                       : path_.string() + " is in the way; remove it first");
+                               failure ? "cannot make the folder " + machineTextOf(path_)
+                                       : machineTextOf(path_) + " is in the way; remove it first");
     }
     ~PartialFolder()
     {
@@ -62,7 +63,7 @@ public:
         fs::rename(path_, target, failure);
         if (failure)
             throw RunTimeError(runTimeErrors::pathFileAccess,
-                               "cannot move the finished sample to " + target.string());
+                               "cannot move the finished sample to " + machineTextOf(target));
         path_.clear();
     }
 
@@ -105,8 +106,8 @@ void fill(const fs::path& site, const SampleOptions& options)
     sample::Random random(options.seed);
     const auto plan = sample::drawLogPlan(random);
 
-    sample::writeServerFiles(site, options.dataFolder, identity, plan);
-    sample::writeDirectoryDatabase(site, options.dataFolder);
+    sample::writeServerFiles(site, filePathOf(options.dataFolder), identity, plan);
+    sample::writeDirectoryDatabase(site, filePathOf(options.dataFolder));
     sample::writeEventLogs(site / "eventlogs", identity.computer, random);
     writeLogs(sample::logFolder(site), plan, options, random);
     dateFolders(site);

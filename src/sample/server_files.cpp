@@ -3,6 +3,7 @@
 #include "platform/tool_files.h"
 #include "runtime/run_time_error.h"
 #include "sample/output_file.h"
+#include "system/machine_path.h"
 
 #include <algorithm>
 #include <map>
@@ -53,7 +54,7 @@ std::vector<fs::path> filesIn(const fs::path& folder)
     for (const auto& entry : fs::directory_iterator(folder, failure)) files.push_back(entry.path());
     if (failure)
         throw RunTimeError(runTimeErrors::fileNotFound,
-                           "the installed data lack the folder " + folder.string());
+                           "the installed data lack the folder " + machineTextOf(folder));
     std::sort(files.begin(), files.end());
     return files;
 }

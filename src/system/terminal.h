@@ -2,6 +2,10 @@
 
 #include <optional>
 
+/// Lets the bytes that the program writes to its standard output and error arrive as they are, and
+/// be taken for UTF-8 by a terminal of the system's own.
+void writeUtf8ToTerminals();
+
 /// Whether what a program writes to standard error comes to a terminal.
 bool errorsGoToATerminal();
 

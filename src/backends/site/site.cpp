@@ -6,9 +6,10 @@
 #include "backends/site/files/tool_folder.h"
 #include "runtime/run_time_error.h"
 #include "system/file_facts.h"
+#include "system/machine_path.h"
+#include "system/process.h"
 #include "system/whole_file.h"
 
-#include <filesystem>
 #include <utility>
 
 namespace {
@@ -40,7 +41,7 @@ void makeServerFolder(const SitePlace& place)
 
 std::string wholePath(const std::string& path)
 {
-    return path.empty() ? path : std::filesystem::absolute(path).string();
+    return path.empty() ? path : wholePathOf(path);
 }
 
 /// The site's settings, with the tool folder of the person's own choice, if any.
@@ -58,9 +59,8 @@ InstalledPrograms installedPrograms(const std::string& installedData)
 {
     InstalledPrograms programs;
     if (!installedData.empty()) programs.cabinetMaker = installedData + "/cabmaker.exe";
-    std::error_code none;
-    const auto running = std::filesystem::read_symlink("/proc/self/exe", none);
-    if (!none) programs.viewer = running.parent_path() / "orvandiag-viewer";
+    const std::string running = ownProgramFile();
+    if (!running.empty()) programs.viewer = folderPathOf(running) + "/orvandiag-viewer";
     return programs;
 }
 

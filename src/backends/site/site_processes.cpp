@@ -4,6 +4,7 @@
 #include "drives/site_paths.h"
 #include "runtime/run_time_error.h"
 #include "system/child_process.h"
+#include "system/environment.h"
 #include "system/file_bytes.h"
 #include "system/file_facts.h"
 #include "system/whole_file.h"
@@ -11,7 +12,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cstdlib>
 #include <string_view>
 #include <thread>
 #include <utility>
@@ -88,7 +88,7 @@ std::string failureOf(const ChildProcessEnd& end, const FileDescriptor& standard
 
 bool hasScreen()
 {
-    return std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr;
+    return environmentVariable("DISPLAY") || environmentVariable("WAYLAND_DISPLAY");
 }
 
 } // namespace

@@ -4,12 +4,16 @@
 #include "hosts/cli/terminal/output.h"
 #include "runtime/out_of_memory.h"
 #include "runtime/run_time_error.h"
+#include "system/program_arguments.h"
+#include "system/terminal.h"
 #include "system/write_signals.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <cstdio>
 #include <exception>
+#include <utility>
 
 namespace cli {
 
@@ -27,13 +31,13 @@ int refuseUsage(const CLI::App& app, const std::string& text)
     return refuse(text + " (see " + chosenCommand(app) + " --help)", 2);
 }
 
-int run(int argc, char** argv)
+int run(std::vector<std::string> arguments)
 {
     GlobalOptions options;
     auto commands = allCommands();
     auto app = describeCommandLine(options, commands);
     try {
-        app->parse(argc, argv);
+        app->parse(std::move(arguments));
     } catch (const CLI::CallForHelp&) {
         std::fputs(app->help().c_str(), stdout);
         return 0;
@@ -66,8 +70,12 @@ int main(int argc, char** argv)
     letWritesToClosedPipesFail();
     letWritesPastTheSizeLimitFail();
     endWhenOutOfMemory("orvandiag");
+    writeUtf8ToTerminals();
     try {
-        return cli::run(argc, argv);
+        auto arguments = programArguments(argc, argv);
+        if (!arguments.empty()) arguments.erase(arguments.begin());
+        std::reverse(arguments.begin(), arguments.end()); // as the parser takes them
+        return cli::run(std::move(arguments));
     } catch (const RunTimeError& error) {
         return cli::refuse(error.description(), 1);
     } catch (const std::exception& error) {

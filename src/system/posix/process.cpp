@@ -2,12 +2,19 @@
 
 #include <cerrno>
 #include <csignal>
+#include <filesystem>
 #include <string>
 #include <unistd.h>
 
 int ownProcess()
 {
     return ::getpid();
+}
+
+std::string ownProgramFile()
+{
+    std::error_code none;
+    return std::filesystem::read_symlink("/proc/self/exe", none).string();
 }
 
 bool isEndedProcess(std::string_view number)

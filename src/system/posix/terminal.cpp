@@ -3,6 +3,8 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+void writeUtf8ToTerminals() {}
+
 bool errorsGoToATerminal()
 {
     return ::isatty(STDERR_FILENO) == 1;

@@ -1,5 +1,6 @@
 #include "system/process.h"
 
+#include "system/machine_path.h"
 #include "system/windows/windows_calls.h"
 
 #include <string>
@@ -7,6 +8,14 @@
 int ownProcess()
 {
     return static_cast<int>(::GetCurrentProcessId());
+}
+
+std::string ownProgramFile()
+{
+    constexpr std::size_t longest = 32768;
+    std::wstring path(longest, L'\0');
+    path.resize(::GetModuleFileNameW(nullptr, path.data(), longest));
+    return machineTextOf(path);
 }
 
 bool isEndedProcess(std::string_view number)

@@ -1,6 +1,15 @@
 #include "system/terminal.h"
 
+#include <cstdio>
+#include <fcntl.h>
+#include <io.h>
 #include <windows.h>
+
+void writeUtf8ToTerminals()
+{
+    ::SetConsoleOutputCP(CP_UTF8);
+    for (std::FILE* stream : {stdout, stderr}) ::_setmode(::_fileno(stream), _O_BINARY);
+}
 
 bool errorsGoToATerminal()
 {

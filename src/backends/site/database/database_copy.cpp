@@ -1,6 +1,7 @@
 #include "backends/site/database/database_copy.h"
 
 #include "runtime/run_time_error.h"
+#include "system/machine_path.h"
 #include "system/temporary_folder.h"
 #include "system/whole_file.h"
 
@@ -20,7 +21,7 @@ void copyForWriting(const FileDescriptor& source, const std::string& target)
 {
     copyWholeFile(source, RootFolder(folderPathOf(target)), lastNameOf(target));
     std::error_code none;
-    fs::permissions(target, fs::perms::owner_write, fs::perm_options::add, none);
+    fs::permissions(filePathOf(target), fs::perms::owner_write, fs::perm_options::add, none);
 }
 
 } // namespace
@@ -40,7 +41,7 @@ DatabaseCopy::DatabaseCopy(const std::string& file)
         copyForWriting(folder.openFile(name, unlinked, fileNotFound), path_);
     } catch (...) {
         std::error_code none;
-        fs::remove_all(folder_, none);
+        fs::remove_all(filePathOf(folder_), none);
         throw;
     }
 }
@@ -48,5 +49,5 @@ DatabaseCopy::DatabaseCopy(const std::string& file)
 DatabaseCopy::~DatabaseCopy()
 {
     std::error_code none;
-    fs::remove_all(folder_, none);
+    fs::remove_all(filePathOf(folder_), none);
 }

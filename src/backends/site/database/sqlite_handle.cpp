@@ -5,6 +5,7 @@
 #include "runtime/out_of_memory.h"
 #include "runtime/run_time_error.h"
 #include "system/file_facts.h"
+#include "system/machine_path.h"
 #include "system/root_folder.h"
 
 #include <filesystem>
@@ -64,7 +65,8 @@ std::string guardedPath(const std::string& file)
             throw RunTimeError(runTimeErrors::permissionDenied,
                                folder.shown(name + ending) + " is no plain file");
     std::error_code none;
-    return (std::filesystem::canonical(folder.shown(""), none) / name).string();
+    return machineTextOf(std::filesystem::canonical(filePathOf(folder.shown("")), none) /
+                         filePathOf(name));
 }
 
 /// Nothing where no file is.
@@ -129,7 +131,7 @@ bool hasWriteAheadLog(const std::string& file)
     constexpr std::size_t versionForReading = 19;
     constexpr char writeAhead = 2;
     char header[versionForReading + 1] = {};
-    std::ifstream(file, std::ios::binary).read(header, sizeof header);
+    std::ifstream(filePathOf(file), std::ios::binary).read(header, sizeof header);
     return header[versionForReading] == writeAhead;
 }
 

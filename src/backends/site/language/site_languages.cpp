@@ -3,10 +3,10 @@
 #include "backends/site/language/language_names.h"
 #include "drives/site_paths.h"
 #include "runtime/run_time_error.h"
+#include "system/environment.h"
 #include "system/whole_file.h"
 
 #include <array>
-#include <cstdlib>
 
 namespace {
 
@@ -67,8 +67,7 @@ SiteLanguages::SiteLanguages(std::optional<std::int32_t> language, const SitePat
 std::int32_t SiteLanguages::userDefaultLanguage() const
 {
     if (language_) return *language_;
-    const char* variable = std::getenv("LANG");
-    return languageOfLocale(variable == nullptr ? "" : variable);
+    return languageOfLocale(environmentVariable("LANG").value_or(""));
 }
 
 std::string SiteLanguages::languageName(std::int32_t id) const

@@ -1,9 +1,9 @@
 #include "backends/site/time/posix_time_zone.h"
 
 #include "runtime/run_time_error.h"
+#include "system/environment.h"
 #include "system/whole_file.h"
 
-#include <cstdlib>
 #include <optional>
 
 namespace {
@@ -38,9 +38,9 @@ std::optional<PosixTimeZone> zoneOfText(const std::string& text)
 
 PosixTimeZone machineTimeZone()
 {
-    const char* variable = std::getenv("TZ");
-    if (variable == nullptr) return zoneOfFile("/etc/localtime").value_or(PosixTimeZone{});
-    std::string name = variable;
+    const auto variable = environmentVariable("TZ");
+    if (!variable) return zoneOfFile("/etc/localtime").value_or(PosixTimeZone{});
+    std::string name = *variable;
     if (!name.empty() && name.front() == ':') name.erase(0, 1);
     if (name.empty()) return {};
     const bool isPath = name.front() == '/';

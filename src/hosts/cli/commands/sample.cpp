@@ -7,6 +7,7 @@
 #include "hosts/common/places.h"
 #include "runtime/text.h"
 #include "sample/sample_server.h"
+#include "system/machine_path.h"
 
 #include <filesystem>
 
@@ -47,9 +48,9 @@ public:
 
     void run(const GlobalOptions&, Output& output) override
     {
-        const fs::path folder = fs::absolute(folder_).lexically_normal();
+        const fs::path folder = fs::absolute(filePathOf(folder_)).lexically_normal();
         SampleOptions options;
-        options.folder = folder.has_filename() ? folder.string() : folder.parent_path().string();
+        options.folder = machineTextOf(folder.has_filename() ? folder : folder.parent_path());
         options.dataFolder = places::installedData();
         options.lines = lines_;
         options.seed = seed_;

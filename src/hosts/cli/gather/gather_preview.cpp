@@ -7,6 +7,7 @@
 #include "hosts/cli/terminal/output.h"
 #include "platform/file_system.h"
 #include "runtime/run_time_error.h"
+#include "system/machine_path.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -94,7 +95,7 @@ void preview(OpenTool& tool, GatherWizard& wizard, Output& output)
     requireBeginning(tool, wizard);
     const Plan plan = planOf(tool, wizard.steps());
     const std::string destination = tool.machinePath(wizard.destination());
-    const auto room = freeSpace(destination);
+    const auto room = freeSpace(filePathOf(destination));
     if (const std::string trouble = logFolderClause(tool); !trouble.empty())
         output.message(trouble);
     if (!output.json()) {

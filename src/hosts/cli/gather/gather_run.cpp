@@ -6,6 +6,8 @@
 #include "hosts/common/gather/gather_sentences.h"
 #include "hosts/common/gather/gather_watch.h"
 #include "system/file_facts.h"
+#include "system/machine_path.h"
+#include "system/root_folder.h"
 
 #include <chrono>
 #include <filesystem>
@@ -85,23 +87,25 @@ void requireUsableDestination(OpenTool& tool, const std::string& destination)
         throw CommandFailure("the site " + tool.site().folder() +
                              " is read-only; make its folder writable, or name a destination "
                              "outside of it with --to");
-    const fs::path folder = tool.machinePath(destination);
+    const fs::path folder = filePathOf(tool.machinePath(destination));
     std::error_code none;
     const fs::file_status status = fs::status(folder, none);
     if (none == std::errc::filename_too_long)
-        throw CommandFailure("the destination " + folder.string() + " has too long a name");
+        throw CommandFailure("the destination " + machineTextOf(folder) + " has too long a name");
     if (fs::exists(status)) {
         if (!fs::is_directory(status))
-            throw CommandFailure("the destination " + folder.string() + " is not a folder");
-        if (!mayWrite(folder.string()))
-            throw CommandFailure("the destination " + folder.string() + " may not be written to");
+            throw CommandFailure("the destination " + machineTextOf(folder) + " is not a folder");
+        if (!mayWrite(machineTextOf(folder)))
+            throw CommandFailure("the destination " + machineTextOf(folder) +
+                                 " may not be written to");
         return;
     }
     const fs::path parent = folder.parent_path();
     if (!fs::is_directory(parent, none))
-        throw CommandFailure("the destination's folder " + parent.string() + " does not exist");
-    if (!mayWrite(parent.string()))
-        throw CommandFailure("the destination can't be made: " + parent.string() +
+        throw CommandFailure("the destination's folder " + machineTextOf(parent) +
+                             " does not exist");
+    if (!mayWrite(machineTextOf(parent)))
+        throw CommandFailure("the destination can't be made: " + machineTextOf(parent) +
                              " may not be written to");
 }
 
@@ -134,7 +138,7 @@ namespace {
 std::string rowSummary(const GatherOutcome& outcome)
 {
     if (outcome.rows.empty()) return {};
-    Table table({"Rows of " + fs::path(*outcome.database).filename().string(), ""});
+    Table table({"Rows of " + lastNameOf(*outcome.database), ""});
     table.alignRight(1);
     for (const auto& [process, count] : outcome.rows) table.row({process, groupedNumber(count)});
     return table.text();

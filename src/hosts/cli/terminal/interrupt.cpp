@@ -1,37 +1,18 @@
 #include "hosts/cli/terminal/interrupt.h"
 
-#include <csignal>
+#include "system/interruptions.h"
 
 namespace cli {
 
-namespace {
-
-constexpr int signals[] = {SIGINT, SIGTERM, SIGHUP};
-
-volatile std::sig_atomic_t wished = 0;
-volatile std::sig_atomic_t repeatedEnds = 1;
-
-extern "C" void rememberWish(int signal)
-{
-    wished = 1;
-    if (repeatedEnds != 0) std::signal(signal, SIG_DFL);
-}
-
-} // namespace
-
 InterruptWish::InterruptWish(Repeated repeated)
 {
-    wished = 0;
-    repeatedEnds = repeated == Repeated::ends ? 1 : 0;
-    for (const int signal : signals)
-        if (std::signal(signal, rememberWish) == SIG_IGN && signal == SIGHUP)
-            std::signal(signal, SIG_IGN);
+    noteInterruptions(repeated == Repeated::ends ? FurtherInterruptions::end
+                                                 : FurtherInterruptions::areIgnored);
 }
 
 InterruptWish::~InterruptWish()
 {
-    for (const int signal : signals)
-        if (std::signal(signal, SIG_DFL) == SIG_IGN) std::signal(signal, SIG_IGN);
+    stopNotingInterruptions();
 }
 
 bool InterruptWish::made() const
@@ -41,7 +22,7 @@ bool InterruptWish::made() const
 
 bool interruptNoted()
 {
-    return wished != 0;
+    return interruptionCame();
 }
 
 } // namespace cli

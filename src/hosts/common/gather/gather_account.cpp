@@ -11,6 +11,7 @@
 #include "platform/host_module.h"
 #include "platform/processes.h"
 #include "platform/tool_files.h"
+#include "system/machine_path.h"
 
 #include <filesystem>
 #include <utility>
@@ -45,7 +46,7 @@ GatherOutcome Account::take()
     outcome_.destination = run_.files.folder();
     outcome_.cancelled = run_.cancelled;
     std::error_code none;
-    outcome_.destinationThere = fs::is_directory(outcome_.destination, none);
+    outcome_.destinationThere = fs::is_directory(filePathOf(outcome_.destination), none);
     if (!outcome_.destinationThere) {
         tellOfDestination();
         return std::move(outcome_);
@@ -71,11 +72,11 @@ void Account::tellOfFiles()
     outcome_.files = run_.files.written();
     if (!run_.job.timeFrame) return;
     for (const std::string& name : outcome_.files) {
-        const fs::path path = fs::path(outcome_.destination) / name;
+        const fs::path path = filePathOf(outcome_.destination) / filePathOf(name);
         if (path.extension() == toolFiles::cabinetEnding)
-            outcome_.cabinet = outcome_.cabinet.value_or(path.string());
+            outcome_.cabinet = outcome_.cabinet.value_or(machineTextOf(path));
         else if (path.extension() == toolFiles::databaseEnding)
-            outcome_.database = path.string();
+            outcome_.database = machineTextOf(path);
     }
 }
 
@@ -134,12 +135,13 @@ void Account::tellOfCabinetsContents()
 {
     std::vector<std::string> packed;
     for (const std::string& name : outcome_.files)
-        if (fs::path(name).extension() == toolFiles::cabinetEnding)
-            for (std::string& member : namesInCabinet(fs::path(outcome_.destination) / name))
+        if (filePathOf(name).extension() == toolFiles::cabinetEnding)
+            for (std::string& member :
+                 namesInCabinet(filePathOf(outcome_.destination) / filePathOf(name)))
                 packed.push_back(std::move(member));
     for (const std::string& name : outcome_.files) {
         const bool wanted = name == "Application.csv" || name == "System.csv" ||
-                            fs::path(name).extension() == toolFiles::databaseEnding;
+                            filePathOf(name).extension() == toolFiles::databaseEnding;
         if (wanted && !holdsName(packed, name))
             missing(gatherSentences::logUnseen, {name, "it is not in the cabinet"});
     }

@@ -9,6 +9,8 @@
 #include "platform/tool_files.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
+#include "system/machine_path.h"
+#include "system/root_folder.h"
 
 #include <algorithm>
 #include <utility>
@@ -61,8 +63,8 @@ std::string GatherFiles::cabinetMaker() const
 {
     const std::string program = "\\cabmaker.exe";
     std::error_code none;
-    if (fs::equivalent(machinePath_(tool_.platform.module.folder() + program),
-                       machinePath_(job_.destination + program), none))
+    if (fs::equivalent(filePathOf(machinePath_(tool_.platform.module.folder() + program)),
+                       filePathOf(machinePath_(job_.destination + program)), none))
         throw RunTimeError(runTimeErrors::permissionDenied);
     return tool_.platform.files.openForReading(tool_.platform.module.folder() + program)->readAll();
 }
@@ -116,7 +118,7 @@ bool GatherFiles::isCapture(const std::string& name) const
 /// The moments in the names of a time frame's results are not known before they are made.
 bool GatherFiles::mayBeOfThisRun(const std::string& name) const
 {
-    const fs::path ending = fs::path(name).extension();
+    const fs::path ending = filePathOf(name).extension();
     const bool named = ending == toolFiles::databaseEnding || ending == toolFiles::cabinetEnding;
     if (job_.timeFrame && named && name.find(toolFiles::resultMark) != std::string::npos)
         return true;
@@ -129,9 +131,9 @@ bool GatherFiles::isOfThisRun(const std::string& name) const
     const auto named = [&](const std::string& wanted) { return equalIgnoringCase(name, wanted); };
     if (isCapture(name)) return true;
     if (job_.timeFrame)
-        return name == fs::path(machinePath_(tool_.g_strTraceDatabase)).filename() ||
+        return name == lastNameOf(machinePath_(tool_.g_strTraceDatabase)) ||
                (name.find(toolFiles::resultMark) != std::string::npos &&
-                fs::path(name).extension() == toolFiles::cabinetEnding);
+                filePathOf(name).extension() == toolFiles::cabinetEnding);
     const auto isCopied = [&](const std::string& log) { return named(formattedName(log)); };
     return std::any_of(job_.logs.begin(), job_.logs.end(), isCopied);
 }

@@ -2,6 +2,7 @@
 
 #include "hosts/common/gather/gather_account.h"
 #include "hosts/common/gather/gather_report.h"
+#include "system/machine_path.h"
 #include "wizards/gather_progress.h"
 
 #include <filesystem>
@@ -14,7 +15,7 @@ GatherWatch::GatherWatch(ToolContext& tool, GatherReport& report, const ppgGathe
       job_(gatherJobOf(page.job())), files_(tool_, job_, machinePath_),
       troubles_(page.treeviewSteps, [this] {
           std::error_code none;
-          return std::filesystem::is_directory(files_.folder(), none);
+          return std::filesystem::is_directory(filePathOf(files_.folder()), none);
       })
 {
     report_.forgetReadings();

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+/// A path of the machine, which is UTF-8 with "/" between its names, for the standard library. One
+/// on a drive of Windows may have a "/" before its drive.
+std::filesystem::path filePathOf(std::string_view path);
+
+/// The other way: a whole path begins with "/", on Windows as "/C:/x", so that none is taken for
+/// one on a drive of the server.
+std::string machineTextOf(const std::filesystem::path& path);
+
+/// What a path leads to from the current folder of this program, as a whole path.
+std::string wholePathOf(std::string_view path);

@@ -1,0 +1,16 @@
+#include "system/machine_path.h"
+
+std::filesystem::path filePathOf(std::string_view path)
+{
+    return path;
+}
+
+std::string machineTextOf(const std::filesystem::path& path)
+{
+    return path.string();
+}
+
+std::string wholePathOf(std::string_view path)
+{
+    return std::filesystem::absolute(path).string();
+}
