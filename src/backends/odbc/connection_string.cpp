@@ -47,7 +47,8 @@ std::optional<Rank> rankOf(std::string_view driver)
     return std::nullopt;
 }
 
-/// What a site may say of its source, in any case.
+/// What a site may say of its source, in any case. A site comes from anywhere, and what it says
+/// must reach the driver as it was looked at here.
 constexpr std::array<std::string_view, 30> permittedKeys = {"Driver",
                                                             "DSN",
                                                             "Server",
@@ -79,6 +80,19 @@ constexpr std::array<std::string_view, 30> permittedKeys = {"Driver",
                                                             "TDS_Version",
                                                             "ReadOnly"};
 
+/// What it may say beside a name of this machine's own: who asks. The rest is for whoever made that
+/// source to say.
+constexpr std::array<std::string_view, 6> keysBesideAName = {"DSN",      "UID", "User",
+                                                             "Username", "PWD", "Password"};
+
+/// Not all drivers know braces: one that doesn't takes the parts of such a value for keys of
+/// theirs.
+constexpr std::string_view separators = ";{}";
+
+/// How long the driver of a file waits while another program holds the file, in milliseconds. Its
+/// own is ten times that.
+constexpr std::string_view fileWait = "10000";
+
 [[noreturn]] void fail(const std::string& sentence)
 {
     throw RunTimeError(databaseErrors::unspecified, sentence);
@@ -91,6 +105,12 @@ bool has(const Names& names, std::string_view name)
                        [&](const auto& each) { return equalIgnoringCase(each, name); });
 }
 
+void requireWhole(const std::string& value)
+{
+    if (value.find_first_of(separators) != std::string::npos)
+        fail("No value of a site's source may hold a semicolon or a brace.");
+}
+
 void requirePermitted(const std::vector<ConnectionPart>& parts,
                       const std::vector<std::string>& installedDrivers)
 {
@@ -100,16 +120,35 @@ void requirePermitted(const std::vector<ConnectionPart>& parts,
         if (has(seen, key)) fail("The source says \"" + key + "\" twice.");
         if (equalIgnoringCase(key, "Driver") && !has(installedDrivers, value))
             fail("No driver on this machine is called \"" + value + "\".");
+        requireWhole(value);
         seen.push_back(key);
     }
+    if (has(seen, "DSN"))
+        for (const auto& key : seen)
+            if (!has(keysBesideAName, key))
+                fail("A site may not say \"" + key + "\" of a source that this machine knows.");
     if (valueOf(parts, "Driver").empty() && valueOf(parts, "DSN").empty())
         fail("The source names neither a driver nor a source that this machine knows.");
 }
 
-/// Whether the driver reaches a file, which it would make where there is none.
-bool makesFiles(const std::string& driver)
+/// Whether the driver reaches a file.
+bool opensFiles(const std::string& driver)
 {
     return beginsWith(lowerCase(driver), "sqlite");
+}
+
+/// Has the driver of a file make none where none is, wait no longer than a person does, and take no
+/// file of the folder that the program happens to run in.
+void boundFileDriver(std::vector<ConnectionPart>& parts)
+{
+    const std::string file = valueOf(parts, "Database");
+    const bool whole = file.starts_with('/') || file.starts_with("\\\\") ||
+                       (file.size() > 2 && file[1] == ':' && (file[2] == '/' || file[2] == '\\'));
+    if (!whole) fail("The source's database is not named by its whole path.");
+    std::erase_if(parts, [](const auto& part) {
+        return equalIgnoringCase(part.key, "NoCreat") || equalIgnoringCase(part.key, "Timeout");
+    });
+    parts.insert(parts.end(), {{"NoCreat", "1"}, {"Timeout", std::string(fileWait)}});
 }
 
 } // namespace
@@ -149,10 +188,12 @@ std::string connectionStringOfSource(const std::string& source,
                                      const std::vector<std::string>& installedDrivers)
 {
     if (source.size() > longestSource) fail("The source is too long.");
-    if (source.find('=') == std::string::npos) return connectionStringOf({{"DSN", source}});
+    if (source.find('=') == std::string::npos) {
+        requireWhole(source);
+        return connectionStringOf({{"DSN", source}});
+    }
     auto parts = connectionParts(source);
     requirePermitted(parts, installedDrivers);
-    std::erase_if(parts, [](const auto& part) { return equalIgnoringCase(part.key, "NoCreat"); });
-    if (makesFiles(valueOf(parts, "Driver"))) parts.push_back({"NoCreat", "1"});
+    if (opensFiles(valueOf(parts, "Driver"))) boundFileDriver(parts);
     return connectionStringOf(parts);
 }

@@ -1,5 +1,6 @@
 #include "backends/odbc/session.h"
 
+#include "backends/odbc/bounded_call.h"
 #include "backends/odbc/statement.h"
 #include "backends/odbc/wide_text.h"
 #include "platform/database.h"
@@ -8,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <memory>
 
 namespace {
 
@@ -44,10 +46,7 @@ OdbcSession::OdbcSession(const std::string& connectionString, OdbcUse use, OdbcP
         setNumber(connection_, SQL_ATTR_CONNECTION_TIMEOUT,
                   static_cast<std::uintptr_t>(patience_.statement.count()));
         if (use_ == OdbcUse::look) setNumber(connection_, SQL_ATTR_ACCESS_MODE, SQL_MODE_READ_ONLY);
-        WideText wide(connectionString);
-        const SQLRETURN result = SQLDriverConnectW(connection_, nullptr, wide.data(), wide.length(),
-                                                   nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
-        if (!SQL_SUCCEEDED(result))
+        if (!SQL_SUCCEEDED(connect(connectionString)))
             throw RunTimeError(
                 databaseErrors::unspecified,
                 diagnosticOfConnection(connection_, "The driver could not connect.").text);
@@ -61,6 +60,30 @@ OdbcSession::OdbcSession(const std::string& connectionString, OdbcUse use, OdbcP
     }
 }
 
+/// A driver's own patience may end where the server lets it in, and a server that says nothing from
+/// then on holds it for ever.
+SQLRETURN OdbcSession::connect(const std::string& connectionString)
+{
+    constexpr std::chrono::seconds driversOwnSay{5};
+    const auto wide = std::make_shared<WideText>(connectionString);
+    const auto result = resultWithin(
+        patience_.login + driversOwnSay,
+        [wide, connection = connection_] {
+            return SQLDriverConnectW(connection, nullptr, wide->data(), wide->length(), nullptr, 0,
+                                     nullptr, SQL_DRIVER_NOPROMPT);
+        },
+        [connection = connection_, environment = environment_](SQLRETURN late) {
+            if (SQL_SUCCEEDED(late)) SQLDisconnect(connection);
+            SQLFreeHandle(SQL_HANDLE_DBC, connection);
+            SQLFreeHandle(SQL_HANDLE_ENV, environment);
+        });
+    if (result) return *result;
+    connection_ = SQL_NULL_HDBC;
+    environment_ = SQL_NULL_HENV;
+    throw RunTimeError(databaseErrors::unspecified,
+                       "The server takes the connection and then says nothing.");
+}
+
 OdbcSession::~OdbcSession()
 {
     close();
@@ -72,7 +95,7 @@ void OdbcSession::close()
         SQLDisconnect(connection_);
         SQLFreeHandle(SQL_HANDLE_DBC, connection_);
     }
-    SQLFreeHandle(SQL_HANDLE_ENV, environment_);
+    if (environment_ != SQL_NULL_HENV) SQLFreeHandle(SQL_HANDLE_ENV, environment_);
 }
 
 bool OdbcSession::answers()

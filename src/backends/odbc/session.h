@@ -46,6 +46,7 @@ public:
     [[noreturn]] void fail(SQLHSTMT statement, Asked asked);
 
 private:
+    SQLRETURN connect(const std::string& connectionString);
     bool isLost(Failure failure) const;
     void close();
 

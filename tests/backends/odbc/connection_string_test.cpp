@@ -65,17 +65,47 @@ TEST(ConnectionString, WithoutAServerIsRefused)
 
 TEST(ConnectionStringOfASource, IsTheSourceItselfOrItsName)
 {
-    EXPECT_EQ("driver=PostgreSQL Unicode;Server=here;Port=5432;PWD={a;b=c}",
+    EXPECT_EQ("driver=PostgreSQL Unicode;Server=here;Port=5432;PWD={a=b}",
               connectionStringOfSource(
-                  " driver = {PostgreSQL Unicode}; Server=here;;Port=5432;PWD={a;b=c} ;", drivers));
+                  " driver = {PostgreSQL Unicode}; Server=here;;Port=5432;PWD={a=b} ;", drivers));
     EXPECT_EQ("DSN=OrvanDirDb", connectionStringOfSource("OrvanDirDb", drivers));
-    EXPECT_EQ("DSN={Orvan;Dir}", connectionStringOfSource("Orvan;Dir", drivers));
+    EXPECT_EQ("DSN=OrvanDirDb;UID=o", connectionStringOfSource("DSN=OrvanDirDb;UID=o", drivers));
 }
 
-TEST(ConnectionStringOfASource, MakesNoFile)
+TEST(ConnectionStringOfASource, MakesNoFileAndWaitsForNoneForLong)
 {
-    EXPECT_EQ("Driver=SQLite3;Database=x;NoCreat=1",
-              connectionStringOfSource("Driver=SQLite3;NoCreat=0;Database=x", drivers));
+    const std::string bounded = "Driver=SQLite3;Database=/x;NoCreat=1;Timeout=10000";
+    EXPECT_EQ(bounded, connectionStringOfSource("Driver=SQLite3;NoCreat=0;Database=/x", drivers));
+    EXPECT_EQ(bounded,
+              connectionStringOfSource("Driver=SQLite3;TIMEOUT=2000000000;Database=/x", drivers));
+}
+
+TEST(ConnectionStringOfASource, TakesNoFileOfTheFolderThatTheProgramRunsIn)
+{
+    for (const char* file : {"", "x", "./x", "folder/x", ":memory:", "c:x"})
+        EXPECT_EQ(-2147467259, errorOf([&] {
+            connectionStringOfSource("Driver=SQLite3;Database=" + std::string(file), drivers);
+        })) << file;
+}
+
+TEST(ConnectionStringOfASource, HoldsNothingThatADriverWithoutBracesWouldTakeForAKey)
+{
+    for (const char* source :
+         {"Driver=SQLite3;Database=/x;PWD={x;LoadExt=./e.so;y}",
+          "Driver=SQLite3;Database=/x;PWD={x}};LoadExt=./e.so;y}",
+          "Driver=SQLite3;Database={/x;NoCreat=0}", "DSN=own;PWD={x;LoadExt=./e.so}",
+          "DSN={own;LoadExt=./e.so}", "Driver=PostgreSQL Unicode;PWD={x;pqopt=sslkey=x}",
+          "Driver=PostgreSQL Unicode;PWD=x}y", "own;LoadExt", "{own}"})
+        EXPECT_EQ(-2147467259, errorOf([&] { connectionStringOfSource(source, drivers); }))
+            << source;
+}
+
+TEST(ConnectionStringOfASource, LeavesASourceOfThisMachineAsItIs)
+{
+    for (const char* source : {"DSN=own;Database=/new.db", "DSN=own;NoCreat=0", "DSN=own;Server=x",
+                               "DSN=own;Driver=SQLite3;Database=/x", "DSN=own;Timeout=1"})
+        EXPECT_EQ(-2147467259, errorOf([&] { connectionStringOfSource(source, drivers); }))
+            << source;
 }
 
 TEST(ConnectionStringOfASource, NamesNoFileToLoadOrToWrite)

@@ -1,6 +1,7 @@
 #include "backends/odbc/odbc_database.h"
 
 #include "backends/odbc/session.h"
+#include "backends/odbc/silent_server.h"
 #include "support/error_of.h"
 #include "support/postgres_server.h"
 #include "support/temporary_folder.h"
@@ -86,6 +87,17 @@ TEST(OdbcDatabase, RefusesAFileThatIsNoDatabaseAndMakesNone)
     failureOfOpening(source + folder / "garbage.db");
     failureOfOpening(source + folder / "none.db");
     EXPECT_FALSE(folder.exists("none.db"));
+}
+
+TEST(OdbcDatabase, GivesUpOnAServerThatLetsItInAndThenSaysNothing)
+{
+    const SilentServer silent;
+    OdbcDatabase database(
+        "Driver=PostgreSQL Unicode;Servername=127.0.0.1;Port=" + std::to_string(silent.port()) +
+            ";Database=a;UID=a;PWD=b;SSLmode=disable",
+        OdbcPatience{.login = 1s, .statement = 1s});
+    EXPECT_THAT(errorTextOf([&] { database.open("", "", ""); }), HasSubstr("says nothing"));
+    EXPECT_EQ(0, database.state());
 }
 
 TEST_F(OnPostgres, SaysWhyALoginIsRefused)
