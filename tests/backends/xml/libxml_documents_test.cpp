@@ -72,6 +72,31 @@ TEST_F(LibxmlDocumentsTest, RefusesClosedNestingThatWouldOverflowTheStack)
     EXPECT_EQ(nullptr, document->documentElement());
 }
 
+std::string tagWith(int attributes)
+{
+    std::string tag = "<G";
+    for (int number = 0; number < attributes; ++number)
+        tag += " a" + std::to_string(number) + "='>'";
+    return tag + "/>";
+}
+
+TEST_F(LibxmlDocumentsTest, RefusesATagWithMoreAttributesThanCanBeCompared)
+{
+    ASSERT_TRUE(load(tagWith(1000)));
+    EXPECT_EQ(">", document->documentElement()->attribute("a999"));
+    EXPECT_FALSE(load(tagWith(1001)));
+    EXPECT_FALSE(load("<H>'<K/>" + tagWith(500'000) + "</H>"));
+    EXPECT_EQ(nullptr, document->documentElement());
+}
+
+TEST_F(LibxmlDocumentsTest, CountsQuotesOfATagAlone)
+{
+    const std::string quotes(5000, '\'');
+    for (const auto& text : {"<!--<a " + quotes + "--><G/>", "<G><![CDATA[<a " + quotes + "]]></G>",
+                             "<G>" + quotes + "</G>", "<G a=\"" + quotes + "\"/>"})
+        EXPECT_TRUE(load(text)) << text.substr(0, 20);
+}
+
 TEST_F(LibxmlDocumentsTest, RefusesWhatIsNotWellFormed)
 {
     const struct {
