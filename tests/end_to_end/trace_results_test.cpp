@@ -236,6 +236,24 @@ TEST_F(TraceResults, LevelsAreNotTurnedOffForWantOfTheirTexts)
     EXPECT_EQ(0, run({"micro", "set", "--on", "AddressBook:1"}).status);
 }
 
+TEST_F(TraceResults, LevelsThatGoOffUnseenAreNamed)
+{
+    const fs::path catalogue =
+        drive("KelmaOrvan/GuiResources/Resources/ENU/DiagnosticGrids_ENU.xml");
+    std::string text = read(catalogue);
+    const auto element = text.find("<DiagnosticGrid name=\"CallFlow\"");
+    ASSERT_NE(std::string::npos, element);
+    const std::string end = "</DiagnosticGrid>";
+    write(catalogue, text.erase(element, text.find(end, element) + end.size() - element));
+    sql("UPDATE tbl_LoggerDiagnosticGrid SET Flags=(1<<23)+(1<<5)+7, DefaultFlags=5 "
+        "WHERE Name='CallFlow'");
+
+    const Outcome set = run({"micro", "set", "--on", "AddressBook:1"});
+    EXPECT_EQ(0, set.status);
+    EXPECT_EQ("orvandiag: of CallFlow what was on and is not listed is off now: 5, 23\n", set.err);
+    EXPECT_EQ("", run({"micro", "set", "--on", "AddressBook:2"}).err);
+}
+
 TEST_F(TraceResults, AListThatTheDatabaseCutsSaysWhyInOneLine)
 {
     sql("DROP VIEW vw_LoggerDiagnosticGrid; CREATE VIEW vw_LoggerDiagnosticGrid (Name, ObjectId, "

@@ -148,6 +148,30 @@ TreeNode& levelNode(const TreeView& tree, const LevelName& wanted)
     throw noSuchLevel(wanted);
 }
 
+/// A sentence for each component that has levels on which the wizard does not show, and so turns
+/// off: those of no text, or of none but a placeholder. What is on by default stays on.
+std::vector<std::string> hiddenLevels(const TreeView& tree, const std::vector<FlagWords>& present)
+{
+    std::vector<std::string> sentences;
+    for (const FlagWords& words : present) {
+        auto hidden = static_cast<std::uint32_t>(words.flags) &
+                      ~static_cast<std::uint32_t>(words.defaultFlags);
+        const std::string name(trim(words.name));
+        if (const TreeNode* component = componentNode(tree, name))
+            for (const TreeNode* level = component->child(); level; level = level->next())
+                if (const int number = levelOf(*level); number >= 0 && number < 32)
+                    hidden &= ~(std::uint32_t{1} << number);
+        std::string numbers;
+        for (int number = 0; number < 32; ++number)
+            if ((hidden >> number) & 1)
+                numbers += (numbers.empty() ? "" : ", ") + numberText(std::int64_t{number});
+        if (!numbers.empty())
+            sentences.push_back("of " + name +
+                                " what was on and is not listed is off now: " + numbers);
+    }
+    return sentences;
+}
+
 class MicroCommand final : public Command {
 public:
     std::string name() const override { return "micro"; }
@@ -261,6 +285,7 @@ private:
         std::string summary;
         TraceCheck check(tool);
         std::vector<LevelName> staying;
+        std::vector<std::string> hidden;
         if (!choice.off.empty()) staying = defaultLevels(tool.context().g_connection, choice.off);
         {
             const auto opened = wizardOfLevels(tool);
@@ -269,6 +294,7 @@ private:
             if (!tree.visible())
                 throw CommandFailure("no level can be changed: " + whereTheListEnds(tree));
             choice.make(wizard, tree, levelNode);
+            hidden = hiddenLevels(tree, check.present());
             check.expect(expectedOfMicroTraces(tool.context(), tree, check.present()));
             for (const auto& [component, level] : choice.off)
                 check.expectLevel(component, level, false);
@@ -286,6 +312,7 @@ private:
             output.line(summary);
         for (const LevelName& level : staying)
             output.message(textOf(level) + " stays on: it is on by default");
+        for (const std::string& sentence : hidden) output.message(sentence);
     }
 
     Arguments set_;
