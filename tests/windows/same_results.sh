@@ -3,13 +3,14 @@
 # the one for this machine, and fails on any difference: same_results.sh WINDOWS_ORVANDIAG ORVANDIAG
 #
 # What a moment or the name of the kind of machine is in is made equal first. Gives 77 where there
-# is no Wine, or no program to compare with.
+# is no Wine, no program to compare with, or no cabextract.
 set -u
 windows=$1
 here=$2
 runner=$(cd "$(dirname "$0")/../.." && pwd)/scripts/run_under_wine.sh
 command -v wine64 >/dev/null || command -v wine >/dev/null || [ -x /usr/lib/wine/wine64 ] || exit 77
 [ -x "$here" ] || exit 77
+command -v cabextract >/dev/null || exit 77
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -28,7 +29,7 @@ compare() {
 
 # What a program said, the folder of its own work and the marks of a drive taken out.
 equalized() {
-  sed -e "s,/\{0,1\}Z:/,/,g" -e "s,$work/\(windows\|here\),WORK,g" "$1"
+  sed -e 's|/*Z:/|/|g' -e "s|$work/windows|WORK|g" -e "s|$work/here|WORK|g" "$1"
 }
 
 # Runs a command with both programs, each in a folder of its own, and compares status and output.
@@ -41,12 +42,20 @@ both() {
   done
 }
 
-# Sorted names of a folder's files, with a sum of the bytes of each and when it was changed.
+# Takes the moments of this run out of a text; those of the sample server are older.
+without_moments() {
+  LC_ALL=C sed -e 's/20\(2[6-9]\|[3-9][0-9]\)-[0-9-]* [0-9:.]*/MOMENT/g' \
+    -e 's/^\("Diagnostic Grid Time Set"=hex:\)[0-9a-f,]*/\1MOMENT/' \
+    -e 's|^\("Date"="\)[0-9/]* [0-9:]* [AP]M|\1MOMENT|'
+}
+
+# Sorted names of a folder's files with a sum of the bytes of each, but for those of databases and
+# cabinets, of the tool's own logs, whose every line and name has a moment, and of locks.
 listing() {
-  (cd "$1" && find . -type f ! -name '*.mdb' ! -name '*.cab' ! -path "${2:-./none}" |
-    LC_ALL=C sort | while read -r name; do
-      echo "$(md5sum <"$name") $name"
-    done)
+  (cd "$1" && find . -type f ! -name '*.mdb' ! -name '*.cab' ! -name '*.lock' ! -name '*.sqlite' \
+    ! -path '*/OrvanDiagnostics/LOGS/*' | LC_ALL=C sort | while read -r name; do
+    echo "$(without_moments <"$name" | md5sum) $name"
+  done)
 }
 
 # The rows and the definitions of a site's database.
@@ -60,8 +69,8 @@ END
 
 compare_sites() {
   for side in windows here; do
-    listing "$work/$side/site" './OrvanDirDb.sqlite' >"$work/$side.files"
-    rows "$work/$side/site/OrvanDirDb.sqlite" >"$work/$side.rows"
+    listing "$work/$side/site" >"$work/$side.files"
+    rows "$work/$side/site/OrvanDirDb.sqlite" | without_moments >"$work/$side.rows"
   done
   compare "files of the site $1" diff "$work/here.files" "$work/windows.files"
   compare "rows of the database $1" diff "$work/here.rows" "$work/windows.rows"
@@ -112,7 +121,14 @@ done
 compare "status of the frame" cmp "$work/here.status" "$work/windows.status"
 compare "files of the frame" diff "$work/here.frame" "$work/windows.frame"
 compare "trace databases" cmp "$work/here/frame/result.mdb" "$work/windows/frame/result.mdb"
-compare "cabinets" test "$(wc -c <"$work/here/frame/result.cab")" = "$(wc -c <"$work/windows/frame/result.cab")"
+for side in windows here; do
+  mkdir "$work/$side/packed"
+  cabextract -q -d "$work/$side/packed" "$work/$side/frame/result.cab"
+  mv "$work/$side/packed/"*.mdb "$work/$side/packed.mdb"
+  listing "$work/$side/packed" >"$work/$side.packed"
+done
+compare "what is in the cabinets" diff "$work/here.packed" "$work/windows.packed"
+compare "databases in the cabinets" cmp "$work/here/packed.mdb" "$work/windows/packed.mdb"
 
 [ "$differences" = 0 ] || { echo "$differences differences" >&2; exit 1; }
 echo "no difference"
