@@ -3,14 +3,14 @@
 #include "drives/site_paths.h"
 #include "runtime/run_time_error.h"
 #include "support/temporary_folder.h"
+#include "system/file_bytes.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <fcntl.h>
+#include <filesystem>
 #include <string>
 #include <string_view>
-#include <unistd.h>
 
 namespace {
 
@@ -47,7 +47,7 @@ bool isWithin(const std::string& path, const std::string& folder)
     return path == folder || path.starts_with(folder + "/");
 }
 
-/// Whatever a path leads to is in a drive of the site.
+/// Whatever a path leads to is in a drive of the site. Raises for one that leads to no file.
 void checkPlace(const SitePaths& paths, std::string_view path)
 {
     const std::string machine = paths.machinePath(path);
@@ -56,16 +56,15 @@ void checkPlace(const SitePaths& paths, std::string_view path)
     require(paths.isOfSite(path));
 
     const SitePlace place = paths.place(path);
-    const FileDescriptor file = place.root.open(place.path, O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (!file.isOpen()) return;
+    if (place.root.isFolder(place.path)) place.root.names(place.path);
+    const FileDescriptor file =
+        place.root.openFile(place.path, forReading, runTimeErrors::fileNotFound);
     const std::string itself = "/proc/self/fd/" + std::to_string(file.get());
     const std::string opened = std::filesystem::read_symlink(itself).string();
     require(isWithin(opened, paths.siteFolder() + "/drive_c") ||
             isWithin(opened, paths.siteFolder() + "/drive_d"));
     std::string bytes(16, '\0');
-    const auto count = read(file.get(), bytes.data(), bytes.size());
-    if (count > 0) require(bytes.starts_with("inside"));
-    if (place.root.isFolder(place.path)) place.root.names(place.path);
+    if (readSome(file, bytes.data(), bytes.size()) > 0) require(bytes.starts_with("inside"));
 }
 
 } // namespace
