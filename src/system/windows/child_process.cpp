@@ -1,5 +1,6 @@
 #include "system/child_process.h"
 
+#include "system/machine_path.h"
 #include "system/system_error.h"
 #include "system/windows/nt_files.h"
 #include "system/windows/passed_on.h"
@@ -221,10 +222,8 @@ std::int32_t startChildProcess(const ChildProcessPlan& plan)
     std::wstring line = commandLineOf(plan);
     std::wstring variables = environmentWith(plan.variables);
     // The system begins a program in no folder whose path is written the long way.
-    std::wstring folder = wideOf(plan.folder);
-    std::replace(folder.begin(), folder.end(), L'/', L'\\');
-    std::wstring program = wideOf(plan.program);
-    std::replace(program.begin(), program.end(), L'/', L'\\');
+    const std::wstring folder = filePathOf(plan.folder).make_preferred().wstring();
+    const std::wstring program = filePathOf(plan.program).make_preferred().wstring();
     constexpr DWORD flags = CREATE_NO_WINDOW | CREATE_NEW_PROCESS_GROUP |
                             CREATE_UNICODE_ENVIRONMENT | EXTENDED_STARTUPINFO_PRESENT;
     PROCESS_INFORMATION made{};
