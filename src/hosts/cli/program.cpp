@@ -52,6 +52,7 @@ std::unique_ptr<CLI::App> describeCommandLine(GlobalOptions& options,
                                               const std::vector<std::unique_ptr<Command>>& commands)
 {
     auto app = std::make_unique<CLI::App>(introduction, "orvandiag");
+    app->allow_windows_style_options(false); // a path of the machine begins with a slash there, too
     app->formatter(std::make_shared<HelpText>());
     app->footer(closing());
     options.site = places::defaultSite();
