@@ -3,7 +3,6 @@
 #include <filesystem>
 #include <new>
 #include <string>
-#include <string_view>
 #include <thread>
 #include <vector>
 
@@ -100,7 +99,7 @@ int main(int count, char** given)
 {
     writeUtf8ToTerminals();
     const std::vector<std::string> arguments = programArguments(count, given);
-    const std::string_view option = arguments.size() > 1 ? arguments[1] : "";
+    const std::string option = arguments.size() > 1 ? arguments[1] : "";
     if (arguments.size() == 3 && (option == "/f" || option == "/F" || option == "-f"))
         return run(arguments[2]);
     if (arguments.size() == 2 && (option == "--help" || option == "/?")) {
