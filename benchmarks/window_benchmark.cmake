@@ -1,4 +1,4 @@
-# What window_benchmark.sh measures: the console's window, an empty one, and how long each takes.
+# What window_benchmark.sh measures: the console's window, and an empty one.
 if(NOT TARGET orvan_desktop)
   return()
 endif()
@@ -7,5 +7,3 @@ add_executable(console_window console_window.cpp page_through.cpp)
 target_link_libraries(console_window PRIVATE orvan_desktop)
 add_executable(empty_window empty_window.cpp)
 target_link_libraries(empty_window PRIVATE orvan_options Qt6::Widgets)
-add_executable(measured_run measured_run.cpp)
-target_link_libraries(measured_run PRIVATE orvan_options)

@@ -4,6 +4,7 @@
 #
 #   scripts/fresh_machine.sh [run]      ./run; the results are then read with other people's readers
 #   scripts/fresh_machine.sh test       ./test
+#   scripts/fresh_machine.sh windows    ./test --windows
 #   scripts/fresh_machine.sh package    installs the packages of scripts/package.sh with apt and
 #                                       works with them
 #

@@ -47,18 +47,33 @@ changed_sources() {
   } | sort -u | existing
 }
 
+# commands_for_lint FOLDER [OPTION...] : makes a build folder that tells how the dev preset compiles.
+commands_for_lint() {
+  local folder=$1
+  shift
+  command -v clang-tidy >/dev/null || { say "there is no clang-tidy here"; return 1; }
+  cmake --preset dev -B "$folder" -DORVAN_TOGETHER=OFF "$@" >/dev/null
+}
+
+# compiled_here SOURCE... : those that are not for another system.
+compiled_here() {
+  local source
+  for source; do
+    ! grep -qF "\"$PWD/$source\"" build/lint/compile_commands.json || printf '%s\n' "$source"
+  done
+}
+
 # lint SOURCE...: what .clang-tidy asks for, with the options that the dev preset compiles with.
 lint() {
-  say "clang-tidy, sources: $#"
-  command -v clang-tidy >/dev/null || { say "there is no clang-tidy here"; return 1; }
-  local commands=build/dev
-  # Sources that are compiled together have no commands of their own there.
-  if grep -qsx 'ORVAN_TOGETHER:BOOL=ON' build/dev/CMakeCache.txt; then
-    commands=build/lint
-    cmake --preset dev -B "$commands" -DORVAN_TOGETHER=OFF >/dev/null || return 1
-  fi
+  local sources
+  # Sources that are compiled together have no commands of their own in build/dev.
+  commands_for_lint build/lint || return 1
+  mapfile -t sources < <(compiled_here "$@")
+  say "clang-tidy, sources: ${#sources[@]}"
+  [ ${#sources[@]} -gt 0 ] || return 0
   # What it says on standard error counts what it passed over in the headers of others.
-  printf '%s\0' "$@" | xargs -0 -P "$(nproc)" -n 1 clang-tidy -p "$commands" --quiet 2>/dev/null
+  printf '%s\0' "${sources[@]}" |
+    xargs -0 -P "$(nproc)" -n 1 clang-tidy -p build/lint --quiet 2>/dev/null
 }
 
 # A run of everything takes minutes, so a change of many sources is looked at in part.
@@ -72,8 +87,24 @@ lint_changed() {
   [ ${#sources[@]} -eq 0 ] || lint "${sources[@]}"
 }
 
+# lint_group SOURCE : what clang-tidy finds in sources that are compiled as one. Where it finds
+# anything, as when two of them have a name of their own in common, its word on each of them counts.
+lint_group() {
+  clang-tidy -p build/lint-together --checks=-bugprone-suspicious-include --quiet "$1" \
+    >/dev/null 2>&1 ||
+    sed -n 's/^#include "\(.*\)"$/\1/p' "$1" |
+      xargs -d '\n' -n 1 clang-tidy -p build/lint --quiet 2>/dev/null
+}
+
+# Nearly all that takes time is in headers, so eight sources are looked at together. Sources for
+# another system are in none of them.
 lint_all() {
-  local sources
-  mapfile -t sources < <(own_files 'src/*.cpp')
-  lint "${sources[@]}"
+  local groups
+  commands_for_lint build/lint &&
+    commands_for_lint build/lint-together -DCMAKE_UNITY_BUILD=ON || return 1
+  mapfile -t groups < <(find build/lint-together/src -name 'unity_*.cxx' | sort)
+  say "clang-tidy, groups of sources: ${#groups[@]}"
+  [ ${#groups[@]} -gt 0 ] || return 1
+  export -f lint_group
+  printf '%s\0' "${groups[@]}" | xargs -0 -P "$(nproc)" -n 1 bash -c 'lint_group "$0"'
 }

@@ -4,8 +4,8 @@
 # count of the lines that they run a reporter, the benchmarks some peers, and packing some tools of
 # Debian's.
 build_packages=(
-  ccache cmake g++ libcli11-dev libxml2-dev libsqlite3-dev ninja-build nlohmann-json3-dev
-  unixodbc-dev zlib1g-dev
+  ccache cmake g++ libcli11-dev libmspack-dev libre2-dev libsqlite3-dev libxml2-dev ninja-build
+  nlohmann-json3-dev unixodbc-dev zlib1g-dev
 )
 desktop_packages=(qt6-base-dev qt6-l10n-tools qt6-svg-dev qt6-translations-l10n)
 test_packages=(
@@ -15,7 +15,7 @@ test_packages=(
 )
 coverage_packages=(gcovr)
 package_packages=(dpkg-dev file lintian)
-benchmark_packages=(cabextract gcab libbenchmark-dev mawk mdbtools sqlite3 time)
+benchmark_packages=(cabextract gcab libbenchmark-dev lnav mawk mdbtools ripgrep sqlite3 time)
 
 say() { printf '%s\n' "$*" >&2; }
 

@@ -1,11 +1,13 @@
 # What building for Windows takes. To be sourced in the project's folder, behind setup.sh.
 
 windows_packages=(
-  dpkg-dev g++-mingw-w64-x86-64-posix googletest libz-mingw-w64-dev tclsh wine64
+  dpkg-dev fp-utils g++-mingw-w64-x86-64-posix googletest icoutils imagemagick libchm-bin
+  librsvg2-bin libsqliteodbc libz-mingw-w64-dev make msitools odbc-postgresql perl postgresql python3
+  python3-six tcl unicode-data wine64 wixl
 )
 
 # The libraries that mingw-w64 has no package for, from Debian's own sources of them.
-windows_sources=(libxml2 sqlite3)
+windows_sources=(libmspack libxml2 re2 sqlite3)
 windows_libraries=build/windows-libraries
 
 # fetch_sources FOLDER PACKAGE... : unpacks the sources of packages, from where the machine has its
@@ -55,6 +57,26 @@ cross_build_sqlite() {
   ) >"$source.log" 2>&1 || { tail -n 30 "$source.log" >&2; return 1; }
 }
 
+# Compiles what reads cabinets of the library for them, with offsets of 64 bits as our own code has.
+cross_build_mspack() {
+  local source=$1 target=$PWD/$windows_libraries name
+  (
+    cd "$source/mspack" && for name in cabd lzxd mszipd qtmd system; do
+      x86_64-w64-mingw32-gcc-posix -O2 -D_FILE_OFFSET_BITS=64 -DHAVE_INTTYPES_H -I. -c "$name.c" || exit 1
+    done && rm -f "$target/lib/libmspack.a" &&
+      x86_64-w64-mingw32-ar rcs "$target/lib/libmspack.a" cabd.o lzxd.o mszipd.o qtmd.o system.o &&
+      cp mspack.h "$target/include/"
+  ) >"$source.log" 2>&1 || { tail -n 30 "$source.log" >&2; return 1; }
+}
+
+# The distribution's sources of it lack the tables of characters, which are made of its own Unicode.
+cross_build_re2() {
+  local tables=(re2/perl_groups.cc re2/unicode_casefold.cc re2/unicode_groups.cc)
+  make -C "$1" REBUILD_TABLES=1 "${tables[@]}" >"$2.tables.log" 2>&1 ||
+    { tail -n 5 "$2.tables.log" >&2; return 1; }
+  cross_build "$1" "$2" -DRE2_BUILD_TESTING=OFF
+}
+
 # Libraries of headers alone serve as they are.
 copy_header_libraries() {
   mkdir -p "$windows_libraries/include" "$windows_libraries/share/cmake"
@@ -65,8 +87,10 @@ copy_header_libraries() {
 # What the libraries are made of, and how: other ones are made when this changes.
 windows_libraries_stamp() {
   dpkg-query -W -f '${Package} ${Version}\n' g++-mingw-w64-x86-64-posix googletest libcli11-dev \
-    libsqlite3-0 libxml2 nlohmann-json3-dev
-  sha256sum scripts/windows.sh cmake/windows.cmake
+    libmspack-dev libre2-dev libsqlite3-0 libxml2 nlohmann-json3-dev
+  declare -f fetch_sources cross_build cross_build_sqlite cross_build_mspack \
+    cross_build_re2 copy_header_libraries build_windows_libraries
+  sha256sum cmake/windows.cmake
 }
 
 # Builds the libraries, unless they are there already.
@@ -83,6 +107,40 @@ build_windows_libraries() {
     -DLIBXML2_WITH_LZMA=OFF -DLIBXML2_WITH_ZLIB=OFF -DLIBXML2_WITH_PYTHON=OFF \
     -DLIBXML2_WITH_PROGRAMS=OFF -DLIBXML2_WITH_TESTS=OFF -DLIBXML2_WITH_FTP=OFF \
     -DLIBXML2_WITH_HTTP=OFF
+  cross_build_mspack "$(echo "$work"/libmspack-*/)"
+  cross_build_re2 "$(echo "$work"/re2-*/)" "$work/re2"
   cross_build /usr/src/googletest "$work/googletest"
   windows_libraries_stamp >"$stamp"
+}
+
+# The test programs of what is the same on every machine, and of Windows' own: those that run under
+# Wine. Those of the snap-in are found by their names.
+windows_tests=(
+  backends_common cabmaker console controls core gather host_database jet logreader odbc odbc_server
+  runtime server settings shell system text timeline tracelines traces windows_backend wizards xml
+)
+
+# test_windows : builds for Windows, and runs the tests of it under Wine, in a folder of its own for
+# the machine that Wine makes.
+test_windows() {
+  install_missing "${windows_packages[@]}"
+  build_windows_libraries
+  local together targets=(orvandiag orvan_data windows_installer windows_later_installer) names
+  together=$(choose_together windows)
+  configure_preset windows ${together:+"$together"}
+  targets+=("${windows_tests[@]/%/_test}")
+  mapfile -t -O "${#targets[@]}" targets < <(cmake --build --preset windows --target help |
+    sed -n 's/^\(mmc[a-z_]*_test\): phony.*/\1/p')
+  build_preset windows "${targets[@]}"
+  names=$(IFS='|'; printf '%s' "${windows_tests[*]}")
+  say "testing under Wine"
+  (
+    export WINEPREFIX=$PWD/build/windows/prefix
+    mkdir -p "$WINEPREFIX"
+    scripts/run_under_wine.sh cmd.exe /c exit || exit 1
+    status=0
+    ctest --preset windows -R "^($names|windows_.*|mmc.*)\$" || status=$?
+    "$(command -v wineserver || echo /usr/lib/wine/wineserver)" -k || true
+    exit $status
+  )
 }

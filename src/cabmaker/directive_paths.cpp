@@ -55,6 +55,7 @@ std::string onDrive(const std::string& path, const std::string& siteFolder)
 
 DirectivePaths::DirectivePaths(const std::string& drives, const std::string& workingFolder)
     : whyNoDrives_(whyNoDrives(drives, workingFolder)),
+      ownFolder_(drives.empty() && machineHasDrives() ? workingFolder : ""),
       paths_(whyNoDrives_.empty() ? folderOfDrives(drives, workingFolder) : "/")
 {
     paths_.permit("/");
@@ -72,6 +73,9 @@ DirectivePaths::DirectivePaths(const std::string& drives, const std::string& wor
 
 std::string DirectivePaths::machinePath(std::string_view path) const
 {
+    if (!ownFolder_.empty())
+        return machineTextOf(
+            fs::absolute(filePathOf(ownFolder_) / filePathOf(path)).lexically_normal());
     if (beginsWithDrive(path)) {
         if (!whyNoDrives_.empty()) refuse(path, whyNoDrives_);
         if (!paths_.root().isFolder("drive_" + lowerCase(path.substr(0, 1))))

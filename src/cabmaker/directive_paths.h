@@ -12,7 +12,8 @@ namespace cabmaker {
 ///
 /// Who writes a directive file may name any file of the machine by a path that begins with `/`. But
 /// where there are drives, the work is done for a site: then no link leads out of a drive, nor out
-/// of the working folder.
+/// of the working folder. A machine that has drives of its own, and is given none, is the server
+/// itself: there a path means what it means to every program.
 class DirectivePaths {
 public:
     /// `drives` holds `drive_c` and its like, empty when there are none. Relative paths start at
@@ -28,6 +29,7 @@ public:
 
 private:
     std::string whyNoDrives_; ///< empty where there can be some
+    std::string ownFolder_;   ///< the working folder where paths are the machine's own, else empty
     SitePaths paths_;
 };
 

@@ -52,8 +52,9 @@ constexpr const char* help =
     "number; without one the second cabinet of NAME.cab is NAME_2.cab.\n"
     "\n"
     "A path on a drive, such as C:\\x, is drive_c/x in the folder that the\n"
-    "environment variable ORVAN_SITE_DRIVES names; a path that begins with / is\n"
-    "the machine's own.\n"
+    "environment variable ORVAN_SITE_DRIVES names, and on a machine with drives of its\n"
+    "own, where that names none, what it says; a path that begins with / is the\n"
+    "machine's own.\n"
     "\n"
     "Exit status: 0 done, 1 the cabinet could not be made, 2 wrong usage.\n";
 

@@ -53,19 +53,38 @@ bool OpenSheet::cancel()
 {
     const Work work{*this};
     if (closed_) return true;
+    if (!isCancelAllowed()) return false;
+    tellCancelled();
+    return true;
+}
+
+void OpenSheet::abandon()
+{
+    const Work work{*this};
+    if (closed_) return;
+    FirstFailure failure;
+    failure.attempt([&] { isCancelAllowed(); });
+    failure.attempt([&] { tellCancelled(); });
+    failure.raise();
+}
+
+bool OpenSheet::isCancelAllowed()
+{
     bool allow = true;
     if (current_ > 0)
         if (IMMCPropertyPage* asked = currentPage().propertyPage())
             asked->IMMCPropertyPage_QueryCancel(allow);
-    if (!allow) return false;
+    return allow;
+}
 
+void OpenSheet::tellCancelled()
+{
     FirstFailure failure;
     for (Slot& told : pages_)
         if (told.initialised)
             failure.attempt([&] { told.page->propertyPage()->IMMCPropertyPage_Cancel(); });
     failure.attempt([&] { close(); });
     failure.raise();
-    return true;
 }
 
 void OpenSheet::help()

@@ -76,6 +76,10 @@ public:
     /// Asks the current page, and unless it refuses tells all pages and closes. False when refused.
     bool cancel();
 
+    /// Cancels without the person, as the host's windows go: the current page is asked, but can't
+    /// refuse. What it raises then comes out when the sheet is closed.
+    void abandon();
+
     void help();
 
     bool closed() const { return closed_; }
@@ -121,6 +125,8 @@ private:
     };
 
     const Slot& slot(int position) const;
+    bool isCancelAllowed();
+    void tellCancelled();
     void initialise(Slot& slot);
 
     std::string title_;

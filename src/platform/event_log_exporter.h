@@ -1,6 +1,10 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+
+/// The names that an exported event log begins with, in its first line.
+constexpr std::string_view eventLogCsvHeader = "Time,Type,Source,Event ID,Computer,Message\r\n";
 
 /// Writes whole event logs to files.
 class EventLogExporter {

@@ -48,6 +48,9 @@ public:
     /// which leaves the document empty.
     virtual bool load(const std::string& path) = 0;
 
+    /// The same by a text in UTF-8, whatever encoding it declares.
+    virtual bool loadText(const std::string& text) = 0;
+
     /// Gives an empty document its document element. Raises -2147467259 when it has one.
     virtual XmlElementPtr appendDocumentElement(const std::string& name) = 0;
 

@@ -31,7 +31,11 @@ void writeDirectoryDatabase(const std::filesystem::path& site, const std::filesy
     const int result = sqlite3_open(machineTextOf(path).c_str(), &opened);
     std::unique_ptr<sqlite3, CloseDatabase> database(opened);
     if (result != SQLITE_OK)
-        throw RunTimeError(runTimeErrors::deviceIo, "cannot make the file " + machineTextOf(path));
+        throw RunTimeError(runTimeErrors::deviceIo,
+                           "cannot make the file " + shownPathOf(machineTextOf(path)));
+    // Whether the library leaves what was there before in unused room depends on how it was built,
+    // and the sample is the same everywhere, byte for byte.
+    execute(opened, "PRAGMA secure_delete=ON");
     execute(opened, readFile(data / "server" / "schema.sql"));
     execute(opened, readFile(data / "sample" / "sample.sql"));
     database.reset();

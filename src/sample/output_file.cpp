@@ -15,7 +15,8 @@ OutputFile::OutputFile(fs::path path) : path_(std::move(path)), buffer_(std::siz
     stream_.rdbuf()->pubsetbuf(buffer_.data(), static_cast<std::streamsize>(buffer_.size()));
     stream_.open(path_, std::ios::binary);
     if (!stream_)
-        throw RunTimeError(runTimeErrors::deviceIo, "cannot make the file " + machineTextOf(path_));
+        throw RunTimeError(runTimeErrors::deviceIo,
+                           "cannot make the file " + shownPathOf(machineTextOf(path_)));
 }
 
 void OutputFile::write(std::string_view bytes)
@@ -28,7 +29,7 @@ void OutputFile::close(Moment modified)
     stream_.close();
     if (!stream_)
         throw RunTimeError(runTimeErrors::diskFull,
-                           "cannot write the file " + machineTextOf(path_));
+                           "cannot write the file " + shownPathOf(machineTextOf(path_)));
     setModified(path_, modified);
 }
 
@@ -47,14 +48,15 @@ std::string readFile(const fs::path& path)
     std::error_code none;
     if (!stream || fs::is_directory(path, none))
         throw RunTimeError(runTimeErrors::fileNotFound,
-                           "the installed data lack the file " + machineTextOf(path));
+                           "the installed data lack the file " + shownPathOf(machineTextOf(path)));
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 void setModified(const fs::path& path, Moment modified)
 {
     if (!setTimes(machineTextOf(path), {.seconds = unixSeconds(modified)}))
-        throw RunTimeError(runTimeErrors::deviceIo, "cannot date " + machineTextOf(path));
+        throw RunTimeError(runTimeErrors::deviceIo,
+                           "cannot date " + shownPathOf(machineTextOf(path)));
 }
 
 } // namespace sample

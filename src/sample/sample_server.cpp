@@ -28,11 +28,13 @@ void refuseUnlessFree(const fs::path& target)
     std::error_code failure;
     if (!fs::is_directory(target.parent_path(), failure))
         throw RunTimeError(runTimeErrors::pathNotFound,
-                           "the folder " + machineTextOf(target.parent_path()) + " does not exist");
+                           "the folder " + shownPathOf(machineTextOf(target.parent_path())) +
+                               " does not exist");
     if (!fs::exists(fs::symlink_status(target, failure))) return;
     if (!fs::is_directory(target, failure) || !fs::is_empty(target, failure) || failure)
         throw RunTimeError(runTimeErrors::fileAlreadyExists,
-                           machineTextOf(target) + " is already there; choose another folder");
+                           shownPathOf(machineTextOf(target)) +
+                               " is already there; choose another folder");
 }
 
 /// The folder that the sample is made in. Unless it was kept, it goes again.
@@ -42,10 +44,10 @@ public:
     {
         std::error_code failure;
         if (!fs::create_directory(path_, failure))
-            throw RunTimeError(failure ? runTimeErrors::pathFileAccess
-                                       : runTimeErrors::fileAlreadyExists,
-                               failure ? "cannot make the folder " + machineTextOf(path_)
-                                       : machineTextOf(path_) + " is in the way; remove it first");
+            throw RunTimeError(
+                failure ? runTimeErrors::pathFileAccess : runTimeErrors::fileAlreadyExists,
+                failure ? "cannot make the folder " + shownPathOf(machineTextOf(path_))
+                        : shownPathOf(machineTextOf(path_)) + " is in the way; remove it first");
     }
     ~PartialFolder()
     {
@@ -63,7 +65,8 @@ public:
         fs::rename(path_, target, failure);
         if (failure)
             throw RunTimeError(runTimeErrors::pathFileAccess,
-                               "cannot move the finished sample to " + machineTextOf(target));
+                               "cannot move the finished sample to " +
+                                   shownPathOf(machineTextOf(target)));
         path_.clear();
     }
 

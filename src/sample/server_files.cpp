@@ -53,8 +53,8 @@ std::vector<fs::path> filesIn(const fs::path& folder)
     std::vector<fs::path> files;
     for (const auto& entry : fs::directory_iterator(folder, failure)) files.push_back(entry.path());
     if (failure)
-        throw RunTimeError(runTimeErrors::fileNotFound,
-                           "the installed data lack the folder " + machineTextOf(folder));
+        throw RunTimeError(runTimeErrors::fileNotFound, "the installed data lack the folder " +
+                                                            shownPathOf(machineTextOf(folder)));
     std::sort(files.begin(), files.end());
     return files;
 }

@@ -57,6 +57,11 @@ std::string valueParameter(std::int32_t typeCode)
 
 } // namespace
 
+std::string mdlOrvanDatabase::connectionStringOf(const std::string& serverName)
+{
+    return connectionStart + serverName + connectionEnd;
+}
+
 bool mdlOrvanDatabase::openOrvanDB(ToolContext& tool, DatabaseConnection& connection,
                                    const std::string& serverName)
 {
@@ -74,7 +79,7 @@ bool mdlOrvanDatabase::openOrvanDB(ToolContext& tool, DatabaseConnection& connec
         step.enterProc();
         const bool closed = step.value(false, [&] { return connection.state() == 0; });
         if (closed) {
-            step([&] { connectionString = connectionStart + serverName + connectionEnd; });
+            step([&] { connectionString = connectionStringOf(serverName); });
             step([&] { connection.open(connectionString, "", ""); });
             opened = step.value(false, [&] { return connection.errorCount() < 1; });
         }

@@ -15,6 +15,9 @@ namespace mdlOrvanDatabase {
 /// errors; an open connection stays as it is and gives false.
 bool openOrvanDB(ToolContext& tool, DatabaseConnection& connection, const std::string& serverName);
 
+/// What `openOrvanDB` opens a connection with.
+std::string connectionStringOf(const std::string& serverName);
+
 /// A configuration value in the form that its type code asks for: a 32-bit number (3), a boolean
 /// (11), the empty text (1), as stored (4, 7, 8, 88). Null when no row has the name, when its type
 /// code is another, or when it can't be read. A closed connection is opened again on the way.

@@ -3,6 +3,11 @@
 #include "core/error_trap.h"
 #include "core/registry_store.h"
 
+bool mdlOrvan::logsExtendedFields(const ServerVersion& server)
+{
+    return server.major >= 2 && server.minor >= 1 && server.release >= 0 && server.build >= 0;
+}
+
 ServerVersion mdlOrvan::getVersion(ToolContext& tool)
 {
     ErrorTrap step{tool, "mdlOrvan", "getVersion", countedTrap};

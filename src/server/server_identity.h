@@ -17,6 +17,10 @@ struct ServerVersion {
 
 namespace mdlOrvan {
 
+/// Whether a server's log lines carry thread, port and call id. Each part is compared by itself, so
+/// that a server 3.0 is taken for one without them.
+bool logsExtendedFields(const ServerVersion& server);
+
 /// Reads the installed release. A number past 16 bits is logged and stays 0. Raises nothing.
 ServerVersion getVersion(ToolContext& tool);
 

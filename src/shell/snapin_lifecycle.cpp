@@ -11,16 +11,6 @@
 #include "shell/snapin_identity.h"
 #include "shell/snapin_orvan_diagnostics.h"
 
-namespace {
-
-/// Each part is compared by itself, so that a server 3.0 is taken for one without the fields.
-bool logsExtendedFields(const ServerVersion& server)
-{
-    return server.major >= 2 && server.minor >= 1 && server.release >= 0 && server.build >= 0;
-}
-
-} // namespace
-
 snapinOrvanDiagnostics::snapinOrvanDiagnostics(ToolContext& tool, Console& console)
     : tool_(tool), console_(console)
 {}
@@ -42,7 +32,7 @@ void snapinOrvanDiagnostics::SnapIn_Initialize()
     step([&] { console_.identity().helpFileName = mdlHTMLHelp::getHelpFileName(tool_); });
     step([&] { console_.identity().version = moduleVersionText(tool_.platform.module); });
     const ServerVersion server = step.value({}, [&] { return mdlOrvan::getVersion(tool_); });
-    if (logsExtendedFields(server)) tool_.g_bExtendedLogFields = true;
+    if (mdlOrvan::logsExtendedFields(server)) tool_.g_bExtendedLogFields = true;
     step.exitProc();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <utility>
 
 /// Owner of an open file, by the small number that the C library gives it.
@@ -30,3 +31,6 @@ public:
 private:
     int descriptor_ = -1;
 };
+
+/// How many files this program may have open at a time, those that it was started with included.
+std::size_t openFilesAllowed();

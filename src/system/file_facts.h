@@ -10,7 +10,8 @@ enum class FileKind {
     file, ///< a plain one
     folder,
     link,  ///< only where it is not followed
-    other, ///< a pipe, a device and their like
+    pipe,  ///< with a name, whose bytes come once; one of Windows' is `other`
+    other, ///< a device, a socket and their like
 };
 
 /// A moment since the beginning of 1970, world time.

@@ -8,8 +8,7 @@
 #include <string_view>
 
 /// Parts of a file that is being written, as memory: windows of one size, each of which shows a
-/// part of the file. What is stored there is in the file at once, or, where the system can't share
-/// memory with it so, when `failed` is asked, another part is shown, or its `Use` ends.
+/// part of the file. What is stored there is in the file at once.
 ///
 /// A store may fail: a file system that writes each change to new blocks has no room for it, the
 /// file was cut, the disk is broken. The store and all after it then stay in memory of the
@@ -31,10 +30,13 @@ public:
     /// whole number of windows. Raises 7, and then the window shows nothing.
     void show(std::size_t window, std::uint64_t offset);
 
-    /// Writes bytes by a call in place of a store, after all that was stored before, from the
-    /// offset `at` of the file on. Gives how many of them were written, as `writeBytesAt`. Windows
-    /// that show the place show them.
+    /// Writes bytes by a call in place of a store, from the offset `at` of the file on. Gives how
+    /// many of them were written, as `writeBytesAt`. Windows that show the place show them.
     std::size_t write(std::string_view bytes, std::uint64_t at);
+
+    /// Cuts the file off behind its first bytes, as `resize`: what `file_bytes.h` has may fail
+    /// while a window shows the file. A store behind the end fails.
+    bool cut(std::uint64_t bytes);
 
     /// Whether a store has not reached the file, and those after it have not either.
     bool failed() const;

@@ -133,3 +133,7 @@ std::string folderPathOf(const std::string& path);
 /// Opens a plain file of the machine, and nothing else, at once: one that a person named, or we
 /// installed. Raises as `RootFolder::openFile`.
 FileDescriptor openMachineFile(const std::string& path, const FileOpening& opening, int missing);
+
+/// Opens a pipe that a person named, to be read, and waits for whoever writes to it. Raises 70 for
+/// what is no pipe, and `missing`.
+FileDescriptor openMachinePipe(const std::string& path, int missing);

@@ -6,6 +6,7 @@
 
 #include "cabmaker/scratch_folder.h"
 #include "runtime/run_time_error.h"
+#include "system/machine_path.h"
 
 namespace cabmaker {
 
@@ -117,10 +118,24 @@ TEST_F(DirectivePathsTest, RefusesWhatHasNoPlaceHere)
     EXPECT_EQ("D:\\x: the site has no such drive", messageOf(paths(), "D:\\x"));
     EXPECT_EQ("\\\\server\\x: there are no network folders here",
               messageOf(paths(), "\\\\server\\x"));
+}
+
+TEST_F(DirectivePathsTest, FindsNoDriveOnAMachineWithoutAny)
+{
+    if (machineHasDrives()) GTEST_SKIP() << "this machine has drives of its own";
     const DirectivePaths bare("", at("Machine"));
     EXPECT_EQ("C:\\x: there are no drives here (ORVAN_SITE_DRIVES names the folder of the drives)",
               messageOf(bare, "C:\\x"));
     EXPECT_EQ(at("Machine/File.txt"), messageOf(bare, "file.txt"));
+}
+
+TEST_F(DirectivePathsTest, TakesPathsOfAServerAsTheyAreOnTheServerItself)
+{
+    if (!machineHasDrives()) GTEST_SKIP() << "this machine has no drives of its own";
+    const DirectivePaths own("", at("Machine"));
+    EXPECT_EQ("/C:/x/y.txt", messageOf(own, "C:\\x\\y.txt"));
+    EXPECT_EQ("//server/share/y.txt", messageOf(own, "\\\\server\\share\\y.txt"));
+    EXPECT_EQ(at("Machine/file.txt"), messageOf(own, "file.txt"));
 }
 
 TEST_F(DirectivePathsTest, TakesTheFolderOfTheDrivesRelativeToTheWorkingFolder)

@@ -1,31 +1,14 @@
 #include "cabmaker/scratch_folder.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <random>
 #include <stdexcept>
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <gtest/gtest.h>
 
 namespace fs = std::filesystem;
-
-ScratchFolder::ScratchFolder()
-{
-    std::string pattern = (fs::temp_directory_path() / "cabmaker-test-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no scratch folder");
-    path_ = pattern;
-}
-
-ScratchFolder::~ScratchFolder()
-{
-    std::error_code ignored;
-    fs::remove_all(path_, ignored);
-}
 
 std::string ScratchFolder::write(const std::string& name, std::string_view contents) const
 {
@@ -53,19 +36,6 @@ std::vector<std::string> ScratchFolder::listing() const
                         (entry.is_directory() ? "/" : ""));
     std::sort(names.begin(), names.end());
     return names;
-}
-
-CommandResult runCommand(const fs::path& folder, const std::string& command)
-{
-    const ScratchFolder captured;
-    const std::string line = "cd '" + folder.string() + "' && ( " + command + " ) >'" +
-                             captured.at("out") + "' 2>'" + captured.at("err") + "' </dev/null";
-    const int status = std::system(line.c_str());
-    CommandResult result;
-    result.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-    result.output = captured.read("out");
-    result.errors = captured.read("err");
-    return result;
 }
 
 std::string traceText(std::size_t size)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/temporary_folder.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -9,11 +11,6 @@
 /// A folder of its own for one test, gone with the object.
 class ScratchFolder {
 public:
-    ScratchFolder();
-    ~ScratchFolder();
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-
     const std::filesystem::path& path() const { return path_; }
 
     /// The machine path of `name` in the folder.
@@ -29,7 +26,8 @@ public:
     std::vector<std::string> listing() const;
 
 private:
-    std::filesystem::path path_;
+    TemporaryFolder folder_;
+    std::filesystem::path path_{folder_.path()};
 };
 
 /// What a command did.
@@ -39,7 +37,7 @@ struct CommandResult {
     std::string errors;
 };
 
-/// Runs a shell command in `folder`.
+/// Runs a shell command in `folder`. Not on Windows, which has none.
 CommandResult runCommand(const std::filesystem::path& folder, const std::string& command);
 
 /// `size` bytes that look like trace texts: they deflate well, and refer far back.

@@ -185,6 +185,20 @@ TEST_F(WizardSheetTest, APageMayRefuseTheCancel)
     EXPECT_FALSE(sheet->closed());
 }
 
+TEST_F(WizardSheetTest, ASheetThatIsAbandonedAsksItsPageAndClosesWhateverThatAnswers)
+{
+    first.onQueryCancel = [](bool& allow) { allow = false; };
+    showAt(2);
+    sheet->abandon();
+    EXPECT_EQ((Heard{"first query cancel", "first cancel", "second cancel", "first close",
+                     "second close", "closed"}),
+              heard);
+    EXPECT_TRUE(sheet->closed());
+    heard.clear();
+    sheet->abandon();
+    EXPECT_EQ(Heard{}, heard);
+}
+
 TEST_F(WizardSheetTest, AClosedSheetIgnoresEverything)
 {
     showAt(2);
@@ -310,6 +324,9 @@ TEST_F(WizardSheetTest, AnErrorOfAHandlerComesOutAndTheSheetStaysUsable)
          [](auto& s) { s.cancel(); }, 2, false},
         {"the cancel of one page raises: all are told, and the sheet closes",
          [](auto& t) { t.first.onCancel = [] { fail(5); }; }, [](auto& s) { s.cancel(); }, 2, true},
+        {"the question raises as the sheet is abandoned: it closes all the same",
+         [](auto& t) { t.first.onQueryCancel = [](bool&) { fail(5); }; },
+         [](auto& s) { s.abandon(); }, 2, true},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.because);

@@ -36,6 +36,12 @@ TEST_F(BadInput, AFolderThatIsNoSiteIsRefused)
     }
 }
 
+TEST_F(BadInput, AFolderWithoutANameIsRefused)
+{
+    expectOneLine(orvandiag({"--site", "", "status"}), 1, "the folder of the site has no name");
+    expectOneLine(orvandiag({"sample", ""}), 1, "the folder to make has no name");
+}
+
 TEST_F(BadInput, ADamagedRegistryIsRefusedWithItsLineAndLeftAlone)
 {
     const std::string damaged =
@@ -66,7 +72,7 @@ TEST_F(BadInput, AnUnknownProcessOrLogIsRefusedAndNothingChanges)
         {"no such log", {"read", "diag_KoNothing_1.txt"}, "can not be found"},
         {"no log at all", {"read", ""}, "can not be found"},
         {"the name of a node of the tree", {"read", "Static Node"}, "can not be found"},
-        {"a folder", {"read", "C:\\KelmaOrvan\\Logs"}, "can not be found"},
+        {"no such folder", {"read", "C:\\KelmaOrvan\\Lags"}, "can not be found"},
         {"a device", {"read", "/dev/zero"}, "can not be found"},
         {"above the drive", {"read", "C:\\..\\..\\..\\etc\\passwd"}, "can not be found"},
     };
@@ -85,12 +91,6 @@ TEST_F(BadInput, ACommandThatFailsInItsWorkStillUnloadsTheTool)
     EXPECT_NE(std::string::npos, events.rfind("10003"));
 }
 
-TEST_F(BadInput, ALogThatIsTooLargeToBeShownIsRefused)
-{
-    write(folder / "large.txt", std::string(2'500'001, 'x'));
-    expectOneLine(run({"read", (folder / "large.txt").string()}), 1, "is too large");
-}
-
 TEST_F(BadInput, AResultThatCantBeWrittenIsAFailure)
 {
     for (const std::string& command : {std::string("status"), "read " + currentLog()}) {
@@ -102,12 +102,23 @@ TEST_F(BadInput, AResultThatCantBeWrittenIsAFailure)
     }
 }
 
+TEST_F(BadInput, HelpAndVersionThatCantBeWrittenAreFailures)
+{
+    for (const std::string& asked : {std::string("--help"), std::string("gather frame --help"),
+                                     std::string("--version"), std::string("man")}) {
+        SCOPED_TRACE(asked);
+        expectOneLine(
+            runProgram({"bash", "-c",
+                        std::string("exec '") + built::orvandiag + "' " + asked + " >/dev/full"}),
+            1, "cannot write the result");
+    }
+}
+
 TEST_F(BadInput, WrongUsageEndsWithTwo)
 {
     const std::vector<std::vector<std::string>> cases = {
         {},
         {"frobnicate"},
-        {"read"},
         {"logs"},
         {"--colour", "status"},
         {"status", "now"},

@@ -151,6 +151,22 @@ TEST_F(GatherCommand, TakesALogByItsNameInAnyCase)
     EXPECT_THAT(result["files"], ElementsAre(formattedName(log)));
 }
 
+TEST_F(GatherCommand, TakesTheLogOfExactlyThatNameWhereTwoDifferInCaseAlone)
+{
+    const fs::path logs = drive("KelmaOrvan/Logs");
+    write(logs / "diag_KoNotify_20250101_00000A.txt", "15:23:07:123,Conv,1,X,2,capital\n");
+    write(logs / "diag_KoNotify_20250101_00000a.txt", "15:23:07:123,Conv,1,X,2,small\n");
+    fs::create_directory(target);
+    for (const auto& [name, trace] : {std::pair("diag_KoNotify_20250101_00000A.txt", "capital"),
+                                      std::pair("diag_KoNotify_20250101_00000a.txt", "small")}) {
+        SCOPED_TRACE(name);
+        const fs::path taken = target / trace;
+        const Outcome gathered = run({"gather", "logs", "--log", name, "--to", taken.string()});
+        ASSERT_EQ(0, gathered.status) << gathered.err;
+        EXPECT_THAT(read(taken / formattedName(name)), HasSubstr(trace));
+    }
+}
+
 TEST_F(GatherCommand, AnInterruptIsTheWizardsCancelAndKeepsWhatWasRead)
 {
     const std::string log = "diag_KoNotify_20250101_000000.txt";

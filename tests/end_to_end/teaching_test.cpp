@@ -166,7 +166,7 @@ TEST(Help, SetsWhatAProgramIsForOffFromItsUsage)
 {
     EXPECT_THAT(orvandiag({"--help"}).out, HasSubstr("\n  orvandiag status\n\nUsage: orvandiag "));
     EXPECT_THAT(orvandiag({"read", "--help"}).out,
-                HasSubstr("Show the lines of a log as columns\n\nUsage: orvandiag read "));
+                HasSubstr("Show the rows of logs, or count them\n\nUsage: orvandiag read "));
 }
 
 TEST(Help, ExamplesNameWhatTheSampleHas)

@@ -35,6 +35,8 @@ std::string onTerminal(std::vector<std::string> words, const std::string& folder
         std::vector<char*> arguments;
         for (auto& word : words) arguments.push_back(word.data());
         arguments.push_back(nullptr);
+        setenv("ORVAN_PAGER", "cat", 0); // what pages waits for keys
+        setenv("NO_COLOR", "1", 0);      // colours act, too
         execv(arguments[0], arguments.data());
         _exit(127);
     }

@@ -6,6 +6,8 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <sstream>
 
 namespace {
 
@@ -264,6 +266,111 @@ TEST_F(Terminal, WritesTheSameIntoAPipe)
 {
     write(folder / "a.txt", "15:23:07:123,Conv,1,Call,7,a\x1B[2Jz\r\n");
     EXPECT_THAT(run({"read", (folder / "a.txt").string()}).out, HasSubstr("a\\x1b[2Jz"));
+}
+
+/// A variable of the environment that programs are started in, while it lives.
+class Variable {
+public:
+    Variable(const char* name, const char* value) : name_(name) { setenv(name, value, 1); }
+    ~Variable() { unsetenv(name_); }
+    Variable(const Variable&) = delete;
+    Variable& operator=(const Variable&) = delete;
+
+private:
+    const char* name_;
+};
+
+struct ReadingTerminal : Terminal {
+    const std::string log = "diag_KoCSMgr_20250220_152307.txt"; ///< with a day in its name
+
+    std::string shown(Words words)
+    {
+        words.insert(words.begin(), {"--site", site.string(), "read"});
+        return onTerminal(words, folder.string());
+    }
+};
+
+TEST_F(ReadingTerminal, HasRowsInThePagerOfThePerson)
+{
+    write(folder / log, "15:23:07:123,Conv,1,Call,7,one\n15:23:07:123,Conv,1,Call,7,two\n");
+    const std::string plain = shown({log});
+    const Variable pager("PAGER", "sed s/^/P:/");
+    EXPECT_EQ(plain, shown({log})) << "its own one comes first";
+    std::string paged = plain;
+    for (auto place = paged.rfind('\n', paged.size() - 2); place != std::string::npos;
+         place = place == 0 ? place : paged.rfind('\n', place - 1))
+        paged.insert(place + 1, "P:");
+    paged.insert(0, "P:");
+    {
+        const Variable own("ORVAN_PAGER", "");
+        EXPECT_EQ(paged, shown({log}));
+        EXPECT_EQ(plain, shown({log, "--no-pager"}));
+    }
+    const Variable own("ORVAN_PAGER", "head -n 2");
+    EXPECT_EQ(plain.substr(0, plain.find('\n', plain.find('\n') + 1) + 1), shown({log}))
+        << "a pager that is left is no failure";
+}
+
+TEST_F(ReadingTerminal, HasRowsAlsoWhereThePagerOfThePersonIsNotThere)
+{
+    write(folder / log, "15:23:07:123,Conv,1,Call,7,one\n15:23:07:123,Conv,1,Call,7,two\n");
+    const std::string plain = shown({log, "--no-pager"});
+    for (const char* command : {"/no/such/pager -R", "no-such-pager"}) {
+        const Variable own("ORVAN_PAGER", command);
+        EXPECT_EQ(plain, shown({log})) << command;
+    }
+}
+
+TEST_F(ReadingTerminal, HasColoursByLevelWhereItIsWished)
+{
+    write(folder / log, "15:23:07:123,Conv,1,Call,0,bad\n15:23:07:123,Conv,1,Call,1,poor\n"
+                        "15:23:07:123,Conv,1,Call,2,good\nno form\n");
+    const std::string plain = shown({log});
+    EXPECT_EQ(std::string::npos, plain.find('\x1B'));
+    const std::string coloured = shown({log, "--color", "always"});
+    EXPECT_THAT(coloured, testing::ContainsRegex("\x1B\\[31m000001 [^\n]*bad \x1B\\[0m\n"));
+    EXPECT_THAT(coloured, testing::ContainsRegex("\x1B\\[33m000002 [^\n]*poor \x1B\\[0m\n"));
+    EXPECT_EQ(4, std::count(coloured.begin(), coloured.end(), '\x1B'));
+    const Variable noneOf("NO_COLOR", "");
+    const Variable kind("TERM", "xterm");
+    EXPECT_EQ(coloured, shown({log}));
+    EXPECT_EQ(plain, shown({log, "--color", "never"}));
+    EXPECT_EQ(plain, run({"read", log}).out) << "a pipe has none";
+}
+
+TEST_F(ReadingTerminal, HasRowsCutToItsWidthUnlessTheyAreWished)
+{
+    constexpr std::size_t width = 200;
+    const std::string trace(300, 'x');
+    write(folder / log, "15:23:07:123,Conv,1,Call,7," + trace +
+                            "\n15:23:07:123,Conv,1,Call,7,\xE9\x1B" + trace + "\n");
+    std::istringstream lines(shown({log}));
+    std::string line;
+    std::getline(lines, line);
+    for (int row = 0; row < 2; ++row) {
+        std::getline(lines, line);
+        EXPECT_EQ(width,
+                  static_cast<std::size_t>(std::count_if(line.begin(), line.end(), [](char c) {
+                      return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+                  })));
+    }
+    EXPECT_THAT(shown({log, "--wide"}), HasSubstr(trace + " \n"));
+}
+
+TEST_F(ReadingTerminal, GetsNoByteThatActsInAnyFormat)
+{
+    std::string content;
+    for (int byte = 0; byte < 256; ++byte) {
+        if (byte == '\n') continue;
+        const std::string b(1, static_cast<char>(byte));
+        content +=
+            "15:23:07:123,C" + b + "v,12,Call" + b + "Flow,7,tra" + b + "ce\r\n*** " + b + "\n";
+    }
+    write(folder / log, content);
+    for (const char* format : {"table", "raw", "json", "csv", "otlp"})
+        EXPECT_EQ("", acting(shown({log, "--format", format}))) << format;
+    EXPECT_EQ("", acting(shown({log, "--count-by", "component"})));
+    EXPECT_EQ("", acting(shown({log, "--count-by", "component", "--format", "csv"})));
 }
 
 } // namespace

@@ -74,6 +74,17 @@ TYPED_TEST_P(XmlContract, AFileThatDoesNotLoadLeavesTheDocumentEmpty)
     EXPECT_EQ(nullptr, this->document->documentElement());
 }
 
+TYPED_TEST_P(XmlContract, ADocumentIsReplacedByATextThatItLoads)
+{
+    EXPECT_TRUE(this->load("<ONE/>"));
+    EXPECT_TRUE(this->document->loadText("<?xml version=\"1.0\" encoding=\"windows-1252\"?>"
+                                         "<G n=\"\xC3\xA9\"/>"))
+        << "a text is UTF-8, whatever it declares";
+    EXPECT_EQ("\xC3\xA9", this->document->documentElement()->attribute("n"));
+    EXPECT_FALSE(this->document->loadText("<G>"));
+    EXPECT_EQ(nullptr, this->document->documentElement());
+}
+
 TYPED_TEST_P(XmlContract, AnEmptyDocumentTakesOneDocumentElement)
 {
     const auto element = this->document->appendDocumentElement("HYBRIDTRACES");
@@ -208,10 +219,10 @@ TYPED_TEST_P(XmlContract, ATextIsReadInItsOwnEncodingElseInTheServers)
 
 REGISTER_TYPED_TEST_SUITE_P(
     XmlContract, ANewDocumentIsEmpty, ADocumentIsReplacedByTheFileThatItLoads,
-    AFileThatDoesNotLoadLeavesTheDocumentEmpty, AnEmptyDocumentTakesOneDocumentElement,
-    APathFromTheDocumentBeginsWithTheDocumentElement, APathFromAnElementBeginsInIt,
-    APathMayAskForAnAttribute, ElementsComeInDocumentOrder, NamesMatchExactly,
-    APathThatIsNoneRaises, AnAttributeThatIsMissingIsNothingAndAnEmptyOneIsNot,
+    AFileThatDoesNotLoadLeavesTheDocumentEmpty, ADocumentIsReplacedByATextThatItLoads,
+    AnEmptyDocumentTakesOneDocumentElement, APathFromTheDocumentBeginsWithTheDocumentElement,
+    APathFromAnElementBeginsInIt, APathMayAskForAnAttribute, ElementsComeInDocumentOrder,
+    NamesMatchExactly, APathThatIsNoneRaises, AnAttributeThatIsMissingIsNothingAndAnEmptyOneIsNot,
     AnAttributeIsSetOverAnOldOne, TheTextOfAnElementHoldsThatOfThoseInIt,
     AnElementIsMovedToTheEndOfAnothersChildren, AHandleOfAMovedElementMeansTheMovedOne,
     ATextIsReadInItsOwnEncodingElseInTheServers);

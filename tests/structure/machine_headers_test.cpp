@@ -8,8 +8,8 @@ namespace {
 
 /// The libraries' own headers. Every other header in angle brackets with an ending is the
 /// machine's.
-const std::set<std::string> libraries = {"iconv.h",   "sql.h",      "sqlext.h",
-                                         "sqlite3.h", "sqlucode.h", "zlib.h"};
+const std::set<std::string> libraries = {"iconv.h",  "mspack.h",  "re2/re2.h",  "sql.h",
+                                         "sqlext.h", "sqlite3.h", "sqlucode.h", "zlib.h"};
 
 /// Windows' own headers have to come before those of ODBC, which is a library everywhere else.
 bool isNeededByALibrary(const std::string& file, const Include& include)
@@ -27,9 +27,10 @@ bool isOfTheMachine(const Include& include)
 std::string systemOf(const std::string& file)
 {
     if (file.starts_with("src/system/posix/")) return "POSIX";
-    const bool windows =
-        file.starts_with("src/system/windows/") || file.starts_with("src/backends/windows/");
-    return windows ? "Windows" : "";
+    for (const char* folder : {"src/system/windows/", "src/backends/windows/",
+                               "src/hosts/machine/windows/", "src/hosts/mmc/"})
+        if (file.starts_with(folder)) return "Windows";
+    return "";
 }
 
 bool isCodeForOneSystem(const std::string& file)

@@ -72,7 +72,7 @@ TEST_F(FileWindowsTest, AStoreBehindTheEndFailsAndAllAfterItStayOutOfTheFile)
     const FileWindows::Use use(windows);
     windows.show(0, 0);
     windows.show(1, 3 * windowBytes);
-    ASSERT_TRUE(resize(file, 2 * windowBytes));
+    ASSERT_TRUE(windows.cut(2 * windowBytes));
     windows.memory()[windowBytes] = 'x';
     EXPECT_TRUE(windows.failed());
     windows.memory()[0] = 'y';
@@ -85,6 +85,37 @@ TEST_F(FileWindowsTest, AStoreBehindTheEndFailsAndAllAfterItStayOutOfTheFile)
     windows.memory()[0] = 'z';
     EXPECT_FALSE(windows.failed());
     EXPECT_EQ('z', inFile(0));
+}
+
+TEST_F(FileWindowsTest, ACutLeavesWhatIsBeforeItInTheWindows)
+{
+    FileWindows windows(file, 2, windowBytes);
+    const FileWindows::Use use(windows);
+    windows.show(0, 0);
+    windows.show(1, 3 * windowBytes);
+    windows.memory()[3] = 'b';
+    EXPECT_TRUE(windows.cut(windowBytes + 10));
+    EXPECT_EQ(windowBytes + 10, box.read("file").size());
+    EXPECT_EQ('b', windows.memory()[3]);
+    windows.memory()[4] = 'c';
+    EXPECT_EQ('c', inFile(4));
+    EXPECT_FALSE(windows.failed());
+}
+
+TEST_F(FileWindowsTest, AWindowGrowsWithTheFile)
+{
+    FileWindows windows(file, 1, 2 * windowBytes);
+    const FileWindows::Use use(windows);
+    ASSERT_TRUE(windows.cut(2 * windowBytes + 4096));
+    windows.show(0, 2 * windowBytes);
+    windows.memory()[4095] = 'b';
+    const std::string more(windowBytes, 'm');
+    EXPECT_EQ(more.size(), windows.write(more, 2 * windowBytes + 4096));
+    EXPECT_EQ('b', windows.memory()[4095]);
+    EXPECT_EQ('m', windows.memory()[4096 + windowBytes - 1]);
+    windows.memory()[4096 + windowBytes - 1] = 'n';
+    EXPECT_FALSE(windows.failed());
+    EXPECT_EQ('n', inFile(2 * windowBytes + 4096 + windowBytes - 1));
 }
 
 TEST_F(FileWindowsTest, LocksKeepAnotherOpeningOutAndReadersIn)

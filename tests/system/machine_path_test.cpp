@@ -31,6 +31,16 @@ TEST(MachinePath, AWholePathBeginsWithASlashAndStaysWhatItIs)
     EXPECT_TRUE(filePathOf(whole).is_absolute());
 }
 
+TEST(MachinePath, AWholePathIsShownAsPeopleOfTheMachineWriteIt)
+{
+    const bool drives = machineHasDrives();
+    EXPECT_EQ(drives ? "C:\\some\\name" : "/C:/some/name", shownPathOf("/C:/some/name"));
+    EXPECT_EQ(drives ? "C:\\" : "/C:/", shownPathOf("/C:/"));
+    EXPECT_EQ("/some/name", shownPathOf("/some/name"));
+    EXPECT_EQ("and/or", shownPathOf("and/or"));
+    EXPECT_EQ("C:\\x", shownPathOf("C:\\x"));
+}
+
 TEST(MachinePath, APathFromTheCurrentFolderStaysOne)
 {
     EXPECT_EQ("some/name", machineTextOf(filePathOf("some/name")));

@@ -27,9 +27,11 @@ compare() {
   fi
 }
 
-# What a program said, the folder of its own work and the marks of a drive taken out.
+# What a program said, the folder of its own work taken out, and paths written with slashes where
+# people of Windows write them with a drive and backslashes.
 equalized() {
-  sed -e 's|/*Z:/|/|g' -e "s|$work/windows|WORK|g" -e "s|$work/here|WORK|g" "$1"
+  sed -e ':a' -e 's#\(Z:[^ ",;]*\)\\#\1/#' -e ta -e ':b' -e 's#\(Z:[^ ",;]*\)//#\1/#' -e tb \
+    -e 's|Z:/|/|g' -e "s|$work/windows|WORK|g" -e "s|$work/here|WORK|g" "$1"
 }
 
 # Runs a command with both programs, each in a folder of its own, and compares status and output.
@@ -45,15 +47,17 @@ both() {
 # Takes the moments of this run out of a text; those of the sample server are older.
 without_moments() {
   LC_ALL=C sed -e 's/20\(2[6-9]\|[3-9][0-9]\)-[0-9-]* [0-9:.]*/MOMENT/g' \
-    -e 's/^\("Diagnostic Grid Time Set"=hex:\)[0-9a-f,]*/\1MOMENT/' \
+    -e 's/^\("[A-Za-z ]* Time Set"=hex:\)[0-9a-f,]*/\1MOMENT/' \
     -e 's|^\("Date"="\)[0-9/]* [0-9:]* [AP]M|\1MOMENT|'
 }
 
 # Sorted names of a folder's files with a sum of the bytes of each, but for those of databases and
-# cabinets, of the tool's own logs, whose every line and name has a moment, and of locks.
+# cabinets, of the tool's own logs, whose every line and name has a moment, of locks, and of the
+# cabinet maker and the help file that each kind of machine has of its own.
 listing() {
   (cd "$1" && find . -type f ! -name '*.mdb' ! -name '*.cab' ! -name '*.lock' ! -name '*.sqlite' \
-    ! -path '*/OrvanDiagnostics/LOGS/*' | LC_ALL=C sort | while read -r name; do
+    ! -path '*/OrvanDiagnostics/LOGS/*' ! -path '*/OrvanDiagnostics/cabmaker.exe' \
+    ! -path '*/OrvanDiagnostics/*.chm' | LC_ALL=C sort | while read -r name; do
     echo "$(without_moments <"$name" | md5sum) $name"
   done)
 }
@@ -84,7 +88,9 @@ compare "the database's bytes" cmp "$work/here/site/OrvanDirDb.sqlite" "$work/wi
 rm -rf "$work/windows/site"
 cp -a "$work/here/site" "$work/windows/site"
 
-for command in status tree macro micro settings; do
+# A site's tool folder is given what it lacks with the first change, on each side its own.
+both --site site cycle
+for command in status tree macro micro settings about language; do
   both --site site --json $command
   both --site site $command
 done

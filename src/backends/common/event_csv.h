@@ -5,9 +5,6 @@
 #include <string_view>
 #include <vector>
 
-/// The first line of an exported event log.
-constexpr std::string_view eventLogCsvHeader = "Time,Type,Source,Event ID,Computer,Message\r\n";
-
 /// Who reads an exported event log.
 enum class CsvReader {
     any,

@@ -2,8 +2,10 @@
 
 #include "backends/jet/schema/blank_database.h"
 #include "runtime/run_time_error.h"
+#include "system/machine_path.h"
+#include "system/program_arguments.h"
 
-#include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -13,22 +15,26 @@ namespace {
 /// Writes beside the target and then renames, so that nobody sees half a file.
 bool writeFile(const std::string& path, const std::string& bytes)
 {
-    const std::string temporary = path + ".new";
+    const std::filesystem::path temporary = filePathOf(path + ".new");
     std::ofstream file(temporary, std::ios::binary | std::ios::trunc);
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     file.close();
-    return file.good() && std::rename(temporary.c_str(), path.c_str()) == 0;
+    if (!file.good()) return false;
+    std::error_code failed;
+    std::filesystem::rename(temporary, filePathOf(path), failed);
+    return !failed;
 }
 
 } // namespace
 
-int main(int count, char** arguments)
+int main(int count, char** given)
 {
-    if (count != 3) {
+    const std::vector<std::string> arguments = programArguments(count, given);
+    if (arguments.size() != 3) {
         std::cerr << "usage: jet_make_template SCHEMA DATABASE\n";
         return 2;
     }
-    std::ifstream schema(arguments[1], std::ios::binary);
+    std::ifstream schema(filePathOf(arguments[1]), std::ios::binary);
     std::ostringstream text;
     text << schema.rdbuf();
     if (!schema) {

@@ -2,12 +2,15 @@
 
 #include "backends/jet/schema/catalog.h"
 #include "backends/jet/table/text_value.h"
+#include "runtime/run_time_error.h"
 #include "runtime/text.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>
+#include <optional>
+#include <utility>
 
 namespace jet {
 
@@ -40,10 +43,32 @@ std::string realText(double number)
     return std::string(text, end);
 }
 
+/// Of a table whose map is damaged, the pages that say that they are its own.
+std::vector<std::uint32_t> pagesOf(const Pages& pages, const TableDefinition& table, Damage damage)
+{
+    try {
+        return pages.usageMap(table.ownedPages);
+    } catch (const RunTimeError&) {
+        if (damage == Damage::raised) throw;
+        return pages.pagesOfOwner(table.page);
+    }
+}
+
+/// The text of a long value that lies in the row, in its stored form.
+std::optional<std::string_view> textInHead(std::string_view cell)
+{
+    if (cell.size() < longValue::head) return std::nullopt;
+    const std::uint32_t head = load32(cell.data());
+    const std::size_t size = head & longValue::lengthMask;
+    if ((head & longValue::inlineKind) == 0 || size > cell.size() - longValue::head)
+        return std::nullopt;
+    return cell.substr(longValue::head, size);
+}
+
 } // namespace
 
-Rows::Rows(const Pages& pages, const TableDefinition& table)
-    : pages_(pages), table_(table), numbers_(pages.usageMap(table.ownedPages))
+Rows::Rows(const Pages& pages, const TableDefinition& table, Damage damage)
+    : pages_(pages), table_(table), numbers_(pagesOf(pages, table, damage))
 {}
 
 bool Rows::next()
@@ -54,19 +79,43 @@ bool Rows::next()
             page_ = numbers_[nextPage_++];
             nextRow_ = 0;
         }
-        const char* page = pages_.dataOf(page_, table_.page);
-        while (nextRow_ < rowsOn(page)) {
-            const std::string_view bytes = pages_.tableRow(page, nextRow_++);
-            if (bytes.empty()) {
-                page = pages_.dataOf(page_, table_.page);
-                continue;
-            }
-            bytes_ = bytes;
-            row_ = RowView(table_, bytes_);
-            return true;
+        // While the page may be one that raises it is none to come back to.
+        const std::uint32_t number = std::exchange(page_, 0);
+        const char* page = pages_.dataOf(number, table_.page);
+        const unsigned rows = rowsOn(page);
+        while (nextRow_ < rows) {
+            page_ = number;
+            if (take(page, nextRow_++)) return true;
+            page_ = 0;
+            page = pages_.dataOf(number, table_.page);
         }
         page_ = 0;
     }
+}
+
+bool Rows::goTo(std::uint64_t place)
+{
+    const std::uint64_t number = place >> 16;
+    page_ = 0;
+    nextPage_ = static_cast<std::size_t>(
+        std::upper_bound(numbers_.begin(), numbers_.end(), number) - numbers_.begin());
+    if (nextPage_ == 0 || numbers_[nextPage_ - 1] != number) return false;
+    const char* page = pages_.dataOf(numbers_[nextPage_ - 1], table_.page);
+    nextRow_ = static_cast<unsigned>(place & 0xFFFF);
+    if (nextRow_ >= rowsOn(page)) return false;
+    page_ = numbers_[nextPage_ - 1];
+    return take(page, nextRow_++);
+}
+
+/// Makes the row in a slot of a page the current one; false for a slot without one.
+bool Rows::take(const char* page, unsigned slot)
+{
+    const std::string_view bytes = pages_.tableRow(page, slot);
+    if (bytes.empty()) return false;
+    row_ = {};
+    bytes_ = bytes;
+    row_ = RowView(table_, bytes_);
+    return true;
 }
 
 bool Rows::isNull(std::size_t column) const
@@ -101,6 +150,18 @@ std::string Rows::text(std::size_t index) const
     }
 }
 
+std::string_view Rows::textView(std::size_t index, std::string& room) const
+{
+    const Column& column = table_.columns[index];
+    if (column.type == ColumnType::text) return storedTextView(row_.cell(column), room);
+    if (column.type == ColumnType::memo) {
+        const std::string_view cell = row_.cell(column);
+        if (const auto text = textInHead(cell)) return storedTextView(*text, room);
+    }
+    room = text(index);
+    return room;
+}
+
 std::string_view Rows::cell(std::size_t column) const
 {
     return row_.cell(table_.columns[column]);
@@ -122,7 +183,10 @@ std::int64_t Rows::number(std::size_t index) const
     }
 }
 
-Reader::Reader(const Pages& pages) : pages_(pages), tables_(readCatalog(pages_)) {}
+Reader::Reader(const Pages& pages, Damage damage)
+    : pages_(pages), damage_(damage),
+      tables_(readCatalog(pages_, damage == Damage::raised ? nullptr : &passedOver_))
+{}
 
 const TableDefinition* Reader::find(std::string_view name) const
 {

@@ -10,17 +10,35 @@
 
 namespace jet {
 
+/// What becomes of damage besides which there is something to be read.
+enum class Damage {
+    raised,
+    passedOver, ///< a table that can't be read is left out; pages without a sound map are searched
+};
+
 /// The rows of a table, one after the other, in the order of their pages.
 ///
 ///     for (auto rows = reader.rows(table); rows.next();) use(rows.text(0));
 class Rows {
 public:
-    Rows(const Pages& pages, const TableDefinition& table);
+    Rows(const Pages& pages, const TableDefinition& table, Damage damage = Damage::raised);
     Rows(const Rows&) = delete;
     Rows& operator=(const Rows&) = delete;
 
-    /// Moves to the next row, at first to the first. False when there are no more. Raises 3343.
+    /// Moves to the next row, at first to the first. False when there are no more. Raises 3343 for
+    /// a damaged page or row, which the next call passes over.
     bool next();
+
+    /// Where the current row stands: its page and, in the low 16 bits, its slot there.
+    std::uint64_t place() const { return std::uint64_t{page_} << 16 | (nextRow_ - 1); }
+
+    /// Moves to the row of a place, behind which `next` goes on as before. False where none stands
+    /// there. Raises 3343.
+    bool goTo(std::uint64_t place);
+
+    /// How many of the table's pages were begun, and how many it has.
+    std::size_t pagesBegun() const { return nextPage_; }
+    std::size_t pageCount() const { return numbers_.size(); }
 
     /// Columns are counted from 0, in the table's order; the table says how many there are.
     bool isNull(std::size_t column) const;
@@ -30,6 +48,9 @@ public:
     /// text. Raises 3343.
     std::string text(std::size_t column) const;
 
+    /// The same as a view: of the current row where it holds the text, else of `room`. Raises 3343.
+    std::string_view textView(std::size_t column, std::string& room) const;
+
     /// A value's bytes as they are stored in the row: of a long value, its head. Raises 3343.
     std::string_view cell(std::size_t column) const;
 
@@ -37,6 +58,8 @@ public:
     std::int64_t number(std::size_t column) const;
 
 private:
+    bool take(const char* page, unsigned slot);
+
     Pages pages_;
     const TableDefinition& table_;
     std::vector<std::uint32_t> numbers_; ///< of the table's pages
@@ -57,7 +80,7 @@ public:
     explicit Reader(std::string_view image) : Reader(Pages(image)) {}
 
     /// The pages of a file that lie elsewhere, such as FilePages. Raises 3343 and what they raise.
-    explicit Reader(const Pages& pages);
+    explicit Reader(const Pages& pages, Damage damage = Damage::raised);
 
     /// The tables that people made, in the order of the catalog.
     const std::vector<TableDefinition>& tables() const { return tables_; }
@@ -66,7 +89,10 @@ public:
     const TableDefinition* find(std::string_view name) const;
 
     /// `table` is one of this reader's. Raises 3343.
-    Rows rows(const TableDefinition& table) const { return Rows(pages_, table); }
+    Rows rows(const TableDefinition& table) const { return Rows(pages_, table, damage_); }
+
+    /// What damage was passed over when the tables were looked for.
+    const std::vector<std::string>& passedOver() const { return passedOver_; }
 
     /// What is wrong with the file beyond what reading would notice: pages that two things claim or
     /// that count as free, rows that overlap, counts that differ. Sound files give an empty list.
@@ -74,6 +100,8 @@ public:
 
 private:
     Pages pages_;
+    Damage damage_;
+    std::vector<std::string> passedOver_;
     std::vector<TableDefinition> tables_;
 };
 

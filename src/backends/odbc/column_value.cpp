@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <limits>
+#include <optional>
 
 namespace {
 
@@ -77,16 +78,18 @@ SQLRETURN readText(SQLHSTMT statement, SQLUSMALLINT position, std::string& text,
     return result == SQL_NO_DATA ? SQL_SUCCESS : result;
 }
 
-/// The type of the value at hand in a column of variants; that of text where no driver tells.
-SQLSMALLINT typeOfVariant(SQLHSTMT statement, SQLUSMALLINT position)
+/// The type of the value at hand in a column of variants; that of text where no driver tells,
+/// nothing for Null.
+std::optional<SQLSMALLINT> typeOfVariant(SQLHSTMT statement, SQLUSMALLINT position)
 {
     SQLLEN indicator = 0;
     char none = 0;
-    SQLLEN type = SQL_WVARCHAR;
-    // The value has to be begun before its type is known.
+    SQLLEN type = SQL_C_WCHAR;
+    // The value has to be begun before its type is known. Null is told once, and then is no data.
     SQLGetData(statement, position, SQL_C_BINARY, &none, 0, &indicator);
+    if (indicator == SQL_NULL_DATA) return std::nullopt;
     SQLColAttributeW(statement, position, variantValueType, nullptr, 0, nullptr, &type);
-    return static_cast<SQLSMALLINT>(type);
+    return typeOfVariantValue(static_cast<SQLSMALLINT>(type));
 }
 
 } // namespace
@@ -96,9 +99,43 @@ std::string bracedGuid(const std::string& text)
     return text.empty() || text.front() == '{' ? text : "{" + text + "}";
 }
 
+SQLSMALLINT typeOfVariantValue(SQLSMALLINT valueType)
+{
+    switch (valueType) {
+    case SQL_C_TINYINT:
+    case SQL_C_STINYINT:
+    case SQL_C_UTINYINT:
+    case SQL_C_SHORT:
+    case SQL_C_SSHORT:
+    case SQL_C_USHORT:
+    case SQL_C_LONG:
+    case SQL_C_SLONG:
+    case SQL_C_ULONG:
+    case SQL_C_SBIGINT:
+    case SQL_C_UBIGINT:
+        return SQL_BIGINT;
+    case SQL_C_DATE:
+    case SQL_C_TIME:
+    case SQL_C_TIMESTAMP:
+        return SQL_TYPE_TIMESTAMP;
+    case SQL_C_CHAR:
+    case SQL_C_WCHAR:
+        return SQL_WVARCHAR;
+    default:
+        return valueType; // the others have one number as both
+    }
+}
+
 SQLRETURN readColumn(SQLHSTMT statement, SQLUSMALLINT position, SQLSMALLINT type, Value& value)
 {
-    if (type == variantType) type = typeOfVariant(statement, position);
+    if (type == variantType) {
+        const auto typeOfValue = typeOfVariant(statement, position);
+        if (!typeOfValue) {
+            value = Null{};
+            return SQL_SUCCESS;
+        }
+        type = *typeOfValue;
+    }
     SQLRETURN result = SQL_SUCCESS;
     bool isNull = false;
     const auto read = [&](SQLSMALLINT valueType, auto held, const auto& asValue) {

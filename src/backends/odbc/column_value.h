@@ -10,5 +10,9 @@
 /// dates, GUIDs as "{…}", the rest as text. Gives the result of the call that failed, if any did.
 SQLRETURN readColumn(SQLHSTMT statement, SQLUSMALLINT position, SQLSMALLINT type, Value& value);
 
+/// The type of a column whose values are like one of a variant, whose driver tells its type as that
+/// of the program's side (`SQL_C_…`), such as SQL_BIGINT for each kind of whole number.
+SQLSMALLINT typeOfVariantValue(SQLSMALLINT valueType);
+
 /// A GUID's text within braces.
 std::string bracedGuid(const std::string& text);

@@ -60,3 +60,15 @@ std::optional<CodePage> codePageOf(int number)
         if (const auto codePage = codePageNamed(name)) return codePage;
     return {};
 }
+
+std::vector<int> knownCodePages()
+{
+    std::vector<int> known;
+    for (const int number :
+         {437,   720,   737,   775,   850,   852,   855,   857,   858,   860,   861,
+          862,   863,   865,   866,   869,   874,   1250,  1251,  1252,  1253,  1254,
+          1255,  1256,  1257,  1258,  20127, 20866, 21866, 28591, 28592, 28593, 28594,
+          28595, 28596, 28597, 28598, 28599, 28600, 28601, 28603, 28604, 28605, 28606})
+        if (codePageOf(number)) known.push_back(number);
+    return known;
+}

@@ -69,6 +69,7 @@ public:
     CodePage codePage() const;
 
     SitePaths& paths() { return paths_; }
+    const SitePaths& paths() const { return paths_; }
     SiteDatabase& database() { return database_; }
     SiteFileSystem& files() { return files_; }
     SiteRegistry& registry() { return registry_; }

@@ -58,13 +58,14 @@ void writeDown(const FileDescriptor& lock)
 } // namespace
 
 SiteTurn::SiteTurn(const std::string& siteFolder, std::chrono::milliseconds patience,
-                   const Notice& notice)
+                   const Notice& notice, const std::string& changed)
     : lock_(openLock(siteFolder))
 {
     if (!lock_.isOpen()) return;
     const auto begin = Clock::now();
     auto since = begin;
     bool told = !notice;
+    const std::string shown = changed.empty() ? "the site " + siteFolder : changed;
     std::string holder = holderOf(lock_);
     const auto another = [&] {
         return "another program" + (holder.empty() ? "" : " (process " + holder + ")");
@@ -77,10 +78,9 @@ SiteTurn::SiteTurn(const std::string& siteFolder, std::chrono::milliseconds pati
         }
         if (now - since >= patience || now - begin >= longestQueue * patience)
             throw RunTimeError(runTimeErrors::permissionDenied,
-                               another() + " is changing the site " + siteFolder +
-                                   " and did not finish in time");
+                               another() + " is changing " + shown + " and did not finish in time");
         if (!told && now - begin >= untilNotice) {
-            notice("waiting for " + another() + " that is changing the site " + siteFolder);
+            notice("waiting for " + another() + " that is changing " + shown);
             told = true;
         }
         std::this_thread::sleep_for(nap);

@@ -24,12 +24,13 @@ public:
     using Notice = std::function<void(const std::string&)>;
 
     /// Takes the turn on the site in a folder of the machine, or waits for it; `notice` hears of a
-    /// wait of more than a second. Where nobody may
+    /// wait of more than a second. What is changed has the name `changed` in sentences, "the site
+    /// FOLDER" where that is empty. Where nobody may
     /// write there is none to take, and none is needed. Raises 70, with a sentence, when others
     /// keep it too long or a link lies in its place; 76, 57, 61.
     explicit SiteTurn(const std::string& siteFolder,
-                      std::chrono::milliseconds patience = usualPatience,
-                      const Notice& notice = {});
+                      std::chrono::milliseconds patience = usualPatience, const Notice& notice = {},
+                      const std::string& changed = {});
 
 private:
     FileDescriptor lock_;

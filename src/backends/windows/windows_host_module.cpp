@@ -26,7 +26,9 @@ WindowsHostModule::WindowsHostModule(WindowsHostFacts facts) : facts_(std::move(
 {
     const std::wstring path = pathOf(facts_.module);
     const std::size_t end = path.rfind(L'\\');
-    folder_ = utf8Of(std::wstring_view(path).substr(0, end == std::wstring::npos ? 0 : end));
+    folder_ = !facts_.folder.empty()
+                  ? facts_.folder
+                  : utf8Of(std::wstring_view(path).substr(0, end == std::wstring::npos ? 0 : end));
     readVersion(path);
 }
 

@@ -9,6 +9,7 @@
 /// What a host tells of itself and of the tool's module.
 struct WindowsHostFacts {
     HMODULE module = nullptr; ///< the tool's own: a library, or null for the program itself
+    std::string folder = {};  ///< where the tool's files lie; empty for the module's own folder
 
     /// Stands for a developer at a debugger, who gives a statement up that has failed ten times in
     /// a row: a switch may never be turned off, and no run is to be endless.

@@ -2,6 +2,7 @@
 
 #include "backends/windows/windows_error.h"
 #include "runtime/run_time_error.h"
+#include "system/windows/handed_on.h"
 
 #include <algorithm>
 
@@ -65,14 +66,23 @@ std::int32_t WindowsProcesses::start(const std::string& commandLine, WindowStyle
     lastReport_ = {};
     std::wstring line = wideOf(std::string_view(commandLine).substr(0, commandLine.find('\0')));
     if (line.find_first_not_of(L" \t") == std::wstring::npos) throw RunTimeError(fileNotFound);
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    startup.dwFlags = STARTF_USESHOWWINDOW;
-    startup.wShowWindow =
+    // Left to itself the system has a program write among what this one writes.
+    const OwnedHandle nowhere = openNowhere(GENERIC_READ | GENERIC_WRITE);
+    HandleList handedOn({nowhere.get()});
+    if (!nowhere.isOpen() || !handedOn.isUsable()) throw RunTimeError(invalidCall);
+    STARTUPINFOEXW startup{};
+    startup.StartupInfo.cb = sizeof startup;
+    startup.StartupInfo.dwFlags = STARTF_USESHOWWINDOW | STARTF_USESTDHANDLES;
+    startup.StartupInfo.wShowWindow =
         static_cast<WORD>(window == WindowStyle::hidden ? SW_HIDE : SW_SHOWNORMAL);
+    startup.StartupInfo.hStdInput = nowhere.get();
+    startup.StartupInfo.hStdOutput = nowhere.get();
+    startup.StartupInfo.hStdError = nowhere.get();
+    startup.lpAttributeList = handedOn.get();
     PROCESS_INFORMATION process{};
-    if (!::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                          &startup, &process))
+    if (!::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE,
+                          EXTENDED_STARTUPINFO_PRESENT, nullptr, nullptr, &startup.StartupInfo,
+                          &process))
         refuse(commandLine, ::GetLastError());
     const OwnedHandle thread(process.hThread);
     const auto id = static_cast<std::int32_t>(process.dwProcessId);

@@ -283,23 +283,29 @@ XmlElementPtr firstElementOf(const Tree& tree, xmlNode* from, const std::string&
 
 class LibxmlDocument final : public XmlDocument {
 public:
-    LibxmlDocument(const FileSystem& files, const CodePage& codePage)
+    LibxmlDocument(const FileSystem* files, const CodePage& codePage)
         : files_(files), codePage_(codePage)
     {}
 
     bool load(const std::string& path) override
     {
         tree_ = newTree();
+        if (files_ == nullptr) return false;
         std::optional<std::string> text;
         try {
-            text = xmlText(files_.openForReading(path)->readAll(), codePage_);
+            text = xmlText(files_->openForReading(path)->readAll(), codePage_);
         } catch (const RunTimeError&) {
             return false;
         }
-        Tree loaded = text ? parsed(*text) : nullptr;
-        if (!loaded) return false;
-        tree_ = std::move(loaded);
-        return true;
+        return text && loadText(*text);
+    }
+
+    bool loadText(const std::string& text) override
+    {
+        Tree loaded = parsed(text);
+        const bool sound = loaded != nullptr;
+        tree_ = sound ? std::move(loaded) : newTree();
+        return sound;
     }
 
     XmlElementPtr appendDocumentElement(const std::string& name) override
@@ -341,7 +347,7 @@ private:
         return node ? std::make_shared<LibxmlElement>(tree_, node) : nullptr;
     }
 
-    const FileSystem& files_;
+    const FileSystem* files_; ///< null for none
     CodePage codePage_;
     Tree tree_ = newTree();
 };

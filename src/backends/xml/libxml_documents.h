@@ -15,13 +15,16 @@ class LibxmlDocuments final : public XmlService {
 public:
     /// `codePage` is that of the server.
     explicit LibxmlDocuments(const FileSystem& files, const CodePage& codePage = windows1252())
-        : files_(files), codePage_(codePage)
+        : files_(&files), codePage_(codePage)
     {}
+
+    /// Documents of texts alone: there are no files to load.
+    LibxmlDocuments() : codePage_(windows1252()) {}
 
     std::unique_ptr<XmlDocument> newDocument() override;
     std::string textOf(std::string_view bytes) const override;
 
 private:
-    const FileSystem& files_;
+    const FileSystem* files_ = nullptr;
     CodePage codePage_;
 };

@@ -24,6 +24,12 @@ Argument& Argument::withDefault()
     return *this;
 }
 
+Argument& Argument::oneAtATime()
+{
+    option_->allow_extra_args(false);
+    return *this;
+}
+
 Argument& Argument::oneOf(const std::vector<std::string>& words)
 {
     option_->check(CLI::IsMember(words));

@@ -28,6 +28,9 @@ public:
     /// The help shows what the variable holds now as what is taken where nothing is given.
     Argument& withDefault();
 
+    /// Takes one value each time that it is given: what follows it is not its own.
+    Argument& oneAtATime();
+
     /// Refuses other words, and names these in the help.
     Argument& oneOf(const std::vector<std::string>& words);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -12,8 +13,8 @@ class Output;
 
 /// What stands before the command on the command line.
 struct GlobalOptions {
-    std::string site;       ///< folder of the site; never empty
-    std::string toolFolder; ///< the person's own; empty for that of the site
+    std::optional<std::string> site; ///< folder of the site; none for the machine itself
+    std::string toolFolder;          ///< the person's own; empty for that of the site
     bool json = false;
     bool developmentHost = false;
 };

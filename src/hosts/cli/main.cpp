@@ -11,7 +11,6 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <cstdio>
 #include <exception>
 #include <utility>
 
@@ -31,6 +30,15 @@ int refuseUsage(const CLI::App& app, const std::string& text)
     return refuse(text + " (see " + chosenCommand(app) + " --help)", 2);
 }
 
+/// Tells what the person asked of the program itself.
+int tell(const std::string& text)
+{
+    Output output(false);
+    output.text(text);
+    output.finish();
+    return 0;
+}
+
 int run(std::vector<std::string> arguments)
 {
     GlobalOptions options;
@@ -39,11 +47,9 @@ int run(std::vector<std::string> arguments)
     try {
         app->parse(std::move(arguments));
     } catch (const CLI::CallForHelp&) {
-        std::fputs(app->help().c_str(), stdout);
-        return 0;
+        return tell(app->help());
     } catch (const CLI::CallForVersion&) {
-        std::printf("%s\n", versionText().c_str());
-        return 0;
+        return tell(versionText() + "\n");
     } catch (const CLI::ParseError& error) {
         std::string wrong = unknownCommand(*app);
         if (wrong.empty() && error.get_name() == "RequiredError") wrong = missingCommand(*app);

@@ -3,7 +3,10 @@
 #include "hosts/cli/program.h"
 #include "hosts/cli/terminal/message.h"
 #include "hosts/common/places.h"
+#include "hosts/common/site_server.h"
+#include "hosts/machine/open_machine.h"
 #include "runtime/run_time_error.h"
+#include "system/file_facts.h"
 
 namespace cli {
 
@@ -23,10 +26,20 @@ HostFacts hostFacts(const GlobalOptions& options)
     return facts;
 }
 
+MachineFacts machineFacts(const GlobalOptions& options)
+{
+    MachineFacts facts;
+    facts.toolFolder = options.toolFolder;
+    facts.developmentHost = options.developmentHost;
+    facts.interrupted = interruptNoted;
+    return facts;
+}
+
 /// The site's folder, once it is sure that a tool that changes something can keep its log and its
 /// registry there.
 const std::string& usableSite(const std::string& folder, ToolUse use)
 {
+    if (folder.empty()) throw CommandFailure("the folder of the site has no name");
     if (!isSite(folder))
         throw CommandFailure(folder +
                              " is not a site (no site.ini, registry.reg or drive_c in it); " +
@@ -36,23 +49,29 @@ const std::string& usableSite(const std::string& folder, ToolUse use)
     return folder;
 }
 
+std::unique_ptr<ServerAccess> serverToOpen(const GlobalOptions& options, ToolUse use)
+{
+    if (!options.site) return openMachine(machineFacts(options));
+    return std::make_unique<SiteServer>(usableSite(*options.site, use), places::installedData(),
+                                        hostFacts(options), SiteUse::look);
+}
+
 } // namespace
 
 OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check)
-    : ToolOnSite(usableSite(options.site, use), places::installedData(), hostFacts(options),
-                 SiteUse::look, desktop_),
-      use_(use)
+    : AroundTool{{}, serverToOpen(options, use), {}, {}},
+      ToolOnServer(*access_, ServerUse::look, desktop_), use_(use)
 {
     const bool changes = use != ToolUse::look && writable();
     database().waitAsOneRun();
     if (check) check(*this);
-    if (use == ToolUse::change) turn_.emplace(takeTurn());
+    if (use == ToolUse::change) turn_ = takeTurn();
     if (use != ToolUse::look) interrupt_.emplace();
     if (changes)
         startChanges();
     else
         forgetContext();
-    load();
+    loadAndShow();
     registry().forget(); // what the tool notes as it starts is no part of a command
     if (!interrupted()) return;
     close();
@@ -79,21 +98,14 @@ void OpenTool::close()
         throw CommandFailure(registry().refusal());
 }
 
-SiteTurn OpenTool::takeTurn()
+HeldTurn OpenTool::takeTurn()
 {
-    return SiteTurn(site().folder(), SiteTurn::usualPatience, printMessage);
+    return server().takeTurn(printMessage);
 }
 
 bool OpenTool::keeps(const std::string& path)
 {
-    return writable() || !site().paths().isOfSite(path);
-}
-
-std::string OpenTool::toolPath(const std::string& typed)
-{
-    std::string path = places::wholePath(typed);
-    site().paths().permit(path);
-    return path;
+    return writable() || !server().isServers(path);
 }
 
 void OpenTool::requireDatabase()

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "backends/site/site_turn.h"
 #include "hosts/cli/command.h"
 #include "hosts/cli/terminal/interrupt.h"
 #include "hosts/cli/terminal/terminal_desktop.h"
-#include "hosts/common/tool_on_site.h"
+#include "hosts/common/tool_on_server.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -23,25 +23,26 @@ enum class ToolUse {
 /// What has to be there before a command's tool and as long as it.
 struct AroundTool {
     TerminalDesktop desktop_;
-    std::optional<SiteTurn> turn_;
+    std::unique_ptr<ServerAccess> access_;
+    HeldTurn turn_;
     std::optional<InterruptWish> interrupt_;
 };
 
-/// The tool at work on a site: from its loading to its unloading, with a terminal for a desktop.
+/// The tool at work on a server: from its loading to its unloading, with a terminal for a desktop.
 ///
 /// A program that leaves something there is not ended in the middle: Ctrl-C, SIGTERM and SIGHUP are
 /// a wish (`interrupted`) from the moment the tool is loaded.
-class OpenTool final : private AroundTool, public ToolOnSite {
+class OpenTool final : private AroundTool, public ToolOnServer {
 public:
     using Check = std::function<void(OpenTool&)>;
 
-    /// Opens the site, and loads the snap-in into a console. Raises CommandFailure for a folder
+    /// Opens the server, and loads the snap-in into a console. Raises CommandFailure for a folder
     /// that is no site, or may not be written to by a command that changes it; RunTimeError for a
-    /// damaged one, and for one that another program keeps on changing.
+    /// damaged one, and for a server that another program keeps on changing.
     ///
-    /// `check` looks at the command's arguments on the open site, before the tool starts and before
-    /// anything is made there: what it raises ends the command with nothing changed. Its context
-    /// is one of a tool that looks, and goes afterwards.
+    /// `check` looks at the command's arguments on the open server, before the tool starts and
+    /// before anything is made there: what it raises ends the command with nothing changed. Its
+    /// context is one of a tool that looks, and goes afterwards.
     ///
     /// A wish to end while the tool loads ends the command (CommandFailure) with the tool unloaded.
     OpenTool(const GlobalOptions& options, ToolUse use, const Check& check = {});
@@ -49,7 +50,7 @@ public:
     /// Unloads the snap-in when a failure kept the command from `close`.
     ~OpenTool();
 
-    /// Unloads the snap-in, and lets others change the site. Says, when the tool's own log could
+    /// Unloads the snap-in, and lets others change the server. Says, when the tool's own log could
     /// not be written, why. Raises what the snap-in raises, and CommandFailure when the registry
     /// did not take what a command was to change.
     void close();
@@ -59,13 +60,12 @@ public:
     /// Whether the person wished the command to end.
     bool interrupted() const { return interrupt_ && interrupt_->made(); }
 
-    /// Whether a file can be left at a path of the tool as far as the site goes: a read-only one
+    /// Whether a file can be left at a path of the tool as far as the server goes: a read-only one
     /// takes none. Raises as `machinePath`.
     bool keeps(const std::string& path);
 
-    /// A path as a person types it: a drive's path stays, another one is this machine's own, which
-    /// the tool may reach from then on.
-    std::string toolPath(const std::string& typed);
+    /// A path as a person types it, as one of the tool, which may be reached from then on.
+    std::string toolPath(const std::string& typed) { return server().toolPath(typed); }
 
     /// Raises CommandFailure, with the reason, when the tool has no connection to the server's
     /// database.
@@ -75,7 +75,7 @@ public:
     ScopeItem& processes();
 
 private:
-    SiteTurn takeTurn();
+    HeldTurn takeTurn();
 
     ToolUse use_;
 };

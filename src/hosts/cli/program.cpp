@@ -3,6 +3,7 @@
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/common/places.h"
+#include "hosts/machine/open_machine.h"
 
 #include <CLI/CLI.hpp>
 
@@ -18,6 +19,14 @@ constexpr const char* introduction =
     "  export ORVAN_SITE=~/orvan-sample\n"
     "  orvandiag status";
 
+constexpr const char* introductionOnAServer =
+    "Diagnoses an Orvan voice-messaging server: turns its traces on and off, reads its logs, and\n"
+    "gathers them into one folder to send to support.\n\n"
+    "It works on this machine, or on a site: a copy of a server in a folder. Make one to try\n"
+    "things on:\n\n"
+    "  orvandiag sample orvan-sample\n"
+    "  orvandiag --site orvan-sample status";
+
 /// Sets off what the program is for from how it is used.
 class HelpText final : public CLI::Formatter {
 public:
@@ -30,6 +39,23 @@ public:
 
 /// The group that help, completion and manual page leave out.
 constexpr const char* hidden = "";
+
+/// The site that is taken where none is given; empty for the machine itself.
+std::string siteByDefault()
+{
+    return machineIsAServer() ? places::siteOfEnvironment() : places::defaultSite();
+}
+
+const char* siteHelp()
+{
+    return machineIsAServer() ? "the site's folder; else %ORVAN_SITE%, else this machine itself"
+                              : "the site's folder; else $ORVAN_SITE, else the user's data folder";
+}
+
+const char* introductionHere()
+{
+    return machineIsAServer() ? introductionOnAServer : introduction;
+}
 
 std::string closing()
 {
@@ -51,14 +77,12 @@ const CLI::App& innermostOf(const CLI::App& app)
 std::unique_ptr<CLI::App> describeCommandLine(GlobalOptions& options,
                                               const std::vector<std::unique_ptr<Command>>& commands)
 {
-    auto app = std::make_unique<CLI::App>(introduction, "orvandiag");
+    auto app = std::make_unique<CLI::App>(introductionHere(), "orvandiag");
     app->allow_windows_style_options(false); // a path of the machine begins with a slash there, too
     app->formatter(std::make_shared<HelpText>());
     app->footer(closing());
-    options.site = places::defaultSite();
-    app->add_option("--site", options.site,
-                    "the site's folder; else $ORVAN_SITE, else the user's data folder")
-        ->type_name("DIR");
+    if (const std::string site = siteByDefault(); !site.empty()) options.site = site;
+    app->add_option("--site", options.site, siteHelp())->type_name("DIR");
     app->add_option("--tool-folder", options.toolFolder,
                     "the folder of the tool's files, also one of this machine; else the site's")
         ->type_name("DIR");

@@ -22,12 +22,12 @@ DirectoryDatabase::DirectoryDatabase(Site& site)
     : file_(site.database()), server_(serverOf(site.settings())),
       inUse_(eitherOf(server_.get(), file_))
 {
-    openFor(SiteUse::look);
+    openFor(ServerUse::look);
 }
 
-void DirectoryDatabase::openFor(SiteUse use)
+void DirectoryDatabase::openFor(ServerUse use)
 {
-    if (server_) server_->openFor(use == SiteUse::look ? OdbcUse::look : OdbcUse::change);
+    if (server_) server_->openFor(use == ServerUse::look ? OdbcUse::look : OdbcUse::change);
 }
 
 std::unique_ptr<DatabaseConnection> DirectoryDatabase::anotherToLook() const

@@ -2,30 +2,27 @@
 
 #include "backends/odbc/odbc_database.h"
 #include "backends/site/site.h"
-#include "platform/database.h"
+#include "hosts/common/server_database.h"
 
 #include <memory>
 #include <string>
 
 /// The directory database that the tool on a site works with: the site's own file, or the server's
 /// that its `site.ini` names.
-class DirectoryDatabase final : public DatabaseConnection {
+class DirectoryDatabase final : public ServerDatabase {
 public:
     /// `site` outlives this.
     explicit DirectoryDatabase(Site& site);
 
-    /// What later calls of `open` open it for; at first for a look. The site itself says so to its
-    /// own file.
-    void openFor(SiteUse use);
+    /// The site itself says so to its own file.
+    void openFor(ServerUse use) override;
 
-    /// Another connection to the same database, closed yet, for a look.
-    std::unique_ptr<DatabaseConnection> anotherToLook() const;
+    std::unique_ptr<DatabaseConnection> anotherToLook() const override;
 
-    /// As of `SiteDatabase`, for the site's own file. A server makes each call lasting by itself,
-    /// and lets nobody wait for another's.
-    void waitAsOneRun();
-    void holdCalls();
-    void letCallsGo();
+    /// As of `SiteDatabase`, for the site's own file.
+    void waitAsOneRun() override;
+    void holdCalls() override;
+    void letCallsGo() override;
 
     int state() const override { return inUse_.state(); }
     void open(const std::string& connectionString, const std::string& user,

@@ -1,5 +1,6 @@
 #include "hosts/common/places.h"
 
+#include "platform/tool_files.h"
 #include "system/environment.h"
 #include "system/machine_path.h"
 #include "system/process.h"
@@ -9,9 +10,14 @@
 
 namespace fs = std::filesystem;
 
+std::string places::siteOfEnvironment()
+{
+    return environmentVariable("ORVAN_SITE").value_or("");
+}
+
 std::string places::defaultSite()
 {
-    if (const auto site = environmentVariable("ORVAN_SITE"); site && !site->empty()) return *site;
+    if (const std::string site = siteOfEnvironment(); !site.empty()) return site;
     return machineTextOf(filePathOf(userDataFolder()) / "orvandiag" / "site");
 }
 
@@ -20,7 +26,10 @@ std::string places::installedData()
     std::error_code none;
     const fs::path program = filePathOf(ownProgramFile());
     if (program.empty()) return {};
-    const fs::path prefix = program.parent_path().parent_path();
+    const fs::path own = program.parent_path();
+    // On Windows the tool's folder holds programs and data alike.
+    if (fs::is_regular_file(own / toolFiles::blankDatabase, none)) return machineTextOf(own);
+    const fs::path prefix = own.parent_path();
     for (const fs::path& folder : {prefix / "share" / "orvandiag", prefix / "data"})
         if (fs::is_directory(folder, none)) return machineTextOf(folder);
     return {};

@@ -5,11 +5,15 @@
 /// Where things lie on the machine.
 namespace places {
 
+/// `$ORVAN_SITE`; the empty text where it is not set.
+std::string siteOfEnvironment();
+
 /// The site that is opened when none is named: `$ORVAN_SITE`, or the one in the user's data folder.
 std::string defaultSite();
 
-/// The folder of what ships with the tool: beside the program when it is built, below share/ when
-/// it is installed. The empty text when there is none.
+/// The folder of what ships with the tool: the program's own where that holds it, as on Windows;
+/// beside it when it is built, below share/ when it is installed. The empty text when there is
+/// none.
 std::string installedData();
 
 /// A path as a person types it on a command line: a drive's path stays, as does the empty text;

@@ -1,6 +1,7 @@
 #include "hosts/common/sentence.h"
 
 #include "runtime/text.h"
+#include "system/machine_path.h"
 
 std::string Sentence::text() const
 {
@@ -15,7 +16,7 @@ std::string withInserts(std::string_view pattern, const std::vector<std::string>
                           pattern[i + 1] <= '9';
         const std::size_t number = mark ? static_cast<std::size_t>(pattern[i + 1] - '1') : 0;
         if (mark && number < inserts.size()) {
-            text += inserts[number];
+            text += shownPathOf(inserts[number]);
             ++i;
         } else {
             text += pattern[i];

@@ -1,11 +1,14 @@
 #include "hosts/desktop/open_tool.h"
 
 #include "runtime/run_time_error.h"
+#include "system/file_facts.h"
 #include "text/visible_text.h"
 
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
+#include <memory>
+#include <utility>
 
 namespace desktop {
 
@@ -17,9 +20,10 @@ OpenTool::OpenTool(const std::string& folder, const std::string& installedData,
 
 void OpenTool::close()
 {
-    unload([this]() -> std::optional<SiteTurn> {
+    unload([this]() -> HeldTurn {
         if (looksOnly() || !present()) return {};
-        return turn();
+        auto taken = turn();
+        return taken ? std::make_shared<SiteTurn>(std::move(*taken)) : nullptr;
     });
 }
 

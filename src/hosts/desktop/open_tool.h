@@ -18,7 +18,8 @@ public:
     OpenTool(const std::string& folder, const std::string& installedData, const HostFacts& facts,
              Desktop& desktop);
 
-    using ToolOnSite::load;
+    /// Loads the snap-in and selects the root. Raises what loading raises.
+    void load() { loadAndShow(); }
 
     /// Unloads the snap-in, once, in a turn of its own where that can be had. Raises what unloading
     /// raises.

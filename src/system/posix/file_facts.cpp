@@ -18,6 +18,8 @@ FileKind kindOf(mode_t mode)
         return FileKind::folder;
     case S_IFLNK:
         return FileKind::link;
+    case S_IFIFO:
+        return FileKind::pipe;
     default:
         return FileKind::other;
     }

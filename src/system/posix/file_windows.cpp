@@ -152,6 +152,11 @@ bool FileWindows::failed() const
     return memory_->failed();
 }
 
+bool FileWindows::cut(std::uint64_t bytes)
+{
+    return resize(memory_->file(), bytes);
+}
+
 void FileWindows::goOn()
 {
     memory_->goOn();

@@ -1,5 +1,10 @@
 #include "system/machine_path.h"
 
+bool machineHasDrives()
+{
+    return false;
+}
+
 std::filesystem::path filePathOf(std::string_view path)
 {
     return path;
@@ -8,6 +13,11 @@ std::filesystem::path filePathOf(std::string_view path)
 std::string machineTextOf(const std::filesystem::path& path)
 {
     return path.string();
+}
+
+std::string shownPathOf(std::string_view path)
+{
+    return std::string(path);
 }
 
 std::string wholePathOf(std::string_view path)

@@ -428,3 +428,16 @@ FileDescriptor openMachineFile(const std::string& path, const FileOpening& openi
     if (!file.isOpen() && !isNoFile(errno)) throw systemError(errno, missing);
     return requirePlain(std::move(file), path);
 }
+
+FileDescriptor openMachinePipe(const std::string& path, int missing)
+{
+    const auto isPipe = [](const std::optional<FileFacts>& facts) {
+        return facts && facts->kind == FileKind::pipe;
+    };
+    // Looked at first, as opening a device may do something.
+    if (!isPipe(factsOf(path))) throw RunTimeError(permissionDenied);
+    FileDescriptor pipe(::open(path.c_str(), O_RDONLY | O_NOCTTY | O_CLOEXEC));
+    if (!pipe.isOpen()) throw systemError(errno, missing);
+    if (!isPipe(factsOf(pipe))) throw RunTimeError(permissionDenied);
+    return pipe;
+}

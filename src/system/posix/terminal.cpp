@@ -5,16 +5,39 @@
 
 void writeUtf8ToTerminals() {}
 
+namespace {
+
+bool isTerminal(int descriptor)
+{
+    return ::isatty(descriptor) == 1;
+}
+
+std::optional<int> widthOfTerminal(int descriptor)
+{
+    winsize size{};
+    if (!isTerminal(descriptor) || ::ioctl(descriptor, TIOCGWINSZ, &size) != 0 || size.ws_col == 0)
+        return {};
+    return size.ws_col;
+}
+
+} // namespace
+
 bool errorsGoToATerminal()
 {
-    return ::isatty(STDERR_FILENO) == 1;
+    return isTerminal(STDERR_FILENO);
 }
 
 std::optional<int> widthOfErrorTerminal()
 {
-    winsize size{};
-    if (!errorsGoToATerminal() || ::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) != 0 ||
-        size.ws_col == 0)
-        return {};
-    return size.ws_col;
+    return widthOfTerminal(STDERR_FILENO);
+}
+
+bool outputGoesToATerminal()
+{
+    return isTerminal(STDOUT_FILENO);
+}
+
+std::optional<int> widthOfOutputTerminal()
+{
+    return widthOfTerminal(STDOUT_FILENO);
 }

@@ -2,6 +2,7 @@
 
 #include "system/windows/windows_calls.h"
 
+#include <algorithm>
 #include <cctype>
 
 namespace {
@@ -15,6 +16,11 @@ bool hasDriveAt(std::string_view path, std::size_t place)
 
 } // namespace
 
+bool machineHasDrives()
+{
+    return true;
+}
+
 std::filesystem::path filePathOf(std::string_view path)
 {
     if (path.starts_with('/') && hasDriveAt(path, 1)) path.remove_prefix(1);
@@ -25,6 +31,15 @@ std::string machineTextOf(const std::filesystem::path& path)
 {
     const std::string text = utf8Of(path.generic_wstring());
     return path.has_root_directory() && hasDriveAt(text, 0) ? "/" + text : text;
+}
+
+std::string shownPathOf(std::string_view path)
+{
+    std::string shown(path);
+    if (!path.starts_with('/') || !hasDriveAt(path, 1)) return shown;
+    shown.erase(0, 1);
+    std::replace(shown.begin(), shown.end(), '/', '\\');
+    return shown;
 }
 
 std::string wholePathOf(std::string_view path)

@@ -2,30 +2,21 @@
 
 #include "system/slash_paths.h"
 #include "system/system_error.h"
+#include "system/windows/folder_contents.h"
 #include "system/windows/handle_facts.h"
 #include "system/windows/nt_files.h"
 #include "system/windows/passed_on.h"
 #include "system/windows/security.h"
 #include "text/utf8.h"
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstring>
 #include <utility>
 #include <winternl.h>
 
 namespace {
 
 using namespace runTimeErrors;
-
-NtOpening forListing()
-{
-    NtOpening opening;
-    opening.access = FILE_LIST_DIRECTORY | READ_CONTROL;
-    opening.options = FILE_DIRECTORY_FILE;
-    return opening;
-}
 
 NtOpening forFolder()
 {
@@ -39,15 +30,6 @@ NtOpening forFacts(LinkItself link = LinkItself::followed)
     NtOpening opening;
     opening.access = READ_CONTROL;
     opening.link = link;
-    return opening;
-}
-
-/// To be removed or to get another name, itself and nothing that it leads to.
-NtOpening forRemoving(ULONG options)
-{
-    NtOpening opening;
-    opening.access = DELETE;
-    opening.options = options;
     return opening;
 }
 
@@ -90,96 +72,11 @@ FileDescriptor requirePlain(OwnedHandle file, const std::string& shown)
     return descriptor;
 }
 
-/// What a folder tells of one that is in it.
-struct Entry {
-    std::wstring name;
-    DWORD attributes = 0;
-    std::int64_t size = 0;
-
-    bool isFolder() const
-    {
-        // One that is a link, or mounted from elsewhere, is none of this folder's.
-        return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 &&
-               (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0;
-    }
-};
-
-/// What is in an open folder, without "." and "..". Raises 76, 70.
-std::vector<Entry> entriesOf(HANDLE folder)
-{
-    std::vector<Entry> entries;
-    std::vector<char> buffer(65536);
-    auto kind = FileIdBothDirectoryRestartInfo;
-    for (;;) {
-        if (::GetFileInformationByHandleEx(folder, kind, buffer.data(),
-                                           static_cast<DWORD>(buffer.size())) == 0) {
-            // An empty root of a drive has not even "." in it.
-            const DWORD error = ::GetLastError();
-            if (error == ERROR_NO_MORE_FILES || error == ERROR_FILE_NOT_FOUND) return entries;
-            throw systemError(noteError(), pathNotFound);
-        }
-        kind = FileIdBothDirectoryInfo;
-        for (const char* at = buffer.data();;) {
-            const auto* entry = reinterpret_cast<const FILE_ID_BOTH_DIR_INFO*>(at);
-            std::wstring name(entry->FileName, entry->FileNameLength / sizeof(wchar_t));
-            if (name != L"." && name != L"..")
-                entries.push_back(
-                    {std::move(name), entry->FileAttributes, entry->EndOfFile.QuadPart});
-            if (entry->NextEntryOffset == 0) break;
-            at += entry->NextEntryOffset;
-        }
-    }
-}
-
-std::int64_t sizeOf(HANDLE folder)
-{
-    std::int64_t size = 0;
-    for (const auto& entry : entriesOf(folder)) {
-        if (entry.isFolder()) {
-            const OwnedHandle below = openIn(folder, entry.name, forListing());
-            if (!below.isOpen()) throw systemError(errno, pathNotFound);
-            size += sizeOf(below.get());
-        } else if ((entry.attributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
-            size += entry.size;
-        }
-    }
-    return size;
-}
-
-void removeContents(HANDLE folder)
-{
-    for (const auto& entry : entriesOf(folder)) {
-        if (entry.isFolder()) {
-            const OwnedHandle below = openIn(folder, entry.name, forListing());
-            if (!below.isOpen()) throw systemError(errno, pathNotFound);
-            removeContents(below.get());
-        } else if ((entry.attributes & FILE_ATTRIBUTE_READONLY) != 0) {
-            throw RunTimeError(permissionDenied);
-        }
-        const OwnedHandle itself = openIn(folder, entry.name, forRemoving(0));
-        if (!itself.isOpen() || !removeOpen(itself.get())) throw systemError(errno, pathNotFound);
-    }
-}
-
 /// Whether the system's error says that nothing is there, or that nobody may look: a name may lead
 /// on there all the same. Any other says that the machine failed.
 bool isAnAnswer(int error)
 {
     return error == ENOENT || error == ENOTDIR || error == EACCES || error == ENAMETOOLONG;
-}
-
-/// A name in the case that it has on the disk, in which the system looks up any; nothing when there
-/// is no such name. Raises 57 where the machine could not tell.
-std::optional<std::string> nameOnDisk(HANDLE folder, const std::string& wanted)
-{
-    const auto folded = foldCase(wanted);
-    std::optional<std::string> found;
-    for (const auto& entry : entriesOf(folder)) {
-        std::string name = utf8Of(entry.name);
-        if (name == wanted) return name;
-        if ((!found || name < *found) && foldCase(name) == folded) found = std::move(name);
-    }
-    return found;
 }
 
 /// Whether a path begins at the machine's own top.
@@ -514,4 +411,9 @@ FileDescriptor openMachineFile(const std::string& path, const FileOpening& openi
                            "Permission denied: " + path + " is a link that is not followed");
     if (!file.isOpen()) throw systemError(errno, missing);
     return requirePlain(std::move(file), path);
+}
+
+FileDescriptor openMachinePipe(const std::string&, int)
+{
+    throw RunTimeError(permissionDenied); // no path leads to one that is read once, as a file is
 }

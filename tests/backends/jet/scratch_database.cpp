@@ -7,7 +7,6 @@
 
 #include <fstream>
 #include <iterator>
-#include <stdlib.h>
 
 std::string bytesOfFile(const std::filesystem::path& path)
 {
@@ -51,6 +50,13 @@ bool isHarmless(const std::string& problems)
            problems.find("Unrecognized") == std::string::npos;
 }
 
+std::uint64_t pagesOf(const std::filesystem::path& path)
+{
+    const auto size = std::filesystem::file_size(path);
+    EXPECT_EQ(0u, size % 4096);
+    return size / 4096;
+}
+
 int pagesWithoutType(const std::filesystem::path& path)
 {
     const std::string bytes = bytesOfFile(path);
@@ -75,18 +81,9 @@ jet::Schema traceSchema()
 
 ScratchDatabase::ScratchDatabase() : ScratchDatabase(traceSchema()) {}
 
-ScratchDatabase::ScratchDatabase(const jet::Schema& schema)
+ScratchDatabase::ScratchDatabase(const jet::Schema& schema) : path_(folder_ / "trace.mdb")
 {
-    std::string folder = (std::filesystem::temp_directory_path() / "orvan_jet_XXXXXX").string();
-    if (mkdtemp(folder.data()) == nullptr) ADD_FAILURE() << "no scratch folder";
-    path_ = std::filesystem::path(folder) / "trace.mdb";
     std::ofstream(path_, std::ios::binary) << jet::blankDatabase(schema);
-}
-
-ScratchDatabase::~ScratchDatabase()
-{
-    std::error_code ignored;
-    std::filesystem::remove_all(folder(), ignored);
 }
 
 jet::JetEngine machineEngine()

@@ -3,6 +3,7 @@
 #include "backends/jet/jet_engine.h"
 #include "backends/jet/reader.h"
 #include "backends/jet/schema/blank_database.h"
+#include "support/temporary_folder.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -26,6 +27,9 @@ std::string problemsOf(const std::filesystem::path& path);
 /// row behind.
 bool isHarmless(const std::string& problems);
 
+/// How long a database is, in pages.
+std::uint64_t pagesOf(const std::filesystem::path& path);
+
 /// How many pages of a file say of no type what they are, as one that was never written would.
 int pagesWithoutType(const std::filesystem::path& path);
 
@@ -40,9 +44,6 @@ class ScratchDatabase {
 public:
     ScratchDatabase();
     explicit ScratchDatabase(const jet::Schema& schema);
-    ~ScratchDatabase();
-    ScratchDatabase(const ScratchDatabase&) = delete;
-    ScratchDatabase& operator=(const ScratchDatabase&) = delete;
 
     const std::filesystem::path& path() const { return path_; }
     std::filesystem::path folder() const { return path_.parent_path(); }
@@ -50,6 +51,7 @@ public:
     std::vector<TextRow> rows(const std::string& table) const { return rowsOf(path_, table); }
 
 private:
+    TemporaryFolder folder_;
     std::filesystem::path path_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <string>
 
@@ -136,6 +137,15 @@ TEST(CodePages, RefusesWhatIsNoSingleBytePageOfAsciiKind)
         {"a number too large", 65535},
     };
     for (const auto& c : cases) EXPECT_FALSE(codePageOf(c.number)) << c.because;
+}
+
+TEST(CodePages, AreListedWhereTheMachineKnowsThem)
+{
+    const std::vector<int> known = knownCodePages();
+    EXPECT_TRUE(std::is_sorted(known.begin(), known.end()));
+    for (const int number : known) EXPECT_TRUE(codePageOf(number)) << number;
+    for (const int number : {437, 850, 1250, 1252, 28591})
+        EXPECT_TRUE(std::binary_search(known.begin(), known.end(), number)) << number;
 }
 
 } // namespace

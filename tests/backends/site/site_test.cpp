@@ -30,6 +30,7 @@ protected:
         data.write("blankWPNDB.mdb", "blank");
         fs::permissions(data.write("cabmaker.exe", "#!/bin/sh\n"), fs::perms::owner_all);
         data.write("ZMKbrandingres_FRA.txt", "1062 = D'accord\n");
+        data.write("ZMKbrandingres_FRA.dll", "the machine's, of which a site makes no use");
         data.write("help/index.html", "help");
         data.write("sample/sample.sql", "not the tool's");
     }

@@ -1,4 +1,5 @@
 #include "gather/import_tool.h"
+#include "support/fits_pattern.h"
 
 #include <gmock/gmock.h>
 
@@ -12,7 +13,6 @@ const std::string proc = "[mdlLogs]processOrvanLogFileToDB";
 const std::string exceeded = "Error count exceeded, forcing exit from " + proc;
 const Date morning = dateOf(2005, 10, 8, 9, 30, 0);
 using Texts = std::vector<std::string>;
-using testing::MatchesRegex;
 
 /// How often a line is told to be malformed, in the words for that.
 std::ptrdiff_t timesToldMalformed(TestTool& tool, const std::string& line)
@@ -67,7 +67,7 @@ TEST(ProcessOrvanLogFileToDBErrors, AnErrorOfAnotherNumberIsLoggedWithTheStateme
     tool.importLog(logName);
     ASSERT_EQ(1U, tool.failures(proc).size());
     EXPECT_THAT(tool.failures(proc)[0],
-                MatchesRegex("Err.Number = 13 Err.Description = Type mismatch Line: [0-9]+"));
+                FitsPattern("Err.Number = 13 Err.Description = Type mismatch Line: [0-9]+"));
 }
 
 TEST(ProcessOrvanLogFileToDBErrors, TheEleventhErrorEndsTheFileAtOnce)

@@ -3,6 +3,7 @@
 #include "support/error_of.h"
 #include "support/fakes/fake_desktop.h"
 #include "support/temporary_folder.h"
+#include "system/file_facts.h"
 
 #include <gmock/gmock.h>
 
@@ -81,7 +82,7 @@ TEST_F(ToolOnSiteTest, UnloadsOnceAndWithoutATurnThatDoesNotCome)
 {
     Host host(folder.path(), SiteUse::look, desktop);
     int asked = 0;
-    const auto refused = [&]() -> std::optional<SiteTurn> {
+    const auto refused = [&]() -> HeldTurn {
         ++asked;
         throw RunTimeError(runTimeErrors::permissionDenied);
     };

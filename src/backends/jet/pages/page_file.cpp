@@ -123,7 +123,7 @@ bool PageFile::extendBy(std::uint64_t run)
         return true;
     }
     // What was written of the run goes; where that fails it is empty, which no reader minds.
-    resize(file_, end);
+    windows_->cut(end);
     return false;
 }
 
@@ -138,7 +138,7 @@ void PageFile::trim()
 {
     if (wasCut()) return;
     // Where this fails, empty pages or a part of one stay: what a kill leaves, and no reader minds.
-    if (resize(file_, std::uint64_t{count_} * pageSize)) extent_ = count_;
+    if (windows_->cut(std::uint64_t{count_} * pageSize)) extent_ = count_;
 }
 
 void PageFile::replace(std::uint32_t number, const char* content)

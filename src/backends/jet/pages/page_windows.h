@@ -31,6 +31,9 @@ public:
     /// Writes bytes by a call in place of a store, as `FileWindows::write`.
     std::size_t write(std::string_view bytes, std::uint64_t at) { return memory_.write(bytes, at); }
 
+    /// Cuts the file, as `FileWindows::cut`.
+    bool cut(std::uint64_t bytes) { return memory_.cut(bytes); }
+
     /// Whether a store has not reached the file, and those after it have not either.
     bool failed() const { return memory_.failed(); }
 

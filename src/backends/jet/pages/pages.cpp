@@ -1,6 +1,7 @@
 #include "backends/jet/pages/pages.h"
 
 #include "backends/jet/errors.h"
+#include "runtime/run_time_error.h"
 
 #include <algorithm>
 
@@ -97,6 +98,21 @@ std::vector<std::uint32_t> Pages::usageMap(RowPointer pointer) const
         }
     } else {
         raiseUnknownFormat("a usage map of page " + std::to_string(pointer.page));
+    }
+    return pages;
+}
+
+std::vector<std::uint32_t> Pages::pagesOfOwner(std::uint32_t owner) const
+{
+    std::vector<std::uint32_t> pages;
+    for (std::uint32_t number = 1; number < count_; ++number) {
+        try {
+            const char* page = at(number);
+            if (static_cast<PageType>(page[0]) == PageType::data &&
+                load32(page + dataPage::owner) == owner)
+                pages.push_back(number);
+        } catch (const RunTimeError&) { // NOLINT(bugprone-empty-catch): what is left can be read
+        }
     }
     return pages;
 }

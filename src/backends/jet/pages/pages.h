@@ -53,6 +53,10 @@ public:
     /// The pages in a usage map, ascending; those past the end of the file are left out.
     std::vector<std::uint32_t> usageMap(RowPointer at) const;
 
+    /// The data pages of an owner by what they say themselves, ascending: for a damaged usage map.
+    /// Every page is looked at; those that can't be read are left out.
+    std::vector<std::uint32_t> pagesOfOwner(std::uint32_t owner) const;
+
 private:
     const char* again(std::uint32_t page, const char* before) const
     {

@@ -5,6 +5,7 @@
 #include "backends/jet/schema/properties.h"
 #include "backends/jet/table/row_view.h"
 #include "backends/jet/table/text_value.h"
+#include "runtime/run_time_error.h"
 
 namespace jet {
 
@@ -48,6 +49,66 @@ std::uint32_t numberIn(std::string_view cell)
     return cell.size() == 2 ? load16(cell.data()) : 0;
 }
 
+/// Reads the catalog row by row, so that what is damaged can be passed over.
+class CatalogReading {
+public:
+    CatalogReading(const Pages& pages, std::vector<std::string>* passedOver)
+        : pages_(pages), passedOver_(passedOver), catalog_(readTableDefinition(pages, catalogPage)),
+          columns_(catalog_)
+    {}
+
+    std::vector<TableDefinition> tables()
+    {
+        std::vector<std::uint32_t> numbers;
+        orPass([&] { numbers = pages_.usageMap(catalog_.ownedPages); },
+               [&] { numbers = pages_.pagesOfOwner(catalogPage); });
+        for (const std::uint32_t number : numbers) orPass([&] { readPage(number); });
+        return std::move(tables_);
+    }
+
+private:
+    /// Does a step, and notes what it raises where damage is passed over; then another may help.
+    template <typename Step, typename Instead = void (*)()>
+    void orPass(
+        const Step& step, const Instead& instead = [] {})
+    {
+        try {
+            step();
+        } catch (const RunTimeError& error) {
+            if (passedOver_ == nullptr) throw;
+            passedOver_->push_back(error.description());
+            instead();
+        }
+    }
+
+    void readPage(std::uint32_t number)
+    {
+        const unsigned slots = rowsOn(pages_.dataOf(number, catalogPage));
+        for (unsigned slot = 0; slot < slots; ++slot) orPass([&] { readRow(number, slot); });
+    }
+
+    void readRow(std::uint32_t number, unsigned slot)
+    {
+        // Of its own, as other pages are looked at for it.
+        const std::string bytes(pages_.tableRow(pages_.at(number), slot));
+        if (bytes.empty()) return;
+        const RowView row(catalog_, bytes);
+        if (numberIn(row.cell(columns_.type)) != tableType) return;
+        if ((numberIn(row.cell(columns_.flags)) & systemFlags) != 0) return;
+        auto table = readTableDefinition(pages_, numberIn(row.cell(columns_.id)) & pageOfId);
+        table.name = decodeStoredText(row.cell(columns_.name));
+        orPass(
+            [&] { applyProperties(readLongValue(pages_, row.cell(columns_.properties)), table); });
+        tables_.push_back(std::move(table));
+    }
+
+    const Pages& pages_;
+    std::vector<std::string>* passedOver_;
+    TableDefinition catalog_;
+    CatalogColumns columns_;
+    std::vector<TableDefinition> tables_;
+};
+
 } // namespace
 
 void checkHeader(const Pages& pages)
@@ -55,28 +116,10 @@ void checkHeader(const Pages& pages)
     if (pages.count() == 0 || !isHeaderPage(pages.at(0))) raiseUnknownFormat("the first page");
 }
 
-std::vector<TableDefinition> readCatalog(const Pages& pages)
+std::vector<TableDefinition> readCatalog(const Pages& pages, std::vector<std::string>* passedOver)
 {
     checkHeader(pages);
-    const TableDefinition catalog = readTableDefinition(pages, catalogPage);
-    const CatalogColumns columns(catalog);
-    std::vector<TableDefinition> tables;
-    for (const std::uint32_t number : pages.usageMap(catalog.ownedPages)) {
-        const unsigned slots = rowsOn(pages.dataOf(number, catalogPage));
-        for (unsigned slot = 0; slot < slots; ++slot) {
-            // Of its own, as other pages are looked at for it.
-            const std::string bytes(pages.tableRow(pages.at(number), slot));
-            if (bytes.empty()) continue;
-            const RowView row(catalog, bytes);
-            if (numberIn(row.cell(columns.type)) != tableType) continue;
-            if ((numberIn(row.cell(columns.flags)) & systemFlags) != 0) continue;
-            auto table = readTableDefinition(pages, numberIn(row.cell(columns.id)) & pageOfId);
-            table.name = decodeStoredText(row.cell(columns.name));
-            applyProperties(readLongValue(pages, row.cell(columns.properties)), table);
-            tables.push_back(std::move(table));
-        }
-    }
-    return tables;
+    return CatalogReading(pages, passedOver).tables();
 }
 
 } // namespace jet

@@ -152,6 +152,16 @@ std::string decodeStoredText(std::string_view stored)
     return utf8OfUtf16(storedCharacters(stored));
 }
 
+std::string_view storedTextView(std::string_view stored, std::string& room)
+{
+    if (stored.starts_with(compressedMark)) {
+        const std::string_view characters = stored.substr(compressedMark.size());
+        if (isPlainAscii(characters)) return characters;
+    }
+    room = decodeStoredText(stored);
+    return room;
+}
+
 std::string encodeName(std::string_view name)
 {
     TextValue value;

@@ -65,6 +65,9 @@ constexpr std::size_t plainSize(std::size_t characters)
 /// An odd byte at the end is left out; half of a surrogate pair gives U+FFFD.
 std::string decodeStoredText(std::string_view stored);
 
+/// The same as a view: of the stored bytes where those are the text, else of `room`.
+std::string_view storedTextView(std::string_view stored, std::string& room);
+
 /// UTF-16 in stored order of a UTF-8 text: names, in the definitions of tables.
 std::string encodeName(std::string_view name);
 

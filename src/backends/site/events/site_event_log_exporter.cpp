@@ -2,6 +2,7 @@
 
 #include "backends/common/folder_listing.h"
 #include "backends/common/text_file_reader.h"
+#include "backends/site/files/site_file.h"
 #include "drives/site_paths.h"
 #include "runtime/run_time_error.h"
 #include "system/whole_file.h"
@@ -20,7 +21,7 @@ FileDescriptor openEventLog(const RootFolder& site, const std::string& logName)
     if (const auto folder = site.belowIfThere(eventLogs))
         for (const auto& name : sortedNames(folder->names("")))
             if (foldCase(name) == wanted)
-                return folder->openFile(name, forReading, runTimeErrors::fileNotFound);
+                return openSiteFile(*folder, name, forReading, runTimeErrors::fileNotFound);
     throw RunTimeError(runTimeErrors::fileNotFound);
 }
 

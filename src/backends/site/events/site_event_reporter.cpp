@@ -1,5 +1,6 @@
 #include "backends/site/events/site_event_reporter.h"
 
+#include "backends/site/files/site_file.h"
 #include "platform/clock.h"
 #include "runtime/run_time_error.h"
 #include "system/file_bytes.h"
@@ -61,9 +62,9 @@ void SiteEventReporter::report(const std::string& source, std::int32_t, int type
 
     if (!site_.isFolder(eventLogs)) makeEventLogs(site_);
     const FileDescriptor log =
-        site_.openFile(std::string(eventLogs) + "/Application.jsonl",
-                       {FileAccess::readAndAppend, Creation::ifMissing, LastLink::refused},
-                       runTimeErrors::pathNotFound);
+        openSiteFile(site_, std::string(eventLogs) + "/Application.jsonl",
+                     {FileAccess::readAndAppend, Creation::ifMissing, LastLink::refused},
+                     runTimeErrors::pathNotFound);
     if (endsWithinALine(log)) line.insert(0, "\n");
     writeAll(log, line);
 }

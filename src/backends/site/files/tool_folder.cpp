@@ -18,7 +18,7 @@ namespace {
 /// What lies beside the tool at run time.
 constexpr std::string_view suppliedNames[] = {
     toolFiles::definitionsFolder, toolFiles::blankDatabase, toolFiles::cabinetMaker,
-    "ZMKbrandingres_*",           "OrvanDiagnosticTool*",   "help",
+    "ZMKbrandingres_*.txt",       "OrvanDiagnosticTool*",   "help",
 };
 
 bool isSupplied(std::string_view name)

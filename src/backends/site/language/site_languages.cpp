@@ -4,6 +4,7 @@
 #include "drives/site_paths.h"
 #include "runtime/run_time_error.h"
 #include "system/environment.h"
+#include "system/regional_settings.h"
 #include "system/whole_file.h"
 
 #include <array>
@@ -67,6 +68,7 @@ SiteLanguages::SiteLanguages(std::optional<std::int32_t> language, const SitePat
 std::int32_t SiteLanguages::userDefaultLanguage() const
 {
     if (language_) return *language_;
+    if (const auto setting = languageSetting()) return *setting;
     return languageOfLocale(environmentVariable("LANG").value_or(""));
 }
 

@@ -1,5 +1,6 @@
 #include "backends/site/registry/site_registry.h"
 
+#include "backends/site/files/site_file.h"
 #include "backends/site/registry/registry_file.h"
 #include "runtime/run_time_error.h"
 #include "system/file_lock.h"
@@ -54,7 +55,7 @@ void SiteRegistry::read() const
     known_ = false;
     facts_.reset();
     if (site_.facts(fileName)) {
-        file_ = site_.openFile(fileName, forReading, runTimeErrors::fileNotFound);
+        file_ = openSiteFile(site_, fileName, forReading, runTimeErrors::fileNotFound);
         tree_ = parseRegistryFile(readWholeFile(remember(), runTimeErrors::fileNotFound));
     } else {
         file_ = FileDescriptor();
@@ -177,6 +178,6 @@ void SiteRegistry::save()
     if (facts_) file.resemble(file_);
     file.write(registryFileText(tree_));
     file.commit(true);
-    file_ = site_.openFile(fileName, forReading, runTimeErrors::fileNotFound);
+    file_ = openSiteFile(site_, fileName, forReading, runTimeErrors::fileNotFound);
     remember();
 }

@@ -2,6 +2,7 @@
 
 #include "runtime/run_time_error.h"
 #include "system/environment.h"
+#include "system/regional_settings.h"
 #include "system/whole_file.h"
 
 #include <optional>
@@ -38,6 +39,8 @@ std::optional<PosixTimeZone> zoneOfText(const std::string& text)
 
 PosixTimeZone machineTimeZone()
 {
+    if (const auto setting = timeZoneSetting())
+        return zoneOfText(*setting).value_or(PosixTimeZone{});
     const auto variable = environmentVariable("TZ");
     if (!variable) return zoneOfFile("/etc/localtime").value_or(PosixTimeZone{});
     std::string name = *variable;

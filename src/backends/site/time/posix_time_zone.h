@@ -53,5 +53,6 @@ int offsetAt(const PosixTimeZone& zone, std::int64_t universal);
 /// A moment in local time; the nearest one where a date can't hold it.
 Date localDate(const PosixTimeZone& zone, std::int64_t universal);
 
-/// The machine's own zone: `TZ`, else what /etc/localtime tells, else universal time.
+/// The machine's own zone: on Windows the one it is set to, elsewhere `TZ`, else what
+/// /etc/localtime tells, else universal time.
 PosixTimeZone machineTimeZone();

@@ -1,6 +1,7 @@
 #include "backends/windows/language/windows_languages.h"
 
 #include "backends/windows/files/tool_path.h"
+#include "backends/windows/language/library_file.h"
 #include "runtime/run_time_error.h"
 #include "system/windows/windows_calls.h"
 
@@ -19,7 +20,8 @@ std::string WindowsLanguages::languageName(std::int32_t id) const
     constexpr DWORD longestName = 256;
     wchar_t name[longestName] = {};
     const DWORD length = ::VerLanguageNameW(static_cast<DWORD>(id), name, longestName);
-    return utf8Of({name, length < longestName ? length : 0});
+    // The length counts the zero at the end where the name comes from another place of the system.
+    return length < longestName ? utf8Of(static_cast<const wchar_t*>(name)) : std::string();
 }
 
 std::int32_t WindowsLanguages::loadLibrary(const std::string& path)
@@ -30,6 +32,7 @@ std::int32_t WindowsLanguages::loadLibrary(const std::string& path)
     } catch (const RunTimeError&) {
         return 0; // no library has such a name
     }
+    if (!isWholeLibrary(file)) return 0;
     const HMODULE library = ::LoadLibraryExW(
         file.c_str(), nullptr, DONT_RESOLVE_DLL_REFERENCES | LOAD_LIBRARY_AS_DATAFILE);
     if (library == nullptr) return 0;

@@ -44,8 +44,9 @@ public:
         const std::string refusal = tool.registry().refusalOf(signalName);
         const std::string status = tool.console().currentView().statusBarText();
         if (!after)
-            throw CommandFailure("the signal could not be written: the site's registry has no key "
-                                 "RoLogMgr\\BroadCast that takes it");
+            throw CommandFailure(
+                "the signal could not be written: the server's registry has no key "
+                "RoLogMgr\\BroadCast that takes it");
         if (!refusal.empty()) throw CommandFailure("the signal was not given: " + refusal);
         if (before == after)
             throw CommandFailure("the signal was not given: it is what it was before, and the "

@@ -1,4 +1,3 @@
-#include "backends/site/events/site_event_log_exporter.h"
 #include "core/registry_store.h"
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
@@ -36,9 +35,9 @@ public:
                "database, which is packed into a cabinet together with the event logs. Ctrl-C "
                "cancels,\n"
                "and keeps what was read. --dry-run lists what would be taken.\n\n"
-               "  orvandiag gather standard --to ~/case-4711\n"
+               "  orvandiag gather standard --to case-4711\n"
                "  orvandiag gather logs --log diag_KoCSMgr_20250219_144115.txt --event-log System\n"
-               "  orvandiag gather frame --from \"2025-02-20 16:42\" --hours 1 --to ~/case-4711";
+               "  orvandiag gather frame --from \"2025-02-20 16:42\" --hours 1 --to case-4711";
     }
 
     void declare(Arguments& arguments) override
@@ -78,7 +77,7 @@ public:
         OpenTool tool(options, dryRun_ ? ToolUse::look : ToolUse::add,
                       [&](OpenTool& opened) { requireSound(opened, answers.frame); });
         if (!to_.empty()) answers.destination = tool.toolPath(to_);
-        if (excel_) tool.site().eventLogExporter().writeFor(CsvReader::spreadsheet);
+        if (excel_) tool.server().exportEventsFor(CsvReader::spreadsheet);
         std::optional<GatherOutcome> outcome;
         {
             GatherWizard wizard(tool, answers);

@@ -28,8 +28,8 @@ public:
         return "The folder must be new or empty. The same seed makes the same server, byte for "
                "byte:\n"
                "five processes, three days of logs that end on 20 February 2025 at 17:42.\n\n"
-               "  orvandiag sample ~/orvan-sample\n"
-               "  orvandiag sample /tmp/big --lines 1000000 --fields extended";
+               "  orvandiag sample orvan-sample\n"
+               "  orvandiag sample big --lines 1000000 --fields extended";
     }
 
     void declare(Arguments& arguments) override
@@ -48,6 +48,7 @@ public:
 
     void run(const GlobalOptions&, Output& output) override
     {
+        if (folder_.empty()) throw CommandFailure("the folder to make has no name");
         const fs::path folder = fs::absolute(filePathOf(folder_)).lexically_normal();
         SampleOptions options;
         options.folder = machineTextOf(folder.has_filename() ? folder : folder.parent_path());
@@ -57,9 +58,9 @@ public:
         options.logFields = fields_ == "extended" ? LogFields::extended : LogFields::basic;
         make(options);
         if (output.json())
-            output.value({{"site", options.folder}});
+            output.value({{"site", shownPathOf(options.folder)}});
         else
-            output.line("Made a sample server in " + options.folder);
+            output.line("Made a sample server in " + shownPathOf(options.folder));
     }
 
 private:

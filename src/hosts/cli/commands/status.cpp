@@ -30,7 +30,8 @@ public:
         std::vector<std::string> processes;
         for (const ScopeItem* process : tool.processes().children())
             processes.push_back(process->name());
-        const std::string trouble = logFolderClause(tool);
+        const auto lack = tool.server().lackOfServer();
+        const std::string trouble = lack ? asClause(*lack) : logFolderClause(tool);
         tool.close();
         if (!trouble.empty()) output.message(trouble);
 

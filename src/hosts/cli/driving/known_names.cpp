@@ -1,7 +1,5 @@
 #include "hosts/cli/driving/known_names.h"
 
-#include "backends/site/database/site_database.h"
-#include "backends/site/database/sqlite_handle.h"
 #include "core/localisation.h"
 #include "core/utility.h"
 #include "platform/file_system.h"
@@ -10,6 +8,7 @@
 #include "platform/xml.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
+#include "server/configuration_database.h"
 #include "server/diagnostic_grid_catalogue.h"
 #include "wizards/micro_trace_wizard.h"
 
@@ -116,7 +115,7 @@ bool knownNames::hasComponent(OpenTool& tool, const std::string& component)
 {
     try {
         const auto database = tool.database().anotherToLook();
-        database->open("", "", "");
+        database->open(mdlOrvanDatabase::connectionStringOf("(local)"), "", "");
         const auto rows = database->openRecordset("SELECT Name FROM vw_LoggerDiagnosticGrid",
                                                   CursorKind::forwardOnly, LockKind::readOnly);
         for (; !rows->atEnd(); rows->moveNext())

@@ -3,19 +3,15 @@
 #include "hosts/cli/terminal/message.h"
 #include "hosts/cli/terminal/output.h"
 #include "platform/database.h"
-#include "system/file_bytes.h"
-#include "system/whole_file.h"
 #include "traces/trace_bits.h"
 
 #include <algorithm>
-#include <sstream>
 
 namespace cli {
 
 namespace {
 
 constexpr std::size_t toldAtMost = 5;
-constexpr const char* eventLog = "eventlogs/Application.jsonl";
 
 std::vector<FlagWords> wordsOf(OpenTool& tool, const std::string& failure)
 try {
@@ -32,19 +28,6 @@ std::string told(const std::vector<std::string>& wrong)
     if (wrong.size() > toldAtMost)
         text += "; and " + std::to_string(wrong.size() - toldAtMost) + " more";
     return text;
-}
-
-/// The event of a line of the event log; an id of 0 for a line that is none.
-TraceEvent eventOf(const std::string& line)
-{
-    const auto event = Json::parse(line, nullptr, false);
-    if (!event.is_object() || !event.contains("id") || !event["id"].is_number_integer()) return {};
-    TraceEvent found{event["id"].get<std::int32_t>(), ""};
-    const auto inserts = event.find("inserts");
-    if (inserts != event.end() && inserts->is_array() && !inserts->empty() &&
-        inserts->front().is_string())
-        found.insert = inserts->front().get<std::string>();
-    return found;
 }
 
 } // namespace
@@ -69,7 +52,7 @@ void TraceCheck::expect(TraceExpectation expected)
     expected_ = std::move(expected);
     for (const std::string& part : expected_.impossible)
         printMessage("a macro trace asks for what this server does not have: " + part);
-    eventsBefore_ = eventLogSize();
+    eventsBefore_ = tool_.server().endOfEvents();
     tool_.registry().forget();
     listener_.emplace(tool_.context(), [this](const RunTimeError& error, std::string_view) {
         if (firstError_.empty()) firstError_ = error.description();
@@ -141,42 +124,14 @@ void TraceCheck::compareRecords(std::vector<std::string>& wrong)
 /// Others may report events meanwhile: each of the operation's own is to be among the new ones.
 void TraceCheck::compareEvents(std::vector<std::string>& wrong) const
 {
-    std::vector<TraceEvent> events = newEvents();
-    for (const TraceEvent& event : expected_.events) {
+    std::vector<ReportedEvent> events = tool_.server().eventsSince(eventsBefore_);
+    for (const ReportedEvent& event : expected_.events) {
         const auto found = std::find(events.begin(), events.end(), event);
         if (found == events.end())
             wrong.push_back("the event of \"" + event.insert + "\" is not in the event log");
         else
             events.erase(found);
     }
-}
-
-std::vector<TraceEvent> TraceCheck::newEvents() const
-{
-    std::vector<TraceEvent> events;
-    std::istringstream log(eventLogFrom(eventsBefore_));
-    for (std::string line; std::getline(log, line);)
-        if (const TraceEvent event = eventOf(line); event.id != 0) events.push_back(event);
-    return events;
-}
-
-std::int64_t TraceCheck::eventLogSize() const
-try {
-    const auto facts = tool_.site().paths().root().facts(eventLog);
-    return facts ? facts->size : 0;
-} catch (const RunTimeError&) {
-    return 0;
-}
-
-/// What stands in the event log from an offset on; nothing where it can't be read.
-std::string TraceCheck::eventLogFrom(std::int64_t offset) const
-try {
-    const FileDescriptor log =
-        tool_.site().paths().root().openFile(eventLog, forReading, runTimeErrors::fileNotFound);
-    goTo(log, static_cast<std::uint64_t>(offset));
-    return readWholeFile(log, runTimeErrors::fileNotFound);
-} catch (const RunTimeError&) {
-    return {};
 }
 
 } // namespace cli

@@ -46,15 +46,12 @@ private:
     void compareWords(std::vector<std::string>& wrong);
     void compareRecords(std::vector<std::string>& wrong);
     void compareEvents(std::vector<std::string>& wrong) const;
-    std::vector<TraceEvent> newEvents() const;
-    std::int64_t eventLogSize() const;
-    std::string eventLogFrom(std::int64_t offset) const;
 
     OpenTool& tool_;
     std::vector<FlagWords> present_;
     TraceExpectation expected_;
     std::vector<Level> levels_;
-    std::int64_t eventsBefore_ = 0; ///< bytes of the event log before the operation
+    std::int64_t eventsBefore_ = 0; ///< where they ended before the operation
     std::string firstError_;        ///< that the operation logged and went on after
     std::optional<TrappedErrorListener> listener_;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hosts/cli/driving/flag_words.h"
+#include "hosts/common/server_access.h"
 
 #include <cstdint>
 #include <map>
@@ -13,20 +14,12 @@ struct ToolContext;
 
 namespace cli {
 
-/// An event of the tool with its one insert.
-struct TraceEvent {
-    std::int32_t id;
-    std::string insert;
-
-    auto operator<=>(const TraceEvent&) const = default;
-};
-
 /// What a trace operation is to leave on the server, found without the routines that it runs: their
 /// failures show in what they leave alone.
 struct TraceExpectation {
     std::map<std::string, std::int32_t> words;                   ///< of every component
     std::map<std::pair<std::string, std::string>, bool> records; ///< by group and macro trace
-    std::vector<TraceEvent> events;
+    std::vector<ReportedEvent> events;
 
     /// What the definitions ask for and no server can give, such as "no component Lamp".
     std::vector<std::string> impossible;

@@ -99,14 +99,14 @@ void preview(OpenTool& tool, GatherWizard& wizard, Output& output)
     if (const std::string trouble = logFolderClause(tool); !trouble.empty())
         output.message(trouble);
     if (!output.json()) {
-        output.line("Would gather into " + destination);
+        output.line("Would gather into " + shownPathOf(destination));
         output.text(table(plan, room));
         return;
     }
     Json logs = Json::array();
     for (const PlannedLog& log : plan.logs)
         logs.push_back({{"name", log.name}, {"size", orNull(log.size)}});
-    output.value({{"destination", destination},
+    output.value({{"destination", shownPathOf(destination)},
                   {"logs", logs},
                   {"eventLogs", plan.eventLogs},
                   {"size", plan.size},

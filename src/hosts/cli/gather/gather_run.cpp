@@ -81,31 +81,42 @@ MachinePath machinePathsOf(OpenTool& tool)
 
 } // namespace
 
+namespace {
+
+/// The folder that a path lies in; a root keeps its separator.
+std::string parentOf(const std::string& path)
+{
+    const fs::path parent = filePathOf(path).parent_path();
+    return parent.has_relative_path() ? folderPathOf(path) : machineTextOf(parent);
+}
+
+} // namespace
+
 void requireUsableDestination(OpenTool& tool, const std::string& destination)
 {
     if (!tool.keeps(destination))
-        throw CommandFailure("the site " + tool.site().folder() +
+        throw CommandFailure(tool.server().name() +
                              " is read-only; make its folder writable, or name a destination "
                              "outside of it with --to");
-    const fs::path folder = filePathOf(tool.machinePath(destination));
+    const std::string there = tool.machinePath(destination);
+    const std::string shown = shownPathOf(there);
+    const fs::path folder = filePathOf(there);
     std::error_code none;
     const fs::file_status status = fs::status(folder, none);
     if (none == std::errc::filename_too_long)
-        throw CommandFailure("the destination " + machineTextOf(folder) + " has too long a name");
+        throw CommandFailure("the destination " + shown + " has too long a name");
     if (fs::exists(status)) {
         if (!fs::is_directory(status))
-            throw CommandFailure("the destination " + machineTextOf(folder) + " is not a folder");
-        if (!mayWrite(machineTextOf(folder)))
-            throw CommandFailure("the destination " + machineTextOf(folder) +
-                                 " may not be written to");
+            throw CommandFailure("the destination " + shown + " is not a folder");
+        if (!mayWrite(there))
+            throw CommandFailure("the destination " + shown + " may not be written to");
         return;
     }
-    const fs::path parent = folder.parent_path();
-    if (!fs::is_directory(parent, none))
-        throw CommandFailure("the destination's folder " + machineTextOf(parent) +
-                             " does not exist");
-    if (!mayWrite(machineTextOf(parent)))
-        throw CommandFailure("the destination can't be made: " + machineTextOf(parent) +
+    const std::string parent = parentOf(there);
+    if (!fs::is_directory(filePathOf(parent), none))
+        throw CommandFailure("the destination's folder " + shownPathOf(parent) + " does not exist");
+    if (!mayWrite(parent))
+        throw CommandFailure("the destination can't be made: " + shownPathOf(parent) +
                              " may not be written to");
 }
 
@@ -155,17 +166,17 @@ std::string joined(const std::vector<Sentence>& sentences)
 void print(Output& output, const GatherOutcome& outcome)
 {
     const auto orNull = [](const std::optional<std::string>& path) {
-        return path ? Json(*path) : Json(nullptr);
+        return path ? Json(shownPathOf(*path)) : Json(nullptr);
     };
     if (output.json()) {
-        output.value({{"destination", outcome.destination},
+        output.value({{"destination", shownPathOf(outcome.destination)},
                       {"database", orNull(outcome.database)},
                       {"cabinet", orNull(outcome.cabinet)},
                       {"files", outcome.files}});
         return;
     }
     output.line((outcome.files.empty() ? "Nothing was gathered into " : "Gathered into ") +
-                outcome.destination);
+                shownPathOf(outcome.destination));
     for (const auto& file : outcome.files) output.line("  " + file);
     if (outcome.emptyFrame)
         output.line(Sentence{gatherSentences::emptyFrame, {}}.text());
@@ -188,7 +199,8 @@ void report(Output& output, const GatherOutcome& outcome)
         output.message(asClause({gatherSentences::cabinetMakerReplaced, {}}));
     if (outcome.cancelled)
         throw CommandFailure("cancelled; what was read until then is kept in " +
-                             outcome.destination + (missing.empty() ? "" : "; " + missing));
+                             shownPathOf(outcome.destination) +
+                             (missing.empty() ? "" : "; " + missing));
     if (!missing.empty()) throw CommandFailure("not everything was gathered: " + missing);
 }
 

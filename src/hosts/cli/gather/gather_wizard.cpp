@@ -19,20 +19,31 @@ std::string belowCaption(const Label& label)
     return text.substr(text.rfind(lineBreak) + lineBreak.size());
 }
 
-/// A child by its text in any case; null when there is none.
-TreeNode* childNamed(const TreeNode& parent, const std::string& text)
+/// A node by its text, exactly before in any case; null when there is none.
+TreeNode* named(const std::vector<TreeNode*>& nodes, const std::string& text)
 {
-    for (TreeNode* node = parent.child(); node; node = node->next())
-        if (equalIgnoringCase(node->text(), text)) return node;
-    return nullptr;
+    TreeNode* inOtherCase = nullptr;
+    for (TreeNode* node : nodes) {
+        if (node->text() == text) return node;
+        if (!inOtherCase && equalIgnoringCase(node->text(), text)) inOtherCase = node;
+    }
+    return inOtherCase;
 }
 
-/// A log file of some process, below the root of the server logs.
-TreeNode* logNamed(const TreeNode& root, const std::string& name)
+std::vector<TreeNode*> childrenOf(const TreeNode& parent)
 {
-    for (const TreeNode* process = root.child(); process; process = process->next())
-        if (TreeNode* log = childNamed(*process, name)) return log;
-    return nullptr;
+    std::vector<TreeNode*> children;
+    for (TreeNode* node = parent.child(); node; node = node->next()) children.push_back(node);
+    return children;
+}
+
+/// The log files of all processes, below the root of the server logs.
+std::vector<TreeNode*> logsBelow(const TreeNode& root)
+{
+    std::vector<TreeNode*> logs;
+    for (const TreeNode* process : childrenOf(root))
+        for (TreeNode* log : childrenOf(*process)) logs.push_back(log);
+    return logs;
 }
 
 void tickNode(TreeView& tree, TreeNode* node, const std::string& name)
@@ -79,9 +90,10 @@ void GatherWizard::tickLogs(const GatherAnswers& answers)
 {
     auto& tree = driver_.control<TreeView>("treeviewLogsToGather");
     if (tree.roots().size() < 2) throw CommandFailure("the wizard offers no logs");
-    for (const auto& name : answers.logs) tickNode(tree, logNamed(*tree.roots()[0], name), name);
+    const auto logs = logsBelow(*tree.roots()[0]);
+    for (const auto& name : answers.logs) tickNode(tree, named(logs, name), name);
     for (const auto& name : answers.eventLogs)
-        tickNode(tree, childNamed(*tree.roots()[1], name), name);
+        tickNode(tree, named(childrenOf(*tree.roots()[1]), name), name);
     driver_.next();
 }
 

@@ -49,8 +49,15 @@ void Output::value(const Json& json)
 
 void Output::text(std::string_view text)
 {
-    const std::string visible = visibleText(text, LineEnds::kept);
-    if (std::fwrite(visible.data(), 1, visible.size(), stdout) != visible.size()) failed_ = true;
+    visible_.clear();
+    appendVisible(visible_, text, LineEnds::kept);
+    bytes(visible_);
+}
+
+void Output::bytes(std::string_view bytes)
+{
+    if (failed() || std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size()) return;
+    failure_ = errno;
 }
 
 void Output::line(std::string_view content)
@@ -65,10 +72,10 @@ void Output::message(const std::string& text)
 
 void Output::finish()
 {
-    if (std::fflush(stdout) != 0) failed_ = true;
+    if (std::fflush(stdout) != 0 && !failed()) failure_ = errno;
     // A reader that has seen enough, such as head, is no failure.
-    if (failed_ && errno != EPIPE)
-        throw CommandFailure(std::string("cannot write the result: ") + std::strerror(errno));
+    if (failed() && failure_ != EPIPE)
+        throw CommandFailure(std::string("cannot write the result: ") + std::strerror(failure_));
 }
 
 Table::Table(std::vector<std::string> headers) : right_(headers.size(), false)

@@ -33,6 +33,12 @@ public:
     /// One line; the text may hold anything.
     void line(std::string_view text);
 
+    /// Bytes as they are: for what is no text of a person's, and goes to no terminal.
+    void bytes(std::string_view bytes);
+
+    /// Whether nobody takes any more, so that what follows need not be made.
+    bool failed() const { return failure_ != 0; }
+
     /// A line for the person on standard error, beside the results.
     void message(const std::string& text);
 
@@ -41,7 +47,8 @@ public:
 
 private:
     bool json_;
-    bool failed_ = false;
+    int failure_ = 0;     ///< the system's number of the first one
+    std::string visible_; ///< of the latest text; its room is used again
 };
 
 /// Columns of text, padded to the width of their widest cell. A cell may hold anything.

@@ -30,6 +30,7 @@ public:
 private:
     void missing(std::string_view sentence, std::vector<std::string> inserts);
     void tellOfDestination();
+    std::string besides(const std::string& name) const;
     void tellOfFiles();
     void tellOfDatabase();
     void tellOfLogs();
@@ -67,16 +68,24 @@ void Account::missing(std::string_view sentence, std::vector<std::string> insert
     outcome_.missing.push_back({sentence, std::move(inserts)});
 }
 
+/// A name in the destination as a path, parted as the destination's own is.
+std::string Account::besides(const std::string& name) const
+{
+    const std::string& folder = outcome_.destination;
+    const bool parted = folder.ends_with('/') || folder.ends_with('\\');
+    return folder + (parted ? "" : folder.starts_with('/') ? "/" : "\\") + name;
+}
+
 void Account::tellOfFiles()
 {
     outcome_.files = run_.files.written();
     if (!run_.job.timeFrame) return;
     for (const std::string& name : outcome_.files) {
-        const fs::path path = filePathOf(outcome_.destination) / filePathOf(name);
-        if (path.extension() == toolFiles::cabinetEnding)
-            outcome_.cabinet = outcome_.cabinet.value_or(machineTextOf(path));
-        else if (path.extension() == toolFiles::databaseEnding)
-            outcome_.database = machineTextOf(path);
+        const fs::path ending = filePathOf(name).extension();
+        if (ending == toolFiles::cabinetEnding)
+            outcome_.cabinet = outcome_.cabinet.value_or(besides(name));
+        else if (ending == toolFiles::databaseEnding)
+            outcome_.database = besides(name);
     }
 }
 

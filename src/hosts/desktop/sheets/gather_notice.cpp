@@ -53,6 +53,7 @@ constexpr const char* texts[] = {
     QT_TRANSLATE_NOOP(
         "GatherReport",
         "The site's cabinet maker is not the installed one, which made the cabinet in its place."),
+    // No comma is missing. NOLINTNEXTLINE(bugprone-suspicious-missing-comma)
     QT_TRANSLATE_NOOP("GatherReport",
                       "%1 in the destination %2 would be lost: the gather makes a file or folder "
                       "of that name and removes it again."),

@@ -66,7 +66,7 @@ MomentField::MomentField(Part part, QWidget* parent) : QAbstractSpinBox(parent),
         auto* calendar = lineEdit()->addAction(toolIcon(QStringLiteral("calendar")),
                                                QLineEdit::TrailingPosition);
         connect(calendar, &QAction::triggered, this, &MomentField::openCalendar);
-        showInLanguage(this, [this, calendar] {
+        showInLanguage(this, [calendar] {
             calendar->setText(tr("Calendar"));
             calendar->setToolTip(tr("Pick a day from a calendar (F4)"));
         });

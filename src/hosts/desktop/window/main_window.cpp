@@ -2,6 +2,7 @@
 
 #include "core/tool_context.h"
 #include "gather/cancel.h"
+#include "hosts/common/gather/gather_sheet.h"
 #include "hosts/desktop/log/list_table.h"
 #include "hosts/desktop/log/log_view.h"
 #include "hosts/desktop/look/elided_label.h"
@@ -192,7 +193,7 @@ void MainWindow::watchSheet(SheetDialog& dialog)
         sayWhereThePersonIs(&dialog, gathers_.tick(tool_->context(), tool_->report(), page, timer,
                                                    machinePath, run));
     };
-    const bool gathers = dialog.sheet().page(1).name() == "ppgGatherLogs00Welcome";
+    const bool gathers = isGatherSheet(dialog.sheet());
     // A gather adds to the server, beside programs that change it.
     if (!gathers)
         dialog.aroundChange = [this](const std::function<void()>& run) { tool_->changing(run); };

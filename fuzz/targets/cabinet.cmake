@@ -1,0 +1,1 @@
+orvan_fuzz(cabinet LINKS orvan_cabinet)

@@ -1,0 +1,1 @@
+orvan_fuzz(event_csv LINKS orvan_timeline)

@@ -1,0 +1,1 @@
+orvan_fuzz(first_lines LINKS orvan_timeline)

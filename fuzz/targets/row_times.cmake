@@ -1,0 +1,1 @@
+orvan_fuzz(row_times LINKS orvan_timeline)

@@ -1,0 +1,443 @@
+#include "hosts/cli/reading/log_reading.h"
+
+#include "backends/site/site.h"
+#include "core/localisation.h"
+#include "core/registry_store.h"
+#include "core/string_table.h"
+#include "hosts/cli/reading/log_following.h"
+#include "hosts/cli/reading/macro_trace_look_up.h"
+#include "hosts/cli/reading/reading_progress.h"
+#include "hosts/cli/terminal/message.h"
+#include "hosts/common/places.h"
+#include "platform/file_system.h"
+#include "platform/workstation.h"
+#include "runtime/run_time_error.h"
+#include "runtime/text.h"
+#include "shell/snapin_names.h"
+#include "system/file_facts.h"
+
+#include <algorithm>
+#include <set>
+#include <thread>
+
+namespace cli {
+
+namespace {
+
+bool isBareName(const std::string& log)
+{
+    return log.find_first_of("/\\:") == std::string::npos;
+}
+
+bool isOnThisMachine(const std::string& log)
+{
+    return !log.empty() && factsOf(places::wholePath(log)).has_value();
+}
+
+/// Whether somebody who has no server means logs of this machine, though one may be missing.
+bool areOfThisMachine(const std::vector<std::string>& logs)
+{
+    return std::any_of(logs.begin(), logs.end(), [](const std::string& log) {
+        return log == "-" || log.find('/') != std::string::npos || isOnThisMachine(log);
+    });
+}
+
+timeline::Column countedColumn(const std::string& name)
+{
+    if (const auto column = timeline::columnOf(name)) return *column;
+    throw UsageError("rows can't be counted by \"" + name +
+                     "\"; there are process, source, component, level, thread, port, callId and "
+                     "traceNumber");
+}
+
+unsigned readingThreads()
+{
+    return std::max(std::thread::hardware_concurrency(), 1U);
+}
+
+/// How wide a column is at least where the rows that come are not known yet.
+std::size_t usualWidth(RowColumn column)
+{
+    switch (column) {
+    case RowColumn::number:
+        return 6;
+    case RowColumn::moment:
+        return 23;
+    case RowColumn::timeStamp:
+    case RowColumn::process:
+    case RowColumn::source:
+        return 12;
+    case RowColumn::component:
+        return 16;
+    case RowColumn::callId:
+        return 24;
+    case RowColumn::file:
+        return 36;
+    default:
+        return 0;
+    }
+}
+
+} // namespace
+
+LogReading::LogReading(const GlobalOptions& options, const ReadOptions& asked, Output& output)
+    : options_(options), asked_(asked), format_(!asked.format.empty() ? asked.format
+                                                : options.json        ? "json"
+                                                                      : "table"),
+      choice_(asked), columns_(columnsOfList(asked.columns)), target_(asked, output)
+{
+    if (!asked.countBy.empty()) countBy_ = countedColumn(asked.countBy);
+}
+
+void LogReading::run()
+{
+    findLogs();
+    if (asked_.follow) watchForNewLogs();
+    openLogs();
+    choice_.findMacroTrace([this](const std::string& name) { return macroTrace(name); });
+    if (asked_.follow) {
+        follow();
+    } else {
+        readRows();
+        show();
+    }
+    if (tool_) tool_->close();
+    if (failed_) throw CommandFailure("");
+}
+
+/// Tells what went wrong with one of several logs.
+void LogReading::fail(const std::string& sentence)
+{
+    printMessage(sentence);
+    failed_ = true;
+}
+
+void LogReading::findLogs()
+{
+    if (options_.site && !isSite(*options_.site) && areOfThisMachine(asked_.logs)) {
+        for (const std::string& log : asked_.logs)
+            if (log == "-" || isOnThisMachine(log))
+                paths_.push_back(log == "-" ? log : places::wholePath(log));
+            else
+                fail("the log \"" + log + "\" can not be found");
+        if (paths_.empty()) throw CommandFailure("");
+        return;
+    }
+    tool_ = std::make_unique<OpenTool>(options_, ToolUse::look, [this](OpenTool& tool) {
+        if (asked_.logs.empty())
+            paths_.push_back(
+                tool.machinePath(getRegistryText(tool.context(), logManagerKey, logFolderValue)));
+        for (const std::string& log : asked_.logs) findLog(tool, log);
+        if (paths_.empty()) throw CommandFailure("");
+    });
+}
+
+/// A bare name lies in the log folder, or else where a path leads from the current folder.
+void LogReading::findLog(OpenTool& tool, const std::string& log)
+{
+    if (log == "-") {
+        paths_.push_back(log);
+        return;
+    }
+    const auto& files = tool.context().platform.files;
+    const std::string folder = getRegistryText(tool.context(), logManagerKey, logFolderValue);
+    if (isBareName(log) && !log.empty() && files.fileExists(folder + "\\" + log)) {
+        paths_.push_back(tool.machinePath(folder + "\\" + log));
+        return;
+    }
+    const std::string path = tool.toolPath(log);
+    // A pipe of this machine is nothing that a server has.
+    const auto isHere = [&] {
+        const auto facts = factsOf(tool.machinePath(path));
+        return facts && facts->kind == FileKind::pipe;
+    };
+    if (!log.empty() && (files.fileExists(path) || files.folderExists(path) || isHere()))
+        paths_.push_back(tool.machinePath(path));
+    else
+        fail("the log \"" + log + "\" can not be found" +
+             (isBareName(log) && !folder.empty() ? ", neither here nor in " + folder : ""));
+}
+
+void LogReading::openLogs()
+{
+    timeline::SourceOptions& settings = settings_;
+    bool extended = asked_.fields == "extended";
+    if (tool_) {
+        settings.codePage = tool_->codePage();
+        if (asked_.fields.empty()) extended = tool_->context().g_bExtendedLogFields;
+    }
+    if (!asked_.codePage.empty()) settings.codePage = codePageOfText(asked_.codePage);
+    if (!asked_.zone.empty())
+        clock_ = clockOf(zoneOfText(asked_.zone));
+    else
+        clock_ = tool_ ? clockOf(tool_->context()) : clockOfThisMachine();
+    // Without these the clock is a guess, which is told of where it matters.
+    if (tool_ || !asked_.zone.empty())
+        settings.localTime = [clock = clock_](timeline::Moment universal) {
+            return clock->local(universal);
+        };
+    if (tool_ || !asked_.fields.empty())
+        settings.form = extended ? timeline::LineForm::extended : timeline::LineForm::basic;
+    logs_.emplace(settings);
+    for (const std::string& path : paths_) logs_->open(path);
+    for (const std::string& failure : logs_->failures()) fail(failure);
+    for (const std::string& sentence : logs_->passedOver()) printMessage(sentence);
+    if (!target_.isTerminal() || format_ == "json") return;
+    for (const std::string& note : logs_->notes()) printMessage(note);
+}
+
+void LogReading::readRows()
+{
+    timeline::Progress progress;
+    const ReadingProgress shown(progress);
+    const unsigned threads = readingThreads();
+    if (choice_.needsLastRow())
+        logs_->timeline().read(timeline::Filter(), progress, threads);
+    else if (asked_.first > 0)
+        readFirstRows(logs_->timeline(), choice_.filter(timeline::noMoment), progress,
+                      static_cast<std::size_t>(asked_.first));
+    else
+        logs_->timeline().read(choice_.filter(timeline::noMoment), progress, threads);
+}
+
+void LogReading::tellTroubles()
+{
+    const timeline::Timeline& timeline = logs_->timeline();
+    for (const std::string& failure : timeline.failures()) fail(failure);
+    for (std::size_t at = 0; at < timeline.sourceCount(); ++at)
+        for (const std::string& trouble : timeline.source(at).troubles()) fail(trouble);
+}
+
+/// Notes which logs are there before any of them is opened, so that none that comes is missed.
+void LogReading::watchForNewLogs()
+{
+    for (const std::string& path : paths_) {
+        const auto facts = factsOf(path);
+        if (facts && facts->kind == FileKind::folder)
+            newLogs_.watchFolder(path);
+        else
+            newLogs_.watchProcessOf(path);
+    }
+}
+
+/// Raises CommandFailure for a file that was named and can't be followed; those of a folder are
+/// told.
+void LogReading::requireLogsToFollow() const
+{
+    const timeline::Timeline& timeline = logs_->timeline();
+    std::set<std::string> followed;
+    std::size_t others = 0;
+    for (std::size_t at = 0; at < timeline.sourceCount(); ++at) {
+        const timeline::Source& source = timeline.source(at);
+        if (timeline::FollowedLog::canFollow(source))
+            followed.insert(source.facts().path);
+        else
+            ++others;
+    }
+    bool anyFolder = false;
+    for (const std::string& path : paths_) {
+        if (followed.contains(path)) continue;
+        if (!isPlainFile(path))
+            anyFolder = anyFolder || factsOf(path).has_value();
+        else if (logs_->failures().empty())
+            throw CommandFailure(path + " can't be followed: it is no log that grows");
+    }
+    if (followed.empty() && !anyFolder) throw CommandFailure("");
+    if (others > 0) printMessage("what is no log is shown, and not followed");
+}
+
+/// What rows have to fit; times are those before the last row that is there now.
+timeline::Filter LogReading::followedFilter() const
+{
+    if (!choice_.needsLastRow()) return choice_.filter(timeline::noMoment);
+    OpenedLogs all(settings_);
+    for (const std::string& path : paths_) all.open(path);
+    timeline::Progress progress;
+    const ReadingProgress shown(progress);
+    all.timeline().read(timeline::Filter(), progress, readingThreads());
+    return choice_.filter(lastMomentOf(all.timeline()));
+}
+
+/// Shows the last rows, and then those that come.
+void LogReading::follow()
+{
+    constexpr std::size_t usualTail = 10;
+    requireLogsToFollow();
+    const timeline::Filter filter = followedFilter();
+    timeline::Timeline& timeline = logs_->timeline();
+    timeline::Follower follower(
+        timeline, filter, [this](const std::string& path) { return logs_->openLog(path); },
+        newLogs_,
+        isOneLog() ? timeline::Follower::Order::ofLogs : timeline::Follower::Order::ofTime);
+    timeline::holdBackHalfLines(timeline);
+    {
+        timeline::Progress progress;
+        const ReadingProgress shown(progress);
+        timeline.read(filter, progress, readingThreads());
+    }
+    tellTroubles();
+    const InterruptWish interrupt;
+    RowReader reader(timeline, looksLikeTheTool() ? &tool_->context() : nullptr);
+    const auto written = format();
+    ShownRows rows(timeline);
+    rows.keepLast(asked_.tail > 0 ? static_cast<std::size_t>(asked_.tail) : usualTail);
+    if (!writeRows(rows, reader, *written, target_)) failed_ = true;
+    timeline.forgetRows();
+    for (std::size_t at = 0, count = timeline.sourceCount(); at < count; ++at) follower.follow(at);
+    if (!followRows(follower, reader, *written, target_, interrupt)) failed_ = true;
+    target_.end();
+}
+
+void LogReading::show()
+{
+    const timeline::Timeline& timeline = logs_->timeline();
+    tellTroubles();
+    ShownRows rows(timeline);
+    if (choice_.needsLastRow()) rows.choose(choice_.filter(lastMomentOf(timeline)));
+    if (asked_.first > 0) rows.keepFirst(static_cast<std::size_t>(asked_.first));
+    if (asked_.tail > 0) rows.keepLast(static_cast<std::size_t>(asked_.tail));
+    target_.begin();
+    if (asked_.counts())
+        showCounts(rows);
+    else
+        showRows(rows);
+    target_.end();
+}
+
+void LogReading::showCounts(const ShownRows& rows)
+{
+    const CountForm form = format_ == "json"  ? CountForm::json
+                           : format_ == "csv" ? CountForm::csv
+                                              : CountForm::table;
+    const CountReport report(logs_->timeline(), rows, form, target_);
+    if (asked_.count) report.total();
+    if (countBy_) report.byColumn(*countBy_);
+    if (asked_.histogram) report.histogram();
+    if (asked_.listCalls) report.calls();
+}
+
+void LogReading::showRows(const ShownRows& rows)
+{
+    // No row is no output, but for the header that a log alone has always had.
+    if (rows.size() == 0 && !(isOneLog() && choice_.takesAll())) return;
+    RowReader reader(logs_->timeline(), looksLikeTheTool() ? &tool_->context() : nullptr);
+    const auto written = format();
+    if (!writeRows(rows, reader, *written, target_)) failed_ = true;
+}
+
+/// Whether a single log was asked for, which is shown as the tool's own view shows it.
+bool LogReading::isOneLog() const
+{
+    if (asked_.logs.size() != 1 || logs_->timeline().sourceCount() != 1) return false;
+    const timeline::SourceFacts& facts = logs_->timeline().source(0).facts();
+    const bool isLog = facts.kind == timeline::SourceKind::log ||
+                       facts.kind == timeline::SourceKind::formattedCopy ||
+                       facts.kind == timeline::SourceKind::dataFile;
+    return isLog && (facts.path.empty() || facts.path == paths_.front());
+}
+
+/// Whether rows are those that the tool's own view has, in every odd line.
+bool LogReading::looksLikeTheTool() const
+{
+    return tool_ && isOneLog() && asked_.fields.empty();
+}
+
+bool LogReading::hasExtendedFields() const
+{
+    if (looksLikeTheTool()) return tool_->context().g_bExtendedLogFields;
+    const timeline::Timeline& timeline = logs_->timeline();
+    for (std::size_t at = 0; at < timeline.sourceCount(); ++at)
+        if (timeline.source(at).facts().form == timeline::LineForm::extended) return true;
+    return false;
+}
+
+std::vector<RowColumn> LogReading::columns(bool forTable) const
+{
+    if (!columns_.empty()) return columns_;
+    std::vector<RowColumn> columns;
+    if (isOneLog())
+        columns = {RowColumn::number, RowColumn::timeStamp};
+    else if (forTable)
+        columns = {RowColumn::moment, RowColumn::process};
+    else
+        columns = {RowColumn::number, RowColumn::moment, RowColumn::process,
+                   RowColumn::file,   RowColumn::line,   RowColumn::timeStamp};
+    for (const RowColumn column :
+         {RowColumn::source, RowColumn::traceNumber, RowColumn::component, RowColumn::level})
+        columns.push_back(column);
+    if (hasExtendedFields())
+        for (const RowColumn column : {RowColumn::thread, RowColumn::port, RowColumn::callId})
+            columns.push_back(column);
+    columns.push_back(RowColumn::trace);
+    return columns;
+}
+
+std::string LogReading::header(RowColumn column) const
+{
+    const auto text = [this](TextId id) {
+        return tool_ ? myLoadResString(tool_->context(), id) : std::string(englishText(id));
+    };
+    switch (column) {
+    case RowColumn::number:
+        return "#";
+    case RowColumn::moment:
+        return "Moment";
+    case RowColumn::process:
+        return "Process";
+    case RowColumn::file:
+        return "File";
+    case RowColumn::line:
+        return "Line";
+    case RowColumn::timeStamp:
+        return text(TextId::timestamp);
+    case RowColumn::source:
+        return text(TextId::source);
+    case RowColumn::traceNumber:
+        return text(TextId::traceNumber);
+    case RowColumn::component:
+        return text(TextId::component);
+    case RowColumn::level:
+        return text(TextId::level);
+    case RowColumn::thread:
+        return text(TextId::thread);
+    case RowColumn::port:
+        return text(TextId::port);
+    case RowColumn::callId:
+        return text(TextId::callId);
+    case RowColumn::trace:
+        return text(TextId::trace);
+    }
+    return {};
+}
+
+std::unique_ptr<RowFormat> LogReading::format()
+{
+    if (format_ == "raw") return makeRawFormat(target_.isTerminal());
+    if (format_ == "json") return makeJsonFormat(columns(false));
+    if (format_ == "csv")
+        return makeCsvFormat({columns(false), asked_.excel, target_.isTerminal()});
+    if (format_ == "otlp") {
+        const auto details = tool_ ? tool_->context().platform.workstation.details() : std::nullopt;
+        return makeOtlpFormat(
+            details ? details->computerName : "",
+            [clock = clock_](timeline::Moment moment) { return clock->universal(moment); });
+    }
+    TableLook look;
+    for (const RowColumn column : columns(true))
+        look.columns.push_back({column, header(column), asked_.follow ? usualWidth(column) : 0});
+    if (target_.isTerminal() && !asked_.wide) look.width = target_.width();
+    look.colours = target_.colours();
+    look.measuresAll = !target_.isTerminal();
+    return makeTableFormat(std::move(look));
+}
+
+std::vector<timeline::ComponentLevels> LogReading::macroTrace(const std::string& name)
+{
+    std::vector<std::string> notes;
+    auto levels =
+        findMacroTrace(name, logs_->timeline(), tool_ ? &tool_->context() : nullptr, notes);
+    for (const std::string& note : notes) printMessage(note);
+    return levels;
+}
+
+} // namespace cli

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "backends/cabinet/mspack_cabinets.h"
+#include "backends/jet/jet_trace_reader.h"
+#include "timeline/sources/open_sources.h"
+#include "timeline/timeline.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace cli {
+
+/// Logs that `read` was given, opened: whatever a path leads to that has rows.
+class OpenedLogs {
+public:
+    explicit OpenedLogs(timeline::SourceOptions options);
+
+    /// Opens what a path of the machine leads to, or standard input for "-", and adds it to the
+    /// others. A single file that is nothing known is taken for a log of lines without a form.
+    void open(const std::string& path);
+
+    /// The source of one log at a path, as `open` makes it. Raises what opening it raises.
+    std::unique_ptr<timeline::Source> openLog(const std::string& path);
+
+    timeline::Timeline& timeline() { return timeline_; }
+    const timeline::Timeline& timeline() const { return timeline_; }
+
+    /// Sentences of what could not be opened, or not all of it.
+    const std::vector<std::string>& failures() const { return failures_; }
+
+    /// Sentences of what has no rows, and was passed over.
+    const std::vector<std::string>& passedOver() const { return passedOver_; }
+
+    /// Sentences of what was guessed, and of what is read elsewhere.
+    std::vector<std::string> notes() const;
+
+private:
+    bool hasRowsOfItsOwn(const std::string& path) const;
+    std::unique_ptr<timeline::Source> unknownLog(const std::string& path) const;
+
+    jet::JetTraceReader databases_;
+    MspackCabinets cabinets_;
+    timeline::SourceOptions options_;
+    timeline::SourceOpening opening_;
+    timeline::Timeline timeline_;
+    std::vector<std::string> failures_;
+    std::vector<std::string> passedOver_;
+    std::vector<std::string> notes_;
+};
+
+} // namespace cli

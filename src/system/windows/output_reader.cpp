@@ -1,0 +1,6 @@
+#include "system/output_reader.h"
+
+bool outputHasAReader()
+{
+    return true;
+}

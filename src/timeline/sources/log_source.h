@@ -1,0 +1,70 @@
+#pragma once
+
+#include "system/file_descriptor.h"
+#include "timeline/lines/day_carry.h"
+#include "timeline/lines/empty_lines.h"
+#include "timeline/lines/line_reader.h"
+#include "timeline/sources/open_files.h"
+#include "timeline/sources/source.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace timeline {
+
+/// What a log can't tell of itself.
+struct LogFacts {
+    SourceFacts source;
+    /// When it was begun. Absent where all lines have a date.
+    std::optional<Moment> opened;
+    CodePage codePage = windows1252();
+    /// From the moment of a stamp of universal time to that of the server's clock; unset where
+    /// stamps are in the server's time.
+    std::function<Moment(Moment)> localTime;
+};
+
+/// A log of the server: raw, a formatted copy, or a data file.
+class LogSource final : public Source {
+public:
+    /// `file` is what the log's bytes are read from.
+    LogSource(LogFacts facts, std::shared_ptr<KeptFile> file);
+
+    const SourceFacts& facts() const override { return facts_.source; }
+    void read(const Filter& filter, SourceRows& rows, Progress& progress) override;
+    void record(const IndexRow& row, Record& record) override;
+
+    std::uint64_t numberOf(const IndexRow& row) const override;
+
+    void letGo() override { recordReader_.reset(); }
+
+    /// How far it was read, in bytes.
+    std::uint64_t bytesRead() const { return offset_; }
+
+    /// Whether a last line that has no end yet waits until it is whole.
+    void waitForLineEnds(bool wait) { waits_ = wait; }
+
+    const LogFacts& logFacts() const { return facts_; }
+
+    /// Which file it is read from.
+    const FileIdentity& fileIdentity() const { return file_->identity(); }
+
+private:
+    class Reading;
+
+    Moment momentOf(const LineFields& fields);
+    void noteLongLine(std::uint32_t line);
+
+    LogFacts facts_;
+    std::shared_ptr<KeptFile> file_;
+    DayCarry carry_;
+    std::uint64_t offset_ = 0;
+    std::uint32_t lines_ = 0; ///< that were read
+    EmptyLines emptyLines_;   ///< among them
+    bool rowTaken_ = true;    ///< whether the last row was let through
+    bool waits_ = false;
+    std::unique_ptr<LineReader> recordReader_;
+};
+
+} // namespace timeline

@@ -1,0 +1,68 @@
+#include "timeline/sources/spooling.h"
+
+#include "runtime/run_time_error.h"
+#include "system/file_bytes.h"
+#include "system/system_error.h"
+#include "system/temporary_file.h"
+
+#include <cerrno>
+
+namespace timeline {
+
+namespace {
+
+constexpr std::uint64_t bytesBetweenLooks = 16U << 20;
+
+FileDescriptor makeFile(std::uint64_t files, std::uint64_t most, const std::string& name)
+{
+    if (files >= most)
+        throw RunTimeError(runTimeErrors::outOfMemory, name + " is not read: more than " +
+                                                           std::to_string(most) +
+                                                           " files would have to be unpacked");
+    return makeTemporaryFile();
+}
+
+} // namespace
+
+SpooledFile::SpooledFile(Spooling& spooling, std::string name)
+    : spooling_(spooling), name_(std::move(name)),
+      file_(makeFile(spooling.files_, spooling.limits_.files, name_))
+{
+    lookForRoom();
+    ++spooling_.files_;
+}
+
+SpooledFile::~SpooledFile()
+{
+    if (!file_.isOpen()) return;
+    spooling_.bytes_ -= size_;
+    --spooling_.files_;
+}
+
+void SpooledFile::append(std::string_view bytes)
+{
+    if (bytes.size() > spooling_.limits_.bytes - spooling_.bytes_)
+        throw RunTimeError(runTimeErrors::diskFull,
+                           name_ + " is read in part: all that is unpacked at a time is " +
+                               std::to_string(spooling_.limits_.bytes >> 20) + " MB at the most");
+    if (size_ + bytes.size() - lookedAt_ > bytesBetweenLooks) lookForRoom();
+    const std::size_t written = writeBytes(file_, bytes);
+    size_ += written;
+    spooling_.bytes_ += written;
+    if (written < bytes.size()) throw systemError(errno, runTimeErrors::deviceIo);
+}
+
+FileDescriptor SpooledFile::take()
+{
+    return std::move(file_);
+}
+
+void SpooledFile::lookForRoom()
+{
+    lookedAt_ = size_;
+    if (static_cast<std::uint64_t>(roomOf(file_).free) > spooling_.limits_.leftFree) return;
+    throw RunTimeError(runTimeErrors::diskFull,
+                       name_ + " is read in part: the disk of the temporary files is full");
+}
+
+} // namespace timeline

@@ -1,0 +1,95 @@
+#include "timeline/filter/text_pattern.h"
+
+#include "support/error_of.h"
+#include "text/code_page.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <vector>
+
+namespace timeline {
+namespace {
+
+using Kind = TextPattern::Kind;
+
+bool occurs(Kind kind, const std::string& pattern, const std::string& line,
+            Letters letters = Letters::asWritten)
+{
+    const CodePage codePage = windows1252();
+    return TextPattern(kind, pattern, letters).searchIn(&codePage)->occursIn(line);
+}
+
+TEST(TextPattern, OfATextIsFoundAsItStands)
+{
+    EXPECT_TRUE(occurs(Kind::text, "a.b", "xa.bx"));
+    EXPECT_FALSE(occurs(Kind::text, "a.b", "xacbx"));
+    EXPECT_FALSE(occurs(Kind::text, "Failed", "failed"));
+    EXPECT_TRUE(occurs(Kind::text, "Fail.ed", "FAIL.ED", Letters::inAnyCase));
+    EXPECT_FALSE(occurs(Kind::text, "Fail.ed", "FAILxED", Letters::inAnyCase));
+}
+
+TEST(TextPattern, OfAnExpressionIsSearchedInALine)
+{
+    EXPECT_TRUE(occurs(Kind::expression, "transfer.*fail", "a transfer has failed"));
+    EXPECT_FALSE(occurs(Kind::expression, "^transfer", "a transfer"));
+    EXPECT_TRUE(occurs(Kind::expression, "failed$", "it failed"));
+    EXPECT_TRUE(occurs(Kind::expression, "FAILED", "it failed", Letters::inAnyCase));
+}
+
+TEST(TextPattern, KnowsTheLettersOfTheCodePage)
+{
+    EXPECT_TRUE(occurs(Kind::text, "caf\u00e9", "a caf\xE9"));
+    EXPECT_TRUE(occurs(Kind::expression, "caf[\u00e9\u00e8]$", "a caf\xE9"));
+    EXPECT_TRUE(occurs(Kind::expression, "CAF\u00c9", "a caf\xE9", Letters::inAnyCase));
+    EXPECT_FALSE(occurs(Kind::text, "\u65e5", "?")) << "what it lacks is nowhere";
+    EXPECT_FALSE(occurs(Kind::expression, "a\u65e5?b", "a?b"));
+}
+
+TEST(TextPattern, SearchesUtf8WithoutACodePage)
+{
+    const TextPattern pattern(Kind::expression, "^caf.$");
+    EXPECT_TRUE(pattern.searchIn(nullptr)->occursIn("caf\u00e9"));
+    EXPECT_FALSE(pattern.searchIn(nullptr)->occursIn("caf\u00e9\u00e9"));
+}
+
+TEST(TextPattern, RefusesWhatIsNoExpressionWithASentence)
+{
+    try {
+        TextPattern(Kind::expression, "a(b");
+        FAIL() << "it was taken";
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(runTimeErrors::invalidCall, error.number());
+        EXPECT_EQ("\"a(b\" is no regular expression: missing ): a(b", error.description());
+    }
+    EXPECT_NO_THROW(TextPattern(Kind::text, "a(b"));
+}
+
+TEST(TextPattern, PassesOverNoLineThatHasIt)
+{
+    const CodePage codePage = windows1252();
+    const std::vector<std::string> expressions = {"ab",   "^a",    "b$",     "a.b",     "[^a]b",
+                                                  "\\bb", "a\\Bb", "(?i)AB", "(?-m)^b", "\\Aa",
+                                                  "b\\z", "a|$",   "a\\s*b", "(?:a)b",  "x*"};
+    std::mt19937 random(11);
+    for (const std::string& expression : expressions) {
+        const auto search = TextPattern(Kind::expression, expression).searchIn(&codePage);
+        for (int round = 0; round < 2000; ++round) {
+            std::string lines;
+            std::size_t endOfFirst = std::string::npos;
+            for (auto line = random() % 4 + 1; line > 0; --line) {
+                std::string text;
+                for (auto letter = random() % 4; letter > 0; --letter)
+                    text += "ab \t"[random() % 4];
+                const bool first = endOfFirst == std::string::npos && search->occursIn(text);
+                lines += text + (random() % 2 == 0 ? "\n" : "\r\n");
+                if (first) endOfFirst = lines.size();
+            }
+            if (endOfFirst == std::string::npos) continue;
+            ASSERT_LT(search->firstPlaceIn(lines), endOfFirst) << expression << " in " << lines;
+        }
+    }
+}
+
+} // namespace
+} // namespace timeline
