@@ -1,3 +1,4 @@
+#include "backends/jet/format.h"
 #include "backends/jet/row_filler.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +16,7 @@
 
 namespace {
 
-constexpr std::size_t pageSize = 4096;
+using jet::pageSize;
 constexpr std::size_t mostPages = 1 << 16;
 constexpr int notTraceable = 77;
 

@@ -13,7 +13,7 @@ namespace {
 
 using testing::HasSubstr;
 
-constexpr std::size_t pageSize = jet::pageSize;
+using jet::pageSize;
 
 class BytesInMemory final : public StoredBytes {
 public:

@@ -1,3 +1,4 @@
+#include "backends/jet/format.h"
 #include "backends/jet/row_filler.h"
 #include "support/error_of.h"
 
@@ -7,7 +8,7 @@
 
 namespace {
 
-constexpr std::size_t pageSize = 4096;
+using jet::pageSize;
 constexpr std::size_t firstDataPage = 23; // of the first table that rows are added to
 
 /// A file of three filters, as bytes that a test can damage.

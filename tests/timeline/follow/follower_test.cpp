@@ -184,6 +184,9 @@ TEST_F(FollowerTest, ReadsARenamedLogToItsEndBeforeTheOneInItsPlace)
     EXPECT_EQ(Texts{"second"}, look());
 }
 
+// On Windows a stream's file can't be renamed, and a file that is removed may keep its name until
+// the last one that has it open is done.
+#ifndef _WIN32
 TEST_F(FollowerTest, ReadsOnWhatAWriterStillHasWhenTheNameIsGone)
 {
     folder.write(firstLog, line("00:00", "old"));
@@ -218,6 +221,7 @@ TEST_F(FollowerTest, ReadsWhatComesInThePlaceOfALogThatIsGone)
     EXPECT_EQ(Texts{firstLog + " is gone; what comes in its place will be read"}, notices)
         << "told again";
 }
+#endif
 
 TEST_F(FollowerTest, FollowsTheNewLogOfAProcessOnceASecond)
 {

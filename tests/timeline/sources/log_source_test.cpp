@@ -11,8 +11,8 @@
 namespace timeline {
 namespace {
 
-constexpr Moment hour = 3'600'000;
-const Moment day = dayOf(2025, 2, 20);
+constexpr Moment oneHour = 3'600'000;
+const Moment logDay = dayOf(2025, 2, 20);
 
 class LogSourceTest : public testing::Test {
 protected:
@@ -24,7 +24,7 @@ protected:
         facts.source.name = "diag_KoCSMgr.txt";
         facts.source.process = "KoCSMgr";
         facts.source.form = form;
-        facts.opened = day;
+        facts.opened = logDay;
         facts.localTime = std::move(localTime);
         source = std::make_unique<LogSource>(
             facts, std::make_shared<KeptFile>(std::make_shared<OpenFiles>(4), path));
@@ -68,11 +68,11 @@ TEST_F(LogSourceTest, HasARowForEachLineThatIsNotEmpty)
 {
     open("15:00:00:000,Conv,12,CallFlow,7,one\r\n\r\n15:00:01:500,Log,13,Rule,200,two\n");
     EXPECT_EQ((Traces{"one", "two"}), read());
-    EXPECT_EQ(day + 15 * hour, rows[0].moment);
+    EXPECT_EQ(logDay + 15 * oneHour, rows[0].moment);
     EXPECT_EQ(1u, rows[0].line);
     EXPECT_EQ(7, rows[0].level);
     EXPECT_EQ("CallFlow", source->components().text(rows[0].component));
-    EXPECT_EQ(day + 15 * hour + 1500, rows[1].moment);
+    EXPECT_EQ(logDay + 15 * oneHour + 1500, rows[1].moment);
     EXPECT_EQ(3u, rows[1].line) << "empty lines count";
     EXPECT_EQ(IndexRow::otherLevel, rows[1].level);
     Record record;
@@ -121,7 +121,7 @@ TEST_F(LogSourceTest, LetsARowThroughWithItsLines)
 TEST_F(LogSourceTest, ChoosesByMoments)
 {
     Choice choice;
-    choice.since = day + 16 * hour;
+    choice.since = logDay + 16 * oneHour;
     open("15:00:00:000,Conv,12,CallFlow,7,one\nmore\n16:00:00:000,Conv,12,Rule,7,two\n");
     EXPECT_EQ((Traces{"two"}), read(Filter(choice)));
 }
@@ -140,7 +140,7 @@ TEST_F(LogSourceTest, GoesOnWhereTheReadingEnded)
     EXPECT_EQ((Traces{"one"}), read()) << "nothing is read twice";
     append("more\n01:00:00:000,Conv,12,CallFlow,7,two\n");
     EXPECT_EQ((Traces{"one", "+more", "two"}), read());
-    EXPECT_EQ(day + millisecondsPerDay + hour, rows[2].moment) << "the day is carried along";
+    EXPECT_EQ(logDay + millisecondsPerDay + oneHour, rows[2].moment) << "the day is carried along";
     EXPECT_EQ(3u, rows[2].line);
 }
 
@@ -163,10 +163,10 @@ TEST_F(LogSourceTest, BringsUniversalTimeToTheServersClock)
 {
     open("2025-02-20 23:30:00,Conv,12,one\n10/8/2005 3:00:00 "
          "PM,Conv,13,two\nnonsense,Conv,14,three\n",
-         LineForm::data, [](Moment moment) { return moment + hour; });
+         LineForm::data, [](Moment moment) { return moment + oneHour; });
     EXPECT_EQ((Traces{"one", "two", "three"}), read());
-    EXPECT_EQ(dayOf(2025, 2, 21) + hour / 2, rows[0].moment);
-    EXPECT_EQ(dayOf(2005, 10, 8) + 16 * hour, rows[1].moment);
+    EXPECT_EQ(dayOf(2025, 2, 21) + oneHour / 2, rows[0].moment);
+    EXPECT_EQ(dayOf(2005, 10, 8) + 16 * oneHour, rows[1].moment);
     EXPECT_EQ(rows[1].moment, rows[2].moment);
     EXPECT_EQ(-99, rows[0].level);
 }
