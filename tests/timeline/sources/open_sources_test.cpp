@@ -31,7 +31,7 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using testing::StartsWith;
 
-const std::string basic = "15:23:07:123,Store,17,CallFlow,3,a text\r\n";
+const std::string basicLine = "15:23:07:123,Store,17,CallFlow,3,a text\r\n";
 const std::string basicRow = "2005-10-08 15:23:07.123 KoCSMgr,Store,17,CallFlow,3,a text";
 const std::string logName = "diag_KoCSMgr_20051008_152307.txt";
 const std::string events =
@@ -107,7 +107,7 @@ std::string refusalOf(const std::string& path)
 TEST(SourceOpening, OpensARawLogOfEitherForm)
 {
     const Files files;
-    Opened log(files.folder.write(logName, basic));
+    Opened log(files.folder.write(logName, basicLine));
     EXPECT_THAT(log.texts(), ElementsAre(basicRow));
     EXPECT_EQ(logName, log.facts().name);
     EXPECT_EQ(files.folder / logName, log.facts().path);
@@ -125,7 +125,7 @@ TEST(SourceOpening, TakesWhatIsKnownInPlaceOfGuesses)
     options.codePage = windows1252();
     options.form = LineForm::basic;
     options.localTime = [](Moment universal) { return universal - 8 * 3'600'000; };
-    Opened log(files.folder.write(logName, basic + "\xE4\r\n"), options);
+    Opened log(files.folder.write(logName, basicLine + "\xE4\r\n"), options);
     EXPECT_THAT(log.facts().guesses, IsEmpty());
     Opened data(
         files.folder.write("data_A_20051008_152307.txt", "2005-10-08 23:23:07,Store,17,a text\r\n"),
@@ -209,7 +209,7 @@ TEST(SourceOpening, SaysInASentenceThatAFileIsNoneOfThese)
 TEST(SourceOpening, OpensWhatIsInACabinet)
 {
     const Files files;
-    files.folder.write(logName, basic);
+    files.folder.write(logName, basicLine);
     files.folder.write("Application.csv", events);
     files.folder.write("readme.txt", "about this");
     files.makeDatabase("a.mdb", "stored");
@@ -247,9 +247,9 @@ TEST(SourceOpening, ReadsWhatIsInFrontOfADamageInACabinetAndSaysSo)
 TEST(SourceOpening, UnpacksNoMoreThanItMay)
 {
     const Files files;
-    files.folder.write("bomb_a.txt", basic + std::string(8 << 20, ' '));
-    files.folder.write("bomb_b.txt", basic + std::string(8 << 20, ' '));
-    files.folder.write(logName, basic);
+    files.folder.write("bomb_a.txt", basicLine + std::string(8 << 20, ' '));
+    files.folder.write("bomb_b.txt", basicLine + std::string(8 << 20, ' '));
+    files.folder.write(logName, basicLine);
     const std::string path = files.makeCabinet("bomb.cab", {logName, "bomb_a.txt", "bomb_b.txt"});
     EXPECT_LT(std::filesystem::file_size(path), 100'000u);
     Opened cabinet(path, {}, {10 << 20, 10, 0});
@@ -268,7 +268,7 @@ TEST(SourceOpening, TellsInFewSentencesOfACabinetOfTooManyFiles)
     std::vector<std::string> names;
     for (int number = 10; number < 50; ++number) {
         names.push_back("diag_A" + std::to_string(number) + "_20051008_152307.txt");
-        files.folder.write(names.back(), basic);
+        files.folder.write(names.back(), basicLine);
     }
     Opened cabinet(files.makeCabinet("made.cab", names), {}, {1 << 20, 3, 0});
     EXPECT_THAT(cabinet.found.sources, SizeIs(3));
@@ -281,7 +281,7 @@ TEST(SourceOpening, TellsInFewSentencesOfACabinetOfTooManyFiles)
 TEST(SourceOpening, EndsUnpackingWhenItIsCancelled)
 {
     const Files files;
-    files.folder.write(logName, basic);
+    files.folder.write(logName, basicLine);
     const std::string path = files.makeCabinet("made.cab", {logName});
     jet::JetTraceReader databases;
     MspackCabinets cabinets;
@@ -294,9 +294,9 @@ TEST(SourceOpening, EndsUnpackingWhenItIsCancelled)
 TEST(SourceOpening, OpensTheFilesOfAFolderInOrderAndTellsOfTheOthers)
 {
     const Files files;
-    files.folder.write("b.txt", basic);
+    files.folder.write("b.txt", basicLine);
     files.folder.write("a.csv", events);
-    files.folder.write("below/" + logName, basic);
+    files.folder.write("below/" + logName, basicLine);
     files.folder.write("picture.png", "x");
     files.folder.write("notes.doc", "x");
     Opened folder(files.folder.path());
@@ -320,7 +320,7 @@ TEST(SourceOpening, SaysThatAFolderIsEmpty)
 TEST(SourceOpening, ReadsOnceWhatAFolderHasTwice)
 {
     const Files files;
-    files.folder.write(logName, basic);
+    files.folder.write(logName, basicLine);
     files.folder.write("diag_KoCSMgr_20051008_152307_fmtd.txt",
                        "15:23:07:123 (Store,17,CallFlow,3) a text\r\n");
     files.folder.write("Application.csv", events);
@@ -338,7 +338,7 @@ TEST(SourceOpening, FollowsNoLinkOutOfAFolder)
 {
     const Files files;
     const TemporaryFolder elsewhere;
-    elsewhere.write("secret.txt", basic);
+    elsewhere.write("secret.txt", basicLine);
     std::filesystem::create_symlink(elsewhere / "secret.txt", files.folder / "link.txt");
     Opened folder(files.folder.path());
     EXPECT_THAT(folder.found.sources, IsEmpty());
@@ -351,7 +351,7 @@ TEST(SourceOpening, KeepsFewOfTheFilesOfALargeFolderOpen)
 {
     const Files files;
     for (int number = 100; number < 400; ++number)
-        files.folder.write("diag_A" + std::to_string(number) + "_20051008_152307.txt", basic);
+        files.folder.write("diag_A" + std::to_string(number) + "_20051008_152307.txt", basicLine);
     Opened folder(files.folder.path(), {}, {}, 10);
     ASSERT_THAT(folder.found.sources, SizeIs(300));
     EXPECT_THAT(folder.texts(), SizeIs(300));
@@ -381,7 +381,7 @@ TEST(SourceOpening, ReadsAPipeThatAPathLeadsTo)
     const TemporaryFolder folder;
     const std::string path = folder / "pipe";
     ASSERT_EQ(0, mkfifo(path.c_str(), 0600));
-    std::thread writer([&] { std::ofstream(path) << basic << basic; });
+    std::thread writer([&] { std::ofstream(path) << basicLine << basicLine; });
     Opened piped(path);
     writer.join();
     ASSERT_THAT(piped.found.sources, SizeIs(1));
@@ -392,7 +392,7 @@ TEST(SourceOpening, ReadsAPipeThatAPathLeadsTo)
 TEST(SourceOpening, SpoolsWhatCanBeReadOnceAlone)
 {
     const Files files;
-    const std::string log = basic + basic;
+    const std::string log = basicLine + basicLine;
     int ends[2];
     ASSERT_EQ(0, pipe(ends));
     ASSERT_EQ(static_cast<ssize_t>(log.size()), write(ends[1], log.data(), log.size()));
@@ -414,7 +414,7 @@ TEST(SourceOpening, ReadsAsMuchOfAnEndlessInputAsItMay)
     ASSERT_EQ(0, pipe(ends));
     const auto before = std::signal(SIGPIPE, SIG_IGN);
     std::thread writer([&] {
-        while (write(ends[1], basic.data(), basic.size()) > 0) {
+        while (write(ends[1], basicLine.data(), basicLine.size()) > 0) {
         }
         close(ends[1]);
     });
