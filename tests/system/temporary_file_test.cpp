@@ -1,9 +1,14 @@
 #include "system/temporary_file.h"
 
+#include "support/error_of.h"
+#include "system/environment.h"
 #include "system/file_bytes.h"
 #include "system/file_facts.h"
+#include "system/temporary_folder.h"
 
 #include <gtest/gtest.h>
+
+#include <cstdlib>
 
 namespace {
 
@@ -30,6 +35,18 @@ TEST(MakeTemporaryFile, HasRoomOnItsDisk)
 TEST(MakeTemporaryFile, LeavesNoName)
 {
     EXPECT_EQ(0u, factsOf(makeTemporaryFile()).hardLinks);
+}
+
+TEST(MakeTemporaryFile, MakesNoneElsewhereWhereItsFolderIsNotThere)
+{
+    const auto before = environmentVariable("TMPDIR");
+    setenv("TMPDIR", "/no/such/folder", 1);
+    EXPECT_EQ(76, errorOf([] { makeTemporaryFile(); }));
+    EXPECT_EQ(76, errorOf([] { makeTemporaryFolder("orvan-"); }));
+    if (before)
+        setenv("TMPDIR", before->c_str(), 1);
+    else
+        unsetenv("TMPDIR");
 }
 #endif
 

@@ -1,5 +1,6 @@
 #include "system/temporary_file.h"
 
+#include "system/posix/temporary_place.h"
 #include "system/system_error.h"
 
 #include <cerrno>
@@ -8,7 +9,6 @@
 #include <filesystem>
 #include <string>
 #include <sys/statvfs.h>
-#include <system_error>
 #include <unistd.h>
 
 namespace {
@@ -27,8 +27,7 @@ FileDescriptor makeAndUnname(const std::filesystem::path& folder)
 
 FileDescriptor makeTemporaryFile()
 {
-    std::error_code none;
-    const auto folder = std::filesystem::temp_directory_path(none);
+    const std::filesystem::path folder = temporaryPlace();
 #ifdef O_TMPFILE
     FileDescriptor file(::open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (file.isOpen()) return file;

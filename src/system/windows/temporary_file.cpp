@@ -2,36 +2,24 @@
 
 #include "system/system_error.h"
 #include "system/windows/nt_files.h"
-#include "system/windows/security.h"
+#include "system/windows/temporary_place.h"
 #include "system/windows/windows_calls.h"
 
-#include <array>
-#include <random>
-#include <string>
 #include <utility>
 #include <winternl.h>
 
 FileDescriptor makeTemporaryFile()
 {
-    std::array<wchar_t, MAX_PATH + 2> place{};
-    const DWORD length = ::GetTempPathW(static_cast<DWORD>(place.size()), place.data());
-    if (length == 0 || length > place.size())
-        throw systemError(noteError(), runTimeErrors::pathNotFound);
-    const NewSecurity own(OthersMay::nothing);
-    SECURITY_ATTRIBUTES attributes{sizeof attributes, own.descriptor(), FALSE};
-    std::random_device random;
-    for (int attempt = 0; attempt < 100; ++attempt) {
-        // A file of Windows has a name; this one nobody else may open while it is there.
-        const std::string path =
-            utf8Of({place.data(), length}) + "orvan-" + std::to_string(random());
-        OwnedHandle file(::CreateFileW(machinePathOf(path).c_str(),
-                                       GENERIC_READ | GENERIC_WRITE | DELETE, 0, &attributes,
-                                       CREATE_NEW, FILE_FLAG_DELETE_ON_CLOSE, nullptr));
-        if (file.isOpen()) return descriptorOf(std::move(file));
-        if (::GetLastError() != ERROR_FILE_EXISTS)
-            throw systemError(noteError(), runTimeErrors::pathNotFound);
-    }
-    throw RunTimeError(runTimeErrors::permissionDenied);
+    OwnedHandle file;
+    makeTemporary(
+        "orvan-", ERROR_FILE_EXISTS, [&](const std::wstring& path, SECURITY_ATTRIBUTES& own) {
+            // A file of Windows has a name; this one nobody else may open while it is
+            // there.
+            file = OwnedHandle(::CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, 0,
+                                             &own, CREATE_NEW, FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+            return file.isOpen();
+        });
+    return descriptorOf(std::move(file));
 }
 
 FileSystemRoom roomOf(const FileDescriptor& file)

@@ -1,27 +1,11 @@
 #include "system/temporary_folder.h"
 
-#include "system/system_error.h"
-#include "system/windows/security.h"
-#include "system/windows/windows_calls.h"
-
-#include <array>
-#include <random>
+#include "system/windows/temporary_place.h"
 
 std::string makeTemporaryFolder(const std::string& start)
 {
-    std::array<wchar_t, MAX_PATH + 2> place{};
-    const DWORD length = ::GetTempPathW(static_cast<DWORD>(place.size()), place.data());
-    if (length == 0 || length > place.size())
-        throw systemError(noteError(), runTimeErrors::pathNotFound);
-    const NewSecurity own(OthersMay::nothing);
-    SECURITY_ATTRIBUTES attributes{sizeof attributes, own.descriptor(), FALSE};
-    std::random_device random;
-    for (int attempt = 0; attempt < 100; ++attempt) {
-        const std::string path =
-            utf8Of({place.data(), length}) + start + std::to_string(random() % 1'000'000'000);
-        if (::CreateDirectoryW(machinePathOf(path).c_str(), &attributes) != 0) return path;
-        if (::GetLastError() != ERROR_ALREADY_EXISTS)
-            throw systemError(noteError(), runTimeErrors::pathNotFound);
-    }
-    throw RunTimeError(runTimeErrors::permissionDenied);
+    return makeTemporary(start, ERROR_ALREADY_EXISTS,
+                         [](const std::wstring& path, SECURITY_ATTRIBUTES& own) {
+                             return ::CreateDirectoryW(path.c_str(), &own) != 0;
+                         });
 }
