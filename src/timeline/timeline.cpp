@@ -50,7 +50,9 @@ private:
     }
 };
 
-Timeline::Timeline() = default;
+Timeline::Timeline()
+    : ahead_([this](SourceNumber number) -> Source& { return *parts_[number].source; })
+{}
 Timeline::~Timeline() = default;
 
 void Timeline::add(std::unique_ptr<Source> source)
@@ -78,6 +80,7 @@ const SourceRows& Timeline::rowsOf(std::size_t number) const
 
 void Timeline::read(const Filter& filter, Progress& progress, unsigned threads)
 {
+    ahead_.clear();
     std::atomic<std::size_t> next{0};
     std::mutex telling;
     const auto work = [&] {
@@ -115,6 +118,7 @@ void Timeline::readOn(std::size_t number, const Filter& filter, Progress& progre
 
 void Timeline::exchange(std::size_t number, std::unique_ptr<Source> source)
 {
+    ahead_.clear();
     parts_[number].source = std::move(source);
     parts_[number].rows.clear();
 }
@@ -133,8 +137,11 @@ std::size_t Timeline::size() const
 
 void Timeline::record(const IndexRow& row, Record& record) const
 {
-    constexpr std::size_t mostQuickSources = 64;
     Source& source = *parts_[row.source()].source;
+    if (const auto line = ahead_.line(row)) {
+        source.recordOfLine(row, *line, record);
+        return;
+    }
     const auto known = std::find(quick_.begin(), quick_.end(), row.source());
     if (known == quick_.end()) {
         if (quick_.size() == mostQuickSources) {
@@ -146,6 +153,16 @@ void Timeline::record(const IndexRow& row, Record& record) const
         std::rotate(known, known + 1, quick_.end());
     }
     source.record(row, record);
+}
+
+std::size_t Timeline::rowsAhead() const
+{
+    return parts_.size() > mostQuickSources ? ahead_.usualCount() : 0;
+}
+
+void Timeline::expect(const std::vector<const IndexRow*>& rows) const
+{
+    ahead_.expect(rows);
 }
 
 Timeline::Cursor Timeline::begin() const

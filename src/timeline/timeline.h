@@ -2,6 +2,7 @@
 
 #include "timeline/filter/filter.h"
 #include "timeline/index/index_row.h"
+#include "timeline/rows_ahead.h"
 #include "timeline/sources/source.h"
 
 #include <cstddef>
@@ -54,6 +55,14 @@ public:
     /// The texts of a row.
     void record(const IndexRow& row, Record& record) const;
 
+    /// How many rows whoever walks over them tells `expect` of at a time; 0 where there are so few
+    /// sources that it does nothing.
+    std::size_t rowsAhead() const;
+
+    /// Tells which rows `record` will be asked for next, in this order and perhaps not for all, so
+    /// that it can read those of one file together.
+    void expect(const std::vector<const IndexRow*>& rows) const;
+
     /// Walks over the rows from the first one at a moment or later.
     class Cursor;
     Cursor begin() const;
@@ -62,9 +71,13 @@ public:
 private:
     struct Part;
 
+    /// Sources that are quick to ask at a time.
+    static constexpr std::size_t mostQuickSources = 64;
+
     std::deque<Part> parts_;
     std::vector<std::string> failures_;
     mutable std::vector<SourceNumber> quick_; ///< those that were asked for records last
+    mutable RowsAhead ahead_;
 };
 
 /// A place between rows. What is read meanwhile makes it worthless.

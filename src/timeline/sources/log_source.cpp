@@ -60,9 +60,21 @@ Moment LogSource::momentOf(const LineFields& fields)
 
 void LogSource::noteLongLine(std::uint32_t line)
 {
-    troubles_.push_back("line " + std::to_string(line) + " of " + facts_.source.name +
-                        " is too long: what stands behind its first " +
-                        std::to_string(LineReader::longestLine) + " bytes is left out");
+    if (longLines_++ == 0) firstLongLine_ = line;
+}
+
+/// One sentence, however many there are.
+void LogSource::tellLongLines()
+{
+    const std::uint32_t count = std::exchange(longLines_, 0);
+    if (count == 0) return;
+    const std::string most = std::to_string(LineReader::longestLine >> 20) + " MB";
+    std::string lines = "line " + std::to_string(firstLongLine_);
+    if (count > 1) lines += " and " + std::to_string(count - 1) + " more";
+    troubles_.push_back(lines + " of " + facts_.source.name +
+                        (count == 1 ? " is too long: what stands behind its first "
+                                    : " are too long: what stands behind their first ") +
+                        most + " is left out");
 }
 
 std::uint64_t LogSource::numberOf(const IndexRow& row) const
@@ -262,10 +274,17 @@ void LogSource::read(const Filter& filter, SourceRows& rows, Progress& progress)
     const KeptFile::Use use(*file_);
     const auto size = static_cast<std::uint64_t>(factsOf(use.descriptor()).size);
     if (size > offset_) progress.total += size - offset_;
-    Reading(*this, filter, rows).readAll(use.descriptor(), progress);
+    try {
+        Reading(*this, filter, rows).readAll(use.descriptor(), progress);
+    } catch (const RunTimeError&) {
+        tellLongLines();
+        throw;
+    }
+    tellLongLines();
 }
 
-void LogSource::record(const IndexRow& row, Record& record)
+/// The line of a row, until the next call.
+std::string_view LogSource::lineOf(const IndexRow& row)
 {
     const KeptFile::Use use(*file_);
     if (!recordReader_)
@@ -276,11 +295,27 @@ void LogSource::record(const IndexRow& row, Record& record)
     if (!recordReader_->next(line))
         throw RunTimeError(runTimeErrors::deviceIo, facts_.source.name + " has line " +
                                                         std::to_string(row.line) + " no more");
+    return line.text;
+}
+
+void LogSource::record(const IndexRow& row, Record& record)
+{
+    recordOfLine(row, lineOf(row), record);
+}
+
+bool LogSource::appendLine(const IndexRow& row, std::string& bytes)
+{
+    bytes += lineOf(row);
+    return true;
+}
+
+void LogSource::recordOfLine(const IndexRow& row, std::string_view line, Record& record)
+{
     LineFields fields;
-    record.hasForm = !row.belongsToRowBefore() && cutLine(line.text, facts_.source.form, fields);
+    record.hasForm = !row.belongsToRowBefore() && cutLine(line, facts_.source.form, fields);
     if (!record.hasForm) {
         fields = LineFields();
-        fields.trace = line.text;
+        fields.trace = line;
     }
     record.moment = row.moment;
     record.process = facts_.source.process;
@@ -295,7 +330,7 @@ void LogSource::record(const IndexRow& row, Record& record)
     record.port = fields.port;
     record.callId = fields.callId;
     record.trace = fields.trace;
-    record.whole = line.text;
+    record.whole = line;
     record.codePage = &facts_.codePage;
 }
 

@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace timeline {
 
@@ -34,6 +35,8 @@ public:
     const SourceFacts& facts() const override { return facts_.source; }
     void read(const Filter& filter, SourceRows& rows, Progress& progress) override;
     void record(const IndexRow& row, Record& record) override;
+    bool appendLine(const IndexRow& row, std::string& bytes) override;
+    void recordOfLine(const IndexRow& row, std::string_view line, Record& record) override;
 
     std::uint64_t numberOf(const IndexRow& row) const override;
 
@@ -54,7 +57,9 @@ private:
     class Reading;
 
     Moment momentOf(const LineFields& fields);
+    std::string_view lineOf(const IndexRow& row);
     void noteLongLine(std::uint32_t line);
+    void tellLongLines();
 
     LogFacts facts_;
     std::shared_ptr<KeptFile> file_;
@@ -62,7 +67,9 @@ private:
     std::uint64_t offset_ = 0;
     std::uint32_t lines_ = 0; ///< that were read
     EmptyLines emptyLines_;   ///< among them
-    bool rowTaken_ = true;    ///< whether the last row was let through
+    std::uint32_t firstLongLine_ = 0;
+    std::uint32_t longLines_ = 0; ///< that were met and not told of yet
+    bool rowTaken_ = true;        ///< whether the last row was let through
     bool waits_ = false;
     std::unique_ptr<LineReader> recordReader_;
 };

@@ -12,6 +12,7 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace timeline {
@@ -50,6 +51,14 @@ public:
 
     virtual const SourceFacts& facts() const = 0;
 
+    /// Whether its rows have a column. All have those of the basic line form.
+    virtual bool has(Column column) const
+    {
+        const bool extended =
+            column == Column::thread || column == Column::port || column == Column::callId;
+        return !extended || facts().form == LineForm::extended;
+    }
+
     /// Appends the rows from where the last call ended to the end, those that the filter lets
     /// through, in the order of the source; ends early, after whole rows, when `progress` is
     /// cancelled. A later call goes on with what was written behind that end.
@@ -58,6 +67,14 @@ public:
     /// The texts of one of its rows, in a record whose room is used again. Raises 57 when the file
     /// has them no more.
     virtual void record(const IndexRow& row, Record& record) = 0;
+
+    /// Appends the line of one of its rows, for `recordOfLine`: with both, texts of rows can be
+    /// read long before they are looked at. False where rows are more than lines of text. Raises
+    /// what `record` raises.
+    virtual bool appendLine(const IndexRow&, std::string&) { return false; }
+
+    /// What `record` gives, out of the row's line, which the texts look at.
+    virtual void recordOfLine(const IndexRow&, std::string_view, Record&) {}
 
     /// Which of its rows, or lines that are not empty, a row is: from 1, and the same whatever was
     /// chosen of them.

@@ -119,6 +119,20 @@ TraceDatabaseSource::TraceDatabaseSource(SourceFacts facts, std::shared_ptr<Trac
     for (const std::string& damage : tables_->damage()) noteDamage(damage);
 }
 
+bool TraceDatabaseSource::has(Column column) const
+{
+    switch (column) {
+    case Column::thread:
+        return false;
+    case Column::port:
+        return columns_.port != TraceTable::noColumn;
+    case Column::callId:
+        return columns_.callId != TraceTable::noColumn;
+    default:
+        return true;
+    }
+}
+
 /// The cells of the current row of a table, of which those that nobody asks for are not made.
 class TraceDatabaseSource::Reading {
 public:

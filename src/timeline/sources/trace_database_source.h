@@ -23,6 +23,7 @@ public:
     TraceDatabaseSource(SourceFacts facts, std::shared_ptr<TraceTables> tables);
 
     const SourceFacts& facts() const override { return facts_; }
+    bool has(Column column) const override;
     void read(const Filter& filter, SourceRows& rows, Progress& progress) override;
     void record(const IndexRow& row, Record& record) override;
     void letGo() override { recordRows_.reset(); }

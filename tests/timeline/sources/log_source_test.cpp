@@ -193,14 +193,21 @@ TEST_F(LogSourceTest, CountsTheBytesThatItRead)
     EXPECT_EQ(2 * log.size(), progress.total);
 }
 
-TEST_F(LogSourceTest, SaysWhichLineIsTooLong)
+TEST_F(LogSourceTest, SaysWhichLineIsTooLongAndHowManyMoreAre)
 {
-    open("15:00:00:000,Conv,12,CallFlow,7," + std::string(LineReader::longestLine, 'x') + "\n");
+    const std::string tooLong =
+        "15:00:00:000,Conv,12,CallFlow,7," + std::string(LineReader::longestLine, 'x') + "\n";
+    open(tooLong);
     read();
-    ASSERT_EQ(1u, source->troubles().size());
-    EXPECT_EQ("line 1 of diag_KoCSMgr.txt is too long: what stands behind its first 4194304 bytes "
-              "is left out",
-              source->troubles()[0]);
+    append("15:00:00:000,Conv,12,CallFlow,7,short\n" + tooLong + tooLong + tooLong);
+    read();
+    read();
+    EXPECT_EQ((std::vector<std::string>{
+                  "line 1 of diag_KoCSMgr.txt is too long: what stands behind its first 4 MB is "
+                  "left out",
+                  "line 3 and 2 more of diag_KoCSMgr.txt are too long: what stands behind their "
+                  "first 4 MB is left out"}),
+              source->troubles());
 }
 
 TEST_F(LogSourceTest, HasARowNoMoreWhenItsFileWasCut)

@@ -86,6 +86,16 @@ TEST(MomentOfRowDate, TakesWhatAGatherStores)
         EXPECT_EQ(std::nullopt, momentOfRowDate(none)) << none;
 }
 
+TEST(TraceDatabaseSource, HasTheColumnsOfItsTable)
+{
+    const Database database({});
+    const auto source = database.source();
+    EXPECT_TRUE(source->has(Column::component));
+    EXPECT_TRUE(source->has(Column::port));
+    EXPECT_TRUE(source->has(Column::callId));
+    EXPECT_FALSE(source->has(Column::thread));
+}
+
 TEST(TraceDatabaseSource, GivesTheRowsOfEveryProcess)
 {
     const Database database(

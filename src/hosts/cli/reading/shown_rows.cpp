@@ -133,7 +133,20 @@ const IndexRow* ShownRows::Walk::next()
 {
     if (left_ == 0) return nullptr;
     --left_;
-    return step();
+    return stepAhead();
+}
+
+/// Tells the timeline which rows come, where that makes it read them faster.
+const IndexRow* ShownRows::Walk::stepAhead()
+{
+    if (nextAhead_ < ahead_.size()) return ahead_[nextAhead_++];
+    const std::size_t count = std::min(rows_.timeline_.rowsAhead(), left_ + 1);
+    if (count == 0) return step();
+    ahead_.clear();
+    while (ahead_.size() < count) ahead_.push_back(step());
+    rows_.timeline_.expect(ahead_);
+    nextAhead_ = 1;
+    return ahead_.front();
 }
 
 Moment lastMomentOf(const Timeline& timeline)

@@ -36,11 +36,14 @@ public:
         friend class ShownRows;
         explicit Walk(const ShownRows& rows);
         const timeline::IndexRow* step();
+        const timeline::IndexRow* stepAhead();
 
         const ShownRows& rows_;
         std::optional<timeline::Timeline::Cursor> cursor_;
         std::size_t position_ = 0;
         std::size_t left_;
+        std::vector<const timeline::IndexRow*> ahead_; ///< that the timeline was told of
+        std::size_t nextAhead_ = 0;
     };
     Walk walk() const { return Walk(*this); }
 
