@@ -20,6 +20,7 @@ namespace {
 
 constexpr std::size_t headBytes = 64U << 10;
 constexpr Moment millisecondsPerSecond = 1000;
+constexpr const char* inPart = " is read in part";
 
 /// How many files of a folder or a cabinet may fail, each with a sentence.
 constexpr std::size_t mostFailures = 5;
@@ -73,7 +74,7 @@ public:
     /// Copies what can be read once alone.
     std::shared_ptr<KeptFile> spool(const FileDescriptor& input, const std::string& name)
     {
-        SpooledFile spooled(opening_.spooling_, name);
+        SpooledFile spooled(opening_.spooling_);
         std::string piece(headBytes, '\0');
         while (!progress_.cancelled) {
             const std::size_t count = readSome(input, piece.data(), piece.size());
@@ -81,7 +82,7 @@ public:
             try {
                 spooled.append({piece.data(), count});
             } catch (const RunTimeError& error) {
-                opened_.troubles.push_back(error.description());
+                opened_.troubles.push_back(toldWith(name + inPart, error).description());
                 break;
             }
         }
@@ -96,6 +97,16 @@ private:
         const KeptFile::Use use(file);
         return opening_.making_.local(factsOf(use.descriptor()).modified.seconds *
                                       millisecondsPerSecond);
+    }
+
+    /// Raises with a sentence what making it raises.
+    SpooledFile spooledFor(const std::string& name)
+    {
+        try {
+            return SpooledFile(opening_.spooling_);
+        } catch (const RunTimeError& error) {
+            throw toldWith(name + " is not read", error);
+        }
     }
 
     void openCabinet(const Candidate& candidate, const SizesByName& beside);
@@ -172,7 +183,7 @@ void SourceOpening::Work::openMember(const Candidate& cabinet, Cabinet& opened, 
     std::replace(candidate.name.begin(), candidate.name.end(), '\\', '/');
     if (const Moment modified = momentOfMember(member); modified != noMoment)
         candidate.modified = modified;
-    SpooledFile spooled(opening_.spooling_, candidate.name);
+    SpooledFile spooled = spooledFor(candidate.name);
     std::optional<RunTimeError> failure;
     try {
         opened.read(number, [&](std::string_view piece) {
@@ -181,8 +192,7 @@ void SourceOpening::Work::openMember(const Candidate& cabinet, Cabinet& opened, 
             spooled.append(piece);
         });
     } catch (const RunTimeError& error) {
-        failure.emplace(error.number(),
-                        candidate.name + " is read in part: " + error.description());
+        failure = toldWith(candidate.name + inPart, error);
     }
     candidate.head.resize(std::min<std::uint64_t>(headBytes, spooled.size()));
     candidate.head.resize(readAt(spooled.file(), candidate.head.data(), candidate.head.size(), 0));
@@ -232,7 +242,7 @@ private:
                 sizes_.emplace(foldCase(name), static_cast<std::uint64_t>(facts->size));
                 files_.push_back(std::move(name));
             } else {
-                others_.add(name);
+                (facts->kind == FileKind::link ? links_ : others_).add(name);
             }
         }
     }
@@ -294,6 +304,10 @@ private:
         if (!others_.empty())
             passedOver.push_back(others_.sentence("file", path_, "is nothing to be read as rows",
                                                   "are nothing to be read as rows"));
+        if (!links_.empty())
+            passedOver.push_back(
+                links_.sentence("link", path_, "is not followed, as it may lead out of the folder",
+                                "are not followed, as they may lead out of the folder"));
         if (!copies_.empty())
             work_.opened_.notes.push_back(
                 copies_.sentence("file", path_, "is the formatted copy of a log beside it",
@@ -301,7 +315,7 @@ private:
         if (!folders_.empty())
             passedOver.push_back(
                 folders_.sentence("folder", path_, "is not entered", "are not entered"));
-        if (files_.empty() && others_.empty() && folders_.empty())
+        if (files_.empty() && others_.empty() && links_.empty() && folders_.empty())
             passedOver.push_back("nothing is in " + path_);
         if (failures_ > mostFailures)
             troubles.push_back(std::to_string(failures_ - mostFailures) + " more files of " +
@@ -316,6 +330,7 @@ private:
     PassedOver others_;
     PassedOver copies_;
     PassedOver folders_;
+    PassedOver links_;
     std::size_t failures_ = 0;
 };
 

@@ -39,8 +39,8 @@ public:
     /// and by its name where they leave it open.
     ///
     /// A cabinet is unpacked to files without names. A folder's files come sorted by name, those in
-    /// folders below it not at all; what is in a cabinet and lies beside it, and the formatted copy
-    /// of a log that lies beside it, comes once.
+    /// folders below it and those that links lead to not at all; what is in a cabinet and lies
+    /// beside it, and the formatted copy of a log that lies beside it, comes once.
     ///
     /// A path that is none of these raises 321, with a sentence; 53, 70, 57, 61 as well. What can't
     /// be read in a folder or a cabinet is passed over, with a sentence. Unpacking and

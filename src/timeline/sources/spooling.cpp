@@ -13,20 +13,23 @@ namespace {
 
 constexpr std::uint64_t bytesBetweenLooks = 16U << 20;
 
-FileDescriptor makeFile(std::uint64_t files, std::uint64_t most, const std::string& name)
+FileDescriptor makeFile(std::uint64_t files, std::uint64_t most)
 {
     if (files >= most)
-        throw RunTimeError(runTimeErrors::outOfMemory, name + " is not read: more than " +
-                                                           std::to_string(most) +
+        throw RunTimeError(runTimeErrors::outOfMemory, "more than " + std::to_string(most) +
                                                            " files would have to be unpacked");
     return makeTemporaryFile();
 }
 
+std::string megabytes(std::uint64_t bytes)
+{
+    return std::to_string(bytes >> 20) + " MB";
+}
+
 } // namespace
 
-SpooledFile::SpooledFile(Spooling& spooling, std::string name)
-    : spooling_(spooling), name_(std::move(name)),
-      file_(makeFile(spooling.files_, spooling.limits_.files, name_))
+SpooledFile::SpooledFile(Spooling& spooling)
+    : spooling_(spooling), file_(makeFile(spooling.files_, spooling.limits_.files))
 {
     lookForRoom();
     ++spooling_.files_;
@@ -42,9 +45,9 @@ SpooledFile::~SpooledFile()
 void SpooledFile::append(std::string_view bytes)
 {
     if (bytes.size() > spooling_.limits_.bytes - spooling_.bytes_)
-        throw RunTimeError(runTimeErrors::diskFull,
-                           name_ + " is read in part: all that is unpacked at a time is " +
-                               std::to_string(spooling_.limits_.bytes >> 20) + " MB at the most");
+        throw RunTimeError(runTimeErrors::diskFull, "all that is unpacked at a time is " +
+                                                        megabytes(spooling_.limits_.bytes) +
+                                                        " at the most");
     if (size_ + bytes.size() - lookedAt_ > bytesBetweenLooks) lookForRoom();
     const std::size_t written = writeBytes(file_, bytes);
     size_ += written;
@@ -62,7 +65,8 @@ void SpooledFile::lookForRoom()
     lookedAt_ = size_;
     if (static_cast<std::uint64_t>(roomOf(file_).free) > spooling_.limits_.leftFree) return;
     throw RunTimeError(runTimeErrors::diskFull,
-                       name_ + " is read in part: the disk of the temporary files is full");
+                       "the disk of the temporary files has no more than " +
+                           megabytes(spooling_.limits_.leftFree) + " left");
 }
 
 } // namespace timeline

@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 namespace timeline {
@@ -37,13 +36,14 @@ private:
 /// took to others.
 class SpooledFile {
 public:
-    /// `name` is for sentences. Raises 7 past the number of files, with a sentence; 76, 70, 61, 57.
-    SpooledFile(Spooling& spooling, std::string name);
+    /// Raises 7 past the number of files and 61 where the disk has no room, with the reason as a
+    /// text; 76, 70, 57.
+    explicit SpooledFile(Spooling& spooling);
     ~SpooledFile();
     SpooledFile(const SpooledFile&) = delete;
     SpooledFile& operator=(const SpooledFile&) = delete;
 
-    /// Raises 61, with a sentence, where the limit or the disk has no room for it; 57.
+    /// Raises 61, with the reason as a text, where the limit or the disk has no room for it; 57.
     void append(std::string_view bytes);
 
     std::uint64_t size() const { return size_; }
@@ -56,7 +56,6 @@ private:
     void lookForRoom();
 
     Spooling& spooling_;
-    std::string name_;
     FileDescriptor file_;
     std::uint64_t size_ = 0;
     std::uint64_t lookedAt_ = 0; ///< the size at which the disk was looked at
