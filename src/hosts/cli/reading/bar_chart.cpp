@@ -4,32 +4,32 @@
 #include "hosts/cli/terminal/output.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace cli {
 
 namespace {
 
 constexpr std::size_t shortestBar = 10;
+constexpr std::size_t shortestBarOfAll = 3;
 constexpr std::size_t roomForNumbers = 40;
-
-/// As much of a moment as tells buckets of a width apart.
-std::string labelOf(timeline::Moment moment, timeline::Moment width)
-{
-    const std::string text = timeline::momentText(moment); // "2025-02-20 15:23:07.123"
-    if (width >= timeline::millisecondsPerDay) return text.substr(0, 10);
-    if (width >= 60'000) return text.substr(0, 16);
-    return text.substr(0, width >= 1000 ? 19 : 23);
-}
+constexpr std::size_t gap = 2;     ///< on both sides of a bar
+constexpr std::size_t overrun = 2; ///< what the least parts of a bucket may take beyond a bar
 
 std::string named(std::uint64_t number, const char* one, const char* many)
 {
     return groupedNumber(static_cast<long long>(number)) + (number == 1 ? one : many);
 }
 
-std::string numbersOf(const BucketParts& parts)
+std::string totalOf(const BucketParts& parts)
 {
     const std::uint64_t rows = parts.errors + parts.warnings + parts.others;
-    std::string text = groupedNumber(static_cast<long long>(rows));
+    return groupedNumber(static_cast<long long>(rows));
+}
+
+std::string numbersOf(const BucketParts& parts)
+{
+    const std::string text = totalOf(parts);
     std::string trouble;
     if (parts.errors > 0) trouble = named(parts.errors, " error", " errors");
     if (parts.warnings > 0)
@@ -57,7 +57,8 @@ public:
     /// Filled to its full length, which the least parts of a bucket may take it beyond.
     std::string text() const
     {
-        return text_ + std::string(shown_ < length_ + 2 ? length_ + 2 - shown_ : 0, ' ');
+        const std::size_t full = length_ + overrun;
+        return text_ + std::string(shown_ < full ? full - shown_ : 0, ' ');
     }
 
 private:
@@ -67,6 +68,72 @@ private:
     std::string text_;
     std::size_t shown_ = 0;
 };
+
+using Buckets = std::vector<timeline::Histogram::Bucket>;
+
+/// Whether the labels differ in their clocks alone.
+bool areOfOneDay(const timeline::Histogram& histogram)
+{
+    const Buckets& buckets = histogram.buckets();
+    return histogram.width() < timeline::millisecondsPerDay &&
+           timeline::dayOf(buckets.front().begin) == timeline::dayOf(buckets.back().begin);
+}
+
+/// What of a chart has room in a width.
+struct ChartParts {
+    std::size_t labelFrom = 0; ///< of "2025-02-20 15:23:07.123"
+    std::size_t labelLength;
+    bool tellsTotals = true;
+    bool tellsTrouble = true;
+    std::size_t bar = shortestBar;
+};
+
+/// As much of a moment as tells buckets of a width apart.
+std::size_t lengthOfLabel(timeline::Moment width)
+{
+    if (width >= timeline::millisecondsPerDay) return 10;
+    if (width >= 60'000) return 16;
+    return width >= 1000 ? 19 : 23;
+}
+
+std::size_t widest(const Buckets& buckets, std::string (*text)(const BucketParts&))
+{
+    std::size_t width = 0;
+    for (const auto& bucket : buckets) width = std::max(width, text(partsOfBucket(bucket)).size());
+    return width;
+}
+
+/// Leaves a narrow terminal's bars some room: numbers go that the bars tell as well, and what all
+/// labels begin with.
+ChartParts partsFor(const timeline::Histogram& histogram, std::size_t width)
+{
+    constexpr std::size_t lengthOfYear = 5; ///< "2025-"
+    constexpr std::size_t lengthOfDay = 11; ///< "2025-02-20 "
+    const Buckets& buckets = histogram.buckets();
+    ChartParts parts;
+    parts.labelLength = lengthOfLabel(histogram.width());
+    const auto barBeside = [&](std::size_t numbers) {
+        const std::size_t taken = parts.labelLength + gap + overrun + numbers;
+        return width > taken ? width - taken : 0;
+    };
+    parts.bar = barBeside(roomForNumbers - gap - overrun);
+    if (parts.bar > shortestBar) return parts;
+    const auto fits = [&](std::size_t numbers) {
+        parts.bar = barBeside(numbers);
+        return parts.bar >= shortestBarOfAll;
+    };
+    const std::size_t totals = gap + widest(buckets, totalOf);
+    parts.bar = std::min(barBeside(gap + widest(buckets, numbersOf)), shortestBar);
+    if (parts.bar == shortestBar) return parts;
+    parts.tellsTrouble = false;
+    if (fits(totals)) return parts;
+    parts.labelFrom = areOfOneDay(histogram) ? lengthOfDay : lengthOfYear;
+    parts.labelLength -= std::min(parts.labelFrom, parts.labelLength);
+    if (fits(totals)) return parts;
+    parts.tellsTotals = false;
+    if (!fits(0)) parts.bar = 1;
+    return parts;
+}
 
 } // namespace
 
@@ -86,18 +153,20 @@ std::string barChart(const timeline::Histogram& histogram, std::size_t width, bo
 {
     std::uint64_t largest = 1;
     for (const auto& bucket : histogram.buckets()) largest = std::max(largest, bucket.rows);
-    const std::size_t taken =
-        labelOf(histogram.buckets().front().begin, histogram.width()).size() + roomForNumbers;
-    const std::size_t length = width > taken + shortestBar ? width - taken : shortestBar;
+    const ChartParts shown = partsFor(histogram, width);
     std::string text;
     for (const auto& bucket : histogram.buckets()) {
         const BucketParts parts = partsOfBucket(bucket);
-        Bar bar(length, largest, colours);
+        Bar bar(shown.bar, largest, colours);
         bar.add(parts.errors, '!', "\033[31m");
         bar.add(parts.warnings, '+', "\033[33m");
         bar.add(parts.others, '#', "");
-        text.append(labelOf(bucket.begin, histogram.width())).append("  ");
-        text.append(bar.text()).append("  ").append(numbersOf(parts)).append(1, '\n');
+        const std::string label = timeline::momentText(bucket.begin);
+        text.append(label.substr(shown.labelFrom, shown.labelLength)).append(gap, ' ');
+        text += bar.text();
+        if (shown.tellsTotals)
+            text.append(gap, ' ').append(shown.tellsTrouble ? numbersOf(parts) : totalOf(parts));
+        text += '\n';
     }
     return text;
 }

@@ -21,6 +21,7 @@ void write(const timeline::News& news, TellingReader& reader, RowFormat& format,
     format.end(text);
     output.bytes(text);
     output.finish();
+    reader.tellOthers();
 }
 
 } // namespace

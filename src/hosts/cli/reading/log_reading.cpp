@@ -1,46 +1,23 @@
 #include "hosts/cli/reading/log_reading.h"
 
-#include "backends/site/site.h"
-#include "core/localisation.h"
-#include "core/registry_store.h"
-#include "core/string_table.h"
+#include "hosts/cli/reading/format_choice.h"
+#include "hosts/cli/reading/log_finding.h"
 #include "hosts/cli/reading/log_following.h"
 #include "hosts/cli/reading/macro_trace_look_up.h"
 #include "hosts/cli/reading/reading_progress.h"
 #include "hosts/cli/terminal/message.h"
-#include "hosts/common/places.h"
-#include "platform/file_system.h"
-#include "platform/workstation.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
-#include "shell/snapin_names.h"
 #include "system/file_facts.h"
 
 #include <algorithm>
 #include <set>
 #include <thread>
+#include <utility>
 
 namespace cli {
 
 namespace {
-
-bool isBareName(const std::string& log)
-{
-    return log.find_first_of("/\\:") == std::string::npos;
-}
-
-bool isOnThisMachine(const std::string& log)
-{
-    return !log.empty() && factsOf(places::wholePath(log)).has_value();
-}
-
-/// Whether somebody who has no server means logs of this machine, though one may be missing.
-bool areOfThisMachine(const std::vector<std::string>& logs)
-{
-    return std::any_of(logs.begin(), logs.end(), [](const std::string& log) {
-        return log == "-" || log.find('/') != std::string::npos || isOnThisMachine(log);
-    });
-}
 
 timeline::Column countedColumn(const std::string& name)
 {
@@ -53,29 +30,6 @@ timeline::Column countedColumn(const std::string& name)
 unsigned readingThreads()
 {
     return std::max(std::thread::hardware_concurrency(), 1U);
-}
-
-/// How wide a column is at least where the rows that come are not known yet.
-std::size_t usualWidth(RowColumn column)
-{
-    switch (column) {
-    case RowColumn::number:
-        return 6;
-    case RowColumn::moment:
-        return 23;
-    case RowColumn::timeStamp:
-    case RowColumn::process:
-    case RowColumn::source:
-        return 12;
-    case RowColumn::component:
-        return 16;
-    case RowColumn::callId:
-        return 24;
-    case RowColumn::file:
-        return 36;
-    default:
-        return 0;
-    }
 }
 
 } // namespace
@@ -91,7 +45,10 @@ LogReading::LogReading(const GlobalOptions& options, const ReadOptions& asked, O
 
 void LogReading::run()
 {
-    findLogs();
+    FoundLogs found = findLogs(options_, asked_.logs);
+    tool_ = std::move(found.tool);
+    paths_ = std::move(found.paths);
+    failed_ = found.missing;
     if (asked_.follow) watchForNewLogs();
     openLogs();
     choice_.findMacroTrace([this](const std::string& name) { return macroTrace(name); });
@@ -110,52 +67,6 @@ void LogReading::fail(const std::string& sentence)
 {
     printMessage(sentence);
     failed_ = true;
-}
-
-void LogReading::findLogs()
-{
-    if (options_.site && !isSite(*options_.site) && areOfThisMachine(asked_.logs)) {
-        for (const std::string& log : asked_.logs)
-            if (log == "-" || isOnThisMachine(log))
-                paths_.push_back(log == "-" ? log : places::wholePath(log));
-            else
-                fail("the log \"" + log + "\" can not be found");
-        if (paths_.empty()) throw CommandFailure("");
-        return;
-    }
-    tool_ = std::make_unique<OpenTool>(options_, ToolUse::look, [this](OpenTool& tool) {
-        if (asked_.logs.empty())
-            paths_.push_back(
-                tool.machinePath(getRegistryText(tool.context(), logManagerKey, logFolderValue)));
-        for (const std::string& log : asked_.logs) findLog(tool, log);
-        if (paths_.empty()) throw CommandFailure("");
-    });
-}
-
-/// A bare name lies in the log folder, or else where a path leads from the current folder.
-void LogReading::findLog(OpenTool& tool, const std::string& log)
-{
-    if (log == "-") {
-        paths_.push_back(log);
-        return;
-    }
-    const auto& files = tool.context().platform.files;
-    const std::string folder = getRegistryText(tool.context(), logManagerKey, logFolderValue);
-    if (isBareName(log) && !log.empty() && files.fileExists(folder + "\\" + log)) {
-        paths_.push_back(tool.machinePath(folder + "\\" + log));
-        return;
-    }
-    const std::string path = tool.toolPath(log);
-    // A pipe of this machine is nothing that a server has.
-    const auto isHere = [&] {
-        const auto facts = factsOf(tool.machinePath(path));
-        return facts && facts->kind == FileKind::pipe;
-    };
-    if (!log.empty() && (files.fileExists(path) || files.folderExists(path) || isHere()))
-        paths_.push_back(tool.machinePath(path));
-    else
-        fail("the log \"" + log + "\" can not be found" +
-             (isBareName(log) && !folder.empty() ? ", neither here nor in " + folder : ""));
 }
 
 void LogReading::openLogs()
@@ -183,7 +94,15 @@ void LogReading::openLogs()
     for (const std::string& failure : logs_->failures()) fail(failure);
     for (const std::string& sentence : logs_->passedOver()) printMessage(sentence);
     if (!target_.isTerminal() || format_ == "json") return;
-    for (const std::string& note : logs_->notes()) printMessage(note);
+    for (const std::string& guess : logs_->guesses()) printMessage(guess);
+}
+
+/// Tells a person who named the folder what of it was not read again; it takes no row away, and so
+/// comes behind them.
+void LogReading::tellReadElsewhere() const
+{
+    if (asked_.logs.empty() || !target_.isTerminal() || format_ == "json") return;
+    for (const std::string& note : logs_->readElsewhere()) printMessage(note);
 }
 
 void LogReading::readRows()
@@ -278,7 +197,7 @@ void LogReading::follow()
     tellTroubles();
     const InterruptWish interrupt;
     RowReader reader(timeline, looksLikeTheTool() ? &tool_->context() : nullptr);
-    const auto written = format();
+    const auto written = format(false);
     ShownRows rows(timeline);
     rows.keepLast(asked_.tail > 0 ? static_cast<std::size_t>(asked_.tail) : usualTail);
     if (!writeRows(rows, reader, *written, target_)) failed_ = true;
@@ -302,6 +221,7 @@ void LogReading::show()
     else
         showRows(rows);
     target_.end();
+    tellReadElsewhere();
 }
 
 void LogReading::showCounts(const ShownRows& rows)
@@ -321,7 +241,7 @@ void LogReading::showRows(const ShownRows& rows)
     // No row is no output, but for the header that a log alone has always had.
     if (rows.size() == 0 && !(isOneLog() && choice_.takesAll())) return;
     RowReader reader(logs_->timeline(), looksLikeTheTool() ? &tool_->context() : nullptr);
-    const auto written = format();
+    const auto written = format(rows.size() <= rowsMeasuredAtFirst);
     if (!writeRows(rows, reader, *written, target_)) failed_ = true;
 }
 
@@ -342,93 +262,30 @@ bool LogReading::looksLikeTheTool() const
     return tool_ && isOneLog() && asked_.fields.empty();
 }
 
-bool LogReading::hasExtendedFields() const
+/// Those of thread, port and call id that the tool's view of the log has, or any of several.
+std::vector<RowColumn> LogReading::extendedColumns() const
 {
-    if (looksLikeTheTool()) return tool_->context().g_bExtendedLogFields;
+    const std::pair<RowColumn, timeline::Column> extended[] = {
+        {RowColumn::thread, timeline::Column::thread},
+        {RowColumn::port, timeline::Column::port},
+        {RowColumn::callId, timeline::Column::callId}};
     const timeline::Timeline& timeline = logs_->timeline();
-    for (std::size_t at = 0; at < timeline.sourceCount(); ++at)
-        if (timeline.source(at).facts().form == timeline::LineForm::extended) return true;
-    return false;
-}
-
-std::vector<RowColumn> LogReading::columns(bool forTable) const
-{
-    if (!columns_.empty()) return columns_;
+    const auto anyHas = [&](timeline::Column column) {
+        if (looksLikeTheTool()) return tool_->context().g_bExtendedLogFields;
+        for (std::size_t at = 0; at < timeline.sourceCount(); ++at)
+            if (timeline.source(at).has(column)) return true;
+        return false;
+    };
     std::vector<RowColumn> columns;
-    if (isOneLog())
-        columns = {RowColumn::number, RowColumn::timeStamp};
-    else if (forTable)
-        columns = {RowColumn::moment, RowColumn::process};
-    else
-        columns = {RowColumn::number, RowColumn::moment, RowColumn::process,
-                   RowColumn::file,   RowColumn::line,   RowColumn::timeStamp};
-    for (const RowColumn column :
-         {RowColumn::source, RowColumn::traceNumber, RowColumn::component, RowColumn::level})
-        columns.push_back(column);
-    if (hasExtendedFields())
-        for (const RowColumn column : {RowColumn::thread, RowColumn::port, RowColumn::callId})
-            columns.push_back(column);
-    columns.push_back(RowColumn::trace);
+    for (const auto& [column, ofTimeline] : extended)
+        if (anyHas(ofTimeline)) columns.push_back(column);
     return columns;
 }
 
-std::string LogReading::header(RowColumn column) const
+std::unique_ptr<RowFormat> LogReading::format(bool knowsAllRows) const
 {
-    const auto text = [this](TextId id) {
-        return tool_ ? myLoadResString(tool_->context(), id) : std::string(englishText(id));
-    };
-    switch (column) {
-    case RowColumn::number:
-        return "#";
-    case RowColumn::moment:
-        return "Moment";
-    case RowColumn::process:
-        return "Process";
-    case RowColumn::file:
-        return "File";
-    case RowColumn::line:
-        return "Line";
-    case RowColumn::timeStamp:
-        return text(TextId::timestamp);
-    case RowColumn::source:
-        return text(TextId::source);
-    case RowColumn::traceNumber:
-        return text(TextId::traceNumber);
-    case RowColumn::component:
-        return text(TextId::component);
-    case RowColumn::level:
-        return text(TextId::level);
-    case RowColumn::thread:
-        return text(TextId::thread);
-    case RowColumn::port:
-        return text(TextId::port);
-    case RowColumn::callId:
-        return text(TextId::callId);
-    case RowColumn::trace:
-        return text(TextId::trace);
-    }
-    return {};
-}
-
-std::unique_ptr<RowFormat> LogReading::format()
-{
-    if (format_ == "raw") return makeRawFormat(target_.isTerminal());
-    if (format_ == "json") return makeJsonFormat(columns(false));
-    if (format_ == "csv")
-        return makeCsvFormat({columns(false), asked_.excel, target_.isTerminal()});
-    if (format_ == "otlp") {
-        const auto details = tool_ ? tool_->context().platform.workstation.details() : std::nullopt;
-        return makeOtlpFormat(
-            details ? details->computerName : "",
-            [clock = clock_](timeline::Moment moment) { return clock->universal(moment); });
-    }
-    TableLook look;
-    for (const RowColumn column : columns(true))
-        look.columns.push_back({column, header(column), asked_.follow ? usualWidth(column) : 0});
-    if (target_.isTerminal() && !asked_.wide) look.width = target_.width();
-    look.colours = target_.colours();
-    look.measuresAll = !target_.isTerminal();
-    return makeTableFormat(std::move(look));
+    return makeFormat({asked_, target_, tool_.get(), clock_, format_, columns_, isOneLog(),
+                       extendedColumns(), knowsAllRows});
 }
 
 std::vector<timeline::ComponentLevels> LogReading::macroTrace(const std::string& name)

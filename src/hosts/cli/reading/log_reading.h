@@ -27,9 +27,8 @@ public:
     void run();
 
 private:
-    void findLogs();
-    void findLog(OpenTool& tool, const std::string& log);
     void openLogs();
+    void tellReadElsewhere() const;
     void readRows();
     void tellTroubles();
     void show();
@@ -43,10 +42,8 @@ private:
 
     bool isOneLog() const;
     bool looksLikeTheTool() const;
-    bool hasExtendedFields() const;
-    std::vector<RowColumn> columns(bool forTable) const;
-    std::string header(RowColumn column) const;
-    std::unique_ptr<RowFormat> format();
+    std::vector<RowColumn> extendedColumns() const;
+    std::unique_ptr<RowFormat> format(bool knowsAllRows) const;
     std::vector<timeline::ComponentLevels> macroTrace(const std::string& name);
 
     const GlobalOptions& options_;

@@ -37,7 +37,7 @@ void OpenedLogs::open(const std::string& path)
         for (auto& source : opened.sources) timeline_.add(std::move(source));
         append(failures_, opened.troubles);
         append(passedOver_, opened.passedOver);
-        append(notes_, opened.notes);
+        append(readElsewhere_, opened.notes);
     } catch (const RunTimeError& error) {
         if (error.number() == runTimeErrors::invalidFileFormat && path != "-" &&
             !hasRowsOfItsOwn(path))
@@ -59,12 +59,12 @@ std::unique_ptr<timeline::Source> OpenedLogs::openLog(const std::string& path)
     return unknownLog(path);
 }
 
-std::vector<std::string> OpenedLogs::notes() const
+std::vector<std::string> OpenedLogs::guesses() const
 {
-    std::vector<std::string> notes = notes_;
+    std::vector<std::string> guesses;
     for (std::size_t at = 0; at < timeline_.sourceCount(); ++at)
-        append(notes, timeline_.source(at).facts().guesses);
-    return notes;
+        append(guesses, timeline_.source(at).facts().guesses);
+    return guesses;
 }
 
 /// Whether a file is, or should be, one whose lines are not its rows.

@@ -32,8 +32,11 @@ public:
     /// Sentences of what has no rows, and was passed over.
     const std::vector<std::string>& passedOver() const { return passedOver_; }
 
-    /// Sentences of what was guessed, and of what is read elsewhere.
-    std::vector<std::string> notes() const;
+    /// Sentences of what is there twice, and was read in one place.
+    const std::vector<std::string>& readElsewhere() const { return readElsewhere_; }
+
+    /// Sentences of what was guessed.
+    std::vector<std::string> guesses() const;
 
 private:
     bool hasRowsOfItsOwn(const std::string& path) const;
@@ -46,7 +49,7 @@ private:
     timeline::Timeline timeline_;
     std::vector<std::string> failures_;
     std::vector<std::string> passedOver_;
-    std::vector<std::string> notes_;
+    std::vector<std::string> readElsewhere_;
 };
 
 } // namespace cli

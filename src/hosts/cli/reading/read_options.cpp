@@ -19,7 +19,9 @@ void declareChoice(Arguments& arguments, ReadOptions& options)
                              const char* valueName, const char* description) {
         arguments.add(name, values, description).called(valueName).oneAtATime();
     };
-    arguments.add("--since", options.since, "rows at this time or later").called("TIME");
+    arguments
+        .add("--since", options.since, "rows at this time or later, such as 15:20 or yesterday")
+        .called("TIME");
     arguments.add("--until", options.until, "rows at this time or earlier").called("TIME");
     arguments.add("--last", options.last, "rows of the last 2h, 30m, ... before the last row")
         .called("SPAN");

@@ -8,6 +8,7 @@
 #include "system/terminal.h"
 
 #include <cstdio>
+#include <utility>
 
 namespace cli {
 
@@ -73,20 +74,43 @@ const RowCells* TellingReader::read(const timeline::IndexRow& row)
     try {
         return &reader_.read(row);
     } catch (const RunTimeError& error) {
-        if (told_ != error.description()) printMessage(told_ = error.description());
+        if (std::exchange(failed_, true))
+            ++others_;
+        else
+            printMessage(error.description());
         return nullptr;
     }
 }
 
+void TellingReader::tellOthers()
+{
+    if (const std::size_t others = std::exchange(others_, 0); others > 0)
+        printMessage(std::to_string(others) +
+                     (others == 1 ? " more row can't be read" : " more rows can't be read"));
+}
+
+namespace {
+
+void measureRows(const ShownRows& rows, RowReader& reader, RowFormat& format)
+{
+    auto walk = rows.walk();
+    for (std::size_t left = format.rowsToMeasure(); left > 0; --left) {
+        const timeline::IndexRow* row = walk.next();
+        if (row == nullptr) return;
+        try {
+            format.measure(reader.read(*row));
+        } catch (const RunTimeError&) {
+            continue; // it is told when it is to be written
+        }
+    }
+}
+
+} // namespace
+
 bool writeRows(const ShownRows& rows, RowReader& reader, RowFormat& format, ResultTarget& target)
 {
+    measureRows(rows, reader, format);
     TellingReader telling(reader);
-    std::size_t measured = format.rowsToMeasure();
-    for (auto walk = rows.walk(); measured > 0; --measured) {
-        const timeline::IndexRow* row = walk.next();
-        if (row == nullptr) break;
-        if (const RowCells* cells = telling.read(*row)) format.measure(*cells);
-    }
     std::string text;
     format.begin(text);
     auto walk = rows.walk();
@@ -99,6 +123,7 @@ bool writeRows(const ShownRows& rows, RowReader& reader, RowFormat& format, Resu
     }
     format.end(text);
     target.output().bytes(text);
+    telling.tellOthers();
     return !telling.failed();
 }
 

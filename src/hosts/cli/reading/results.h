@@ -50,7 +50,8 @@ private:
     std::optional<InterruptWish> interrupt_; ///< so that nobody's terminal is left to a pager
 };
 
-/// Reads rows one after the other; one that can't be read is told once, and passed over.
+/// Reads rows one after the other. One that can't be read is passed over: the first is told, and of
+/// the others how many there are.
 class TellingReader {
 public:
     explicit TellingReader(RowReader& reader) : reader_(reader) {}
@@ -60,11 +61,15 @@ public:
 
     const timeline::Record& record() const { return reader_.record(); }
 
-    bool failed() const { return !told_.empty(); }
+    /// Tells of those that were passed over and not told of yet.
+    void tellOthers();
+
+    bool failed() const { return failed_; }
 
 private:
     RowReader& reader_;
-    std::string told_;
+    bool failed_ = false;
+    std::size_t others_ = 0; ///< that were passed over, behind the one that was told
 };
 
 /// Writes rows in a format. What reading a row raises is told, and the others are written; false

@@ -37,12 +37,17 @@ struct TableColumn {
 struct TableLook {
     std::vector<TableColumn> columns;
     std::optional<std::size_t> width; ///< what longer lines are cut to
+    bool fits = false;                ///< whether columns make room for traces in that width
     bool colours = false;             ///< whether rows are coloured by their level
-    bool measuresAll = true;          ///< whether all rows are measured, or the first thousands
+    bool measuresAll = true;          ///< whether all rows are measured, or the first ones
+    bool knowsAllRows = false;        ///< whether no row comes that was not measured
 };
 
-/// Columns under headers, as wide as their widest cell. A line that the columns can't show stands
-/// where its trace would.
+/// How many rows a table looks at before it writes the first, where it doesn't look at all.
+inline constexpr std::size_t rowsMeasuredAtFirst = 10'000;
+
+/// Columns under headers, as wide as their widest cell, but for what makes room for traces. A line
+/// that the columns can't show stands where its trace would.
 std::unique_ptr<RowFormat> makeTableFormat(TableLook look);
 
 /// Lines as they stand in their logs: byte for byte, or for a terminal. A row of what has no lines

@@ -1,9 +1,9 @@
 #include "hosts/cli/reading/row_format.h"
 
 #include "hosts/cli/reading/severity.h"
+#include "hosts/cli/reading/table_fit.h"
 #include "hosts/common/shown_width.h"
 #include "text/code_page.h"
-#include "text/utf8.h"
 #include "text/visible_text.h"
 
 #include <algorithm>
@@ -13,35 +13,18 @@ namespace cli {
 
 namespace {
 
-constexpr std::size_t rowsMeasuredAtFirst = 10'000;
-constexpr std::size_t gap = 2; ///< between columns
+constexpr std::size_t lengthOfDay = 10; ///< "2025-02-20"
 
 constexpr std::string_view red = "\033[31m";
 constexpr std::string_view yellow = "\033[33m";
 constexpr std::string_view plain = "\033[0m";
-
-/// Leaves of a line without control characters what so many columns of a terminal show.
-void cutToWidth(std::string& line, std::size_t width)
-{
-    if (line.size() <= width) return;
-    std::size_t shown = 0;
-    std::size_t at = 0;
-    while (at < line.size()) {
-        const std::string_view rest = std::string_view(line).substr(at);
-        const std::size_t length = std::max<std::size_t>(utf8CharacterLength(rest), 1);
-        shown += rest.front() == '\t' ? 1 : shownWidth(rest.substr(0, length));
-        if (shown > width) break;
-        at += length;
-    }
-    line.resize(at);
-}
 
 class TableFormat final : public RowFormat {
 public:
     explicit TableFormat(TableLook look) : look_(std::move(look))
     {
         for (const TableColumn& column : look_.columns)
-            widths_.push_back(std::max(shownWidth(column.header), column.least));
+            known_.push_back({column.column, column.header, column.least, std::nullopt});
     }
 
     std::size_t rowsToMeasure() const override
@@ -51,22 +34,35 @@ public:
 
     void measure(const RowCells& row) override
     {
-        for (std::size_t at = 0; at + 1 < widths_.size(); ++at)
-            widths_[at] = std::max(widths_[at], shownWidth(cell(row, look_.columns[at].column)));
+        const bool hasCells = row.raw.empty();
+        for (KnownColumn& column : known_) {
+            if (column.column == RowColumn::trace) continue;
+            const std::string_view text = cell(row, column.column);
+            column.width = std::max(column.width, shownWidth(text));
+            if (!hasCells) continue;
+            if (!anyMeasured_)
+                column.inAllRows = text;
+            else if (column.inAllRows && *column.inAllRows != text)
+                column.inAllRows.reset();
+        }
+        anyMeasured_ = anyMeasured_ || hasCells;
     }
 
     void begin(std::string& text) override
     {
+        chooseColumns();
+        line_ = table_.note;
+        if (!line_.empty()) finishLine(text);
         line_.clear();
-        for (std::size_t at = 0; at < widths_.size(); ++at) add(look_.columns[at].header, at);
+        for (const auto& column : table_.columns) add(column.header, column);
         finishLine(text);
     }
 
     void row(const RowCells& row, const timeline::Record&, std::string& text) override
     {
+        if (table_.daysApart) tellDay(row, text);
         line_.clear();
-        for (std::size_t at = 0; at < widths_.size(); ++at)
-            add(cell(row, look_.columns[at].column), at);
+        for (const auto& column : table_.columns) add(cell(row, column.column), column);
         const Severity severity = look_.colours ? severityOf(row) : Severity::none;
         if (severity != Severity::none) text += severity == Severity::error ? red : yellow;
         if (severity == Severity::none) return finishLine(text);
@@ -85,20 +81,52 @@ private:
             appendCell(decoded_, row, column);
         cell_.clear();
         appendVisible(cell_, decoded_);
-        return cell_;
+        const bool hasDay = column == RowColumn::moment && cell_.size() > lengthOfDay;
+        return std::string_view(cell_).substr(hasDay && table_.daysApart ? lengthOfDay + 1 : 0);
     }
 
-    void add(std::string_view cell, std::size_t column)
+    void chooseColumns()
     {
-        line_ += cell;
-        if (column + 1 == widths_.size()) return;
-        const std::size_t width = shownWidth(cell);
-        line_.append(std::max(widths_[column], width) - width + gap, ' ');
+        if (look_.width && look_.fits) {
+            if (!look_.knowsAllRows)
+                for (KnownColumn& column : known_) column.inAllRows.reset();
+            table_ = fitTable(std::move(known_), *look_.width);
+            return;
+        }
+        for (KnownColumn& column : known_) {
+            const std::size_t width = std::max(column.width, shownWidth(column.header));
+            table_.columns.push_back({column.column, std::move(column.header), width});
+        }
+    }
+
+    /// Writes the day of a row whose moment tells none, where it is another than that of the row
+    /// before.
+    void tellDay(const RowCells& row, std::string& text)
+    {
+        line_.clear();
+        timeline::appendMomentText(line_, row.moment);
+        line_.resize(std::min(line_.size(), lengthOfDay));
+        if (line_.empty() || line_ == day_) return;
+        day_ = line_;
+        finishLine(text);
+    }
+
+    void add(std::string_view cell, const FittedTable::Column& column)
+    {
+        const std::size_t whole = shownWidth(cell);
+        if (column.cut && whole > column.width) {
+            line_.append(cell.substr(0, bytesInWidth(cell, column.width - 1))).append(1, '~');
+        } else {
+            line_ += cell;
+        }
+        if (&column == &table_.columns.back()) return;
+        const std::size_t shown = std::min(whole, column.cut ? column.width : whole);
+        line_.append(std::max(column.width, shown) - shown + gapOfColumns, ' ');
     }
 
     void cut()
     {
-        if (look_.width) cutToWidth(line_, *look_.width);
+        if (look_.width) line_.resize(bytesInWidth(line_, *look_.width));
     }
 
     void finishLine(std::string& text)
@@ -108,7 +136,10 @@ private:
     }
 
     TableLook look_;
-    std::vector<std::size_t> widths_;
+    std::vector<KnownColumn> known_; ///< until the first row is written
+    FittedTable table_;
+    bool anyMeasured_ = false;
+    std::string day_; ///< that was told last
     std::string line_;
     std::string decoded_;
     std::string cell_;
