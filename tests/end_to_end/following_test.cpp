@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <csignal>
+#include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
@@ -290,6 +291,28 @@ TEST_F(FollowTest, RefusesWhatCanNotBeFollowed)
         const std::string told = following.told("follow");
         EXPECT_NE(std::string::npos, told.find("follow")) << told;
         EXPECT_EQ(1, std::count(told.begin(), told.end(), '\n')) << told;
+    }
+}
+
+TEST_F(FollowTest, RefusesWhatDoesNotGrow)
+{
+    folder.write(log, line("00:00", "old"));
+    folder.write("made.ddf",
+                 ".Set CabinetNameTemplate=..\\sound.cab\r\n.Set MaxDiskSize=CDROM\r\n\"" +
+                     folder / log + "\"\r\n");
+    ASSERT_EQ(0, std::system(("cd " + folder.path() + " && " + built::cabmaker +
+                              " /f made.ddf > made.log 2>&1")
+                                 .c_str()))
+        << folder.read("made.log");
+    std::filesystem::copy_file(std::string(built::data) + "/blankWPNDB.mdb", folder / "sound.mdb");
+    for (const std::string name : {"sound.cab", "sound.mdb"}) {
+        SCOPED_TRACE(name);
+        Following following(folder.path(), {"./" + name});
+        EXPECT_EQ(1, following.end());
+        EXPECT_EQ("orvandiag: " + folder.path() + "/" + name +
+                      " can't be followed: it is no log that grows\n",
+                  following.told("followed"));
+        EXPECT_EQ("", following.next(milliseconds(0)));
     }
 }
 

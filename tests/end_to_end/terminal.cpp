@@ -7,11 +7,15 @@
 #include <array>
 #include <cstdlib>
 
+#include <poll.h>
 #include <pty.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
+
+/// Far more than anything takes: the machine may have much else to do.
+constexpr int patienceMilliseconds = 60'000;
 
 std::string without(std::string text, const std::string& part)
 {
@@ -22,15 +26,17 @@ std::string without(std::string text, const std::string& part)
 
 } // namespace
 
-std::string onTerminal(std::vector<std::string> words, const std::string& folder)
+OnTerminal::OnTerminal(std::vector<std::string> words, const std::string& folder,
+                       unsigned short columns)
 {
     words.insert(words.begin(), built::orvandiag);
     termios asItIs{};
     cfmakeraw(&asItIs);
-    winsize size{50, 200, 0, 0};
-    int terminal = -1;
-    const pid_t child = forkpty(&terminal, nullptr, &asItIs, &size);
-    if (child == 0) {
+    asItIs.c_lflag |= ISIG;
+    asItIs.c_cc[VINTR] = '\x03';
+    winsize size{50, columns, 0, 0};
+    child_ = forkpty(&terminal_, nullptr, &asItIs, &size);
+    if (child_ == 0) {
         if (chdir(folder.c_str()) != 0) _exit(126);
         std::vector<char*> arguments;
         for (auto& word : words) arguments.push_back(word.data());
@@ -40,14 +46,59 @@ std::string onTerminal(std::vector<std::string> words, const std::string& folder
         execv(arguments[0], arguments.data());
         _exit(127);
     }
-    EXPECT_GT(child, 0);
-    std::string written;
+    EXPECT_GT(child_, 0);
+}
+
+OnTerminal::~OnTerminal()
+{
+    if (child_ > 0) {
+        kill(child_, SIGKILL);
+        waitpid(child_, nullptr, 0);
+    }
+    close(terminal_);
+}
+
+bool OnTerminal::readMore()
+{
+    pollfd terminal{terminal_, POLLIN, 0};
+    if (poll(&terminal, 1, patienceMilliseconds) <= 0) {
+        ADD_FAILURE() << "nothing came any more behind " << testing::PrintToString(written_);
+        return false;
+    }
     std::array<char, 4096> part{};
-    for (ssize_t got = 0; (got = ::read(terminal, part.data(), part.size())) > 0;)
-        written.append(part.data(), static_cast<std::size_t>(got));
-    close(terminal);
+    const ssize_t got = ::read(terminal_, part.data(), part.size());
+    if (got > 0) written_.append(part.data(), static_cast<std::size_t>(got));
+    return got > 0;
+}
+
+const std::string& OnTerminal::writtenWith(const std::string& text)
+{
+    while (written_.find(text) == std::string::npos && readMore()) {
+    }
+    return written_;
+}
+
+void OnTerminal::type(const std::string& keys) const
+{
+    EXPECT_EQ(static_cast<ssize_t>(keys.size()), ::write(terminal_, keys.data(), keys.size()));
+}
+
+std::string OnTerminal::end()
+{
+    while (readMore()) {
+    }
     int state = 0;
-    waitpid(child, &state, 0);
-    EXPECT_TRUE(WIFEXITED(state) && WEXITSTATUS(state) < 3) << "ended by " << state;
-    return without(std::move(written), "\r\033[K");
+    waitpid(child_, &state, 0);
+    child_ = -1;
+    status_ = WIFEXITED(state) ? WEXITSTATUS(state) : 128 + WTERMSIG(state);
+    return without(written_, "\r\033[K");
+}
+
+std::string onTerminal(std::vector<std::string> words, const std::string& folder,
+                       unsigned short columns)
+{
+    OnTerminal program(std::move(words), folder, columns);
+    std::string written = program.end();
+    EXPECT_LT(program.status(), 3);
+    return written;
 }
