@@ -11,9 +11,9 @@ namespace timeline {
 namespace {
 
 /// Lines as long as they are told, and the order in which they were asked for.
-class Lines final : public Source {
+class ToldLines final : public Source {
 public:
-    Lines(SourceNumber number, std::string& asked, std::size_t length)
+    ToldLines(SourceNumber number, std::string& asked, std::size_t length)
         : number_(number), asked_(asked), length_(length)
     {}
 
@@ -74,7 +74,7 @@ protected:
     }
 
     std::string asked;
-    std::deque<Lines> sources;
+    std::deque<ToldLines> sources;
     std::deque<IndexRow> rows;
     RowsAhead ahead{[this](SourceNumber number) -> Source& { return sources[number]; }};
 };

@@ -8,10 +8,10 @@
 namespace timeline {
 namespace {
 
-constexpr const char* basic = "15:23:07:123,Store,17,CallFlow,3,text\r\n";
-constexpr const char* extended = "15:23:07:123,Store,17,0x1A,4,C-1,CallFlow,3,text\r\n";
-constexpr const char* formatted = "15:23:07:123 (Store,17,CallFlow,3) text\r\n";
-constexpr const char* data = "2005-10-08 15:23:07,Store,17,text, and more\r\n";
+constexpr const char* basicLine = "15:23:07:123,Store,17,CallFlow,3,text\r\n";
+constexpr const char* extendedLine = "15:23:07:123,Store,17,0x1A,4,C-1,CallFlow,3,text\r\n";
+constexpr const char* formattedLine = "15:23:07:123 (Store,17,CallFlow,3) text\r\n";
+constexpr const char* dataLine = "2005-10-08 15:23:07,Store,17,text, and more\r\n";
 
 FirstLines look(const std::string& lines, const std::string& name = "some.txt")
 {
@@ -62,11 +62,11 @@ TEST(ReadLogName, TakesNothingFromOtherNames)
 
 TEST(LookAtLines, KnowsEachForm)
 {
-    EXPECT_EQ(LineForm::basic, look(basic).form);
-    EXPECT_EQ(LineForm::extended, look(extended).form);
-    EXPECT_EQ(LineForm::formatted, look(formatted).form);
-    EXPECT_EQ(LineForm::data, look(data).form);
-    EXPECT_EQ(LineForm::data, look(basic, "data_A_20051008_152307.txt").form);
+    EXPECT_EQ(LineForm::basic, look(basicLine).form);
+    EXPECT_EQ(LineForm::extended, look(extendedLine).form);
+    EXPECT_EQ(LineForm::formatted, look(formattedLine).form);
+    EXPECT_EQ(LineForm::data, look(dataLine).form);
+    EXPECT_EQ(LineForm::data, look(basicLine, "data_A_20051008_152307.txt").form);
     EXPECT_EQ(std::nullopt, look("").form);
     EXPECT_EQ(std::nullopt, look("nothing\nof the kind\n").form);
     EXPECT_EQ(std::nullopt, look("name,town,3,more\n").form);
@@ -75,22 +75,23 @@ TEST(LookAtLines, KnowsEachForm)
 
 TEST(LookAtLines, GoesByTheFormOfMostLines)
 {
-    const std::string manyBasic = std::string(basic) + basic + basic;
-    EXPECT_EQ(LineForm::basic, look("a stack\n of lines\n" + manyBasic + formatted).form);
-    EXPECT_EQ(LineForm::extended, look(std::string(extended) + extended + formatted).form);
+    const std::string manyBasic = std::string(basicLine) + basicLine + basicLine;
+    EXPECT_EQ(LineForm::basic, look("a stack\n of lines\n" + manyBasic + formattedLine).form);
+    EXPECT_EQ(LineForm::extended,
+              look(std::string(extendedLine) + extendedLine + formattedLine).form);
 }
 
 TEST(LookAtLines, TellsWhetherStampsHaveADay)
 {
-    EXPECT_FALSE(look(basic).dated);
+    EXPECT_FALSE(look(basicLine).dated);
     EXPECT_TRUE(look("2005-10-08 15:23:07,Store,17,CallFlow,3,text\n").dated);
-    EXPECT_TRUE(look(data).dated);
+    EXPECT_TRUE(look(dataLine).dated);
 }
 
 TEST(LookAtLines, TellsWhetherTheCodePageMatters)
 {
-    EXPECT_FALSE(look(basic).beyondAscii);
-    EXPECT_TRUE(look(std::string(basic) + "\xE4").beyondAscii);
+    EXPECT_FALSE(look(basicLine).beyondAscii);
+    EXPECT_TRUE(look(std::string(basicLine) + "\xE4").beyondAscii);
 }
 
 TEST(MidnightsIn, CountsHowOftenTheClockGoesBack)
@@ -101,7 +102,7 @@ TEST(MidnightsIn, CountsHowOftenTheClockGoesBack)
                            LineForm::basic);
     };
     EXPECT_EQ(0, midnights(""));
-    EXPECT_EQ(0, midnights(basic));
+    EXPECT_EQ(0, midnights(basicLine));
     EXPECT_EQ(2, midnights("23:59:59:000,S,1,C,1,a\n00:00:01:000,S,1,C,1,b\nno line\n"
                            "00:00:00:000,S,1,C,1,c\n"));
 }

@@ -17,15 +17,15 @@ constexpr std::size_t rowsOfRequest = 500;
 constexpr std::size_t mostBodyBytes = 1U << 20;
 
 /// The numbers that the data model gives to severities.
-constexpr int informational = 9;
-constexpr int warning = 13;
-constexpr int error = 17;
+constexpr int informationNumber = 9;
+constexpr int warningNumber = 13;
+constexpr int errorNumber = 17;
 
 int severityNumber(const RowCells& row)
 {
     const Severity severity = severityOf(row);
-    if (severity == Severity::error) return error;
-    return severity == Severity::warning ? warning : informational;
+    if (severity == Severity::error) return errorNumber;
+    return severity == Severity::warning ? warningNumber : informationNumber;
 }
 
 /// Whether a call id can be the id of a trace: 32 hexadecimal digits that are not all zero.

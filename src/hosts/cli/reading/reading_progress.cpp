@@ -12,7 +12,7 @@ namespace cli {
 namespace {
 
 constexpr auto silentAtFirst = std::chrono::milliseconds(400);
-constexpr auto betweenLooks = std::chrono::milliseconds(100);
+constexpr auto betweenUpdates = std::chrono::milliseconds(100);
 
 void showUntil(const std::stop_token& stop, const timeline::Progress& progress)
 {
@@ -24,7 +24,7 @@ void showUntil(const std::stop_token& stop, const timeline::Progress& progress)
     while (!ended.wait_for(lock, stop, wait, [&] { return stop.stop_requested(); })) {
         const auto total = static_cast<double>(progress.total.load());
         if (total > 0) line.show(static_cast<double>(progress.done.load()) / total, "reading");
-        wait = betweenLooks;
+        wait = betweenUpdates;
     }
 }
 
