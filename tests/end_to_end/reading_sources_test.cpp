@@ -148,4 +148,66 @@ TEST_F(MergedReading, ReadsWhatAGatherOfAFrameLeaves)
     EXPECT_EQ(0, run({"read", target.string(), "--count"}).status);
 }
 
+TEST_F(MergedReading, SaysWhyNoRowHasAPort)
+{
+    for (const Words& words : {Words{"--port", "7", "--count"}, Words{"--count-by", "port"}}) {
+        Words asked = words;
+        asked.insert(asked.begin(), "read");
+        const Outcome shown = run(asked);
+        EXPECT_EQ(0, shown.status);
+        EXPECT_EQ("orvandiag: no row has a port; a server writes them with extended log fields\n",
+                  shown.err);
+    }
+    useExtendedSite();
+    const Outcome shown = run({"read", "--port", "7", "--count"});
+    EXPECT_EQ("", shown.err);
+    EXPECT_NE("0\n", shown.out);
+}
+
+TEST_F(MergedReading, OfATraceDatabaseHasTheColumnsOfItsTable)
+{
+    useExtendedSite();
+    ASSERT_EQ(0, run({"gather", "frame", "--from", "2025-02-20 15:00", "--hours", "1", "--to",
+                      target.string()})
+                     .status);
+    std::string database;
+    for (const auto& entry : std::filesystem::directory_iterator(target))
+        if (entry.path().extension() == ".mdb") database = entry.path().string();
+    const auto stored = rows({database});
+    ASSERT_FALSE(stored.empty());
+    EXPECT_TRUE(std::any_of(stored.begin(), stored.end(),
+                            [](const json& row) { return row.at("callId") != ""; }));
+    EXPECT_TRUE(stored[0].contains("port"));
+    EXPECT_FALSE(stored[0].contains("thread"));
+}
+
+TEST_F(MergedReading, OfVeryManyLogsHasTheirRowsInTurn)
+{
+    constexpr int logs = 150;
+    constexpr int rowsOfEach = 40;
+    std::vector<std::string> contents(logs);
+    std::string byTime;
+    std::string wanted;
+    const std::string zeros = "000";
+    for (int row = 0; row < rowsOfEach; ++row)
+        for (int log = 0; log < logs; ++log) {
+            const std::string number = std::to_string(log);
+            const std::string line = "15:00:" + std::to_string(10 + row) + ":" +
+                                     zeros.substr(number.size()) + number +
+                                     ",Conv,12,CallFlow,7,row " + std::to_string(row) + "\n";
+            contents[static_cast<std::size_t>(log)] += line;
+            byTime += line;
+            if (row >= 30 && row % 10 == 4) wanted += line;
+        }
+    std::filesystem::create_directory(folder / "many");
+    for (int log = 0; log < logs; ++log)
+        write(folder / "many" / ("diag_P" + std::to_string(1000 + log) + "_20250220_150000.txt"),
+              contents[static_cast<std::size_t>(log)]);
+    const std::string many = (folder / "many").string();
+    EXPECT_EQ(byTime, run({"read", many, "--format", "raw"}).out);
+    EXPECT_EQ(wanted, run({"read", many, "--format", "raw", "--last", "9s", "--grep", "4$"}).out);
+    EXPECT_EQ(byTime.substr(byTime.size() - wanted.size() / 150 * 7),
+              run({"read", many, "--format", "raw", "--tail", "7"}).out);
+}
+
 } // namespace

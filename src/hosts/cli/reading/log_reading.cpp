@@ -51,6 +51,7 @@ void LogReading::run()
     failed_ = found.missing;
     if (asked_.follow) watchForNewLogs();
     openLogs();
+    tellMissingColumns();
     choice_.findMacroTrace([this](const std::string& name) { return macroTrace(name); });
     if (asked_.follow) {
         follow();
@@ -103,6 +104,31 @@ void LogReading::tellReadElsewhere() const
 {
     if (asked_.logs.empty() || !target_.isTerminal() || format_ == "json") return;
     for (const std::string& note : logs_->readElsewhere()) printMessage(note);
+}
+
+/// Says why rows that are chosen or counted by a column have nothing there.
+void LogReading::tellMissingColumns() const
+{
+    const struct {
+        timeline::Column column;
+        bool chosen;
+        const char* what;
+    } extended[] = {{timeline::Column::thread, !asked_.threads.empty(), "a thread"},
+                    {timeline::Column::port, !asked_.ports.empty(), "a port"},
+                    {timeline::Column::callId, !asked_.calls.empty(), "a call id"}};
+    for (const auto& [column, chosen, what] : extended)
+        if ((chosen || countBy_ == column) && logs_->timeline().sourceCount() > 0 &&
+            !anyLogHas(column))
+            printMessage(std::string("no row has ") + what +
+                         "; a server writes them with extended log fields");
+}
+
+bool LogReading::anyLogHas(timeline::Column column) const
+{
+    const timeline::Timeline& timeline = logs_->timeline();
+    for (std::size_t at = 0; at < timeline.sourceCount(); ++at)
+        if (timeline.source(at).has(column)) return true;
+    return false;
 }
 
 void LogReading::readRows()
@@ -269,16 +295,10 @@ std::vector<RowColumn> LogReading::extendedColumns() const
         {RowColumn::thread, timeline::Column::thread},
         {RowColumn::port, timeline::Column::port},
         {RowColumn::callId, timeline::Column::callId}};
-    const timeline::Timeline& timeline = logs_->timeline();
-    const auto anyHas = [&](timeline::Column column) {
-        if (looksLikeTheTool()) return tool_->context().g_bExtendedLogFields;
-        for (std::size_t at = 0; at < timeline.sourceCount(); ++at)
-            if (timeline.source(at).has(column)) return true;
-        return false;
-    };
     std::vector<RowColumn> columns;
     for (const auto& [column, ofTimeline] : extended)
-        if (anyHas(ofTimeline)) columns.push_back(column);
+        if (looksLikeTheTool() ? tool_->context().g_bExtendedLogFields : anyLogHas(ofTimeline))
+            columns.push_back(column);
     return columns;
 }
 

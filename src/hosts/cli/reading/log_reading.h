@@ -29,6 +29,8 @@ public:
 private:
     void openLogs();
     void tellReadElsewhere() const;
+    void tellMissingColumns() const;
+    bool anyLogHas(timeline::Column column) const;
     void readRows();
     void tellTroubles();
     void show();
