@@ -114,6 +114,26 @@ TEST_F(ReadingWidth, TellsOfAFormattedCopyOnceAndToWhomItConcerns)
     EXPECT_EQ("", run({"read", logs, "--tail", "5"}).err);
 }
 
+TEST_F(ReadingWidth, TellsOnceWhatIsGuessedOfManyLogs)
+{
+    std::filesystem::create_directory(folder / "logs");
+    for (const char* name : {"diag_A_20250220_150000.txt", "diag_B_20250220_150000.txt",
+                             "diag_C_20250220_150000.txt", "clock.txt"})
+        write(folder / "logs" / name, "15:23:07:123,Conv,12,CallFlow,7,text\n");
+    const std::string shown =
+        onTerminal({"--site", (folder / "no-site").string(), "read", (folder / "logs").string()},
+                   folder.string(), 300);
+    const auto lines = linesOf(shown);
+    ASSERT_LT(2u, lines.size());
+    EXPECT_EQ("orvandiag: The lines of clock.txt are taken to be basic ones, without thread, port "
+              "and call id; the same goes for 3 other logs",
+              lines[0]);
+    EXPECT_EQ("orvandiag: No day stands in clock.txt or its name: its last line is taken to be of "
+              "the day when it was modified",
+              lines[1]);
+    EXPECT_THAT(lines[2], StartsWith("Moment"));
+}
+
 /// Ctrl-C while rows are read and shown.
 struct ReadingInterrupted : MergedReading {
     void SetUp() override
@@ -176,6 +196,16 @@ TEST_F(ReadingInterrupted, LeavesThePagerToThePerson)
     program.type("\x03");
     program.type("q\n");
     EXPECT_THAT(program.end(), testing::EndsWith("left by q\n"));
+    EXPECT_EQ(0, program.status());
+}
+
+TEST_F(ReadingInterrupted, HasWhatAPersonTypesInThePager)
+{
+    setenv("ORVAN_PAGER", "sed 's/^/P:/'", 1);
+    OnTerminal program(reading({"-", "--format", "raw"}), folder.string());
+    unsetenv("ORVAN_PAGER");
+    program.type("15:23:07:123,Conv,12,CallFlow,7,typed\n\x04");
+    EXPECT_THAT(program.end(), HasSubstr("P:15:23:07:123,Conv,12,CallFlow,7,typed\n"));
     EXPECT_EQ(0, program.status());
 }
 

@@ -32,8 +32,9 @@ OnTerminal::OnTerminal(std::vector<std::string> words, const std::string& folder
     words.insert(words.begin(), built::orvandiag);
     termios asItIs{};
     cfmakeraw(&asItIs);
-    asItIs.c_lflag |= ISIG;
+    asItIs.c_lflag |= ISIG | ICANON;
     asItIs.c_cc[VINTR] = '\x03';
+    asItIs.c_cc[VEOF] = '\x04';
     winsize size{50, columns, 0, 0};
     child_ = forkpty(&terminal_, nullptr, &asItIs, &size);
     if (child_ == 0) {

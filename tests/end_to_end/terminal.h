@@ -19,7 +19,8 @@ public:
     /// What it has written, once a text is in it, or once it has ended.
     const std::string& writtenWith(const std::string& text);
 
-    /// Types what a terminal turns into signals and keys: "\x03" is Ctrl-C.
+    /// Types what a terminal turns into signals and keys: "\x03" is Ctrl-C,
+    /// "\x04" at the beginning of a line the end of the input.
     void type(const std::string& keys) const;
 
     /// All that it wrote, once it has ended: the bytes as they are, without the progress line's own

@@ -38,7 +38,11 @@ bool canBegin(const std::string& command)
 
 [[noreturn]] void becomePager(const std::string& command, int input)
 {
-    ::dup2(input, STDIN_FILENO);
+    // Where standard input was closed, the pipe has its number, and would go with the program.
+    if (input == STDIN_FILENO)
+        ::fcntl(input, F_SETFD, 0);
+    else
+        ::dup2(input, STDIN_FILENO);
     // Colours pass, what fits on one screen is left there, and the screen stays as it was.
     ::setenv("LESS", "FRX", 0);
     ::execl("/bin/sh", "sh", "-c", command.c_str(), static_cast<char*>(nullptr));

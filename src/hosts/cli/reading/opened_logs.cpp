@@ -8,6 +8,9 @@
 #include "system/root_folder.h"
 #include "timeline/sources/log_source.h"
 
+#include <map>
+#include <utility>
+
 namespace cli {
 
 namespace {
@@ -21,6 +24,13 @@ bool isNamedFor(const std::string& path, std::string_view ending)
 void append(std::vector<std::string>& sentences, const std::vector<std::string>& more)
 {
     sentences.insert(sentences.end(), more.begin(), more.end());
+}
+
+std::string withoutName(std::string sentence, const std::string& name)
+{
+    if (const auto place = sentence.find(name); place != std::string::npos)
+        sentence.erase(place, name.size());
+    return sentence;
 }
 
 } // namespace
@@ -61,10 +71,32 @@ std::unique_ptr<timeline::Source> OpenedLogs::openLog(const std::string& path)
 
 std::vector<std::string> OpenedLogs::guesses() const
 {
-    std::vector<std::string> guesses;
-    for (std::size_t at = 0; at < timeline_.sourceCount(); ++at)
-        append(guesses, timeline_.source(at).facts().guesses);
-    return guesses;
+    struct Guess {
+        std::string sentence; ///< of the first log
+        std::size_t others = 0;
+    };
+    std::vector<std::string> inOrder;
+    std::map<std::string, Guess> guesses; ///< by what they say of whatever log
+    for (std::size_t at = 0; at < timeline_.sourceCount(); ++at) {
+        const timeline::SourceFacts& facts = timeline_.source(at).facts();
+        for (const std::string& sentence : facts.guesses) {
+            std::string said = withoutName(sentence, facts.name);
+            const auto [guess, isNew] = guesses.try_emplace(said, Guess{sentence});
+            if (isNew)
+                inOrder.push_back(std::move(said));
+            else
+                ++guess->second.others;
+        }
+    }
+    std::vector<std::string> sentences;
+    for (const std::string& said : inOrder) {
+        const Guess& guess = guesses.at(said);
+        sentences.push_back(guess.sentence);
+        if (guess.others > 0)
+            sentences.back() += "; the same goes for " + std::to_string(guess.others) +
+                                (guess.others == 1 ? " other log" : " other logs");
+    }
+    return sentences;
 }
 
 /// Whether a file is, or should be, one whose lines are not its rows.

@@ -35,7 +35,7 @@ public:
     /// Sentences of what is there twice, and was read in one place.
     const std::vector<std::string>& readElsewhere() const { return readElsewhere_; }
 
-    /// Sentences of what was guessed.
+    /// Sentences of what was guessed, one for all logs of which the same was.
     std::vector<std::string> guesses() const;
 
 private:
