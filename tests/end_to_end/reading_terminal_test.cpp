@@ -114,6 +114,24 @@ TEST_F(ReadingWidth, TellsOfAFormattedCopyOnceAndToWhomItConcerns)
     EXPECT_EQ("", run({"read", logs, "--tail", "5"}).err);
 }
 
+TEST_F(ReadingWidth, IsKeptByAListOfCalls)
+{
+    useExtendedSite();
+    const Words words = {"--calls", "--since", "2025-02-19", "--until", "2025-02-19"};
+    Words reading = words;
+    reading.insert(reading.begin(), "read");
+    const auto whole = linesOf(run(reading).out);
+    EXPECT_THAT(whole.front(), HasSubstr("lasted"));
+    EXPECT_EQ(whole, lines(300, words));
+    Words wide = words;
+    wide.push_back("--wide");
+    EXPECT_EQ(whole, lines(80, wide));
+    const auto shown = lines(80, words);
+    ASSERT_EQ(whole.size(), shown.size());
+    EXPECT_THAT(shown.front(), testing::ContainsRegex("^callId +2025-02-19 +lasted +rows  proc"));
+    for (const std::string& line : shown) EXPECT_LE(charactersOf(line), 80u) << line;
+}
+
 TEST_F(ReadingWidth, TellsOnceWhatIsGuessedOfManyLogs)
 {
     std::filesystem::create_directory(folder / "logs");

@@ -1,12 +1,16 @@
 #include "hosts/cli/reading/count_report.h"
 
 #include "hosts/cli/reading/bar_chart.h"
+#include "hosts/cli/reading/table_fit.h"
 #include "hosts/cli/terminal/output.h"
+#include "hosts/common/shown_width.h"
+#include "text/visible_text.h"
 #include "timeline/counts/calls.h"
 #include "timeline/counts/facets.h"
 #include "timeline/counts/histogram.h"
 
 #include <algorithm>
+#include <sstream>
 
 namespace cli {
 
@@ -40,6 +44,29 @@ std::string csvLine(const std::vector<std::string>& cells)
     return line;
 }
 
+std::vector<std::string> linesOf(const std::string& text)
+{
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);) lines.push_back(line);
+    return lines;
+}
+
+std::size_t widestLine(const std::string& text)
+{
+    std::size_t widest = 0;
+    for (const std::string& line : linesOf(text)) widest = std::max(widest, shownWidth(line));
+    return widest;
+}
+
+/// Whether calls begin on one day.
+bool beginOnOneDay(const std::vector<timeline::Call>& calls)
+{
+    return std::all_of(calls.begin(), calls.end(), [&](const timeline::Call& call) {
+        return timeline::dayOf(call.first) == timeline::dayOf(calls.front().first);
+    });
+}
+
 } // namespace
 
 /// What was counted, as a table.
@@ -47,6 +74,15 @@ struct CountReport::Cells {
     std::vector<std::string> headers;
     std::vector<std::vector<std::string>> rows;
     std::vector<std::size_t> numbers; ///< columns of those
+
+    /// As columns under headers, as a terminal shows them.
+    std::string table() const
+    {
+        Table table(headers);
+        for (const std::size_t column : numbers) table.alignRight(column);
+        for (const auto& row : rows) table.row(row);
+        return visibleText(table.text(), LineEnds::kept);
+    }
 };
 
 void CountReport::write(const Cells& cells) const
@@ -63,10 +99,8 @@ void CountReport::write(const Cells& cells) const
         for (const auto& row : cells.rows) line(row);
         return;
     }
-    Table table(cells.headers);
-    for (const std::size_t column : cells.numbers) table.alignRight(column);
-    for (const auto& row : cells.rows) table.row(row);
-    output.text(table.text());
+    for (const std::string& line : linesOf(cells.table()))
+        output.line(width_ ? line.substr(0, bytesInWidth(line, *width_)) : line);
 }
 
 void CountReport::total() const
@@ -161,12 +195,29 @@ void CountReport::calls() const
         target_.output().value(calls);
         return;
     }
-    Cells cells{{"callId", "first", "last", "lasted", "rows", "processes"}, {}, {3, 4}};
-    for (const auto& call : counter.calls())
-        cells.rows.push_back({call.id, timeline::momentText(call.first),
+    write(callCells(counter.calls()));
+}
+
+/// Where a terminal has no room for all, the last moment goes, which the first one and the length
+/// tell, and a day that all calls have stands in the header.
+CountReport::Cells CountReport::callCells(const std::vector<timeline::Call>& calls) const
+{
+    constexpr std::size_t lengthOfDay = 10;
+    Cells whole{{"callId", "first", "last", "lasted", "rows", "processes"}, {}, {3, 4}};
+    for (const auto& call : calls)
+        whole.rows.push_back({call.id, timeline::momentText(call.first),
                               timeline::momentText(call.last), lastedText(call.last - call.first),
                               std::to_string(call.rows), joined(call.processes)});
-    write(cells);
+    if (form_ != CountForm::table || !width_ || calls.empty() ||
+        widestLine(whole.table()) <= *width_)
+        return whole;
+    const bool oneDay = beginOnOneDay(calls);
+    const std::string day = timeline::momentText(calls.front().first).substr(0, lengthOfDay);
+    Cells narrow{{"callId", oneDay ? day : "first", "lasted", "rows", "processes"}, {}, {2, 3}};
+    for (const auto& row : whole.rows)
+        narrow.rows.push_back(
+            {row[0], oneDay ? row[1].substr(lengthOfDay + 1) : row[1], row[3], row[4], row[5]});
+    return narrow;
 }
 
 } // namespace cli

@@ -255,7 +255,9 @@ void LogReading::showCounts(const ShownRows& rows)
     const CountForm form = format_ == "json"  ? CountForm::json
                            : format_ == "csv" ? CountForm::csv
                                               : CountForm::table;
-    const CountReport report(logs_->timeline(), rows, form, target_);
+    std::optional<std::size_t> width;
+    if (target_.isTerminal() && !asked_.wide) width = target_.width();
+    const CountReport report(logs_->timeline(), rows, form, target_, width);
     if (asked_.count) report.total();
     if (countBy_) report.byColumn(*countBy_);
     if (asked_.histogram) report.histogram();
