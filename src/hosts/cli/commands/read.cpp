@@ -46,7 +46,7 @@ constexpr const char* teaching =
     "csv have it so where they go to no terminal. On a terminal rows are cut to its width\n"
     "(--wide), coloured by their level (--color, $NO_COLOR) and shown in a pager ($ORVAN_PAGER,\n"
     "$PAGER; --no-pager). Where that leaves traces no room, columns that tell little are left out\n"
-    "there, which the first line says, a day stands on a line of its own, and ~ ends a name that\n"
+    "there, which lines above tell, a day stands on a line of its own, and ~ ends a name that\n"
     "is cut. The numbers of --level and --number may be ranges. Columns are number, moment,\n"
     "process, file, line, timeStamp, source, traceNumber, component, level, thread, port, callId\n"
     "and trace; --count-by takes process, source, component, level, thread, port, callId and\n"

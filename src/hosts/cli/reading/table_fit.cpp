@@ -69,10 +69,8 @@ private:
     {
         for (Part& part : columns_) {
             if (hasRoom()) return;
-            if (part.known.column == RowColumn::traceNumber)
-                part.known.header = "No.";
-            else if (part.known.column != RowColumn::level)
-                continue;
+            const RowColumn column = part.known.column;
+            if (column != RowColumn::traceNumber && column != RowColumn::level) continue;
             part.width = std::max(part.known.width, shortestHeader);
         }
     }
@@ -142,13 +140,12 @@ private:
     {
         FittedTable table;
         table.daysApart = daysApart_;
-        if (!same_.empty()) table.note = "In all rows: " + same_;
-        if (!leftOut_.empty())
-            table.note.append(table.note.empty() ? "" : ". ")
-                .append("Left out (--wide has it): ")
-                .append(leftOut_);
+        if (!same_.empty()) table.notes.push_back("In all rows: " + same_);
+        if (!leftOut_.empty()) table.notes.push_back("Left out (--wide has it): " + leftOut_);
         for (Part& part : columns_) {
             std::string& header = part.known.header;
+            const bool isShort = part.width < shownWidth(header);
+            if (isShort && part.known.column == RowColumn::traceNumber) header = "No.";
             if (!isTrace(part)) header.resize(bytesInWidth(header, part.width));
             table.columns.push_back({part.known.column, std::move(header), part.width, part.cut});
         }

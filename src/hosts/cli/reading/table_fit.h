@@ -29,7 +29,7 @@ struct FittedTable {
     };
     std::vector<Column> columns;
     bool daysApart = false; ///< whether a day stands on a line of its own, and not in each moment
-    std::string note;       ///< says what rows have in columns that were left out; may be empty
+    std::vector<std::string> notes; ///< lines that say what all rows have and what was left out
 };
 
 /// Makes room for traces in a terminal of so many columns. What tells least goes first, and no more

@@ -51,8 +51,10 @@ public:
     void begin(std::string& text) override
     {
         chooseColumns();
-        line_ = table_.note;
-        if (!line_.empty()) finishLine(text);
+        for (const std::string& note : table_.notes) {
+            line_ = note;
+            finishLine(text);
+        }
         line_.clear();
         for (const auto& column : table_.columns) add(column.header, column);
         finishLine(text);

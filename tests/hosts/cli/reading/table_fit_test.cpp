@@ -5,6 +5,8 @@
 namespace cli {
 namespace {
 
+using Texts = std::vector<std::string>;
+
 std::vector<KnownColumn> mergedColumns()
 {
     return {
@@ -47,7 +49,7 @@ TEST(FitTable, LeavesATableAloneThatHasRoom)
     const FittedTable table = fitTable(mergedColumns(), 120);
     EXPECT_EQ("Moment:23 Process:11 Source:7 Trace No.:9 Component:12 Level:5 Trace", shown(table));
     EXPECT_FALSE(table.daysApart);
-    EXPECT_EQ("", table.note);
+    EXPECT_EQ(Texts{}, table.notes);
 }
 
 TEST(FitTable, LeavesATraceThirtyColumnsOfATerminalOfEighty)
@@ -55,7 +57,7 @@ TEST(FitTable, LeavesATraceThirtyColumnsOfATerminalOfEighty)
     const FittedTable table = fitTable(mergedColumns(), 80);
     EXPECT_EQ("Moment:12 Process:11 Component:12 Lev:3 Trace", shown(table));
     EXPECT_TRUE(table.daysApart);
-    EXPECT_EQ("Left out (--wide has it): No., Source", table.note);
+    EXPECT_EQ(Texts{"Left out (--wide has it): Trace No., Source"}, table.notes);
     EXPECT_EQ(34u, traceRoom(table, 80));
 }
 
@@ -69,7 +71,7 @@ TEST(FitTable, TakesAwayNoMoreThanItHasTo)
     const FittedTable table = fitTable(mergedColumns(), 92);
     EXPECT_EQ("Moment:12 Process:11 Source:7 No.:4 Component:12 Lev:3 Trace", shown(table));
     EXPECT_TRUE(table.daysApart);
-    EXPECT_EQ("", table.note);
+    EXPECT_EQ(Texts{}, table.notes);
 }
 
 TEST(FitTable, CutsTheWidestCellsFirst)
@@ -85,7 +87,7 @@ TEST(FitTable, LeavesOutEmptyColumnsFirstAndSilently)
     columnOf(columns, RowColumn::source).inAllRows = "";
     const FittedTable table = fitTable(std::move(columns), 102);
     EXPECT_EQ("Moment:23 Process:11 Trace No.:9 Component:12 Level:5 Trace", shown(table));
-    EXPECT_EQ("", table.note);
+    EXPECT_EQ(Texts{}, table.notes);
 }
 
 TEST(FitTable, TellsOnceWhatIsTheSameInAllRows)
@@ -95,12 +97,20 @@ TEST(FitTable, TellsOnceWhatIsTheSameInAllRows)
     columnOf(columns, RowColumn::component).inAllRows = "MailboxStore";
     FittedTable table = fitTable(columns, 80);
     EXPECT_EQ("Moment:12 Source:7 No.:4 Component:12 Lev:3 Trace", shown(table));
-    EXPECT_EQ("In all rows: Process KoTelephony", table.note);
+    EXPECT_EQ(Texts{"In all rows: Process KoTelephony"}, table.notes);
     table = fitTable(columns, 70);
     EXPECT_EQ("Moment:12 Source:7 No.:4 Lev:3 Trace", shown(table));
-    EXPECT_EQ("In all rows: Process KoTelephony, Component MailboxStore", table.note);
+    EXPECT_EQ(Texts{"In all rows: Process KoTelephony, Component MailboxStore"}, table.notes);
     EXPECT_EQ("Moment:23 Process:11 Source:7 Trace No.:9 Component:12 Level:5 Trace",
               shown(fitTable(columns, 120)));
+}
+
+TEST(FitTable, TellsWhatAllHaveAndWhatIsLeftOutInLinesOfTheirOwn)
+{
+    auto columns = mergedColumns();
+    columnOf(columns, RowColumn::level).inAllRows = "7";
+    EXPECT_EQ((Texts{"In all rows: Level 7", "Left out (--wide has it): Trace No., Source"}),
+              fitTable(std::move(columns), 70).notes);
 }
 
 TEST(FitTable, KeepsWhatARowCanNotBeReadWithout)
@@ -112,7 +122,7 @@ TEST(FitTable, KeepsWhatARowCanNotBeReadWithout)
     const FittedTable table = fitTable(std::move(columns), 80);
     EXPECT_LE(30u, traceRoom(table, 80));
     EXPECT_EQ("Moment:12 Process:8~ Component:9~ Lev:3 Call ID:8~ Trace", shown(table));
-    EXPECT_EQ("Left out (--wide has it): Thread, No., Source, Port", table.note);
+    EXPECT_EQ(Texts{"Left out (--wide has it): Thread, Trace No., Source, Port"}, table.notes);
     EXPECT_EQ("Moment:12 Process:8~ Component:9~ Lev:3 Trace",
               shown(fitTable(mergedColumns(), 20)));
 }
