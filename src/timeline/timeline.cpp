@@ -125,6 +125,7 @@ void Timeline::exchange(std::size_t number, std::unique_ptr<Source> source)
 
 void Timeline::forgetRows()
 {
+    ahead_.clear();
     for (Part& part : parts_) SourceRows().swap(part.rows);
 }
 
