@@ -35,7 +35,7 @@ endfunction()
 
 # The tool's icons, of the drawings that the window has.
 set(orvan_icon_folder ${PROJECT_BINARY_DIR}/icons)
-set(orvan_drawings ${PROJECT_SOURCE_DIR}/src/hosts/desktop/look/icons)
+set(orvan_drawings ${PROJECT_SOURCE_DIR}/src/hosts/common/look/icons)
 file(MAKE_DIRECTORY ${orvan_icon_folder})
 foreach(program convert icotool rsvg-convert)
   find_program(ORVAN_${program} ${program} REQUIRED)

@@ -6,6 +6,7 @@ find_program(ORVAN_LRELEASE NAMES lrelease lrelease-qt6 HINTS ${QT6_INSTALL_PREF
 find_program(ORVAN_LUPDATE NAMES lupdate lupdate-qt6 HINTS ${QT6_INSTALL_PREFIX}/${QT6_INSTALL_BINS} REQUIRED)
 
 # orvan_translations(TARGET a_de.ts ...): compiles the files into the target, below ":/translations".
+# They have the texts of the folder and those of what windows share.
 #
 # The target TARGET_texts brings new texts of its sources into the files, to be translated there.
 function(orvan_translations target)
@@ -25,6 +26,6 @@ function(orvan_translations target)
     PREFIX /translations BASE ${CMAKE_CURRENT_BINARY_DIR} FILES ${compiled})
   add_custom_target(${target}_texts
     COMMAND ${ORVAN_LUPDATE} -silent -locations none -no-obsolete -I ${PROJECT_SOURCE_DIR}/src
-      ${CMAKE_CURRENT_SOURCE_DIR} -ts ${sources}
+      ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/src/hosts/common/look -ts ${sources}
     VERBATIM)
 endfunction()

@@ -1,28 +1,18 @@
 #include "hosts/desktop/console_options.h"
 
 #include "hosts/desktop/window/commands.h"
-#include "text/visible_text.h"
 
 #include <QCommandLineParser>
-#include <QRegularExpression>
-
-#include <algorithm>
-#include <string_view>
 
 namespace desktop {
 
 namespace {
 
-constexpr int wrongUsage = 2;
-constexpr std::string_view textOptions[] = {"-h", "--help", "-v", "--version"};
-const QString themeNames[] = {QStringLiteral("system"), QStringLiteral("light"),
-                              QStringLiteral("dark")};
+const QString programName = QStringLiteral("orvandiag-console");
 
 NoWindow refused(const QString& sentence)
 {
-    return {"orvandiag-console: " + visibleText(sentence.toStdString()) +
-                " (orvandiag-console --help tells the options)\n",
-            wrongUsage};
+    return windowStart::refusedUsage(programName, sentence);
 }
 
 QCommandLineOption option(const char* name, const char* what, const char* value = "")
@@ -53,14 +43,6 @@ void declare(QCommandLineParser& parser)
     parser.addOption(developmentHost);
 }
 
-std::optional<QSize> sizeOf(const QString& text)
-{
-    static const QRegularExpression form(QStringLiteral("^([1-9][0-9]{1,4})x([1-9][0-9]{1,4})$"));
-    const auto match = form.match(text);
-    if (!match.hasMatch()) return std::nullopt;
-    return QSize(match.captured(1).toInt(), match.captured(2).toInt());
-}
-
 } // namespace
 
 std::variant<ConsoleOptions, NoWindow> consoleOptionsOf(const QStringList& arguments)
@@ -87,26 +69,16 @@ std::variant<ConsoleOptions, NoWindow> consoleOptionsOf(const QStringList& argum
     if (!options.command.empty() && keyOfConsoleItem(options.command).isEmpty())
         return refused(QStringLiteral("the tool has no command %1")
                            .arg(QString::fromStdString(options.command)));
-    const bool themed = parser.isSet(QStringLiteral("theme"));
-    if (themed && std::find(std::begin(themeNames), std::end(themeNames), options.theme) ==
-                      std::end(themeNames))
+    if (parser.isSet(QStringLiteral("theme")) && !windowStart::isTheme(options.theme))
         return refused(
             QStringLiteral("--theme takes system, light or dark, not %1").arg(options.theme));
     if (parser.isSet(QStringLiteral("size"))) {
-        options.size = sizeOf(parser.value(QStringLiteral("size")));
+        options.size = windowStart::sizeOf(parser.value(QStringLiteral("size")));
         if (!options.size)
             return refused(QStringLiteral("--size takes a size such as 1280x760, not %1")
                                .arg(parser.value(QStringLiteral("size"))));
     }
     return options;
-}
-
-bool asksForText(int argc, const char* const* argv)
-{
-    return std::any_of(argv + 1, argv + std::max(1, argc), [](std::string_view argument) {
-        return std::find(std::begin(textOptions), std::end(textOptions), argument) !=
-               std::end(textOptions);
-    });
 }
 
 } // namespace desktop

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "hosts/common/look/window_start.h"
+
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -22,16 +24,7 @@ struct ConsoleOptions {
     bool developmentHost = false;
 };
 
-/// Why no window opens: a text for the terminal and the exit status.
-struct NoWindow {
-    std::string text;
-    int status = 0; ///< 0: the text was asked for; 2: wrong usage
-};
-
 /// Reads a command line, the program's name first. Needs an application object of any kind.
 std::variant<ConsoleOptions, NoWindow> consoleOptionsOf(const QStringList& arguments);
-
-/// Whether a command line asks for a text alone, which needs no display.
-bool asksForText(int argc, const char* const* argv);
 
 } // namespace desktop

@@ -1,6 +1,6 @@
 #include "hosts/desktop/desktop_services.h"
 
-#include "hosts/desktop/path_dialog.h"
+#include "hosts/common/look/path_dialog.h"
 #include "hosts/desktop/window/help_window.h"
 
 #include <QApplication>

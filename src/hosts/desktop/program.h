@@ -1,8 +1,8 @@
 #pragma once
 
 #include "backends/site/site_host_module.h"
+#include "hosts/common/look/interface_language.h"
 #include "hosts/desktop/desktop_services.h"
-#include "hosts/desktop/look/interface_language.h"
 #include "hosts/desktop/open_tool.h"
 #include "hosts/desktop/window/main_window.h"
 

@@ -1,39 +1,25 @@
 #include "hosts/desktop/run_console.h"
 
+#include "hosts/common/look/end_wish.h"
+#include "hosts/common/look/screenshot.h"
+#include "hosts/common/look/theme.h"
 #include "hosts/common/places.h"
 #include "hosts/desktop/console_options.h"
-#include "hosts/desktop/look/theme.h"
 #include "hosts/desktop/program.h"
-#include "hosts/desktop/window/end_wish.h"
-#include "hosts/desktop/window/screenshot.h"
-#include "text/visible_text.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QSettings>
 #include <QTimer>
 
-#include <cstdio>
-#include <cstdlib>
 #include <exception>
+#include <memory>
 
 namespace desktop {
 
 namespace {
 
-int refuse(const char* text)
-{
-    std::fprintf(stderr, "orvandiag-console: %s\n", visibleText(text).c_str());
-    return 1;
-}
-
-/// Qt ends the process where it finds no display; one line has to do.
-void sayWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&)
-{
-    if (type != QtFatalMsg) return;
-    refuse("there is no display to open a window on (set DISPLAY or WAYLAND_DISPLAY)");
-    std::_Exit(1);
-}
+const QString programName = QStringLiteral("orvandiag-console");
 
 HostFacts hostFacts(const ConsoleOptions& options)
 {
@@ -44,12 +30,6 @@ HostFacts hostFacts(const ConsoleOptions& options)
     facts.interrupted = EndWish::signalled;
     facts.toolFolder = places::wholePath(options.toolFolder.toStdString());
     return facts;
-}
-
-int say(const NoWindow& answer)
-{
-    std::fputs(answer.text.c_str(), answer.status == 0 ? stdout : stderr);
-    return answer.status;
 }
 
 int run(const ConsoleOptions& options, const std::function<void(Program&)>& opened)
@@ -82,7 +62,7 @@ int run(const ConsoleOptions& options, const std::function<void(Program&)>& open
     program.close();
     // The window has gone, so what it would say goes to the terminal.
     const QString problem = program.window().problem();
-    return problem.isEmpty() ? result : refuse(qPrintable(problem));
+    return problem.isEmpty() ? result : windowStart::refuse(programName, problem.toStdString());
 }
 
 } // namespace
@@ -92,20 +72,21 @@ int runConsole(int argc, char** argv, const std::function<void(Program&)>& opene
     QCoreApplication::setApplicationName(QStringLiteral("orvandiag-console"));
     QCoreApplication::setOrganizationName(QStringLiteral("orvandiag"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ORVAN_VERSION));
-    if (asksForText(argc, argv)) {
+    if (windowStart::asksForText(argc, argv)) {
         const QCoreApplication application(argc, argv);
         const auto answer = consoleOptionsOf(QCoreApplication::arguments());
-        if (const auto* text = std::get_if<NoWindow>(&answer)) return say(*text);
+        if (const auto* text = std::get_if<NoWindow>(&answer)) return windowStart::say(*text);
     }
-    qInstallMessageHandler(sayWithoutDisplay);
+    auto watch = std::make_unique<windowStart::DisplayWatch>(programName);
     const QApplication application(argc, argv);
-    qInstallMessageHandler(nullptr);
+    watch.reset();
     try {
         const auto options = consoleOptionsOf(QCoreApplication::arguments());
-        if (const auto* refused = std::get_if<NoWindow>(&options)) return say(*refused);
+        if (const auto* refused = std::get_if<NoWindow>(&options))
+            return windowStart::say(*refused);
         return run(std::get<ConsoleOptions>(options), opened);
     } catch (const std::exception& error) {
-        return refuse(error.what());
+        return windowStart::refuse(programName, error.what());
     }
 }
 

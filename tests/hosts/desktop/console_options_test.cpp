@@ -78,15 +78,15 @@ TEST(ConsoleOptions, HelpAndVersionAreTextsThatNeedNoDisplay)
     for (const char* option : {"-h", "--help", "-v", "--version"}) {
         SCOPED_TRACE(option);
         const char* const arguments[] = {"orvandiag-console", "--site", "x", option};
-        EXPECT_TRUE(asksForText(4, arguments));
+        EXPECT_TRUE(windowStart::asksForText(4, arguments));
         const auto answer = read({QString::fromLatin1(option)});
         const auto* text = std::get_if<NoWindow>(&answer);
         ASSERT_NE(nullptr, text);
         EXPECT_EQ(0, text->status);
     }
     const char* const plain[] = {"orvandiag-console", "--site", "help"};
-    EXPECT_FALSE(asksForText(3, plain));
-    EXPECT_FALSE(asksForText(0, plain));
+    EXPECT_FALSE(windowStart::asksForText(3, plain));
+    EXPECT_FALSE(windowStart::asksForText(0, plain));
     const auto help = read({"--help"});
     for (const char* part : {"--site", "--show", "--command", "--theme", "--size", "--screenshot"})
         EXPECT_THAT(std::get<NoWindow>(help).text, HasSubstr(part));

@@ -6,7 +6,7 @@
 // A picture is FOLDER/CODE-THEME/NAME.png. Without options: every language in both themes.
 
 #include "core/language_table.h"
-#include "hosts/desktop/look/theme.h"
+#include "hosts/common/look/theme.h"
 #include "hosts/desktop/support/window_tour.h"
 
 #include <QCommandLineParser>

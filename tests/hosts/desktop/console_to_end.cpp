@@ -5,7 +5,7 @@
 // WHAT is "idle", "box", "gather", "refused:FOLDER" or "wait". The program says "ready" on standard
 // output when it is to be ended: with nothing at work, with a box open, in the middle of a gather,
 // with a gather on show that is refused, or while it waits for its turn to change the site.
-#include "hosts/desktop/look/notice_bar.h"
+#include "hosts/common/look/notice_bar.h"
 #include "hosts/desktop/program.h"
 #include "hosts/desktop/run_console.h"
 #include "hosts/desktop/sheets/sheet_dialog.h"

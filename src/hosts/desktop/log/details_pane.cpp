@@ -1,11 +1,11 @@
 #include "hosts/desktop/log/details_pane.h"
 
 #include "console/list_view.h"
+#include "hosts/common/look/interface_language.h"
+#include "hosts/common/look/spoken_label.h"
+#include "hosts/common/look/theme.h"
 #include "hosts/desktop/log/list_model.h"
 #include "hosts/desktop/log/log_columns.h"
-#include "hosts/desktop/look/interface_language.h"
-#include "hosts/desktop/look/spoken_label.h"
-#include "hosts/desktop/look/theme.h"
 
 #include <QPlainTextEdit>
 #include <QVBoxLayout>

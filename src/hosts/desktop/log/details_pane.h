@@ -3,11 +3,11 @@
 #include <QWidget>
 
 class QPlainTextEdit;
+class SpokenLabel;
 
 namespace desktop {
 
 class ListModel;
-class SpokenLabel;
 
 /// All of one log line: its fields in a line, and the trace in as many as it takes. A line that has
 /// none of the known forms has no trace and is shown as it stands in the log.

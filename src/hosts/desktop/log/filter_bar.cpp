@@ -1,9 +1,9 @@
 #include "hosts/desktop/log/filter_bar.h"
 
 #include "console/list_view.h"
+#include "hosts/common/look/icons.h"
 #include "hosts/desktop/log/filter_button.h"
 #include "hosts/desktop/log/log_columns.h"
-#include "hosts/desktop/look/icons.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "hosts/common/look/interface_language.h"
 #include "hosts/desktop/log/log_filter.h"
 #include "hosts/desktop/log/text_decoder.h"
-#include "hosts/desktop/look/interface_language.h"
 
 #include <QTimer>
 #include <QWidget>

@@ -1,8 +1,8 @@
 #include "hosts/desktop/log/filter_button.h"
 
-#include "hosts/desktop/look/interface_language.h"
-#include "hosts/desktop/look/plain_tool_tip.h"
-#include "hosts/desktop/look/roomy_delegate.h"
+#include "hosts/common/look/interface_language.h"
+#include "hosts/common/look/plain_tool_tip.h"
+#include "hosts/common/look/roomy_delegate.h"
 
 #include <QCheckBox>
 #include <QListWidget>

@@ -1,7 +1,7 @@
 #include "hosts/desktop/log/find_bar.h"
 
-#include "hosts/desktop/look/icons.h"
-#include "hosts/desktop/look/spoken_label.h"
+#include "hosts/common/look/icons.h"
+#include "hosts/common/look/spoken_label.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>

@@ -1,14 +1,13 @@
 #pragma once
 
-#include "hosts/desktop/look/interface_language.h"
+#include "hosts/common/look/interface_language.h"
 
 #include <QWidget>
 
 class QLineEdit;
+class SpokenLabel;
 
 namespace desktop {
-
-class SpokenLabel;
 
 /// The line in which a person looks for a text, or goes to a time.
 class FindBar final : public QWidget {

@@ -1,8 +1,8 @@
 #include "hosts/desktop/log/list_table.h"
 
 #include "console/list_view.h"
+#include "hosts/common/look/csv_field.h"
 #include "hosts/desktop/log/list_model.h"
-#include "runtime/spreadsheet_cell.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -24,17 +24,6 @@ constexpr int sampledRows = 200; ///< at the top, for a first width
 constexpr int cellMargin = 14;
 constexpr int symbolSize = 14;
 constexpr int symbolRoom = 24; ///< for a mark or a sign before the text of a log's cell
-
-/// A cell of comma-separated text, which goes to a spreadsheet: none is a formula.
-QString csvField(const QString& cell)
-{
-    QString text = QString::fromStdString(withoutFormulas(cell.toStdString()));
-    if (!text.contains(QLatin1Char(',')) && !text.contains(QLatin1Char('"')) &&
-        !text.contains(QLatin1Char('\n')) && !text.contains(QLatin1Char('\r')))
-        return text;
-    return QLatin1Char('"') + text.replace(QLatin1String("\""), QLatin1String("\"\"")) +
-           QLatin1Char('"');
-}
 
 } // namespace
 

@@ -1,6 +1,6 @@
 #include "hosts/desktop/log/log_delegate.h"
 
-#include "hosts/desktop/look/theme.h"
+#include "hosts/common/look/theme.h"
 
 #include <QApplication>
 #include <QPainter>

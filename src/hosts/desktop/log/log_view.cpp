@@ -1,6 +1,9 @@
 #include "hosts/desktop/log/log_view.h"
 
 #include "console/list_view.h"
+#include "hosts/common/look/icons.h"
+#include "hosts/common/look/interface_language.h"
+#include "hosts/common/look/theme.h"
 #include "hosts/desktop/log/details_pane.h"
 #include "hosts/desktop/log/filter_bar.h"
 #include "hosts/desktop/log/find_bar.h"
@@ -8,9 +11,6 @@
 #include "hosts/desktop/log/log_delegate.h"
 #include "hosts/desktop/log/overview_strip.h"
 #include "hosts/desktop/log/time_search.h"
-#include "hosts/desktop/look/icons.h"
-#include "hosts/desktop/look/interface_language.h"
-#include "hosts/desktop/look/theme.h"
 #include "hosts/desktop/sheets/typed_moment.h"
 
 #include <QHBoxLayout>

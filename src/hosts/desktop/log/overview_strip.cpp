@@ -1,7 +1,7 @@
 #include "hosts/desktop/log/overview_strip.h"
 
-#include "hosts/desktop/look/plain_tool_tip.h"
-#include "hosts/desktop/look/theme.h"
+#include "hosts/common/look/plain_tool_tip.h"
+#include "hosts/common/look/theme.h"
 
 #include <QAbstractScrollArea>
 #include <QHelpEvent>

@@ -1,6 +1,6 @@
 #include "hosts/desktop/sheets/choice_views.h"
 
-#include "hosts/desktop/look/plain_tool_tip.h"
+#include "hosts/common/look/plain_tool_tip.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

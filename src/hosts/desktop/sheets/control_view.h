@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/control.h"
-#include "hosts/desktop/look/interface_language.h"
+#include "hosts/common/look/interface_language.h"
 
 #include <QFont>
 #include <QObject>

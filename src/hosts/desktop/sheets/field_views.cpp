@@ -1,6 +1,6 @@
 #include "hosts/desktop/sheets/field_views.h"
 
-#include "hosts/desktop/look/roomy_delegate.h"
+#include "hosts/common/look/roomy_delegate.h"
 #include "hosts/desktop/sheets/moment_field.h"
 
 #include <QComboBox>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "hosts/common/gather/gather_job.h"
-#include "hosts/desktop/look/interface_language.h"
+#include "hosts/common/look/interface_language.h"
 
 #include <functional>
 #include <string>

@@ -1,7 +1,7 @@
 #include "hosts/desktop/sheets/moment_field.h"
 
-#include "hosts/desktop/look/icons.h"
-#include "hosts/desktop/look/interface_language.h"
+#include "hosts/common/look/icons.h"
+#include "hosts/common/look/interface_language.h"
 #include "hosts/desktop/sheets/typed_moment.h"
 
 #include <QAction>

@@ -1,8 +1,8 @@
 #include "hosts/desktop/sheets/page_widget.h"
 
 #include "controls/controls.h"
-#include "hosts/desktop/look/icons.h"
-#include "hosts/desktop/look/thin_line.h"
+#include "hosts/common/look/icons.h"
+#include "hosts/common/look/thin_line.h"
 #include "hosts/desktop/sheets/control_widgets.h"
 #include "hosts/desktop/sheets/mnemonics.h"
 #include "hosts/desktop/sheets/text_views.h"

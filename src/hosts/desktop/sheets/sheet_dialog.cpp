@@ -2,9 +2,9 @@
 
 #include "console/plain_sheet.h"
 #include "console/wizard_sheet.h"
-#include "hosts/desktop/look/notice_bar.h"
-#include "hosts/desktop/look/screen_room.h"
-#include "hosts/desktop/look/thin_line.h"
+#include "hosts/common/look/notice_bar.h"
+#include "hosts/common/look/screen_room.h"
+#include "hosts/common/look/thin_line.h"
 #include "hosts/desktop/sheets/page_widget.h"
 #include "hosts/desktop/window/help_topics.h"
 #include "runtime/run_time_error.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "console/open_sheet.h"
-#include "hosts/desktop/look/interface_language.h"
+#include "hosts/common/look/interface_language.h"
 
 #include <QDialog>
 
@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 
+class NoticeBar;
 class QPushButton;
 class QStackedWidget;
 class QTabBar;
@@ -16,7 +17,6 @@ class QTimer;
 
 namespace desktop {
 
-class NoticeBar;
 class PageWidget;
 
 /// Shows a sheet of the console: a wizard with its buttons, or a plain sheet with OK and Apply.

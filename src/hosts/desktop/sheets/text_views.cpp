@@ -1,6 +1,6 @@
 #include "hosts/desktop/sheets/text_views.h"
 
-#include "hosts/desktop/look/theme.h"
+#include "hosts/common/look/theme.h"
 
 #include <QGroupBox>
 #include <QLabel>

@@ -1,7 +1,7 @@
 #include "hosts/desktop/sheets/tree_control_view.h"
 
-#include "hosts/desktop/look/plain_tool_tip.h"
-#include "hosts/desktop/look/roomy_delegate.h"
+#include "hosts/common/look/plain_tool_tip.h"
+#include "hosts/common/look/roomy_delegate.h"
 
 #include <QMouseEvent>
 #include <QTreeView>

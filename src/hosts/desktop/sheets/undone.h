@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hosts/desktop/look/interface_language.h"
+#include "hosts/common/look/interface_language.h"
 #include "runtime/run_time_error.h"
 
 #include <optional>

@@ -388,6 +388,13 @@
     </message>
 </context>
 <context>
+    <name>NoticeBar</name>
+    <message>
+        <source>Close this notice</source>
+        <translation>Diesen Hinweis schließen</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)</source>
@@ -983,13 +990,6 @@ Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
         <source>en_US</source>
         <extracomment>The language and country by which a calendar names its days.</extracomment>
         <translation>de_DE</translation>
-    </message>
-</context>
-<context>
-    <name>desktop::NoticeBar</name>
-    <message>
-        <source>Close this notice</source>
-        <translation>Diesen Hinweis schließen</translation>
     </message>
 </context>
 <context>

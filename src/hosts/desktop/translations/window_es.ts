@@ -388,6 +388,13 @@
     </message>
 </context>
 <context>
+    <name>NoticeBar</name>
+    <message>
+        <source>Close this notice</source>
+        <translation>Cerrar este aviso</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)</source>
@@ -983,13 +990,6 @@ Abra uno con Control+Mayúsculas+O o cree un servidor de ejemplo con Control+May
         <source>en_US</source>
         <extracomment>The language and country by which a calendar names its days.</extracomment>
         <translation>es_ES</translation>
-    </message>
-</context>
-<context>
-    <name>desktop::NoticeBar</name>
-    <message>
-        <source>Close this notice</source>
-        <translation>Cerrar este aviso</translation>
     </message>
 </context>
 <context>

@@ -388,6 +388,13 @@
     </message>
 </context>
 <context>
+    <name>NoticeBar</name>
+    <message>
+        <source>Close this notice</source>
+        <translation>Fermer cet avis</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)</source>
@@ -983,13 +990,6 @@ Ouvrez-en un avec Ctrl+Maj+O, ou créez un serveur d&apos;exemple avec Ctrl+Maj+
         <source>en_US</source>
         <extracomment>The language and country by which a calendar names its days.</extracomment>
         <translation>fr_FR</translation>
-    </message>
-</context>
-<context>
-    <name>desktop::NoticeBar</name>
-    <message>
-        <source>Close this notice</source>
-        <translation>Fermer cet avis</translation>
     </message>
 </context>
 <context>

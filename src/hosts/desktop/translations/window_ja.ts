@@ -388,6 +388,13 @@
     </message>
 </context>
 <context>
+    <name>NoticeBar</name>
+    <message>
+        <source>Close this notice</source>
+        <translation>この通知を閉じます</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Diagnostic logs (diag_*.txt data_*.txt *.log);;All files (*)</source>
@@ -983,13 +990,6 @@ Ctrl+Shift+O でサイトを開くか、Ctrl+Shift+N でサンプル サーバ�
         <source>en_US</source>
         <extracomment>The language and country by which a calendar names its days.</extracomment>
         <translation>ja_JP</translation>
-    </message>
-</context>
-<context>
-    <name>desktop::NoticeBar</name>
-    <message>
-        <source>Close this notice</source>
-        <translation>この通知を閉じます</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,6 @@
 #include "hosts/desktop/window/about_dialog.h"
 
-#include "hosts/desktop/look/icons.h"
+#include "hosts/common/look/icons.h"
 #include "hosts/desktop/sheets/choice_views.h"
 #include "hosts/desktop/sheets/text_views.h"
 #include "settings/about_box.h"

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "hosts/common/look/interface_language.h"
 #include "hosts/desktop/log/list_model.h"
-#include "hosts/desktop/look/interface_language.h"
 #include "hosts/desktop/window/quiet_observer.h"
 #include "text/code_page.h"
 

@@ -1,8 +1,8 @@
 #include "hosts/desktop/window/help_window.h"
 
-#include "hosts/desktop/look/icons.h"
-#include "hosts/desktop/look/interface_language.h"
-#include "hosts/desktop/look/screen_room.h"
+#include "hosts/common/look/icons.h"
+#include "hosts/common/look/interface_language.h"
+#include "hosts/common/look/screen_room.h"
 
 #include <QAction>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "hosts/desktop/window/key_list.h"
 
-#include "hosts/desktop/look/roomy_delegate.h"
-#include "hosts/desktop/look/screen_room.h"
+#include "hosts/common/look/roomy_delegate.h"
+#include "hosts/common/look/screen_room.h"
 #include "hosts/desktop/sheets/mnemonics.h"
 
 #include <QAction>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/trapped_error_listener.h"
-#include "hosts/desktop/look/interface_language.h"
+#include "hosts/common/look/interface_language.h"
 #include "hosts/desktop/new_logs_signal.h"
 #include "hosts/desktop/sheets/gather_notice.h"
 #include "hosts/desktop/sheets/undone.h"
@@ -13,6 +13,8 @@
 #include <optional>
 #include <string>
 
+class ElidedLabel;
+class NoticeBar;
 class QLabel;
 class QMenu;
 class QSettings;
@@ -22,8 +24,6 @@ class QToolBar;
 namespace desktop {
 
 class ConsolePane;
-class ElidedLabel;
-class NoticeBar;
 class OpenTool;
 class SheetDialog;
 

@@ -1,5 +1,5 @@
 #include "hosts/common/log_folder.h"
-#include "hosts/desktop/look/notice_bar.h"
+#include "hosts/common/look/notice_bar.h"
 #include "hosts/desktop/open_tool.h"
 #include "hosts/desktop/sheets/sheet_dialog.h"
 #include "hosts/desktop/window/main_window.h"

@@ -1,8 +1,8 @@
 #include "hosts/desktop/window/scope_model.h"
 
 #include "console/console.h"
-#include "hosts/desktop/look/icons.h"
-#include "hosts/desktop/look/plain_tool_tip.h"
+#include "hosts/common/look/icons.h"
+#include "hosts/common/look/plain_tool_tip.h"
 
 #include <algorithm>
 

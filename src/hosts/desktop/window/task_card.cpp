@@ -1,6 +1,6 @@
 #include "hosts/desktop/window/task_card.h"
 
-#include "hosts/desktop/look/theme.h"
+#include "hosts/common/look/theme.h"
 
 #include <QKeyEvent>
 #include <QPainter>

@@ -1,8 +1,8 @@
 #include "hosts/desktop/window/task_pad_view.h"
 
 #include "console/task_pad.h"
-#include "hosts/desktop/look/icons.h"
-#include "hosts/desktop/look/theme.h"
+#include "hosts/common/look/icons.h"
+#include "hosts/common/look/theme.h"
 #include "hosts/desktop/window/task_card.h"
 #include "shell/snapin_names.h"
 

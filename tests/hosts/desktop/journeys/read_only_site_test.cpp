@@ -1,7 +1,7 @@
 #include "end_to_end/site_record.h"
+#include "hosts/common/look/notice_bar.h"
 #include "hosts/desktop/log/list_table.h"
 #include "hosts/desktop/log/log_view.h"
-#include "hosts/desktop/look/notice_bar.h"
 #include "hosts/desktop/sheets/sheet_dialog.h"
 #include "hosts/desktop/support/open_program.h"
 #include "hosts/desktop/support/outside_view.h"

@@ -1,10 +1,10 @@
 #include "hosts/desktop/log/overview_strip.h"
 
+#include "hosts/common/look/theme.h"
 #include "hosts/desktop/log/filter_bar.h"
 #include "hosts/desktop/log/find_bar.h"
 #include "hosts/desktop/log/list_table.h"
 #include "hosts/desktop/log/log_view.h"
-#include "hosts/desktop/look/theme.h"
 #include "hosts/desktop/support/test_window.h"
 
 #include <QLineEdit>

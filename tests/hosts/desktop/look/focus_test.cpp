@@ -1,7 +1,7 @@
 // Where the keys go can be seen.
+#include "hosts/common/look/theme.h"
 #include "hosts/desktop/log/list_table.h"
 #include "hosts/desktop/log/log_view.h"
-#include "hosts/desktop/look/theme.h"
 #include "hosts/desktop/support/open_program.h"
 #include "hosts/desktop/support/person.h"
 #include "hosts/desktop/window/task_card.h"

@@ -1,4 +1,4 @@
-#include "hosts/desktop/look/interface_language.h"
+#include "hosts/common/look/interface_language.h"
 
 #include "hosts/desktop/log/filter_bar.h"
 #include "hosts/desktop/log/find_bar.h"

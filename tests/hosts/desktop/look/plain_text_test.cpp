@@ -1,4 +1,4 @@
-#include "hosts/desktop/look/plain_tool_tip.h"
+#include "hosts/common/look/plain_tool_tip.h"
 #include "hosts/desktop/support/test_window.h"
 
 #include <QLabel>

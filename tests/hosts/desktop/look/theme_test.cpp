@@ -1,4 +1,4 @@
-#include "hosts/desktop/look/theme.h"
+#include "hosts/common/look/theme.h"
 
 #include "hosts/desktop/support/test_window.h"
 

@@ -1,7 +1,7 @@
 #include "hosts/desktop/sheets/gather_notice.h"
 
 #include "hosts/common/gather/gather_sentences.h"
-#include "hosts/desktop/look/notice_bar.h"
+#include "hosts/common/look/notice_bar.h"
 #include "hosts/desktop/sheets/sheet_dialog.h"
 #include "hosts/desktop/support/open_program.h"
 #include "hosts/desktop/support/person.h"

@@ -1,6 +1,6 @@
 #include "hosts/desktop/sheets/moment_field.h"
 
-#include "hosts/desktop/look/notice_bar.h"
+#include "hosts/common/look/notice_bar.h"
 #include "hosts/desktop/support/every_kind_page.h"
 #include "hosts/desktop/support/open_program.h"
 #include "hosts/desktop/support/person.h"

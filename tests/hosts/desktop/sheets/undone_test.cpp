@@ -1,6 +1,6 @@
 #include "hosts/desktop/sheets/undone.h"
 
-#include "hosts/desktop/look/notice_bar.h"
+#include "hosts/common/look/notice_bar.h"
 #include "hosts/desktop/sheets/sheet_dialog.h"
 #include "hosts/desktop/support/open_program.h"
 #include "hosts/desktop/support/outside_view.h"

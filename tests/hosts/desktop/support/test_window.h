@@ -6,6 +6,7 @@
 #include "sample/sample_server.h"
 #include "support/fakes/fake_desktop.h"
 #include "support/temporary_folder.h"
+#include "support/windows/test_application.h"
 
 #include <QApplication>
 #include <QSettings>
@@ -15,12 +16,6 @@
 #include <string>
 
 namespace desktop {
-
-/// The one application of a test program, on a display that nobody sees.
-QApplication& testApplication();
-
-/// Handles events until none is left.
-void settle();
 
 /// A sample server in a folder of its own.
 class TestServer {

@@ -1,4 +1,4 @@
-#include "hosts/desktop/window/end_wish.h"
+#include "hosts/common/look/end_wish.h"
 
 #include "hosts/desktop/support/outside_view.h"
 #include "hosts/desktop/support/test_window.h"

@@ -2,9 +2,9 @@
 
 #include "console/console.h"
 #include "console/wizard_sheet.h"
+#include "hosts/common/look/theme.h"
 #include "hosts/desktop/log/list_table.h"
 #include "hosts/desktop/log/log_view.h"
-#include "hosts/desktop/look/theme.h"
 #include "hosts/desktop/support/test_window.h"
 #include "hosts/desktop/window/recent_sites.h"
 #include "hosts/desktop/window/task_pad_view.h"
