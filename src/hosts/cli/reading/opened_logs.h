@@ -1,8 +1,6 @@
 #pragma once
 
-#include "backends/cabinet/mspack_cabinets.h"
-#include "backends/jet/jet_trace_reader.h"
-#include "timeline/sources/open_sources.h"
+#include "hosts/common/logs/log_opener.h"
 #include "timeline/timeline.h"
 
 #include <memory>
@@ -14,14 +12,17 @@ namespace cli {
 /// Logs that `read` was given, opened: whatever a path leads to that has rows.
 class OpenedLogs {
 public:
-    explicit OpenedLogs(timeline::SourceOptions options);
+    explicit OpenedLogs(timeline::SourceOptions options) : opener_(std::move(options)) {}
 
     /// Opens what a path of the machine leads to, or standard input for "-", and adds it to the
     /// others. A single file that is nothing known is taken for a log of lines without a form.
     void open(const std::string& path);
 
     /// The source of one log at a path, as `open` makes it. Raises what opening it raises.
-    std::unique_ptr<timeline::Source> openLog(const std::string& path);
+    std::unique_ptr<timeline::Source> openLog(const std::string& path)
+    {
+        return opener_.openLog(path);
+    }
 
     timeline::Timeline& timeline() { return timeline_; }
     const timeline::Timeline& timeline() const { return timeline_; }
@@ -39,13 +40,7 @@ public:
     std::vector<std::string> guesses() const;
 
 private:
-    bool hasRowsOfItsOwn(const std::string& path) const;
-    std::unique_ptr<timeline::Source> unknownLog(const std::string& path) const;
-
-    jet::JetTraceReader databases_;
-    MspackCabinets cabinets_;
-    timeline::SourceOptions options_;
-    timeline::SourceOpening opening_;
+    LogOpener opener_;
     timeline::Timeline timeline_;
     std::vector<std::string> failures_;
     std::vector<std::string> passedOver_;
