@@ -32,6 +32,9 @@ as_person 'QT_QPA_PLATFORM=offscreen orvandiag-console --site site --screenshot 
 [ "$(wc -c </home/person/console.png)" -gt 10000 ] || fail "the console's window shows nothing"
 as_person 'man orvandiag-console' | grep -q '^OPTIONS' || fail "the console has no manual page"
 grep -q '^Exec=orvandiag-console$' /usr/share/applications/orvandiag-console.desktop
+as_person 'QT_QPA_PLATFORM=offscreen orvandiag-viewer --screenshot viewer.png case/*.mdb'
+[ "$(wc -c </home/person/viewer.png)" -gt 10000 ] || fail "the viewer's window shows nothing"
+as_person 'man orvandiag-viewer' | grep -q '^OPTIONS' || fail "the viewer has no manual page"
 
 get purge orvandiag orvandiag-console
 left=$(find / -xdev -name '*orvandiag*' -not -path '/root/*' -not -path '/home/*' \

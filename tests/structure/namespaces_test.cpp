@@ -39,6 +39,7 @@ TEST(Namespaces, AProgramsOwnNamesStandInItsNamespace)
     EXPECT_THAT(headersOutside("src/hosts/cli", "cli"), testing::IsEmpty());
     EXPECT_THAT(headersOutside("src/hosts/desktop", "desktop"), testing::IsEmpty());
     EXPECT_THAT(headersOutside("src/hosts/mmc", "mmc"), testing::IsEmpty());
+    EXPECT_THAT(headersOutside("src/hosts/viewer", "viewer"), testing::IsEmpty());
 }
 
 TEST(Namespaces, WhatStandsOutsideOfOneIsSeen)

@@ -6,6 +6,7 @@ const char* const folder = ORVAN_BUILD_FOLDER;
 const char* const data = ORVAN_BUILD_FOLDER "/data";
 const char* const orvandiag = ORVAN_ORVANDIAG;
 const char* const console = ORVAN_CONSOLE;
+const char* const viewer = ORVAN_VIEWER;
 const char* const consoleToEnd = ORVAN_CONSOLE_TO_END;
 const char* const cabmaker = ORVAN_CABMAKER;
 const char* const failingCalls = ORVAN_FAILING_CALLS;

@@ -11,6 +11,7 @@ extern const char* const folder;
 extern const char* const data; ///< as it is installed
 extern const char* const orvandiag;
 extern const char* const console;
+extern const char* const viewer;
 extern const char* const consoleToEnd; ///< the window that a test ends
 extern const char* const cabmaker;
 extern const char* const failingCalls; ///< the library that is preloaded

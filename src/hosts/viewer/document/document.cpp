@@ -1,0 +1,249 @@
+#include "hosts/viewer/document/document.h"
+
+#include "runtime/run_time_error.h"
+
+#include <QMetaObject>
+
+#include <algorithm>
+
+namespace viewer {
+
+namespace {
+
+constexpr std::size_t rowsOfBlock = 64;
+constexpr std::size_t mostBlocks = 64;
+constexpr std::size_t nearRows = 512; ///< that are walked over rather than found anew
+constexpr int firstLook = 5;          ///< milliseconds until the first rows may be there
+constexpr int otherLooks = 100;
+
+} // namespace
+
+// What another thread tells comes as an event of this one, or never, when this is gone by then.
+Document::Document(QObject* parent)
+    : QObject(parent),
+      maker_(timeline_, {.view =
+                             [this](std::shared_ptr<const View> view) {
+                                 QMetaObject::invokeMethod(
+                                     this, [this, view = std::move(view)] { takeView(view); },
+                                     Qt::QueuedConnection);
+                             },
+                         .counts =
+                             [this](std::shared_ptr<const RowCounts> counts) {
+                                 QMetaObject::invokeMethod(
+                                     this,
+                                     [this, counts = std::move(counts)] {
+                                         counts_ = counts;
+                                         emit countsChanged();
+                                     },
+                                     Qt::QueuedConnection);
+                             }}),
+      opening_(timeline_, [this](const OpenedPath& opened) {
+          QMetaObject::invokeMethod(
+              this, [this, opened] { takeOpened(opened); }, Qt::QueuedConnection);
+      })
+{
+    connect(&watch_, &QTimer::timeout, this, &Document::lookAtReading);
+}
+
+Document::~Document() = default;
+
+void Document::open(const QStringList& paths)
+{
+    toOpen_ += static_cast<std::size_t>(paths.size());
+    for (const QString& path : paths) opening_.open(path.toStdString());
+    watch_.start(firstLook);
+    emit progressed();
+}
+
+void Document::cancel()
+{
+    toOpen_ -= opening_.cancel();
+    timeline_.cancel();
+}
+
+Document::State Document::state() const
+{
+    const auto reading = timeline_.state();
+    State state;
+    state.busy =
+        toOpen_ > 0 || !reading.ended || !lookedAtEnd_ || view_->wish < wishes_ || !view_->complete;
+    state.rows = reading.rows;
+    if (reading.total > 0)
+        state.share =
+            std::min(1.0, static_cast<double>(reading.done) / static_cast<double>(reading.total));
+    return state;
+}
+
+void Document::takeOpened(const OpenedPath& opened)
+{
+    --toOpen_;
+    if (opened.sources > 0) {
+        sources_ += opened.sources;
+        paths_.append(QString::fromStdString(opened.path));
+        lookedAtEnd_ = false;
+        watch_.start(firstLook);
+    }
+    tell(opened.troubles);
+    for (const std::string& note : opened.notes) emit noted(harmless(QString::fromStdString(note)));
+    emit progressed();
+}
+
+void Document::tell(const std::vector<std::string>& failures)
+{
+    for (const std::string& failure : failures) {
+        const QString sentence = harmless(QString::fromStdString(failure));
+        if (told_.contains(sentence)) continue;
+        told_.insert(sentence);
+        emit failed(sentence);
+    }
+}
+
+/// Asks for a view with the rows that came: at once of the first, then whenever there are twice as
+/// many, so that ordering them again and again takes no longer than ordering them once at the end.
+void Document::lookAtReading()
+{
+    const auto reading = timeline_.state();
+    tell(reading.failures);
+    const bool ended = reading.ended && toOpen_ == 0;
+    if (reading.rows >= std::max<std::size_t>(1, 2 * readRows_) || (ended && !lookedAtEnd_)) {
+        readRows_ = reading.rows;
+        lookedAtEnd_ = ended;
+        wish(true);
+        watch_.setInterval(otherLooks);
+    }
+    if (ended && lookedAtEnd_) {
+        watch_.stop();
+        std::vector<std::string> troubles;
+        timeline_.look([&](const timeline::Timeline& rows) {
+            for (std::size_t source = 0; source < rows.sourceCount(); ++source)
+                for (const std::string& trouble : rows.source(source).troubles())
+                    troubles.push_back(trouble);
+        });
+        tell(troubles);
+    }
+    emit progressed();
+}
+
+void Document::wish(bool anew)
+{
+    maker_.make({.number = ++wishes_, .anew = anew, .choice = choice_});
+}
+
+void Document::setFilter(RowFilter filter)
+{
+    choice_ = filter.choice();
+    filter_ = std::move(filter);
+    wish(false);
+    emit filterChanged();
+    emit progressed();
+}
+
+void Document::takeView(std::shared_ptr<const View> view)
+{
+    emit viewAboutToChange();
+    view_ = std::move(view);
+    blocks_.clear();
+    places_.clear();
+    emit viewChanged();
+}
+
+const Document::Block& Document::block(std::size_t number)
+{
+    if (const auto known = places_.find(number); known != places_.end()) {
+        blocks_.splice(blocks_.begin(), blocks_, known->second);
+        return blocks_.front().second;
+    }
+    if (blocks_.size() == mostBlocks) {
+        places_.erase(blocks_.back().first);
+        blocks_.pop_back();
+    }
+    Block read;
+    const std::size_t first = number * rowsOfBlock;
+    const std::size_t end = std::min(first + rowsOfBlock, view_->size());
+    timeline_.look([&](const timeline::Timeline& rows) {
+        std::optional<RowOrder::Walk> walk;
+        std::size_t at = 0; // the number of the walk's next row
+        for (std::size_t place = first; place < end; ++place) {
+            const std::size_t row = view_->rowAt(place);
+            if (!walk || row - at > nearRows) {
+                walk = view_->order->from(rows, row);
+                at = row;
+            }
+            for (; at < row; ++at) walk->next();
+            read.push_back(readRow(rows, *walk->next(), room_));
+            ++at;
+        }
+    });
+    blocks_.emplace_front(number, std::move(read));
+    places_[number] = blocks_.begin();
+    return blocks_.front().second;
+}
+
+const ShownRow& Document::row(std::size_t place)
+{
+    return block(place / rowsOfBlock)[place % rowsOfBlock];
+}
+
+void Document::prepare(std::size_t place, std::size_t count)
+{
+    for (std::size_t number = place / rowsOfBlock; number * rowsOfBlock < place + count; ++number)
+        if (number * rowsOfBlock < rowCount()) block(number);
+}
+
+QString Document::wholeLine(std::size_t place)
+{
+    QString line;
+    timeline_.look([&](const timeline::Timeline& rows) {
+        const timeline::IndexRow row = *view_->order->from(rows, view_->rowAt(place)).next();
+        try {
+            rows.record(row, room_);
+            line = decoded(room_.whole, room_.codePage);
+        } catch (const RunTimeError&) {
+            line.clear(); // the row itself tells why
+        }
+    });
+    return line;
+}
+
+std::string Document::value(std::size_t place, timeline::Column column)
+{
+    std::string value;
+    timeline_.look([&](const timeline::Timeline& rows) {
+        try {
+            rows.record(*view_->order->from(rows, view_->rowAt(place)).next(), room_);
+            if (room_.hasForm) value = valueOf(room_, column);
+        } catch (const RunTimeError&) {
+            value.clear(); // the row itself tells why
+        }
+    });
+    return value;
+}
+
+timeline::IndexRow Document::indexRow(std::size_t place)
+{
+    timeline::IndexRow row;
+    timeline_.look([&](const timeline::Timeline& rows) {
+        row = *view_->order->from(rows, view_->rowAt(place)).next();
+    });
+    return row;
+}
+
+std::optional<std::size_t> Document::placeOf(const timeline::IndexRow& row)
+{
+    if (!view_->order) return std::nullopt;
+    std::optional<std::size_t> number;
+    timeline_.look([&](const timeline::Timeline& rows) { number = view_->order->find(rows, row); });
+    if (!number || (!view_->complete && *number >= view_->chosen->size())) return std::nullopt;
+    return view_->placeOf(*number);
+}
+
+std::size_t Document::placeFrom(timeline::Moment moment)
+{
+    if (!view_->order) return 0;
+    std::size_t number = 0;
+    timeline_.look(
+        [&](const timeline::Timeline& rows) { number = view_->order->firstFrom(rows, moment); });
+    return view_->placeOf(number);
+}
+
+} // namespace viewer

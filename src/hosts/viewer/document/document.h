@@ -1,0 +1,147 @@
+#pragma once
+
+#include "hosts/viewer/document/row_filter.h"
+#include "hosts/viewer/document/shown_row.h"
+#include "hosts/viewer/document/source_opening.h"
+#include "hosts/viewer/document/view.h"
+#include "hosts/viewer/document/view_maker.h"
+
+#include <QObject>
+#include <QSet>
+#include <QStringList>
+#include <QTimer>
+
+#include <cstddef>
+#include <list>
+#include <memory>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+namespace viewer {
+
+/// The opened logs and what of them is on show, for the thread of the windows. No call waits longer
+/// than some milliseconds; what takes longer is done elsewhere, and told by a signal.
+class Document final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Document(QObject* parent = nullptr);
+    ~Document() override;
+
+    /// Opens paths of the machine, or standard input for "-", behind what is open.
+    void open(const QStringList& paths);
+
+    /// Ends opening and reading; the rows so far stay.
+    void cancel();
+
+    /// How far opening and reading are, and whether a view of it is still being made. The share is
+    /// nothing while nobody knows.
+    struct State {
+        bool busy = false;
+        std::optional<double> share; ///< from 0 to 1
+        std::size_t rows = 0;        ///< that were read
+    };
+    State state() const;
+
+    /// Whether paths were opened that have rows, or may have.
+    bool hasSources() const { return sources_ > 0; }
+
+    /// The paths that were opened and had something to read, in their order.
+    const QStringList& paths() const { return paths_; }
+
+    /// What of the rows is on show.
+    const RowFilter& filter() const { return filter_; }
+
+    /// Shows the rows that pass a filter; the first of them come at once, and others while it is
+    /// asked. Raises 5, with a sentence, and keeps the filter of before, for one that makes no
+    /// sense.
+    void setFilter(RowFilter filter);
+
+    /// What was counted of the last complete view; null before.
+    const RowCounts* counts() const { return counts_.get(); }
+
+    /// The number of all rows, those that are not on show included.
+    std::size_t allRows() const { return view_->order ? view_->order->size() : 0; }
+
+    const View& view() const { return *view_; }
+    std::size_t rowCount() const { return view_->size(); }
+
+    /// The row at a place on show, which is less than `rowCount()`. It holds until another one is
+    /// asked for.
+    const ShownRow& row(std::size_t place);
+
+    /// Reads the rows at places, a screenful or so, for `row` to have them.
+    void prepare(std::size_t place, std::size_t count);
+
+    /// The place of a row; of one that is not on show that of the first on show behind it, which
+    /// may be `rowCount()`. Nothing for a row of no source that is open, or one that was not asked
+    /// yet.
+    std::optional<std::size_t> placeOf(const timeline::IndexRow& row);
+
+    /// The place of the first row on show at a moment or later; `rowCount()` for none.
+    std::size_t placeFrom(timeline::Moment moment);
+
+    /// The line of the row at a place as it stands in its file, in the characters of its code page;
+    /// the empty text where there are no lines, or it can't be read any more.
+    QString wholeLine(std::size_t place);
+
+    /// The text of the row at a place in a column, as filters know it; the empty text where it has
+    /// none, or can't be read any more.
+    std::string value(std::size_t place, timeline::Column column);
+
+    /// What is kept in memory of the row at a place, without reading its texts.
+    timeline::IndexRow indexRow(std::size_t place);
+
+signals:
+    /// Other rows will be on show; those of before still are.
+    void viewAboutToChange();
+    void viewChanged();
+
+    /// Another filter was set; the view of it comes by itself.
+    void filterChanged();
+
+    /// Rows were counted.
+    void countsChanged();
+
+    /// Opening or reading went on, or ended.
+    void progressed();
+
+    /// A sentence of what could not be read.
+    void failed(const QString& sentence);
+
+    /// A sentence of what was guessed or passed over.
+    void noted(const QString& sentence);
+
+private:
+    void takeOpened(const OpenedPath& opened);
+    void takeView(std::shared_ptr<const View> view);
+    void lookAtReading();
+    void wish(bool anew);
+    void tell(const std::vector<std::string>& failures);
+
+    /// Rows that stand beside each other, as they were read. A block is found by its number.
+    using Block = std::vector<ShownRow>;
+    const Block& block(std::size_t number);
+
+    SharedTimeline timeline_;
+    std::shared_ptr<const View> view_ = std::make_shared<View>();
+    std::size_t toOpen_ = 0; ///< paths that are opened, or wait for it
+    std::size_t sources_ = 0;
+    QStringList paths_;
+    QSet<QString> told_;
+    std::size_t readRows_ = 0; ///< that the view knows, or the one that is being made
+    RowFilter filter_;
+    timeline::Choice choice_; ///< that the filter comes to
+    std::shared_ptr<const RowCounts> counts_;
+    std::uint64_t wishes_ = 0; ///< that were made for views
+    bool lookedAtEnd_ = true;  ///< whether the view has the rows of a reading that has ended
+    QTimer watch_;             ///< runs while something is opened or read
+    timeline::Record room_;
+    std::list<std::pair<std::size_t, Block>> blocks_; ///< those that were used last come first
+    std::unordered_map<std::size_t, std::list<std::pair<std::size_t, Block>>::iterator> places_;
+    ViewMaker maker_;
+    SourceOpening opening_;
+};
+
+} // namespace viewer

@@ -1,0 +1,93 @@
+#include "hosts/viewer/document/row_names.h"
+
+#include "runtime/run_time_error.h"
+#include "timeline/filter/filter.h"
+
+#include <algorithm>
+#include <chrono>
+
+namespace viewer {
+
+namespace {
+
+using timeline::Timeline;
+
+constexpr std::chrono::milliseconds learnedAtOnce{2};
+constexpr std::size_t rowsBetweenLooks = 64; ///< at the clock
+
+} // namespace
+
+std::uint8_t RowNames::numberOf(std::vector<std::string>& texts, const std::string& text)
+{
+    const auto known = std::find(texts.begin(), texts.end(), text);
+    if (known == texts.end() && texts.size() >= unknown) return unknown;
+    const auto number = static_cast<std::uint8_t>(known - texts.begin());
+    if (known == texts.end()) texts.push_back(text);
+    return number;
+}
+
+void RowNames::check(const Timeline& timeline)
+{
+    for (std::size_t number = 0; number < logs_.size(); ++number) {
+        Log& log = logs_[number];
+        if (log.sources.empty()) continue;
+        const timeline::SourceRows& rows = timeline.rowsOf(number);
+        const std::size_t last = log.sources.size() - 1;
+        if (last < rows.size() && rows[last].place == log.lastPlace) continue;
+        log.sources.clear();
+        log.processes.clear();
+    }
+}
+
+bool RowNames::learn(const Timeline& timeline)
+{
+    logs_.resize(timeline.sourceCount());
+    const auto end = std::chrono::steady_clock::now() + learnedAtOnce;
+    for (std::size_t number = 0; number < logs_.size(); ++number) {
+        Log& log = logs_[number];
+        const std::string& process = timeline.source(number).facts().process;
+        if (log.process == unknown && !process.empty()) log.process = numberOf(processes_, process);
+        const std::size_t rows = timeline.rowsOf(number).size();
+        while (log.sources.size() < rows) {
+            learnRow(timeline, log, number);
+            if (log.sources.size() % rowsBetweenLooks == 0 &&
+                std::chrono::steady_clock::now() >= end)
+                return false;
+        }
+    }
+    return true;
+}
+
+void RowNames::learnRow(const Timeline& timeline, Log& log, std::size_t number)
+{
+    const timeline::IndexRow& row = timeline.rowsOf(number)[log.sources.size()];
+    std::uint8_t process = unknown;
+    std::uint8_t source = unknown;
+    try {
+        timeline.record(row, record_);
+        source = numberOf(sources_, valueOf(record_, timeline::Column::source));
+        if (log.process == unknown)
+            process = numberOf(processes_, valueOf(record_, timeline::Column::process));
+    } catch (const RunTimeError&) {
+        // Whoever asks for its texts hears why.
+    }
+    log.sources.push_back(source);
+    if (log.process == unknown) log.processes.push_back(process);
+    log.lastPlace = row.place;
+}
+
+std::uint8_t RowNames::process(std::size_t log, std::size_t position) const
+{
+    if (log >= logs_.size()) return unknown;
+    const Log& known = logs_[log];
+    if (known.process != unknown) return known.process;
+    return position < known.processes.size() ? known.processes[position] : unknown;
+}
+
+std::uint8_t RowNames::source(std::size_t log, std::size_t position) const
+{
+    if (log >= logs_.size() || position >= logs_[log].sources.size()) return unknown;
+    return logs_[log].sources[position];
+}
+
+} // namespace viewer

@@ -1,0 +1,160 @@
+#include "hosts/viewer/document/row_order.h"
+
+#include <algorithm>
+
+namespace viewer {
+
+namespace {
+
+using timeline::IndexRow;
+using timeline::Moment;
+using timeline::Timeline;
+
+constexpr std::size_t leastStride = 1024;
+
+} // namespace
+
+RowOrder::RowOrder(const Timeline& timeline)
+    : limits_(timeline.sourceCount()), positions_(timeline.sourceCount())
+{
+    for (std::size_t source = 0; source < limits_.size(); ++source) {
+        limits_[source] = static_cast<std::uint32_t>(timeline.rowsOf(source).size());
+        size_ += limits_[source];
+    }
+    const std::size_t notes =
+        mostNotes / (sizeof(std::uint32_t) * std::max<std::size_t>(1, limits_.size()));
+    stride_ = std::max(leastStride, size_ / std::max<std::size_t>(1, notes));
+    heads_ = Walk(timeline, *this, positions_).heads_;
+}
+
+bool RowOrder::build(const Timeline& timeline, std::size_t rows)
+{
+    Walk walk(timeline, *this, std::move(positions_), std::move(heads_));
+    const std::size_t end = std::min(size_, built_ + rows);
+    for (; built_ < end; ++built_) {
+        if (built_ % stride_ == 0)
+            notes_.insert(notes_.end(), walk.positions_.begin(), walk.positions_.end());
+        walk.next();
+    }
+    positions_ = std::move(walk.positions_);
+    heads_ = std::move(walk.heads_);
+    if (built_ < size_) return false;
+    std::vector<std::uint32_t>().swap(positions_);
+    std::vector<Head>().swap(heads_);
+    return true;
+}
+
+RowOrder::Walk RowOrder::from(const Timeline& timeline, std::size_t row) const
+{
+    const std::size_t note = row < size_ ? row / stride_ : size_ / stride_;
+    const auto sources = static_cast<std::ptrdiff_t>(limits_.size());
+    const auto first = notes_.begin() + static_cast<std::ptrdiff_t>(note) * sources;
+    if (notes_.end() - first < sources) return Walk(timeline, *this, limits_);
+    Walk walk(timeline, *this, {first, first + sources});
+    for (std::size_t at = note * stride_; at < row; ++at) walk.next();
+    return walk;
+}
+
+/// How many rows of a source stand before a moment, or at it.
+std::size_t RowOrder::countBefore(const Timeline& timeline, std::uint32_t source, Moment moment,
+                                  bool orAt) const
+{
+    const timeline::SourceRows& rows = timeline.rowsOf(source);
+    const auto end = rows.begin() + static_cast<std::ptrdiff_t>(limits_[source]);
+    const auto first = std::partition_point(rows.begin(), end, [&](const IndexRow& row) {
+        return row.moment < moment || (orAt && row.moment == moment);
+    });
+    return static_cast<std::size_t>(first - rows.begin());
+}
+
+std::size_t RowOrder::firstFrom(const Timeline& timeline, Moment moment) const
+{
+    std::size_t before = 0;
+    for (std::uint32_t source = 0; source < limits_.size(); ++source)
+        before += countBefore(timeline, source, moment, false);
+    return before;
+}
+
+std::optional<std::size_t> RowOrder::find(const Timeline& timeline, const IndexRow& row) const
+{
+    if (row.source() >= limits_.size()) return std::nullopt;
+    const timeline::SourceRows& rows = timeline.rowsOf(row.source());
+    const std::size_t first = countBefore(timeline, row.source(), row.moment, false);
+    std::size_t position = first;
+    while (position < limits_[row.source()] && rows[position].moment == row.moment &&
+           rows[position].place != row.place)
+        ++position;
+    if (position == limits_[row.source()] || rows[position].place != row.place) return std::nullopt;
+    std::size_t before = position;
+    for (std::uint32_t source = 0; source < limits_.size(); ++source)
+        if (source != row.source())
+            before += countBefore(timeline, source, row.moment, source < row.source());
+    return before;
+}
+
+std::optional<std::pair<Moment, Moment>> RowOrder::span(const Timeline& timeline) const
+{
+    std::optional<std::pair<Moment, Moment>> span;
+    for (std::uint32_t source = 0; source < limits_.size(); ++source) {
+        const std::size_t first = countBefore(timeline, source, timeline::noMoment, true);
+        if (first == limits_[source]) continue;
+        const timeline::SourceRows& rows = timeline.rowsOf(source);
+        const Moment from = rows[first].moment;
+        const Moment to = rows[limits_[source] - 1].moment;
+        if (!span)
+            span.emplace(from, to);
+        else
+            span.emplace(std::min(span->first, from), std::max(span->second, to));
+    }
+    return span;
+}
+
+RowOrder::Walk::Walk(const Timeline& timeline, const RowOrder& order,
+                     std::vector<std::uint32_t> positions)
+    : timeline_(&timeline), order_(&order), positions_(std::move(positions))
+{
+    for (std::uint32_t source = 0; source < positions_.size(); ++source)
+        if (positions_[source] < order.limits_[source])
+            heads_.push_back({timeline.rowsOf(source)[positions_[source]].moment, source});
+    // What is sorted is a heap.
+    std::sort(heads_.begin(), heads_.end());
+}
+
+const IndexRow* RowOrder::Walk::peek() const
+{
+    if (heads_.empty()) return nullptr;
+    const std::uint32_t source = heads_.front().source;
+    return &timeline_->rowsOf(source)[positions_[source]];
+}
+
+const IndexRow* RowOrder::Walk::next()
+{
+    if (heads_.empty()) return nullptr;
+    Head& first = heads_.front();
+    const timeline::SourceRows& rows = timeline_->rowsOf(first.source);
+    position_ = positions_[first.source];
+    const IndexRow& row = rows[position_];
+    if (++positions_[first.source] == order_->limits_[first.source]) {
+        first = heads_.back();
+        heads_.pop_back();
+    } else {
+        first.moment = rows[positions_[first.source]].moment;
+    }
+    sink();
+    return &row;
+}
+
+/// Puts the first head where it belongs: mostly it stays, as a source has many rows of one moment.
+void RowOrder::Walk::sink()
+{
+    for (std::size_t at = 0;;) {
+        std::size_t least = at;
+        for (const std::size_t child : {2 * at + 1, 2 * at + 2})
+            if (child < heads_.size() && heads_[child] < heads_[least]) least = child;
+        if (least == at) return;
+        std::swap(heads_[at], heads_[least]);
+        at = least;
+    }
+}
+
+} // namespace viewer

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "timeline/background_reading.h"
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+namespace viewer {
+
+/// A timeline that several threads use in turn: it is read on one of its own, another shows its
+/// rows, others ask all of them something.
+class SharedTimeline {
+public:
+    using Look = std::function<void(const timeline::Timeline&)>;
+
+    /// Adds sources behind the others, and reads them; the rows that are there stay.
+    void add(std::vector<std::unique_ptr<timeline::Source>> sources);
+
+    /// Calls with the rows so far, before anybody who waits in `work`. For the thread that shows
+    /// rows.
+    void look(const Look& looking);
+
+    /// The same for a short step of something that takes many, once nobody wishes to look. While
+    /// the timeline is read, half of the time is left to that.
+    void work(const Look& step);
+
+    /// How far the reading is; ended where there was none.
+    timeline::BackgroundReading::State state() const;
+
+    /// Ends the reading after a row; the rows so far stay.
+    void cancel();
+
+private:
+    void use(const Look& looking);
+
+    timeline::Timeline timeline_;
+    mutable std::mutex turn_; ///< of the timeline, and of the reading as an object
+    std::atomic<int> lookers_{0};
+    std::unique_ptr<timeline::BackgroundReading> reading_;
+};
+
+} // namespace viewer

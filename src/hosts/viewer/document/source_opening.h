@@ -1,0 +1,58 @@
+#pragma once
+
+#include "hosts/common/logs/log_opener.h"
+#include "hosts/viewer/document/shared_timeline.h"
+
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <mutex>
+#include <stop_token>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace viewer {
+
+/// What opening a path came to.
+struct OpenedPath {
+    std::string path;
+    std::size_t sources = 0;
+    std::vector<std::string> troubles; ///< sentences of what can't be read
+    std::vector<std::string> notes;    ///< the same of what was passed over, or guessed
+};
+
+/// Opens paths one after the other on a thread of its own, and adds what they lead to to a
+/// timeline.
+class SourceOpening {
+public:
+    /// Is called with each path once it is open, on the opening's thread.
+    using Opened = std::function<void(OpenedPath)>;
+
+    /// The timeline outlives it.
+    SourceOpening(SharedTimeline& timeline, Opened opened);
+    ~SourceOpening();
+
+    /// Opens a path of the machine, or standard input for "-", behind those before it.
+    void open(const std::string& path);
+
+    /// Gives up what is being opened, which is still told of, and what waits: the number of those
+    /// paths.
+    std::size_t cancel();
+
+private:
+    void run(const std::stop_token& stop);
+    OpenedPath openNow(const std::string& path);
+
+    SharedTimeline& timeline_;
+    Opened opened_;
+    LogOpener opener_;
+    timeline::Progress progress_;
+    std::mutex asking_; ///< of the paths
+    std::condition_variable_any asked_;
+    std::deque<std::string> paths_;
+    bool opens_ = false; ///< the first of them
+    std::jthread thread_;
+};
+
+} // namespace viewer

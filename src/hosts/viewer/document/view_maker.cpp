@@ -1,0 +1,130 @@
+#include "hosts/viewer/document/view_maker.h"
+
+#include <chrono>
+#include <utility>
+
+namespace viewer {
+
+namespace {
+
+using timeline::Timeline;
+using Clock = std::chrono::steady_clock;
+
+constexpr std::size_t rowsOfStep = 20'000; ///< that are put in order in about a millisecond
+constexpr std::chrono::milliseconds stepLength{2};
+constexpr std::chrono::milliseconds firstPart{30}; ///< of a view that takes longer
+
+} // namespace
+
+ViewMaker::ViewMaker(SharedTimeline& timeline, Told told)
+    : timeline_(timeline), told_(std::move(told)),
+      thread_([this](const std::stop_token& stop) { run(stop); })
+{}
+
+ViewMaker::~ViewMaker() = default;
+
+void ViewMaker::make(Wish wish)
+{
+    const std::lock_guard lock(asking_);
+    wish.anew = wish.anew || (wish_ && wish_->anew);
+    wish_ = std::move(wish);
+    asked_.notify_all();
+}
+
+bool ViewMaker::isGivenUp(const std::stop_token& stop) const
+{
+    if (stop.stop_requested()) return true;
+    const std::lock_guard lock(asking_);
+    return wish_.has_value();
+}
+
+void ViewMaker::run(const std::stop_token& stop)
+{
+    while (waitForWish(stop)) {
+        if (last_.anew || !order_) {
+            auto order = makeOrder(stop);
+            if (!order) {
+                // The next wish still needs the order of these rows.
+                const std::lock_guard lock(asking_);
+                if (wish_) wish_->anew = true;
+                continue;
+            }
+            order_ = std::move(order);
+            namesKnown_ = false;
+            timeline_.work([this](const Timeline& rows) { names_.check(rows); });
+        }
+        if (makeView(stop, false)) learnNames(stop);
+    }
+}
+
+/// Takes the next wish; false when there will be none.
+bool ViewMaker::waitForWish(const std::stop_token& stop)
+{
+    std::unique_lock lock(asking_);
+    if (!asked_.wait(lock, stop, [this] { return wish_.has_value(); })) return false;
+    last_ = *std::exchange(wish_, std::nullopt);
+    return !stop.stop_requested();
+}
+
+/// Learns the names of rows while nothing else is to be done, and counts by them then. What is
+/// still read comes with a new wish.
+void ViewMaker::learnNames(const std::stop_token& stop)
+{
+    if (namesKnown_ || !timeline_.state().ended) return;
+    for (bool known = false; !known;) {
+        if (isGivenUp(stop)) return;
+        timeline_.work([&](const Timeline& rows) { known = names_.learn(rows); });
+    }
+    namesKnown_ = true;
+    makeView(stop, true);
+}
+
+/// Null where it was given up.
+std::shared_ptr<const RowOrder> ViewMaker::makeOrder(const std::stop_token& stop)
+{
+    std::shared_ptr<RowOrder> order;
+    timeline_.work([&](const Timeline& rows) { order = std::make_shared<RowOrder>(rows); });
+    for (bool built = false; !built;) {
+        if (isGivenUp(stop)) return nullptr;
+        timeline_.work([&](const Timeline& rows) { built = order->build(rows, rowsOfStep); });
+    }
+    return order;
+}
+
+/// Makes the view and its counts, or the counts alone; false where it was given up.
+bool ViewMaker::makeView(const std::stop_token& stop, bool countsAlone)
+{
+    const bool everything = timeline::Filter(last_.choice).letsAllThrough();
+    if (everything && !countsAlone) tell(nullptr, true);
+    std::unique_ptr<RowAsking> asking;
+    timeline_.work([&](const Timeline& rows) {
+        asking = std::make_unique<RowAsking>(rows, order_, last_.choice, names_, namesKnown_);
+    });
+    auto partLength = firstPart;
+    auto nextPart = Clock::now() + partLength;
+    for (bool asked = false; !asked;) {
+        if (isGivenUp(stop)) return false;
+        timeline_.work(
+            [&](const Timeline& rows) { asked = asking->ask(rows, Clock::now() + stepLength); });
+        if (asked || everything || countsAlone || Clock::now() < nextPart) continue;
+        tell(asking.get(), false);
+        partLength *= 2;
+        nextPart = Clock::now() + partLength;
+    }
+    if (!everything && !countsAlone) tell(asking.get(), true);
+    told_.counts(std::make_shared<RowCounts>(asking->counts()));
+    return true;
+}
+
+/// Tells of a view of what was asked so far; of all rows where nothing is.
+void ViewMaker::tell(const RowAsking* asking, bool complete)
+{
+    auto view = std::make_shared<View>();
+    view->order = order_;
+    if (asking != nullptr) view->chosen = asking->taken();
+    view->wish = last_.number;
+    view->complete = complete;
+    told_.view(std::move(view));
+}
+
+} // namespace viewer

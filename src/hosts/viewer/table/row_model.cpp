@@ -1,0 +1,131 @@
+#include "hosts/viewer/table/row_model.h"
+
+#include "hosts/viewer/table/time_text.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace viewer {
+
+RowModel::RowModel(Document& document, QObject* parent)
+    : QAbstractTableModel(parent), document_(document)
+{
+    // The rows of before are gone: whoever holds on to some finds them again by what they are.
+    connect(&document_, &Document::viewAboutToChange, this, &RowModel::beginResetModel);
+    connect(&document_, &Document::viewChanged, this, &RowModel::endResetModel);
+}
+
+void RowModel::setTimeForm(TimeForm form)
+{
+    timeForm_ = form;
+    emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+}
+
+void RowModel::setMark(std::optional<timeline::Moment> moment)
+{
+    mark_ = moment;
+    emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+}
+
+void RowModel::renewHeaders()
+{
+    emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+}
+
+int RowModel::rowCount(const QModelIndex& parent) const
+{
+    if (parent.isValid()) return 0;
+    constexpr std::size_t most = std::numeric_limits<int>::max();
+    return static_cast<int>(std::min(document_.rowCount(), most));
+}
+
+int RowModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : rowColumns;
+}
+
+QString RowModel::time(std::size_t place) const
+{
+    const timeline::Moment moment = document_.row(place).index.moment;
+    switch (timeForm_) {
+    case TimeForm::clock:
+        return clockText(moment);
+    case TimeForm::sinceRowBefore:
+        return place == 0 ? QString()
+                          : differenceText(document_.row(place - 1).index.moment, moment);
+    case TimeForm::sinceMark:
+        return differenceText(mark_.value_or(timeline::noMoment), moment);
+    }
+    return {};
+}
+
+QString RowModel::text(std::size_t place, RowColumn column) const
+{
+    if (column == RowColumn::time) return document_.row(place).belongs ? QString() : time(place);
+    const ShownRow& row = document_.row(place);
+    switch (column) {
+    case RowColumn::process:
+        return row.belongs ? QString() : row.process;
+    case RowColumn::source:
+        return row.source;
+    case RowColumn::component:
+        return row.component;
+    case RowColumn::level:
+        return row.hasForm ? QString::number(row.level) : QString();
+    case RowColumn::thread:
+        return row.thread;
+    case RowColumn::port:
+        return row.port;
+    case RowColumn::callId:
+        return row.callId;
+    case RowColumn::number:
+        return row.hasForm ? QString::number(row.traceNumber) : QString();
+    case RowColumn::trace:
+        return row.trace;
+    case RowColumn::file:
+        return row.file;
+    case RowColumn::line:
+        return QString::number(row.index.line);
+    case RowColumn::time:
+        break;
+    }
+    return {};
+}
+
+/// What a screen reader says of a cell beyond its text; nothing where the text is all.
+QString RowModel::spoken(const ShownRow& row, RowColumn column) const
+{
+    if (column != RowColumn::level || row.severity == Severity::none) return {};
+    return QStringLiteral("%1, %2").arg(
+        QString::number(row.level), row.severity == Severity::error ? tr("error") : tr("warning"));
+}
+
+QVariant RowModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || index.row() >= rowCount()) return {};
+    const auto place = static_cast<std::size_t>(index.row());
+    const auto column = static_cast<RowColumn>(index.column());
+    if (role == Qt::DisplayRole) return text(place, column);
+    if (role == Qt::AccessibleTextRole) {
+        const QString said = spoken(document_.row(place), column);
+        return said.isEmpty() ? QVariant() : QVariant(said);
+    }
+    return {};
+}
+
+QVariant RowModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section >= rowColumns) return {};
+    const auto column = static_cast<RowColumn>(section);
+    if (role == Qt::TextAlignmentRole)
+        return static_cast<int>(Qt::AlignVCenter |
+                                (RowColumns::info(column).right ? Qt::AlignRight : Qt::AlignLeft));
+    if (role != Qt::DisplayRole) return {};
+    if (column == RowColumn::time && timeForm_ == TimeForm::sinceRowBefore)
+        return tr("Since row before");
+    if (column == RowColumn::time && timeForm_ == TimeForm::sinceMark)
+        return tr("Since marked row");
+    return RowColumns::title(column);
+}
+
+} // namespace viewer

@@ -1,0 +1,237 @@
+#include "hosts/viewer/window/main_window.h"
+
+#include "hosts/common/look/elided_label.h"
+#include "hosts/common/look/interface_language.h"
+#include "hosts/common/look/notice_bar.h"
+#include "hosts/common/look/screen_room.h"
+#include "hosts/common/look/theme.h"
+#include "hosts/viewer/facets/facet_pane.h"
+#include "hosts/viewer/histogram/time_strip.h"
+#include "hosts/viewer/window/filter_bar.h"
+
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLocale>
+#include <QMenu>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QSettings>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+namespace viewer {
+
+namespace {
+
+const QString geometryKey = QStringLiteral("window/geometry");
+const QString splitterKey = QStringLiteral("window/splitter");
+const QString valuesKey = QStringLiteral("window/values");
+constexpr QSize firstSize(1180, 720);
+constexpr int firstPaneWidth = 210;
+constexpr int progressSteps = 1000;
+constexpr int mostFailures = 5; ///< that the notice names
+
+/// The paths of this machine among what is dragged.
+QStringList pathsOf(const QMimeData& dragged)
+{
+    QStringList paths;
+    for (const QUrl& url : dragged.urls())
+        if (url.isLocalFile()) paths << url.toLocalFile();
+    return paths;
+}
+
+} // namespace
+
+MainWindow::MainWindow(QSettings& settings, QWidget* parent)
+    : QMainWindow(parent), settings_(settings)
+{
+    setWindowTitle(QStringLiteral("Orvan Diagnostic Viewer"));
+    setAcceptDrops(true);
+    makePanes();
+    makeActions();
+    makeToolBar();
+    makeStatusBar();
+    connectParts();
+    showInLanguage(this, [this] { showTexts(); });
+    if (!restoreGeometry(settings_.value(geometryKey).toByteArray()))
+        resizeWithinScreen(*this, firstSize);
+    setTimes(TimeForm::clock);
+    updateStatus();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::makePanes()
+{
+    auto* centre = new QWidget(this);
+    auto* column = new QVBoxLayout(centre);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    notice_ = new NoticeBar(centre);
+    pages_ = new QStackedWidget(centre);
+    empty_ = new QLabel(pages_);
+    empty_->setTextFormat(Qt::PlainText);
+    empty_->setAlignment(Qt::AlignCenter);
+    empty_->setWordWrap(true);
+    model_ = new RowModel(document_, this);
+    splitter_ = new QSplitter(pages_);
+    splitter_->setObjectName(QStringLiteral("splitter"));
+    splitter_->setChildrenCollapsible(false);
+    facets_ = new FacetPane(document_, splitter_);
+    auto* right = new QWidget(splitter_);
+    auto* rows = new QVBoxLayout(right);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    times_ = new TimeStrip(document_, right);
+    filterBar_ = new FilterBar(document_, right);
+    table_ = new RowTable(*model_, settings_, right);
+    rows->addWidget(times_);
+    rows->addWidget(filterBar_);
+    rows->addWidget(table_, 1);
+    splitter_->addWidget(facets_);
+    splitter_->addWidget(right);
+    splitter_->setStretchFactor(1, 1);
+    splitter_->setSizes({firstPaneWidth, firstSize.width() - firstPaneWidth});
+    splitter_->restoreState(settings_.value(splitterKey).toByteArray());
+    facets_->setVisible(settings_.value(valuesKey, true).toBool());
+    pages_->addWidget(empty_);
+    pages_->addWidget(splitter_);
+    column->addWidget(notice_);
+    column->addWidget(pages_, 1);
+    setCentralWidget(centre);
+}
+
+void MainWindow::makeStatusBar()
+{
+    status_ = new ElidedLabel(Qt::ElideRight, this);
+    progress_ = new QProgressBar(this);
+    progress_->setTextVisible(false);
+    progress_->setMaximumWidth(200);
+    progress_->setRange(0, progressSteps);
+    progress_->hide();
+    statusBar()->addWidget(status_, 1);
+    statusBar()->addPermanentWidget(progress_);
+    statusBar()->setSizeGripEnabled(false);
+}
+
+void MainWindow::connectParts()
+{
+    connect(&document_, &Document::progressed, this, &MainWindow::updateStatus);
+    connect(&document_, &Document::viewChanged, this, &MainWindow::updateStatus);
+    connect(&document_, &Document::failed, this, &MainWindow::sayFailure);
+    connect(&document_, &Document::noted, this,
+            [this](const QString& sentence) { statusBar()->showMessage(sentence, 8000); });
+    connect(&document_, &Document::filterChanged, this, &MainWindow::updateActions);
+    connect(table_, &RowTable::currentPlaceChanged, this, &MainWindow::updateStatus);
+    connect(filterBar_, &FilterBar::left, table_, qOverload<>(&QWidget::setFocus));
+    connect(times_, &TimeStrip::momentAsked, this,
+            [this](timeline::Moment moment) { table_->goTo(document_.placeFrom(moment)); });
+    connect(table_, &RowTable::menuAsked, this, &MainWindow::offerRowMenu);
+}
+
+QString MainWindow::notice() const
+{
+    return notice_->sentence();
+}
+
+std::optional<timeline::Moment> MainWindow::currentMoment()
+{
+    const auto place = table_->currentPlace();
+    if (!place || *place >= document_.rowCount()) return std::nullopt;
+    return document_.row(*place).index.moment;
+}
+
+/// Troubles come one by one, and stand in one notice.
+void MainWindow::sayFailure(const QString& sentence)
+{
+    failures_ << sentence;
+    notice_->say([this] {
+        QStringList lines = failures_.mid(0, mostFailures);
+        if (failures_.size() > mostFailures)
+            lines << tr("and %1 more").arg(failures_.size() - mostFailures);
+        return lines.join(QLatin1Char('\n'));
+    });
+    updateStatus();
+}
+
+void MainWindow::updateStatus()
+{
+    const Document::State state = document_.state();
+    const QLocale locale;
+    QString text;
+    if (state.busy)
+        text =
+            tr("Reading: %1 rows so far").arg(locale.toString(static_cast<qulonglong>(state.rows)));
+    else if (document_.hasSources())
+        text =
+            document_.filter().passesAll()
+                ? tr("%1 rows").arg(locale.toString(static_cast<qulonglong>(document_.rowCount())))
+                : tr("%1 of %2 rows")
+                      .arg(locale.toString(static_cast<qulonglong>(document_.rowCount())),
+                           locale.toString(static_cast<qulonglong>(document_.allRows())));
+    if (const auto place = table_->currentPlace(); place && document_.rowCount() > 0)
+        text += tr(", row %1").arg(locale.toString(static_cast<qulonglong>(*place + 1)));
+    status_->setText(text);
+    times_->setCurrent(currentMoment());
+    progress_->setVisible(state.busy);
+    progress_->setRange(0, state.share ? progressSteps : 0);
+    if (state.share) progress_->setValue(static_cast<int>(*state.share * progressSteps));
+    pages_->setCurrentIndex(document_.hasSources() || document_.rowCount() > 0 ? 1 : 0);
+    updateActions();
+}
+
+void MainWindow::updateActions()
+{
+    const bool rows = document_.rowCount() > 0;
+    const bool current = table_->currentPlace().has_value();
+    action(Command::stop).setEnabled(document_.state().busy);
+    for (const Command command : {Command::copy, Command::copyCsv, Command::copyRaw})
+        action(command).setEnabled(current);
+    action(Command::selectAll).setEnabled(rows);
+    action(Command::markTime).setEnabled(current);
+    action(Command::showAll).setEnabled(!document_.filter().passesAll());
+    action(Command::allTimes).setEnabled(document_.filter().since || document_.filter().until);
+    action(Command::values).setChecked(!facets_->isHidden());
+    for (const Command command :
+         {Command::filter, Command::narrowTimes, Command::widenTimes, Command::otherPane})
+        action(command).setEnabled(document_.hasSources());
+    menus_[CommandMenu::only]->setEnabled(current);
+    menus_[CommandMenu::hide]->setEnabled(current);
+    for (const CommandMenu menu : {CommandMenu::only, CommandMenu::hide})
+        for (QAction* made : menus_[menu]->actions()) made->setEnabled(current);
+    action(Command::timesSinceMark).setEnabled(model_->mark().has_value());
+    action(Command::clockTimes).setChecked(model_->timeForm() == TimeForm::clock);
+    action(Command::timesSinceRowBefore).setChecked(model_->timeForm() == TimeForm::sinceRowBefore);
+    action(Command::timesSinceMark).setChecked(model_->timeForm() == TimeForm::sinceMark);
+    const auto scheme = theme::schemeOf(settings_.value(QStringLiteral("window/theme")).toString());
+    action(Command::systemTheme).setChecked(scheme == theme::Scheme::system);
+    action(Command::lightTheme).setChecked(scheme == theme::Scheme::light);
+    action(Command::darkTheme).setChecked(scheme == theme::Scheme::dark);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    settings_.setValue(geometryKey, saveGeometry());
+    settings_.setValue(splitterKey, splitter_->saveState());
+    settings_.setValue(valuesKey, !facets_->isHidden());
+    document_.cancel();
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!pathsOf(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    document_.open(pathsOf(*event->mimeData()));
+    event->acceptProposedAction();
+}
+
+} // namespace viewer

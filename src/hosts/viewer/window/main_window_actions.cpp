@@ -1,0 +1,292 @@
+#include "hosts/common/look/icons.h"
+#include "hosts/common/look/path_dialog.h"
+#include "hosts/common/look/theme.h"
+#include "hosts/viewer/facets/facet_pane.h"
+#include "hosts/viewer/histogram/time_strip.h"
+#include "hosts/viewer/window/filter_bar.h"
+#include "hosts/viewer/window/main_window.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSettings>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QTreeWidget>
+
+#include <algorithm>
+
+namespace viewer {
+
+namespace {
+
+constexpr int leastTextStep = -4;
+constexpr int mostTextStep = 12;
+
+QString toolTipOf(const QAction& action)
+{
+    const QString key = action.shortcut().toString(QKeySequence::NativeText);
+    return key.isEmpty() ? action.statusTip()
+                         : QStringLiteral("%1 (%2)").arg(action.statusTip(), key);
+}
+
+} // namespace
+
+void MainWindow::makeActions()
+{
+    for (const MenuInfo& info : Commands::menus()) {
+        menus_[info.menu] = new QMenu(this);
+        if (info.parent == info.menu) menuBar()->addMenu(menus_[info.menu]);
+    }
+    for (const CommandInfo& info : Commands::all()) {
+        QMenu* menu = menus_[info.menu];
+        if (info.startsGroup) menu->addSeparator();
+        QAction* made = menu->addAction(QString());
+        made->setShortcut(QKeySequence::fromString(QString::fromLatin1(info.key)));
+        made->setCheckable(info.checkable);
+        if (*info.icon != '\0') made->setIcon(toolIcon(QString::fromLatin1(info.icon)));
+        connect(made, &QAction::triggered, this,
+                [this, command = info.command] { perform(command); });
+        actions_[info.command] = made;
+    }
+    for (const MenuInfo& info : Commands::menus())
+        if (info.parent != info.menu) menus_[info.parent]->addMenu(menus_[info.menu]);
+}
+
+void MainWindow::makeToolBar()
+{
+    toolBar_ = addToolBar(QString());
+    toolBar_->setObjectName(QStringLiteral("toolBar"));
+    toolBar_->setMovable(false);
+    toolBar_->setIconSize({20, 20});
+    for (const Command command :
+         {Command::openFiles, Command::openFolder, Command::copy, Command::filter})
+        toolBar_->addAction(actions_[command]);
+}
+
+void MainWindow::showTexts()
+{
+    for (const CommandInfo& info : Commands::all()) {
+        QAction& made = action(info.command);
+        made.setText(Commands::tr(info.text));
+        made.setStatusTip(Commands::tr(info.statusText));
+        made.setToolTip(toolTipOf(made));
+    }
+    for (const MenuInfo& info : Commands::menus())
+        menus_[info.menu]->setTitle(Commands::tr(info.title));
+    toolBar_->setWindowTitle(tr("Tool Bar"));
+    empty_->setText(tr("No source is open.\n\nDrop logs, trace databases or cabinets here, or open "
+                       "them with Ctrl+O."));
+    table_->setAccessibleName(tr("Rows"));
+    model_->renewHeaders();
+    updateStatus();
+}
+
+void MainWindow::run(Command command)
+{
+    QAction& asked = action(command);
+    if (asked.isEnabled()) asked.trigger();
+}
+
+void MainWindow::perform(Command command)
+{
+    switch (command) {
+    case Command::openFiles:
+        return openFiles();
+    case Command::openFolder:
+        return openFolder();
+    case Command::stop:
+        return document_.cancel();
+    case Command::quit:
+        close();
+        return;
+    case Command::copy:
+        return copy(CopyForm::shown);
+    case Command::copyRaw:
+        return copy(CopyForm::raw);
+    case Command::copyCsv:
+        return copy(CopyForm::csv);
+    case Command::selectAll:
+        return table_->selectAll();
+    case Command::columns:
+        return offerColumns();
+    case Command::largerText:
+        return setTextSize(textStep_ + 1);
+    case Command::smallerText:
+        return setTextSize(textStep_ - 1);
+    case Command::normalText:
+        return setTextSize(0);
+    case Command::clockTimes:
+        return setTimes(TimeForm::clock);
+    case Command::timesSinceRowBefore:
+        return setTimes(TimeForm::sinceRowBefore);
+    case Command::timesSinceMark:
+        return setTimes(TimeForm::sinceMark);
+    case Command::markTime:
+        return markTime();
+    case Command::systemTheme:
+        return setTheme("system");
+    case Command::lightTheme:
+        return setTheme("light");
+    case Command::darkTheme:
+        return setTheme("dark");
+    case Command::about:
+        return showAbout();
+    case Command::values:
+        facets_->setVisible(facets_->isHidden());
+        return updateActions();
+    case Command::otherPane:
+        return (table_->hasFocus() && facets_->isVisible() ? static_cast<QWidget*>(&facets_->tree())
+                                                           : table_)
+            ->setFocus(Qt::ShortcutFocusReason);
+    default:
+        return performFilter(command);
+    }
+}
+
+/// Does what commands of the filter's menus do.
+void MainWindow::performFilter(Command command)
+{
+    using timeline::Column;
+    static const std::map<Command, std::pair<Column, bool>> byColumn = {
+        {Command::onlyProcess, {Column::process, false}},
+        {Command::onlyComponent, {Column::component, false}},
+        {Command::onlySource, {Column::source, false}},
+        {Command::onlyLevel, {Column::level, false}},
+        {Command::onlyCall, {Column::callId, false}},
+        {Command::onlyPort, {Column::port, false}},
+        {Command::onlyThread, {Column::thread, false}},
+        {Command::hideProcess, {Column::process, true}},
+        {Command::hideComponent, {Column::component, true}},
+        {Command::hideSource, {Column::source, true}},
+        {Command::hideLevel, {Column::level, true}},
+    };
+    if (const auto asked = byColumn.find(command); asked != byColumn.end())
+        return narrowToCurrent(asked->second.first, asked->second.second);
+    if (command == Command::filter) {
+        filterBar_->with().setFocus(Qt::ShortcutFocusReason);
+        filterBar_->with().selectAll();
+    }
+    if (command == Command::showAll) document_.setFilter({});
+    if (command == Command::allTimes) times_->showAllTimes();
+    if (command == Command::narrowTimes) zoomTimes(true);
+    if (command == Command::widenTimes) zoomTimes(false);
+}
+
+void MainWindow::changeFilter(const std::function<void(RowFilter&)>& changing)
+{
+    RowFilter filter = document_.filter();
+    changing(filter);
+    document_.setFilter(std::move(filter));
+}
+
+/// Shows rows with the current row's value of a column alone, or hides them.
+void MainWindow::narrowToCurrent(timeline::Column column, bool hide)
+{
+    const auto place = table_->currentPlace();
+    if (!place) return;
+    const std::string value = document_.value(*place, column);
+    changeFilter([&](RowFilter& filter) {
+        if (hide)
+            filter.show(column, value, false);
+        else
+            filter.showOnly(column, value);
+    });
+}
+
+void MainWindow::zoomTimes(bool in)
+{
+    const auto span = times_->span();
+    if (!span) return;
+    times_->zoom(currentMoment().value_or(span->first + (span->second - span->first) / 2), in);
+}
+
+void MainWindow::openFiles()
+{
+    QFileDialog dialog(this, tr("Open Files"));
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    dialog.setNameFilters(
+        {tr("Logs, databases and cabinets (*.txt *.log *.mdb *.cab *.csv)"), tr("All files (*)")});
+    if (dialog.exec() == QDialog::Accepted) document_.open(dialog.selectedFiles());
+}
+
+void MainWindow::openFolder()
+{
+    PathDialog dialog(this, tr("Open Folder"), QFileDialog::Directory);
+    const QString folder = dialog.ask();
+    if (!folder.isEmpty()) document_.open({folder});
+}
+
+void MainWindow::copy(CopyForm form)
+{
+    const auto places = table_->selectedPlaces(mostCopied);
+    if (places.empty()) return;
+    QApplication::clipboard()->setText(copiedRows(*model_, places, table_->shownColumns(), form));
+    statusBar()->showMessage(
+        tr("%1 rows copied").arg(QLocale().toString(static_cast<qulonglong>(places.size()))), 4000);
+}
+
+void MainWindow::setTimes(TimeForm form)
+{
+    model_->setTimeForm(form);
+    updateActions();
+}
+
+void MainWindow::markTime()
+{
+    const auto place = table_->currentPlace();
+    if (!place) return;
+    model_->setMark(document_.row(*place).index.moment);
+    setTimes(TimeForm::sinceMark);
+}
+
+void MainWindow::offerColumns()
+{
+    table_->offerColumns(table_->viewport()->mapToGlobal(QPoint(0, 0)));
+}
+
+void MainWindow::offerRowMenu(const QPoint& at)
+{
+    QMenu menu(this);
+    for (const Command command : {Command::copy, Command::copyRaw, Command::copyCsv})
+        menu.addAction(actions_[command]);
+    menu.addSeparator();
+    menu.addMenu(menus_[CommandMenu::only]);
+    menu.addMenu(menus_[CommandMenu::hide]);
+    menu.addSeparator();
+    menu.addAction(actions_[Command::markTime]);
+    menu.exec(at);
+}
+
+void MainWindow::setTextSize(int step)
+{
+    textStep_ = std::clamp(step, leastTextStep, mostTextStep);
+    QFont font = theme::traceFont();
+    font.setPointSizeF(font.pointSizeF() + textStep_);
+    table_->setFont(font);
+    table_->header().setFont(QApplication::font());
+}
+
+void MainWindow::setTheme(const char* name)
+{
+    settings_.setValue(QStringLiteral("window/theme"), QString::fromLatin1(name));
+    theme::apply(theme::schemeOf(QString::fromLatin1(name)));
+    updateActions();
+}
+
+void MainWindow::showAbout()
+{
+    QMessageBox::about(this, tr("About"),
+                       QStringLiteral("Orvan Diagnostic Viewer\n%1 %2")
+                           .arg(tr("Version"), QCoreApplication::applicationVersion()));
+}
+
+} // namespace viewer

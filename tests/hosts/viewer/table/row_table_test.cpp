@@ -1,0 +1,158 @@
+#include "hosts/viewer/table/row_table.h"
+
+#include "hosts/viewer/support/test_logs.h"
+#include "hosts/viewer/table/row_copy.h"
+#include "support/windows/test_application.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+namespace viewer {
+namespace {
+
+class RowTableTest : public testing::Test {
+protected:
+    RowTableTest()
+        : settings((testApplication(), logs.folder() + "/viewer.ini"), QSettings::IniFormat),
+          model(document), table(model, settings)
+    {
+        table.resize(900, 400);
+        table.show();
+    }
+
+    void open(const QStringList& paths)
+    {
+        document.open(paths);
+        ASSERT_TRUE(waitForRows(document));
+        settle();
+    }
+
+    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(&table, static_cast<Qt::Key>(key), modifiers);
+    }
+
+    TestLogs logs;
+    QSettings settings;
+    Document document;
+    RowModel model;
+    RowTable table;
+};
+
+TEST_F(RowTableTest, GoesOverRowsByKey)
+{
+    open({logs.writeRows("KoCSMgr", 5000, 0, 10)});
+    press(Qt::Key_Down);
+    EXPECT_EQ(0u, table.currentPlace());
+    press(Qt::Key_Down);
+    EXPECT_EQ(1u, table.currentPlace());
+    press(Qt::Key_PageDown);
+    EXPECT_EQ(table.rowsInSight(), table.currentPlace());
+    press(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(4999u, table.currentPlace());
+    EXPECT_EQ(5000u - table.rowsInSight(), table.firstInSight());
+    press(Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(0u, table.currentPlace());
+    EXPECT_EQ(0u, table.firstInSight());
+}
+
+TEST_F(RowTableTest, SelectsRangesOfRows)
+{
+    open({logs.writeRows("KoCSMgr", 5000, 0, 10)});
+    table.goTo(10);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ((std::vector<std::size_t>{10, 11, 12}), table.selectedPlaces(100));
+    table.selectAll();
+    EXPECT_EQ(100u, table.selectedPlaces(100).size());
+    EXPECT_EQ(5000u, table.selectedPlaces(10'000).size());
+}
+
+TEST_F(RowTableTest, AClickSelectsTheRowUnderIt)
+{
+    open({logs.writeRows("KoCSMgr", 5000, 0, 10)});
+    table.verticalScrollBar()->setValue(100);
+    const QRect room = table.visualRect(model.index(103, 2));
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, room.center());
+    EXPECT_EQ(103u, table.currentPlace());
+    EXPECT_EQ((std::vector<std::size_t>{103}), table.selectedPlaces(10));
+}
+
+TEST_F(RowTableTest, KeepsTheCurrentRowAndItsPlaceInSightWhenRowsCome)
+{
+    open({logs.writeRows("KoCSMgr", 3000, 0, 10)});
+    table.goTo(2000);
+    table.verticalScrollBar()->setValue(1995);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    ASSERT_EQ(2001u, table.currentPlace());
+    open({logs.writeRows("KoNotify", 3000, 5, 10)});
+    ASSERT_EQ(6000u, document.rowCount());
+    EXPECT_EQ(4002u, table.currentPlace());
+    EXPECT_EQ("row 2001", document.row(4002).trace);
+    EXPECT_EQ(4002u - 6, table.firstInSight());
+    EXPECT_EQ((std::vector<std::size_t>{4000, 4002}), table.selectedPlaces(10));
+}
+
+TEST_F(RowTableTest, RemembersWhichColumnsAreShownHowWideAndInWhichOrder)
+{
+    table.showColumn(RowColumn::port, false);
+    table.showColumn(RowColumn::thread, true);
+    table.header().moveSection(table.header().visualIndex(static_cast<int>(RowColumn::callId)), 0);
+    table.header().resizeSection(static_cast<int>(RowColumn::process), 321);
+    RowTable again(model, settings);
+    EXPECT_FALSE(again.showsColumn(RowColumn::port));
+    EXPECT_TRUE(again.showsColumn(RowColumn::thread));
+    EXPECT_EQ(RowColumn::callId, again.shownColumns().front());
+    EXPECT_EQ(321, again.header().sectionSize(static_cast<int>(RowColumn::process)));
+    again.resetColumns();
+    EXPECT_TRUE(again.showsColumn(RowColumn::port));
+    EXPECT_EQ(RowColumn::time, again.shownColumns().front());
+}
+
+TEST_F(RowTableTest, TheLastColumnOnShowStays)
+{
+    for (const RowColumnInfo& info : RowColumns::all()) table.showColumn(info.column, false);
+    EXPECT_EQ(1u, table.shownColumns().size());
+}
+
+TEST_F(RowTableTest, TellsTimesAsAClockAndAsDifferences)
+{
+    open({logs.write("KoCSMgr", rawLine(1000, "A", 3, "one") + rawLine(1250, "A", 3, "two") +
+                                    rawLine(62'250, "A", 3, "three"))});
+    EXPECT_EQ("2025-02-20 00:00:01.250", model.text(1, RowColumn::time));
+    model.setTimeForm(TimeForm::sinceRowBefore);
+    EXPECT_EQ("", model.text(0, RowColumn::time));
+    EXPECT_EQ("+0.250", model.text(1, RowColumn::time));
+    EXPECT_EQ("+1:01.000", model.text(2, RowColumn::time));
+    model.setMark(document.row(1).index.moment);
+    model.setTimeForm(TimeForm::sinceMark);
+    EXPECT_EQ("-0.250", model.text(0, RowColumn::time));
+    EXPECT_EQ("+0.000", model.text(1, RowColumn::time));
+}
+
+TEST_F(RowTableTest, SaysAnErrorToAScreenReader)
+{
+    open({logs.write("KoCSMgr", rawLine(1000, "A", 0, "one") + rawLine(1250, "A", 2, "two"))});
+    const int level = static_cast<int>(RowColumn::level);
+    EXPECT_EQ("0, error", model.index(0, level).data(Qt::AccessibleTextRole).toString());
+    EXPECT_FALSE(model.index(1, level).data(Qt::AccessibleTextRole).isValid());
+}
+
+TEST_F(RowTableTest, CopiesRowsAsTheyAreShownAsLinesAndForASpreadsheet)
+{
+    open({logs.write("KoCSMgr", rawLine(1000, "A", 3, "=1+2, \"x\"") + "  more\r\n")});
+    const std::vector<RowColumn> columns = {RowColumn::component, RowColumn::trace};
+    EXPECT_EQ("A\t=1+2, \"x\"\n\t  more\n", copiedRows(model, {0, 1}, columns, CopyForm::shown));
+    EXPECT_EQ("00:00:01:000,Conv,12,A,3,=1+2, \"x\"\n  more\n",
+              copiedRows(model, {0, 1}, columns, CopyForm::raw));
+    EXPECT_EQ("Component,Trace\nA,\"'=1+2, \"\"x\"\"\"\n",
+              copiedRows(model, {0}, columns, CopyForm::csv));
+}
+
+} // namespace
+} // namespace viewer
