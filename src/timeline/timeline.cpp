@@ -1,6 +1,7 @@
 #include "timeline/timeline.h"
 
 #include "runtime/run_time_error.h"
+#include "timeline/index/nearly_sorted.h"
 
 #include <algorithm>
 #include <mutex>
@@ -10,10 +11,12 @@ namespace timeline {
 
 namespace {
 
-bool isEarlier(const IndexRow& one, const IndexRow& other)
-{
-    return one.moment != other.moment ? one.moment < other.moment : one.line < other.line;
-}
+struct IsEarlier {
+    bool operator()(const IndexRow& one, const IndexRow& other) const
+    {
+        return one.moment != other.moment ? one.moment < other.moment : one.line < other.line;
+    }
+};
 
 } // namespace
 
@@ -43,7 +46,8 @@ private:
     void sortFrom(std::size_t before)
     {
         const auto added = rows.begin() + static_cast<std::ptrdiff_t>(before);
-        if (!std::is_sorted(added, rows.end(), isEarlier)) std::sort(added, rows.end(), isEarlier);
+        const IsEarlier isEarlier;
+        sortNearlySorted(added, rows.end(), isEarlier);
         if (added == rows.begin() || added == rows.end() || !isEarlier(*added, added[-1])) return;
         const auto first = std::upper_bound(rows.begin(), added, *added, isEarlier);
         std::inplace_merge(first, added, rows.end(), isEarlier);
@@ -81,6 +85,7 @@ const SourceRows& Timeline::rowsOf(std::size_t number) const
 void Timeline::read(const Filter& filter, Progress& progress, unsigned threads)
 {
     ahead_.clear();
+    progress.spareThread = threads > parts_.size();
     std::atomic<std::size_t> next{0};
     std::mutex telling;
     const auto work = [&] {

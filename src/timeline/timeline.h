@@ -31,7 +31,7 @@ public:
 
     /// Reads what the sources have behind what was read before, and puts it in its place. What a
     /// source raises is kept as one of `failures`, and the others are still read. `threads` at most
-    /// read at a time.
+    /// read at a time; a source may have one of those that no other one needs.
     void read(const Filter& filter, Progress& progress, unsigned threads = 1);
 
     /// Reads what one source has behind what was read before, and appends it to `rows` in the

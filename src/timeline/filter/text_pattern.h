@@ -40,6 +40,7 @@ public:
 
 private:
     Kind kind_;
+    bool isText_; ///< also of an expression that stands for itself
     std::string pattern_;
     Letters letters_;
 };

@@ -27,4 +27,22 @@ Moment DayCarry::at(const Stamp& stamp)
     return last_;
 }
 
+DayCarry DayCarry::ofUnknownDay(const Stamp& first)
+{
+    return DayCarry(unknownDay + first.clock);
+}
+
+Moment DayCarry::goOn(const DayCarry& rest, const Stamp& first)
+{
+    const bool wentBack = first.clock / 1000 < lastSecond_;
+    const Moment moved = day_ + (wentBack ? millisecondsPerDay : 0) - unknownDay;
+    const auto known = [&](Moment moment) {
+        return isOfUnknownDay(moment) ? moment + moved : moment;
+    };
+    day_ = known(rest.day_);
+    last_ = known(rest.last_);
+    lastSecond_ = rest.lastSecond_;
+    return moved;
+}
+
 } // namespace timeline

@@ -24,7 +24,21 @@ public:
     /// The second of the day of the line before; of the first one that of the opening.
     std::int32_t lastSecond() const { return lastSecond_; }
 
+    /// The carry of lines in the middle of a log, which begin with a stamp whose day nobody knows:
+    /// until a dated one comes they have moments that `isOfUnknownDay`.
+    static DayCarry ofUnknownDay(const Stamp& first);
+    static bool isOfUnknownDay(Moment moment)
+    {
+        return moment < unknownDay / 2 && moment != noMoment;
+    }
+
+    /// Goes on behind such lines, of which `rest` is the carry and `first` the first stamp. Gives
+    /// what their moments of an unknown day are to be moved by.
+    Moment goOn(const DayCarry& rest, const Stamp& first);
+
 private:
+    static constexpr Moment unknownDay = -1'000'000'000 * millisecondsPerDay;
+
     Moment day_ = 0;
     std::int32_t lastSecond_ = 0;
     Moment last_ = noMoment;

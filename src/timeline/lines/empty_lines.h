@@ -18,6 +18,15 @@ public:
         runs_.back().last = line;
     }
 
+    /// Adds those of lines that stand behind so many others.
+    void add(const EmptyLines& further, std::uint32_t linesBefore)
+    {
+        for (const Run& run : further.runs_) {
+            add(linesBefore + run.first);
+            runs_.back().last = linesBefore + run.last;
+        }
+    }
+
     /// How many stand before a line that is not empty.
     std::uint32_t before(std::uint32_t line) const
     {

@@ -2,55 +2,91 @@
 
 #include "system/file_bytes.h"
 
+#include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace timeline {
 
+namespace {
+
+constexpr std::size_t searchedAtATime = 8U << 10;
+
+} // namespace
+
 LineReader::LineReader(const FileDescriptor& file, std::uint64_t offset, std::size_t pieceBytes)
-    : file_(&file), buffer_(new char[pieceBytes]), capacity_(pieceBytes), bufferOffset_(offset)
+    : file_(&file), buffer_(pieceBytes), bufferOffset_(offset)
 {}
+
+/// Looks for line ends up to a place that was read.
+void LineReader::findEnds(std::size_t to)
+{
+    if (to <= searched_) return;
+    buffer_.findEnds(searched_, to);
+    searched_ = to;
+}
+
+/// There are no line ends up to a place, and none is known behind it.
+void LineReader::forgetEnds(std::size_t searched)
+{
+    buffer_.endCount = 0;
+    nextEnd_ = 0;
+    searched_ = searched;
+}
 
 void LineReader::goTo(std::uint64_t offset)
 {
-    if (offset >= bufferOffset_ && offset <= bufferOffset_ + end_) {
-        start_ = static_cast<std::size_t>(offset - bufferOffset_);
+    if (offset < bufferOffset_ || offset > bufferOffset_ + end_) {
+        bufferOffset_ = offset;
+        start_ = end_ = 0;
+        forgetEnds(0);
         return;
     }
-    bufferOffset_ = offset;
-    start_ = end_ = 0;
+    const auto start = static_cast<std::size_t>(offset - bufferOffset_);
+    if (start == start_) return;
+    start_ = start;
+    findEnds(start_);
+    const std::uint32_t* const ends = buffer_.ends.get();
+    nextEnd_ =
+        static_cast<std::size_t>(std::lower_bound(ends, ends + buffer_.endCount, start_) - ends);
 }
 
-std::string_view LineReader::linesFrom(const FileLine& line) const
+KnownLines LineReader::linesFrom(const FileLine& line)
 {
     if (line.cut || !line.ended) return {};
-    const std::string_view read(line.text.data(),
-                                static_cast<std::size_t>(buffer_.get() + end_ - line.text.data()));
-    return read.substr(0, read.rfind('\n') + 1);
+    findEnds(end_);
+    const auto begin = static_cast<std::size_t>(line.offset - bufferOffset_);
+    KnownLines lines;
+    lines.begin = static_cast<std::uint32_t>(begin);
+    lines.ends = buffer_.ends.get() + nextEnd_ - 1;
+    lines.count = buffer_.endCount - nextEnd_ + 1;
+    lines.bytes = {buffer_.bytes.get() + begin, lines.end(lines.count - 1) + 1};
+    return lines;
 }
 
 /// Moves what is left to the front of the buffer, and doubles it when that is all of it.
 void LineReader::makeRoom()
 {
     const std::size_t left = end_ - start_;
-    if (left == capacity_) {
-        std::unique_ptr<char[]> larger(new char[capacity_ * 2]);
-        std::memcpy(larger.get(), buffer_.get() + start_, left);
+    if (left == buffer_.capacity) {
+        LineBuffer larger(buffer_.capacity * 2);
+        std::memcpy(larger.bytes.get(), buffer_.bytes.get() + start_, left);
         buffer_ = std::move(larger);
-        capacity_ *= 2;
     } else {
-        std::memmove(buffer_.get(), buffer_.get() + start_, left);
+        std::memmove(buffer_.bytes.get(), buffer_.bytes.get() + start_, left);
     }
     bufferOffset_ += start_;
     start_ = 0;
     end_ = left;
+    forgetEnds(left);
 }
 
-/// Reads more behind what is there. False at the end of the file.
+/// Reads more behind the beginning of a line. False at the end of the file.
 bool LineReader::fill()
 {
-    if (end_ == capacity_) makeRoom();
+    if (end_ == buffer_.capacity) makeRoom();
     const std::size_t count =
-        readAt(*file_, buffer_.get() + end_, capacity_ - end_, bufferOffset_ + end_);
+        readAt(*file_, buffer_.bytes.get() + end_, buffer_.capacity - end_, bufferOffset_ + end_);
     end_ += count;
     return count > 0;
 }
@@ -59,13 +95,14 @@ bool LineReader::fill()
 bool LineReader::takeLongLine(FileLine& line)
 {
     if (start_ > 0) makeRoom();
-    line.text = {buffer_.get() + start_, longestLine};
+    char* const bytes = buffer_.bytes.get();
+    line.text = {bytes, longestLine};
     line.cut = true;
     // The line's own bytes stay where they are: the others are read into the room behind them.
-    char* const room = buffer_.get() + start_ + longestLine;
-    const std::size_t roomSize = capacity_ - start_ - longestLine;
-    std::uint64_t at = bufferOffset_ + start_ + longestLine;
-    std::size_t known = end_ - start_ - longestLine;
+    char* const room = bytes + longestLine;
+    const std::size_t roomSize = buffer_.capacity - longestLine;
+    std::uint64_t at = bufferOffset_ + longestLine;
+    std::size_t known = end_ - longestLine;
     for (;;) {
         if (const void* found = std::memchr(room, '\n', known)) {
             line.ended = true;
@@ -78,6 +115,21 @@ bool LineReader::takeLongLine(FileLine& line)
     }
     bufferOffset_ = at;
     start_ = end_ = 0;
+    forgetEnds(0);
+    return true;
+}
+
+/// Hands out the line that ends at the next line end.
+bool LineReader::takeLine(FileLine& line)
+{
+    const char* const from = buffer_.bytes.get() + start_;
+    std::size_t length = buffer_.ends[nextEnd_] - start_;
+    if (length > longestLine) return takeLongLine(line);
+    ++nextEnd_;
+    start_ += length + 1;
+    if (length > 0 && from[length - 1] == '\r') --length;
+    line.text = {from, length};
+    line.ended = true;
     return true;
 }
 
@@ -85,25 +137,18 @@ bool LineReader::next(FileLine& line)
 {
     line.cut = false;
     line.ended = false;
-    for (std::size_t searched = 0;;) {
-        const char* const from = buffer_.get() + start_;
-        const std::size_t known = end_ - start_;
+    for (;;) {
         line.offset = bufferOffset_ + start_;
-        if (const void* found = std::memchr(from + searched, '\n', known - searched)) {
-            auto length = static_cast<std::size_t>(static_cast<const char*>(found) - from);
-            if (length > longestLine) return takeLongLine(line);
-            start_ += length + 1;
-            if (length > 0 && from[length - 1] == '\r') --length;
-            line.text = {from, length};
-            line.ended = true;
-            return true;
+        if (nextEnd_ < buffer_.endCount) return takeLine(line);
+        if (searched_ < end_) {
+            findEnds(std::min(end_, searched_ + searchedAtATime));
+            continue;
         }
-        if (known > longestLine) return takeLongLine(line);
-        searched = known;
+        if (end_ - start_ > longestLine) return takeLongLine(line);
         if (fill()) continue;
-        line.text = {buffer_.get() + start_, known};
+        line.text = {buffer_.bytes.get() + start_, end_ - start_};
         start_ = end_;
-        return known > 0;
+        return !line.text.empty();
     }
 }
 

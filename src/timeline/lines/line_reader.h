@@ -1,9 +1,9 @@
 #pragma once
 
 #include "system/file_descriptor.h"
+#include "timeline/lines/line_buffer.h"
 
 #include <cstdint>
-#include <memory>
 #include <string_view>
 
 namespace timeline {
@@ -27,6 +27,9 @@ public:
     /// What is read at a time, in bytes, when all lines are.
     static constexpr std::size_t largePiece = 512U << 10;
 
+    /// What is read at a time for a line here and there.
+    static constexpr std::size_t smallPiece = 32U << 10;
+
     /// `file` is open when the reader is used.
     explicit LineReader(const FileDescriptor& file, std::uint64_t offset = 0,
                         std::size_t pieceBytes = largePiece);
@@ -37,7 +40,7 @@ public:
 
     /// The whole lines that were read by now, from the one on that `next` gave last; nothing where
     /// that one has no end or was cut. Holds until the next call.
-    std::string_view linesFrom(const FileLine& line) const;
+    KnownLines linesFrom(const FileLine& line);
 
     /// Where the next line begins.
     std::uint64_t offset() const { return bufferOffset_ + start_; }
@@ -46,16 +49,20 @@ public:
     void goTo(std::uint64_t offset);
 
 private:
+    bool takeLine(FileLine& line);
     bool fill();
     void makeRoom();
+    void findEnds(std::size_t to);
+    void forgetEnds(std::size_t searched);
     bool takeLongLine(FileLine& line);
 
     const FileDescriptor* file_;
-    std::unique_ptr<char[]> buffer_;
-    std::size_t capacity_;
+    LineBuffer buffer_;
     std::uint64_t bufferOffset_ = 0; ///< where in the file the buffer begins
     std::size_t start_ = 0;          ///< of what was not handed out
     std::size_t end_ = 0;            ///< of what was read
+    std::size_t searched_ = 0;       ///< up to where line ends were looked for
+    std::size_t nextEnd_ = 0;        ///< the number of the next line end
 };
 
 } // namespace timeline

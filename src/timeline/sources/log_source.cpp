@@ -2,17 +2,16 @@
 
 #include "runtime/dates.h"
 #include "runtime/run_time_error.h"
-#include "timeline/lines/byte_words.h"
+#include "timeline/lines/passable_lines.h"
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace timeline {
 
 namespace {
-
-constexpr std::size_t recordPiece = 32U << 10;
 
 /// The moment of a stamp in any form that the tool knows for a date and a time.
 std::optional<Moment> momentOfText(std::string_view stamp)
@@ -97,8 +96,10 @@ public:
         rowOpen_ = searches_;
     }
 
-    void readAll(const FileDescriptor& file, Progress& progress)
+    /// Reads up to the first line with a form at `until` or behind it.
+    void readTo(std::uint64_t until, const FileDescriptor& file, Progress& progress)
     {
+        until_ = until;
         constexpr std::uint32_t linesBetweenReports = 4096;
         LineReader reader(file, source_.offset_);
         FileLine line;
@@ -111,7 +112,7 @@ public:
                 reported = line.offset;
             }
             if (hasForm) {
-                if (progress.cancelled) break;
+                if (progress.cancelled || line.offset >= until_) break;
                 endRow();
                 if (searches_ && passOver(reader, line)) continue;
             }
@@ -138,8 +139,9 @@ private:
         if (std::exchange(arrived_, false) || source_.facts_.source.form == LineForm::data)
             return false;
         if (rowsUnsearched_ > 0) return --rowsUnsearched_, false;
-        const std::string_view lines = reader.linesFrom(line);
-        const std::size_t place = placeFrom(line, lines);
+        if (line.offset < walkedTo_) return false;
+        const KnownLines lines = reader.linesFrom(line);
+        const std::size_t place = placeFrom(line, lines.bytes);
         if (place <= line.text.size()) {
             // Where many rows fit, to look for each beforehand takes longer than to look at all.
             pause_ = std::min(pause_ * 2 + 1, 63);
@@ -147,16 +149,20 @@ private:
             return false;
         }
         pause_ = 0;
-        const Passed passed = passableRows(lines, place);
+        const std::uint64_t left = until_ - line.offset;
+        findPassableLines(lines, std::min<std::uint64_t>(place, left), source_.carry_.lastSecond(),
+                          passable_);
         LineFields fields;
-        const std::string_view next = lines.substr(passed.bytes);
-        if (passed.bytes == 0 ||
-            !cutLine(next.substr(0, next.find('\n')), source_.facts_.source.form, fields))
+        const std::string_view next = lines.bytes.substr(passable_.bytes);
+        if (passable_.bytes == 0) return false;
+        if (!cutLine(next.substr(0, next.find('\n')), source_.facts_.source.form, fields)) {
+            walkedTo_ = line.offset + passable_.bytes;
             return false;
-        for (const std::uint32_t empty : emptyPassed_)
-            if (empty < passed.lines) source_.emptyLines_.add(source_.lines_ + empty + 1);
-        source_.lines_ += passed.lines;
-        source_.offset_ = line.offset + passed.bytes;
+        }
+        for (const std::uint32_t empty : passable_.empty)
+            if (empty < passable_.count) source_.emptyLines_.add(source_.lines_ + empty + 1);
+        source_.lines_ += passable_.count;
+        source_.offset_ = line.offset + passable_.bytes;
         source_.rowTaken_ = false;
         reader.goTo(source_.offset_);
         arrived_ = true;
@@ -172,43 +178,6 @@ private:
         const std::size_t place = std::min(search_.firstPlaceIn(lines), lines.size());
         searchedTo_ = line.offset + place;
         return place;
-    }
-
-    struct Passed {
-        std::size_t bytes = 0;
-        std::uint32_t lines = 0;
-    };
-
-    /// Lines from a row on that need not be looked at: up to the last one that does not lie behind
-    /// `place` and whose day is known without them. That is one with a time of day, as long as the
-    /// clock does not go back, or one with a date of its own.
-    Passed passableRows(std::string_view lines, std::size_t place)
-    {
-        constexpr std::size_t datedWidth = 19;
-        Passed passed;
-        emptyPassed_.clear();
-        std::int32_t last = source_.carry_.lastSecond();
-        bool dated = false;
-        std::uint32_t number = 0;
-        for (std::size_t at = 0; at <= place && at + datedWidth < lines.size(); ++number) {
-            const std::uint64_t digits = bytes::clockDigits(lines.data() + at);
-            if (digits != bytes::noClock && !dated) {
-                const std::int32_t second = bytes::secondsOf(digits);
-                if (second < last) break;
-                last = second;
-                passed = {at, number};
-            } else if (digits == bytes::noClock && lines[at + 4] == '-') {
-                Stamp stamp;
-                if (!readStamp(lines.substr(at, datedWidth), stamp) || !stamp.dated) break;
-                dated = true;
-                passed = {at, number};
-            }
-            const std::size_t end = lines.find('\n', at);
-            if (end == std::string_view::npos) break;
-            if (end == at || (end == at + 1 && lines[at] == '\r')) emptyPassed_.push_back(number);
-            at = end + 1;
-        }
-        return passed;
     }
 
     void beginRow()
@@ -261,9 +230,11 @@ private:
     bool arrived_ = false;   ///< whether the next row is the one that was gone on to
     int rowsUnsearched_ = 0; ///< how many rows are looked at before the search goes ahead again
     int pause_ = 0;
-    std::vector<std::uint32_t> emptyPassed_; ///< lines that were passed over, from 0
-    bool rowOpen_ = false;                   ///< whether its lines are still searched
-    std::uint64_t searchedTo_ = 0;           ///< where in the file the search has come to
+    PassableLines passable_;
+    std::uint64_t until_ = 0;
+    bool rowOpen_ = false;         ///< whether its lines are still searched
+    std::uint64_t searchedTo_ = 0; ///< where in the file the search has come to
+    std::uint64_t walkedTo_ = 0;   ///< a line of the file in front of which none can be gone on to
     std::size_t rowBegin_;
     LineFields fields_;
     Record record_;
@@ -274,8 +245,13 @@ void LogSource::read(const Filter& filter, SourceRows& rows, Progress& progress)
     const KeptFile::Use use(*file_);
     const auto size = static_cast<std::uint64_t>(factsOf(use.descriptor()).size);
     if (size > offset_) progress.total += size - offset_;
+    const PartSizes& parts = partSizes_;
     try {
-        Reading(*this, filter, rows).readAll(use.descriptor(), progress);
+        while (canBeParted(filter, progress) && size > offset_ + 2 * parts.smallest)
+            if (!readTwoParts(std::min((size - offset_) / 2, parts.largest), filter, rows,
+                              progress))
+                break;
+        readTo(std::numeric_limits<std::uint64_t>::max(), filter, rows, progress);
     } catch (const RunTimeError&) {
         tellLongLines();
         throw;
@@ -283,13 +259,21 @@ void LogSource::read(const Filter& filter, SourceRows& rows, Progress& progress)
     tellLongLines();
 }
 
+/// Reads up to the first row at a place or behind it.
+void LogSource::readTo(std::uint64_t until, const Filter& filter, SourceRows& rows,
+                       Progress& progress)
+{
+    const KeptFile::Use use(*file_);
+    Reading(*this, filter, rows).readTo(until, use.descriptor(), progress);
+}
+
 /// The line of a row, until the next call.
 std::string_view LogSource::lineOf(const IndexRow& row)
 {
     const KeptFile::Use use(*file_);
     if (!recordReader_)
-        recordReader_ =
-            std::make_unique<LineReader>(use.descriptor(), row.placeInSource(), recordPiece);
+        recordReader_ = std::make_unique<LineReader>(use.descriptor(), row.placeInSource(),
+                                                     LineReader::smallPiece);
     recordReader_->goTo(row.placeInSource());
     FileLine line;
     if (!recordReader_->next(line))

@@ -48,6 +48,14 @@ public:
     /// Whether a last line that has no end yet waits until it is whole.
     void waitForLineEnds(bool wait) { waits_ = wait; }
 
+    /// How much of a large log each of two threads reads at a time, in bytes. A log with less than
+    /// two of the smallest is read by one.
+    struct PartSizes {
+        std::uint64_t smallest = 1U << 20;
+        std::uint64_t largest = 32U << 20;
+    };
+    void readInParts(PartSizes sizes) { partSizes_ = sizes; }
+
     const LogFacts& logFacts() const { return facts_; }
 
     /// Which file it is read from.
@@ -55,6 +63,14 @@ public:
 
 private:
     class Reading;
+    struct Part;
+
+    void readTo(std::uint64_t until, const Filter& filter, SourceRows& rows, Progress& progress);
+    bool canBeParted(const Filter& filter, const Progress& progress) const;
+    bool readTwoParts(std::uint64_t partBytes, const Filter& filter, SourceRows& rows,
+                      Progress& progress);
+    std::optional<std::uint64_t> findRow(std::uint64_t from, Stamp& stamp) const;
+    void join(Part& part, SourceRows& rows);
 
     Moment momentOf(const LineFields& fields);
     std::string_view lineOf(const IndexRow& row);
@@ -71,6 +87,7 @@ private:
     std::uint32_t longLines_ = 0; ///< that were met and not told of yet
     bool rowTaken_ = true;        ///< whether the last row was let through
     bool waits_ = false;
+    PartSizes partSizes_;
     std::unique_ptr<LineReader> recordReader_;
 };
 

@@ -39,6 +39,8 @@ struct Progress {
     /// Of a source that has so many rows, more need not be read: it may end early, after whole
     /// rows. Set before the reading.
     std::size_t enough = std::numeric_limits<std::size_t>::max();
+    /// Whether a source may read on one thread more. Set before the reading.
+    bool spareThread = false;
 };
 
 /// Where rows come from: a log, a table of a trace database, an event log.

@@ -53,6 +53,18 @@ TEST(TextPattern, SearchesUtf8WithoutACodePage)
     EXPECT_FALSE(pattern.searchIn(nullptr)->occursIn("caf\u00e9\u00e9"));
 }
 
+TEST(TextPattern, TakesAnExpressionWithoutSignsForAText)
+{
+    EXPECT_TRUE(occurs(Kind::expression, "Rule 4, \"x\"", "a Rule 4, \"x\""));
+    EXPECT_FALSE(occurs(Kind::expression, "rule 4", "Rule 4"));
+    EXPECT_TRUE(occurs(Kind::expression, "rule 4", "Rule 4", Letters::inAnyCase));
+    EXPECT_TRUE(occurs(Kind::expression, "\u00c9t\u00e9", "\xE9T\xC9", Letters::inAnyCase));
+    EXPECT_TRUE(TextPattern(Kind::text, "kelvin", Letters::inAnyCase)
+                    .searchIn(nullptr)
+                    ->occursIn("\u212Aelvin"))
+        << "the sign of the unit is a K";
+}
+
 TEST(TextPattern, RefusesWhatIsNoExpressionWithASentence)
 {
     try {
@@ -68,9 +80,10 @@ TEST(TextPattern, RefusesWhatIsNoExpressionWithASentence)
 TEST(TextPattern, PassesOverNoLineThatHasIt)
 {
     const CodePage codePage = windows1252();
-    const std::vector<std::string> expressions = {"ab",   "^a",    "b$",     "a.b",     "[^a]b",
-                                                  "\\bb", "a\\Bb", "(?i)AB", "(?-m)^b", "\\Aa",
-                                                  "b\\z", "a|$",   "a\\s*b", "(?:a)b",  "x*"};
+    const std::vector<std::string> expressions = {
+        "ab",      "^a",      "b$",   "a.b",  "[^a]b",       "\\bb",      "a\\Bb",  "(?i)AB",
+        "(?-m)^b", "\\Aa",    "b\\z", "a|$",  "a\\s*b",      "(?:a)b",    "x*",     "aab",
+        "abb.",    "(?i)ABA", "aba$", "^aab", "(?:aab|bba)", "a(?:ab)+ ", "\\Aaba", "bab\\z"};
     std::mt19937 random(11);
     for (const std::string& expression : expressions) {
         const auto search = TextPattern(Kind::expression, expression).searchIn(&codePage);
@@ -79,8 +92,8 @@ TEST(TextPattern, PassesOverNoLineThatHasIt)
             std::size_t endOfFirst = std::string::npos;
             for (auto line = random() % 4 + 1; line > 0; --line) {
                 std::string text;
-                for (auto letter = random() % 4; letter > 0; --letter)
-                    text += "ab \t"[random() % 4];
+                for (auto letter = random() % 7; letter > 0; --letter)
+                    text += "aabb \t"[random() % 6];
                 const bool first = endOfFirst == std::string::npos && search->occursIn(text);
                 lines += text + (random() % 2 == 0 ? "\n" : "\r\n");
                 if (first) endOfFirst = lines.size();

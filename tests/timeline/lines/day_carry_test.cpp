@@ -58,5 +58,36 @@ TEST(DayCarry, GoesOnFromTheDayOfADatedStamp)
     EXPECT_EQ(day + 3 * hour, carry.at({.dated = true, .day = day, .clock = 3 * hour}));
 }
 
+TEST(DayCarry, GoesOnBehindLinesWhoseDayWasNotKnown)
+{
+    for (const Moment first : {hour, 23 * hour}) {
+        DayCarry whole(day);
+        DayCarry front(day);
+        whole.at(clock(22 * hour));
+        front.at(clock(22 * hour));
+        DayCarry rest = DayCarry::ofUnknownDay(clock(first));
+        const Moment middle = rest.at(clock(first));
+        EXPECT_TRUE(DayCarry::isOfUnknownDay(middle));
+        const Moment later = rest.at(clock(hour / 2));
+        const Moment moved = front.goOn(rest, clock(first));
+        EXPECT_EQ(whole.at(clock(first)), middle + moved);
+        EXPECT_EQ(whole.at(clock(hour / 2)), later + moved);
+        EXPECT_EQ(whole.last(), front.last());
+        EXPECT_EQ(whole.at(clock(hour / 4)), front.at(clock(hour / 4)));
+    }
+}
+
+TEST(DayCarry, GoesOnFromADateAmongLinesWhoseDayWasNotKnown)
+{
+    DayCarry front(day);
+    DayCarry rest = DayCarry::ofUnknownDay(clock(hour));
+    rest.at(clock(hour));
+    const Moment dated = rest.at({.dated = true, .day = day + 9 * millisecondsPerDay, .clock = 5});
+    EXPECT_FALSE(DayCarry::isOfUnknownDay(dated));
+    front.goOn(rest, clock(hour));
+    EXPECT_EQ(dated, front.last());
+    EXPECT_EQ(dated + hour, front.at(clock(hour + 5)));
+}
+
 } // namespace
 } // namespace timeline

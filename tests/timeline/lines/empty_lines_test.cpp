@@ -26,5 +26,23 @@ TEST(EmptyLines, OfNoneThereIsNone)
     EXPECT_EQ(0u, EmptyLines().before(1));
 }
 
+TEST(EmptyLines, TakeOverThoseOfFurtherLines)
+{
+    EmptyLines whole;
+    EmptyLines front;
+    EmptyLines rest;
+    for (const std::uint32_t line : {2U, 9U, 10U}) {
+        whole.add(line);
+        front.add(line);
+    }
+    for (const std::uint32_t line : {1U, 2U, 5U}) {
+        whole.add(10 + line);
+        rest.add(line);
+    }
+    front.add(rest, 10);
+    for (std::uint32_t line = 1; line < 20; ++line)
+        EXPECT_EQ(whole.before(line), front.before(line));
+}
+
 } // namespace
 } // namespace timeline

@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <utility>
 
 namespace timeline {
 namespace {
@@ -178,6 +179,61 @@ TEST_F(LogSourceTest, EndsWhenItIsCancelled)
     EXPECT_EQ(Traces{}, read());
     progress.cancelled = false;
     EXPECT_EQ((Traces{"one", "two"}), read()) << "and goes on from there";
+}
+
+TEST_F(LogSourceTest, ReadsPartsOnASpareThreadAsIfTheyWereOne)
+{
+    std::string log = "a heading\n";
+    for (int row = 0; row < 60; ++row)
+        log += (row % 20 == 7 ? "\n" : "") + std::to_string(10 + row % 13) +
+               ":00:00:000,Conv,12,Component" + std::to_string(row % 9) + ",7,row " +
+               std::to_string(row) + (row % 3 == 0 ? "\n more of it\n" : "\n");
+    const Traces whole = (open(log), read());
+    const SourceRows expected = std::exchange(rows, {});
+    std::vector<std::string> components;
+    for (const IndexRow& row : expected)
+        components.emplace_back(source->components().text(row.component));
+
+    open(log).readInParts({64, 200});
+    progress.done = 0;
+    progress.spareThread = true;
+    EXPECT_EQ(whole, read());
+    EXPECT_EQ(log.size(), progress.done);
+    ASSERT_EQ(expected.size(), rows.size());
+    for (std::size_t at = 0; at < rows.size(); ++at) {
+        EXPECT_EQ(expected[at].moment, rows[at].moment) << at;
+        EXPECT_EQ(expected[at].line, rows[at].line) << at;
+        EXPECT_EQ(components[at], source->components().text(rows[at].component)) << at;
+    }
+}
+
+TEST_F(LogSourceTest, GoesOnBehindAPartWithTheLinesOfItsLastRow)
+{
+    std::string log;
+    for (int row = 0; row < 20; ++row) log += "15:00:00:000,Conv,12,CallFlow,7,row\n";
+    for (const std::string last : {"Rule", "CallFlow"}) {
+        Choice choice;
+        choice.columns.push_back({Column::component, {"Rule"}, false});
+        open(log + "15:00:01:000,Conv,12," + last + ",7,last\n").readInParts({64, 1000});
+        progress.spareThread = true;
+        rows.clear();
+        read(Filter(choice));
+        append(" more of it\n");
+        EXPECT_EQ(last == "Rule" ? (Traces{"last", "+ more of it"}) : Traces{},
+                  read(Filter(choice)));
+    }
+}
+
+TEST_F(LogSourceTest, SaysWhichLineOfAPartIsTooLong)
+{
+    std::string log;
+    for (int row = 0; row < 20; ++row) log += "15:00:00:000,Conv,12,CallFlow,7,row\n";
+    open(log + log + std::string(LineReader::longestLine + 1, 'x') + "\n")
+        .readInParts({64, log.size() + 40});
+    progress.spareThread = true;
+    read();
+    ASSERT_EQ(1u, source->troubles().size());
+    EXPECT_EQ(0u, source->troubles()[0].find("line 41 of ")) << source->troubles()[0];
 }
 
 TEST_F(LogSourceTest, CountsTheBytesThatItRead)

@@ -1,5 +1,7 @@
 #include "hosts/cli/reading/shown_rows.h"
 
+#include "timeline/index/nearly_sorted.h"
+
 #include <algorithm>
 #include <limits>
 #include <map>
@@ -15,10 +17,12 @@ using timeline::Record;
 using timeline::SourceRows;
 using timeline::Timeline;
 
-bool standsEarlier(const IndexRow& one, const IndexRow& other)
-{
-    return one.line != other.line ? one.line < other.line : one.place < other.place;
-}
+struct StandsEarlier {
+    bool operator()(const IndexRow& one, const IndexRow& other) const
+    {
+        return one.line != other.line ? one.line < other.line : one.place < other.place;
+    }
+};
 
 /// Lets rows through with the lines that belong to them, as a source does that has the filter.
 class RowSieve {
@@ -78,13 +82,16 @@ Moment earliestUnread(const SourceRows& rows, std::size_t enough)
 
 } // namespace
 
-ShownRows::ShownRows(const Timeline& timeline) : timeline_(timeline), count_(timeline.size())
+ShownRows::ShownRows(const Timeline& timeline) : timeline_(timeline), count_(timeline.size()) {}
+
+/// Puts the rows of a log that stands alone in its own order, unless time has the same one.
+void ShownRows::orderByLog() const
 {
-    if (timeline.sourceCount() != 1) return;
-    const SourceRows& rows = timeline.rowsOf(0);
-    if (std::is_sorted(rows.begin(), rows.end(), standsEarlier)) return;
+    if (chosen_ || timeline_.sourceCount() != 1) return;
+    const SourceRows& rows = timeline_.rowsOf(0);
+    if (std::is_sorted(rows.begin(), rows.end(), StandsEarlier())) return;
     chosen_.emplace(rows.begin(), rows.end());
-    std::sort(chosen_->begin(), chosen_->end(), standsEarlier);
+    timeline::sortNearlySorted(chosen_->begin(), chosen_->end(), StandsEarlier());
 }
 
 void ShownRows::choose(const Filter& filter)
@@ -114,6 +121,7 @@ void ShownRows::keepLast(std::size_t count)
 
 ShownRows::Walk::Walk(const ShownRows& rows) : rows_(rows), left_(rows.count_)
 {
+    rows.orderByLog();
     if (rows.chosen_ || rows.timeline_.sourceCount() == 1) {
         position_ = rows.skipped_;
         return;

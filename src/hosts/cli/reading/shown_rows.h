@@ -48,9 +48,13 @@ public:
     Walk walk() const { return Walk(*this); }
 
 private:
+    void orderByLog() const;
+
     const timeline::Timeline& timeline_;
-    std::optional<std::vector<timeline::IndexRow>> chosen_; ///< unset for those of the timeline
-    std::size_t skipped_ = 0;                               ///< in front of the first
+    /// Unset for those of the timeline. Rows in the order of a log are put here when somebody walks
+    /// over them first: to count them takes no room.
+    mutable std::optional<std::vector<timeline::IndexRow>> chosen_;
+    std::size_t skipped_ = 0; ///< in front of the first
     std::size_t count_;
 };
 
