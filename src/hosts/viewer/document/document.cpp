@@ -1,10 +1,12 @@
 #include "hosts/viewer/document/document.h"
 
+#include "hosts/viewer/document/place_walk.h"
 #include "runtime/run_time_error.h"
 
 #include <QMetaObject>
 
 #include <algorithm>
+#include <chrono>
 
 namespace viewer {
 
@@ -12,15 +14,24 @@ namespace {
 
 constexpr std::size_t rowsOfBlock = 64;
 constexpr std::size_t mostBlocks = 64;
-constexpr std::size_t nearRows = 512; ///< that are walked over rather than found anew
-constexpr int firstLook = 5;          ///< milliseconds until the first rows may be there
+constexpr int firstLook = 5; ///< milliseconds until the first rows may be there
 constexpr int otherLooks = 100;
 
 } // namespace
 
 // What another thread tells comes as an event of this one, or never, when this is gone by then.
 Document::Document(QObject* parent)
-    : QObject(parent),
+    : QObject(parent), finder_(timeline_,
+                               [this](std::shared_ptr<const Hits> hits) {
+                                   QMetaObject::invokeMethod(
+                                       this,
+                                       [this, hits = std::move(hits)] {
+                                           if (hits->number != findings_) return;
+                                           hits_ = hits;
+                                           emit hitsChanged();
+                                       },
+                                       Qt::QueuedConnection);
+                               }),
       maker_(timeline_, {.view =
                              [this](std::shared_ptr<const View> view) {
                                  QMetaObject::invokeMethod(
@@ -42,6 +53,7 @@ Document::Document(QObject* parent)
               this, [this, opened] { takeOpened(opened); }, Qt::QueuedConnection);
       })
 {
+    connect(&levelSteps_, &QTimer::timeout, this, &Document::lookForLevel);
     connect(&watch_, &QTimer::timeout, this, &Document::lookAtReading);
 }
 
@@ -83,6 +95,9 @@ void Document::takeOpened(const OpenedPath& opened)
         lookedAtEnd_ = false;
         watch_.start(firstLook);
     }
+    for (const timeline::MacroTraceDefinition& definition : opened.macroTraces)
+        macroTraces_.try_emplace(
+            QString::fromStdString(definition.group + " - " + definition.trace), definition.levels);
     tell(opened.troubles);
     for (const std::string& note : opened.notes) emit noted(harmless(QString::fromStdString(note)));
     emit progressed();
@@ -109,8 +124,9 @@ void Document::lookAtReading()
         readRows_ = reading.rows;
         lookedAtEnd_ = ended;
         wish(true);
-        watch_.setInterval(otherLooks);
     }
+    // The first rows are looked for often, what takes long now and then.
+    watch_.setInterval(std::min(watch_.interval() + firstLook, otherLooks));
     if (ended && lookedAtEnd_) {
         watch_.stop();
         std::vector<std::string> troubles;
@@ -144,7 +160,45 @@ void Document::takeView(std::shared_ptr<const View> view)
     view_ = std::move(view);
     blocks_.clear();
     places_.clear();
+    levelSteps_.stop();
     emit viewChanged();
+    findAgain();
+}
+
+void Document::find(const TextCondition& text)
+{
+    finding_ = text.text.isEmpty() ? nullptr : text.pattern();
+    findAgain();
+}
+
+/// Looks for the same text in what is on show now. The hits of before are those of other places.
+void Document::findAgain()
+{
+    const bool any = hits_ != nullptr;
+    hits_.reset();
+    ++findings_;
+    if (finding_ || any) finder_.find({findings_, view_, finding_});
+    if (any) emit hitsChanged();
+}
+
+void Document::findLevel(std::size_t place, Direction direction, std::int8_t level)
+{
+    if (!view_->order) return emit levelFound(std::nullopt);
+    levelSearch_.emplace(view_, place, direction, level);
+    levelSteps_.start(0);
+}
+
+/// A step that a person does not notice; the window handles its events between two of them.
+void Document::lookForLevel()
+{
+    constexpr std::chrono::milliseconds step{10};
+    bool done = false;
+    timeline_.look([&](const timeline::Timeline& rows) {
+        done = levelSearch_->look(rows, std::chrono::steady_clock::now() + step);
+    });
+    if (!done) return;
+    levelSteps_.stop();
+    emit levelFound(levelSearch_->found());
 }
 
 const Document::Block& Document::block(std::size_t number)
@@ -161,18 +215,9 @@ const Document::Block& Document::block(std::size_t number)
     const std::size_t first = number * rowsOfBlock;
     const std::size_t end = std::min(first + rowsOfBlock, view_->size());
     timeline_.look([&](const timeline::Timeline& rows) {
-        std::optional<RowOrder::Walk> walk;
-        std::size_t at = 0; // the number of the walk's next row
-        for (std::size_t place = first; place < end; ++place) {
-            const std::size_t row = view_->rowAt(place);
-            if (!walk || row - at > nearRows) {
-                walk = view_->order->from(rows, row);
-                at = row;
-            }
-            for (; at < row; ++at) walk->next();
-            read.push_back(readRow(rows, *walk->next(), room_));
-            ++at;
-        }
+        PlaceWalk walk(*view_, first);
+        for (std::size_t place = first; place < end; ++place)
+            read.push_back(readRow(rows, walk.next(rows), room_));
     });
     blocks_.emplace_front(number, std::move(read));
     places_[number] = blocks_.begin();
@@ -203,6 +248,22 @@ QString Document::wholeLine(std::size_t place)
         }
     });
     return line;
+}
+
+QString Document::wholeTrace(std::size_t place)
+{
+    QStringList lines;
+    timeline_.look([&](const timeline::Timeline& rows) {
+        try {
+            rows.record(*view_->order->from(rows, view_->rowAt(place)).next(), room_);
+            for (const QString& line :
+                 decoded(room_.trace, room_.codePage).split(QLatin1Char('\n')))
+                lines << harmless(line.endsWith(QLatin1Char('\r')) ? line.chopped(1) : line);
+        } catch (const RunTimeError& error) {
+            lines = {harmless(QString::fromStdString(error.description()))};
+        }
+    });
+    return lines.join(QLatin1Char('\n'));
 }
 
 std::string Document::value(std::size_t place, timeline::Column column)

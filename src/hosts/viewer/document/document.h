@@ -1,5 +1,7 @@
 #pragma once
 
+#include "hosts/viewer/document/hit_finder.h"
+#include "hosts/viewer/document/level_search.h"
 #include "hosts/viewer/document/row_filter.h"
 #include "hosts/viewer/document/shown_row.h"
 #include "hosts/viewer/document/source_opening.h"
@@ -13,6 +15,7 @@
 
 #include <cstddef>
 #include <list>
+#include <map>
 #include <memory>
 #include <optional>
 #include <unordered_map>
@@ -47,6 +50,13 @@ public:
     /// Whether paths were opened that have rows, or may have.
     bool hasSources() const { return sources_ > 0; }
 
+    /// The macro traces that the opened trace databases define, the first definition of a name
+    /// alone, in the order of their names.
+    const std::map<QString, std::vector<timeline::ComponentLevels>>& macroTraces() const
+    {
+        return macroTraces_;
+    }
+
     /// The paths that were opened and had something to read, in their order.
     const QStringList& paths() const { return paths_; }
 
@@ -57,6 +67,17 @@ public:
     /// asked. Raises 5, with a sentence, and keeps the filter of before, for one that makes no
     /// sense.
     void setFilter(RowFilter filter);
+
+    /// Looks for a text in the rows on show, in those too that will be; an empty text for nothing.
+    /// Raises 5, with a sentence, and looks for what it looked for before.
+    void find(const TextCondition& text);
+
+    /// The hits so far; null while nothing is looked for.
+    const Hits* hits() const { return finding_ ? hits_.get() : nullptr; }
+
+    /// Looks for the next row on show of a level, from the row next to a place on, and tells of it
+    /// by `levelFound`. What was looked for so before is given up.
+    void findLevel(std::size_t place, Direction direction, std::int8_t level);
 
     /// What was counted of the last complete view; null before.
     const RowCounts* counts() const { return counts_.get(); }
@@ -86,6 +107,10 @@ public:
     /// the empty text where there are no lines, or it can't be read any more.
     QString wholeLine(std::size_t place);
 
+    /// The trace of the row at a place with the ends of lines that it has, and a sign for each
+    /// other character that would act.
+    QString wholeTrace(std::size_t place);
+
     /// The text of the row at a place in a column, as filters know it; the empty text where it has
     /// none, or can't be read any more.
     std::string value(std::size_t place, timeline::Column column);
@@ -104,6 +129,12 @@ signals:
     /// Rows were counted.
     void countsChanged();
 
+    /// There are other hits.
+    void hitsChanged();
+
+    /// The place of the row that `findLevel` looked for; nothing where there is none.
+    void levelFound(std::optional<std::size_t> place);
+
     /// Opening or reading went on, or ended.
     void progressed();
 
@@ -118,6 +149,8 @@ private:
     void takeView(std::shared_ptr<const View> view);
     void lookAtReading();
     void wish(bool anew);
+    void findAgain();
+    void lookForLevel();
     void tell(const std::vector<std::string>& failures);
 
     /// Rows that stand beside each other, as they were read. A block is found by its number.
@@ -129,17 +162,24 @@ private:
     std::size_t toOpen_ = 0; ///< paths that are opened, or wait for it
     std::size_t sources_ = 0;
     QStringList paths_;
+    std::map<QString, std::vector<timeline::ComponentLevels>> macroTraces_;
     QSet<QString> told_;
     std::size_t readRows_ = 0; ///< that the view knows, or the one that is being made
     RowFilter filter_;
     timeline::Choice choice_; ///< that the filter comes to
     std::shared_ptr<const RowCounts> counts_;
+    std::shared_ptr<const timeline::TextPattern> finding_; ///< null for nothing
+    std::shared_ptr<const Hits> hits_;
+    std::uint64_t findings_ = 0;
+    std::optional<LevelSearch> levelSearch_;
+    QTimer levelSteps_;
     std::uint64_t wishes_ = 0; ///< that were made for views
     bool lookedAtEnd_ = true;  ///< whether the view has the rows of a reading that has ended
     QTimer watch_;             ///< runs while something is opened or read
     timeline::Record room_;
     std::list<std::pair<std::size_t, Block>> blocks_; ///< those that were used last come first
     std::unordered_map<std::size_t, std::list<std::pair<std::size_t, Block>>::iterator> places_;
+    HitFinder finder_;
     ViewMaker maker_;
     SourceOpening opening_;
 };

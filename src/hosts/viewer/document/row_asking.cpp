@@ -1,5 +1,6 @@
 #include "hosts/viewer/document/row_asking.h"
 
+#include "hosts/viewer/document/row_line.h"
 #include "runtime/run_time_error.h"
 
 #include <algorithm>
@@ -50,21 +51,6 @@ Filter macroTraceOf(const Choice& choice)
 bool isAscii(std::string_view text)
 {
     return std::all_of(text.begin(), text.end(), [](char byte) { return byte >= 0; });
-}
-
-/// What a row of a source without lines is searched in: a line as the server writes it.
-void lookAtFields(Filter::Search& search, const Record& record)
-{
-    std::string line(record.timeStamp);
-    line.append(",").append(record.source).append(",");
-    line.append(std::to_string(record.traceNumber)).append(",").append(record.component);
-    line.append(",").append(std::to_string(record.level)).append(",").append(record.trace);
-    for (std::string_view rest = line;;) {
-        const std::size_t end = rest.find('\n');
-        search.look(rest.substr(0, end));
-        if (end == std::string_view::npos) return;
-        rest.remove_prefix(end + 1);
-    }
 }
 
 } // namespace
@@ -302,10 +288,10 @@ RowAsking::Against RowAsking::againstTexts(const Timeline& timeline)
                 &searches_.try_emplace(record_.codePage, rest_, record_.codePage).first->second;
             search->begin();
         }
-        if (!record_.whole.empty())
-            search->look(record_.whole);
-        else
-            lookAtFields(*search, record_);
+        anyLineOf(record_, room_, [&](std::string_view text) {
+            search->look(text);
+            return false;
+        });
     }
     return search != nullptr && search->fits() ? 0 : all;
 }

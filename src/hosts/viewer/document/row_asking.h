@@ -80,6 +80,7 @@ private:
     std::vector<const timeline::IndexRow*> lines_; ///< a row and those that belong to it
     std::size_t position_ = 0;                     ///< of the row, among those of its log
     timeline::Record record_;
+    std::string room_;
     bool recorded_ = false; ///< whether `record_` is of the row
     bool readable_ = false; ///< and could be read
     std::map<const CodePage*, timeline::Filter::Search> searches_;

@@ -1,5 +1,8 @@
 #include "hosts/viewer/document/source_opening.h"
 
+#include "backends/xml/libxml_documents.h"
+#include "timeline/sources/trace_database_source.h"
+
 #include <exception>
 #include <utility>
 
@@ -10,6 +13,15 @@ namespace {
 void append(std::vector<std::string>& sentences, const std::vector<std::string>& more)
 {
     sentences.insert(sentences.end(), more.begin(), more.end());
+}
+
+void addMacroTraces(const timeline::TraceDatabaseSource& database, OpenedPath& result)
+{
+    LibxmlDocuments xml;
+    const auto definitions =
+        timeline::MacroTraceDefinitions::of(database.tables(), xml, result.notes);
+    result.macroTraces.insert(result.macroTraces.end(), definitions.all().begin(),
+                              definitions.all().end());
 }
 
 } // namespace
@@ -74,7 +86,12 @@ OpenedPath SourceOpening::openNow(const std::string& path)
         result.troubles = std::move(opened.troubles);
         result.notes = std::move(opened.passedOver);
         append(result.notes, opened.notes);
-        for (const auto& source : opened.sources) append(result.notes, source->facts().guesses);
+        for (const auto& source : opened.sources) {
+            append(result.notes, source->facts().guesses);
+            if (const auto* database =
+                    dynamic_cast<const timeline::TraceDatabaseSource*>(source.get()))
+                addMacroTraces(*database, result);
+        }
         if (!opened.sources.empty()) timeline_.add(std::move(opened.sources));
     } catch (const std::exception& error) {
         result.troubles.emplace_back(error.what());

@@ -2,6 +2,7 @@
 
 #include "hosts/common/logs/log_opener.h"
 #include "hosts/viewer/document/shared_timeline.h"
+#include "timeline/sources/macro_trace_definitions.h"
 
 #include <condition_variable>
 #include <deque>
@@ -18,8 +19,9 @@ namespace viewer {
 struct OpenedPath {
     std::string path;
     std::size_t sources = 0;
-    std::vector<std::string> troubles; ///< sentences of what can't be read
-    std::vector<std::string> notes;    ///< the same of what was passed over, or guessed
+    std::vector<std::string> troubles;                       ///< sentences of what can't be read
+    std::vector<timeline::MacroTraceDefinition> macroTraces; ///< of its trace databases
+    std::vector<std::string> notes; ///< the same of what was passed over, or guessed
 };
 
 /// Opens paths one after the other on a thread of its own, and adds what they lead to to a

@@ -103,7 +103,7 @@ void FacetPane::showCounts()
         // What was counted of the view before is still a help until the new counts are there.
         if (counted) fill(facet, *counts->facets[facet]);
         const bool waits = !counted && items_[facet].empty() && document_.hasSources();
-        groups_[facet]->setText(countColumn, waits ? tr("counting…") : QString());
+        groups_[facet]->setText(countColumn, waits ? QString(QChar(0x2026)) : QString());
     }
     filling_ = false;
     showTicks();

@@ -6,10 +6,8 @@
 
 namespace viewer {
 
-namespace {
-
-QString shownLine(const RowModel& rows, std::size_t place, const std::vector<RowColumn>& columns,
-                  bool csv)
+QString rowLine(const RowModel& rows, std::size_t place, const std::vector<RowColumn>& columns,
+                bool csv)
 {
     QStringList cells;
     for (const RowColumn column : columns) {
@@ -18,8 +16,6 @@ QString shownLine(const RowModel& rows, std::size_t place, const std::vector<Row
     }
     return cells.join(csv ? QLatin1Char(',') : QLatin1Char('\t'));
 }
-
-} // namespace
 
 QString copiedRows(const RowModel& rows, const std::vector<std::size_t>& places,
                    const std::vector<RowColumn>& columns, CopyForm form)
@@ -38,7 +34,7 @@ QString copiedRows(const RowModel& rows, const std::vector<std::size_t>& places,
                 continue;
             }
         }
-        lines << shownLine(rows, place, columns, form == CopyForm::csv);
+        lines << rowLine(rows, place, columns, form == CopyForm::csv);
     }
     return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }

@@ -19,6 +19,10 @@ enum class CopyForm {
 /// The most rows that go to the clipboard.
 inline constexpr std::size_t mostCopied = 100'000;
 
+/// The row at a place as one line: its cells parted by tabs, or as CSV.
+QString rowLine(const RowModel& rows, std::size_t place, const std::vector<RowColumn>& columns,
+                bool csv);
+
 /// The rows at places, in the columns that are given.
 QString copiedRows(const RowModel& rows, const std::vector<std::size_t>& places,
                    const std::vector<RowColumn>& columns, CopyForm form);

@@ -2,6 +2,7 @@
 
 #include "hosts/common/look/icons.h"
 #include "hosts/common/look/theme.h"
+#include "hosts/viewer/find/highlights.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -17,8 +18,9 @@ constexpr int longestDrawn = 2000;
 
 } // namespace
 
-RowPainter::RowPainter(QPainter& painter, const QPalette& palette, const QFont& font)
-    : painter_(painter), palette_(palette), font_(font),
+RowPainter::RowPainter(QPainter& painter, const QPalette& palette, const QFont& font,
+                       const Highlights* highlights)
+    : painter_(painter), palette_(palette), font_(font), highlights_(highlights),
       characterWidth_(QFontMetrics(font).averageCharWidth())
 {
     painter_.setFont(font_);
@@ -86,10 +88,32 @@ void RowPainter::drawCell(const QRect& room, RowColumn column, const ShownRow& r
                                   : palette_.color(QPalette::Text));
     const QString shown = painter_.fontMetrics().elidedText(
         text.size() > longestDrawn ? text.left(longestDrawn) : text, Qt::ElideRight, inner.width());
-    painter_.drawText(inner,
-                      Qt::AlignVCenter | Qt::TextSingleLine |
-                          (RowColumns::info(column).right ? Qt::AlignRight : Qt::AlignLeft),
-                      shown);
+    drawText(inner, shown, RowColumns::info(column).right);
+}
+
+/// Draws a text on the grounds of its marks. A mark has a line below it too, so that it is seen on
+/// a selected row, and by who does not tell colours.
+void RowPainter::drawText(const QRect& room, const QString& text, bool right)
+{
+    const QFontMetrics metrics = painter_.fontMetrics();
+    const int start = right ? room.right() + 1 - metrics.horizontalAdvance(text) : room.left();
+    if (highlights_ != nullptr) {
+        const QPen pen = painter_.pen();
+        for (const Highlights::Mark& mark : highlights_->marksIn(text)) {
+            const QRect ground(
+                start + metrics.horizontalAdvance(text.left(mark.begin)), room.top() + 2,
+                metrics.horizontalAdvance(text.mid(mark.begin, mark.length)), room.height() - 4);
+            const QColor colour = Highlights::ground(mark.colour, palette_);
+            const bool selected = pen.color() == palette_.color(QPalette::HighlightedText);
+            if (!selected) painter_.fillRect(ground, colour);
+            painter_.setPen(selected ? colour : pen.color());
+            painter_.drawLine(ground.bottomLeft(), ground.bottomRight());
+        }
+        painter_.setPen(pen);
+    }
+    painter_.drawText(
+        room, Qt::AlignVCenter | Qt::TextSingleLine | (right ? Qt::AlignRight : Qt::AlignLeft),
+        text);
 }
 
 } // namespace viewer

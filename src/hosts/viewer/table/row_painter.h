@@ -12,10 +12,14 @@ class QPalette;
 
 namespace viewer {
 
+class Highlights;
+
 /// Draws a row of the table, cell by cell.
 class RowPainter {
 public:
-    RowPainter(QPainter& painter, const QPalette& palette, const QFont& font);
+    /// Texts are marked by `highlights`, which may be null; all outlive the painter.
+    RowPainter(QPainter& painter, const QPalette& palette, const QFont& font,
+               const Highlights* highlights);
 
     /// How a row stands there.
     struct Look {
@@ -46,9 +50,12 @@ private:
     void drawCell(const QRect& room, RowColumn column, const ShownRow& row, const QString& text,
                   const Look& look);
 
+    void drawText(const QRect& room, const QString& text, bool right);
+
     QPainter& painter_;
     const QPalette& palette_;
     QFont font_;
+    const Highlights* highlights_;
     int characterWidth_;
 };
 

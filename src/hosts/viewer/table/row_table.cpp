@@ -1,6 +1,7 @@
 #include "hosts/viewer/table/row_table.h"
 
 #include "hosts/common/look/theme.h"
+#include "hosts/viewer/find/highlights.h"
 #include "hosts/viewer/table/row_painter.h"
 
 #include <QApplication>
@@ -61,6 +62,12 @@ RowTable::RowTable(RowModel& model, QSettings& settings, QWidget* parent)
 
 RowTable::~RowTable() = default;
 
+void RowTable::setHighlights(const Highlights& highlights)
+{
+    highlights_ = &highlights;
+    connect(&highlights, &Highlights::changed, viewport(), qOverload<>(&QWidget::update));
+}
+
 int RowTable::rowHeight() const
 {
     return fontMetrics().height() + rowRoom;
@@ -106,12 +113,13 @@ void RowTable::showColumn(RowColumn column, bool shown)
 
 void RowTable::resetColumns()
 {
-    const int character = fontMetrics().horizontalAdvance(QLatin1Char('0'));
     for (const RowColumnInfo& info : RowColumns::all()) {
         const int section = static_cast<int>(info.column);
         header_->moveSection(header_->visualIndex(section), section);
         header_->setSectionHidden(section, !info.shown);
-        header_->resizeSection(section, character * info.characters + 2 * RowPainter::margin + 2);
+        const int text =
+            fontMetrics().horizontalAdvance(QString(info.characters, QLatin1Char('0')));
+        header_->resizeSection(section, text + 2 * RowPainter::margin + 2);
     }
     rememberColumns();
 }
@@ -365,7 +373,7 @@ void RowTable::paintEvent(QPaintEvent*)
                                     header_->sectionSize(section)};
         if (cell.left < viewport()->width() && cell.left + cell.width > 0) cells.push_back(cell);
     }
-    RowPainter painter(drawing, palette(), font());
+    RowPainter painter(drawing, palette(), font(), highlights_);
     const int height = rowHeight();
     const int current = currentIndex().isValid() ? currentIndex().row() : -1;
     for (std::size_t at = 0; at < rows; ++at) {

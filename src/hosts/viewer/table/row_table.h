@@ -12,6 +12,8 @@ class QSettings;
 
 namespace viewer {
 
+class Highlights;
+
 /// The table of rows. It draws those in sight and keeps nothing of the others, where Qt's own
 /// tables keep some bytes of each row of a model, and walk over all of them at every change.
 ///
@@ -24,6 +26,9 @@ public:
     /// Both outlive the table.
     RowTable(RowModel& model, QSettings& settings, QWidget* parent = nullptr);
     ~RowTable() override;
+
+    /// Texts that are marked in the rows; they outlive the table.
+    void setHighlights(const Highlights& highlights);
 
     QHeaderView& header() { return *header_; }
 
@@ -99,6 +104,7 @@ private:
     RowModel& rows_;
     QSettings& settings_;
     QHeaderView* header_;
+    const Highlights* highlights_ = nullptr;
     Held held_;
     bool restoring_ = false;
 };

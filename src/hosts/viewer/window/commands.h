@@ -10,14 +10,29 @@ namespace viewer {
 enum class Command {
     openFiles,
     openFolder,
+    exportRows,
     stop,
     quit,
     copy,
     copyCsv,
     copyRaw,
+    copyValue,
     selectAll,
+    find,
+    findNext,
+    findPrevious,
+    keepMark,
+    nextError,
+    previousError,
+    nextWarning,
+    previousWarning,
+    goToTime,
     filter,
     showAll,
+    macroTraces,
+    saveFilter,
+    savedFilters,
+    openFilter,
     onlyProcess,
     onlyComponent,
     onlySource,
@@ -33,6 +48,7 @@ enum class Command {
     widenTimes,
     allTimes,
     values,
+    details,
     otherPane,
     clockTimes,
     timesSinceRowBefore,
@@ -48,7 +64,7 @@ enum class Command {
     about,
 };
 
-enum class CommandMenu { file, edit, filter, only, hide, view, times, theme, help };
+enum class CommandMenu { file, edit, go, filter, only, hide, view, times, theme, help };
 
 struct MenuInfo {
     CommandMenu menu;

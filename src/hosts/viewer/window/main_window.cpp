@@ -5,13 +5,17 @@
 #include "hosts/common/look/notice_bar.h"
 #include "hosts/common/look/screen_room.h"
 #include "hosts/common/look/theme.h"
+#include "hosts/viewer/details/details_pane.h"
 #include "hosts/viewer/facets/facet_pane.h"
+#include "hosts/viewer/files/row_export.h"
+#include "hosts/viewer/find/find_bar.h"
 #include "hosts/viewer/histogram/time_strip.h"
 #include "hosts/viewer/window/filter_bar.h"
 
 #include <QActionGroup>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
@@ -32,7 +36,10 @@ const QString geometryKey = QStringLiteral("window/geometry");
 const QString splitterKey = QStringLiteral("window/splitter");
 const QString valuesKey = QStringLiteral("window/values");
 constexpr QSize firstSize(1180, 720);
+const QString rowsKey = QStringLiteral("window/rows");
+const QString detailsKey = QStringLiteral("window/details");
 constexpr int firstPaneWidth = 210;
+constexpr int firstDetailsHeight = 150;
 constexpr int progressSteps = 1000;
 constexpr int mostFailures = 5; ///< that the notice names
 
@@ -48,7 +55,8 @@ QStringList pathsOf(const QMimeData& dragged)
 } // namespace
 
 MainWindow::MainWindow(QSettings& settings, QWidget* parent)
-    : QMainWindow(parent), settings_(settings)
+    : QMainWindow(parent), settings_(settings),
+      savedFilters_(QFileInfo(settings.fileName()).absolutePath() + QStringLiteral("/filters"))
 {
     setWindowTitle(QStringLiteral("Orvan Diagnostic Viewer"));
     setAcceptDrops(true);
@@ -90,9 +98,23 @@ void MainWindow::makePanes()
     times_ = new TimeStrip(document_, right);
     filterBar_ = new FilterBar(document_, right);
     table_ = new RowTable(*model_, settings_, right);
+    highlights_ = new Highlights(this);
+    table_->setHighlights(*highlights_);
+    findBar_ = new FindBar(document_, *highlights_, right);
+    details_ = new DetailsPane(document_, right);
+    rowsAndDetails_ = new QSplitter(Qt::Vertical, right);
+    rowsAndDetails_->setObjectName(QStringLiteral("rowsAndDetails"));
+    rowsAndDetails_->setChildrenCollapsible(false);
+    rowsAndDetails_->addWidget(table_);
+    rowsAndDetails_->addWidget(details_);
+    rowsAndDetails_->setStretchFactor(0, 1);
+    rowsAndDetails_->setSizes({firstSize.height(), firstDetailsHeight});
+    rowsAndDetails_->restoreState(settings_.value(rowsKey).toByteArray());
+    details_->setVisible(settings_.value(detailsKey, true).toBool());
     rows->addWidget(times_);
     rows->addWidget(filterBar_);
-    rows->addWidget(table_, 1);
+    rows->addWidget(findBar_);
+    rows->addWidget(rowsAndDetails_, 1);
     splitter_->addWidget(facets_);
     splitter_->addWidget(right);
     splitter_->setStretchFactor(1, 1);
@@ -127,7 +149,21 @@ void MainWindow::connectParts()
     connect(&document_, &Document::noted, this,
             [this](const QString& sentence) { statusBar()->showMessage(sentence, 8000); });
     connect(&document_, &Document::filterChanged, this, &MainWindow::updateActions);
-    connect(table_, &RowTable::currentPlaceChanged, this, &MainWindow::updateStatus);
+    connect(table_, &RowTable::currentPlaceChanged, this, &MainWindow::currentChanged);
+    connect(findBar_, &FindBar::next, this, [this] { goToHit(Direction::down); });
+    connect(findBar_, &FindBar::previous, this, [this] { goToHit(Direction::up); });
+    connect(findBar_, &FindBar::closed, this, &MainWindow::endFind);
+    connect(&document_, &Document::hitsChanged, this,
+            [this] { findBar_->showHits(table_->currentPlace()); });
+    connect(&document_, &Document::levelFound, this, [this](std::optional<std::size_t> place) {
+        if (place)
+            table_->goTo(*place);
+        else
+            statusBar()->showMessage(tr("There is no further one"), 4000);
+    });
+    connect(&document_, &Document::viewAboutToChange, this, [this] {
+        if (export_ != nullptr) export_->cancel();
+    });
     connect(filterBar_, &FilterBar::left, table_, qOverload<>(&QWidget::setFocus));
     connect(times_, &TimeStrip::momentAsked, this,
             [this](timeline::Moment moment) { table_->goTo(document_.placeFrom(moment)); });
@@ -137,6 +173,13 @@ void MainWindow::connectParts()
 QString MainWindow::notice() const
 {
     return notice_->sentence();
+}
+
+void MainWindow::currentChanged()
+{
+    details_->show(details_->isHidden() ? std::nullopt : table_->currentPlace());
+    if (!findBar_->isHidden()) findBar_->showHits(table_->currentPlace());
+    updateStatus();
 }
 
 std::optional<timeline::Moment> MainWindow::currentMoment()
@@ -164,7 +207,11 @@ void MainWindow::updateStatus()
     const Document::State state = document_.state();
     const QLocale locale;
     QString text;
-    if (state.busy)
+    if (export_ != nullptr)
+        text = tr("Writing: %1 of %2 rows")
+                   .arg(locale.toString(static_cast<qulonglong>(export_->written())),
+                        locale.toString(static_cast<qulonglong>(document_.rowCount())));
+    else if (state.busy)
         text =
             tr("Reading: %1 rows so far").arg(locale.toString(static_cast<qulonglong>(state.rows)));
     else if (document_.hasSources())
@@ -189,14 +236,20 @@ void MainWindow::updateActions()
 {
     const bool rows = document_.rowCount() > 0;
     const bool current = table_->currentPlace().has_value();
-    action(Command::stop).setEnabled(document_.state().busy);
+    action(Command::stop).setEnabled(document_.state().busy || export_ != nullptr);
     for (const Command command : {Command::copy, Command::copyCsv, Command::copyRaw})
         action(command).setEnabled(current);
     action(Command::selectAll).setEnabled(rows);
     action(Command::markTime).setEnabled(current);
     action(Command::showAll).setEnabled(!document_.filter().passesAll());
+    action(Command::saveFilter).setEnabled(!document_.filter().passesAll());
+    action(Command::macroTraces).setEnabled(!document_.macroTraces().empty());
     action(Command::allTimes).setEnabled(document_.filter().since || document_.filter().until);
     action(Command::values).setChecked(!facets_->isHidden());
+    action(Command::details).setChecked(!details_->isHidden());
+    action(Command::exportRows).setEnabled(rows && export_ == nullptr);
+    action(Command::copyValue).setEnabled(current && !details_->isHidden());
+    for (QAction* made : menus_[CommandMenu::go]->actions()) made->setEnabled(rows);
     for (const Command command :
          {Command::filter, Command::narrowTimes, Command::widenTimes, Command::otherPane})
         action(command).setEnabled(document_.hasSources());
@@ -219,6 +272,8 @@ void MainWindow::closeEvent(QCloseEvent* event)
     settings_.setValue(geometryKey, saveGeometry());
     settings_.setValue(splitterKey, splitter_->saveState());
     settings_.setValue(valuesKey, !facets_->isHidden());
+    settings_.setValue(rowsKey, rowsAndDetails_->saveState());
+    settings_.setValue(detailsKey, !details_->isHidden());
     document_.cancel();
     QMainWindow::closeEvent(event);
 }

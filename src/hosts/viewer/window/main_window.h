@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hosts/viewer/document/document.h"
+#include "hosts/viewer/files/saved_filters.h"
 #include "hosts/viewer/table/row_copy.h"
 #include "hosts/viewer/table/row_table.h"
 #include "hosts/viewer/window/commands.h"
@@ -22,8 +23,12 @@ class QToolBar;
 
 namespace viewer {
 
+class DetailsPane;
 class FacetPane;
 class FilterBar;
+class FindBar;
+class Highlights;
+class RowExport;
 class TimeStrip;
 
 /// The viewer's window: the rows of all opened sources, and what is done with them.
@@ -39,11 +44,27 @@ public:
     RowModel& model() { return *model_; }
     RowTable& table() { return *table_; }
     FacetPane& facets() { return *facets_; }
+    FindBar& findBar() { return *findBar_; }
+    DetailsPane& details() { return *details_; }
     FilterBar& filterBar() { return *filterBar_; }
     TimeStrip& timeStrip() { return *times_; }
 
     /// The notice on show; the empty text for none.
     QString notice() const;
+
+    /// Writes the rows on show to a file, in the form that its name's ending asks for.
+    void exportTo(const QString& file);
+
+    /// Goes to the first row on show at a time or later, as a person types it. False where it is
+    /// no time.
+    bool goToTime(const QString& time);
+
+    /// Shows what a macro trace of the opened databases turned on; all traces for an empty name.
+    void showMacroTrace(const QString& name);
+
+    /// Saves the filter by a name; takes the one in a file. The notice says why where that fails.
+    void saveFilter(const QString& name);
+    void takeFilter(const QString& file);
 
     /// Does what a command does, if it can be done now.
     void run(Command command);
@@ -61,7 +82,20 @@ private:
     void makeStatusBar();
     void connectParts();
     void perform(Command command);
+    void performGo(Command command);
     void performFilter(Command command);
+    void goToHit(Direction direction);
+    void goToLevel(Direction direction, std::int8_t level);
+    void performSaved(Command command);
+    void offerMacroTraces();
+    void offerSavedFilters();
+    void askForFilterName();
+    void askForFilterFile();
+    void askForTime();
+    void askForExport();
+    void endExport(bool done);
+    void endFind();
+    void currentChanged();
     void narrowToCurrent(timeline::Column column, bool hide);
     void zoomTimes(bool in);
     void changeFilter(const std::function<void(RowFilter&)>& changing);
@@ -87,14 +121,20 @@ private:
     RowTable* table_ = nullptr;
     FacetPane* facets_ = nullptr;
     FilterBar* filterBar_ = nullptr;
+    FindBar* findBar_ = nullptr;
+    DetailsPane* details_ = nullptr;
+    Highlights* highlights_ = nullptr;
+    RowExport* export_ = nullptr; ///< that is being written; null for none
     TimeStrip* times_ = nullptr;
     QSplitter* splitter_ = nullptr;
+    QSplitter* rowsAndDetails_ = nullptr;
     NoticeBar* notice_ = nullptr;
     QStackedWidget* pages_ = nullptr;
     QLabel* empty_ = nullptr;
     ElidedLabel* status_ = nullptr;
     QProgressBar* progress_ = nullptr;
     QToolBar* toolBar_ = nullptr;
+    SavedFilters savedFilters_;
     QStringList failures_;
     int textStep_ = 0; ///< from the usual size of letters
     std::map<Command, QAction*> actions_;

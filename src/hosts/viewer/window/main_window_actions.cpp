@@ -1,16 +1,22 @@
 #include "hosts/common/look/icons.h"
 #include "hosts/common/look/path_dialog.h"
 #include "hosts/common/look/theme.h"
+#include "hosts/viewer/details/details_pane.h"
 #include "hosts/viewer/facets/facet_pane.h"
+#include "hosts/viewer/files/row_export.h"
+#include "hosts/viewer/find/find_bar.h"
 #include "hosts/viewer/histogram/time_strip.h"
 #include "hosts/viewer/window/filter_bar.h"
 #include "hosts/viewer/window/main_window.h"
+#include "runtime/run_time_error.h"
+#include "timeline/filter/time_text.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
@@ -23,6 +29,7 @@
 #include <QTreeWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace viewer {
 
@@ -67,8 +74,8 @@ void MainWindow::makeToolBar()
     toolBar_->setObjectName(QStringLiteral("toolBar"));
     toolBar_->setMovable(false);
     toolBar_->setIconSize({20, 20});
-    for (const Command command :
-         {Command::openFiles, Command::openFolder, Command::copy, Command::filter})
+    for (const Command command : {Command::openFiles, Command::openFolder, Command::copy,
+                                  Command::find, Command::filter, Command::nextError})
         toolBar_->addAction(actions_[command]);
 }
 
@@ -103,7 +110,10 @@ void MainWindow::perform(Command command)
         return openFiles();
     case Command::openFolder:
         return openFolder();
+    case Command::exportRows:
+        return askForExport();
     case Command::stop:
+        if (export_ != nullptr) export_->cancel();
         return document_.cancel();
     case Command::quit:
         close();
@@ -114,6 +124,8 @@ void MainWindow::perform(Command command)
         return copy(CopyForm::raw);
     case Command::copyCsv:
         return copy(CopyForm::csv);
+    case Command::copyValue:
+        return QApplication::clipboard()->setText(details_->value());
     case Command::selectAll:
         return table_->selectAll();
     case Command::columns:
@@ -143,6 +155,9 @@ void MainWindow::perform(Command command)
     case Command::values:
         facets_->setVisible(facets_->isHidden());
         return updateActions();
+    case Command::details:
+        details_->setVisible(details_->isHidden());
+        return currentChanged();
     case Command::otherPane:
         return (table_->hasFocus() && facets_->isVisible() ? static_cast<QWidget*>(&facets_->tree())
                                                            : table_)
@@ -171,6 +186,9 @@ void MainWindow::performFilter(Command command)
     };
     if (const auto asked = byColumn.find(command); asked != byColumn.end())
         return narrowToCurrent(asked->second.first, asked->second.second);
+    if (command != Command::filter && command != Command::showAll && command != Command::allTimes &&
+        command != Command::narrowTimes && command != Command::widenTimes)
+        return performGo(command);
     if (command == Command::filter) {
         filterBar_->with().setFocus(Qt::ShortcutFocusReason);
         filterBar_->with().selectAll();
@@ -179,6 +197,123 @@ void MainWindow::performFilter(Command command)
     if (command == Command::allTimes) times_->showAllTimes();
     if (command == Command::narrowTimes) zoomTimes(true);
     if (command == Command::widenTimes) zoomTimes(false);
+}
+
+/// Does what commands of the menu that goes to rows do.
+void MainWindow::performGo(Command command)
+{
+    switch (command) {
+    case Command::find:
+        return findBar_->start();
+    case Command::findNext:
+        return goToHit(Direction::down);
+    case Command::findPrevious:
+        return goToHit(Direction::up);
+    case Command::keepMark:
+        return findBar_->keep();
+    case Command::nextError:
+        return goToLevel(Direction::down, 0);
+    case Command::previousError:
+        return goToLevel(Direction::up, 0);
+    case Command::nextWarning:
+        return goToLevel(Direction::down, 1);
+    case Command::previousWarning:
+        return goToLevel(Direction::up, 1);
+    case Command::goToTime:
+        return askForTime();
+    default:
+        return performSaved(command);
+    }
+}
+
+/// Goes to the next hit that is known, and on from the other end.
+void MainWindow::goToHit(Direction direction)
+{
+    if (findBar_->isHidden()) return findBar_->start();
+    const Hits* hits = document_.hits();
+    if (hits == nullptr || hits->rows.count() == 0) return;
+    const auto place = table_->currentPlace();
+    const std::size_t last = hits->rows.at(hits->rows.count() - 1);
+    if (direction == Direction::down)
+        table_->goTo(hits->rows.nextFrom(place ? *place + 1 : 0).value_or(hits->rows.at(0)));
+    else
+        table_->goTo(hits->rows.lastBefore(place.value_or(0)).value_or(last));
+}
+
+void MainWindow::goToLevel(Direction direction, std::int8_t level)
+{
+    const auto place = table_->currentPlace();
+    // Without a current row the first one counts as well.
+    const std::size_t before = static_cast<std::size_t>(-1);
+    document_.findLevel(place.value_or(direction == Direction::down ? before : 0), direction,
+                        level);
+}
+
+void MainWindow::endFind()
+{
+    findBar_->hide();
+    highlights_->setFound({});
+    document_.find({});
+    table_->setFocus();
+}
+
+bool MainWindow::goToTime(const QString& time)
+{
+    try {
+        const timeline::TimeText typed(time.toStdString());
+        const timeline::Moment day =
+            currentMoment().value_or(times_->span() ? times_->span()->first : 0);
+        const std::size_t place = document_.placeFrom(typed.moment(timeline::FrameEnd::since, day));
+        if (document_.rowCount() > 0) table_->goTo(std::min(place, document_.rowCount() - 1));
+        return true;
+    } catch (const RunTimeError& error) {
+        statusBar()->showMessage(QString::fromStdString(error.description()), 6000);
+        return false;
+    }
+}
+
+void MainWindow::askForTime()
+{
+    bool taken = false;
+    const QString time = QInputDialog::getText(
+        this, tr("Go to Time"), tr("Time, such as 15:23:07:"), QLineEdit::Normal, {}, &taken);
+    if (taken) goToTime(time);
+}
+
+void MainWindow::askForExport()
+{
+    QFileDialog dialog(this, tr("Export"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters({tr("Comma-separated text (*.csv)"),
+                           tr("JSON, an object a line (*.json)"), tr("Text (*.txt)")});
+    dialog.setDefaultSuffix(QStringLiteral("csv"));
+    if (dialog.exec() == QDialog::Accepted) exportTo(dialog.selectedFiles().value(0));
+}
+
+void MainWindow::exportTo(const QString& file)
+{
+    if (export_ != nullptr) return;
+    export_ = new RowExport(*model_, table_->shownColumns(), file, this);
+    connect(export_, &RowExport::went, this, &MainWindow::updateStatus);
+    connect(export_, &RowExport::ended, this, &MainWindow::endExport);
+    if (!export_->start()) endExport(false);
+    updateStatus();
+}
+
+void MainWindow::endExport(bool done)
+{
+    RowExport* ended = std::exchange(export_, nullptr);
+    const QString problem = ended->problem();
+    const std::size_t rows = ended->written();
+    ended->deleteLater();
+    if (!problem.isEmpty())
+        sayFailure(problem);
+    else
+        statusBar()->showMessage(
+            done ? tr("%1 rows written").arg(QLocale().toString(static_cast<qulonglong>(rows)))
+                 : tr("The export was given up, and left no file"),
+            6000);
+    updateStatus();
 }
 
 void MainWindow::changeFilter(const std::function<void(RowFilter&)>& changing)

@@ -1,16 +1,26 @@
 #include "hosts/viewer/window/main_window.h"
 
+#include "hosts/viewer/details/details_pane.h"
+#include "hosts/viewer/facets/facet_pane.h"
+#include "hosts/viewer/find/find_bar.h"
+#include "hosts/viewer/histogram/time_strip.h"
 #include "hosts/viewer/support/test_logs.h"
+#include "hosts/viewer/window/filter_bar.h"
 #include "support/windows/test_application.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QDropEvent>
+#include <QFile>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QSettings>
 #include <QTest>
+#include <QTreeWidget>
 
 #include <gmock/gmock.h>
 
@@ -94,6 +104,140 @@ TEST_F(ViewerWindow, MarksARowThatTimesAreToldFrom)
     EXPECT_TRUE(window.action(Command::timesSinceMark).isChecked());
     window.run(Command::clockTimes);
     EXPECT_EQ("2025-02-20 00:00:00.000", window.model().text(0, RowColumn::time));
+}
+
+TEST_F(ViewerWindow, AValueIsHiddenAndShownByItsBox)
+{
+    open({logs.write("KoCSMgr", rawLine(1000, "A", 3, "a") + rawLine(2000, "B", 1, "b") +
+                                    rawLine(3000, "A", 0, "c"))});
+    FacetPane& facets = window.facets();
+    ASSERT_TRUE(
+        waitUntil([&] { return facets.item(timeline::Column::component, "A") != nullptr; }));
+    QTreeWidgetItem* a = facets.item(timeline::Column::component, "A");
+    EXPECT_EQ("2", a->text(1));
+    a->setCheckState(0, Qt::Unchecked);
+    ASSERT_TRUE(waitForRows(window.document()));
+    EXPECT_EQ(1, window.model().rowCount());
+    EXPECT_TRUE(window.filterBar().said().contains("component is not A"));
+    window.run(Command::showAll);
+    ASSERT_TRUE(waitForRows(window.document()));
+    EXPECT_EQ(3, window.model().rowCount());
+    EXPECT_EQ(Qt::Checked, facets.item(timeline::Column::component, "A")->checkState(0));
+}
+
+TEST_F(ViewerWindow, ShowsTheCurrentRowsComponentAloneAndKeepsTheRow)
+{
+    open({logs.write("KoCSMgr", rawLine(1000, "A", 3, "a") + rawLine(2000, "B", 1, "b") +
+                                    rawLine(3000, "A", 0, "c"))});
+    window.table().goTo(2);
+    window.run(Command::onlyComponent);
+    ASSERT_TRUE(waitForRows(window.document()));
+    EXPECT_EQ(2, window.model().rowCount());
+    EXPECT_EQ(1u, window.table().currentPlace());
+    window.run(Command::hideLevel);
+    ASSERT_TRUE(waitForRows(window.document()));
+    EXPECT_EQ(1, window.model().rowCount());
+    EXPECT_EQ("a", window.model().text(0, RowColumn::trace));
+}
+
+TEST_F(ViewerWindow, ATextThatIsTypedNarrowsTheRows)
+{
+    open({logs.writeRows("KoCSMgr", 100, 0, 1000)});
+    window.run(Command::filter);
+    window.filterBar().with().setText("row 9");
+    ASSERT_TRUE(waitUntil([&] { return window.model().rowCount() == 11; }));
+    window.filterBar().expression().setChecked(true);
+    window.filterBar().with().setText("(");
+    ASSERT_TRUE(waitUntil([&] { return window.filterBar().said().contains("("); }));
+    EXPECT_EQ(11, window.model().rowCount()) << "the filter of before stays";
+    window.filterBar().with().setText("row 9$");
+    ASSERT_TRUE(waitUntil([&] { return window.model().rowCount() == 1; }));
+}
+
+TEST_F(ViewerWindow, ADragOverTheTimesNarrowsThemAndADoubleClickTakesAll)
+{
+    open({logs.writeRows("KoCSMgr", 1000, 0, 1000)});
+    TimeStrip& times = window.timeStrip();
+    ASSERT_TRUE(waitUntil([&] { return times.span().has_value(); }));
+    const timeline::Moment day = timeline::dayOf(2025, 2, 20);
+    const QPoint from(times.xOf(day + 200'000), 20);
+    const QPoint to(times.xOf(day + 400'000), 20);
+    QTest::mousePress(&times, Qt::LeftButton, {}, from);
+    QTest::mouseMove(&times, to);
+    QTest::mouseRelease(&times, Qt::LeftButton, {}, to);
+    ASSERT_TRUE(waitForRows(window.document()));
+    EXPECT_NEAR(200, window.model().rowCount(), 6);
+    QTest::mouseDClick(&times, Qt::LeftButton, {}, from);
+    ASSERT_TRUE(waitForRows(window.document()));
+    EXPECT_EQ(1000, window.model().rowCount());
+}
+
+TEST_F(ViewerWindow, FindsHitsAndErrorsByKey)
+{
+    open({logs.writeRows("KoCSMgr", 100, 0, 1000)});
+    window.run(Command::nextError);
+    ASSERT_TRUE(waitUntil([&] { return window.table().currentPlace() == 0u; }));
+    window.run(Command::nextError);
+    ASSERT_TRUE(waitUntil([&] { return window.table().currentPlace() == 20u; }));
+    window.run(Command::find);
+    window.findBar().text().setText("row 3");
+    ASSERT_TRUE(waitUntil([&] { return window.findBar().said() == "11 hits"; }));
+    window.run(Command::findNext);
+    EXPECT_EQ(30u, window.table().currentPlace());
+    EXPECT_EQ("2 of 11", window.findBar().said());
+    window.run(Command::findPrevious);
+    window.run(Command::findPrevious);
+    EXPECT_EQ(39u, window.table().currentPlace()) << "on from the other end";
+}
+
+TEST_F(ViewerWindow, SavesAFilterByAName)
+{
+    open({logs.writeRows("KoCSMgr", 100, 0, 1000)});
+    EXPECT_FALSE(window.action(Command::saveFilter).isEnabled());
+    window.table().goTo(0);
+    window.run(Command::onlyLevel);
+    ASSERT_TRUE(waitForRows(window.document()));
+    ASSERT_EQ(5, window.model().rowCount());
+    window.saveFilter("errors");
+    window.run(Command::showAll);
+    window.takeFilter(logs.folder() + "/filters/errors.json");
+    ASSERT_TRUE(waitForRows(window.document()));
+    EXPECT_EQ(5, window.model().rowCount());
+    EXPECT_EQ("", window.notice());
+    window.saveFilter("../errors");
+    EXPECT_TRUE(window.notice().contains("can't be the name of a filter"));
+}
+
+TEST_F(ViewerWindow, GoesToATime)
+{
+    open({logs.writeRows("KoCSMgr", 100, 0, 1000)});
+    EXPECT_TRUE(window.goToTime("00:00:42"));
+    EXPECT_EQ(42u, window.table().currentPlace());
+    EXPECT_FALSE(window.goToTime("soon"));
+}
+
+TEST_F(ViewerWindow, ShowsAllOfTheCurrentRow)
+{
+    open({logs.write("KoCSMgr", rawLine(1000, "CallFlow", 3, "a trace"))});
+    window.table().goTo(0);
+    EXPECT_EQ("a trace", window.details().trace().toPlainText());
+    EXPECT_EQ("a trace", window.details().value());
+    const auto fields = window.details().fields().findItems("CallFlow", Qt::MatchExactly, 1);
+    ASSERT_EQ(1, fields.size());
+    EXPECT_EQ("Component", fields.front()->text(0));
+}
+
+TEST_F(ViewerWindow, WritesTheRowsOnShowToAFile)
+{
+    open({logs.writeRows("KoCSMgr", 100, 0, 1000)});
+    const QString path = logs.folder() + "/rows.csv";
+    window.exportTo(path);
+    ASSERT_TRUE(waitUntil([&] { return QFile::exists(path); }));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(101, file.readAll().count('\n'));
+    window.exportTo(logs.folder() + "/none/rows.csv");
+    EXPECT_TRUE(window.notice().contains("can't be written"));
 }
 
 } // namespace

@@ -1,0 +1,91 @@
+#include "hosts/viewer/details/details_pane.h"
+
+#include "hosts/common/look/interface_language.h"
+#include "hosts/common/look/theme.h"
+#include "hosts/viewer/table/row_column.h"
+#include "hosts/viewer/table/time_text.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QPlainTextEdit>
+#include <QSplitter>
+#include <QTreeWidget>
+
+namespace viewer {
+
+namespace {
+
+constexpr int fieldsWidth = 320;
+constexpr int traceWidth = 600;
+
+} // namespace
+
+DetailsPane::DetailsPane(Document& document, QWidget* parent) : QWidget(parent), document_(document)
+{
+    auto* splitter = new QSplitter(this);
+    fields_ = new QTreeWidget(splitter);
+    fields_->setColumnCount(2);
+    fields_->setHeaderHidden(true);
+    fields_->setRootIsDecorated(false);
+    fields_->setUniformRowHeights(true);
+    fields_->setFrameShape(QFrame::NoFrame);
+    fields_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    trace_ = new QPlainTextEdit(splitter);
+    trace_->setReadOnly(true);
+    trace_->setFrameShape(QFrame::NoFrame);
+    trace_->setFont(theme::traceFont());
+    trace_->setTabChangesFocus(true);
+    splitter->addWidget(fields_);
+    splitter->addWidget(trace_);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({fieldsWidth, traceWidth});
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(splitter);
+    showInLanguage(this, [this] { showTexts(); });
+}
+
+void DetailsPane::showTexts()
+{
+    fields_->setAccessibleName(tr("Fields of the row"));
+    trace_->setAccessibleName(tr("Trace of the row"));
+    trace_->setPlaceholderText(tr("Select a row to read all of it here."));
+    show(place_);
+}
+
+void DetailsPane::show(std::optional<std::size_t> place)
+{
+    place_ = place;
+    fields_->clear();
+    trace_->clear();
+    if (!place || *place >= document_.rowCount()) return;
+    const ShownRow row = document_.row(*place);
+    const auto add = [this](RowColumn column, const QString& value) {
+        if (!value.isEmpty()) new QTreeWidgetItem(fields_, {RowColumns::title(column), value});
+    };
+    add(RowColumn::time, clockText(row.index.moment));
+    add(RowColumn::process, row.process);
+    add(RowColumn::source, row.source);
+    add(RowColumn::component, row.component);
+    if (row.hasForm) {
+        add(RowColumn::level, QString::number(row.level));
+        add(RowColumn::number, QString::number(row.traceNumber));
+    }
+    add(RowColumn::thread, row.thread);
+    add(RowColumn::port, row.port);
+    add(RowColumn::callId, row.callId);
+    add(RowColumn::file, row.file);
+    add(RowColumn::line, QString::number(row.index.line));
+    trace_->setPlainText(document_.wholeTrace(*place));
+}
+
+QString DetailsPane::value() const
+{
+    const QTreeWidgetItem* field = fields_->currentItem();
+    if (fields_->hasFocus() && field != nullptr) return field->text(1);
+    const QString selected = trace_->textCursor().selectedText();
+    if (!selected.isEmpty()) return QString(selected).replace(QChar(0x2029), QLatin1Char('\n'));
+    return trace_->toPlainText();
+}
+
+} // namespace viewer

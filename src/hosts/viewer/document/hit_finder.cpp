@@ -1,0 +1,122 @@
+#include "hosts/viewer/document/hit_finder.h"
+
+#include "hosts/viewer/document/place_walk.h"
+#include "hosts/viewer/document/row_line.h"
+#include "runtime/run_time_error.h"
+
+#include <chrono>
+#include <map>
+#include <utility>
+
+namespace viewer {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using timeline::IndexRow;
+using timeline::Timeline;
+
+constexpr std::size_t rowsBetweenLooks = 16; ///< at the clock
+constexpr std::chrono::milliseconds stepLength{2};
+constexpr std::chrono::milliseconds firstPart{50}; ///< of hits that take longer
+
+/// Looks at the rows on show from the first to the last.
+class Looking {
+public:
+    Looking(std::shared_ptr<const View> view, std::shared_ptr<const timeline::TextPattern> pattern)
+        : view_(std::move(view)), pattern_(std::move(pattern)), walk_(*view_, 0)
+    {}
+
+    /// Goes on until a moment; true at the end.
+    bool look(const Timeline& timeline, Clock::time_point until, RowSet& hits)
+    {
+        for (std::size_t looked = 1; hits.size() < view_->size(); ++looked) {
+            hits.append(hit(timeline, walk_.next(timeline)));
+            if (looked % rowsBetweenLooks == 0 && Clock::now() >= until) return false;
+        }
+        return true;
+    }
+
+private:
+    bool hit(const Timeline& timeline, const IndexRow& row)
+    {
+        try {
+            timeline.record(row, record_);
+        } catch (const RunTimeError&) {
+            return false; // the row itself tells why
+        }
+        auto& search = searches_[record_.codePage];
+        if (!search) search = pattern_->searchIn(record_.codePage);
+        return anyLineOf(record_, room_,
+                         [&](std::string_view line) { return search->occursIn(line); });
+    }
+
+    std::shared_ptr<const View> view_;
+    std::shared_ptr<const timeline::TextPattern> pattern_;
+    PlaceWalk walk_;
+    timeline::Record record_;
+    std::string room_;
+    std::map<const CodePage*, std::unique_ptr<timeline::PatternSearch>> searches_;
+};
+
+} // namespace
+
+HitFinder::HitFinder(SharedTimeline& timeline, Told told)
+    : timeline_(timeline), told_(std::move(told)),
+      thread_([this](const std::stop_token& stop) { run(stop); })
+{}
+
+HitFinder::~HitFinder() = default;
+
+void HitFinder::find(Wish wish)
+{
+    const std::lock_guard lock(asking_);
+    wish_ = std::move(wish);
+    asked_.notify_all();
+}
+
+bool HitFinder::isGivenUp(const std::stop_token& stop) const
+{
+    if (stop.stop_requested()) return true;
+    const std::lock_guard lock(asking_);
+    return wish_.has_value();
+}
+
+void HitFinder::run(const std::stop_token& stop)
+{
+    for (;;) {
+        Wish wish;
+        {
+            std::unique_lock lock(asking_);
+            if (!asked_.wait(lock, stop, [this] { return wish_.has_value(); })) return;
+            wish = *std::exchange(wish_, std::nullopt);
+        }
+        if (stop.stop_requested()) return;
+        answer(wish, stop);
+    }
+}
+
+void HitFinder::answer(const Wish& wish, const std::stop_token& stop)
+{
+    Hits hits;
+    hits.number = wish.number;
+    std::unique_ptr<Looking> looking;
+    if (wish.pattern && wish.view->order)
+        looking = std::make_unique<Looking>(wish.view, wish.pattern);
+    auto partLength = firstPart;
+    auto nextPart = Clock::now() + partLength;
+    while (looking && !hits.complete) {
+        if (isGivenUp(stop)) return;
+        timeline_.work([&](const Timeline& rows) {
+            hits.complete = looking->look(rows, Clock::now() + stepLength, hits.rows);
+        });
+        if (hits.complete || Clock::now() < nextPart) continue;
+        told_(std::make_shared<Hits>(hits));
+        partLength *= 2;
+        nextPart = Clock::now() + partLength;
+    }
+    hits.complete = true;
+    told_(std::make_shared<Hits>(std::move(hits)));
+}
+
+} // namespace viewer

@@ -1,0 +1,74 @@
+#include "hosts/viewer/files/saved_filters.h"
+
+#include "runtime/run_time_error.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QSaveFile>
+
+#include <algorithm>
+
+namespace viewer {
+
+namespace {
+
+const QString ending = QStringLiteral(".json");
+constexpr qint64 largestFile = 1'000'000;
+
+bool canBeOfAFile(const QString& name)
+{
+    static const QString none = QStringLiteral("/\\:*?\"<>|");
+    return !name.isEmpty() && !name.startsWith(QLatin1Char('.')) &&
+           std::none_of(name.begin(), name.end(), [](QChar letter) {
+               return letter < QLatin1Char(' ') || none.contains(letter);
+           });
+}
+
+} // namespace
+
+QString SavedFilters::fileOf(const QString& name) const
+{
+    return folder_ + QLatin1Char('/') + name + ending;
+}
+
+QStringList SavedFilters::names() const
+{
+    QStringList names;
+    for (const QString& file :
+         QDir(folder_).entryList({QLatin1Char('*') + ending}, QDir::Files, QDir::Name))
+        names << file.chopped(ending.size());
+    return names;
+}
+
+void SavedFilters::save(const QString& name, const RowFilter& filter) const
+{
+    if (!canBeOfAFile(name))
+        throw RunTimeError(runTimeErrors::invalidCall,
+                           "\"" + name.toStdString() + "\" can't be the name of a filter");
+    QDir().mkpath(folder_);
+    QSaveFile file(fileOf(name));
+    const QByteArray text = QJsonDocument(filter.toJson()).toJson();
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+        throw RunTimeError(
+            runTimeErrors::pathFileAccess,
+            (file.fileName() + QStringLiteral(" can't be written: ") + file.errorString())
+                .toStdString());
+}
+
+RowFilter SavedFilters::read(const QString& name)
+{
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly))
+        throw RunTimeError(
+            runTimeErrors::fileNotFound,
+            (name + QStringLiteral(" can't be read: ") + file.errorString()).toStdString());
+    QJsonParseError error{};
+    const QJsonDocument json = QJsonDocument::fromJson(file.read(largestFile), &error);
+    if (!json.isObject())
+        throw RunTimeError(runTimeErrors::invalidCall,
+                           (name + QStringLiteral(" is no filter")).toStdString());
+    return RowFilter::ofJson(json.object());
+}
+
+} // namespace viewer

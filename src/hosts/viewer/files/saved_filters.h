@@ -1,0 +1,34 @@
+#pragma once
+
+#include "hosts/viewer/document/row_filter.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace viewer {
+
+/// Filters that a person has given names, a file of JSON each, which can be given to others.
+class SavedFilters {
+public:
+    /// `folder` is made when the first one is saved.
+    explicit SavedFilters(QString folder) : folder_(std::move(folder)) {}
+
+    /// In the order of their letters.
+    QStringList names() const;
+
+    /// The file of a name, whether it is there or not.
+    QString fileOf(const QString& name) const;
+
+    /// Saves a filter, in the place of one of the same name. Raises 5 for a name that can't be one
+    /// of a file, 75 for a file that can't be written.
+    void save(const QString& name, const RowFilter& filter) const;
+
+    /// The filter in a file. Raises 53 where there is none, 5 with a sentence for a file that is
+    /// none.
+    static RowFilter read(const QString& file);
+
+private:
+    QString folder_;
+};
+
+} // namespace viewer

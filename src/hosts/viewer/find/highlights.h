@@ -1,0 +1,70 @@
+#pragma once
+
+#include "hosts/viewer/document/row_filter.h"
+
+#include <QColor>
+#include <QObject>
+#include <QPalette>
+#include <QRegularExpression>
+#include <QString>
+
+#include <vector>
+
+namespace viewer {
+
+/// The texts that are marked in the rows, each by a colour of its own: the one that is looked for,
+/// and those that a person keeps beside it.
+class Highlights final : public QObject {
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    /// How many can be kept, which is how many colours there are.
+    static constexpr std::size_t most = 6;
+
+    /// The text that is looked for; an empty one for none. An expression that Qt does not take is
+    /// not marked.
+    void setFound(const TextCondition& text);
+
+    /// Keeps a text in the first colour that is free; false when none is, or it is kept already.
+    bool keep(const TextCondition& text);
+
+    /// Lets one go, by its colour.
+    void letGo(std::size_t colour);
+
+    struct Kept {
+        TextCondition text;
+        std::size_t colour = 0; ///< less than `most`
+    };
+    const std::vector<Kept>& kept() const { return kept_; }
+
+    /// A part of a text that is marked, and its colour; `most` for the text that is looked for.
+    struct Mark {
+        qsizetype begin = 0;
+        qsizetype length = 0;
+        std::size_t colour = 0;
+    };
+
+    /// The marks in a text, those that are drawn above others behind them.
+    std::vector<Mark> marksIn(const QString& text) const;
+
+    /// The ground of a colour of marks.
+    static QColor ground(std::size_t colour, const QPalette& palette);
+
+signals:
+    void changed();
+
+private:
+    struct Search {
+        QRegularExpression expression;
+        std::size_t colour = 0;
+    };
+    void renew();
+
+    TextCondition found_;
+    std::vector<Kept> kept_;
+    std::vector<Search> searches_;
+};
+
+} // namespace viewer
