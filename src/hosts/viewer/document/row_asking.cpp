@@ -4,6 +4,7 @@
 #include "runtime/run_time_error.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace viewer {
 
@@ -22,13 +23,19 @@ constexpr std::size_t mostBuckets = 400;
 
 enum Facet : std::size_t { processFacet, componentFacet, sourceFacet, levelFacet };
 
-/// The parts of a choice, each as a filter of its own.
-Filter partOf(const Choice& choice, Column column)
+/// What a choice asks of each facet's column, as a filter of its own.
+std::array<Filter, facetColumns.size()> facetFiltersOf(Choice choice)
 {
-    Choice part;
-    for (const timeline::ColumnChoice& wanted : choice.columns)
-        if (wanted.column == column) part.columns.push_back(wanted);
-    return Filter(std::move(part));
+    std::array<Choice, facetColumns.size()> parts;
+    for (timeline::ColumnChoice& wanted : choice.columns)
+        if (const auto facet = std::find(facetColumns.begin(), facetColumns.end(), wanted.column);
+            facet != facetColumns.end())
+            parts[static_cast<std::size_t>(facet - facetColumns.begin())].columns.push_back(
+                std::move(wanted));
+    std::array<Filter, facetColumns.size()> filters;
+    for (std::size_t facet = 0; facet < parts.size(); ++facet)
+        filters[facet] = Filter(std::move(parts[facet]));
+    return filters;
 }
 
 Filter restOf(Choice choice)
@@ -117,13 +124,14 @@ RowAsking::RowAsking(const Timeline& timeline, std::shared_ptr<const RowOrder> o
       walk_(order_->from(timeline, 0)), rest_(restOf(choice)), macroTrace_(macroTraceOf(choice)),
       components_(timeline.sourceCount())
 {
+    auto filters = facetFiltersOf(std::move(choice));
     for (std::size_t facet = 0; facet < facets; ++facet)
-        values_[facet] =
-            std::make_unique<Values>(facetColumns[facet], partOf(choice, facetColumns[facet]));
+        values_[facet] = std::make_unique<Values>(facetColumns[facet], std::move(filters[facet]));
     for (auto* known : {&levels_, &processes_, &sources_}) known->fill(none);
     if (const auto span = order_->span(timeline)) {
-        const timeline::Moment first = std::max(span->first, choice.since.value_or(span->first));
-        const timeline::Moment last = std::min(span->second, choice.until.value_or(span->second));
+        const Choice& frame = rest_.choice();
+        const timeline::Moment first = std::max(span->first, frame.since.value_or(span->first));
+        const timeline::Moment last = std::min(span->second, frame.until.value_or(span->second));
         histogram_.emplace(first, std::max(first, last), mostBuckets);
     }
 }
