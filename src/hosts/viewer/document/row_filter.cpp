@@ -49,7 +49,7 @@ ColumnChoice columnOfJson(const QJsonObject& json)
     const auto column = timeline::columnOf(name.toStdString());
     if (!column) refuse(QStringLiteral("a filter asks for a column \"%1\"").arg(name));
     ColumnChoice choice{*column, {}, member(json, "excluded", QJsonValue::Bool).toBool()};
-    for (const QJsonValue& value : member(json, "values", QJsonValue::Array).toArray())
+    for (const auto& value : member(json, "values", QJsonValue::Array).toArray())
         choice.values.push_back(value.toString().toStdString());
     return choice;
 }
@@ -82,7 +82,7 @@ ComponentLevels levelsOfJson(const QJsonObject& json)
 {
     ComponentLevels component;
     component.component = member(json, "component", QJsonValue::String).toString().toStdString();
-    for (const QJsonValue& level : member(json, "levels", QJsonValue::Array).toArray())
+    for (const auto& level : member(json, "levels", QJsonValue::Array).toArray())
         component.levels.push_back(static_cast<std::int16_t>(level.toInt()));
     return component;
 }
@@ -201,15 +201,15 @@ QJsonObject RowFilter::toJson() const
 RowFilter RowFilter::ofJson(const QJsonObject& json)
 {
     RowFilter filter;
-    for (const QJsonValue& column : member(json, "columns", QJsonValue::Array).toArray())
+    for (const auto& column : member(json, "columns", QJsonValue::Array).toArray())
         filter.columns.push_back(columnOfJson(column.toObject()));
-    for (const QJsonValue& condition : member(json, "texts", QJsonValue::Array).toArray())
+    for (const auto& condition : member(json, "texts", QJsonValue::Array).toArray())
         if (auto read = textOfJson(condition.toObject()); !read.text.isEmpty())
             filter.texts.push_back(std::move(read));
     filter.since = momentOfJson(json, "since");
     filter.until = momentOfJson(json, "until");
     filter.macroTrace = member(json, "macroTrace", QJsonValue::String).toString();
-    for (const QJsonValue& component : member(json, "macroLevels", QJsonValue::Array).toArray())
+    for (const auto& component : member(json, "macroLevels", QJsonValue::Array).toArray())
         filter.macroLevels.push_back(levelsOfJson(component.toObject()));
     filter.choice();
     return filter;

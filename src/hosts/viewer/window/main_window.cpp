@@ -222,7 +222,7 @@ void MainWindow::updateStatus()
                       .arg(locale.toString(static_cast<qulonglong>(document_.rowCount())),
                            locale.toString(static_cast<qulonglong>(document_.allRows())));
     if (const auto place = table_->currentPlace(); place && document_.rowCount() > 0)
-        text += tr(", row %1").arg(locale.toString(static_cast<qulonglong>(*place + 1)));
+        text += tr(", row %1").arg(locale.toString(static_cast<qulonglong>(*place) + 1));
     status_->setText(text);
     times_->setCurrent(currentMoment());
     progress_->setVisible(state.busy);
