@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace timeline {
 
@@ -151,21 +152,25 @@ FirstLines lookAtLines(std::string_view head, const LogName& name)
     return first;
 }
 
-int midnightsIn(const FileDescriptor& file, LineForm form)
+FirstStamps readFirstStamps(const FileDescriptor& file, LineForm form)
 {
+    FirstStamps stamps;
     LineReader reader(file);
     DayCarry carry(Moment{0});
     FileLine line;
     LineFields fields;
     Stamp stamp;
     Moment first = noMoment;
-    while (reader.next(line)) {
+    while (!stamps.dated && reader.next(line)) {
         if (!cutLine(line.text, form, fields) || !readStamp(fields.timeStamp, stamp)) continue;
+        if (std::exchange(stamp.dated, false)) stamps.dated = stamp.day;
         carry.at(stamp);
         if (first == noMoment) first = carry.last();
     }
-    if (first == noMoment) return 0;
-    return static_cast<int>((dayOf(carry.last()) - dayOf(first)) / millisecondsPerDay);
+    if (first != noMoment)
+        stamps.midnights =
+            static_cast<int>((dayOf(carry.last()) - dayOf(first)) / millisecondsPerDay);
+    return stamps;
 }
 
 } // namespace timeline

@@ -32,7 +32,14 @@ struct FirstLines {
 /// Looks at the lines that a file begins with; of the last one a part may be missing.
 FirstLines lookAtLines(std::string_view head, const LogName& name);
 
-/// How often midnight passes in a log whose lines have a time of day alone. Raises 57, 7.
-int midnightsIn(const FileDescriptor& file, LineForm form);
+/// What the stamps of a log tell of the day of its first ones, which are a time of day alone.
+struct FirstStamps {
+    /// How often midnight passes up to the first stamp with a day; to the last one where none has.
+    int midnights = 0;
+    std::optional<Moment> dated; ///< the day of that stamp; nothing where none has one
+};
+
+/// Reads the stamps of a log up to the first that has a day. Raises 57, 7.
+FirstStamps readFirstStamps(const FileDescriptor& file, LineForm form);
 
 } // namespace timeline

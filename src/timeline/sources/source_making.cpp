@@ -91,6 +91,23 @@ std::unique_ptr<Source> SourceMaking::make(const Candidate& candidate) const
     raiseNone(shown);
 }
 
+/// Puts the first lines of a log, which have no day, in front of its first date, or else its last
+/// ones on the day when it was modified.
+void SourceMaking::guessFirstDay(const Candidate& candidate, LogFacts& facts)
+{
+    const KeptFile::Use use(*candidate.file);
+    const FirstStamps stamps = readFirstStamps(use.descriptor(), facts.source.form);
+    if (!stamps.dated && !candidate.modified) return;
+    facts.opened = (stamps.dated ? *stamps.dated : dayOf(*candidate.modified)) -
+                   millisecondsPerDay * stamps.midnights;
+    facts.source.guesses.push_back(
+        stamps.dated ? "The days of the first lines of " + candidate.name +
+                           " are counted back from the first date in it"
+                     : "No day stands in " + candidate.name +
+                           " or its name: its last line is taken to be of the day when it was"
+                           " modified");
+}
+
 std::unique_ptr<Source> SourceMaking::makeLog(const Candidate& candidate, const FirstLines& lines,
                                               const LogName& name) const
 {
@@ -132,14 +149,7 @@ std::unique_ptr<Source> SourceMaking::makeLog(const Candidate& candidate, const 
             guesses.push_back("The times of " + candidate.name +
                               " are shown by the clock of this machine");
     }
-    if (!lines.dated && !facts.opened && candidate.modified) {
-        const KeptFile::Use use(*candidate.file);
-        facts.opened =
-            dayOf(*candidate.modified) - millisecondsPerDay * midnightsIn(use.descriptor(), form);
-        guesses.push_back("No day stands in " + candidate.name +
-                          " or its name: its last line is taken to be of the day when it was"
-                          " modified");
-    }
+    if (!lines.dated && !facts.opened) guessFirstDay(candidate, facts);
     return std::make_unique<LogSource>(std::move(facts), candidate.file);
 }
 

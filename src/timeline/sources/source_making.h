@@ -14,6 +14,7 @@ class TraceTableReader;
 namespace timeline {
 
 struct FirstLines;
+struct LogFacts;
 struct LogName;
 
 /// What is known of the sources from elsewhere: their server's settings, or a person. What is
@@ -58,6 +59,7 @@ public:
 private:
     std::unique_ptr<Source> makeLog(const Candidate& candidate, const FirstLines& lines,
                                     const LogName& name) const;
+    static void guessFirstDay(const Candidate& candidate, LogFacts& facts);
 
     const TraceTableReader& databases_;
     SourceOptions options_;

@@ -94,17 +94,31 @@ TEST(LookAtLines, TellsWhetherTheCodePageMatters)
     EXPECT_TRUE(look(std::string(basicLine) + "\xE4").beyondAscii);
 }
 
-TEST(MidnightsIn, CountsHowOftenTheClockGoesBack)
+TEST(ReadFirstStamps, CountsHowOftenTheClockGoesBack)
 {
     const TemporaryFolder folder;
     const auto midnights = [&](const std::string& bytes) {
-        return midnightsIn(openMachineFile(folder.write("a", bytes), forReading, 53),
-                           LineForm::basic);
+        const FirstStamps stamps = readFirstStamps(
+            openMachineFile(folder.write("a", bytes), forReading, 53), LineForm::basic);
+        EXPECT_EQ(std::nullopt, stamps.dated);
+        return stamps.midnights;
     };
     EXPECT_EQ(0, midnights(""));
     EXPECT_EQ(0, midnights(basicLine));
     EXPECT_EQ(2, midnights("23:59:59:000,S,1,C,1,a\n00:00:01:000,S,1,C,1,b\nno line\n"
                            "00:00:00:000,S,1,C,1,c\n"));
+}
+
+TEST(ReadFirstStamps, StopsAtTheFirstDate)
+{
+    const TemporaryFolder folder;
+    const auto path = folder.write("a", "12:00:00:000,S,1,C,1,a\n11:00:00:000,S,1,C,1,b\n"
+                                        "2025-02-20 10:00:00,S,1,C,1,c\n"
+                                        "09:00:00:000,S,1,C,1,d\n");
+    const FirstStamps stamps =
+        readFirstStamps(openMachineFile(path, forReading, 53), LineForm::basic);
+    EXPECT_EQ(dayOf(2025, 2, 20), stamps.dated);
+    EXPECT_EQ(2, stamps.midnights);
 }
 
 } // namespace
