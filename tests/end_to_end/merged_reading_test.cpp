@@ -213,6 +213,18 @@ TEST_F(MergedReading, ReadsLettersByTheCodePageThatAPersonNames)
     EXPECT_THAT(refused.err, HasSubstr(" 1252, "));
 }
 
+TEST_F(MergedReading, RefusesAChoiceWithNothingInIt)
+{
+    write(folder / "a.txt", "15:23:07:123,Conv,1,X,2,text\n");
+    for (const char* option :
+         {"--since", "--until", "--last", "--macro", "--count-by", "--columns"}) {
+        const Outcome refused = run({"read", (folder / "a.txt").string(), option, ""});
+        EXPECT_EQ(2, refused.status) << option;
+        EXPECT_EQ("", refused.out) << option;
+        EXPECT_THAT(refused.err, HasSubstr(std::string(option) + ": there is nothing in it"));
+    }
+}
+
 TEST_F(MergedReading, ShowsTimesOfDataFilesInTheZoneThatAPersonNames)
 {
     write(folder / "diag_KoCSMgr_20250220_1523.txt", "2025-02-20 15:23:07,Conv,12,CallFlow,0,a\n");

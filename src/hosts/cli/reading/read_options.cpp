@@ -13,6 +13,12 @@ namespace cli {
 
 namespace {
 
+/// What a script leaves out by mistake would else choose all rows.
+std::string whyNothing(const std::string& text)
+{
+    return text.empty() ? "there is nothing in it" : "";
+}
+
 void declareChoice(Arguments& arguments, ReadOptions& options)
 {
     const auto addMany = [&](const char* name, std::vector<std::string>& values,
@@ -21,10 +27,14 @@ void declareChoice(Arguments& arguments, ReadOptions& options)
     };
     arguments
         .add("--since", options.since, "rows at this time or later, such as 15:20 or yesterday")
-        .called("TIME");
-    arguments.add("--until", options.until, "rows at this time or earlier").called("TIME");
+        .called("TIME")
+        .refusedBy(whyNothing);
+    arguments.add("--until", options.until, "rows at this time or earlier")
+        .called("TIME")
+        .refusedBy(whyNothing);
     arguments.add("--last", options.last, "rows of the last 2h, 30m, ... before the last row")
-        .called("SPAN");
+        .called("SPAN")
+        .refusedBy(whyNothing);
     addMany("--process", options.processes, "NAME", "rows of this process");
     addMany("--component", options.components, "NAME", "rows of this component");
     addMany("--source", options.sources, "NAME", "rows of this source");
@@ -38,7 +48,8 @@ void declareChoice(Arguments& arguments, ReadOptions& options)
     addMany("--exclude", options.exclusions, "KEY=VALUE",
             "no rows with this, such as level=7, component=Timer or grep=RE");
     arguments.add("--macro", options.macroTrace, "rows that this macro trace turns on")
-        .called("\"GROUP - TRACE\"");
+        .called("\"GROUP - TRACE\"")
+        .refusedBy(whyNothing);
     arguments.add("-n", options.first, "the first so many of these rows").called("N").positive();
     arguments.add("--tail", options.tail, "the last so many").called("N").positive();
     arguments.addFlag("--follow", options.follow,
@@ -49,11 +60,13 @@ void declareOutput(Arguments& arguments, ReadOptions& options)
 {
     arguments.addFlag("--count", options.count, "tell how many rows these are");
     arguments.add("--count-by", options.countBy, "tell how many rows have each value of a column")
-        .called("COLUMN");
+        .called("COLUMN")
+        .refusedBy(whyNothing);
     arguments.addFlag("--histogram", options.histogram, "draw how many rows there are over time");
     arguments.addFlag("--calls", options.listCalls, "list the calls, with their processes");
     arguments.add("--columns", options.columns, "these columns, with commas between them")
-        .called("LIST");
+        .called("LIST")
+        .refusedBy(whyNothing);
     arguments.add("--format", options.format, "how rows are written; else table, with --json json")
         .called("FORMAT")
         .oneOf({"table", "raw", "json", "csv", "otlp"});
