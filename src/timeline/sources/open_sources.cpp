@@ -61,7 +61,11 @@ public:
         candidate.path = path;
         candidate.name = name;
         candidate.modified = modifiedOf(*file);
-        candidate.head = headOf(*file);
+        try {
+            candidate.head = headOf(*file);
+        } catch (const RunTimeError& error) {
+            throw toldWith(path.empty() ? name : path, error);
+        }
         candidate.file = std::move(file);
         if (opening_.cabinets_.isCabinet(candidate.head))
             openCabinet(candidate, {});

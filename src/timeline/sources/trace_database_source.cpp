@@ -254,7 +254,13 @@ void TraceDatabaseSource::record(const IndexRow& row, Record& record)
         throw RunTimeError(runTimeErrors::deviceIo,
                            facts_.name + " has row " + std::to_string(row.line) + " no more");
     const Reading reading(*recordRows_, columns_);
-    reading.fillFields(record);
+    try {
+        reading.fillFields(record);
+    } catch (const RunTimeError& error) {
+        throw RunTimeError(error.number(), "row " + std::to_string(row.line) + " of " +
+                                               facts_.name +
+                                               " can't be read: " + error.description());
+    }
     record.moment = row.moment;
     record.file = facts_.name;
     record.line = row.line;

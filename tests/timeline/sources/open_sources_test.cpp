@@ -166,6 +166,36 @@ TEST(SourceOpening, CountsTheDaysOfALogWithoutADateBackFromWhenItWasModified)
     EXPECT_THAT(log.facts().guesses, testing::Contains(HasSubstr("when it was modified")));
 }
 
+TEST(SourceOpening, CountsTheDaysOfLinesWithoutADateBackFromTheFirstDate)
+{
+    const Files files;
+    const std::string path =
+        files.folder.write("some.txt", "23:59:59:000,S,1,C,1,a\r\n00:00:01:000,S,1,C,1,b\r\n"
+                                       "2025-02-20 00:00:02,S,1,C,1,c\r\n"
+                                       "2025-02-24 15:00:00,S,1,C,1,d\r\n");
+    Opened log(path);
+    const Moment day = dayOf(2025, 2, 20);
+    const SourceRows rows = rowsOf(*log.found.sources[0]);
+    ASSERT_THAT(rows, SizeIs(4));
+    EXPECT_EQ(day - 1000, rows[0].moment);
+    EXPECT_EQ(day + 1000, rows[1].moment);
+    EXPECT_EQ(day + 2000, rows[2].moment);
+    EXPECT_THAT(log.facts().guesses,
+                testing::Contains("The days of the first lines of some.txt are counted back from "
+                                  "the first date in it"));
+}
+
+TEST(SourceOpening, NamesAFileThatCanNotBeRead)
+{
+    const std::string path = "/proc/self/mem"; // has no byte at its beginning, and says so
+    try {
+        const Opened file(path);
+        FAIL() << path << " was read";
+    } catch (const RunTimeError& error) {
+        EXPECT_THAT(error.description(), testing::StartsWith(path + ": "));
+    }
+}
+
 TEST(SourceOpening, OpensTraceDatabasesAndEventLogsWhateverTheirNames)
 {
     const Files files;

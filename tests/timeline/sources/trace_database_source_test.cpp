@@ -205,6 +205,37 @@ TEST(TraceDatabaseSource, TellsOfADamageOnce)
     }
 }
 
+TEST(TraceDatabaseSource, NamesTheRowThatCanNotBeRead)
+{
+    const std::vector<Row> rows(40, traceRow("10/8/2005 15:23:07:120", "A", "C", "some text"));
+    const Database database(rows);
+    const std::string whole = database.bytes();
+    std::size_t unread = 0;
+    const auto recordAll = [&] {
+        const auto source = database.source();
+        Record record;
+        for (const IndexRow& row : rowsOf(*source)) try {
+                source->record(row, record);
+            } catch (const RunTimeError& error) {
+                ++unread;
+                EXPECT_THAT(error.description(), HasSubstr(" of gather.mdb can't be read: "));
+                EXPECT_THAT(error.description(), testing::StartsWith("row "));
+            }
+    };
+    const std::size_t text = whole.rfind(std::string("s\0o\0m\0e", 7));
+    const std::size_t compressed = whole.rfind("some text");
+    const std::size_t last = compressed == std::string::npos ? text : compressed;
+    ASSERT_NE(std::string::npos, last);
+    const std::size_t end = std::min(last + 40, whole.size());
+    for (std::size_t at = last; at < end; ++at) {
+        std::string bytes = whole;
+        bytes[at] = '\xFF';
+        database.replace(bytes);
+        recordAll();
+    }
+    EXPECT_LT(0u, unread);
+}
+
 TEST(TraceDatabaseSource, RefusesADatabaseWithoutItsTable)
 {
     const Database database({});
