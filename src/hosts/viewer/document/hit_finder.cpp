@@ -16,7 +16,7 @@ using Clock = std::chrono::steady_clock;
 using timeline::IndexRow;
 using timeline::Timeline;
 
-constexpr std::size_t rowsBetweenLooks = 16; ///< at the clock
+constexpr std::size_t rowsFoundAtOnce = 16; ///< between two looks at the clock
 constexpr std::chrono::milliseconds stepLength{2};
 constexpr std::chrono::milliseconds firstPart{50}; ///< of hits that take longer
 
@@ -32,7 +32,7 @@ public:
     {
         for (std::size_t looked = 1; hits.size() < view_->size(); ++looked) {
             hits.append(hit(timeline, walk_.next(timeline)));
-            if (looked % rowsBetweenLooks == 0 && Clock::now() >= until) return false;
+            if (looked % rowsFoundAtOnce == 0 && Clock::now() >= until) return false;
         }
         return true;
     }

@@ -18,7 +18,7 @@ using timeline::NameTable;
 using timeline::Record;
 using timeline::Timeline;
 
-constexpr std::size_t rowsBetweenLooks = 64; ///< at the clock
+constexpr std::size_t rowsAskedAtOnce = 64; ///< between two looks at the clock
 constexpr std::size_t mostBuckets = 400;
 
 enum Facet : std::size_t { processFacet, componentFacet, sourceFacet, levelFacet };
@@ -142,7 +142,7 @@ bool RowAsking::ask(const Timeline& timeline, std::chrono::steady_clock::time_po
 {
     for (std::size_t rows = 1; walk_.peek() != nullptr; ++rows) {
         askRow(timeline);
-        if (rows % rowsBetweenLooks == 0 && std::chrono::steady_clock::now() >= until) return false;
+        if (rows % rowsAskedAtOnce == 0 && std::chrono::steady_clock::now() >= until) return false;
     }
     return true;
 }

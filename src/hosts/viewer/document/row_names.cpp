@@ -13,7 +13,7 @@ namespace {
 using timeline::Timeline;
 
 constexpr std::chrono::milliseconds learnedAtOnce{2};
-constexpr std::size_t rowsBetweenLooks = 64; ///< at the clock
+constexpr std::size_t rowsLearnedAtOnce = 64; ///< between two looks at the clock
 
 } // namespace
 
@@ -50,7 +50,7 @@ bool RowNames::learn(const Timeline& timeline)
         const std::size_t rows = timeline.rowsOf(number).size();
         while (log.sources.size() < rows) {
             learnRow(timeline, log, number);
-            if (log.sources.size() % rowsBetweenLooks == 0 &&
+            if (log.sources.size() % rowsLearnedAtOnce == 0 &&
                 std::chrono::steady_clock::now() >= end)
                 return false;
         }

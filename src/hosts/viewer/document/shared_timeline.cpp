@@ -15,35 +15,52 @@ unsigned readingThreads()
 
 } // namespace
 
+/// Who is counted here is let before those who work.
+class SharedTimeline::Turn {
+public:
+    explicit Turn(SharedTimeline& timeline) : lookers_(timeline.lookers_)
+    {
+        ++lookers_;
+        lock_ = std::unique_lock(timeline.turn_);
+    }
+    ~Turn()
+    {
+        lock_.unlock();
+        --lookers_;
+        lookers_.notify_all();
+    }
+
+private:
+    std::atomic<int>& lookers_;
+    std::unique_lock<std::mutex> lock_;
+};
+
 void SharedTimeline::add(std::vector<std::unique_ptr<timeline::Source>> sources)
 {
-    const std::lock_guard lock(turn_);
-    reading_.reset();
+    const Turn turn(*this);
+    if (const auto reading = this->reading()) {
+        reading->cancel();
+        reading->wait();
+    }
     for (auto& source : sources) timeline_.add(std::move(source));
-    reading_ = std::make_unique<timeline::BackgroundReading>(timeline_, timeline::Filter(),
-                                                             readingThreads());
+    auto reading = std::make_shared<timeline::BackgroundReading>(timeline_, timeline::Filter(),
+                                                                 readingThreads());
+    const std::lock_guard lock(keeping_);
+    reading_.swap(reading);
 }
 
+/// Whoever has the turn.
 void SharedTimeline::use(const Look& looking)
 {
-    const std::lock_guard lock(turn_);
-    if (reading_)
-        reading_->look(looking);
+    if (const auto reading = this->reading())
+        reading->look(looking);
     else
         looking(timeline_);
 }
 
 void SharedTimeline::look(const Look& looking)
 {
-    ++lookers_;
-    struct Gone {
-        std::atomic<int>& lookers;
-        ~Gone()
-        {
-            --lookers;
-            lookers.notify_all();
-        }
-    } const gone{lookers_};
+    const Turn turn(*this);
     use(looking);
 }
 
@@ -51,15 +68,23 @@ void SharedTimeline::work(const Look& step)
 {
     for (int lookers = lookers_; lookers > 0; lookers = lookers_) lookers_.wait(lookers);
     const auto begin = std::chrono::steady_clock::now();
-    use(step);
+    {
+        const std::lock_guard lock(turn_);
+        use(step);
+    }
     const auto taken = std::chrono::steady_clock::now() - begin;
     if (!state().ended) std::this_thread::sleep_for(taken);
 }
 
+std::shared_ptr<timeline::BackgroundReading> SharedTimeline::reading() const
+{
+    const std::lock_guard lock(keeping_);
+    return reading_;
+}
+
 timeline::BackgroundReading::State SharedTimeline::state() const
 {
-    const std::lock_guard lock(turn_);
-    if (reading_) return reading_->state();
+    if (const auto reading = this->reading()) return reading->state();
     timeline::BackgroundReading::State none;
     none.ended = true;
     return none;
@@ -67,8 +92,7 @@ timeline::BackgroundReading::State SharedTimeline::state() const
 
 void SharedTimeline::cancel()
 {
-    const std::lock_guard lock(turn_);
-    if (reading_) reading_->cancel();
+    if (const auto reading = this->reading()) reading->cancel();
 }
 
 } // namespace viewer

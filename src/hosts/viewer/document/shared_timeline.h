@@ -27,19 +27,23 @@ public:
     /// the timeline is read, half of the time is left to that.
     void work(const Look& step);
 
-    /// How far the reading is; ended where there was none.
+    /// How far the reading is; ended where there was none. Waits for nobody.
     timeline::BackgroundReading::State state() const;
 
-    /// Ends the reading after a row; the rows so far stay.
+    /// Ends the reading after a row; the rows so far stay. Waits for nobody.
     void cancel();
 
 private:
+    class Turn;
+
     void use(const Look& looking);
+    std::shared_ptr<timeline::BackgroundReading> reading() const;
 
     timeline::Timeline timeline_;
-    mutable std::mutex turn_; ///< of the timeline, and of the reading as an object
-    std::atomic<int> lookers_{0};
-    std::unique_ptr<timeline::BackgroundReading> reading_;
+    std::mutex turn_;             ///< whoever holds it may use the timeline
+    std::atomic<int> lookers_{0}; ///< that have the turn before those who work
+    mutable std::mutex keeping_;  ///< of the pointer
+    std::shared_ptr<timeline::BackgroundReading> reading_;
 };
 
 } // namespace viewer
