@@ -69,12 +69,13 @@ std::unique_ptr<Source> SourceMaking::make(const Candidate& candidate) const
     facts.path = candidate.path;
     if (databases_.isDatabase(candidate.head)) {
         facts.kind = SourceKind::traceDatabase;
+        std::shared_ptr<TraceTables> tables;
         try {
-            return std::make_unique<TraceDatabaseSource>(
-                facts, databases_.open(std::make_shared<KeptBytes>(candidate.file)));
+            tables = databases_.open(std::make_shared<KeptBytes>(candidate.file));
         } catch (const RunTimeError& error) {
             throw RunTimeError(error.number(), candidate.name + ": " + error.description());
         }
+        return std::make_unique<TraceDatabaseSource>(facts, std::move(tables));
     }
     if (isEventLog(candidate.head)) {
         facts.kind = SourceKind::eventLog;
