@@ -25,7 +25,6 @@ namespace timeline {
 namespace {
 
 using testing::AllOf;
-using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
