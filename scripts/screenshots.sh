@@ -28,7 +28,7 @@ install_missing "${build_packages[@]}" "${desktop_packages[@]}" "${test_packages
   fontconfig fonts-dejavu-core fonts-ipafont-gothic imagemagick xauth xvfb
 [ -n "$(fc-list :lang=ja)" ] ||
   say "no font has Japanese letters: install fonts-ipafont-gothic, or boxes stand in their places"
-build_preset "$preset" orvandiag-console console_pictures orvan_data
+build_preset "$preset" orvandiag orvandiag-console console_pictures orvan_data
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -50,7 +50,7 @@ console() { # console NAME ARGUMENT...
   small "$work/$1.png" "docs/images/$1.png"
 }
 
-display "$bin/orvandiag-console" --theme light --screenshot "$work/first.png"
+"$bin/orvandiag" sample "$work/data/orvandiag/site" > "$work/sample.txt"
 logs=$work/data/orvandiag/site/drive_c/KelmaOrvan/Logs
 log=$(basename "$(ls "$logs"/diag_KoCSMgr_*.txt | grep -v _fmtd | tail -n 1)")
 mkdir -p docs/images

@@ -8,6 +8,8 @@
 #include "system/machine_path.h"
 
 #include <algorithm>
+#include <fstream>
+#include <string_view>
 
 namespace fs = std::filesystem;
 
@@ -130,4 +132,13 @@ void makeSampleServer(const SampleOptions& options)
     } catch (const fs::filesystem_error& error) {
         throw RunTimeError(runTimeErrors::deviceIo, error.what());
     }
+}
+
+bool isSampleServer(const std::string& siteFolder)
+{
+    constexpr std::string_view mark = "; The sample server.";
+    std::string first;
+    std::ifstream settings(filePathOf(siteFolder) / "site.ini", std::ios::binary);
+    std::getline(settings, first);
+    return std::string_view(first).substr(0, mark.size()) == mark;
 }

@@ -29,3 +29,7 @@ struct SampleOptions {
 /// Raises 58 for a folder with something in it or a file of its name, 76 for a missing parent, 53
 /// for installed data that lack a file, 61 and 57 for what cannot be written.
 void makeSampleServer(const SampleOptions& options);
+
+/// Whether a site was made by `makeSampleServer`, by what the first line of its site.ini says.
+/// False for one that can't be read.
+bool isSampleServer(const std::string& siteFolder);

@@ -16,6 +16,9 @@ public:
     /// Passes over the progress page, so that no gather starts by accident.
     void IWizardPage_Back(int& NextPage) override;
 
+    /// The gather that is over. Raises 424 on a page without one.
+    const classTraceObject& job() const { return SelectedControls(0); }
+
     Label lblCompletionTitle;
     Label lblCompletionStatment;
     Label lblSummary; ///< a caption, an empty line and the folder

@@ -25,7 +25,7 @@ void declare(QCommandLineParser& parser)
     parser.setApplicationDescription(
         QStringLiteral("Diagnoses an Orvan voice-messaging server, in a window.\n\n"
                        "Without --site it opens the site at $ORVAN_SITE, else the one at the usual "
-                       "place,\nwhere it makes a sample server when there is none."));
+                       "place;\nwhere there is none, it offers to open or make one."));
     parser.addOptions({
         {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")},
         {{QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Show the version.")},

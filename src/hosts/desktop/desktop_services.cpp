@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QMessageBox>
 
+#include <utility>
+
 namespace desktop {
 
 namespace {
@@ -98,6 +100,7 @@ std::string DesktopServices::pickFolder(const std::string& title)
 
 std::string DesktopServices::pickFile(const std::string& title)
 {
+    if (!answer_.isEmpty()) return named(std::exchange(answer_, {}));
     const ArrowPointer arrow;
     return named(
         PathDialog(owner(), QString::fromStdString(title), PathDialog::ExistingFile,

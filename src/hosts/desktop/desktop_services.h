@@ -3,6 +3,7 @@
 #include "platform/desktop.h"
 
 #include <QPointer>
+#include <QString>
 
 #include <functional>
 #include <memory>
@@ -34,6 +35,10 @@ public:
     /// The folder of the manual, on the machine.
     void setManual(std::string folder);
 
+    /// Answers the next wish for a file with a path of the machine, without asking the person; an
+    /// empty one has the person asked again.
+    void answerPick(const QString& path) { answer_ = path; }
+
     void messageBox(const std::string& text, const std::string& title, MessageIcon icon) override;
     std::string pickFolder(const std::string& title) override;
     std::string pickFile(const std::string& title) override;
@@ -49,6 +54,7 @@ private:
     std::function<void()> manualMissing_;
     std::function<void()> messageShown_;
     std::string manual_;
+    QString answer_;
     std::unique_ptr<HelpWindow> help_;
 };
 

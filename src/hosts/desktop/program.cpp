@@ -1,11 +1,15 @@
 #include "hosts/desktop/program.h"
 
 #include "hosts/desktop/turn_wait.h"
+#include "hosts/desktop/viewer_program.h"
 #include "hosts/desktop/window/recent_sites.h"
 #include "runtime/run_time_error.h"
 #include "sample/sample_server.h"
+#include "shell/snapin_names.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QFileInfo>
 #include <QObject>
 
 #include <filesystem>
@@ -36,6 +40,7 @@ Program::Program(QSettings& settings, std::string installedData, HostFacts facts
     : settings_(settings), installedData_(std::move(installedData)), facts_(std::move(facts)),
       window_(settings)
 {
+    viewer = [](const QString& path) { return openInViewer(path); };
     facts_.notice = [this](const std::string& text) { window_.sayWaiting(text); };
     desktop_.setWindow(&window_);
     desktop_.setManual(installedData_ + "/help");
@@ -45,6 +50,8 @@ Program::Program(QSettings& settings, std::string installedData, HostFacts facts
                      [this](const QString& folder) { openSite(folder.toStdString()); });
     QObject::connect(&window_, &MainWindow::sampleAsked,
                      [this](const QString& folder) { openSample(folder.toStdString()); });
+    QObject::connect(&window_, &MainWindow::fileAsked,
+                     [this](const QString& path) { openFile(path); });
     QObject::connect(&window_, &MainWindow::helpAsked,
                      [this](int topic) { desktop_.showHelp({}, topic); });
     desktop_.setMessageShown([this] {
@@ -114,10 +121,26 @@ void Program::openDefault(const std::string& folder)
 {
     std::error_code none;
     const bool missing = !fs::exists(folder, none) || fs::is_empty(folder, none);
-    if (missing)
-        openSample(folder);
-    else
-        openSite(folder);
+    if (!missing) openSite(folder);
+}
+
+void Program::openFile(const QString& path)
+{
+    const QString kind = QFileInfo(path).suffix().toLower();
+    const bool forTheViewer = kind == QLatin1String("mdb") || kind == QLatin1String("cab");
+    QAction* open =
+        tool_ && !forTheViewer ? window_.consoleAction(snapinItem::openLogFile) : nullptr;
+    if (open && open->isEnabled()) {
+        desktop_.answerPick(path);
+        open->trigger();
+        return desktop_.answerPick({});
+    }
+    if (viewer(path)) return;
+    window_.showProblem([path] {
+        return QObject::tr("%1 can be read with the viewer (orvandiag-viewer), which is not "
+                           "installed here.")
+            .arg(path);
+    });
 }
 
 void Program::close()

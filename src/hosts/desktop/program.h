@@ -6,6 +6,9 @@
 #include "hosts/desktop/open_tool.h"
 #include "hosts/desktop/window/main_window.h"
 
+#include <QString>
+
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -29,7 +32,13 @@ public:
     /// Makes a sample server in a folder, with the folders above it, and opens it.
     void openSample(const std::string& folder);
 
-    /// Opens the site at the default place, which is made as a sample server if it is not there.
+    /// Shows a file of the machine: a log by the tool's own command, as if it was picked; what the
+    /// tool does not read, and anything while no site is open, in the viewer. The window says why
+    /// when neither can be.
+    void openFile(const QString& path);
+
+    /// Opens the site at the default place; where none is there, the window shows the ways to
+    /// begin.
     void openDefault(const std::string& folder);
 
     /// Lets the tool go. The window says what went wrong with it.
@@ -39,6 +48,9 @@ public:
 
     /// Null while no site is open.
     OpenTool* tool() { return tool_.get(); }
+
+    /// Opens a file in the viewer; false where that can't be.
+    std::function<bool(const QString& path)> viewer;
 
     DesktopServices& desktop() { return desktop_; }
 

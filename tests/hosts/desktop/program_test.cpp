@@ -1,17 +1,23 @@
 #include "hosts/desktop/program.h"
 
+#include "hosts/desktop/support/person.h"
 #include "hosts/desktop/support/test_window.h"
+#include "hosts/desktop/viewer_program.h"
 #include "hosts/desktop/window/about_dialog.h"
 #include "hosts/desktop/window/recent_sites.h"
 #include "settings/about_box.h"
 #include "support/places.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QLabel>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 
 #include <gmock/gmock.h>
+
+#include <algorithm>
 
 namespace desktop {
 
@@ -32,22 +38,54 @@ struct TestProgram {
     Program program{settings, built::data, HostFacts{}};
 };
 
-TEST(Program, MakesASampleServerWhereNoSiteIs)
+TEST(Program, OffersTheWaysToBeginWhereNoSiteIs)
 {
     TestProgram test;
     test.program.openDefault(test.folder / "data/orvandiag/site");
-    EXPECT_TRUE(test.program.window().problem().isEmpty())
-        << test.program.window().problem().toStdString();
+    EXPECT_EQ("", test.program.window().problem().toStdString());
+    EXPECT_EQ(nullptr, test.program.tool());
+    EXPECT_FALSE(std::filesystem::exists(test.folder / "data")) << "nothing is made unasked";
+    QStringList offered;
+    for (const auto* card : test.program.window().findChildren<QAbstractButton*>())
+        if (card->isVisible() && !card->accessibleDescription().isEmpty()) offered << card->text();
+    EXPECT_EQ((QStringList{"Open a Site", "Make a Sample Server", "Read the Manual"}), offered);
+
+    const std::string wanted = test.folder / "data/orvandiag/site";
+    person::pickNext(wanted);
+    for (auto* card : test.program.window().findChildren<QAbstractButton*>())
+        if (card->text() == "Make a Sample Server") QTest::keyClick(card, Qt::Key_Return);
+    settle();
     ASSERT_NE(nullptr, test.program.tool());
-    EXPECT_TRUE(test.program.tool()->present());
-    EXPECT_EQ(QStringList{QString::fromStdString(test.folder / "data/orvandiag/site")},
-              recentSites(test.settings));
+    EXPECT_EQ(wanted, test.program.tool()->site().folder());
+    EXPECT_EQ(QStringList{QString::fromStdString(wanted)}, recentSites(test.settings));
+}
+
+TEST(Program, CallsASampleServerOneInTitleAndStatusBar)
+{
+    TestProgram test;
+    const auto& window = test.program.window();
+    const auto marked = [&] {
+        const auto labels = window.statusBar()->findChildren<QLabel*>();
+        return std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
+            return label->text().startsWith("Sample server: ");
+        });
+    };
+    test.program.openSample(test.folder / "sample");
+    EXPECT_EQ(QStringLiteral("Kelma Orvan Diagnostics - Sample Server - Orvan Diagnostic Tool"),
+              window.windowTitle());
+    EXPECT_TRUE(marked());
+
+    test.folder.write("server/site.ini", "[site]\ncomputer=VOICE\n");
+    test.program.openSite(test.folder / "server");
+    EXPECT_EQ(QStringLiteral("Kelma Orvan Diagnostics - Orvan Diagnostic Tool"),
+              window.windowTitle());
+    EXPECT_FALSE(marked());
 }
 
 TEST(Program, SaysInASentenceWhyASiteDoesNotOpenAndKeepsTheOneThatIs)
 {
     TestProgram test;
-    test.program.openDefault(test.folder / "site");
+    test.program.openSample(test.folder / "site");
     const OpenTool* open = test.program.tool();
 
     test.program.openSite(test.folder.makeFolder("empty"));
@@ -90,6 +128,48 @@ TEST(Program, TellsThatASiteWasNotClosedCleanlyWhateverComesNext)
         EXPECT_THAT(test.program.window().problem().toStdString(), HasSubstr("not closed cleanly"));
         EXPECT_EQ(another, test.program.tool() != nullptr);
     }
+}
+
+TEST(Program, OpensALogByTheToolAndWhatTheToolDoesNotReadInTheViewer)
+{
+    TestProgram test;
+    QStringList viewed;
+    bool installed = true;
+    test.program.viewer = [&](const QString& path) {
+        viewed << path;
+        return installed;
+    };
+    test.folder.write("some.log", "no line of a server\n");
+    const QString log = QString::fromStdString(test.folder / "some.log");
+    test.program.openFile(log);
+    EXPECT_EQ(QStringList{log}, viewed) << "no site is open";
+
+    test.program.openSample(test.folder / "site");
+    test.program.openFile(log);
+    EXPECT_TRUE(test.program.window().pane()->logShown());
+    EXPECT_EQ(log, test.program.window().pane()->selectedName());
+    EXPECT_EQ(1, viewed.size());
+
+    installed = false;
+    test.program.openFile(QStringLiteral("/tmp/frame.mdb"));
+    EXPECT_EQ(QStringLiteral("/tmp/frame.mdb"), viewed.value(1));
+    EXPECT_THAT(test.program.window().problem().toStdString(), HasSubstr("not installed here"));
+}
+
+TEST(Viewer, IsTheProgramBesideTheConsoleAndIsGivenThePath)
+{
+    TestProgram test;
+    EXPECT_FALSE(
+        openInViewer(QStringLiteral("/tmp/a b"), QString::fromStdString(test.folder / "none")))
+        << "and none is on the search path";
+    test.folder.write("bin/orvandiag-viewer",
+                      "#!/bin/sh\nprintf %s \"$1\" > \"$0.part\" && mv \"$0.part\" \"$0.given\"\n");
+    const std::string program = test.folder / "bin/orvandiag-viewer";
+    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+    EXPECT_TRUE(
+        openInViewer(QStringLiteral("/tmp/a b"), QString::fromStdString(test.folder / "bin")));
+    EXPECT_TRUE(waitUntil([&] { return std::filesystem::exists(program + ".given"); }));
+    EXPECT_EQ("/tmp/a b", test.folder.read("bin/orvandiag-viewer.given"));
 }
 
 TEST(Help, ShowsThePageOfATopicAndSaysWhenThereIsNoManual)

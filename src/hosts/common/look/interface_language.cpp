@@ -25,6 +25,14 @@ QString codeOf(std::int32_t identifier)
     }
 }
 
+/// How numbers look in a language: by the system's own settings where it speaks the same.
+QLocale localeOf(const QString& code)
+{
+    const QLocale language(code);
+    const QLocale system = QLocale::system();
+    return system.language() == language.language() ? system : language;
+}
+
 class LanguageListener final : public QObject {
 public:
     LanguageListener(QWidget* widget, std::function<void()> show)
@@ -51,9 +59,15 @@ void showInLanguage(QWidget* widget, std::function<void()> show)
     new LanguageListener(widget, std::move(show));
 }
 
+InterfaceLanguage::InterfaceLanguage()
+{
+    QLocale::setDefault(localeOf(code_));
+}
+
 InterfaceLanguage::~InterfaceLanguage()
 {
     leave();
+    QLocale::setDefault(before_);
 }
 
 void InterfaceLanguage::choose(std::int32_t identifier)
@@ -63,6 +77,7 @@ void InterfaceLanguage::choose(std::int32_t identifier)
     leave();
     if (!window_.load(QStringLiteral(":/translations/window_%1.qm").arg(code))) return;
     code_ = code;
+    QLocale::setDefault(localeOf(code));
     if (qt_.load(QStringLiteral("qtbase_") + code,
                  QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&qt_);
@@ -74,4 +89,5 @@ void InterfaceLanguage::leave()
     QCoreApplication::removeTranslator(&window_);
     QCoreApplication::removeTranslator(&qt_);
     code_ = QStringLiteral("en");
+    QLocale::setDefault(localeOf(code_));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLocale>
 #include <QString>
 #include <QTranslator>
 
@@ -15,10 +16,11 @@ using LiveSentence = std::function<QString()>;
 void showInLanguage(QWidget* widget, std::function<void()> show);
 
 /// The language of the window's own texts, and of Qt's where they are installed. The program has
-/// one; it begins with English, and English is back when it goes.
+/// one; it begins with English, and English is back when it goes. Numbers are grouped as the
+/// language does it (`QLocale()`), or as the person's own system does where that speaks it too.
 class InterfaceLanguage {
 public:
-    InterfaceLanguage() = default;
+    InterfaceLanguage();
     ~InterfaceLanguage();
     InterfaceLanguage(const InterfaceLanguage&) = delete;
     InterfaceLanguage& operator=(const InterfaceLanguage&) = delete;
@@ -33,6 +35,7 @@ public:
 private:
     void leave();
 
+    QLocale before_; ///< what numbers were grouped by
     QString code_ = QStringLiteral("en");
     QTranslator window_;
     QTranslator qt_;

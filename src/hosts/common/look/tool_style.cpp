@@ -200,6 +200,17 @@ void ToolStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
+/// A chosen item of a menu, its drawing in the colour that the text has on that ground.
+QStyleOptionMenuItem ToolStyle::onHighlight(const QStyleOptionMenuItem& item,
+                                            const QWidget* widget) const
+{
+    const int side = proxy()->pixelMetric(PM_SmallIconSize, &item, widget);
+    const qreal ratio = widget ? widget->devicePixelRatio() : 1;
+    QStyleOptionMenuItem drawn = item;
+    drawn.icon = QIcon(item.icon.pixmap(QSize(side, side), ratio, QIcon::Selected));
+    return drawn;
+}
+
 void ToolStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                             const QWidget* widget) const
 {
@@ -211,6 +222,13 @@ void ToolStyle::drawControl(ControlElement element, const QStyleOption* option, 
     if (element == CE_PushButtonLabel && button && drawing::standsOut(*option)) {
         const QStyleOptionButton selected = asSelected(*button);
         return QProxyStyle::drawControl(element, &selected, painter, widget);
+    }
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    const QStyle::State chosen = State_Selected | State_Enabled;
+    if (element == CE_MenuItem && item && !item->icon.isNull() &&
+        (item->state & chosen) == chosen) {
+        const QStyleOptionMenuItem lit = onHighlight(*item, widget);
+        return QProxyStyle::drawControl(element, &lit, painter, widget);
     }
     QProxyStyle::drawControl(element, option, painter, widget);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QProxyStyle>
+#include <QStyleOptionMenuItem>
 
 /// The window's style: calm and flat, with room around texts, and controls that can be told from
 /// their ground in light and dark alike.
@@ -30,6 +31,7 @@ public:
                        const QWidget* widget) const override;
 
 private:
+    QStyleOptionMenuItem onHighlight(const QStyleOptionMenuItem& item, const QWidget* widget) const;
     void drawArrow(ComplexControl control, const QStyleOptionComplex& option, SubControl part,
                    QPainter& painter, const QWidget* widget) const;
 };

@@ -185,7 +185,8 @@ void FilterButton::updateText()
         if (list_->item(row)->checkState() == Qt::Checked) ticked << shownValue(*list_->item(row));
     QString shown = tr("all");
     if (ticked.size() == 1) shown = ticked.front();
-    if (ticked.size() > 1) shown = tr("%1 and %2 more").arg(ticked.front()).arg(ticked.size() - 1);
+    if (ticked.size() > 1)
+        shown = tr("%1 and %2 more").arg(ticked.front()).arg(QLocale().toString(ticked.size() - 1));
     if (!ticked.empty() && exclude_->isChecked()) shown = tr("not %1").arg(shown);
     setText(tr("%1: %2 ").arg(title_, shown));
     setAccessibleName(tr("Filter by %1: %2").arg(title_, shown));

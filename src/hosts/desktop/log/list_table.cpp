@@ -8,6 +8,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QSettings>
 
 #include <algorithm>
@@ -20,10 +21,19 @@ namespace {
 constexpr int unitsPerCharacter = 10;
 constexpr int automaticCharacters = 24;
 constexpr int mostCharacters = 44;
-constexpr int sampledRows = 200; ///< at the top, for a first width
+constexpr int sampledRows = 200;   ///< at the top, for a first width
+constexpr double mostOfView = 0.6; ///< that all columns but the last take together
 constexpr int cellMargin = 14;
 constexpr int symbolSize = 14;
 constexpr int symbolRoom = 24; ///< for a mark or a sign before the text of a log's cell
+
+/// Of the kind of list and its number of columns: what a setting is remembered for.
+QString viewName(const ListView& list)
+{
+    return QStringLiteral("%1-%2")
+        .arg(QString::fromStdString(list.definition().name))
+        .arg(list.columnCount());
+}
 
 } // namespace
 
@@ -49,6 +59,13 @@ ListTable::ListTable(ListModel& model, QSettings& settings, QWidget* parent)
     horizontalHeader()->setSortIndicatorClearable(true);
     horizontalHeader()->setMinimumSectionSize(24);
     horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(horizontalHeader(), &QWidget::customContextMenuRequested, this, [this](QPoint at) {
+        auto* menu = new QMenu(this);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        offerColumns(*menu);
+        menu->popup(horizontalHeader()->mapToGlobal(at));
+    });
     connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, &ListTable::sortRows);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
         if (arranging_ || !rows_.list()) return;
@@ -64,10 +81,12 @@ ListTable::ListTable(ListModel& model, QSettings& settings, QWidget* parent)
 
 QString ListTable::widthsKey() const
 {
-    const ListView* list = rows_.list();
-    return QStringLiteral("widths/%1-%2")
-        .arg(QString::fromStdString(list->definition().name))
-        .arg(list->columnCount());
+    return QStringLiteral("widths/") + viewName(*rows_.list());
+}
+
+QString ListTable::hiddenKey() const
+{
+    return QStringLiteral("hidden/") + viewName(*rows_.list());
 }
 
 void ListTable::listShown()
@@ -77,18 +96,68 @@ void ListTable::listShown()
     arranging_ = true;
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     markOrder();
-    const QVariantList remembered = settings_.value(widthsKey()).toList();
-    for (int column = 0; column < list->columnCount(); ++column) {
-        if (column + 1 == list->columnCount()) continue;
-        setColumnWidth(column, remembered.size() == list->columnCount() ? remembered[column].toInt()
-                                                                        : firstWidth(column));
-    }
     arranging_ = false;
+    roomyWidth_ = 0;
+    for (int column = 0; column + 1 < list->columnCount(); ++column)
+        roomyWidth_ += firstWidth(column, false);
+    giveWidths();
+    showColumns();
     const int last = list->columnCount() - 1;
-    lastWidth_ =
-        std::max(std::min(firstWidth(last), fontMetrics().averageCharWidth() * automaticCharacters),
-                 horizontalHeader()->sectionSizeHint(last));
+    lastWidth_ = std::max(
+        std::min(firstWidth(last, false), fontMetrics().averageCharWidth() * automaticCharacters),
+        horizontalHeader()->sectionSizeHint(last));
     fillLastColumn();
+}
+
+/// The widths that the person gave the columns; else the console's, or in a window that would have
+/// no room for the last column then, what their contents need.
+void ListTable::giveWidths()
+{
+    const ListView& list = *rows_.list();
+    tight_ = roomyWidth_ > viewport()->width() * mostOfView;
+    const QVariantList remembered = settings_.value(widthsKey()).toList();
+    const bool known = remembered.size() == list.columnCount();
+    arranging_ = true;
+    for (int column = 0; column + 1 < list.columnCount(); ++column)
+        if (!isColumnHidden(column))
+            setColumnWidth(column, known ? remembered[column].toInt() : firstWidth(column, tight_));
+    arranging_ = false;
+}
+
+/// Hides what the person has hidden of such a list, and nothing else.
+void ListTable::showColumns()
+{
+    const QVariantList hidden = settings_.value(hiddenKey()).toList();
+    arranging_ = true;
+    for (int column = 0; column < rows_.columnCount(); ++column)
+        setColumnHidden(column, column + 1 < rows_.columnCount() && hidden.contains(column));
+    arranging_ = false;
+}
+
+void ListTable::setColumnShown(int column, bool shown)
+{
+    if (!rows_.list()) return;
+    QVariantList hidden = settings_.value(hiddenKey()).toList();
+    hidden.removeAll(column);
+    if (!shown) hidden << column;
+    settings_.setValue(hiddenKey(), hidden);
+    showColumns();
+    fillLastColumn();
+    // A cell that is hidden can't be scrolled to.
+    if (!shown && currentIndex().column() == column) goTo(currentIndex().row());
+}
+
+void ListTable::offerColumns(QMenu& menu)
+{
+    if (!rows_.list()) return;
+    for (int column = 0; column + 1 < rows_.columnCount(); ++column) {
+        QString title = rows_.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        QAction* entry = menu.addAction(title.replace(QLatin1Char('&'), QLatin1String("&&")));
+        entry->setCheckable(true);
+        entry->setChecked(!isColumnHidden(column));
+        connect(entry, &QAction::toggled, this,
+                [this, column](bool shown) { setColumnShown(column, shown); });
+    }
 }
 
 /// The mark in the header tells the order of the rows: the person's, or the console's own until a
@@ -126,17 +195,20 @@ void ListTable::fillLastColumn()
 void ListTable::resizeEvent(QResizeEvent* event)
 {
     QTableView::resizeEvent(event);
+    const bool tight = roomyWidth_ > viewport()->width() * mostOfView;
+    if (rows_.list() && tight != tight_) giveWidths();
     fillLastColumn();
 }
 
 /// What the console asks for and the rows at the top need. To look at all would take long.
-int ListTable::firstWidth(int column) const
+int ListTable::firstWidth(int column, bool tight) const
 {
     const ListView& list = *rows_.list();
     const auto& declared = list.columns()[static_cast<std::size_t>(column)];
     const int character = fontMetrics().averageCharWidth();
     int width = character * (declared.width == automaticWidth ? automaticCharacters
                                                               : declared.width / unitsPerCharacter);
+    if (tight) width = 0;
     for (int row = 0; row < std::min(sampledRows, rows_.rowCount()); ++row)
         width = std::max(width, fontMetrics().horizontalAdvance(rows_.text(row, column + 1)));
     width = std::min(width, character * mostCharacters) + cellMargin;
@@ -147,7 +219,13 @@ int ListTable::firstWidth(int column) const
 void ListTable::rememberWidths()
 {
     QVariantList widths;
-    for (int column = 0; column < rows_.columnCount(); ++column) widths << columnWidth(column);
+    const QVariantList before = settings_.value(widthsKey()).toList();
+    for (int column = 0; column < rows_.columnCount(); ++column) {
+        // A hidden one has no width of its own now, and the one before when it comes back.
+        const bool known = before.size() == rows_.columnCount();
+        const int hidden = known ? before[column].toInt() : firstWidth(column, tight_);
+        widths << (isColumnHidden(column) ? hidden : columnWidth(column));
+    }
     settings_.setValue(widthsKey(), widths);
 }
 
@@ -193,7 +271,8 @@ int ListTable::copyAsCsv() const
 void ListTable::goTo(int row)
 {
     if (row < 0 || row >= rows_.rowCount()) return;
-    const int column = std::max(0, currentIndex().column());
+    int column = std::max(0, currentIndex().column());
+    while (isColumnHidden(column)) ++column; // the last one never is
     // Not by the view, which would add to the selection while Shift or Ctrl of a key is down.
     selectionModel()->setCurrentIndex(
         rows_.index(row, column), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+class QMenu;
 class QSettings;
 
 namespace desktop {
@@ -33,6 +34,10 @@ public:
     /// The position, from 1, of the current row in the console's list; 0 when there is none.
     std::uint32_t currentPosition() const;
 
+    /// Puts the columns into a menu, ticked while they are on show: all but the last one, which
+    /// stays. A tick is remembered for each view.
+    void offerColumns(QMenu& menu);
+
 signals:
     /// The person opens a row, by a double click or the Enter key.
     void opened(std::uint32_t position);
@@ -45,16 +50,22 @@ protected:
 
 private:
     void markOrder();
+    QString hiddenKey() const;
+    void showColumns();
+    void setColumnShown(int column, bool shown);
     void sortRows(int column, Qt::SortOrder order);
     QString widthsKey() const;
-    int firstWidth(int column) const;
+    void giveWidths();
+    int firstWidth(int column, bool tight) const;
     void rememberWidths();
     void fillLastColumn();
     std::vector<int> selectedRowNumbers() const;
 
     ListModel& rows_;
     QSettings& settings_;
-    int lastWidth_ = 0; ///< what the last column needs, or the person gave it
+    int lastWidth_ = 0;  ///< what the last column needs, or the person gave it
+    int roomyWidth_ = 0; ///< of all columns but the last, as the console asks for
+    bool tight_ = false; ///< as wide as their contents
     bool arranging_ = false;
 };
 

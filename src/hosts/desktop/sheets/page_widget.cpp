@@ -5,6 +5,7 @@
 #include "hosts/common/look/thin_line.h"
 #include "hosts/desktop/sheets/control_widgets.h"
 #include "hosts/desktop/sheets/mnemonics.h"
+#include "hosts/desktop/sheets/page_addition.h"
 #include "hosts/desktop/sheets/text_views.h"
 
 #include <QGridLayout>
@@ -181,6 +182,14 @@ void PageWidget::showState()
 {
     for (const auto& view : views_)
         if (view) view->showState();
+    if (addition_) addition_->renew();
+}
+
+void PageWidget::add(PageAddition* addition)
+{
+    addition_ = addition;
+    column_->addWidget(addition);
+    addition_->renew();
 }
 
 /// Gives every caption a letter that no other one of the page or the sheet has.

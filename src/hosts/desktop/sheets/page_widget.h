@@ -15,6 +15,8 @@ struct PageControl;
 
 namespace desktop {
 
+class PageAddition;
+
 /// A page of a sheet, its controls in the rows that every host lays them out in.
 class PageWidget final : public QWidget {
 public:
@@ -30,6 +32,9 @@ public:
     /// Takes what the person has begun to type. False where that is no value: then its control,
     /// which has said so, has the focus.
     bool finishEditing();
+
+    /// Puts what the window adds below all controls; the page owns it from then on.
+    void add(PageAddition* addition);
 
     /// Says in a sentence what was not done; an empty one has nothing more to say.
     std::function<void(const LiveSentence& sentence)> onSaid;
@@ -54,6 +59,7 @@ private:
     QStringList taken_;
     std::vector<std::unique_ptr<ControlView>>
         views_; ///< by the index of the control; null for timers
+    PageAddition* addition_ = nullptr;
     QBoxLayout* column_ = nullptr;
     bool marking_ = false;
 };

@@ -152,9 +152,14 @@ void SheetDialog::act(const std::function<void()>& what)
     try {
         what();
     } catch (const RunTimeError& error) {
-        notice_->say([why = QString::fromStdString(error.description())] {
-            return tr("That did not work: %1. Try again, or press Cancel.").arg(why);
-        });
+        LiveSentence explained;
+        if (explain && !sheet_->closed()) explained = explain(sheet_->currentPage(), error);
+        if (explained)
+            notice_->say(explained);
+        else
+            notice_->say([why = QString::fromStdString(error.description())] {
+                return tr("That did not work: %1. Try again, or press Cancel.").arg(why);
+            });
     }
     --calls_;
     showButtons();
@@ -177,6 +182,8 @@ void SheetDialog::showPage()
             sheet_->page(position), wizard, wizard ? wizardCaptions() : plainCaptions(),
             [this](const std::function<void()>& what) { act(what); }, pages_);
         page->onSaid = [this](const LiveSentence& sentence) { say(sentence); };
+        PageAddition* addition = additionTo ? additionTo(sheet_->page(position)) : nullptr;
+        if (addition) page->add(addition);
         pages_->addWidget(page);
     }
     page->showState();

@@ -14,9 +14,11 @@ class QPushButton;
 class QStackedWidget;
 class QTabBar;
 class QTimer;
+class RunTimeError;
 
 namespace desktop {
 
+class PageAddition;
 class PageWidget;
 
 /// Shows a sheet of the console: a wizard with its buttons, or a plain sheet with OK and Apply.
@@ -48,6 +50,12 @@ public:
     /// Runs what may change the server: a wizard's Next and Finish, OK and Apply. What it raises is
     /// said above the page. Null: they run by themselves.
     std::function<void(const std::function<void()>& run)> aroundChange;
+
+    /// Makes what the window adds to a page that is shown for the first time; null for nothing.
+    std::function<PageAddition*(SheetPage& page)> additionTo;
+
+    /// Tells in the window's own words what a page raised; a null one leaves it to the sheet.
+    std::function<LiveSentence(const SheetPage& page, const RunTimeError& error)> explain;
 
 signals:
     /// The person cancels, on the page on show.

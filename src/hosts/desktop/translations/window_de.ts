@@ -476,6 +476,56 @@
         <source>Not all of it was done: %1.</source>
         <translation>Nicht alles wurde ausgeführt: %1.</translation>
     </message>
+    <message>
+        <source>%1 can be read with the viewer (orvandiag-viewer), which is not installed here.</source>
+        <translation>%1 kann mit dem Betrachter (orvandiag-viewer) gelesen werden, der hier nicht installiert ist.</translation>
+    </message>
+</context>
+<context>
+    <name>ResultPlace</name>
+    <message>
+        <source>On this machine: %1</source>
+        <translation>Auf diesem Rechner: %1</translation>
+    </message>
+    <message>
+        <source>No file manager was found on this machine. The results are in %1.</source>
+        <translation>Auf diesem Rechner wurde kein Dateimanager gefunden. Die Ergebnisse liegen in %1.</translation>
+    </message>
+</context>
+<context>
+    <name>StartPage</name>
+    <message>
+        <source>Open a Site</source>
+        <translation>Site öffnen</translation>
+    </message>
+    <message>
+        <source>The folder of a server, or of a copy of one. A folder that is dropped here is opened, too.</source>
+        <translation>Der Ordner eines Servers oder der Kopie eines Servers. Auch ein Ordner, der hier abgelegt wird, wird geöffnet.</translation>
+    </message>
+    <message>
+        <source>Make a Sample Server</source>
+        <translation>Beispielserver anlegen</translation>
+    </message>
+    <message>
+        <source>A server with made-up logs, to try things on, in a new folder.</source>
+        <translation>Ein Server mit erfundenen Protokollen zum Ausprobieren, in einem neuen Ordner.</translation>
+    </message>
+    <message>
+        <source>Read the Manual</source>
+        <translation>Handbuch lesen</translation>
+    </message>
+    <message>
+        <source>What the tool does, and how to go about it.</source>
+        <translation>Was das Werkzeug tut und wie man damit umgeht.</translation>
+    </message>
+    <message>
+        <source>No site is open</source>
+        <translation>Es ist keine Site geöffnet</translation>
+    </message>
+    <message>
+        <source>A site is a server in a folder, with its logs and settings.</source>
+        <translation>Eine Site ist ein Server in einem Ordner, mit seinen Protokollen und Einstellungen.</translation>
+    </message>
 </context>
 <context>
     <name>desktop::ConsolePane</name>
@@ -936,14 +986,6 @@
         <translation>Die Schaltflächen unter den Menüs ein- oder ausblenden</translation>
     </message>
     <message>
-        <source>No site is open.
-
-Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
-        <translation>Es ist keine Site geöffnet.
-
-Öffnen Sie eine mit Strg+Umschalt+O, oder legen Sie mit Strg+Umschalt+N einen Beispielserver an.</translation>
-    </message>
-    <message>
         <source>Status</source>
         <translation>Status</translation>
     </message>
@@ -966,6 +1008,26 @@ Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
     <message>
         <source>The server was not told to start new log files: the signal in its registry stayed what it was.</source>
         <translation>Dem Server wurde nicht mitgeteilt, neue Protokolldateien zu beginnen: Das Signal in seiner Registrierung blieb, was es war.</translation>
+    </message>
+    <message>
+        <source>%1 (not there)</source>
+        <translation>%1 (nicht vorhanden)</translation>
+    </message>
+    <message>
+        <source>&amp;Forget Folders That Are Not There</source>
+        <translation>Nicht vorhandene Ordner &amp;vergessen</translation>
+    </message>
+    <message>
+        <source>Sample Server</source>
+        <translation>Beispielserver</translation>
+    </message>
+    <message>
+        <source>Col&amp;umns</source>
+        <translation>Spal&amp;ten</translation>
+    </message>
+    <message>
+        <source>Sample server: %1</source>
+        <translation>Beispielserver: %1</translation>
     </message>
 </context>
 <context>
@@ -990,6 +1052,21 @@ Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
         <source>en_US</source>
         <extracomment>The language and country by which a calendar names its days.</extracomment>
         <translation>de_DE</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ScopeModel</name>
+    <message>
+        <source>d MMM yyyy</source>
+        <translation>d. MMM yyyy</translation>
+    </message>
+    <message>
+        <source>d MMM</source>
+        <translation>d. MMM</translation>
+    </message>
+    <message>
+        <source>%1 · current</source>
+        <translation>%1 · aktuell</translation>
     </message>
 </context>
 <context>

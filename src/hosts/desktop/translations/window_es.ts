@@ -476,6 +476,56 @@
         <source>Not all of it was done: %1.</source>
         <translation>No se hizo todo: %1.</translation>
     </message>
+    <message>
+        <source>%1 can be read with the viewer (orvandiag-viewer), which is not installed here.</source>
+        <translation>%1 se puede leer con el visor (orvandiag-viewer), que no está instalado aquí.</translation>
+    </message>
+</context>
+<context>
+    <name>ResultPlace</name>
+    <message>
+        <source>On this machine: %1</source>
+        <translation>En este equipo: %1</translation>
+    </message>
+    <message>
+        <source>No file manager was found on this machine. The results are in %1.</source>
+        <translation>No se ha encontrado ningún administrador de archivos en este equipo. Los resultados están en %1.</translation>
+    </message>
+</context>
+<context>
+    <name>StartPage</name>
+    <message>
+        <source>Open a Site</source>
+        <translation>Abrir un sitio</translation>
+    </message>
+    <message>
+        <source>The folder of a server, or of a copy of one. A folder that is dropped here is opened, too.</source>
+        <translation>La carpeta de un servidor o de una copia de uno. También se abre una carpeta que se suelte aquí.</translation>
+    </message>
+    <message>
+        <source>Make a Sample Server</source>
+        <translation>Crear un servidor de ejemplo</translation>
+    </message>
+    <message>
+        <source>A server with made-up logs, to try things on, in a new folder.</source>
+        <translation>Un servidor con registros inventados, para probar, en una carpeta nueva.</translation>
+    </message>
+    <message>
+        <source>Read the Manual</source>
+        <translation>Leer el manual</translation>
+    </message>
+    <message>
+        <source>What the tool does, and how to go about it.</source>
+        <translation>Qué hace la herramienta y cómo se usa.</translation>
+    </message>
+    <message>
+        <source>No site is open</source>
+        <translation>No hay ningún sitio abierto</translation>
+    </message>
+    <message>
+        <source>A site is a server in a folder, with its logs and settings.</source>
+        <translation>Un sitio es un servidor en una carpeta, con sus registros y su configuración.</translation>
+    </message>
 </context>
 <context>
     <name>desktop::ConsolePane</name>
@@ -936,14 +986,6 @@
         <translation>Mostrar u ocultar los botones debajo de los menús</translation>
     </message>
     <message>
-        <source>No site is open.
-
-Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
-        <translation>No hay ningún sitio abierto.
-
-Abra uno con Control+Mayúsculas+O o cree un servidor de ejemplo con Control+Mayúsculas+N.</translation>
-    </message>
-    <message>
         <source>Status</source>
         <translation>Estado</translation>
     </message>
@@ -966,6 +1008,26 @@ Abra uno con Control+Mayúsculas+O o cree un servidor de ejemplo con Control+May
     <message>
         <source>The server was not told to start new log files: the signal in its registry stayed what it was.</source>
         <translation>No se indicó al servidor que iniciara nuevos archivos de registro: la señal de su Registro siguió siendo la misma.</translation>
+    </message>
+    <message>
+        <source>%1 (not there)</source>
+        <translation>%1 (no está)</translation>
+    </message>
+    <message>
+        <source>&amp;Forget Folders That Are Not There</source>
+        <translation>&amp;Olvidar las carpetas que no están</translation>
+    </message>
+    <message>
+        <source>Sample Server</source>
+        <translation>Servidor de ejemplo</translation>
+    </message>
+    <message>
+        <source>Col&amp;umns</source>
+        <translation>Col&amp;umnas</translation>
+    </message>
+    <message>
+        <source>Sample server: %1</source>
+        <translation>Servidor de ejemplo: %1</translation>
     </message>
 </context>
 <context>
@@ -990,6 +1052,21 @@ Abra uno con Control+Mayúsculas+O o cree un servidor de ejemplo con Control+May
         <source>en_US</source>
         <extracomment>The language and country by which a calendar names its days.</extracomment>
         <translation>es_ES</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ScopeModel</name>
+    <message>
+        <source>d MMM yyyy</source>
+        <translation>d MMM yyyy</translation>
+    </message>
+    <message>
+        <source>d MMM</source>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>%1 · current</source>
+        <translation>%1 · actual</translation>
     </message>
 </context>
 <context>

@@ -476,6 +476,56 @@
         <source>Not all of it was done: %1.</source>
         <translation>Tout n&apos;a pas été effectué&#xa0;: %1.</translation>
     </message>
+    <message>
+        <source>%1 can be read with the viewer (orvandiag-viewer), which is not installed here.</source>
+        <translation>%1 peut être lu avec la visionneuse (orvandiag-viewer), qui n&apos;est pas installée ici.</translation>
+    </message>
+</context>
+<context>
+    <name>ResultPlace</name>
+    <message>
+        <source>On this machine: %1</source>
+        <translation>Sur cet ordinateur : %1</translation>
+    </message>
+    <message>
+        <source>No file manager was found on this machine. The results are in %1.</source>
+        <translation>Aucun gestionnaire de fichiers n&apos;a été trouvé sur cet ordinateur. Les résultats sont dans %1.</translation>
+    </message>
+</context>
+<context>
+    <name>StartPage</name>
+    <message>
+        <source>Open a Site</source>
+        <translation>Ouvrir un site</translation>
+    </message>
+    <message>
+        <source>The folder of a server, or of a copy of one. A folder that is dropped here is opened, too.</source>
+        <translation>Le dossier d&apos;un serveur, ou d&apos;une copie d&apos;un serveur. Un dossier déposé ici est ouvert également.</translation>
+    </message>
+    <message>
+        <source>Make a Sample Server</source>
+        <translation>Créer un serveur d&apos;exemple</translation>
+    </message>
+    <message>
+        <source>A server with made-up logs, to try things on, in a new folder.</source>
+        <translation>Un serveur aux journaux inventés, pour faire des essais, dans un nouveau dossier.</translation>
+    </message>
+    <message>
+        <source>Read the Manual</source>
+        <translation>Lire le manuel</translation>
+    </message>
+    <message>
+        <source>What the tool does, and how to go about it.</source>
+        <translation>Ce que fait l&apos;outil et comment s&apos;y prendre.</translation>
+    </message>
+    <message>
+        <source>No site is open</source>
+        <translation>Aucun site n&apos;est ouvert</translation>
+    </message>
+    <message>
+        <source>A site is a server in a folder, with its logs and settings.</source>
+        <translation>Un site est un serveur dans un dossier, avec ses journaux et ses paramètres.</translation>
+    </message>
 </context>
 <context>
     <name>desktop::ConsolePane</name>
@@ -936,14 +986,6 @@
         <translation>Afficher ou masquer les boutons sous les menus</translation>
     </message>
     <message>
-        <source>No site is open.
-
-Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
-        <translation>Aucun site n&apos;est ouvert.
-
-Ouvrez-en un avec Ctrl+Maj+O, ou créez un serveur d&apos;exemple avec Ctrl+Maj+N.</translation>
-    </message>
-    <message>
         <source>Status</source>
         <translation>État</translation>
     </message>
@@ -966,6 +1008,26 @@ Ouvrez-en un avec Ctrl+Maj+O, ou créez un serveur d&apos;exemple avec Ctrl+Maj+
     <message>
         <source>The server was not told to start new log files: the signal in its registry stayed what it was.</source>
         <translation>Le serveur n&apos;a pas été invité à commencer de nouveaux fichiers journaux&#xa0;: le signal dans son registre est resté le même.</translation>
+    </message>
+    <message>
+        <source>%1 (not there)</source>
+        <translation>%1 (absent)</translation>
+    </message>
+    <message>
+        <source>&amp;Forget Folders That Are Not There</source>
+        <translation>&amp;Oublier les dossiers absents</translation>
+    </message>
+    <message>
+        <source>Sample Server</source>
+        <translation>Serveur d&apos;exemple</translation>
+    </message>
+    <message>
+        <source>Col&amp;umns</source>
+        <translation>Col&amp;onnes</translation>
+    </message>
+    <message>
+        <source>Sample server: %1</source>
+        <translation>Serveur d&apos;exemple : %1</translation>
     </message>
 </context>
 <context>
@@ -990,6 +1052,21 @@ Ouvrez-en un avec Ctrl+Maj+O, ou créez un serveur d&apos;exemple avec Ctrl+Maj+
         <source>en_US</source>
         <extracomment>The language and country by which a calendar names its days.</extracomment>
         <translation>fr_FR</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ScopeModel</name>
+    <message>
+        <source>d MMM yyyy</source>
+        <translation>d MMM yyyy</translation>
+    </message>
+    <message>
+        <source>d MMM</source>
+        <translation>d MMM</translation>
+    </message>
+    <message>
+        <source>%1 · current</source>
+        <translation>%1 · en cours</translation>
     </message>
 </context>
 <context>

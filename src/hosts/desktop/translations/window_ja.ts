@@ -476,6 +476,56 @@
         <source>Not all of it was done: %1.</source>
         <translation>一部が実行されませんでした: %1。</translation>
     </message>
+    <message>
+        <source>%1 can be read with the viewer (orvandiag-viewer), which is not installed here.</source>
+        <translation>%1 はビューアー (orvandiag-viewer) で読めますが、ここにはインストールされていません。</translation>
+    </message>
+</context>
+<context>
+    <name>ResultPlace</name>
+    <message>
+        <source>On this machine: %1</source>
+        <translation>このコンピューター上: %1</translation>
+    </message>
+    <message>
+        <source>No file manager was found on this machine. The results are in %1.</source>
+        <translation>このコンピューターにはファイル マネージャーが見つかりません。結果は %1 にあります。</translation>
+    </message>
+</context>
+<context>
+    <name>StartPage</name>
+    <message>
+        <source>Open a Site</source>
+        <translation>サイトを開く</translation>
+    </message>
+    <message>
+        <source>The folder of a server, or of a copy of one. A folder that is dropped here is opened, too.</source>
+        <translation>サーバーまたはそのコピーのフォルダーです。ここにドロップしたフォルダーも開かれます。</translation>
+    </message>
+    <message>
+        <source>Make a Sample Server</source>
+        <translation>サンプル サーバーを作る</translation>
+    </message>
+    <message>
+        <source>A server with made-up logs, to try things on, in a new folder.</source>
+        <translation>架空のログを持つ試用のサーバーを、新しいフォルダーに作ります。</translation>
+    </message>
+    <message>
+        <source>Read the Manual</source>
+        <translation>マニュアルを読む</translation>
+    </message>
+    <message>
+        <source>What the tool does, and how to go about it.</source>
+        <translation>このツールでできることと、その使い方です。</translation>
+    </message>
+    <message>
+        <source>No site is open</source>
+        <translation>サイトが開かれていません</translation>
+    </message>
+    <message>
+        <source>A site is a server in a folder, with its logs and settings.</source>
+        <translation>サイトとは、ログと設定を含めてフォルダーに収めたサーバーです。</translation>
+    </message>
 </context>
 <context>
     <name>desktop::ConsolePane</name>
@@ -936,14 +986,6 @@
         <translation>メニューの下のボタンを表示または非表示にします</translation>
     </message>
     <message>
-        <source>No site is open.
-
-Open one with Ctrl+Shift+O, or make a sample server with Ctrl+Shift+N.</source>
-        <translation>開いているサイトはありません。
-
-Ctrl+Shift+O でサイトを開くか、Ctrl+Shift+N でサンプル サーバーを作成してください。</translation>
-    </message>
-    <message>
         <source>Status</source>
         <translation>状態</translation>
     </message>
@@ -966,6 +1008,26 @@ Ctrl+Shift+O でサイトを開くか、Ctrl+Shift+N でサンプル サーバ�
     <message>
         <source>The server was not told to start new log files: the signal in its registry stayed what it was.</source>
         <translation>サーバーに新しいログ ファイルの開始が伝えられませんでした。レジストリのシグナルは変わりませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 (not there)</source>
+        <translation>%1 (ありません)</translation>
+    </message>
+    <message>
+        <source>&amp;Forget Folders That Are Not There</source>
+        <translation>存在しないフォルダーを一覧から消す(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Sample Server</source>
+        <translation>サンプル サーバー</translation>
+    </message>
+    <message>
+        <source>Col&amp;umns</source>
+        <translation>列(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Sample server: %1</source>
+        <translation>サンプル サーバー: %1</translation>
     </message>
 </context>
 <context>
@@ -990,6 +1052,21 @@ Ctrl+Shift+O でサイトを開くか、Ctrl+Shift+N でサンプル サーバ�
         <source>en_US</source>
         <extracomment>The language and country by which a calendar names its days.</extracomment>
         <translation>ja_JP</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::ScopeModel</name>
+    <message>
+        <source>d MMM yyyy</source>
+        <translation>yyyy年M月d日</translation>
+    </message>
+    <message>
+        <source>d MMM</source>
+        <translation>M月d日</translation>
+    </message>
+    <message>
+        <source>%1 · current</source>
+        <translation>%1 · 現在</translation>
     </message>
 </context>
 <context>

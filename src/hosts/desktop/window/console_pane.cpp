@@ -27,8 +27,6 @@ namespace {
 
 constexpr const char* splitterKey = "window/splitter";
 
-/// Of the tasks, the one that changes the server at once; the others open sheets.
-
 /// The console is at work: the pointer says so, and further calls can see it.
 class AtWork {
 public:
@@ -63,7 +61,7 @@ ConsolePane::ConsolePane(Console& console, const CodePage& codePage, const QStri
     splitter_->setStretchFactor(1, 1);
     splitter_->setChildrenCollapsible(false);
     splitter_->setHandleWidth(1);
-    splitter_->setSizes({290, 890});
+    splitter_->setSizes({226, 954});
     splitter_->restoreState(settings_.value(splitterKey).toByteArray());
     connect(splitter_, &QSplitter::splitterMoved, this,
             [this] { settings_.setValue(splitterKey, splitter_->saveState()); });
@@ -91,7 +89,8 @@ void ConsolePane::makeTree()
     tree_->setUniformRowHeights(true);
     tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     tree_->setContextMenuPolicy(Qt::CustomContextMenu);
-    tree_->setMinimumWidth(160);
+    tree_->setIndentation(12);
+    tree_->setMinimumWidth(140);
     tree_->setTextElideMode(Qt::ElideMiddle);
     connect(tree_->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &ConsolePane::treeCurrentChanged);
@@ -187,12 +186,15 @@ void ConsolePane::perform(const std::function<void(Console&)>& call)
         return emit said(tr("The tool is still finishing what was cancelled. One moment."));
     {
         const AtWork atWork{console_};
+        moved_ = toolSpoke_ = false;
         try {
             call(console_);
         } catch (const RunTimeError& error) {
             handlerFailed(error);
         }
         followSelection();
+        // What the tool said of the node that was left does not hold for this one.
+        if (moved_ && !toolSpoke_) emit statusText({});
     }
     emit callDone();
 }
@@ -207,6 +209,7 @@ void ConsolePane::performChange(const std::string& item, const std::function<voi
 
 void ConsolePane::renewTexts()
 {
+    tree_->viewport()->update();
     if (log_) log_->renewHeaders();
     if (listModel_.list()) listModel_.renewHeaders();
     if (views_->currentWidget() == taskPad_)
@@ -286,6 +289,7 @@ void ConsolePane::followSelection()
 
 void ConsolePane::selectionChanged(View&)
 {
+    moved_ = true;
     followSelection();
     tree_->expand(tree_->model()->index(0, 0));
 }
@@ -318,6 +322,7 @@ void ConsolePane::viewFilled(ResultView& resultView)
 
 void ConsolePane::statusBarChanged(View& view)
 {
+    toolSpoke_ = true;
     emit statusText(QString::fromStdString(view.statusBarText()));
 }
 

@@ -134,6 +134,8 @@ private:
     QTreeView* children_ = nullptr; ///< this and the next two: null before they are first shown
     ListTable* list_ = nullptr;
     LogView* log_ = nullptr;
+    bool moved_ = false;            ///< the selection, in the call under way
+    bool toolSpoke_ = false;        ///< in the status bar, in the call under way
     QPersistentModelIndex pending_; ///< what the person selected and the console has not yet
     QPointer<SheetDialog> sheet_;
 };

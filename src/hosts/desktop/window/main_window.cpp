@@ -6,27 +6,28 @@
 #include "hosts/common/look/elided_label.h"
 #include "hosts/common/look/icons.h"
 #include "hosts/common/look/notice_bar.h"
-#include "hosts/common/look/path_dialog.h"
 #include "hosts/common/look/screen_room.h"
 #include "hosts/common/look/theme.h"
 #include "hosts/desktop/log/list_table.h"
 #include "hosts/desktop/log/log_view.h"
 #include "hosts/desktop/open_tool.h"
+#include "hosts/desktop/sheets/gather_additions.h"
 #include "hosts/desktop/sheets/sheet_dialog.h"
 #include "hosts/desktop/window/about_dialog.h"
 #include "hosts/desktop/window/console_pane.h"
 #include "hosts/desktop/window/help_topics.h"
 #include "hosts/desktop/window/key_list.h"
+#include "hosts/desktop/window/start_page.h"
 #include "hosts/desktop/window/task_pad_view.h"
+#include "sample/sample_server.h"
 #include "settings/about_box.h"
 #include "shell/snapin_names.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFileDialog>
-#include <QFileInfo>
-#include <QLabel>
+#include <QDir>
+#include <QLocale>
 #include <QMenu>
 #include <QSettings>
 #include <QStackedWidget>
@@ -53,13 +54,13 @@ constexpr int largestText = 40;
 MainWindow::MainWindow(QSettings& settings) : settings_(settings)
 {
     setWindowIcon(toolIcon(QStringLiteral("console")));
+    setAcceptDrops(true);
     auto* body = new QWidget(this);
     notice_ = new NoticeBar(body);
     centre_ = new QStackedWidget(body);
-    empty_ = new QLabel(centre_);
-    empty_->setTextFormat(Qt::PlainText);
-    empty_->setAlignment(Qt::AlignCenter);
-    centre_->addWidget(empty_);
+    start_ = new StartPage(centre_);
+    start_->chosen = [this](Command command) { run(command); };
+    centre_->addWidget(start_);
     auto* column = new QVBoxLayout(body);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -104,8 +105,7 @@ void MainWindow::setTool(OpenTool* tool)
     notice_->hide();
     if (tool_) {
         const QString site = QString::fromStdString(tool_->site().folder());
-        siteName_->setText(
-            QString(site).replace(QDir::homePath() + QLatin1Char('/'), QStringLiteral("~/")));
+        sample_ = isSampleServer(tool_->site().folder());
         pane_ =
             new ConsolePane(tool_->console(), tool_->site().codePage(), site, settings_, centre_);
         centre_->addWidget(pane_);
@@ -185,15 +185,23 @@ void MainWindow::watchSheet(SheetDialog& dialog)
     connect(&dialog, &SheetDialog::acted, this, [this, &dialog] { tellUndone(&dialog); });
     connect(&dialog, &SheetDialog::cancelling, this,
             [this, &dialog] { gathers_.cancelled(dialog.sheet().currentPage()); });
-    dialog.aroundTick = [this, &dialog](const SheetPage& page, Timer& timer,
-                                        const std::function<void()>& run) {
-        const auto machinePath = [this](const std::string& path) {
-            return tool_->site().paths().machinePath(path);
-        };
+    const auto machinePath = [this](const std::string& path) {
+        return tool_->site().paths().machinePath(path);
+    };
+    dialog.aroundTick = [this, &dialog, machinePath](const SheetPage& page, Timer& timer,
+                                                     const std::function<void()>& run) {
         sayWhereThePersonIs(&dialog, gathers_.tick(tool_->context(), tool_->report(), page, timer,
                                                    machinePath, run));
     };
     const bool gathers = isGatherSheet(dialog.sheet());
+    if (gathers) {
+        dialog.additionTo = [machinePath](SheetPage& page) {
+            return gatherAddition(page, machinePath);
+        };
+        dialog.explain = [machinePath](const SheetPage& page, const RunTimeError& error) {
+            return gatherExplanation(page, error, machinePath);
+        };
+    }
     // A gather adds to the server, beside programs that change it.
     if (!gathers)
         dialog.aroundChange = [this](const std::function<void()>& run) { tool_->changing(run); };
@@ -243,7 +251,10 @@ void MainWindow::updateTitle()
 {
     const QString tool = tr("Orvan Diagnostic Tool");
     const QString node = pane_ ? pane_->selectedName() : QString();
-    setWindowTitle(node.isEmpty() ? tool : QStringLiteral("%1 - %2").arg(node, tool));
+    if (node.isEmpty()) return setWindowTitle(tool);
+    QStringList parts{node, tool};
+    if (sample_) parts.insert(1, tr("Sample Server"));
+    setWindowTitle(parts.join(QStringLiteral(" - ")));
 }
 
 bool MainWindow::showNode(const std::string& key)
@@ -329,7 +340,8 @@ void MainWindow::runInTable(Command command)
     if (!table) return;
     if (command == Command::selectAll) return table->selectAll();
     const int rows = command == Command::copy ? table->copyAsText() : table->copyAsCsv();
-    statusBar()->showMessage(rows == 1 ? tr("1 row copied.") : tr("%1 rows copied.").arg(rows),
+    statusBar()->showMessage(rows == 1 ? tr("1 row copied.")
+                                       : tr("%1 rows copied.").arg(QLocale().toString(rows)),
                              sayMilliseconds);
 }
 
@@ -385,33 +397,6 @@ void MainWindow::changeTextSize(int step)
     if (step != 0) settings_.setValue(textSizeKey, size);
     font.setPointSize(size);
     pane_->setTextFont(font);
-}
-
-/// False while a page is at work: what it works on would go from below it.
-bool MainWindow::mayLeaveSite()
-{
-    if (!pane_ || !pane_->sheetAtWork()) return true;
-    statusBar()->showMessage(tr("The gather is being ended. Try again in a moment."),
-                             sayMilliseconds);
-    return false;
-}
-
-void MainWindow::pickSite()
-{
-    if (!mayLeaveSite()) return;
-    const QString title =
-        tr("Open Site: the folder of a server, with site.ini, registry.reg or drive_c");
-    const QString folder = PathDialog(this, title, PathDialog::Directory).ask();
-    if (!folder.isEmpty()) emit siteAsked(folder);
-}
-
-void MainWindow::pickSampleFolder()
-{
-    if (!mayLeaveSite()) return;
-    const QString folder = QFileDialog::getSaveFileName(
-        this, tr("Make Sample Server in a New Folder"),
-        QDir::homePath() + QStringLiteral("/orvan-sample"), {}, nullptr, QFileDialog::ShowDirsOnly);
-    if (!folder.isEmpty()) emit sampleAsked(folder);
 }
 
 void MainWindow::showKeys()

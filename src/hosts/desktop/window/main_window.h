@@ -15,7 +15,6 @@
 
 class ElidedLabel;
 class NoticeBar;
-class QLabel;
 class QMenu;
 class QSettings;
 class QStackedWidget;
@@ -26,6 +25,7 @@ namespace desktop {
 class ConsolePane;
 class OpenTool;
 class SheetDialog;
+class StartPage;
 
 /// The console's window: menus, tool bar, panes and status bar, over the tool that is open.
 class MainWindow final : public QMainWindow {
@@ -81,7 +81,12 @@ signals:
     void sampleAsked(const QString& folder);
     void helpAsked(int topic);
 
+    /// The person wants to read a file of the machine.
+    void fileAsked(const QString& path);
+
 protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -130,7 +135,7 @@ private:
     ConsolePane* pane_ = nullptr;
     NoticeBar* notice_ = nullptr;
     QStackedWidget* centre_ = nullptr;
-    QLabel* empty_ = nullptr;
+    StartPage* start_ = nullptr;
     ElidedLabel* status_ = nullptr;
     ElidedLabel* siteName_ = nullptr;
     QToolBar* toolBar_ = nullptr;
@@ -140,6 +145,7 @@ private:
     std::optional<TrappedErrorListener> listener_; ///< of `tool_`, for `undone_`
     NewLogsSignal newLogs_;
     GatherNotice gathers_;
+    bool sample_ = false;      ///< what is open is a sample server
     std::string unlistedLogs_; ///< why, as it was told
     bool closing_ = false;     ///< as soon as the work at hand is done
     std::map<Command, QAction*> actions_;

@@ -8,10 +8,10 @@
 #include "hosts/desktop/sheets/mnemonics.h"
 #include "hosts/desktop/window/console_pane.h"
 #include "hosts/desktop/window/main_window.h"
-#include "hosts/desktop/window/recent_sites.h"
+#include "hosts/desktop/window/start_page.h"
 
 #include <QActionGroup>
-#include <QLabel>
+#include <QDir>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSettings>
@@ -30,6 +30,7 @@ const std::set<Command> logCommands = {
     Command::toggleBookmark, Command::nextBookmark, Command::previousBookmark,
     Command::clearBookmarks, Command::details,      Command::largerText,
     Command::smallerText,    Command::normalText};
+const QString columnsName = QStringLiteral("columns");
 const std::set<Command> tableCommands = {Command::copy, Command::copyCsv, Command::selectAll};
 
 QString toolTipOf(const QAction& action)
@@ -73,6 +74,16 @@ void MainWindow::makeMenus()
         menu->addAction(actions_[info.command]);
     }
     menus_[CommandMenu::view]->addMenu(menus_[CommandMenu::theme]);
+    auto* columns = new QMenu(this);
+    columns->setObjectName(columnsName);
+    menus_[CommandMenu::view]->addMenu(columns);
+    connect(menus_[CommandMenu::view], &QMenu::aboutToShow, this,
+            [this, columns] { columns->menuAction()->setEnabled(pane_ && pane_->table()); });
+    connect(columns, &QMenu::aboutToShow, this, [this, columns] {
+        columns->clear();
+        ListTable* table = pane_ ? pane_->table() : nullptr;
+        if (table) table->offerColumns(*columns);
+    });
     recent_ = new QMenu(this);
     menus_[CommandMenu::file]->insertMenu(actions_[Command::makeSample], recent_);
     connect(menus_[CommandMenu::file], &QMenu::aboutToShow, this, &MainWindow::rebuildRecentSites);
@@ -105,31 +116,22 @@ void MainWindow::showTexts()
     for (const auto& info : Commands::menus())
         menus_[info.menu]->setTitle(Commands::tr(info.title));
     recent_->setTitle(tr("&Recent Sites"));
+    findChild<QMenu*>(columnsName)->setTitle(tr("Col&umns"));
     toolBar_->setWindowTitle(tr("Tool Bar"));
     QAction* toggle = toolBar_->toggleViewAction();
     toggle->setText(tr("Tool &Bar"));
     toggle->setStatusTip(tr("Show or hide the buttons below the menus"));
-    empty_->setText(tr("No site is open.\n\nOpen one with Ctrl+Shift+O, or make a sample server "
-                       "with Ctrl+Shift+N."));
+    start_->showTexts();
     status_->setAccessibleName(tr("Status"));
-    if (tool_)
-        siteName_->setToolTip(plainToolTip(
-            tr("The site on show: %1").arg(QString::fromStdString(tool_->site().folder()))));
+    if (tool_) {
+        const QString folder = QString::fromStdString(tool_->site().folder());
+        const QString brief =
+            QString(folder).replace(QDir::homePath() + QLatin1Char('/'), QStringLiteral("~/"));
+        siteName_->setText(sample_ ? tr("Sample server: %1").arg(brief) : brief);
+        siteName_->setToolTip(plainToolTip(tr("The site on show: %1").arg(folder)));
+    }
     rebuildConsoleItems();
     updateTitle();
-}
-
-void MainWindow::rebuildRecentSites()
-{
-    recent_->clear();
-    int number = 0;
-    for (const QString& folder : recentSites(settings_)) {
-        ++number;
-        recent_->addAction(QStringLiteral("&%1  %2").arg(number).arg(folder), this, [this, folder] {
-            if (mayLeaveSite()) emit siteAsked(folder);
-        });
-    }
-    recent_->menuAction()->setEnabled(number > 0);
 }
 
 /// The tool's own items, as it declares them for the present selection: task menu, then top menu.

@@ -25,4 +25,11 @@ void rememberSite(QSettings& settings, const QString& folder)
     if (sites != before) settings.setValue(sitesKey, sites);
 }
 
+void forgetSites(QSettings& settings, const QStringList& folders)
+{
+    QStringList sites = recentSites(settings);
+    for (const QString& folder : folders) sites.removeAll(folder);
+    if (sites != recentSites(settings)) settings.setValue(sitesKey, sites);
+}
+
 } // namespace desktop

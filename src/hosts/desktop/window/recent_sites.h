@@ -12,4 +12,7 @@ QStringList recentSites(const QSettings& settings);
 /// Puts a folder first; the list keeps eight.
 void rememberSite(QSettings& settings, const QString& folder);
 
+/// Takes folders off the list; what lies in them is left alone.
+void forgetSites(QSettings& settings, const QStringList& folders);
+
 } // namespace desktop

@@ -4,9 +4,42 @@
 #include "hosts/common/look/icons.h"
 #include "hosts/common/look/plain_tool_tip.h"
 
+#include <QDateTime>
+#include <QLocale>
+
 #include <algorithm>
+#include <string_view>
 
 namespace desktop {
+
+namespace {
+
+constexpr std::size_t dayLength = 8; ///< of "20250219_144115"
+constexpr std::size_t minuteLength = 13;
+constexpr std::size_t stampLength = 15;
+
+/// When a log was begun, as its file name has it ("20250219_144115"); empty for a name that has no
+/// such end.
+std::string_view stampOf(std::string_view name)
+{
+    const auto end = name.rfind('.');
+    if (end == name.npos || end <= stampLength || name[end - stampLength - 1] != '_') return {};
+    const std::string_view stamp = name.substr(end - stampLength, stampLength);
+    for (std::size_t at = 0; at < stampLength; ++at) {
+        const bool digit = stamp[at] >= '0' && stamp[at] <= '9';
+        if (digit == (at == dayLength)) return {};
+    }
+    return stamp[dayLength] == '_' ? stamp : std::string_view();
+}
+
+QDateTime momentOf(std::string_view stamp)
+{
+    return QDateTime::fromString(
+        QString::fromLatin1(stamp.data(), static_cast<qsizetype>(stamp.size())),
+        QStringLiteral("yyyyMMdd_HHmmss"));
+}
+
+} // namespace
 
 ScopeModel::ScopeModel(Console& console, QObject* parent)
     : QAbstractItemModel(parent), console_(console)
@@ -101,12 +134,42 @@ bool ScopeModel::hasChildren(const QModelIndex& parent) const
     return entry.item ? entry.item->hasChildren() : !entry.children.empty();
 }
 
+/// A log's moment to the minute, or to the second where another log was begun in that minute; with
+/// the year where the newest log beside it is of another one. Other nodes go by their names.
+QString ScopeModel::shownName(const Entry& entry)
+{
+    const std::string& key = entry.item->key();
+    const std::string& name = entry.item->displayName();
+    const std::string_view stamp = stampOf(key);
+    const bool ofProcess = name.size() >= key.size() && name.ends_with(key) &&
+                           name.find('\\') == name.npos && entry.parent->item;
+    const QDateTime begun = ofProcess ? momentOf(stamp) : QDateTime();
+    if (!begun.isValid()) return QString::fromStdString(name);
+    bool seconds = false;
+    std::string_view newest = stamp;
+    for (const auto& sibling : entry.parent->children) {
+        const std::string_view other = stampOf(sibling->item->key());
+        newest = std::max(newest, other);
+        seconds |= sibling.get() != &entry &&
+                   other.substr(0, minuteLength) == stamp.substr(0, minuteLength);
+    }
+    const bool year = momentOf(newest).date().year() != begun.date().year();
+    const QLocale locale;
+    const QString day = locale.toString(begun.date(), year ? tr("d MMM yyyy") : tr("d MMM"));
+    const QString moment =
+        day + QLatin1Char(' ') +
+        begun.time().toString(seconds ? QStringLiteral("HH:mm:ss") : QStringLiteral("HH:mm"));
+    return name == key ? moment : tr("%1 \u00b7 current").arg(moment);
+}
+
 QVariant ScopeModel::data(const QModelIndex& index, int role) const
 {
     const ScopeItem* item = itemAt(index);
     if (!item) return {};
     switch (role) {
     case Qt::DisplayRole:
+        return shownName(entryAt(index));
+    case Qt::AccessibleTextRole:
         return QString::fromStdString(item->displayName());
     case Qt::ToolTipRole:
         return plainToolTip(QString::fromStdString(item->displayName()));

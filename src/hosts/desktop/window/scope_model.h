@@ -34,6 +34,9 @@ public:
 
     /// Whether a node may be opened: a log never, another as long as it was not.
     bool hasChildren(const QModelIndex& parent = {}) const override;
+
+    /// A log goes by the moment it was begun ("19 Feb 14:41 · current"), in the interface language;
+    /// its tool tip, and what a screen reader is given, is the tool's own name for it.
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:
@@ -49,6 +52,7 @@ private:
     void scopeItemChanged(ScopeItem& item) override;
     void scopeItemRemoved(ScopeItem& item) override;
 
+    static QString shownName(const Entry& entry);
     void fill(Entry& entry);
     Entry* entryOf(const ScopeItem& item) const;
     const Entry& entryAt(const QModelIndex& index) const;

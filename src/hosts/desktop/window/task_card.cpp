@@ -39,17 +39,25 @@ void drawCard(QPainter& painter, const QRect& card, const QColor& fill, const QC
 } // namespace
 
 TaskCard::TaskCard(const QIcon& symbol, const QString& title, const QString& help, QWidget* parent)
-    : QAbstractButton(parent), help_(help)
+    : QAbstractButton(parent)
 {
     setIcon(symbol);
-    setText(title);
-    setAccessibleName(title);
-    setAccessibleDescription(help);
+    setTexts(title, help);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
+}
+
+void TaskCard::setTexts(const QString& title, const QString& help)
+{
+    help_ = help;
+    textHeights_.clear();
+    setText(title);
+    setAccessibleName(title);
+    setAccessibleDescription(help);
+    updateGeometry();
 }
 
 QFont TaskCard::titleFont() const

@@ -14,6 +14,9 @@ public:
     TaskCard(const QIcon& symbol, const QString& title, const QString& help,
              QWidget* parent = nullptr);
 
+    /// Gives the card another title and sentence, as in another language.
+    void setTexts(const QString& title, const QString& help);
+
     QSize sizeHint() const override;
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override;

@@ -40,7 +40,12 @@ struct Vanished : testing::Test {
     QString olderLog(const char* process)
     {
         const QModelIndex above = node({QString::fromLatin1(process)});
-        return shown.pane().tree().model()->index(1, 0, above).data().toString();
+        return shown.pane()
+            .tree()
+            .model()
+            ->index(1, 0, above)
+            .data(Qt::AccessibleTextRole)
+            .toString();
     }
 
     /// Closes every message box from now on.

@@ -11,6 +11,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QTest>
 
@@ -305,6 +306,55 @@ TEST(LogView, ALogThatShrankIsReadAnewByRefresh)
     EXPECT_LT(shown.log().model().rowCount(), all);
     EXPECT_EQ(shown.shownList().itemCount(), shown.log().model().rowCount());
     EXPECT_TRUE(shown.window->problem().isEmpty());
+}
+
+TEST(LogView, HidesColumnsByTheViewMenuAndRemembersThem)
+{
+    TestWindow shown;
+    shown.showLog("KoCSMgr");
+    ListTable* table = &shown.log().table();
+    const int width = table->columnWidth(1);
+    const int trace = table->model()->columnCount() - 1;
+    auto* columns = shown.window->findChild<QMenu*>("columns");
+    ASSERT_NE(nullptr, columns);
+    const auto click = [&](int column) {
+        emit columns->aboutToShow();
+        columns->actions().at(column)->trigger();
+    };
+    click(0);
+    click(1);
+    EXPECT_TRUE(table->isColumnHidden(0));
+    EXPECT_TRUE(table->isColumnHidden(1));
+    EXPECT_EQ(trace, columns->actions().size()) << "the trace itself stays";
+    table->setColumnWidth(2, 133);
+    table->goTo(200);
+    EXPECT_TRUE(table->viewport()->rect().intersects(table->visualRect(table->currentIndex())))
+        << "the current line can still be gone to";
+
+    shown.reopen();
+    shown.showLog("KoCSMgr");
+    table = &shown.log().table();
+    EXPECT_TRUE(table->isColumnHidden(1));
+    EXPECT_EQ(133, table->columnWidth(2));
+    columns = shown.window->findChild<QMenu*>("columns");
+    click(1);
+    EXPECT_FALSE(table->isColumnHidden(1));
+    EXPECT_EQ(width, table->columnWidth(1));
+    EXPECT_TRUE(table->isColumnHidden(0));
+}
+
+TEST(LogView, ShowsTheTraceBesideTwoHiddenColumnsInAWindowOf800By600)
+{
+    TestWindow shown;
+    shown.window->resize(800, 600);
+    shown.showLog("KoCSMgr");
+    settle();
+    ListTable& table = shown.log().table();
+    QMenu columns;
+    table.offerColumns(columns);
+    for (const int column : {2, 3}) columns.actions().at(column)->trigger();
+    const int trace = table.model()->columnCount() - 1;
+    EXPECT_GE(table.viewport()->width() - table.columnViewportPosition(trace), 150);
 }
 
 } // namespace

@@ -1,9 +1,11 @@
 #include "hosts/common/look/theme.h"
 
+#include "hosts/common/look/icons.h"
 #include "hosts/desktop/support/test_window.h"
 
 #include <QApplication>
 #include <QIcon>
+#include <QMenu>
 #include <QStyle>
 
 #include <gtest/gtest.h>
@@ -134,6 +136,33 @@ TEST(ToolStyle, DrawsTheSymbolsOfBarsAndFieldsInTheColoursOfTheTheme)
                 << static_cast<int>(which) << theme::nameOf(scheme).toStdString();
     }
     theme::apply(theme::Scheme::light);
+}
+
+/// Whether a menu, as drawn with its only entry chosen or not, has a colour in the room of its
+/// icon.
+bool showsInIcon(QMenu& menu, bool chosen, const QColor& colour)
+{
+    menu.setActiveAction(chosen ? menu.actions().front() : nullptr);
+    const QImage drawn = menu.grab().toImage();
+    const QRect entry = menu.actionGeometry(menu.actions().front());
+    for (int y = entry.top(); y <= entry.bottom(); ++y)
+        for (int x = entry.left(); x < entry.left() + 32; ++x)
+            if (drawn.pixelColor(x, y) == colour) return true;
+    return false;
+}
+
+TEST(Theme, AnIconOfAChosenMenuEntryIsInTheColourOfItsText)
+{
+    testApplication();
+    theme::apply(theme::Scheme::light);
+    QMenu menu;
+    menu.addAction(toolIcon(QStringLiteral("gather")), QString());
+    menu.ensurePolished();
+    menu.resize(menu.sizeHint());
+    const QColor ink("#3b4754");
+    EXPECT_TRUE(showsInIcon(menu, false, ink));
+    EXPECT_FALSE(showsInIcon(menu, true, ink));
+    EXPECT_TRUE(showsInIcon(menu, true, Qt::white));
 }
 
 } // namespace

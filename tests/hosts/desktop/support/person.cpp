@@ -225,13 +225,20 @@ void person::pickNext(const std::string& path)
     });
 }
 
+/// What a screen reader is given, where that is not what is shown.
+static QString nameOf(const QModelIndex& index)
+{
+    const QString spoken = index.data(Qt::AccessibleTextRole).toString();
+    return spoken.isEmpty() ? index.data().toString() : spoken;
+}
+
 QModelIndex rowAt(const QAbstractItemModel& model, const QStringList& names)
 {
     QModelIndex at;
     for (const QString& name : names) {
         QModelIndex found;
         for (int row = 0; row < model.rowCount(at) && !found.isValid(); ++row)
-            if (model.index(row, 0, at).data().toString() == name) found = model.index(row, 0, at);
+            if (nameOf(model.index(row, 0, at)) == name) found = model.index(row, 0, at);
         if (!found.isValid()) return {};
         at = found;
     }

@@ -12,11 +12,15 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QClipboard>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QFile>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QTest>
 #include <QTreeView>
+#include <QUrl>
 
 #include <gmock/gmock.h>
 
@@ -62,7 +66,7 @@ TEST(MainWindow, OpensOnTheTaskPadWithSixTasks)
     EXPECT_EQ(QStringLiteral("Configure Macro Traces"), cards[0]->text());
     EXPECT_TRUE(cards[0]->isVisible());
     EXPECT_FALSE(cards[0]->accessibleDescription().isEmpty());
-    EXPECT_EQ(QStringLiteral("Kelma Orvan Diagnostics - Orvan Diagnostic Tool"),
+    EXPECT_EQ(QStringLiteral("Kelma Orvan Diagnostics - Sample Server - Orvan Diagnostic Tool"),
               shown.window->windowTitle());
 }
 
@@ -129,6 +133,20 @@ TEST(MainWindow, OpensALogFileThatThePersonPicks)
 
     shown.window->consoleAction("mnuOpenLogFile")->trigger();
     EXPECT_EQ(QString::fromStdString(path), shown.pane().selectedName()) << "a cancelled picker";
+}
+
+TEST(MainWindow, WhatTheToolSaidOfALogGoesWithTheLog)
+{
+    TestWindow shown;
+    shown.showLog("KoCSMgr");
+    EXPECT_EQ(QStringLiteral("Format Completed."), shown.window->statusText());
+    shown.window->showNode("KoCSMgr");
+    EXPECT_EQ(QString(), shown.window->statusText());
+
+    shown.showLog("KoCSMgr");
+    shown.window->consoleAction("mnuStartNewLogFiles")->trigger();
+    EXPECT_EQ(QStringLiteral("New log files started."), shown.window->statusText())
+        << "said while the selection moved";
 }
 
 TEST(MainWindow, OpensALogByEnterInTheListOfLogs)
@@ -279,6 +297,72 @@ TEST(MainWindow, MakesTheReaderOfLogsWhenTheFirstLogIsShown)
     EXPECT_EQ(theme::traceFont().pointSize() + 1, shown.log().table().font().pointSize());
 }
 
+/// The menu of recent sites, as it is when the menu of files is opened.
+QMenu& recentMenu(TestWindow& shown)
+{
+    QMenu* recent = nullptr;
+    for (auto* menu : shown.window->findChildren<QMenu*>()) {
+        if (menu->title() == "&File") emit menu->aboutToShow();
+        if (menu->title().contains("Recent")) recent = menu;
+    }
+    return *recent;
+}
+
+TEST(MainWindow, GreysRecentSitesThatAreGoneAndForgetsThem)
+{
+    TestWindow shown;
+    const QString present = QString::fromStdString(shown.server.folder().makeFolder("present"));
+    rememberSite(shown.settings, QStringLiteral("/nowhere/at all"));
+    rememberSite(shown.settings, present);
+
+    const QList<QAction*> entries = recentMenu(shown).actions();
+    ASSERT_EQ(4, entries.size());
+    EXPECT_TRUE(entries[0]->isEnabled());
+    EXPECT_FALSE(entries[1]->isEnabled());
+    EXPECT_TRUE(entries[1]->text().contains("/nowhere/at all (not there)"));
+    entries[3]->trigger();
+    EXPECT_EQ(QStringList{present}, recentSites(shown.settings));
+    EXPECT_EQ(1, recentMenu(shown).actions().size()) << "nothing more to forget";
+}
+
+/// Drops paths of the machine on a window. Whether it took them.
+bool drop(QWidget& window, const QStringList& paths)
+{
+    QMimeData carried;
+    QList<QUrl> urls;
+    for (const QString& path : paths) urls << QUrl::fromLocalFile(path);
+    carried.setUrls(urls);
+    const QPoint place = window.rect().center();
+    QDragEnterEvent enter(place, Qt::CopyAction, &carried, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(&window, &enter);
+    if (!enter.isAccepted()) return false;
+    QDropEvent dropped(place, Qt::CopyAction, &carried, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &dropped);
+    settle();
+    return dropped.isAccepted();
+}
+
+TEST(MainWindow, TakesAFolderThatIsDroppedForASiteAndAFileForALog)
+{
+    TestWindow shown;
+    QStringList sites;
+    QStringList files;
+    QObject::connect(shown.window.get(), &MainWindow::siteAsked,
+                     [&](const QString& folder) { sites << folder; });
+    QObject::connect(shown.window.get(), &MainWindow::fileAsked,
+                     [&](const QString& path) { files << path; });
+    const QString folder = QString::fromStdString(shown.server.site());
+    const QString file = QString::fromStdString(shown.server.folder() / "site/site.ini");
+
+    EXPECT_TRUE(drop(*shown.window, {folder}));
+    EXPECT_TRUE(drop(*shown.window, {file}));
+    EXPECT_FALSE(drop(*shown.window, {folder, file})) << "there is one window";
+
+    EXPECT_EQ(QStringList{folder}, sites);
+    EXPECT_EQ(QStringList{file}, files);
+}
+
 /// A standard gather at its progress page, with the run about to begin.
 WizardSheet& gatherAtItsStart(TestWindow& shown)
 {
@@ -291,12 +375,9 @@ WizardSheet& gatherAtItsStart(TestWindow& shown)
 TEST(MainWindow, StaysWithItsSiteWhileACancelledGatherEnds)
 {
     TestWindow shown;
-    rememberSite(shown.settings, QStringLiteral("/tmp/another"));
-    QAction* recent = nullptr;
-    for (auto* menu : shown.window->findChildren<QMenu*>()) {
-        if (menu->title() == "&File") emit menu->aboutToShow();
-        if (menu->title().contains("Recent")) recent = menu->actions().value(0);
-    }
+    const auto another = QString::fromStdString(shown.server.folder().makeFolder("another"));
+    rememberSite(shown.settings, another);
+    QAction* recent = recentMenu(shown).actions().value(0);
     ASSERT_NE(nullptr, recent);
     QStringList asked;
     QObject::connect(shown.window.get(), &MainWindow::siteAsked,
@@ -314,7 +395,7 @@ TEST(MainWindow, StaysWithItsSiteWhileACancelledGatherEnds)
     EXPECT_TRUE(asked.isEmpty()) << "the run would go on with a tool that has gone";
 
     recent->trigger();
-    EXPECT_EQ(QStringList{QStringLiteral("/tmp/another")}, asked);
+    EXPECT_EQ(QStringList{another}, asked);
 }
 
 } // namespace

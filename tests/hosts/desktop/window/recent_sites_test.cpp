@@ -32,6 +32,13 @@ TEST_F(RecentSites, AreTheLatestEight)
     EXPECT_EQ("/site3", recentSites(settings).back());
 }
 
+TEST_F(RecentSites, CanBeForgotten)
+{
+    for (const char* site : {"/a", "/b", "/c"}) rememberSite(settings, QString::fromLatin1(site));
+    forgetSites(settings, {"/c", "/a", "/never"});
+    EXPECT_EQ(QStringList{"/b"}, recentSites(settings));
+}
+
 TEST_F(RecentSites, AreNotWrittenAgainWhenTheSameSiteIsOpened)
 {
     rememberSite(settings, QStringLiteral("/a"));

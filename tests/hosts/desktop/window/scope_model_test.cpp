@@ -4,6 +4,8 @@
 #include "hosts/desktop/support/test_window.h"
 
 #include <QAbstractItemModelTester>
+#include <QDateTime>
+#include <QLocale>
 #include <QTreeView>
 
 #include <gtest/gtest.h>
@@ -19,7 +21,7 @@ QStringList nodesOf(const QAbstractItemModel& model, const QModelIndex& parent =
     QStringList nodes;
     for (int row = 0; row < model.rowCount(parent); ++row) {
         const QModelIndex index = model.index(row, 0, parent);
-        nodes << indent + index.data().toString()
+        nodes << indent + index.data(Qt::AccessibleTextRole).toString()
               << nodesOf(model, index, indent + QStringLiteral("  "));
     }
     return nodes;
@@ -50,6 +52,36 @@ TEST(ScopeModel, HasTheNodesOfTheConsoleAsTheyComeAndGo)
     shown.window->run(Command::refresh);
     EXPECT_EQ(nodesOf(root), nodesOf(model));
     EXPECT_EQ(opened.size() - 1, nodesOf(model).size());
+}
+
+TEST(ScopeModel, NamesALogByTheMomentItWasBegun)
+{
+    TestWindow shown;
+    const std::string process = "KoNotify";
+    for (const char* stamp : {"20241231_235900", "20250218_081502", "20250218_081530"})
+        shown.server.folder().write(
+            "site/drive_c/KelmaOrvan/Logs/diag_" + process + "_" + stamp + ".txt", "");
+    const std::string current = shown.server.currentLog(process);
+    shown.showLog(process);
+    ScopeModel model(shown.console());
+    const auto index = [&](const std::string& key) {
+        return model.indexOf(shown.console().scopeItems().item(key));
+    };
+    const QDateTime begun = QDateTime::fromString(
+        QString::fromStdString(current).section('_', 2).section('.', 0, 0), "yyyyMMdd_HHmmss");
+    ASSERT_TRUE(begun.isValid());
+    EXPECT_EQ(QLocale().toString(begun, "d MMM HH:mm") + QStringLiteral(" \u00b7 current"),
+              index(current).data().toString());
+    EXPECT_EQ(QString::fromStdString("Current- " + current),
+              index(current).data(Qt::AccessibleTextRole).toString());
+    EXPECT_TRUE(
+        index(current).data(Qt::ToolTipRole).toString().contains(QString::fromStdString(current)));
+    EXPECT_EQ(QStringLiteral("31 Dec 2024 23:59"),
+              index("diag_KoNotify_20241231_235900.txt").data().toString());
+    EXPECT_EQ(QStringLiteral("18 Feb 08:15:02"),
+              index("diag_KoNotify_20250218_081502.txt").data().toString())
+        << "another log was begun in that minute";
+    EXPECT_EQ(process, index(process).data().toString().toStdString());
 }
 
 TEST(ScopeModel, OffersToOpenAProcessAndNeverALog)
@@ -101,7 +133,7 @@ TEST(TreePane, SelectingANodeMovesTheConsolesSelectionAndTheOtherWayRound)
     QTreeView& tree = shown.pane().tree();
     shown.showLog("KoNotify");
     EXPECT_EQ(QString::fromStdString("Current- " + shown.server.currentLog("KoNotify")),
-              tree.currentIndex().data().toString());
+              tree.currentIndex().data(Qt::AccessibleTextRole).toString());
 
     tree.setCurrentIndex(tree.currentIndex().parent());
     settle();
