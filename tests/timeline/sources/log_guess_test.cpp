@@ -8,7 +8,7 @@
 namespace timeline {
 namespace {
 
-constexpr const char* basicLine = "15:23:07:123,Store,17,CallFlow,3,text\r\n";
+constexpr const char* guessedBasicLine = "15:23:07:123,Store,17,CallFlow,3,text\r\n";
 constexpr const char* extendedLine = "15:23:07:123,Store,17,0x1A,4,C-1,CallFlow,3,text\r\n";
 constexpr const char* formattedLine = "15:23:07:123 (Store,17,CallFlow,3) text\r\n";
 constexpr const char* dataLine = "2005-10-08 15:23:07,Store,17,text, and more\r\n";
@@ -62,11 +62,11 @@ TEST(ReadLogName, TakesNothingFromOtherNames)
 
 TEST(LookAtLines, KnowsEachForm)
 {
-    EXPECT_EQ(LineForm::basic, look(basicLine).form);
+    EXPECT_EQ(LineForm::basic, look(guessedBasicLine).form);
     EXPECT_EQ(LineForm::extended, look(extendedLine).form);
     EXPECT_EQ(LineForm::formatted, look(formattedLine).form);
     EXPECT_EQ(LineForm::data, look(dataLine).form);
-    EXPECT_EQ(LineForm::data, look(basicLine, "data_A_20051008_152307.txt").form);
+    EXPECT_EQ(LineForm::data, look(guessedBasicLine, "data_A_20051008_152307.txt").form);
     EXPECT_EQ(std::nullopt, look("").form);
     EXPECT_EQ(std::nullopt, look("nothing\nof the kind\n").form);
     EXPECT_EQ(std::nullopt, look("name,town,3,more\n").form);
@@ -75,7 +75,7 @@ TEST(LookAtLines, KnowsEachForm)
 
 TEST(LookAtLines, GoesByTheFormOfMostLines)
 {
-    const std::string manyBasic = std::string(basicLine) + basicLine + basicLine;
+    const std::string manyBasic = std::string(guessedBasicLine) + guessedBasicLine + guessedBasicLine;
     EXPECT_EQ(LineForm::basic, look("a stack\n of lines\n" + manyBasic + formattedLine).form);
     EXPECT_EQ(LineForm::extended,
               look(std::string(extendedLine) + extendedLine + formattedLine).form);
@@ -83,15 +83,15 @@ TEST(LookAtLines, GoesByTheFormOfMostLines)
 
 TEST(LookAtLines, TellsWhetherStampsHaveADay)
 {
-    EXPECT_FALSE(look(basicLine).dated);
+    EXPECT_FALSE(look(guessedBasicLine).dated);
     EXPECT_TRUE(look("2005-10-08 15:23:07,Store,17,CallFlow,3,text\n").dated);
     EXPECT_TRUE(look(dataLine).dated);
 }
 
 TEST(LookAtLines, TellsWhetherTheCodePageMatters)
 {
-    EXPECT_FALSE(look(basicLine).beyondAscii);
-    EXPECT_TRUE(look(std::string(basicLine) + "\xE4").beyondAscii);
+    EXPECT_FALSE(look(guessedBasicLine).beyondAscii);
+    EXPECT_TRUE(look(std::string(guessedBasicLine) + "\xE4").beyondAscii);
 }
 
 TEST(ReadFirstStamps, CountsHowOftenTheClockGoesBack)
@@ -104,7 +104,7 @@ TEST(ReadFirstStamps, CountsHowOftenTheClockGoesBack)
         return stamps.midnights;
     };
     EXPECT_EQ(0, midnights(""));
-    EXPECT_EQ(0, midnights(basicLine));
+    EXPECT_EQ(0, midnights(guessedBasicLine));
     EXPECT_EQ(2, midnights("23:59:59:000,S,1,C,1,a\n00:00:01:000,S,1,C,1,b\nno line\n"
                            "00:00:00:000,S,1,C,1,c\n"));
 }

@@ -33,15 +33,20 @@ struct ToolLanguage : testing::Test {
         return texts;
     }
 
-    /// Names of the tree's nodes that are on show, from the top.
-    QStringList treeNames()
+    /// What the tree's nodes that are on show have in `role`, from the top.
+    QStringList treeTexts(int role)
     {
         const QTreeView& tree = shown.pane().tree();
-        QStringList names;
+        QStringList texts;
         for (QModelIndex at = tree.model()->index(0, 0); at.isValid(); at = tree.indexBelow(at))
-            names << at.data().toString();
-        return names;
+            texts << at.data(role).toString();
+        return texts;
     }
+
+    QStringList treeNames() { return treeTexts(Qt::DisplayRole); }
+
+    /// The same nodes by names that no language changes: those of the logs' files.
+    QStringList treeFiles() { return treeTexts(Qt::AccessibleTextRole); }
 };
 
 TEST_F(ToolLanguage, MenusAndTaskCardsChangeAtOnceAndBack)
@@ -80,21 +85,24 @@ TEST_F(ToolLanguage, AListAndTheTreeBesideItAreNamedAnewWhereTheyStand)
     shown.showLog("KoCSMgr");
     shown.window().showNode("KoCSMgr");
     shown.pane().table()->goTo(1);
-    QStringList names = treeNames();
-    ASSERT_TRUE(names.contains("KoCSMgr"));
+    QStringList files = treeFiles();
+    ASSERT_TRUE(files.contains("KoCSMgr"));
+    ASSERT_TRUE(treeNames().contains(QString::fromUtf8("19 Feb 14:41 \u00b7 current")));
     ASSERT_TRUE(headers().contains("File Name")) << headers().join('|').toStdString();
 
     EXPECT_TRUE(person::chooseLanguage("French"));
     EXPECT_TRUE(headers().contains("Nom de fichier")) << headers().join('|').toStdString();
     EXPECT_EQ(QStringLiteral("KoCSMgr"), shown.pane().selectedName());
     EXPECT_EQ(1, shown.pane().table()->currentIndex().row());
-    names.front() = "Diagnostics Kelma Orvan";
-    EXPECT_EQ(names, treeNames()) << "what was opened stays open";
+    files.front() = "Diagnostics Kelma Orvan";
+    EXPECT_EQ(files, treeFiles()) << "what was opened stays open";
+    EXPECT_TRUE(treeNames().contains(QString::fromUtf8("19 f\u00e9vr. 14:41 \u00b7 en cours")))
+        << treeNames().join('|').toStdString();
 
     person::press(QKeySequence("F5"));
     EXPECT_TRUE(headers().contains("Nom de fichier"));
     EXPECT_EQ(QStringLiteral("KoCSMgr"), shown.pane().selectedName());
-    EXPECT_EQ(names, treeNames());
+    EXPECT_EQ(files, treeFiles());
 }
 
 TEST_F(ToolLanguage, ALogsHeadersFollowAndItsLinesStay)
