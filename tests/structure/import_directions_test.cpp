@@ -61,7 +61,8 @@ bool isProjectInclude(const Include& include)
 /// Whether a file is of what windows alone share, which is drawn with a library.
 bool isOfWindows(const std::string& file)
 {
-    return file.find("hosts/common/look/") != std::string::npos;
+    return file.find("hosts/common/look/") != std::string::npos ||
+           file.find("hosts/common/filters/") != std::string::npos;
 }
 
 TEST(ImportDirections, EveryFolderIncludesOnlyWhatItMayKnow)

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "hosts/common/filters/row_filter.h"
 #include "hosts/viewer/document/hit_finder.h"
 #include "hosts/viewer/document/level_search.h"
-#include "hosts/viewer/document/row_filter.h"
 #include "hosts/viewer/document/shown_row.h"
 #include "hosts/viewer/document/source_opening.h"
 #include "hosts/viewer/document/view.h"

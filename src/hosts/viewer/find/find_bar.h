@@ -1,8 +1,8 @@
 #pragma once
 
+#include "hosts/common/filters/highlights.h"
 #include "hosts/common/look/interface_language.h"
 #include "hosts/viewer/document/document.h"
-#include "hosts/viewer/find/highlights.h"
 
 #include <QTimer>
 #include <QWidget>

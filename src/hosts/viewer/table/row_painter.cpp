@@ -1,8 +1,8 @@
 #include "hosts/viewer/table/row_painter.h"
 
+#include "hosts/common/filters/highlights.h"
 #include "hosts/common/look/icons.h"
 #include "hosts/common/look/theme.h"
-#include "hosts/viewer/find/highlights.h"
 
 #include <QFontMetrics>
 #include <QPainter>

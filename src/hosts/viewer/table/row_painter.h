@@ -7,12 +7,11 @@
 
 #include <vector>
 
+class Highlights;
 class QPainter;
 class QPalette;
 
 namespace viewer {
-
-class Highlights;
 
 /// Draws a row of the table, cell by cell.
 class RowPainter {

@@ -1,7 +1,7 @@
 #include "hosts/viewer/table/row_table.h"
 
+#include "hosts/common/filters/highlights.h"
 #include "hosts/common/look/theme.h"
-#include "hosts/viewer/find/highlights.h"
 #include "hosts/viewer/table/row_painter.h"
 
 #include <QApplication>

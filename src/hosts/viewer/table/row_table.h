@@ -7,12 +7,11 @@
 #include <optional>
 #include <vector>
 
+class Highlights;
 class QHeaderView;
 class QSettings;
 
 namespace viewer {
-
-class Highlights;
 
 /// The table of rows. It draws those in sight and keeps nothing of the others, where Qt's own
 /// tables keep some bytes of each row of a model, and walk over all of them at every change.

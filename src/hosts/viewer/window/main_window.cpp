@@ -15,7 +15,6 @@
 #include <QActionGroup>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
-#include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
@@ -56,7 +55,7 @@ QStringList pathsOf(const QMimeData& dragged)
 
 MainWindow::MainWindow(QSettings& settings, QWidget* parent)
     : QMainWindow(parent), settings_(settings),
-      savedFilters_(QFileInfo(settings.fileName()).absolutePath() + QStringLiteral("/filters"))
+      savedFilters_(SavedFilters::besideSettings(settings))
 {
     setWindowTitle(QStringLiteral("Orvan Diagnostic Viewer"));
     setAcceptDrops(true);

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "hosts/common/filters/saved_filters.h"
 #include "hosts/viewer/document/document.h"
-#include "hosts/viewer/files/saved_filters.h"
 #include "hosts/viewer/table/row_copy.h"
 #include "hosts/viewer/table/row_table.h"
 #include "hosts/viewer/window/commands.h"
@@ -13,6 +13,7 @@
 #include <optional>
 
 class ElidedLabel;
+class Highlights;
 class NoticeBar;
 class QLabel;
 class QProgressBar;
@@ -27,7 +28,6 @@ class DetailsPane;
 class FacetPane;
 class FilterBar;
 class FindBar;
-class Highlights;
 class RowExport;
 class TimeStrip;
 

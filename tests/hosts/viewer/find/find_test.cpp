@@ -1,4 +1,4 @@
-#include "hosts/viewer/find/highlights.h"
+#include "hosts/common/filters/highlights.h"
 #include "hosts/viewer/support/test_logs.h"
 #include "runtime/run_time_error.h"
 #include "support/windows/test_application.h"

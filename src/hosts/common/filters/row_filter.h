@@ -10,8 +10,6 @@
 #include <string>
 #include <vector>
 
-namespace viewer {
-
 /// A text that rows have to have, or not to have.
 struct TextCondition {
     QString text;
@@ -62,5 +60,3 @@ private:
     timeline::ColumnChoice* of(timeline::Column column);
     const timeline::ColumnChoice* of(timeline::Column column) const;
 };
-
-} // namespace viewer

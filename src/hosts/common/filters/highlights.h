@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hosts/viewer/document/row_filter.h"
+#include "hosts/common/filters/row_filter.h"
 
 #include <QColor>
 #include <QObject>
@@ -9,8 +9,6 @@
 #include <QString>
 
 #include <vector>
-
-namespace viewer {
 
 /// The texts that are marked in the rows, each by a colour of its own: the one that is looked for,
 /// and those that a person keeps beside it.
@@ -66,5 +64,3 @@ private:
     std::vector<Kept> kept_;
     std::vector<Search> searches_;
 };
-
-} // namespace viewer

@@ -1,11 +1,9 @@
-#include "hosts/viewer/find/highlights.h"
+#include "hosts/common/filters/highlights.h"
 
 #include "hosts/common/look/theme.h"
 
 #include <algorithm>
 #include <array>
-
-namespace viewer {
 
 namespace {
 
@@ -77,5 +75,3 @@ QColor Highlights::ground(std::size_t colour, const QPalette& palette)
     return theme::isDark(palette) ? QColor::fromHsl(hues[colour], 120, 75)
                                   : QColor::fromHsl(hues[colour], 170, 205);
 }
-
-} // namespace viewer

@@ -1,15 +1,15 @@
-#include "hosts/viewer/files/saved_filters.h"
+#include "hosts/common/filters/saved_filters.h"
 
 #include "runtime/run_time_error.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QSaveFile>
+#include <QSettings>
 
 #include <algorithm>
-
-namespace viewer {
 
 namespace {
 
@@ -26,6 +26,11 @@ bool canBeOfAFile(const QString& name)
 }
 
 } // namespace
+
+SavedFilters SavedFilters::besideSettings(const QSettings& settings)
+{
+    return SavedFilters(QFileInfo(settings.fileName()).absolutePath() + QStringLiteral("/filters"));
+}
 
 QString SavedFilters::fileOf(const QString& name) const
 {
@@ -70,5 +75,3 @@ RowFilter SavedFilters::read(const QString& name)
                            (name + QStringLiteral(" is no filter")).toStdString());
     return RowFilter::ofJson(json.object());
 }
-
-} // namespace viewer

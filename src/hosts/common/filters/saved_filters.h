@@ -1,17 +1,20 @@
 #pragma once
 
-#include "hosts/viewer/document/row_filter.h"
+#include "hosts/common/filters/row_filter.h"
 
 #include <QString>
 #include <QStringList>
 
-namespace viewer {
+class QSettings;
 
 /// Filters that a person has given names, a file of JSON each, which can be given to others.
 class SavedFilters {
 public:
     /// `folder` is made when the first one is saved.
     explicit SavedFilters(QString folder) : folder_(std::move(folder)) {}
+
+    /// The filters of all programs whose settings lie in the folder of these.
+    static SavedFilters besideSettings(const QSettings& settings);
 
     /// In the order of their letters.
     QStringList names() const;
@@ -30,5 +33,3 @@ public:
 private:
     QString folder_;
 };
-
-} // namespace viewer

@@ -1,4 +1,4 @@
-#include "hosts/viewer/document/row_filter.h"
+#include "hosts/common/filters/row_filter.h"
 
 #include "runtime/run_time_error.h"
 
@@ -7,7 +7,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-namespace viewer {
 namespace {
 
 using timeline::Column;
@@ -92,4 +91,3 @@ TEST(RowFilter, RefusesWhatIsNone)
 }
 
 } // namespace
-} // namespace viewer

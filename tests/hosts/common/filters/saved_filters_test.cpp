@@ -1,11 +1,12 @@
-#include "hosts/viewer/files/saved_filters.h"
+#include "hosts/common/filters/saved_filters.h"
 
 #include "runtime/run_time_error.h"
 #include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 
-namespace viewer {
+#include <QSettings>
+
 namespace {
 
 using timeline::Column;
@@ -34,6 +35,16 @@ TEST_F(SavedFiltersTest, KeepsFiltersByTheirNames)
     EXPECT_FALSE(SavedFilters::read(filters.fileOf("Another")).passesAll());
 }
 
+TEST_F(SavedFiltersTest, AreTheSameForProgramsWhoseSettingsLieTogether)
+{
+    const auto beside = [&](const char* name) {
+        return SavedFilters::besideSettings(
+            QSettings(QString::fromStdString(folder / name), QSettings::IniFormat));
+    };
+    beside("one.conf").save("Calls", {});
+    EXPECT_EQ(QStringList({"Calls"}), beside("another.conf").names());
+}
+
 TEST_F(SavedFiltersTest, TakesNoNameThatWouldLeadElsewhere)
 {
     for (const char* name : {"", "../x", "a/b", ".hidden", "a\\b", "a\nb", "C:x"})
@@ -53,4 +64,3 @@ TEST_F(SavedFiltersTest, RefusesAFileThatIsNone)
 }
 
 } // namespace
-} // namespace viewer

@@ -1,4 +1,4 @@
-#include "hosts/viewer/document/row_filter.h"
+#include "hosts/common/filters/row_filter.h"
 
 #include "runtime/run_time_error.h"
 
@@ -6,8 +6,6 @@
 #include <QJsonValue>
 
 #include <algorithm>
-
-namespace viewer {
 
 namespace {
 
@@ -214,5 +212,3 @@ RowFilter RowFilter::ofJson(const QJsonObject& json)
     filter.choice();
     return filter;
 }
-
-} // namespace viewer
