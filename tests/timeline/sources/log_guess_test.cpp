@@ -75,7 +75,8 @@ TEST(LookAtLines, KnowsEachForm)
 
 TEST(LookAtLines, GoesByTheFormOfMostLines)
 {
-    const std::string manyBasic = std::string(guessedBasicLine) + guessedBasicLine + guessedBasicLine;
+    const std::string manyBasic =
+        std::string(guessedBasicLine) + guessedBasicLine + guessedBasicLine;
     EXPECT_EQ(LineForm::basic, look("a stack\n of lines\n" + manyBasic + formattedLine).form);
     EXPECT_EQ(LineForm::extended,
               look(std::string(extendedLine) + extendedLine + formattedLine).form);
