@@ -61,6 +61,7 @@ Document::~Document() = default;
 
 void Document::open(const QStringList& paths)
 {
+    emit opening(paths);
     toOpen_ += static_cast<std::size_t>(paths.size());
     for (const QString& path : paths) opening_.open(path.toStdString());
     watch_.start(firstLook);
@@ -91,6 +92,7 @@ void Document::takeOpened(const OpenedPath& opened)
     --toOpen_;
     if (opened.sources > 0) {
         sources_ += opened.sources;
+        homes_.insert(homes_.end(), opened.homes.begin(), opened.homes.end());
         paths_.append(QString::fromStdString(opened.path));
         lookedAtEnd_ = false;
         watch_.start(firstLook);
@@ -296,6 +298,20 @@ std::optional<std::size_t> Document::placeOf(const timeline::IndexRow& row)
     timeline_.look([&](const timeline::Timeline& rows) { number = view_->order->find(rows, row); });
     if (!number || (!view_->complete && *number >= view_->chosen->size())) return std::nullopt;
     return view_->placeOf(*number);
+}
+
+std::vector<std::optional<std::size_t>>
+Document::placesOnShow(const std::vector<timeline::IndexRow>& rows)
+{
+    std::vector<std::optional<std::size_t>> places(rows.size());
+    if (!view_->order || rows.empty()) return places;
+    timeline_.look([&](const timeline::Timeline& all) {
+        for (std::size_t row = 0; row < rows.size(); ++row)
+            if (const auto number = view_->order->find(all, rows[row]);
+                number && view_->shows(*number))
+                places[row] = view_->placeOf(*number);
+    });
+    return places;
 }
 
 std::size_t Document::placeFrom(timeline::Moment moment)

@@ -60,6 +60,14 @@ public:
     /// The paths that were opened and had something to read, in their order.
     const QStringList& paths() const { return paths_; }
 
+    /// Where the sources are, by their numbers.
+    const std::vector<SourceHome>& homes() const { return homes_; }
+
+    /// The rows, for those who do on a thread of their own what takes long; and what of them is on
+    /// show. They end before the document does.
+    SharedTimeline& timeline() { return timeline_; }
+    std::shared_ptr<const View> sharedView() const { return view_; }
+
     /// What of the rows is on show.
     const RowFilter& filter() const { return filter_; }
 
@@ -100,6 +108,10 @@ public:
     /// yet.
     std::optional<std::size_t> placeOf(const timeline::IndexRow& row);
 
+    /// The places of rows, in their order; nothing for one that is not on show.
+    std::vector<std::optional<std::size_t>>
+    placesOnShow(const std::vector<timeline::IndexRow>& rows);
+
     /// The place of the first row on show at a moment or later; `rowCount()` for none.
     std::size_t placeFrom(timeline::Moment moment);
 
@@ -119,6 +131,9 @@ public:
     timeline::IndexRow indexRow(std::size_t place);
 
 signals:
+    /// Paths are being opened, behind what is open.
+    void opening(const QStringList& paths);
+
     /// Other rows will be on show; those of before still are.
     void viewAboutToChange();
     void viewChanged();
@@ -162,6 +177,7 @@ private:
     std::size_t toOpen_ = 0; ///< paths that are opened, or wait for it
     std::size_t sources_ = 0;
     QStringList paths_;
+    std::vector<SourceHome> homes_;
     std::map<QString, std::vector<timeline::ComponentLevels>> macroTraces_;
     QSet<QString> told_;
     std::size_t readRows_ = 0; ///< that the view knows, or the one that is being made

@@ -1,6 +1,7 @@
 #include "hosts/viewer/document/source_opening.h"
 
 #include "backends/xml/libxml_documents.h"
+#include "system/file_facts.h"
 #include "timeline/sources/trace_database_source.h"
 
 #include <exception>
@@ -22,6 +23,15 @@ void addMacroTraces(const timeline::TraceDatabaseSource& database, OpenedPath& r
         timeline::MacroTraceDefinitions::of(database.tables(), xml, result.notes);
     result.macroTraces.insert(result.macroTraces.end(), definitions.all().begin(),
                               definitions.all().end());
+}
+
+/// A cabinet's members have no file of their own, and those of one in a folder are named by it.
+SourceHome homeOf(const timeline::SourceFacts& facts, const std::string& path)
+{
+    if (!facts.path.empty() || path == "-") return {facts.name, facts.path};
+    if (isPlainFile(path)) return {facts.name, path};
+    const std::string cabinet = path + "/" + facts.name.substr(0, facts.name.find('/'));
+    return {facts.name, isPlainFile(cabinet) ? cabinet : std::string()};
 }
 
 } // namespace
@@ -88,6 +98,7 @@ OpenedPath SourceOpening::openNow(const std::string& path)
         append(result.notes, opened.notes);
         for (const auto& source : opened.sources) {
             append(result.notes, source->facts().guesses);
+            result.homes.push_back(homeOf(source->facts(), path));
             if (const auto* database =
                     dynamic_cast<const timeline::TraceDatabaseSource*>(source.get()))
                 addMacroTraces(*database, result);

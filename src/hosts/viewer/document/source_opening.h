@@ -15,10 +15,17 @@
 
 namespace viewer {
 
+/// Where a source is.
+struct SourceHome {
+    std::string name; ///< as a person knows it: a file's, or a cabinet's and its member's
+    std::string file; ///< of the machine that has it, which may be a cabinet; empty for a pipe
+};
+
 /// What opening a path came to.
 struct OpenedPath {
     std::string path;
     std::size_t sources = 0;
+    std::vector<SourceHome> homes;                           ///< of its sources
     std::vector<std::string> troubles;                       ///< sentences of what can't be read
     std::vector<timeline::MacroTraceDefinition> macroTraces; ///< of its trace databases
     std::vector<std::string> notes; ///< the same of what was passed over, or guessed
