@@ -1,6 +1,8 @@
 #include "hosts/viewer/details/details_pane.h"
 
+#include "hosts/common/look/icons.h"
 #include "hosts/common/look/interface_language.h"
+#include "hosts/common/look/plain_tool_tip.h"
 #include "hosts/common/look/theme.h"
 #include "hosts/viewer/table/row_column.h"
 #include "hosts/viewer/table/time_text.h"
@@ -63,6 +65,12 @@ void DetailsPane::show(std::optional<std::size_t> place)
     const auto add = [this](RowColumn column, const QString& value) {
         if (!value.isEmpty()) new QTreeWidgetItem(fields_, {RowColumns::title(column), value});
     };
+    const QString remark = remark_ ? remark_(row.index) : QString();
+    if (!remark.isEmpty()) {
+        auto* item = new QTreeWidgetItem(fields_, {tr("Note"), harmless(remark)});
+        item->setIcon(0, toolIcon(QStringLiteral("bookmark")));
+        item->setToolTip(1, plainToolTip(remark));
+    }
     add(RowColumn::time, clockText(row.index.moment));
     add(RowColumn::process, row.process);
     add(RowColumn::source, row.source);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hosts/viewer/document/document.h"
+#include "hosts/viewer/table/row_model.h"
 
 #include <QWidget>
 
@@ -20,6 +21,9 @@ public:
     /// The document outlives the pane.
     explicit DetailsPane(Document& document, QWidget* parent = nullptr);
 
+    /// Where rows have what a person keeps of them, to be shown among their fields.
+    void setRemarks(RowModel::Remark remark) { remark_ = std::move(remark); }
+
     /// Shows the row at a place; no row for nothing.
     void show(std::optional<std::size_t> place);
 
@@ -34,6 +38,7 @@ private:
     void showTexts();
 
     Document& document_;
+    RowModel::Remark remark_;
     QTreeWidget* fields_;
     QPlainTextEdit* trace_;
     std::optional<std::size_t> place_;

@@ -22,7 +22,16 @@ namespace {
 using timeline::Histogram;
 using timeline::Moment;
 
-constexpr int barsHeight = 46;
+constexpr int barsHeight = 42;
+constexpr int flagsTop = 2; ///< of the lane of bookmarks, above that of hits
+constexpr int flagHeight = 5;
+constexpr int flagWidth = 5;
+constexpr int hitsTop = flagsTop + flagHeight;
+constexpr int hitHeight = 4;
+constexpr int barsTop = hitsTop + hitHeight + 1;
+constexpr float leastHitShade = 0.6F;
+constexpr int darkFlagLight = 150; ///< per cent
+constexpr int aim = 3;             ///< pixels that a pointer may miss a mark by
 constexpr int edge = 8;
 constexpr int shortestDrag = 4;    ///< pixels; less is a click
 constexpr Moment shortestSpan = 2; ///< milliseconds
@@ -48,7 +57,10 @@ TimeStrip::TimeStrip(Document& document, QWidget* parent) : QWidget(parent), doc
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setMouseTracking(true);
-    connect(&document_, &Document::countsChanged, this, qOverload<>(&QWidget::update));
+    connect(&document_, &Document::countsChanged, this, [this] {
+        update();
+        emit scaleChanged();
+    });
     showInLanguage(this, [this] {
         setAccessibleName(tr("Rows over time"));
         setAccessibleDescription(tr("Errors, warnings and other rows on show, over time"));
@@ -57,7 +69,7 @@ TimeStrip::TimeStrip(Document& document, QWidget* parent) : QWidget(parent), doc
 
 QSize TimeStrip::sizeHint() const
 {
-    return {400, barsHeight + fontMetrics().height() + 8};
+    return {400, barsTop + barsHeight + fontMetrics().height() + 4};
 }
 
 QSize TimeStrip::minimumSizeHint() const
@@ -67,7 +79,7 @@ QSize TimeStrip::minimumSizeHint() const
 
 QRect TimeStrip::room() const
 {
-    return {edge, 4, width() - 2 * edge, barsHeight};
+    return {edge, barsTop, width() - 2 * edge, barsHeight};
 }
 
 std::optional<std::pair<Moment, Moment>> TimeStrip::span() const
@@ -102,6 +114,24 @@ void TimeStrip::setCurrent(std::optional<Moment> moment)
     if (current_ == moment) return;
     current_ = moment;
     update();
+}
+
+void TimeStrip::setHits(std::vector<std::uint32_t> ofPixels)
+{
+    hits_ = std::move(ofPixels);
+    update();
+}
+
+void TimeStrip::setFlags(std::vector<Flag> flags)
+{
+    flags_ = std::move(flags);
+    update();
+}
+
+void TimeStrip::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    emit scaleChanged();
 }
 
 void TimeStrip::narrow(Moment from, Moment to)
@@ -173,18 +203,28 @@ QString TimeStrip::describe(int x) const
 {
     const RowCounts* counts = document_.counts();
     if (!span()) return {};
+    const QLocale locale;
+    const auto number = [&](std::uint64_t rows) {
+        return locale.toString(static_cast<qulonglong>(rows));
+    };
+    QString marks;
+    std::uint64_t hits = 0;
+    const int first = std::max(0, x - aim - room().left());
+    for (int at = first; at <= x + aim - room().left() && at < static_cast<int>(hits_.size()); ++at)
+        hits += hits_[static_cast<std::size_t>(at)];
+    if (hits > 0) marks += QLatin1Char('\n') + tr("%1 hits").arg(number(hits));
+    for (const Flag& flag : flags_)
+        if (std::abs(xOf(flag.moment) - x) <= aim)
+            marks += QStringLiteral("\n%1: %2").arg(clockText(flag.moment), flag.text);
     const Moment moment = momentAt(x);
     const Moment width = counts->histogram->width();
     for (const Histogram::Bucket& bucket : counts->histogram->buckets()) {
         if (moment >= bucket.begin + width) continue;
         const Bars bars = barsOf(bucket);
-        const QLocale locale;
-        const auto number = [&](std::uint64_t rows) {
-            return locale.toString(static_cast<qulonglong>(rows));
-        };
         return tr("%1: %2 rows, %3 errors, %4 warnings")
-            .arg(clockText(bucket.begin), number(bucket.rows), number(bars.errors),
-                 number(bars.warnings));
+                   .arg(clockText(bucket.begin), number(bucket.rows), number(bars.errors),
+                        number(bars.warnings)) +
+               marks;
     }
     return {};
 }
@@ -225,6 +265,41 @@ void TimeStrip::drawBuckets(QPainter& painter) const
     }
 }
 
+/// Hits stand in a lane of lines, bookmarks above them as flags, which are told apart by their form
+/// as well.
+void TimeStrip::drawMarks(QPainter& painter) const
+{
+    const QRect all = room();
+    // Where a text is nearly everywhere, more of it is seen to be more.
+    const std::uint32_t most = hits_.empty() ? 0 : *std::max_element(hits_.begin(), hits_.end());
+    for (std::size_t at = 0; at < hits_.size(); ++at) {
+        if (hits_[at] == 0) continue;
+        QColor hit = theme::hitMark(palette());
+        hit.setAlphaF(leastHitShade +
+                      (1 - leastHitShade) *
+                          std::sqrt(static_cast<float>(hits_[at]) / static_cast<float>(most)));
+        const bool alone = at + 1 == hits_.size() || hits_[at + 1] == 0;
+        painter.fillRect(all.left() + static_cast<int>(at), hitsTop, alone ? 2 : 1, hitHeight, hit);
+    }
+    const QColor accent = palette().color(QPalette::Highlight);
+    const QColor flag = theme::isDark(palette()) ? accent.lighter(darkFlagLight) : accent;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(flag);
+    int drawn = -flagWidth;
+    for (const Flag& one : flags_) {
+        const int x = xOf(one.moment);
+        if (one.moment < span()->first || one.moment > span()->second || x == drawn) continue;
+        drawn = x;
+        const qreal middle = x + 0.5;
+        const QPointF corners[] = {{middle - flagWidth, flagsTop},
+                                   {middle + flagWidth, flagsTop},
+                                   {middle, flagsTop + flagHeight + 1.0}};
+        painter.drawConvexPolygon(corners, 3);
+    }
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
 void TimeStrip::drawTimes(QPainter& painter) const
 {
     const auto times = span();
@@ -247,6 +322,7 @@ void TimeStrip::paintEvent(QPaintEvent*)
     if (!span()) return;
     drawBuckets(painter);
     drawTimes(painter);
+    drawMarks(painter);
     if (current_ && *current_ != timeline::noMoment && *current_ >= span()->first &&
         *current_ <= span()->second) {
         painter.setPen(palette().color(QPalette::Text));

@@ -1,5 +1,6 @@
 #include "hosts/viewer/table/row_model.h"
 
+#include "hosts/common/look/plain_tool_tip.h"
 #include "hosts/viewer/table/time_text.h"
 
 #include <algorithm>
@@ -95,6 +96,9 @@ QString RowModel::text(std::size_t place, RowColumn column) const
 /// What a screen reader says of a cell beyond its text; nothing where the text is all.
 QString RowModel::spoken(const ShownRow& row, RowColumn column) const
 {
+    if (column == RowColumn::time && remark_)
+        if (const QString remark = remark_(row.index); !remark.isEmpty())
+            return QStringLiteral("%1, %2").arg(clockText(row.index.moment), harmless(remark));
     if (column != RowColumn::level || row.severity == Severity::none) return {};
     return QStringLiteral("%1, %2").arg(
         QString::number(row.level), row.severity == Severity::error ? tr("error") : tr("warning"));
@@ -109,6 +113,10 @@ QVariant RowModel::data(const QModelIndex& index, int role) const
     if (role == Qt::AccessibleTextRole) {
         const QString said = spoken(document_.row(place), column);
         return said.isEmpty() ? QVariant() : QVariant(said);
+    }
+    if (role == Qt::ToolTipRole && remark_) {
+        const QString remark = remark_(document_.row(place).index);
+        return remark.isEmpty() ? QVariant() : QVariant(plainToolTip(remark));
     }
     return {};
 }

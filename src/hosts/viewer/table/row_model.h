@@ -5,6 +5,7 @@
 
 #include <QAbstractTableModel>
 
+#include <functional>
 #include <optional>
 
 namespace viewer {
@@ -30,6 +31,12 @@ public:
     std::optional<timeline::Moment> mark() const { return mark_; }
     void setMark(std::optional<timeline::Moment> moment);
 
+    /// What a person keeps of a row, in words; empty for nothing.
+    using Remark = std::function<QString(const timeline::IndexRow&)>;
+
+    /// Where rows with a remark have it for their tool tips, and for screen readers.
+    void setRemarks(Remark remark) { remark_ = std::move(remark); }
+
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
@@ -44,6 +51,7 @@ private:
     QString spoken(const ShownRow& row, RowColumn column) const;
 
     Document& document_;
+    Remark remark_;
     TimeForm timeForm_ = TimeForm::clock;
     std::optional<timeline::Moment> mark_;
 };

@@ -68,6 +68,12 @@ void RowTable::setHighlights(const Highlights& highlights)
     connect(&highlights, &Highlights::changed, viewport(), qOverload<>(&QWidget::update));
 }
 
+void RowTable::setGutter(QWidget& gutter)
+{
+    gutter_ = &gutter;
+    updateGeometries();
+}
+
 int RowTable::rowHeight() const
 {
     return fontMetrics().height() + rowRoom;
@@ -339,8 +345,12 @@ QRegion RowTable::visualRegionForSelection(const QItemSelection&) const
 void RowTable::updateGeometries()
 {
     const int height = header_->sizeHint().height();
-    setViewportMargins(0, height, 0, 0);
+    const int gutter = gutter_ != nullptr ? gutter_->sizeHint().width() : 0;
+    setViewportMargins(gutter, height, 0, 0);
     const QRect room = viewport()->geometry();
+    if (gutter_ != nullptr)
+        gutter_->setGeometry(room.left() - gutter, room.top() - height, gutter,
+                             room.height() + height);
     header_->setGeometry(room.left(), room.top() - height, room.width(), height);
     const int rows = static_cast<int>(rowsInSight());
     verticalScrollBar()->setPageStep(rows);

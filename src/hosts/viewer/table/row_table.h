@@ -31,6 +31,10 @@ public:
 
     QHeaderView& header() { return *header_; }
 
+    /// A column of signs that stays at the left of all others; the table places it, and shows it
+    /// as wide as it wants to be.
+    void setGutter(QWidget& gutter);
+
     /// Columns as they stand there from the left, those that are hidden left out.
     std::vector<RowColumn> shownColumns() const;
 
@@ -56,6 +60,9 @@ public:
     /// The first row in sight, and how many stand there whole.
     std::size_t firstInSight() const;
     std::size_t rowsInSight() const;
+
+    /// The height of a row, in pixels.
+    int rowHeight() const;
 
     QRect visualRect(const QModelIndex& index) const override;
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
@@ -94,7 +101,6 @@ private:
         int above = 0;                            ///< rows in sight above the anchor
     };
 
-    int rowHeight() const;
     int placeAt(int y) const;
     void hold();
     void restore();
@@ -103,6 +109,7 @@ private:
     RowModel& rows_;
     QSettings& settings_;
     QHeaderView* header_;
+    QWidget* gutter_ = nullptr;
     const Highlights* highlights_ = nullptr;
     Held held_;
     bool restoring_ = false;

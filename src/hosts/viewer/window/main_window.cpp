@@ -9,12 +9,15 @@
 #include "hosts/viewer/facets/facet_pane.h"
 #include "hosts/viewer/files/row_export.h"
 #include "hosts/viewer/find/find_bar.h"
+#include "hosts/viewer/histogram/strip_marks.h"
 #include "hosts/viewer/histogram/time_strip.h"
+#include "hosts/viewer/marks/mark_list.h"
 #include "hosts/viewer/window/filter_bar.h"
 
 #include <QActionGroup>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
@@ -53,13 +56,16 @@ QStringList pathsOf(const QMimeData& dragged)
 
 } // namespace
 
-MainWindow::MainWindow(QSettings& settings, QWidget* parent)
+MainWindow::MainWindow(QSettings& settings, const QString& dataFolder, QWidget* parent)
     : QMainWindow(parent), settings_(settings),
+      dataFolder_(dataFolder.isEmpty() ? QFileInfo(settings.fileName()).absolutePath()
+                                       : dataFolder),
       savedFilters_(SavedFilters::besideSettings(settings))
 {
     setWindowTitle(QStringLiteral("Orvan Diagnostic Viewer"));
     setAcceptDrops(true);
     makePanes();
+    makeMarks();
     makeActions();
     makeToolBar();
     makeStatusBar();
@@ -239,6 +245,9 @@ void MainWindow::updateActions()
     for (const Command command : {Command::copy, Command::copyCsv, Command::copyRaw})
         action(command).setEnabled(current);
     action(Command::selectAll).setEnabled(rows);
+    for (const Command command : {Command::toggleBookmark, Command::note})
+        action(command).setEnabled(current);
+    action(Command::clearBookmarks).setEnabled(!marks_->isEmpty());
     action(Command::markTime).setEnabled(current);
     action(Command::showAll).setEnabled(!document_.filter().passesAll());
     action(Command::saveFilter).setEnabled(!document_.filter().passesAll());

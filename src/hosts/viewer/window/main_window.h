@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 
 class ElidedLabel;
@@ -28,6 +29,9 @@ class DetailsPane;
 class FacetPane;
 class FilterBar;
 class FindBar;
+class MarkList;
+class Marks;
+class StripMarks;
 class RowExport;
 class TimeStrip;
 
@@ -36,8 +40,10 @@ class MainWindow final : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// `settings` outlives the window.
-    explicit MainWindow(QSettings& settings, QWidget* parent = nullptr);
+    /// `settings` outlives the window. `dataFolder` is where it keeps what is the user's own; where
+    /// the settings are for an empty one.
+    explicit MainWindow(QSettings& settings, const QString& dataFolder = {},
+                        QWidget* parent = nullptr);
     ~MainWindow() override;
 
     Document& document() { return document_; }
@@ -48,6 +54,8 @@ public:
     DetailsPane& details() { return *details_; }
     FilterBar& filterBar() { return *filterBar_; }
     TimeStrip& timeStrip() { return *times_; }
+    Marks& marks() { return *marks_; }
+    MarkList& markList() { return *markList_; }
 
     /// The notice on show; the empty text for none.
     QString notice() const;
@@ -66,6 +74,9 @@ public:
     void saveFilter(const QString& name);
     void takeFilter(const QString& file);
 
+    /// Gives the current row a note, in the place of the one that it has; none for an empty text.
+    void setNote(const QString& text);
+
     /// Does what a command does, if it can be done now.
     void run(Command command);
     QAction& action(Command command) { return *actions_.at(command); }
@@ -76,6 +87,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    void makeMarks();
     void makeActions();
     void makeToolBar();
     void makePanes();
@@ -87,6 +99,12 @@ private:
     void goToHit(Direction direction);
     void goToLevel(Direction direction, std::int8_t level);
     void performSaved(Command command);
+    void performMarks(Command command);
+    void toggleBookmark(std::size_t place);
+    void goToMark(Direction direction);
+    void goToMarkedRow(const timeline::IndexRow& row);
+    void askForNote();
+    void showMarks();
     void offerMacroTraces();
     void offerSavedFilters();
     void askForFilterName();
@@ -116,7 +134,10 @@ private:
     void showAbout();
 
     QSettings& settings_;
+    QString dataFolder_;
     Document document_;
+    std::unique_ptr<Marks> marks_;
+    std::unique_ptr<StripMarks> stripMarks_;
     RowModel* model_ = nullptr;
     RowTable* table_ = nullptr;
     FacetPane* facets_ = nullptr;
@@ -126,6 +147,7 @@ private:
     Highlights* highlights_ = nullptr;
     RowExport* export_ = nullptr; ///< that is being written; null for none
     TimeStrip* times_ = nullptr;
+    MarkList* markList_ = nullptr;
     QSplitter* splitter_ = nullptr;
     QSplitter* rowsAndDetails_ = nullptr;
     NoticeBar* notice_ = nullptr;

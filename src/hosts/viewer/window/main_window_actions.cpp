@@ -397,6 +397,8 @@ void MainWindow::offerRowMenu(const QPoint& at)
     menu.addMenu(menus_[CommandMenu::only]);
     menu.addMenu(menus_[CommandMenu::hide]);
     menu.addSeparator();
+    for (const Command command : {Command::toggleBookmark, Command::note})
+        menu.addAction(actions_[command]);
     menu.addAction(actions_[Command::markTime]);
     menu.exec(at);
 }

@@ -20,7 +20,7 @@ void MainWindow::performSaved(Command command)
     case Command::openFilter:
         return askForFilterFile();
     default:
-        return;
+        return performMarks(command);
     }
 }
 
