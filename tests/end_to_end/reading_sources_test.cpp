@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <set>
+
 namespace {
 
 using nlohmann::json;
@@ -146,6 +149,28 @@ TEST_F(MergedReading, ReadsWhatAGatherOfAFrameLeaves)
     EXPECT_EQ(run({"read", database, "--count"}).out,
               run({"read", cabinet, "--exclude", "process=", "--count"}).out);
     EXPECT_EQ(0, run({"read", target.string(), "--count"}).status);
+}
+
+TEST_F(MergedReading, OfATraceDatabaseAloneGoesByTimeOverItsProcesses)
+{
+    ASSERT_EQ(0, run({"gather", "frame", "--from", "2025-02-20 15:00", "--hours", "1", "--to",
+                      target.string()})
+                     .status);
+    std::string database;
+    for (const auto& entry : std::filesystem::directory_iterator(target))
+        if (entry.path().extension() == ".mdb") database = entry.path().string();
+    const auto stored = rows({database});
+    std::vector<std::string> moments;
+    std::set<std::string> processes;
+    for (const auto& row : stored) {
+        moments.push_back(row.at("moment"));
+        processes.insert(row.at("process"));
+    }
+    EXPECT_GT(processes.size(), 3u);
+    EXPECT_TRUE(std::is_sorted(moments.begin(), moments.end()));
+    const auto first = rows({database, "-n", "20"});
+    EXPECT_EQ(std::vector<json>(stored.begin(), stored.begin() + 20),
+              std::vector<json>(first.begin(), first.end()));
 }
 
 TEST_F(MergedReading, SaysWhyNoRowHasAPort)

@@ -84,10 +84,12 @@ Moment earliestUnread(const SourceRows& rows, std::size_t enough)
 
 ShownRows::ShownRows(const Timeline& timeline) : timeline_(timeline), count_(timeline.size()) {}
 
-/// Puts the rows of a log that stands alone in its own order, unless time has the same one.
+/// Puts the rows of a log that stands alone in its own order, unless time has the same one. A trace
+/// database holds the logs of several processes, one behind the other: it goes by time.
 void ShownRows::orderByLog() const
 {
     if (chosen_ || timeline_.sourceCount() != 1) return;
+    if (timeline_.source(0).facts().kind == timeline::SourceKind::traceDatabase) return;
     const SourceRows& rows = timeline_.rowsOf(0);
     if (std::is_sorted(rows.begin(), rows.end(), StandsEarlier())) return;
     chosen_.emplace(rows.begin(), rows.end());

@@ -10,7 +10,7 @@
 namespace cli {
 
 /// The rows of a timeline that are shown, in their order: that of time, or of the log where there
-/// is one alone.
+/// is one alone. A trace database alone goes by time.
 class ShownRows {
 public:
     /// All rows of `timeline`, which outlives this and is read no further meanwhile.
