@@ -42,6 +42,38 @@ TEST_F(Calls, TellProcessesAsTheirFilesAreNamed)
     EXPECT_EQ((std::vector<std::string>{"KoCaf\u00e9"}), counter.calls()[0].processes);
 }
 
+TEST_F(Calls, TellTheirErrorsAndWarnings)
+{
+    add("KoCSMgr",
+        "15:00:00:000,Conv,12,t,4,A,CallFlow,0,an error\n"
+        "15:00:01:000,Conv,12,t,4,A,CallFlow,1,a warning\n"
+        "15:00:02:000,Conv,12,t,4,A,CallFlow,1,a warning\n"
+        "15:00:03:000,Conv,12,t,4,A,CallFlow,2,another row\n"
+        "15:00:04:000,Conv,12,t,4,A,,0,a row without a component\n",
+        LineForm::extended);
+    CallCounter counter(timeline);
+    count(counter);
+    ASSERT_EQ(1u, counter.calls().size());
+    EXPECT_EQ(5u, counter.calls()[0].rows);
+    EXPECT_EQ(1u, counter.calls()[0].errors);
+    EXPECT_EQ(2u, counter.calls()[0].warnings);
+}
+
+TEST_F(Calls, PastTheMostThoseThatAreKnownGoOn)
+{
+    add("KoCSMgr",
+        "15:00:00:000,Conv,12,t,4,A,CallFlow,7,one\n"
+        "15:00:01:000,Conv,12,t,4,B,CallFlow,7,two\n"
+        "15:00:02:000,Conv,12,t,4,C,CallFlow,7,one too many\n"
+        "15:00:03:000,Conv,12,t,4,A,CallFlow,7,one again\n",
+        LineForm::extended);
+    CallCounter counter(timeline, 2);
+    count(counter);
+    ASSERT_EQ(2u, counter.calls().size());
+    EXPECT_EQ(2u, counter.calls()[0].rows);
+    EXPECT_TRUE(counter.leftOut());
+}
+
 TEST_F(Calls, AreNoneWhereNoRowHasAnId)
 {
     add("KoCSMgr", "15:00:00:100,Conv,12,CallFlow,7,answers\n");

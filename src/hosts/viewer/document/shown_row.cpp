@@ -36,6 +36,8 @@ char16_t signOf(char16_t character)
     return character;
 }
 
+} // namespace
+
 Severity severityOf(const Record& record)
 {
     // A line that could not be read has no component, and its level means nothing.
@@ -43,8 +45,6 @@ Severity severityOf(const Record& record)
     if (record.level == 0) return Severity::error;
     return record.level == 1 ? Severity::warning : Severity::none;
 }
-
-} // namespace
 
 QString decoded(std::string_view bytes, const CodePage* codePage)
 {

@@ -11,6 +11,10 @@ namespace viewer {
 /// What the level of a row tells.
 enum class Severity { none, error, warning };
 
+/// What the level of a record tells; nothing for one without a component, which has no level that
+/// means anything.
+Severity severityOf(const timeline::Record& record);
+
 /// A row with its texts as a person sees them: decoded, and with nothing in them that would act on
 /// a screen instead of being seen.
 struct ShownRow {

@@ -55,6 +55,8 @@ enum class Command {
     allTimes,
     values,
     details,
+    calls,
+    thisCall,
     otherPane,
     clockTimes,
     timesSinceRowBefore,

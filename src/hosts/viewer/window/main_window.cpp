@@ -127,7 +127,8 @@ void MainWindow::makePanes()
     splitter_->restoreState(settings_.value(splitterKey).toByteArray());
     facets_->setVisible(settings_.value(valuesKey, true).toBool());
     pages_->addWidget(empty_);
-    pages_->addWidget(splitter_);
+    makeCalls();
+    pages_->addWidget(rowsAndCalls_);
     column->addWidget(notice_);
     column->addWidget(pages_, 1);
     setCentralWidget(centre);
@@ -173,6 +174,7 @@ void MainWindow::connectParts()
     connect(times_, &TimeStrip::momentAsked, this,
             [this](timeline::Moment moment) { table_->goTo(document_.placeFrom(moment)); });
     connect(table_, &RowTable::menuAsked, this, &MainWindow::offerRowMenu);
+    connectCalls();
 }
 
 QString MainWindow::notice() const
@@ -241,7 +243,6 @@ void MainWindow::updateActions()
 {
     const bool rows = document_.rowCount() > 0;
     const bool current = table_->currentPlace().has_value();
-    action(Command::stop).setEnabled(document_.state().busy || export_ != nullptr);
     for (const Command command : {Command::copy, Command::copyCsv, Command::copyRaw})
         action(command).setEnabled(current);
     action(Command::selectAll).setEnabled(rows);
@@ -270,6 +271,7 @@ void MainWindow::updateActions()
     action(Command::timesSinceRowBefore).setChecked(model_->timeForm() == TimeForm::sinceRowBefore);
     action(Command::timesSinceMark).setChecked(model_->timeForm() == TimeForm::sinceMark);
     const auto scheme = theme::schemeOf(settings_.value(QStringLiteral("window/theme")).toString());
+    updateCallActions();
     action(Command::systemTheme).setChecked(scheme == theme::Scheme::system);
     action(Command::lightTheme).setChecked(scheme == theme::Scheme::light);
     action(Command::darkTheme).setChecked(scheme == theme::Scheme::dark);
@@ -282,6 +284,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
     settings_.setValue(valuesKey, !facets_->isHidden());
     settings_.setValue(rowsKey, rowsAndDetails_->saveState());
     settings_.setValue(detailsKey, !details_->isHidden());
+    rememberCalls();
     document_.cancel();
     QMainWindow::closeEvent(event);
 }

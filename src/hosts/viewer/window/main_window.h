@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hosts/common/filters/saved_filters.h"
+#include "hosts/viewer/calls/calls.h"
 #include "hosts/viewer/document/document.h"
 #include "hosts/viewer/table/row_copy.h"
 #include "hosts/viewer/table/row_table.h"
@@ -25,6 +26,7 @@ class QToolBar;
 
 namespace viewer {
 
+class CallTabs;
 class DetailsPane;
 class FacetPane;
 class FilterBar;
@@ -56,6 +58,7 @@ public:
     TimeStrip& timeStrip() { return *times_; }
     Marks& marks() { return *marks_; }
     MarkList& markList() { return *markList_; }
+    CallTabs& callTabs() { return *callTabs_; }
 
     /// The notice on show; the empty text for none.
     QString notice() const;
@@ -91,8 +94,10 @@ private:
     void makeActions();
     void makeToolBar();
     void makePanes();
+    void makeCalls();
     void makeStatusBar();
     void connectParts();
+    void connectCalls();
     void perform(Command command);
     void performGo(Command command);
     void performFilter(Command command);
@@ -102,9 +107,14 @@ private:
     void performMarks(Command command);
     void toggleBookmark(std::size_t place);
     void goToMark(Direction direction);
-    void goToMarkedRow(const timeline::IndexRow& row);
+    bool goToRow(const timeline::IndexRow& row);
     void askForNote();
     void showMarks();
+    void performCalls(Command command);
+    void closeCalls();
+    void showThisCall();
+    void updateCallActions();
+    void rememberCalls();
     void offerMacroTraces();
     void offerSavedFilters();
     void askForFilterName();
@@ -138,6 +148,7 @@ private:
     Document document_;
     std::unique_ptr<Marks> marks_;
     std::unique_ptr<StripMarks> stripMarks_;
+    std::unique_ptr<Calls> calls_; ///< which works on the document until it goes
     RowModel* model_ = nullptr;
     RowTable* table_ = nullptr;
     FacetPane* facets_ = nullptr;
@@ -148,6 +159,8 @@ private:
     RowExport* export_ = nullptr; ///< that is being written; null for none
     TimeStrip* times_ = nullptr;
     MarkList* markList_ = nullptr;
+    CallTabs* callTabs_ = nullptr;
+    QSplitter* rowsAndCalls_ = nullptr;
     QSplitter* splitter_ = nullptr;
     QSplitter* rowsAndDetails_ = nullptr;
     NoticeBar* notice_ = nullptr;

@@ -114,6 +114,7 @@ void MainWindow::perform(Command command)
         return askForExport();
     case Command::stop:
         if (export_ != nullptr) export_->cancel();
+        calls_->stop();
         return document_.cancel();
     case Command::quit:
         close();
@@ -394,6 +395,7 @@ void MainWindow::offerRowMenu(const QPoint& at)
     for (const Command command : {Command::copy, Command::copyRaw, Command::copyCsv})
         menu.addAction(actions_[command]);
     menu.addSeparator();
+    menu.addAction(actions_[Command::thisCall]);
     menu.addMenu(menus_[CommandMenu::only]);
     menu.addMenu(menus_[CommandMenu::hide]);
     menu.addSeparator();

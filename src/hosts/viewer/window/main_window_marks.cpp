@@ -29,7 +29,7 @@ void MainWindow::makeMarks()
         table_->goTo(place);
         toggleBookmark(place);
     });
-    connect(markList_, &MarkList::asked, this, &MainWindow::goToMarkedRow);
+    connect(markList_, &MarkList::asked, this, &MainWindow::goToRow);
     connect(marks_.get(), &Marks::changed, this, &MainWindow::showMarks);
     connect(marks_.get(), &Marks::told, this, &MainWindow::sayFailure);
 }
@@ -55,7 +55,7 @@ void MainWindow::performMarks(Command command)
         markList_->raise();
         return markList_->activateWindow();
     default:
-        return;
+        return performCalls(command);
     }
 }
 
@@ -77,7 +77,8 @@ void MainWindow::goToMark(Direction direction)
         toldFor);
 }
 
-void MainWindow::goToMarkedRow(const timeline::IndexRow& row)
+/// Goes to a row, if it is on show.
+bool MainWindow::goToRow(const timeline::IndexRow& row)
 {
     const auto place = document_.placesOnShow({row}).front();
     if (place)
@@ -85,6 +86,7 @@ void MainWindow::goToMarkedRow(const timeline::IndexRow& row)
     else
         statusBar()->showMessage(tr("The row is hidden by the filter; Ctrl+Shift+A shows all."),
                                  toldFor);
+    return place.has_value();
 }
 
 void MainWindow::askForNote()

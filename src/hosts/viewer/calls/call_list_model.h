@@ -1,0 +1,56 @@
+#pragma once
+
+#include "hosts/viewer/calls/call_counting.h"
+
+#include <QAbstractTableModel>
+#include <QIcon>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace viewer {
+
+enum class CallColumn { id, start, length, lines, errors, warnings, processes };
+inline constexpr int callColumns = 7;
+
+/// The list of calls as Qt's views see it, in the order of any of its columns.
+class CallListModel final : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    explicit CallListModel(QObject* parent = nullptr);
+
+    /// Shows another list, in the order of before; null for none.
+    void show(std::shared_ptr<const CallList> list);
+
+    /// The call of a row, and the row of a call; -1 for one that is not listed.
+    const timeline::Call& call(int row) const;
+    int rowOf(const std::string& id) const;
+
+    QString text(int row, CallColumn column) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation,
+                        int role = Qt::DisplayRole) const override;
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+
+    static QString title(CallColumn column);
+
+    /// Shows the headers again, in another language.
+    void renewHeaders();
+
+private:
+    void order();
+
+    std::shared_ptr<const CallList> list_;
+    std::vector<std::uint32_t> rows_; ///< places in the list
+    CallColumn column_ = CallColumn::start;
+    Qt::SortOrder order_ = Qt::AscendingOrder;
+    QIcon error_;
+    QIcon warning_;
+};
+
+} // namespace viewer
