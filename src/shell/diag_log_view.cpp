@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr std::int64_t largestShownLog = 2'500'000;
+using mdlSnapIn::largestShownLog;
 constexpr int columnCount = 7;
 constexpr int extendedColumnCount = 10;
 constexpr int linesBetweenReports = 1000;

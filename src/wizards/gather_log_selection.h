@@ -17,6 +17,9 @@ public:
                               std::string& FinishText) override;
     void IWizardPage_Next(int& NextPage) override;
 
+    /// Raises 424 when there is none.
+    const classTraceObject& job() const { return SelectedControls(0); }
+
     Label lblStepTitle;
     Label lblStepDescription;
 

@@ -20,6 +20,9 @@ public:
     void IWizardPage_Back(int& NextPage) override;
     void IWizardPage_Next(int& NextPage) override;
 
+    /// What the person has entered so far.
+    TimeFrameChoice choice() const;
+
     Label lblStepTitle;
     Label lblStepDescription;
     Frame Frame2; ///< around the clock
@@ -37,7 +40,6 @@ public:
 private:
     void ppgGatherLogs02Step_ControlInit();
     void populateDefaultTimeRange();
-    TimeFrameChoice choice() const;
     bool startsInTheFuture();
     void dtpickerTime_Change();
     void dtpickerDate_Change();

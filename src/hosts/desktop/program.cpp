@@ -52,6 +52,8 @@ Program::Program(QSettings& settings, std::string installedData, HostFacts facts
                      [this](const QString& folder) { openSample(folder.toStdString()); });
     QObject::connect(&window_, &MainWindow::fileAsked,
                      [this](const QString& path) { openFile(path); });
+    QObject::connect(&window_, &MainWindow::viewerAsked,
+                     [this](const QString& path) { openForViewer(path); });
     QObject::connect(&window_, &MainWindow::helpAsked,
                      [this](int topic) { desktop_.showHelp({}, topic); });
     desktop_.setMessageShown([this] {
@@ -135,6 +137,11 @@ void Program::openFile(const QString& path)
         open->trigger();
         return desktop_.answerPick({});
     }
+    openForViewer(path);
+}
+
+void Program::openForViewer(const QString& path)
+{
     if (viewer(path)) return;
     window_.showProblem([path] {
         return QObject::tr("%1 can be read with the viewer (orvandiag-viewer), which is not "

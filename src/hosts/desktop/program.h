@@ -37,6 +37,9 @@ public:
     /// when neither can be.
     void openFile(const QString& path);
 
+    /// Opens a file of the machine in the viewer; the window says why where that can't be.
+    void openForViewer(const QString& path);
+
     /// Opens the site at the default place; where none is there, the window shows the ways to
     /// begin.
     void openDefault(const std::string& folder);

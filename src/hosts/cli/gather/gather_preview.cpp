@@ -5,17 +5,13 @@
 #include "hosts/cli/gather/gather_wizard.h"
 #include "hosts/cli/log_folder.h"
 #include "hosts/cli/terminal/output.h"
-#include "platform/file_system.h"
-#include "runtime/run_time_error.h"
+#include "hosts/common/gather/gather_needs.h"
 #include "system/machine_path.h"
 
 #include <cstdint>
-#include <filesystem>
 #include <optional>
 
 namespace cli {
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -32,11 +28,9 @@ struct Plan {
 
 std::optional<std::int64_t> sizeOf(OpenTool& tool, const std::string& log)
 {
-    try {
-        return tool.context().platform.files.file(tool.context().g_strLogFolder + "\\" + log).size;
-    } catch (const RunTimeError&) {
-        return {};
-    }
+    const auto facts = logFacts(tool.context().platform.files, tool.context().g_strLogFolder, log);
+    if (!facts) return {};
+    return facts->size;
 }
 
 /// The steps of the progress page; one without a text stands for an empty list.
@@ -55,16 +49,6 @@ Plan planOf(OpenTool& tool, const TreeView& steps)
     }
     for (const PlannedLog& log : plan.logs) plan.size += log.size.value_or(0);
     return plan;
-}
-
-/// Bytes that this user may write below a folder, which need not be there yet.
-std::optional<std::int64_t> freeSpace(fs::path folder)
-{
-    std::error_code failed;
-    while (!fs::exists(folder, failed) && folder.has_relative_path()) folder = folder.parent_path();
-    const fs::space_info space = fs::space(folder, failed);
-    if (failed) return {};
-    return static_cast<std::int64_t>(space.available);
 }
 
 Json orNull(const std::optional<std::int64_t>& number)
@@ -95,7 +79,7 @@ void preview(OpenTool& tool, GatherWizard& wizard, Output& output)
     requireBeginning(tool, wizard);
     const Plan plan = planOf(tool, wizard.steps());
     const std::string destination = tool.machinePath(wizard.destination());
-    const auto room = freeSpace(filePathOf(destination));
+    const auto room = roomBelow(filePathOf(destination));
     if (const std::string trouble = logFolderClause(tool); !trouble.empty())
         output.message(trouble);
     if (!output.json()) {

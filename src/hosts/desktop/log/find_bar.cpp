@@ -1,21 +1,29 @@
 #include "hosts/desktop/log/find_bar.h"
 
 #include "hosts/common/look/icons.h"
+#include "hosts/common/look/plain_tool_tip.h"
 #include "hosts/common/look/spoken_label.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
+#include <QPixmap>
 #include <QToolButton>
+#include <QVBoxLayout>
+
+#include <initializer_list>
 
 namespace desktop {
 
 namespace {
 
 constexpr int spacing = 6;
-constexpr int closeRoom = 60; ///< for the button that closes the bar, and around all
+constexpr int colourSide = 12;
+constexpr qsizetype longestKept = 8; ///< letters of a kept text on its button
+constexpr int closeRoom = 60;        ///< for the button that closes the bar, and around all
 
 QToolButton* button(QWidget* parent, const char* icon)
 {
@@ -34,8 +42,9 @@ void name(QToolButton* button, const QString& text)
 
 } // namespace
 
-FindBar::FindBar(QWidget* parent)
-    : QWidget(parent), text_(new QLineEdit(this)), time_(new QLineEdit(this)),
+FindBar::FindBar(Highlights& marks, QWidget* parent)
+    : QWidget(parent), marks_(marks), text_(new QLineEdit(this)), time_(new QLineEdit(this)),
+      expression_(new QCheckBox(this)), matchesCase_(new QCheckBox(this)),
       count_(new SpokenLabel(this))
 {
     auto* findLabel = new QLabel(this);
@@ -48,16 +57,24 @@ FindBar::FindBar(QWidget* parent)
     text_->setMinimumWidth(fontMetrics().averageCharWidth() * 14);
     time_->setMinimumWidth(fontMetrics().averageCharWidth() * 12);
     text_->setObjectName(QStringLiteral("findText"));
+    expression_->setObjectName(QStringLiteral("expression"));
     time_->setMaximumWidth(fontMetrics().averageCharWidth() * 22);
     count_->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
     auto* previousButton = button(this, "previous");
     auto* nextButton = button(this, "next");
+    auto* keepButton = button(this, "bookmark");
     auto* closeButton = button(this, "close");
     showInLanguage(this, [=, this] {
         findLabel->setText(tr("Fi&nd:"));
         timeLabel->setText(tr("Go to &time:"));
         text_->setPlaceholderText(tr("Text in any column"));
         text_->setAccessibleName(tr("Text to find"));
+        expression_->setText(tr("Ex&pression"));
+        expression_->setToolTip(tr("Take the text for a regular expression"));
+        matchesCase_->setText(tr("Aa"));
+        matchesCase_->setToolTip(tr("Match case"));
+        matchesCase_->setAccessibleName(tr("Match case"));
+        name(keepButton, tr("Keep this text marked (Ctrl+M)"));
         time_->setPlaceholderText(tr("such as 15:23:07"));
         time_->setAccessibleName(tr("Time to go to"));
         count_->setAccessibleName(tr("Hits"));
@@ -65,23 +82,31 @@ FindBar::FindBar(QWidget* parent)
         name(nextButton, tr("Find next (F3)"));
         name(closeButton, tr("Close the find bar (Esc)"));
         if (counted_) count_->setText(counted_());
+        showKept();
     });
 
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(8, 6, 6, 6);
+    lines_ = new QVBoxLayout(this);
+    lines_->setContentsMargins(8, 6, 6, 6);
+    auto* row = new QHBoxLayout;
+    lines_->addLayout(row);
     row->addWidget(findLabel);
     row->addWidget(text_, 1);
-    row->addWidget(previousButton);
-    row->addWidget(nextButton);
-    row->addWidget(count_);
+    for (QWidget* part : std::initializer_list<QWidget*>{expression_, matchesCase_, previousButton,
+                                                         nextButton, keepButton, count_})
+        row->addWidget(part);
     row->addSpacing(12);
     row->addWidget(timeLabel);
     row->addWidget(time_);
     row->addWidget(closeButton);
-    findPart_ = {findLabel, text_, previousButton, nextButton};
+    findPart_ = {findLabel,      text_,      expression_, matchesCase_,
+                 previousButton, nextButton, keepButton};
     timePart_ = {timeLabel, time_};
 
-    connect(text_, &QLineEdit::textChanged, this, &FindBar::textChanged);
+    connect(text_, &QLineEdit::textChanged, this, &FindBar::conditionChanged);
+    connect(expression_, &QCheckBox::toggled, this, &FindBar::conditionChanged);
+    connect(matchesCase_, &QCheckBox::toggled, this, &FindBar::conditionChanged);
+    connect(keepButton, &QToolButton::clicked, this, &FindBar::keep);
+    connect(&marks_, &Highlights::changed, this, &FindBar::showKept);
     connect(time_, &QLineEdit::returnPressed, this, [this] { emit timeAsked(time_->text()); });
     connect(previousButton, &QToolButton::clicked, this, &FindBar::previous);
     connect(nextButton, &QToolButton::clicked, this, &FindBar::next);
@@ -123,9 +148,49 @@ void FindBar::startGoToTime()
     time_->selectAll();
 }
 
-QString FindBar::text() const
+TextCondition FindBar::condition() const
 {
-    return text_->text();
+    return {text_->text(), expression_->isChecked(), matchesCase_->isChecked(), false};
+}
+
+void FindBar::keep()
+{
+    if (text_->text().isEmpty()) return say([] { return tr("Type the text to keep marked"); });
+    if (!marks_.keep(condition())) say([] { return tr("No further colour is free"); });
+}
+
+/// A button for each text that is kept, in its colour; a click lets it go.
+void FindBar::showKept()
+{
+    if (kept_) {
+        kept_->hide();
+        kept_->deleteLater(); // a button of it may be the one that was clicked
+    }
+    kept_ = nullptr;
+    if (marks_.kept().empty()) return;
+    kept_ = new QWidget(this);
+    auto* row = new QHBoxLayout(kept_);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(spacing);
+    for (const Highlights::Kept& kept : marks_.kept()) {
+        auto* made = new QToolButton(kept_);
+        QPixmap colour(colourSide, colourSide);
+        colour.fill(Highlights::ground(kept.colour, palette()));
+        made->setIcon(colour);
+        made->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        made->setFocusPolicy(Qt::TabFocus);
+        const QString text = kept.text.text;
+        made->setText(
+            QString(text.size() > longestKept ? text.left(longestKept) + QChar(0x2026) : text)
+                .replace(QLatin1Char('&'), QStringLiteral("&&")));
+        name(made, plainToolTip(tr("Mark %1 no more").arg(text)));
+        made->setAccessibleName(tr("Mark %1 no more").arg(text));
+        connect(made, &QToolButton::clicked, this,
+                [this, colour = kept.colour] { marks_.letGo(colour); });
+        row->addWidget(made);
+    }
+    row->addStretch(1);
+    lines_->addWidget(kept_);
 }
 
 void FindBar::showHits(int current, int count)

@@ -100,8 +100,8 @@ void ListTable::listShown()
     roomyWidth_ = 0;
     for (int column = 0; column + 1 < list->columnCount(); ++column)
         roomyWidth_ += firstWidth(column, false);
-    giveWidths();
     showColumns();
+    giveWidths();
     const int last = list->columnCount() - 1;
     lastWidth_ = std::max(
         std::min(firstWidth(last, false), fontMetrics().averageCharWidth() * automaticCharacters),
@@ -124,20 +124,43 @@ void ListTable::giveWidths()
     arranging_ = false;
 }
 
-/// Hides what the person has hidden of such a list, and nothing else.
+/// What the person has hidden of such a list. Else what has to give way, for the last column to
+/// have its share.
+QVariantList ListTable::hiddenColumns() const
+{
+    if (settings_.contains(hiddenKey())) return settings_.value(hiddenKey()).toList();
+    QVariantList hidden;
+    int others = 0;
+    for (int column = 0; column + 1 < rows_.columnCount(); ++column)
+        others += firstWidth(column, true);
+    for (const int column : spare_) {
+        if (others <= viewport()->width() * mostOfView) break;
+        if (column < 0 || column + 1 >= rows_.columnCount()) continue;
+        others -= firstWidth(column, true);
+        hidden << column;
+    }
+    return hidden;
+}
+
+/// Gives those that come back their widths.
 void ListTable::showColumns()
 {
-    const QVariantList hidden = settings_.value(hiddenKey()).toList();
+    const QVariantList hidden = hiddenColumns();
+    bool more = false;
     arranging_ = true;
-    for (int column = 0; column < rows_.columnCount(); ++column)
-        setColumnHidden(column, column + 1 < rows_.columnCount() && hidden.contains(column));
+    for (int column = 0; column < rows_.columnCount(); ++column) {
+        const bool hide = column + 1 < rows_.columnCount() && hidden.contains(column);
+        more |= isColumnHidden(column) && !hide;
+        setColumnHidden(column, hide);
+    }
     arranging_ = false;
+    if (more) giveWidths();
 }
 
 void ListTable::setColumnShown(int column, bool shown)
 {
     if (!rows_.list()) return;
-    QVariantList hidden = settings_.value(hiddenKey()).toList();
+    QVariantList hidden = hiddenColumns();
     hidden.removeAll(column);
     if (!shown) hidden << column;
     settings_.setValue(hiddenKey(), hidden);
@@ -196,6 +219,7 @@ void ListTable::resizeEvent(QResizeEvent* event)
 {
     QTableView::resizeEvent(event);
     const bool tight = roomyWidth_ > viewport()->width() * mostOfView;
+    if (rows_.list()) showColumns();
     if (rows_.list() && tight != tight_) giveWidths();
     fillLastColumn();
 }

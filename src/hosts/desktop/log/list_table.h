@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QTableView>
+#include <QVariantList>
 
 #include <cstdint>
+#include <utility>
+#include <vector>
 
 class QMenu;
 class QSettings;
@@ -19,6 +22,10 @@ class ListTable final : public QTableView {
 public:
     /// Both outlive the table.
     ListTable(ListModel& model, QSettings& settings, QWidget* parent = nullptr);
+
+    /// Columns, from 0, that give way to the last one where a window has room for a few alone, the
+    /// first of them first; -1 for one that is not there. Until a person says which columns to see.
+    void setSpareColumns(std::vector<int> columns) { spare_ = std::move(columns); }
 
     /// Takes the widths and the sort mark of the list that the model shows.
     void listShown();
@@ -52,6 +59,7 @@ private:
     void markOrder();
     QString hiddenKey() const;
     void showColumns();
+    QVariantList hiddenColumns() const;
     void setColumnShown(int column, bool shown);
     void sortRows(int column, Qt::SortOrder order);
     QString widthsKey() const;
@@ -63,6 +71,7 @@ private:
 
     ListModel& rows_;
     QSettings& settings_;
+    std::vector<int> spare_;
     int lastWidth_ = 0;  ///< what the last column needs, or the person gave it
     int roomyWidth_ = 0; ///< of all columns but the last, as the console asks for
     bool tight_ = false; ///< as wide as their contents

@@ -1,9 +1,12 @@
 #include "hosts/desktop/log/log_delegate.h"
 
-#include "hosts/common/look/theme.h"
+#include "hosts/common/filters/highlights.h"
 
 #include <QApplication>
 #include <QPainter>
+
+#include <algorithm>
+#include <vector>
 
 namespace desktop {
 
@@ -11,15 +14,16 @@ void LogDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const
 {
     const QString text = index.data(Qt::DisplayRole).toString();
-    const bool found =
-        index.column() > 0 && !marked_.isEmpty() && text.contains(marked_, Qt::CaseInsensitive);
-    if (!found) return QStyledItemDelegate::paint(painter, option, index);
+    const auto marks = index.column() > 0 ? marks_.marksIn(text) : std::vector<Highlights::Mark>();
+    if (marks.empty()) return QStyledItemDelegate::paint(painter, option, index);
 
     QStyleOptionViewItem shown = option;
     initStyleOption(&shown, index);
     const QStyle* style = shown.widget ? shown.widget->style() : QApplication::style();
     const QString elided =
         shown.fontMetrics.elidedText(text, Qt::ElideRight, shown.rect.width() - 8);
+    // The last character of a shortened text stands for all that was cut.
+    const qsizetype whole = elided == text ? text.size() : elided.size() - 1;
     const QRect room = style->subElementRect(QStyle::SE_ItemViewItemText, &shown, shown.widget);
     const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, shown.widget) + 1;
     shown.text.clear();
@@ -29,12 +33,14 @@ void LogDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->setClipRect(shown.rect);
     const bool selected = shown.state & QStyle::State_Selected;
     const int left = room.left() + margin;
-    for (auto at = elided.indexOf(marked_, 0, Qt::CaseInsensitive); at >= 0;
-         at = elided.indexOf(marked_, at + marked_.size(), Qt::CaseInsensitive)) {
-        const int start = shown.fontMetrics.horizontalAdvance(elided.left(at));
-        const int width = shown.fontMetrics.horizontalAdvance(elided.mid(at, marked_.size()));
+    for (const Highlights::Mark& mark : marks) {
+        const qsizetype end = std::min(mark.begin + mark.length, whole);
+        if (mark.begin >= end) continue;
+        const int start = shown.fontMetrics.horizontalAdvance(elided.left(mark.begin));
+        const int width =
+            shown.fontMetrics.horizontalAdvance(elided.mid(mark.begin, end - mark.begin));
         const QRect hit(left + start, room.top() + 1, width, room.height() - 2);
-        if (!selected) painter->fillRect(hit, theme::hitTint(shown.palette));
+        if (!selected) painter->fillRect(hit, Highlights::ground(mark.colour, shown.palette));
         painter->setPen(shown.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
         painter->drawLine(hit.bottomLeft(), hit.bottomRight());
     }

@@ -2,22 +2,25 @@
 
 #include <QStyledItemDelegate>
 
+class Highlights;
+
 namespace desktop {
 
-/// Draws the cells of a log and marks in them the text that is looked for.
+/// Draws the cells of a log and marks in them the texts that are looked for or kept in a colour.
 class LogDelegate final : public QStyledItemDelegate {
     Q_OBJECT
 
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void mark(const QString& text) { marked_ = text; }
+    /// `marks` outlives the delegate.
+    explicit LogDelegate(const Highlights& marks, QObject* parent = nullptr)
+        : QStyledItemDelegate(parent), marks_(marks)
+    {}
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
 
 private:
-    QString marked_;
+    const Highlights& marks_;
 };
 
 } // namespace desktop

@@ -2,16 +2,14 @@
 
 #include "console/list_view.h"
 #include "hosts/common/look/icons.h"
-#include "hosts/common/look/interface_language.h"
 #include "hosts/common/look/theme.h"
 #include "hosts/desktop/log/details_pane.h"
 #include "hosts/desktop/log/filter_bar.h"
 #include "hosts/desktop/log/find_bar.h"
+#include "hosts/desktop/log/growth_bar.h"
 #include "hosts/desktop/log/list_table.h"
 #include "hosts/desktop/log/log_delegate.h"
-#include "hosts/desktop/log/overview_strip.h"
-#include "hosts/desktop/log/time_search.h"
-#include "hosts/desktop/sheets/typed_moment.h"
+#include "hosts/desktop/log/too_large_pane.h"
 
 #include <QHBoxLayout>
 #include <QMenu>
@@ -49,7 +47,7 @@ LogView::LogView(const CodePage& codePage, QSettings& settings, QWidget* parent)
     : QWidget(parent), codePage_(codePage), settings_(settings), model_(codePage)
 {
     filterBar_ = new FilterBar(this);
-    findBar_ = new FindBar(this);
+    findBar_ = new FindBar(marks_, this);
     splitter_ = new QSplitter(Qt::Vertical, this);
     makeLines();
     details_ = new DetailsPane(splitter_);
@@ -67,10 +65,14 @@ LogView::LogView(const CodePage& codePage, QSettings& settings, QWidget* parent)
     column->setSpacing(0);
     column->addWidget(filterBar_);
     column->addWidget(splitter_, 1);
+    growthBar_ = new GrowthBar(this);
+    growthBar_->hide();
+    column->addWidget(growthBar_);
     column->addWidget(findBar_);
     filterBar_->hide();
     findBar_->hide();
     connectParts();
+    connectGrowth();
 }
 
 /// The table, with its overview beside it.
@@ -79,7 +81,7 @@ void LogView::makeLines()
     table_ = new ListTable(model_, settings_, splitter_);
     table_->setFont(theme::traceFont());
     table_->setContextMenuPolicy(Qt::CustomContextMenu);
-    delegate_ = new LogDelegate(table_);
+    delegate_ = new LogDelegate(marks_, table_);
     table_->setItemDelegate(delegate_);
     auto* lines = new QWidget(splitter_);
     auto* row = new QHBoxLayout(lines);
@@ -87,6 +89,9 @@ void LogView::makeLines()
     row->setSpacing(0);
     overview_ = new OverviewStrip(*table_, lines);
     overview_->describe = [this](int at) { return describeRow(at); };
+    tooLarge_ = new TooLargePane(lines);
+    tooLarge_->hide();
+    row->addWidget(tooLarge_, 1);
     row->addWidget(table_, 1);
     row->addWidget(overview_);
     splitter_->addWidget(lines);
@@ -112,14 +117,13 @@ void LogView::connectParts()
         table_->setFocus();
     });
     connect(findBar_, &FindBar::closed, this, &LogView::endFind);
-    connect(findBar_, &FindBar::textChanged, this, [this](const QString& text) {
-        delegate_->mark(text);
-        findHits();
+    connect(findBar_, &FindBar::conditionChanged, this, [this] {
+        takeFind();
         if (!hits_.empty() &&
             !std::binary_search(hits_.begin(), hits_.end(), table_->currentIndex().row()))
             findNext();
-        table_->viewport()->update();
     });
+    connect(&marks_, &Highlights::changed, table_->viewport(), qOverload<>(&QWidget::update));
     connect(findBar_, &FindBar::next, this, &LogView::findNext);
     connect(findBar_, &FindBar::previous, this, &LogView::findPrevious);
     connect(findBar_, &FindBar::timeAsked, this, &LogView::goToTime);
@@ -129,10 +133,13 @@ void LogView::connectParts()
     });
 }
 
-void LogView::show(ListView& list, const QString& log)
+void LogView::show(ListView& list, const QString& log, const QString& file)
 {
     bookmarks_.reset();
     columns_ = LogColumns::of(list);
+    // The pane of details has them all.
+    table_->setSpareColumns({columns_.thread - 1, columns_.port - 1, columns_.traceNumber - 1,
+                             columns_.source - 1, columns_.callId - 1});
     // What the person looks for may be in several logs, so that filter and order stay.
     model_.show(list, filterBar_->filter(codePage_));
     filterBar_->offer(list, model_.decoder());
@@ -143,12 +150,14 @@ void LogView::show(ListView& list, const QString& log)
     // The log that was left last is taken up again where it was left.
     table_->goTo(log == log_ ? rowOfLine(line_) : 0);
     log_ = log;
+    showFile(list.itemCount(), file);
     details_->show(model_, table_->currentIndex().row());
 }
 
 void LogView::leave()
 {
     bookmarks_.reset();
+    growth_.watch({}, 0);
     model_.leave();
     details_->show(model_, -1);
 }
@@ -252,81 +261,6 @@ QString LogView::describeRow(int row) const
     return kind.arg(QString::number(lineOfRow(row)), trace.left(longestTip));
 }
 
-void LogView::startFind()
-{
-    findBar_->startFind();
-    delegate_->mark(findBar_->text());
-    findHits();
-}
-
-void LogView::endFind()
-{
-    findBar_->hide();
-    delegate_->mark({});
-    overview_->setRows(OverviewMark::hit, {});
-    table_->viewport()->update();
-    table_->setFocus();
-}
-
-void LogView::startGoToTime()
-{
-    findBar_->startGoToTime();
-}
-
-void LogView::findHits()
-{
-    hits_.clear();
-    const TextMatcher matcher(codePage_, findBar_->text().toStdU16String());
-    if (model_.list() && !matcher.empty())
-        for (int row = 0; row < model_.rowCount(); ++row)
-            if (rowHolds(*model_.list(), model_.positionOfRow(row), matcher)) hits_.push_back(row);
-    overview_->setRows(OverviewMark::hit, findBar_->isVisibleTo(this) ? hits_ : std::vector<int>());
-    showHitCount();
-}
-
-void LogView::showHitCount()
-{
-    const int row = table_->currentIndex().row();
-    const auto found = std::lower_bound(hits_.begin(), hits_.end(), row);
-    const bool current = found != hits_.end() && *found == row;
-    findBar_->showHits(current ? static_cast<int>(found - hits_.begin()) + 1 : 0,
-                       static_cast<int>(hits_.size()));
-}
-
-void LogView::findFrom(int direction)
-{
-    if (findBar_->text().isEmpty()) return startFind();
-    if (hits_.empty()) return emit said(tr("\"%1\" is not in these lines.").arg(findBar_->text()));
-    const int row = table_->currentIndex().row();
-    bool wrapped = false;
-    auto at = hits_.begin();
-    if (direction > 0) {
-        at = std::upper_bound(hits_.begin(), hits_.end(), row);
-        wrapped = at == hits_.end();
-        if (wrapped) at = hits_.begin();
-    } else {
-        at = std::lower_bound(hits_.begin(), hits_.end(), row);
-        wrapped = at == hits_.begin();
-        at = wrapped ? std::prev(hits_.end()) : std::prev(at);
-    }
-    table_->goTo(*at);
-    if (wrapped)
-        emit said(direction > 0 ? tr("Went on from the top.") : tr("Went on from the end."));
-}
-
-void LogView::goToTime(const QString& time)
-{
-    auto wanted = typedTime(time.toStdString());
-    // In the words of another language, as where a gather asks for a time.
-    if (const auto typed = timeTyped(time); !wanted && typed)
-        wanted = typed->toString(QStringLiteral("HH:mm:ss")).toStdString();
-    if (!wanted) return findBar_->say([] { return tr("Type a time such as 15:23"); });
-    const int row = rowAtTime(model_, columns_.timeStamp, *wanted, table_->currentIndex().row());
-    if (row < 0) return findBar_->say([time] { return tr("No line at %1 or later").arg(time); });
-    table_->goTo(row);
-    findBar_->say([line = lineOfRow(row)] { return tr("Line %1").arg(line); });
-}
-
 void LogView::startFilter()
 {
     filterBar_->startText();
@@ -379,40 +313,6 @@ void LogView::showBookmarks()
         for (int row = 0; row < model_.rowCount(); ++row)
             if (bookmarks_->has(lineOfRow(row))) marked.push_back(row);
     overview_->setRows(OverviewMark::bookmark, std::move(marked));
-}
-
-void LogView::toggleBookmark()
-{
-    const int row = table_->currentIndex().row();
-    if (!bookmarks_ || row < 0) return;
-    const int line = lineOfRow(row);
-    bookmarks_->toggle(line, model_.text(row, columns_.timeStamp));
-    showBookmarks();
-    table_->viewport()->update();
-    emit said(bookmarks_->has(line) ? tr("Line %1 is marked.").arg(line)
-                                    : tr("Line %1 is not marked any more.").arg(line));
-}
-
-void LogView::goToBookmark(int direction)
-{
-    if (!bookmarks_ || bookmarks_->count() == 0)
-        return emit said(tr("No line of this log is marked. Ctrl+B marks one."));
-    const int count = model_.rowCount();
-    const int current = table_->currentIndex().row();
-    for (int step = 1; step <= count; ++step) {
-        const int row = ((current + direction * step) % count + count) % count;
-        if (bookmarks_->has(lineOfRow(row))) return table_->goTo(row);
-    }
-    emit said(tr("The marked lines are hidden by the filter."));
-}
-
-void LogView::clearBookmarks()
-{
-    if (!bookmarks_) return;
-    bookmarks_->clear();
-    showBookmarks();
-    table_->viewport()->update();
-    emit said(tr("No line of this log is marked any more."));
 }
 
 bool LogView::detailsShown() const

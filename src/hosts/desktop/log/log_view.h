@@ -1,8 +1,13 @@
 #pragma once
 
+#include "hosts/common/filters/highlights.h"
+#include "hosts/common/look/interface_language.h"
 #include "hosts/desktop/log/bookmarks.h"
 #include "hosts/desktop/log/list_model.h"
 #include "hosts/desktop/log/log_columns.h"
+#include "hosts/desktop/log/log_growth.h"
+#include "hosts/desktop/log/overview_strip.h"
+#include "hosts/desktop/log/text_matcher.h"
 
 #include <QWidget>
 
@@ -18,9 +23,10 @@ namespace desktop {
 class DetailsPane;
 class FilterBar;
 class FindBar;
+class GrowthBar;
 class ListTable;
 class LogDelegate;
-class OverviewStrip;
+class TooLargePane;
 
 /// The reader of one log: its lines, with find, filter, bookmarks and the details of a line.
 class LogView final : public QWidget {
@@ -30,8 +36,9 @@ public:
     /// `settings` outlives the view.
     LogView(const CodePage& codePage, QSettings& settings, QWidget* parent = nullptr);
 
-    /// Shows a list that the console has filled. `log` names the log for its bookmarks.
-    void show(ListView& list, const QString& log);
+    /// Shows a list that the console has filled. `log` names the log for its bookmarks; `file` is
+    /// where it lies on this machine, and empty where that is not known.
+    void show(ListView& list, const QString& log, const QString& file = {});
 
     /// Shows no list any more: the console is about to change it.
     void leave();
@@ -44,6 +51,19 @@ public:
     FindBar& findBar() { return *findBar_; }
     FilterBar& filterBar() { return *filterBar_; }
     OverviewStrip& overview() { return *overview_; }
+    GrowthBar& growthBar() { return *growthBar_; }
+    TooLargePane& tooLarge() { return *tooLarge_; }
+
+    /// What takes the focus of the whole view: the lines, or the button where there are none.
+    QWidget& mainPart();
+
+    /// Whether lines are shown as they come to the log, while the last one is the current one. The
+    /// tool then reads the log again each time it has grown. It is off at first.
+    bool following() const;
+    void setFollowing(bool following);
+
+    /// Opens the log in the viewer.
+    void openInViewer();
 
     /// Open the bar for a text to find, for a time to go to, and for a filter.
     void startFind();
@@ -53,6 +73,18 @@ public:
     /// Go to the next hit, or the one before, and on from the other end.
     void findNext() { findFrom(1); }
     void findPrevious() { findFrom(-1); }
+
+    /// Keeps the text that is looked for marked in a colour of its own, or opens the bar for one.
+    void keepFound();
+
+    /// The texts that are kept so.
+    const std::vector<Highlights::Kept>& kept() const { return marks_.kept(); }
+
+    /// Go to the next line of an error or a warning, or the one before, and on from the other end.
+    void nextError() { goToMark(OverviewMark::error, 1); }
+    void previousError() { goToMark(OverviewMark::error, -1); }
+    void nextWarning() { goToMark(OverviewMark::warning, 1); }
+    void previousWarning() { goToMark(OverviewMark::warning, -1); }
 
     /// Goes to the next line at a time or later, as a person types it; the bar says when it is no
     /// time, or no line is that late.
@@ -80,6 +112,11 @@ public:
 signals:
     /// A sentence for the status bar.
     void said(const QString& sentence);
+    /// The log is to be read again.
+    void readAsked();
+    /// The log, a file of this machine, is to be opened in the viewer.
+    void viewerAsked(const QString& file);
+    void followed(bool on);
 
 private:
     enum class Severity { none, warning, error };
@@ -97,11 +134,22 @@ private:
     void rowsChanged();
     void showBookmarks();
     QString describeRow(int row) const;
+    void takeFind();
     void findHits();
     void findFrom(int direction);
     void showHitCount();
     void goToBookmark(int direction);
+    void goToMark(OverviewMark mark, int direction);
+    void goOn(const std::vector<int>& rows, int direction);
     void offerRowMenu(const QPoint& at);
+    void connectGrowth();
+    void showFile(int lines, const QString& file);
+    void growthChanged();
+    void showGrowth();
+    LiveSentence growthSentence() const;
+    void readAgain();
+    bool atEnd() const;
+    void goToEnd();
 
     CodePage codePage_;
     QSettings& settings_;
@@ -112,8 +160,14 @@ private:
     std::uint32_t position_ =
         0; ///< in the list, of the row that a filter was changed at; 0 for none
     std::optional<Bookmarks> bookmarks_;
-    std::vector<int> hits_; ///< rows with the text that is looked for, from the top
+    Highlights marks_;
+    TextMatcher found_;     ///< what is looked for
+    std::vector<int> hits_; ///< rows that have it, from the top
+    LogGrowth growth_;
+    QString file_; ///< of the log on show
     ListTable* table_ = nullptr;
+    TooLargePane* tooLarge_ = nullptr;
+    GrowthBar* growthBar_ = nullptr;
     LogDelegate* delegate_ = nullptr;
     OverviewStrip* overview_ = nullptr;
     FindBar* findBar_ = nullptr;

@@ -1,8 +1,11 @@
 #include "hosts/desktop/sheets/gather_additions.h"
 
+#include "hosts/desktop/sheets/gather_needs_additions.h"
 #include "hosts/desktop/sheets/page_addition.h"
 #include "runtime/run_time_error.h"
 #include "wizards/gather_completion.h"
+#include "wizards/gather_log_selection.h"
+#include "wizards/gather_time_frame.h"
 
 #include <QCoreApplication>
 #include <QLabel>
@@ -57,10 +60,14 @@ private:
 
 } // namespace
 
-PageAddition* gatherAddition(SheetPage& page, const MachinePath& machinePath)
+PageAddition* gatherAddition(SheetPage& page, const GatherSurroundings& surroundings)
 {
+    if (auto* frame = dynamic_cast<ppgGatherLogs02Step*>(&page))
+        return new FrameNeeds(*frame, surroundings);
+    if (const auto* logs = dynamic_cast<const ppgGatherLogs01Step*>(&page))
+        return new SelectionNeeds(*logs, surroundings);
     if (const auto* last = dynamic_cast<const ppgGatherLogs99Final*>(&page))
-        return new ResultPlace(*last, machinePath);
+        return new ResultPlace(*last, surroundings.machinePath);
     return nullptr;
 }
 

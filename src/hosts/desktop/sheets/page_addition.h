@@ -1,5 +1,7 @@
 #pragma once
 
+#include "hosts/desktop/sheets/control_view.h"
+
 #include <QWidget>
 
 namespace desktop {
@@ -11,6 +13,12 @@ public:
 
     /// Shows what holds now. Called each time the page comes on show.
     virtual void renew() = 0;
+
+    /// A control of the page shows something else now.
+    virtual void controlsChanged() {}
+
+    /// Runs what the person does here to the page's controls; the page sets it.
+    ActOnControl act;
 };
 
 } // namespace desktop

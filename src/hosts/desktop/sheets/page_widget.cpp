@@ -35,12 +35,16 @@ public:
 
 PageWidget::PageWidget(SheetPage& page, bool banner, QStringList taken, const ActOnControl& act,
                        QWidget* parent)
-    : QWidget(parent), page_(page), layout_(layoutOf(page, banner)), taken_(std::move(taken))
+    : QWidget(parent), page_(page), act_(act), layout_(layoutOf(page, banner)),
+      taken_(std::move(taken))
 {
     for (const PageControl& declared : page_.controls()) {
         views_.push_back(makeControlView(declared, this, act));
         if (!views_.back()) continue;
-        views_.back()->onShown = [this] { markLetters(); };
+        views_.back()->onShown = [this] {
+            markLetters();
+            if (addition_) addition_->controlsChanged();
+        };
         views_.back()->onSaid = [this](const LiveSentence& sentence) {
             if (onSaid) onSaid(sentence);
         };
@@ -188,6 +192,7 @@ void PageWidget::showState()
 void PageWidget::add(PageAddition* addition)
 {
     addition_ = addition;
+    addition_->act = act_;
     column_->addWidget(addition);
     addition_->renew();
 }

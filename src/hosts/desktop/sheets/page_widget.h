@@ -55,6 +55,7 @@ private:
     bool isBanner(std::size_t index) const;
 
     SheetPage& page_;
+    ActOnControl act_;
     PageLayout layout_;
     QStringList taken_;
     std::vector<std::unique_ptr<ControlView>>

@@ -116,18 +116,6 @@
         <translation>Zur Zeile einer Uhrzeit gehen</translation>
     </message>
     <message>
-        <source>F&amp;ilter...</source>
-        <translation>&amp;Filtern...</translation>
-    </message>
-    <message>
-        <source>Show or hide lines by component, source, level or text</source>
-        <translation>Zeilen nach Komponente, Quelle, Ebene oder Text ein- oder ausblenden</translation>
-    </message>
-    <message>
-        <source>Show A&amp;ll Rows</source>
-        <translation>Alle &amp;Zeilen anzeigen</translation>
-    </message>
-    <message>
         <source>End the filter</source>
         <translation>Den Filter aufheben</translation>
     </message>
@@ -250,6 +238,109 @@
     <message>
         <source>Version and interface language</source>
         <translation>Version und Sprache der Oberfläche</translation>
+    </message>
+    <message>
+        <source>&amp;Log</source>
+        <translation>&amp;Log</translation>
+    </message>
+    <message>
+        <source>&amp;Mark This Text</source>
+        <translation>Diesen Text &amp;markieren</translation>
+    </message>
+    <message>
+        <source>Keep the text that is looked for marked in a colour of its own</source>
+        <translation>Den gesuchten Text in einer eigenen Farbe markiert lassen</translation>
+    </message>
+    <message>
+        <source>Next Err&amp;or</source>
+        <translation>Nächster &amp;Fehler</translation>
+    </message>
+    <message>
+        <source>Go to the next line of an error</source>
+        <translation>Zur nächsten Zeile mit einem Fehler gehen</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Error</source>
+        <translation>Vor&amp;heriger Fehler</translation>
+    </message>
+    <message>
+        <source>Go to the line of an error before</source>
+        <translation>Zur vorherigen Zeile mit einem Fehler gehen</translation>
+    </message>
+    <message>
+        <source>Next &amp;Warning</source>
+        <translation>Nächste Warn&amp;ung</translation>
+    </message>
+    <message>
+        <source>Go to the next line of a warning</source>
+        <translation>Zur nächsten Zeile mit einer Warnung gehen</translation>
+    </message>
+    <message>
+        <source>Prev&amp;ious Warning</source>
+        <translation>Vorher&amp;ige Warnung</translation>
+    </message>
+    <message>
+        <source>Go to the line of a warning before</source>
+        <translation>Zur vorherigen Zeile mit einer Warnung gehen</translation>
+    </message>
+    <message>
+        <source>&amp;Filter...</source>
+        <translation>&amp;Filtern...</translation>
+    </message>
+    <message>
+        <source>Show or hide lines by what is in their columns</source>
+        <translation>Zeilen nach dem Inhalt ihrer Spalten zeigen oder ausblenden</translation>
+    </message>
+    <message>
+        <source>Show &amp;All Rows</source>
+        <translation>&amp;Alle Zeilen zeigen</translation>
+    </message>
+    <message>
+        <source>F&amp;ollow</source>
+        <translation>F&amp;olgen</translation>
+    </message>
+    <message>
+        <source>Show lines as they come, while the last line is the current one</source>
+        <translation>Zeilen zeigen, sobald sie kommen, solange die letzte Zeile die aktuelle ist</translation>
+    </message>
+    <message>
+        <source>Open in &amp;Viewer</source>
+        <translation>Im &amp;Viewer öffnen</translation>
+    </message>
+    <message>
+        <source>Open this log in the viewer, which shows logs of any size</source>
+        <translation>Dieses Log im Viewer öffnen, der Logs jeder Größe zeigt</translation>
+    </message>
+</context>
+<context>
+    <name>FrameNeeds</name>
+    <message>
+        <source>End with the Newest Log</source>
+        <translation>Mit dem neuesten Log enden</translation>
+    </message>
+    <message>
+        <source>Looking at the logs...</source>
+        <translation>Die Logs werden angesehen...</translation>
+    </message>
+    <message>
+        <source>No logs were found in the server&apos;s log folder.</source>
+        <translation>Im Logordner des Servers wurden keine Logs gefunden.</translation>
+    </message>
+    <message>
+        <source>The logs run from %1 to %2.</source>
+        <translation>Die Logs reichen von %1 bis %2.</translation>
+    </message>
+    <message>
+        <source>No log has lines of this time frame.</source>
+        <translation>Kein Log hat Zeilen aus diesem Zeitraum.</translation>
+    </message>
+    <message>
+        <source>This time frame takes 1 log, %1.</source>
+        <translation>Dieser Zeitraum nimmt 1 Log, %1.</translation>
+    </message>
+    <message>
+        <source>This time frame takes %1 logs, %2.</source>
+        <translation>Dieser Zeitraum nimmt %1 Logs, %2.</translation>
     </message>
 </context>
 <context>
@@ -493,6 +584,25 @@
     </message>
 </context>
 <context>
+    <name>SelectionNeeds</name>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>1 server log is chosen, %1. Free at the destination: %2.</source>
+        <translation>1 Serverlog ist gewählt, %1. Frei am Ziel: %2.</translation>
+    </message>
+    <message>
+        <source>%1 server logs are chosen, %2. Free at the destination: %3.</source>
+        <translation>%1 Serverlogs sind gewählt, %2. Frei am Ziel: %3.</translation>
+    </message>
+    <message>
+        <source>That is not enough room.</source>
+        <translation>Der Platz reicht nicht.</translation>
+    </message>
+</context>
+<context>
     <name>StartPage</name>
     <message>
         <source>Open a Site</source>
@@ -696,6 +806,69 @@
     <message>
         <source>%1 hits</source>
         <translation>%1 Treffer</translation>
+    </message>
+    <message>
+        <source>Ex&amp;pression</source>
+        <translation>Aus&amp;druck</translation>
+    </message>
+    <message>
+        <source>Take the text for a regular expression</source>
+        <translation>Den Text als regulären Ausdruck verstehen</translation>
+    </message>
+    <message>
+        <source>Aa</source>
+        <translation>Aa</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Groß- und Kleinschreibung beachten</translation>
+    </message>
+    <message>
+        <source>Keep this text marked (Ctrl+M)</source>
+        <translation>Diesen Text markiert lassen (Strg+M)</translation>
+    </message>
+    <message>
+        <source>Type the text to keep marked</source>
+        <translation>Den Text eingeben, der markiert bleibt</translation>
+    </message>
+    <message>
+        <source>No further colour is free</source>
+        <translation>Keine weitere Farbe ist frei</translation>
+    </message>
+    <message>
+        <source>Mark %1 no more</source>
+        <translation>%1 nicht mehr markieren</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::GrowthBar</name>
+    <message>
+        <source>New lines</source>
+        <translation>Neue Zeilen</translation>
+    </message>
+    <message>
+        <source>Read &amp;Again</source>
+        <translation>Neu &amp;lesen</translation>
+    </message>
+    <message>
+        <source>Read the log again, to its present end (F5)</source>
+        <translation>Das Log bis zu seinem jetzigen Ende neu lesen (F5)</translation>
+    </message>
+    <message>
+        <source>Open in Vie&amp;wer</source>
+        <translation>Im Vie&amp;wer öffnen</translation>
+    </message>
+    <message>
+        <source>Open this log in the viewer, which shows logs of any size</source>
+        <translation>Dieses Log im Viewer öffnen, der Logs jeder Größe zeigt</translation>
+    </message>
+    <message>
+        <source>Foll&amp;ow</source>
+        <translation>F&amp;olgen</translation>
+    </message>
+    <message>
+        <source>Show lines as they come, while the last line is the current one</source>
+        <translation>Zeilen zeigen, sobald sie kommen, solange die letzte Zeile die aktuelle ist</translation>
     </message>
 </context>
 <context>
@@ -918,6 +1091,38 @@
         <source>warning</source>
         <translation>Warnung</translation>
     </message>
+    <message>
+        <source>No line on show tells of an error.</source>
+        <translation>Keine gezeigte Zeile meldet einen Fehler.</translation>
+    </message>
+    <message>
+        <source>No line on show tells of a warning.</source>
+        <translation>Keine gezeigte Zeile meldet eine Warnung.</translation>
+    </message>
+    <message>
+        <source>This log has grown past the %1 bytes that the tool shows.</source>
+        <translation>Dieses Log ist über die %1 Bytes gewachsen, die das Werkzeug zeigt.</translation>
+    </message>
+    <message>
+        <source>This log was begun anew.</source>
+        <translation>Dieses Log wurde neu begonnen.</translation>
+    </message>
+    <message>
+        <source>Following: lines are shown as they come.</source>
+        <translation>Folgt: Zeilen werden gezeigt, sobald sie kommen.</translation>
+    </message>
+    <message>
+        <source>%1 new lines wait. Go to the last line to see them.</source>
+        <translation>%1 neue Zeilen warten. Zur letzten Zeile gehen, um sie zu sehen.</translation>
+    </message>
+    <message>
+        <source>1 new line</source>
+        <translation>1 neue Zeile</translation>
+    </message>
+    <message>
+        <source>%1 new lines</source>
+        <translation>%1 neue Zeilen</translation>
+    </message>
 </context>
 <context>
     <name>desktop::MainWindow</name>
@@ -1102,6 +1307,17 @@
     <message>
         <source>That did not work: %1. Try again, or press Cancel.</source>
         <translation>Das hat nicht funktioniert: %1. Versuchen Sie es noch einmal, oder klicken Sie auf Abbrechen.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::TooLargePane</name>
+    <message>
+        <source>This log has %1 bytes, and the tool shows logs of up to %2. The viewer shows logs of any size.</source>
+        <translation>Dieses Log hat %1 Bytes, und das Werkzeug zeigt Logs bis %2. Der Viewer zeigt Logs jeder Größe.</translation>
+    </message>
+    <message>
+        <source>Open in &amp;Viewer</source>
+        <translation>Im &amp;Viewer öffnen</translation>
     </message>
 </context>
 </TS>

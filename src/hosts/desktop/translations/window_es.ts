@@ -116,18 +116,6 @@
         <translation>Ir a la línea de una hora del día</translation>
     </message>
     <message>
-        <source>F&amp;ilter...</source>
-        <translation>&amp;Filtrar...</translation>
-    </message>
-    <message>
-        <source>Show or hide lines by component, source, level or text</source>
-        <translation>Mostrar u ocultar líneas por componente, origen, nivel o texto</translation>
-    </message>
-    <message>
-        <source>Show A&amp;ll Rows</source>
-        <translation>&amp;Mostrar todas las filas</translation>
-    </message>
-    <message>
         <source>End the filter</source>
         <translation>Quitar el filtro</translation>
     </message>
@@ -250,6 +238,109 @@
     <message>
         <source>Version and interface language</source>
         <translation>Versión e idioma de la interfaz</translation>
+    </message>
+    <message>
+        <source>&amp;Log</source>
+        <translation>&amp;Registro</translation>
+    </message>
+    <message>
+        <source>&amp;Mark This Text</source>
+        <translation>&amp;Marcar este texto</translation>
+    </message>
+    <message>
+        <source>Keep the text that is looked for marked in a colour of its own</source>
+        <translation>Dejar marcado con un color propio el texto que se busca</translation>
+    </message>
+    <message>
+        <source>Next Err&amp;or</source>
+        <translation>Error sig&amp;uiente</translation>
+    </message>
+    <message>
+        <source>Go to the next line of an error</source>
+        <translation>Ir a la siguiente línea con un error</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Error</source>
+        <translation>E&amp;rror anterior</translation>
+    </message>
+    <message>
+        <source>Go to the line of an error before</source>
+        <translation>Ir a la línea anterior con un error</translation>
+    </message>
+    <message>
+        <source>Next &amp;Warning</source>
+        <translation>&amp;Próxima advertencia</translation>
+    </message>
+    <message>
+        <source>Go to the next line of a warning</source>
+        <translation>Ir a la siguiente línea con una advertencia</translation>
+    </message>
+    <message>
+        <source>Prev&amp;ious Warning</source>
+        <translation>Advertencia ant&amp;erior</translation>
+    </message>
+    <message>
+        <source>Go to the line of a warning before</source>
+        <translation>Ir a la línea anterior con una advertencia</translation>
+    </message>
+    <message>
+        <source>&amp;Filter...</source>
+        <translation>&amp;Filtrar...</translation>
+    </message>
+    <message>
+        <source>Show or hide lines by what is in their columns</source>
+        <translation>Mostrar u ocultar líneas según el contenido de sus columnas</translation>
+    </message>
+    <message>
+        <source>Show &amp;All Rows</source>
+        <translation>Mostrar &amp;todas las filas</translation>
+    </message>
+    <message>
+        <source>F&amp;ollow</source>
+        <translation>Segui&amp;r</translation>
+    </message>
+    <message>
+        <source>Show lines as they come, while the last line is the current one</source>
+        <translation>Mostrar las líneas según llegan mientras la última sea la actual</translation>
+    </message>
+    <message>
+        <source>Open in &amp;Viewer</source>
+        <translation>Abrir en el &amp;visor</translation>
+    </message>
+    <message>
+        <source>Open this log in the viewer, which shows logs of any size</source>
+        <translation>Abrir este registro en el visor, que muestra registros de cualquier tamaño</translation>
+    </message>
+</context>
+<context>
+    <name>FrameNeeds</name>
+    <message>
+        <source>End with the Newest Log</source>
+        <translation>Terminar con el registro más nuevo</translation>
+    </message>
+    <message>
+        <source>Looking at the logs...</source>
+        <translation>Mirando los registros...</translation>
+    </message>
+    <message>
+        <source>No logs were found in the server&apos;s log folder.</source>
+        <translation>No se encontraron registros en la carpeta de registros del servidor.</translation>
+    </message>
+    <message>
+        <source>The logs run from %1 to %2.</source>
+        <translation>Los registros van de %1 a %2.</translation>
+    </message>
+    <message>
+        <source>No log has lines of this time frame.</source>
+        <translation>Ningún registro tiene líneas de este intervalo.</translation>
+    </message>
+    <message>
+        <source>This time frame takes 1 log, %1.</source>
+        <translation>Este intervalo toma 1 registro, %1.</translation>
+    </message>
+    <message>
+        <source>This time frame takes %1 logs, %2.</source>
+        <translation>Este intervalo toma %1 registros, %2.</translation>
     </message>
 </context>
 <context>
@@ -493,6 +584,25 @@
     </message>
 </context>
 <context>
+    <name>SelectionNeeds</name>
+    <message>
+        <source>unknown</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>1 server log is chosen, %1. Free at the destination: %2.</source>
+        <translation>1 registro del servidor elegido, %1. Libre en el destino: %2.</translation>
+    </message>
+    <message>
+        <source>%1 server logs are chosen, %2. Free at the destination: %3.</source>
+        <translation>%1 registros del servidor elegidos, %2. Libre en el destino: %3.</translation>
+    </message>
+    <message>
+        <source>That is not enough room.</source>
+        <translation>No hay espacio suficiente.</translation>
+    </message>
+</context>
+<context>
     <name>StartPage</name>
     <message>
         <source>Open a Site</source>
@@ -696,6 +806,69 @@
     <message>
         <source>%1 hits</source>
         <translation>%1 coincidencias</translation>
+    </message>
+    <message>
+        <source>Ex&amp;pression</source>
+        <translation>Ex&amp;presión</translation>
+    </message>
+    <message>
+        <source>Take the text for a regular expression</source>
+        <translation>Tomar el texto como expresión regular</translation>
+    </message>
+    <message>
+        <source>Aa</source>
+        <translation>Aa</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Distinguir mayúsculas y minúsculas</translation>
+    </message>
+    <message>
+        <source>Keep this text marked (Ctrl+M)</source>
+        <translation>Dejar marcado este texto (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Type the text to keep marked</source>
+        <translation>Escriba el texto que queda marcado</translation>
+    </message>
+    <message>
+        <source>No further colour is free</source>
+        <translation>No queda ningún color libre</translation>
+    </message>
+    <message>
+        <source>Mark %1 no more</source>
+        <translation>No marcar más %1</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::GrowthBar</name>
+    <message>
+        <source>New lines</source>
+        <translation>Líneas nuevas</translation>
+    </message>
+    <message>
+        <source>Read &amp;Again</source>
+        <translation>&amp;Leer de nuevo</translation>
+    </message>
+    <message>
+        <source>Read the log again, to its present end (F5)</source>
+        <translation>Leer de nuevo el registro hasta su final actual (F5)</translation>
+    </message>
+    <message>
+        <source>Open in Vie&amp;wer</source>
+        <translation>Abrir en el vi&amp;sor</translation>
+    </message>
+    <message>
+        <source>Open this log in the viewer, which shows logs of any size</source>
+        <translation>Abrir este registro en el visor, que muestra registros de cualquier tamaño</translation>
+    </message>
+    <message>
+        <source>Foll&amp;ow</source>
+        <translation>Segui&amp;r</translation>
+    </message>
+    <message>
+        <source>Show lines as they come, while the last line is the current one</source>
+        <translation>Mostrar las líneas según llegan mientras la última sea la actual</translation>
     </message>
 </context>
 <context>
@@ -918,6 +1091,38 @@
         <source>warning</source>
         <translation>advertencia</translation>
     </message>
+    <message>
+        <source>No line on show tells of an error.</source>
+        <translation>Ninguna línea mostrada indica un error.</translation>
+    </message>
+    <message>
+        <source>No line on show tells of a warning.</source>
+        <translation>Ninguna línea mostrada indica una advertencia.</translation>
+    </message>
+    <message>
+        <source>This log has grown past the %1 bytes that the tool shows.</source>
+        <translation>Este registro ha superado los %1 bytes que la herramienta muestra.</translation>
+    </message>
+    <message>
+        <source>This log was begun anew.</source>
+        <translation>Este registro se ha empezado de nuevo.</translation>
+    </message>
+    <message>
+        <source>Following: lines are shown as they come.</source>
+        <translation>Siguiendo: las líneas se muestran según llegan.</translation>
+    </message>
+    <message>
+        <source>%1 new lines wait. Go to the last line to see them.</source>
+        <translation>Esperan %1 líneas nuevas. Vaya a la última línea para verlas.</translation>
+    </message>
+    <message>
+        <source>1 new line</source>
+        <translation>1 línea nueva</translation>
+    </message>
+    <message>
+        <source>%1 new lines</source>
+        <translation>%1 líneas nuevas</translation>
+    </message>
 </context>
 <context>
     <name>desktop::MainWindow</name>
@@ -1102,6 +1307,17 @@
     <message>
         <source>That did not work: %1. Try again, or press Cancel.</source>
         <translation>No ha funcionado: %1. Inténtelo de nuevo o pulse Cancelar.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::TooLargePane</name>
+    <message>
+        <source>This log has %1 bytes, and the tool shows logs of up to %2. The viewer shows logs of any size.</source>
+        <translation>Este registro tiene %1 bytes, y la herramienta muestra registros de hasta %2. El visor muestra registros de cualquier tamaño.</translation>
+    </message>
+    <message>
+        <source>Open in &amp;Viewer</source>
+        <translation>Abrir en el &amp;visor</translation>
     </message>
 </context>
 </TS>

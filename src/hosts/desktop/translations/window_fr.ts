@@ -116,18 +116,6 @@
         <translation>Aller à la ligne d&apos;une heure de la journée</translation>
     </message>
     <message>
-        <source>F&amp;ilter...</source>
-        <translation>&amp;Filtrer...</translation>
-    </message>
-    <message>
-        <source>Show or hide lines by component, source, level or text</source>
-        <translation>Afficher ou masquer des lignes par composant, source, niveau ou texte</translation>
-    </message>
-    <message>
-        <source>Show A&amp;ll Rows</source>
-        <translation>&amp;Afficher toutes les lignes</translation>
-    </message>
-    <message>
         <source>End the filter</source>
         <translation>Supprimer le filtre</translation>
     </message>
@@ -250,6 +238,109 @@
     <message>
         <source>Version and interface language</source>
         <translation>Version et langue de l&apos;interface</translation>
+    </message>
+    <message>
+        <source>&amp;Log</source>
+        <translation>&amp;Journal</translation>
+    </message>
+    <message>
+        <source>&amp;Mark This Text</source>
+        <translation>&amp;Marquer ce texte</translation>
+    </message>
+    <message>
+        <source>Keep the text that is looked for marked in a colour of its own</source>
+        <translation>Garder le texte recherché marqué d&apos;une couleur à lui</translation>
+    </message>
+    <message>
+        <source>Next Err&amp;or</source>
+        <translation>Pr&amp;ochaine erreur</translation>
+    </message>
+    <message>
+        <source>Go to the next line of an error</source>
+        <translation>Aller à la ligne d&apos;erreur suivante</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Error</source>
+        <translation>Erre&amp;ur précédente</translation>
+    </message>
+    <message>
+        <source>Go to the line of an error before</source>
+        <translation>Aller à la ligne d&apos;erreur précédente</translation>
+    </message>
+    <message>
+        <source>Next &amp;Warning</source>
+        <translation>Proc&amp;hain avertissement</translation>
+    </message>
+    <message>
+        <source>Go to the next line of a warning</source>
+        <translation>Aller à la ligne d&apos;avertissement suivante</translation>
+    </message>
+    <message>
+        <source>Prev&amp;ious Warning</source>
+        <translation>Avert&amp;issement précédent</translation>
+    </message>
+    <message>
+        <source>Go to the line of a warning before</source>
+        <translation>Aller à la ligne d&apos;avertissement précédente</translation>
+    </message>
+    <message>
+        <source>&amp;Filter...</source>
+        <translation>&amp;Filtrer...</translation>
+    </message>
+    <message>
+        <source>Show or hide lines by what is in their columns</source>
+        <translation>Afficher ou masquer les lignes selon le contenu de leurs colonnes</translation>
+    </message>
+    <message>
+        <source>Show &amp;All Rows</source>
+        <translation>&amp;Afficher toutes les lignes</translation>
+    </message>
+    <message>
+        <source>F&amp;ollow</source>
+        <translation>S&amp;uivre</translation>
+    </message>
+    <message>
+        <source>Show lines as they come, while the last line is the current one</source>
+        <translation>Afficher les lignes à mesure qu&apos;elles arrivent, tant que la dernière est la ligne courante</translation>
+    </message>
+    <message>
+        <source>Open in &amp;Viewer</source>
+        <translation>Ouvrir dans la &amp;visionneuse</translation>
+    </message>
+    <message>
+        <source>Open this log in the viewer, which shows logs of any size</source>
+        <translation>Ouvrir ce journal dans la visionneuse, qui affiche les journaux de toute taille</translation>
+    </message>
+</context>
+<context>
+    <name>FrameNeeds</name>
+    <message>
+        <source>End with the Newest Log</source>
+        <translation>Finir avec le journal le plus récent</translation>
+    </message>
+    <message>
+        <source>Looking at the logs...</source>
+        <translation>Examen des journaux...</translation>
+    </message>
+    <message>
+        <source>No logs were found in the server&apos;s log folder.</source>
+        <translation>Aucun journal n&apos;a été trouvé dans le dossier des journaux du serveur.</translation>
+    </message>
+    <message>
+        <source>The logs run from %1 to %2.</source>
+        <translation>Les journaux vont de %1 à %2.</translation>
+    </message>
+    <message>
+        <source>No log has lines of this time frame.</source>
+        <translation>Aucun journal n&apos;a de lignes de cette période.</translation>
+    </message>
+    <message>
+        <source>This time frame takes 1 log, %1.</source>
+        <translation>Cette période prend 1 journal, %1.</translation>
+    </message>
+    <message>
+        <source>This time frame takes %1 logs, %2.</source>
+        <translation>Cette période prend %1 journaux, %2.</translation>
     </message>
 </context>
 <context>
@@ -493,6 +584,25 @@
     </message>
 </context>
 <context>
+    <name>SelectionNeeds</name>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>1 server log is chosen, %1. Free at the destination: %2.</source>
+        <translation>1 journal du serveur est choisi, %1. Libre à la destination : %2.</translation>
+    </message>
+    <message>
+        <source>%1 server logs are chosen, %2. Free at the destination: %3.</source>
+        <translation>%1 journaux du serveur sont choisis, %2. Libre à la destination : %3.</translation>
+    </message>
+    <message>
+        <source>That is not enough room.</source>
+        <translation>La place ne suffit pas.</translation>
+    </message>
+</context>
+<context>
     <name>StartPage</name>
     <message>
         <source>Open a Site</source>
@@ -696,6 +806,69 @@
     <message>
         <source>%1 hits</source>
         <translation>%1 correspondances</translation>
+    </message>
+    <message>
+        <source>Ex&amp;pression</source>
+        <translation>Ex&amp;pression</translation>
+    </message>
+    <message>
+        <source>Take the text for a regular expression</source>
+        <translation>Prendre le texte pour une expression régulière</translation>
+    </message>
+    <message>
+        <source>Aa</source>
+        <translation>Aa</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Respecter la casse</translation>
+    </message>
+    <message>
+        <source>Keep this text marked (Ctrl+M)</source>
+        <translation>Garder ce texte marqué (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Type the text to keep marked</source>
+        <translation>Saisissez le texte à garder marqué</translation>
+    </message>
+    <message>
+        <source>No further colour is free</source>
+        <translation>Aucune autre couleur n&apos;est libre</translation>
+    </message>
+    <message>
+        <source>Mark %1 no more</source>
+        <translation>Ne plus marquer %1</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::GrowthBar</name>
+    <message>
+        <source>New lines</source>
+        <translation>Nouvelles lignes</translation>
+    </message>
+    <message>
+        <source>Read &amp;Again</source>
+        <translation>Re&amp;lire</translation>
+    </message>
+    <message>
+        <source>Read the log again, to its present end (F5)</source>
+        <translation>Relire le journal jusqu&apos;à sa fin actuelle (F5)</translation>
+    </message>
+    <message>
+        <source>Open in Vie&amp;wer</source>
+        <translation>Ouvrir dans la vi&amp;sionneuse</translation>
+    </message>
+    <message>
+        <source>Open this log in the viewer, which shows logs of any size</source>
+        <translation>Ouvrir ce journal dans la visionneuse, qui affiche les journaux de toute taille</translation>
+    </message>
+    <message>
+        <source>Foll&amp;ow</source>
+        <translation>S&amp;uivre</translation>
+    </message>
+    <message>
+        <source>Show lines as they come, while the last line is the current one</source>
+        <translation>Afficher les lignes à mesure qu&apos;elles arrivent, tant que la dernière est la ligne courante</translation>
     </message>
 </context>
 <context>
@@ -918,6 +1091,38 @@
         <source>warning</source>
         <translation>avertissement</translation>
     </message>
+    <message>
+        <source>No line on show tells of an error.</source>
+        <translation>Aucune ligne affichée ne signale d&apos;erreur.</translation>
+    </message>
+    <message>
+        <source>No line on show tells of a warning.</source>
+        <translation>Aucune ligne affichée ne signale d&apos;avertissement.</translation>
+    </message>
+    <message>
+        <source>This log has grown past the %1 bytes that the tool shows.</source>
+        <translation>Ce journal a dépassé les %1 octets que l&apos;outil affiche.</translation>
+    </message>
+    <message>
+        <source>This log was begun anew.</source>
+        <translation>Ce journal a été recommencé.</translation>
+    </message>
+    <message>
+        <source>Following: lines are shown as they come.</source>
+        <translation>Suivi : les lignes s&apos;affichent à mesure qu&apos;elles arrivent.</translation>
+    </message>
+    <message>
+        <source>%1 new lines wait. Go to the last line to see them.</source>
+        <translation>%1 nouvelles lignes attendent. Allez à la dernière ligne pour les voir.</translation>
+    </message>
+    <message>
+        <source>1 new line</source>
+        <translation>1 nouvelle ligne</translation>
+    </message>
+    <message>
+        <source>%1 new lines</source>
+        <translation>%1 nouvelles lignes</translation>
+    </message>
 </context>
 <context>
     <name>desktop::MainWindow</name>
@@ -1102,6 +1307,17 @@
     <message>
         <source>That did not work: %1. Try again, or press Cancel.</source>
         <translation>Cela n&apos;a pas fonctionné&#xa0;: %1. Réessayez, ou cliquez sur Annuler.</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::TooLargePane</name>
+    <message>
+        <source>This log has %1 bytes, and the tool shows logs of up to %2. The viewer shows logs of any size.</source>
+        <translation>Ce journal a %1 octets, et l&apos;outil affiche des journaux jusqu&apos;à %2. La visionneuse affiche les journaux de toute taille.</translation>
+    </message>
+    <message>
+        <source>Open in &amp;Viewer</source>
+        <translation>Ouvrir dans la &amp;visionneuse</translation>
     </message>
 </context>
 </TS>

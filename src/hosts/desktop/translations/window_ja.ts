@@ -116,18 +116,6 @@
         <translation>指定した時刻の行へ移動します</translation>
     </message>
     <message>
-        <source>F&amp;ilter...</source>
-        <translation>フィルター(&amp;I)...</translation>
-    </message>
-    <message>
-        <source>Show or hide lines by component, source, level or text</source>
-        <translation>コンポーネント、ソース、レベル、または文字列で行を表示または非表示にします</translation>
-    </message>
-    <message>
-        <source>Show A&amp;ll Rows</source>
-        <translation>すべての行を表示(&amp;L)</translation>
-    </message>
-    <message>
         <source>End the filter</source>
         <translation>フィルターを解除します</translation>
     </message>
@@ -250,6 +238,109 @@
     <message>
         <source>Version and interface language</source>
         <translation>バージョンと表示言語</translation>
+    </message>
+    <message>
+        <source>&amp;Log</source>
+        <translation>ログ(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Mark This Text</source>
+        <translation>この文字列に色を付ける(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Keep the text that is looked for marked in a colour of its own</source>
+        <translation>検索中の文字列に専用の色を付けたままにします</translation>
+    </message>
+    <message>
+        <source>Next Err&amp;or</source>
+        <translation>次のエラー(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Go to the next line of an error</source>
+        <translation>次のエラー行へ移動します</translation>
+    </message>
+    <message>
+        <source>P&amp;revious Error</source>
+        <translation>前のエラー(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Go to the line of an error before</source>
+        <translation>前のエラー行へ移動します</translation>
+    </message>
+    <message>
+        <source>Next &amp;Warning</source>
+        <translation>次の警告(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Go to the next line of a warning</source>
+        <translation>次の警告行へ移動します</translation>
+    </message>
+    <message>
+        <source>Prev&amp;ious Warning</source>
+        <translation>前の警告(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Go to the line of a warning before</source>
+        <translation>前の警告行へ移動します</translation>
+    </message>
+    <message>
+        <source>&amp;Filter...</source>
+        <translation>フィルター(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Show or hide lines by what is in their columns</source>
+        <translation>列の内容で行を表示または非表示にします</translation>
+    </message>
+    <message>
+        <source>Show &amp;All Rows</source>
+        <translation>すべての行を表示(&amp;A)</translation>
+    </message>
+    <message>
+        <source>F&amp;ollow</source>
+        <translation>追従(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Show lines as they come, while the last line is the current one</source>
+        <translation>最後の行が選ばれている間、届いた行を順に表示します</translation>
+    </message>
+    <message>
+        <source>Open in &amp;Viewer</source>
+        <translation>ビューアーで開く(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Open this log in the viewer, which shows logs of any size</source>
+        <translation>このログを、どのサイズのログも表示できるビューアーで開きます</translation>
+    </message>
+</context>
+<context>
+    <name>FrameNeeds</name>
+    <message>
+        <source>End with the Newest Log</source>
+        <translation>最新のログの終わりまでにする</translation>
+    </message>
+    <message>
+        <source>Looking at the logs...</source>
+        <translation>ログを調べています...</translation>
+    </message>
+    <message>
+        <source>No logs were found in the server&apos;s log folder.</source>
+        <translation>サーバーのログ フォルダーにログが見つかりません。</translation>
+    </message>
+    <message>
+        <source>The logs run from %1 to %2.</source>
+        <translation>ログの範囲: %1 から %2 まで。</translation>
+    </message>
+    <message>
+        <source>No log has lines of this time frame.</source>
+        <translation>この期間の行があるログはありません。</translation>
+    </message>
+    <message>
+        <source>This time frame takes 1 log, %1.</source>
+        <translation>この期間で集めるログ: 1 個、%1。</translation>
+    </message>
+    <message>
+        <source>This time frame takes %1 logs, %2.</source>
+        <translation>この期間で集めるログ: %1 個、%2。</translation>
     </message>
 </context>
 <context>
@@ -493,6 +584,25 @@
     </message>
 </context>
 <context>
+    <name>SelectionNeeds</name>
+    <message>
+        <source>unknown</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>1 server log is chosen, %1. Free at the destination: %2.</source>
+        <translation>サーバー ログ 1 個を選択、%1。保存先の空き: %2。</translation>
+    </message>
+    <message>
+        <source>%1 server logs are chosen, %2. Free at the destination: %3.</source>
+        <translation>サーバー ログ %1 個を選択、%2。保存先の空き: %3。</translation>
+    </message>
+    <message>
+        <source>That is not enough room.</source>
+        <translation>空きが足りません。</translation>
+    </message>
+</context>
+<context>
     <name>StartPage</name>
     <message>
         <source>Open a Site</source>
@@ -696,6 +806,69 @@
     <message>
         <source>%1 hits</source>
         <translation>%1 件一致</translation>
+    </message>
+    <message>
+        <source>Ex&amp;pression</source>
+        <translation>正規表現(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Take the text for a regular expression</source>
+        <translation>文字列を正規表現として扱います</translation>
+    </message>
+    <message>
+        <source>Aa</source>
+        <translation>Aa</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>大文字と小文字を区別する</translation>
+    </message>
+    <message>
+        <source>Keep this text marked (Ctrl+M)</source>
+        <translation>この文字列に色を付けたままにする (Ctrl+M)</translation>
+    </message>
+    <message>
+        <source>Type the text to keep marked</source>
+        <translation>色を付ける文字列を入力してください</translation>
+    </message>
+    <message>
+        <source>No further colour is free</source>
+        <translation>空いている色がありません</translation>
+    </message>
+    <message>
+        <source>Mark %1 no more</source>
+        <translation>%1 の色を外す</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::GrowthBar</name>
+    <message>
+        <source>New lines</source>
+        <translation>新しい行</translation>
+    </message>
+    <message>
+        <source>Read &amp;Again</source>
+        <translation>再読み込み(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Read the log again, to its present end (F5)</source>
+        <translation>ログを現在の末尾まで読み直します (F5)</translation>
+    </message>
+    <message>
+        <source>Open in Vie&amp;wer</source>
+        <translation>ビューアーで開く(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Open this log in the viewer, which shows logs of any size</source>
+        <translation>このログを、どのサイズのログも表示できるビューアーで開きます</translation>
+    </message>
+    <message>
+        <source>Foll&amp;ow</source>
+        <translation>追従(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Show lines as they come, while the last line is the current one</source>
+        <translation>最後の行が選ばれている間、届いた行を順に表示します</translation>
     </message>
 </context>
 <context>
@@ -918,6 +1091,38 @@
         <source>warning</source>
         <translation>警告</translation>
     </message>
+    <message>
+        <source>No line on show tells of an error.</source>
+        <translation>表示中の行にエラーはありません。</translation>
+    </message>
+    <message>
+        <source>No line on show tells of a warning.</source>
+        <translation>表示中の行に警告はありません。</translation>
+    </message>
+    <message>
+        <source>This log has grown past the %1 bytes that the tool shows.</source>
+        <translation>このログは、ツールが表示できる %1 バイトを超えました。</translation>
+    </message>
+    <message>
+        <source>This log was begun anew.</source>
+        <translation>このログは新しく始められました。</translation>
+    </message>
+    <message>
+        <source>Following: lines are shown as they come.</source>
+        <translation>追従中: 届いた行を順に表示します。</translation>
+    </message>
+    <message>
+        <source>%1 new lines wait. Go to the last line to see them.</source>
+        <translation>新しい行が %1 行あります。最後の行へ移動すると表示されます。</translation>
+    </message>
+    <message>
+        <source>1 new line</source>
+        <translation>新しい行が 1 行</translation>
+    </message>
+    <message>
+        <source>%1 new lines</source>
+        <translation>新しい行が %1 行</translation>
+    </message>
 </context>
 <context>
     <name>desktop::MainWindow</name>
@@ -1102,6 +1307,17 @@
     <message>
         <source>That did not work: %1. Try again, or press Cancel.</source>
         <translation>操作を完了できませんでした: %1。もう一度実行するか、[キャンセル] をクリックしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>desktop::TooLargePane</name>
+    <message>
+        <source>This log has %1 bytes, and the tool shows logs of up to %2. The viewer shows logs of any size.</source>
+        <translation>このログは %1 バイトあり、ツールが表示できるのは %2 バイトまでです。ビューアーはどのサイズのログも表示します。</translation>
+    </message>
+    <message>
+        <source>Open in &amp;Viewer</source>
+        <translation>ビューアーで開く(&amp;V)</translation>
     </message>
 </context>
 </TS>

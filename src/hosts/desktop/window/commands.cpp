@@ -28,9 +28,10 @@ const std::vector<MenuInfo>& Commands::menus()
 {
     using M = CommandMenu;
     static const std::vector<MenuInfo> infos = {
-        {M::file, QT_TR_NOOP("&File")},   {M::action, QT_TR_NOOP("&Action")},
-        {M::edit, QT_TR_NOOP("&Edit")},   {M::view, QT_TR_NOOP("&View")},
-        {M::theme, QT_TR_NOOP("&Theme")}, {M::help, QT_TR_NOOP("&Help")},
+        {M::file, QT_TR_NOOP("&File")}, {M::action, QT_TR_NOOP("&Action")},
+        {M::edit, QT_TR_NOOP("&Edit")}, {M::log, QT_TR_NOOP("&Log")},
+        {M::view, QT_TR_NOOP("&View")}, {M::theme, QT_TR_NOOP("&Theme")},
+        {M::help, QT_TR_NOOP("&Help")},
     };
     return infos;
 }
@@ -62,13 +63,19 @@ const std::vector<CommandInfo>& Commands::all()
          false},
         {C::findPrevious, M::edit, QT_TR_NOOP("Find &Previous"), QT_TR_NOOP("Go to the hit before"),
          "Shift+F3", "", false},
+        {C::highlight, M::edit, QT_TR_NOOP("&Mark This Text"),
+         QT_TR_NOOP("Keep the text that is looked for marked in a colour of its own"), "Ctrl+M", "",
+         false},
         {C::goToTime, M::edit, QT_TR_NOOP("&Go to Time..."),
-         QT_TR_NOOP("Go to the line of a time of day"), "Ctrl+G", "", false},
-        {C::filter, M::edit, QT_TR_NOOP("F&ilter..."),
-         QT_TR_NOOP("Show or hide lines by component, source, level or text"), "Ctrl+L", "filter",
-         true},
-        {C::showAll, M::edit, QT_TR_NOOP("Show A&ll Rows"), QT_TR_NOOP("End the filter"),
-         "Ctrl+Shift+A", "", false},
+         QT_TR_NOOP("Go to the line of a time of day"), "Ctrl+G", "", true},
+        {C::nextError, M::edit, QT_TR_NOOP("Next Err&or"),
+         QT_TR_NOOP("Go to the next line of an error"), "F8", "level-error", false},
+        {C::previousError, M::edit, QT_TR_NOOP("P&revious Error"),
+         QT_TR_NOOP("Go to the line of an error before"), "Shift+F8", "", false},
+        {C::nextWarning, M::edit, QT_TR_NOOP("Next &Warning"),
+         QT_TR_NOOP("Go to the next line of a warning"), "F9", "level-warning", false},
+        {C::previousWarning, M::edit, QT_TR_NOOP("Prev&ious Warning"),
+         QT_TR_NOOP("Go to the line of a warning before"), "Shift+F9", "", false},
         {C::toggleBookmark, M::edit, QT_TR_NOOP("&Bookmark"),
          QT_TR_NOOP("Mark the current line, or take its mark away"), "Ctrl+B", "bookmark", true},
         {C::nextBookmark, M::edit, QT_TR_NOOP("Next Boo&kmark"),
@@ -77,6 +84,17 @@ const std::vector<CommandInfo>& Commands::all()
          QT_TR_NOOP("Go to the marked line before"), "Shift+F2", "", false},
         {C::clearBookmarks, M::edit, QT_TR_NOOP("Cl&ear Bookmarks"),
          QT_TR_NOOP("Take every mark of this log away"), "Ctrl+Shift+B", "", false},
+
+        {C::filter, M::log, QT_TR_NOOP("&Filter..."),
+         QT_TR_NOOP("Show or hide lines by what is in their columns"), "Ctrl+L", "filter", false},
+        {C::showAll, M::log, QT_TR_NOOP("Show &All Rows"), QT_TR_NOOP("End the filter"),
+         "Ctrl+Shift+A", "", false},
+        {C::follow, M::log, QT_TR_NOOP("F&ollow"),
+         QT_TR_NOOP("Show lines as they come, while the last line is the current one"),
+         "Ctrl+Shift+F", "", true},
+        {C::openInViewer, M::log, QT_TR_NOOP("Open in &Viewer"),
+         QT_TR_NOOP("Open this log in the viewer, which shows logs of any size"), "Ctrl+E",
+         "viewer", false},
 
         {C::details, M::view, QT_TR_NOOP("&Details"),
          QT_TR_NOOP("Show all of the current line below the log"), "Ctrl+D", "", false},

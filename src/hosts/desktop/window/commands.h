@@ -21,9 +21,16 @@ enum class Command {
     find,
     findNext,
     findPrevious,
+    highlight,
     goToTime,
+    nextError,
+    previousError,
+    nextWarning,
+    previousWarning,
     filter,
     showAll,
+    follow,
+    openInViewer,
     toggleBookmark,
     nextBookmark,
     previousBookmark,
@@ -41,7 +48,7 @@ enum class Command {
     about,
 };
 
-enum class CommandMenu { file, action, edit, view, theme, help };
+enum class CommandMenu { file, action, edit, log, view, theme, help };
 
 struct MenuInfo {
     CommandMenu menu;

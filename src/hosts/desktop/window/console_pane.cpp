@@ -61,7 +61,7 @@ ConsolePane::ConsolePane(Console& console, const CodePage& codePage, const QStri
     splitter_->setStretchFactor(1, 1);
     splitter_->setChildrenCollapsible(false);
     splitter_->setHandleWidth(1);
-    splitter_->setSizes({226, 954});
+    splitter_->setSizes({208, 972});
     splitter_->restoreState(settings_.value(splitterKey).toByteArray());
     connect(splitter_, &QSplitter::splitterMoved, this,
             [this] { settings_.setValue(splitterKey, splitter_->saveState()); });
@@ -89,7 +89,7 @@ void ConsolePane::makeTree()
     tree_->setUniformRowHeights(true);
     tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     tree_->setContextMenuPolicy(Qt::CustomContextMenu);
-    tree_->setIndentation(12);
+    tree_->setIndentation(9);
     tree_->setMinimumWidth(140);
     tree_->setTextElideMode(Qt::ElideMiddle);
     connect(tree_->selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -170,7 +170,19 @@ LogView& ConsolePane::log()
     log_->setTextFont(textFont_);
     views_->addWidget(log_);
     connect(log_, &LogView::said, this, &ConsolePane::said);
+    connect(log_, &LogView::readAsked, this, &ConsolePane::readLogAgain);
+    connect(log_, &LogView::followed, this, &ConsolePane::viewChanged);
+    connect(log_, &LogView::viewerAsked, this, &ConsolePane::viewerAsked);
     return *log_;
+}
+
+/// Has the tool show the same log anew. Not while a person has something else before the eyes: it
+/// comes again with the next look.
+void ConsolePane::readLogAgain()
+{
+    if (!logShown() || busy() || sheetAtWork() || sheet() || QApplication::activeModalWidget())
+        return;
+    perform([](Console& console) { console.currentView().select(console.currentScopeItem()); });
 }
 
 void ConsolePane::setTextFont(const QFont& font)
@@ -250,7 +262,7 @@ void ConsolePane::switchPane()
 {
     if (!tree_->hasFocus()) return tree_->setFocus(Qt::ShortcutFocusReason);
     QWidget* shown = views_->currentWidget();
-    if (logShown()) shown = &log_->table();
+    if (logShown()) shown = &log_->mainPart();
     if (shown == taskPad_) return taskPad_->focusCard();
     shown->setFocus(Qt::ShortcutFocusReason);
 }
@@ -310,7 +322,8 @@ void ConsolePane::viewFilled(ResultView& resultView)
         views_->setCurrentWidget(children_);
     } else if (resultView.displayString() == snapinView::logLines) {
         const QString key = QString::fromStdString(resultView.scopePaneItem().key());
-        log().show(resultView.list(), site_ + QLatin1Char('\n') + key);
+        log().show(resultView.list(), site_ + QLatin1Char('\n') + key,
+                   fileOfLog ? fileOfLog(key.toStdString()) : QString());
         views_->setCurrentWidget(log_);
     } else {
         listModel_.show(resultView.list());

@@ -49,6 +49,10 @@ public:
     /// Runs such a command. Null: it runs by itself.
     std::function<void(const std::string& item, const std::function<void()>& run)> aroundChange;
 
+    /// Where a log lies on this machine, by the key of its node; the empty text where that is not
+    /// known. Null: it is known of none.
+    std::function<QString(const std::string& key)> fileOfLog;
+
     /// Whether a call into the console is under way.
     bool busy() const;
 
@@ -96,6 +100,8 @@ signals:
     void viewChanged();
     /// The console has come to the end of what the person asked for.
     void callDone();
+    /// The person wants a log, a file of this machine, in the viewer.
+    void viewerAsked(const QString& file);
     /// The person asks for a topic of the manual.
     void helpAsked(int topic);
     /// Before the sheet is on show.
@@ -117,6 +123,7 @@ private:
     QTreeView& children();
     ListTable& list();
     void followSelection();
+    void readLogAgain();
     void treeCurrentChanged(const QModelIndex& current);
     void selectPending();
 

@@ -151,6 +151,8 @@ void MainWindow::connectPane()
     connect(pane_, &ConsolePane::callDone, this, &MainWindow::afterCall);
     connect(pane_, &ConsolePane::sheetMade, this,
             [this](SheetDialog* dialog) { watchSheet(*dialog); });
+    pane_->fileOfLog = [this](const std::string& key) { return fileOfLog(key); };
+    connect(pane_, &ConsolePane::viewerAsked, this, &MainWindow::viewerAsked);
     connect(pane_, &ConsolePane::helpAsked, this, &MainWindow::helpAsked);
     connect(pane_, &ConsolePane::treeMenuAsked, this, [this](const QPoint& at) {
         rebuildConsoleItems();
@@ -195,8 +197,9 @@ void MainWindow::watchSheet(SheetDialog& dialog)
     };
     const bool gathers = isGatherSheet(dialog.sheet());
     if (gathers) {
-        dialog.additionTo = [machinePath](SheetPage& page) {
-            return gatherAddition(page, machinePath);
+        dialog.additionTo = [this, machinePath](SheetPage& page) {
+            return gatherAddition(
+                page, {tool_->site().files(), tool_->context().g_strLogFolder, machinePath});
         };
         dialog.explain = [machinePath](const SheetPage& page, const RunTimeError& error) {
             return gatherExplanation(page, error, machinePath);
@@ -356,12 +359,26 @@ void MainWindow::runInLog(Command command)
         return log.findNext();
     case Command::findPrevious:
         return log.findPrevious();
+    case Command::highlight:
+        return log.keepFound();
     case Command::goToTime:
         return log.startGoToTime();
+    case Command::nextError:
+        return log.nextError();
+    case Command::previousError:
+        return log.previousError();
+    case Command::nextWarning:
+        return log.nextWarning();
+    case Command::previousWarning:
+        return log.previousWarning();
     case Command::filter:
         return log.startFilter();
     case Command::showAll:
         return log.showAll();
+    case Command::follow:
+        return log.setFollowing(!log.following());
+    case Command::openInViewer:
+        return log.openInViewer();
     case Command::toggleBookmark:
         return log.toggleBookmark();
     case Command::nextBookmark:

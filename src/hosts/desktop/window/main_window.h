@@ -84,6 +84,9 @@ signals:
     /// The person wants to read a file of the machine.
     void fileAsked(const QString& path);
 
+    /// The same, in the viewer.
+    void viewerAsked(const QString& path);
+
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -119,6 +122,7 @@ private:
     void sayUnlistedLogs();
     void runInLog(Command command);
     void runInTable(Command command);
+    QString fileOfLog(const std::string& key) const;
     void chooseTheme(Command command);
     void changeTextSize(int step);
     bool mayLeaveSite();

@@ -24,12 +24,17 @@ namespace desktop {
 namespace {
 
 /// Commands that need a log on show, and those that need any table of rows.
-const std::set<Command> logCommands = {
-    Command::find,           Command::findNext,     Command::findPrevious,
-    Command::goToTime,       Command::filter,       Command::showAll,
-    Command::toggleBookmark, Command::nextBookmark, Command::previousBookmark,
-    Command::clearBookmarks, Command::details,      Command::largerText,
-    Command::smallerText,    Command::normalText};
+const std::set<Command> logCommands = {Command::find,           Command::findNext,
+                                       Command::findPrevious,   Command::highlight,
+                                       Command::nextError,      Command::previousError,
+                                       Command::follow,         Command::openInViewer,
+                                       Command::nextWarning,    Command::previousWarning,
+                                       Command::goToTime,       Command::filter,
+                                       Command::showAll,        Command::toggleBookmark,
+                                       Command::nextBookmark,   Command::previousBookmark,
+                                       Command::clearBookmarks, Command::details,
+                                       Command::largerText,     Command::smallerText,
+                                       Command::normalText};
 const QString columnsName = QStringLiteral("columns");
 const std::set<Command> tableCommands = {Command::copy, Command::copyCsv, Command::selectAll};
 
@@ -58,6 +63,7 @@ void MainWindow::makeActions()
         actions_[info.command] = made;
     }
     actions_[Command::details]->setCheckable(true);
+    actions_[Command::follow]->setCheckable(true);
     // The plus has a key of its own on few keyboards only.
     actions_[Command::largerText]->setShortcuts(
         {QKeySequence(QStringLiteral("Ctrl++")), QKeySequence(QStringLiteral("Ctrl+="))});
@@ -201,6 +207,7 @@ void MainWindow::updateActions()
     actions_[Command::refresh]->setEnabled(pane_ != nullptr);
     actions_[Command::switchPane]->setEnabled(pane_ != nullptr);
     actions_[Command::details]->setChecked(log && pane_->log().detailsShown());
+    actions_[Command::follow]->setChecked(log && pane_->log().following());
     const auto scheme = theme::schemeOf(settings_.value(QStringLiteral("window/theme")).toString());
     actions_[Command::systemTheme]->setChecked(scheme == theme::Scheme::system);
     actions_[Command::lightTheme]->setChecked(scheme == theme::Scheme::light);

@@ -1,7 +1,11 @@
+#include "core/tool_context.h"
 #include "hosts/common/look/path_dialog.h"
+#include "hosts/desktop/open_tool.h"
 #include "hosts/desktop/window/console_pane.h"
 #include "hosts/desktop/window/main_window.h"
 #include "hosts/desktop/window/recent_sites.h"
+#include "platform/file_system.h"
+#include "runtime/run_time_error.h"
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -25,6 +29,20 @@ QString carriedPath(const QMimeData& carried)
 }
 
 } // namespace
+
+/// A log as the tool looks for it: the key itself where that is a file, else one of its log folder.
+/// The empty text for one that this machine does not have.
+QString MainWindow::fileOfLog(const std::string& key) const
+{
+    const ToolContext& tool = tool_->context();
+    try {
+        const bool isPath = tool.platform.files.fileExists(key);
+        const std::string path = isPath ? key : tool.g_strLogFolder + "\\" + key;
+        return QString::fromStdString(tool_->site().paths().machinePath(path));
+    } catch (const RunTimeError&) {
+        return {};
+    }
+}
 
 /// False while a page is at work: what it works on would go from below it.
 bool MainWindow::mayLeaveSite()

@@ -1,10 +1,12 @@
 #include "hosts/desktop/log/log_filter.h"
 
 #include "console/list_view.h"
+#include "hosts/common/filters/row_filter.h"
 #include "hosts/desktop/log/bookmarks.h"
 #include "hosts/desktop/log/list_model.h"
 #include "hosts/desktop/log/time_search.h"
 #include "hosts/desktop/support/test_window.h"
+#include "runtime/run_time_error.h"
 
 #include <gmock/gmock.h>
 
@@ -96,6 +98,22 @@ TEST(LogFilter, OffersTheValuesOfAColumnWithThoseOfMostRowsFirst)
     for (const auto& value : valuesOf(lines.list, 5))
         offered.push_back(value.text + " " + std::to_string(value.rows));
     EXPECT_THAT(offered, ElementsAre("CallFlow 2", "MsgWaiting 2", " 1"));
+}
+
+TEST(TextMatcher, FindsExpressionsAndMindsTheCase)
+{
+    const CodePage page = windows1252();
+    const auto finds = [&](const TextCondition& condition, std::string_view bytes) {
+        return TextMatcher(page, condition).in(bytes);
+    };
+    EXPECT_TRUE(finds({"gr\u00fc[ns]", true, false, false}, "GR\xdcN"));
+    EXPECT_FALSE(finds({"gr\u00fc[ns]", true, true, false}, "GR\xdcN"));
+    EXPECT_TRUE(finds({"a.c", true, false, false}, "abc"));
+    EXPECT_FALSE(finds({"a.c", false, false, false}, "abc")) << "a plain text";
+    EXPECT_TRUE(finds({"Call", false, true, false}, "a Call"));
+    EXPECT_FALSE(finds({"Call", false, true, false}, "a call"));
+    EXPECT_TRUE(TextMatcher(page, TextCondition{"", true, false, false}).empty());
+    EXPECT_THROW(TextMatcher(page, TextCondition{"(", true, false, false}), RunTimeError);
 }
 
 TEST(TextMatcher, FindsNothingForNothing)

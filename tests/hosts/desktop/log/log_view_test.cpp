@@ -6,6 +6,7 @@
 #include "hosts/desktop/log/list_table.h"
 #include "hosts/desktop/support/test_window.h"
 
+#include <QCheckBox>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -14,6 +15,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QTest>
+#include <QToolButton>
 
 #include <gtest/gtest.h>
 
@@ -87,6 +89,92 @@ TEST(LogView, FindsAsThePersonTypesAndCountsTheHits)
     EXPECT_EQ(QStringLiteral("No hits"), hits(log));
     QTest::keyClick(&text, Qt::Key_Escape);
     EXPECT_FALSE(log.findBar().isVisible());
+}
+
+TEST(LogView, FindsByAnExpressionAndSaysWhatIsWrongWithOne)
+{
+    OpenLog shown;
+    LogView& log = shown.log();
+    shown.window->action(Command::find).trigger();
+    field(log.findBar(), "Text to find").setText("^Rule(Engine|s)$");
+    EXPECT_EQ(QStringLiteral("No hits"), hits(log));
+    auto* expression = log.findBar().findChild<QCheckBox*>("expression");
+    ASSERT_NE(nullptr, expression);
+    expression->setChecked(true);
+    EXPECT_EQ(QStringLiteral("RuleEngine"), log.model().text(currentRow(log), 5));
+    field(log.findBar(), "Text to find").setText("(");
+    EXPECT_TRUE(hits(log).contains("(")) << hits(log).toStdString();
+    EXPECT_TRUE(log.overview().rows(OverviewMark::hit).empty());
+}
+
+TEST(LogView, GoesFromErrorToErrorAndFromWarningToWarning)
+{
+    OpenLog shown;
+    LogView& log = shown.log();
+    const std::vector<int> warnings = log.overview().rows(OverviewMark::warning);
+    ASSERT_GT(warnings.size(), 1U);
+    log.table().goTo(warnings[0]);
+    log.nextWarning();
+    EXPECT_EQ(warnings[1], currentRow(log));
+    log.previousWarning();
+    log.previousWarning();
+    EXPECT_EQ(warnings.back(), currentRow(log)) << "on from the end";
+
+    log.filterBar().tick(6, "7", false);
+    QString said;
+    QObject::connect(&log, &LogView::said, [&](const QString& sentence) { said = sentence; });
+    log.nextError();
+    EXPECT_EQ(QStringLiteral("No line on show tells of an error."), said);
+}
+
+TEST(LogView, KeepsTextsMarkedInColoursUntilTheyAreLetGo)
+{
+    OpenLog shown;
+    LogView& log = shown.log();
+    const auto kept = [&] {
+        int buttons = 0;
+        for (auto* button : log.findBar().findChildren<QToolButton*>())
+            if (button->accessibleName().endsWith("no more") && button->isVisible()) ++buttons;
+        return buttons;
+    };
+    shown.window->action(Command::highlight).trigger();
+    EXPECT_EQ(QStringLiteral("Type the text to keep marked"), hits(log));
+    QLineEdit& text = field(log.findBar(), "Text to find");
+    for (const char* word : {"call", "rule", "rule"}) {
+        text.setText(word);
+        shown.window->action(Command::highlight).trigger();
+        settle();
+    }
+    EXPECT_EQ(2, kept()) << "a text is kept once";
+    for (auto* button : log.findBar().findChildren<QToolButton*>())
+        if (button->accessibleName() == QLatin1String("Mark call no more")) button->click();
+    settle();
+    EXPECT_EQ(1, kept());
+}
+
+TEST(LogView, InANarrowWindowTheTraceHasItsShareAndAPersonsColumnsStay)
+{
+    TestWindow shown(4000, LogFields::extended);
+    shown.window->resize(800, 600);
+    shown.showLog("KoCSMgr");
+    ListTable& table = shown.log().table();
+    const int trace = table.model()->columnCount() - 1;
+    EXPECT_GE(table.viewport()->width() - table.columnViewportPosition(trace),
+              table.viewport()->width() / 3);
+    EXPECT_TRUE(table.isColumnHidden(6)) << "the thread is spared first";
+    EXPECT_FALSE(table.isColumnHidden(1));
+
+    shown.window->resize(1900, 900);
+    settle();
+    EXPECT_FALSE(table.isColumnHidden(6));
+
+    QMenu menu;
+    table.offerColumns(menu);
+    menu.actions().at(4)->trigger();
+    shown.window->resize(800, 600);
+    settle();
+    EXPECT_TRUE(table.isColumnHidden(4));
+    EXPECT_FALSE(table.isColumnHidden(6)) << "the person has said what to see";
 }
 
 TEST(LogView, FiltersByTextAndComesBackToTheCurrentRow)
@@ -311,6 +399,7 @@ TEST(LogView, ALogThatShrankIsReadAnewByRefresh)
 TEST(LogView, HidesColumnsByTheViewMenuAndRemembersThem)
 {
     TestWindow shown;
+    shown.window->resize(1180, 760);
     shown.showLog("KoCSMgr");
     ListTable* table = &shown.log().table();
     const int width = table->columnWidth(1);
@@ -332,6 +421,7 @@ TEST(LogView, HidesColumnsByTheViewMenuAndRemembersThem)
         << "the current line can still be gone to";
 
     shown.reopen();
+    shown.window->resize(1180, 760);
     shown.showLog("KoCSMgr");
     table = &shown.log().table();
     EXPECT_TRUE(table->isColumnHidden(1));
@@ -352,7 +442,7 @@ TEST(LogView, ShowsTheTraceBesideTwoHiddenColumnsInAWindowOf800By600)
     ListTable& table = shown.log().table();
     QMenu columns;
     table.offerColumns(columns);
-    for (const int column : {2, 3}) columns.actions().at(column)->trigger();
+    for (const int column : {2, 3}) columns.actions().at(column)->setChecked(false);
     const int trace = table.model()->columnCount() - 1;
     EXPECT_GE(table.viewport()->width() - table.columnViewportPosition(trace), 150);
 }

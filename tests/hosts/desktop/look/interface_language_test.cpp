@@ -126,7 +126,7 @@ TEST(InterfaceLanguage, ALogOnShowStaysAsItIs)
     EXPECT_EQ(rows, log.model().rowCount());
     EXPECT_EQ(row, log.table().currentIndex().row());
     EXPECT_EQ(line, log.model().rowText(row));
-    EXPECT_EQ(QStringLiteral("Attempt"), log.findBar().text());
+    EXPECT_EQ(QStringLiteral("Attempt"), log.findBar().condition().text);
     QStringList labels;
     for (const auto* label : log.findChildren<QLabel*>()) labels << label->text();
     EXPECT_EQ(1, labels.filter(QRegularExpression(QStringLiteral("^\\d+ von \\d+$"))).size())

@@ -22,12 +22,15 @@ struct GatherAdditions : testing::Test {
         return path == "C:\\Temp" ? "/machine/Temp" : path;
     };
 
+    GatherSurroundings surroundings{shown.tool->site().files(),
+                                    shown.tool->context().g_strLogFolder, machinePath};
+
     GatherAdditions() { job->m_LogDestinationDirectory = "C:\\Temp"; }
 };
 
 TEST_F(GatherAdditions, TellWhereTheResultsLieOnThisMachine)
 {
-    const std::unique_ptr<PageAddition> place(gatherAddition(page, machinePath));
+    const std::unique_ptr<PageAddition> place(gatherAddition(page, surroundings));
     ASSERT_NE(nullptr, place);
     place->renew();
     auto* label = place->findChild<QLabel*>();
@@ -53,7 +56,7 @@ TEST_F(GatherAdditions, TellThatNoFileManagerWasFound)
 TEST_F(GatherAdditions, TellNothingOnAPageWithoutAGather)
 {
     ppgGatherLogs99Final withoutJob(shown.tool->context(), nullptr);
-    const std::unique_ptr<PageAddition> place(gatherAddition(withoutJob, machinePath));
+    const std::unique_ptr<PageAddition> place(gatherAddition(withoutJob, surroundings));
     place->renew();
     EXPECT_FALSE(place->findChild<QLabel*>()->isVisibleTo(place.get()));
 }

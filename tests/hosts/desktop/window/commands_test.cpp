@@ -68,6 +68,17 @@ void findText(OpenProgram& shown, const char* text)
     person::type(QString::fromLatin1(text));
 }
 
+/// Two rows of a level, and the way from one to the other.
+Check expectMark(OpenProgram& shown, const char* level, int direction)
+{
+    shown.server.folder().write(
+        "site/drive_c/KelmaOrvan/Logs/" + shown.server.currentLog("KoCSMgr"),
+        "17:30:00:001,Conv,1,X,2,a\r\n17:30:00:001,Conv,1,X," + std::string(level) +
+            ",b\r\n17:30:00:001,Conv,1,X," + level + ",c\r\n");
+    readLog(shown, direction > 0 ? 1 : 2);
+    return [&shown, direction] { EXPECT_EQ(direction > 0 ? 2 : 1, currentRow(shown)); };
+}
+
 int textSize(OpenProgram& shown)
 {
     return shown.log().table().font().pointSize();
@@ -206,6 +217,35 @@ const Row editRows[] = {
          shown.log().filterBar().tick(5, "RuleEngine", false);
          EXPECT_LT(shown.log().model().rowCount(), all);
          return [&shown, all] { EXPECT_EQ(all, shown.log().model().rowCount()); };
+     }},
+    {Command::highlight,
+     [](OpenProgram& shown) -> Check {
+         findText(shown, "RuleEngine");
+         return [&shown] { EXPECT_EQ(1U, shown.log().kept().size()); };
+     }},
+    {Command::nextError, [](OpenProgram& shown) -> Check { return expectMark(shown, "0", 1); }},
+    {Command::previousError,
+     [](OpenProgram& shown) -> Check { return expectMark(shown, "0", -1); }},
+    {Command::nextWarning, [](OpenProgram& shown) -> Check { return expectMark(shown, "1", 1); }},
+    {Command::previousWarning,
+     [](OpenProgram& shown) -> Check { return expectMark(shown, "1", -1); }},
+    {Command::follow,
+     [](OpenProgram& shown) -> Check {
+         readLog(shown);
+         return [&shown] { EXPECT_TRUE(shown.log().following()); };
+     }},
+    {Command::openInViewer,
+     [](OpenProgram& shown) -> Check {
+         readLog(shown);
+         auto opened = std::make_shared<QString>();
+         shown.program.viewer = [opened](const QString& path) {
+             *opened = path;
+             return true;
+         };
+         return [&shown, opened] {
+             EXPECT_EQ(shown.server.logs() + "/" + shown.server.currentLog("KoCSMgr"),
+                       opened->toStdString());
+         };
      }},
     {Command::toggleBookmark,
      [](OpenProgram& shown) -> Check {
