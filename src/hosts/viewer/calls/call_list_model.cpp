@@ -6,7 +6,6 @@
 #include "hosts/viewer/table/time_text.h"
 
 #include <algorithm>
-#include <numeric>
 #include <utility>
 
 namespace viewer {
@@ -19,33 +18,6 @@ bool hasNumbers(CallColumn column)
 {
     return column == CallColumn::length || column == CallColumn::lines ||
            column == CallColumn::errors || column == CallColumn::warnings;
-}
-
-timeline::Moment lengthOf(const Call& call)
-{
-    // What has no moment is as long as nothing.
-    return call.first == timeline::noMoment ? -1 : call.last - call.first;
-}
-
-bool comesBefore(const Call& one, const Call& other, CallColumn column)
-{
-    switch (column) {
-    case CallColumn::id:
-        return one.id < other.id;
-    case CallColumn::start:
-        return one.first < other.first;
-    case CallColumn::length:
-        return lengthOf(one) < lengthOf(other);
-    case CallColumn::lines:
-        return one.rows < other.rows;
-    case CallColumn::errors:
-        return one.errors < other.errors;
-    case CallColumn::warnings:
-        return one.warnings < other.warnings;
-    case CallColumn::processes:
-        return one.processes < other.processes;
-    }
-    return false;
 }
 
 } // namespace
@@ -63,17 +35,10 @@ void CallListModel::show(std::shared_ptr<const CallList> list)
     endResetModel();
 }
 
-/// Calls that a column does not tell apart stay in the order of their starts.
 void CallListModel::order()
 {
-    rows_.resize(list_ ? list_->calls.size() : 0);
-    std::iota(rows_.begin(), rows_.end(), 0);
-    std::stable_sort(rows_.begin(), rows_.end(), [this](std::uint32_t one, std::uint32_t other) {
-        const Call& a = list_->calls[one];
-        const Call& b = list_->calls[other];
-        return order_ == Qt::AscendingOrder ? comesBefore(a, b, column_)
-                                            : comesBefore(b, a, column_);
-    });
+    rows_ = list_ ? orderOf(list_->calls, column_, order_ == Qt::DescendingOrder)
+                  : std::vector<std::uint32_t>();
 }
 
 void CallListModel::sort(int column, Qt::SortOrder order)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hosts/viewer/calls/call_counting.h"
+#include "hosts/viewer/calls/call_order.h"
 
 #include <QAbstractTableModel>
 #include <QIcon>
@@ -10,9 +11,6 @@
 #include <vector>
 
 namespace viewer {
-
-enum class CallColumn { id, start, length, lines, errors, warnings, processes };
-inline constexpr int callColumns = 7;
 
 /// The list of calls as Qt's views see it, in the order of any of its columns.
 class CallListModel final : public QAbstractTableModel {

@@ -35,6 +35,26 @@ private:
     std::unique_lock<std::mutex> lock_;
 };
 
+/// A place in the row of those who work: a mutex alone would go again and again to who had it last.
+class SharedTimeline::Step {
+public:
+    explicit Step(SharedTimeline& timeline) : done_(timeline.stepsDone_)
+    {
+        const std::uint64_t number = timeline.steps_++;
+        for (std::uint64_t done = done_; done != number; done = done_) done_.wait(done);
+    }
+    ~Step()
+    {
+        ++done_;
+        done_.notify_all();
+    }
+    Step(const Step&) = delete;
+    Step& operator=(const Step&) = delete;
+
+private:
+    std::atomic<std::uint64_t>& done_;
+};
+
 void SharedTimeline::add(std::vector<std::unique_ptr<timeline::Source>> sources)
 {
     const Turn turn(*this);
@@ -66,13 +86,15 @@ void SharedTimeline::look(const Look& looking)
 
 void SharedTimeline::work(const Look& step)
 {
-    for (int lookers = lookers_; lookers > 0; lookers = lookers_) lookers_.wait(lookers);
-    const auto begin = std::chrono::steady_clock::now();
+    std::chrono::steady_clock::duration taken{};
     {
+        const Step turn(*this);
+        for (int lookers = lookers_; lookers > 0; lookers = lookers_) lookers_.wait(lookers);
+        const auto begin = std::chrono::steady_clock::now();
         const std::lock_guard lock(turn_);
         use(step);
+        taken = std::chrono::steady_clock::now() - begin;
     }
-    const auto taken = std::chrono::steady_clock::now() - begin;
     if (!state().ended) std::this_thread::sleep_for(taken);
 }
 

@@ -3,6 +3,7 @@
 #include "timeline/background_reading.h"
 
 #include <atomic>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -23,8 +24,9 @@ public:
     /// rows.
     void look(const Look& looking);
 
-    /// The same for a short step of something that takes many, once nobody wishes to look. While
-    /// the timeline is read, half of the time is left to that.
+    /// The same for a short step of something that takes many, once nobody wishes to look. Those
+    /// who work take turns, a step each. While the timeline is read, half of the time is left to
+    /// that.
     void work(const Look& step);
 
     /// How far the reading is; ended where there was none. Waits for nobody.
@@ -35,14 +37,17 @@ public:
 
 private:
     class Turn;
+    class Step;
 
     void use(const Look& looking);
     std::shared_ptr<timeline::BackgroundReading> reading() const;
 
     timeline::Timeline timeline_;
-    std::mutex turn_;             ///< whoever holds it may use the timeline
-    std::atomic<int> lookers_{0}; ///< that have the turn before those who work
-    mutable std::mutex keeping_;  ///< of the pointer
+    std::mutex turn_;                         ///< whoever holds it may use the timeline
+    std::atomic<int> lookers_{0};             ///< that have the turn before those who work
+    std::atomic<std::uint64_t> steps_{0};     ///< that were wished for
+    std::atomic<std::uint64_t> stepsDone_{0}; ///< the number of the one whose turn it is
+    mutable std::mutex keeping_;              ///< of the pointer
     std::shared_ptr<timeline::BackgroundReading> reading_;
 };
 

@@ -57,5 +57,28 @@ TEST(SharedTimelineTest, LetsWhoLooksInBetweenTwoStepsOfWork)
     }
 }
 
+TEST(SharedTimelineTest, LetsThoseWhoWorkTakeTurns)
+{
+    SharedTimeline timeline;
+    timeline.add({});
+    while (!timeline.state().ended) std::this_thread::yield();
+    std::atomic<int> steps{0};
+    std::jthread worker([&](const std::stop_token& stop) {
+        while (!stop.stop_requested()) {
+            timeline.work([&](const timeline::Timeline&) {
+                ++steps;
+                std::this_thread::sleep_for(1ms);
+            });
+        }
+    });
+    while (steps < 10) std::this_thread::yield();
+    for (int step = 0; step < 30; ++step) {
+        const int before = steps;
+        int during = 0;
+        timeline.work([&](const timeline::Timeline&) { during = steps; });
+        EXPECT_LE(during - before, 3) << "the one at work, and one that waited before";
+    }
+}
+
 } // namespace
 } // namespace viewer
