@@ -6,7 +6,7 @@ namespace desktop {
 
 namespace {
 
-constexpr int firstYear = 100; ///< the tool's dates begin with it
+constexpr int earliestYear = 100; ///< the tool's dates begin with it
 constexpr int yearDigits = 4;
 constexpr int noon = 12;
 
@@ -26,7 +26,7 @@ QChar separatorOf(const QString& format)
 std::optional<QDate> validDate(int year, int month, int day)
 {
     const QDate date(year, month, day);
-    if (!date.isValid() || year < firstYear) return std::nullopt;
+    if (!date.isValid() || year < earliestYear) return std::nullopt;
     return date;
 }
 

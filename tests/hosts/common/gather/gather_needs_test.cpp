@@ -1,5 +1,6 @@
 #include "hosts/common/gather/gather_needs.h"
 
+#include "support/fakes/fake_clock.h"
 #include "support/fakes/files/fake_file_system.h"
 #include "support/temporary_folder.h"
 
@@ -12,7 +13,8 @@ using testing::IsEmpty;
 
 TEST(LogsForFrames, AreDiagnosticLogsThenDataFilesWithoutFormattedCopies)
 {
-    FakeFileSystem files;
+    FakeClock clock;
+    FakeFileSystem files{clock};
     files.withFolder("C:\\Logs")
         .with("C:\\Logs\\data_B_1.txt")
         .with("C:\\Logs\\diag_A_1.txt")
@@ -26,7 +28,8 @@ TEST(LogsForFrames, AreDiagnosticLogsThenDataFilesWithoutFormattedCopies)
 
 TEST(LogFacts, AreThoseOfTheFileAndNoneOfOneThatHasGone)
 {
-    FakeFileSystem files;
+    FakeClock clock;
+    FakeFileSystem files{clock};
     files.withFolder("C:\\Logs").withSize("C:\\Logs\\diag_A_1.txt", 1234);
     ASSERT_TRUE(logFacts(files, "C:\\Logs", "diag_A_1.txt"));
     EXPECT_EQ(1234, logFacts(files, "C:\\Logs", "diag_A_1.txt")->size);
