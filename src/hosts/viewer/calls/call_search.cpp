@@ -15,7 +15,7 @@ using timeline::Column;
 using timeline::IndexRow;
 using timeline::Timeline;
 
-constexpr std::size_t rowsOfBlock = 128; ///< that are looked at in a direction, in turn
+constexpr std::size_t rowsInTurn = 128; ///< that are looked at in a direction
 constexpr std::uint16_t mostLanes = std::numeric_limits<std::uint16_t>::max();
 
 } // namespace
@@ -44,7 +44,7 @@ bool CallSearch::goOn(const Timeline& timeline, std::chrono::steady_clock::time_
 
 void CallSearch::lookDown(const Timeline& timeline)
 {
-    const std::size_t end = std::min(end_ + rowsOfBlock, order_->size());
+    const std::size_t end = std::min(end_ + rowsInTurn, order_->size());
     for (; end_ < end; ++end_)
         if (const auto found = look(timeline, *down_.next())) behind_.push_back(*found);
 }
@@ -52,7 +52,7 @@ void CallSearch::lookDown(const Timeline& timeline)
 /// Rows are walked downwards in either direction.
 void CallSearch::lookUp(const Timeline& timeline)
 {
-    const std::size_t first = begin_ - std::min(begin_, rowsOfBlock);
+    const std::size_t first = begin_ - std::min(begin_, rowsInTurn);
     RowOrder::Walk walk = order_->from(timeline, first);
     block_.clear();
     for (std::size_t row = first; row < begin_; ++row)

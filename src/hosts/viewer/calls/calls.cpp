@@ -33,6 +33,10 @@ void Calls::keepList(bool kept)
 {
     if (listKept_ == kept) return;
     listKept_ = kept;
+    if (kept && list_ && list_->complete && listed_ == document_.sharedView()) {
+        listWork_ = Work::done; // nothing has changed meanwhile
+        return;
+    }
     if (kept) return makeList();
     // What was begun is of no use once the rows on show are others.
     lister_.giveUp();
@@ -48,20 +52,25 @@ void Calls::look(const std::string& id, timeline::Moment around)
     makeRows();
 }
 
-/// A filter makes other lists. The rows of a call are others only where there are other rows.
+/// A filter makes other lists. The rows of a call are others only where there are other rows; as
+/// these may come again and again, what is being made is made to its end before it begins anew.
 void Calls::followView()
 {
-    if (listKept_) makeList();
-    if (!looked_.id.empty() && looked_.order != document_.view().order) makeRows();
+    const auto& order = document_.view().order;
+    const bool grows = listed_ && listed_->order != order;
+    if (listKept_ && !(grows && listWork_ == Work::running)) makeList();
+    if (!looked_.id.empty() && looked_.order != order && rowsWork_ != Work::running) makeRows();
 }
 
 void Calls::makeList()
 {
     // A view that is still being made would be counted in vain.
     if (!document_.view().order || !document_.view().complete) return;
+    listGrows_ = listed_ && listed_->order != document_.view().order;
+    listed_ = document_.sharedView();
     listWish_ = ++wishes_;
     listWork_ = Work::running;
-    lister_.wish({listWish_, document_.sharedView()});
+    lister_.wish({listWish_, listed_});
     emit listChanged();
 }
 
@@ -121,21 +130,25 @@ void Calls::answer(const RowsWish& wish, const GivenUp& givenUp)
 void Calls::take(const ListWish& wish, CallList list)
 {
     if (wish.number != listWish_) return;
-    if (list.complete) listWork_ = Work::done;
-    list_ = std::make_shared<const CallList>(std::move(list));
+    const bool complete = list.complete;
+    if (complete) listWork_ = Work::done;
+    if (complete || !list_ || !listGrows_ || list.calls.size() >= list_->calls.size())
+        list_ = std::make_shared<const CallList>(std::move(list));
     emit listChanged();
+    if (complete && listKept_ && listed_ != document_.sharedView()) makeList();
 }
 
 void Calls::take(const RowsWish& wish, CallRows rows)
 {
     if (wish.number != looked_.number) return;
+    const bool complete = rows.complete;
     rowsShare_ = rows.share;
-    if (rows.complete) rowsWork_ = Work::done;
-    // While logs are read the rows are looked for again and again: those of before stay until there
-    // are as many.
-    if (rows.complete || !rows_ || rows.rows.size() >= rows_->rows.size())
+    if (complete) rowsWork_ = Work::done;
+    // Where rows came the ones of before stay until there are as many.
+    if (complete || !rows_ || rows.rows.size() >= rows_->rows.size())
         rows_ = std::make_shared<const CallRows>(std::move(rows));
     emit rowsChanged();
+    if (complete && looked_.order != document_.view().order) makeRows();
 }
 
 bool Calls::anySource() const

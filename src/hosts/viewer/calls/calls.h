@@ -93,7 +93,9 @@ private:
 
     Document& document_;
     bool listKept_ = false;
+    std::shared_ptr<const View> listed_; ///< what the list is made of
     std::shared_ptr<const CallList> list_;
+    bool listGrows_ = false; ///< whether it is one of more rows than the one before
     Work listWork_ = Work::none;
     RowsWish looked_; ///< for; its id is empty while nothing is
     std::shared_ptr<const CallRows> rows_;

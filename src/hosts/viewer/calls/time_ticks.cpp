@@ -11,23 +11,45 @@ namespace {
 
 using timeline::Moment;
 
-constexpr Moment second = 1000;
-constexpr Moment minute = 60 * second;
-constexpr Moment hour = 60 * minute;
-constexpr Moment day = 24 * hour;
+constexpr Moment aSecond = 1000;
+constexpr Moment aMinute = 60 * aSecond;
+constexpr Moment anHour = 60 * aMinute;
+constexpr Moment aDay = 24 * anHour;
 
 /// Each is a part of a day, so that marks stand where a clock has round numbers.
-constexpr Moment steps[] = {1,           2,           5,           10,     20,         50,
-                            100,         200,         500,         second, 2 * second, 5 * second,
-                            10 * second, 15 * second, 30 * second, minute, 2 * minute, 5 * minute,
-                            10 * minute, 15 * minute, 30 * minute, hour,   2 * hour,   3 * hour,
-                            6 * hour,    12 * hour,   day};
+constexpr Moment steps[] = {1,
+                            2,
+                            5,
+                            10,
+                            20,
+                            50,
+                            100,
+                            200,
+                            500,
+                            aSecond,
+                            2 * aSecond,
+                            5 * aSecond,
+                            10 * aSecond,
+                            15 * aSecond,
+                            30 * aSecond,
+                            aMinute,
+                            2 * aMinute,
+                            5 * aMinute,
+                            10 * aMinute,
+                            15 * aMinute,
+                            30 * aMinute,
+                            anHour,
+                            2 * anHour,
+                            3 * anHour,
+                            6 * anHour,
+                            12 * anHour,
+                            aDay};
 
 Moment stepOf(double length, int most)
 {
     for (const Moment step : steps)
         if (length / static_cast<double>(step) <= most) return step;
-    return day * static_cast<Moment>(std::ceil(length / static_cast<double>(day) / most));
+    return aDay * static_cast<Moment>(std::ceil(length / static_cast<double>(aDay) / most));
 }
 
 } // namespace
@@ -48,9 +70,9 @@ QString TimeTicks::text(Moment moment) const
     // "2025-02-20 15:23:07.123"
     const QString whole = clockText(moment);
     constexpr int clock = 11;
-    if (step >= day) return whole.left(clock - 1);
-    if (step >= minute) return whole.mid(clock, 5);
-    return step >= second ? whole.mid(clock, 8) : whole.mid(clock);
+    if (step >= aDay) return whole.left(clock - 1);
+    if (step >= aMinute) return whole.mid(clock, 5);
+    return step >= aSecond ? whole.mid(clock, 8) : whole.mid(clock);
 }
 
 } // namespace viewer

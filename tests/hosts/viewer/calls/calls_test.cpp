@@ -265,5 +265,41 @@ TEST_F(CallsTest, ShowsRowsThatComeLaterAndKeepsTheSelectedOne)
     EXPECT_EQ("ends late", selectedText());
 }
 
+TEST_F(CallsTest, ListsCallsOfRowsThatComeLaterAndKeepsTheCurrentOne)
+{
+    openTwoCalls();
+    tabs->openList();
+    ASSERT_TRUE(waitUntil([&] { return calls->listWork() == Calls::Work::done; }));
+    QTreeView& list = tabs->list().list();
+    list.setCurrentIndex(tabs->list().model().index(1, 0));
+    open({logs.write("KoNotify", callLine(500, "C", 3, "is announced"))});
+    ASSERT_TRUE(waitUntil([&] { return column(CallColumn::id) == QStringList({"C", "A", "B"}); }));
+    EXPECT_EQ(2, list.currentIndex().row());
+}
+
+TEST_F(CallsTest, AListOfTheSameRowsIsNotMadeAgain)
+{
+    openTwoCalls();
+    tabs->openList();
+    ASSERT_TRUE(waitUntil([&] { return calls->listWork() == Calls::Work::done; }));
+    const auto list = calls->list();
+    tabs->hide();
+    tabs->openList();
+    EXPECT_EQ(Calls::Work::done, calls->listWork());
+    EXPECT_EQ(list, calls->list());
+}
+
+TEST_F(CallsTest, RowsThatComeWhileACallIsLookedForAreFoundToo)
+{
+    openTwoCalls();
+    tabs->openList();
+    showCall("A", day + 1000);
+    for (const char* process : {"KoNotify", "KoDirectory", "KoStoreMonitor"})
+        document.open({logs.write(process, callLine(6000, "A", 3, process))});
+    ASSERT_TRUE(waitUntil([&] { return calls->rows()->rows.size() == 8; }));
+    ASSERT_TRUE(waitUntil([&] { return !calls->busy(); }));
+    EXPECT_EQ(5u, calls->rows()->lanes.size());
+}
+
 } // namespace
 } // namespace viewer

@@ -11,7 +11,7 @@
 namespace viewer {
 namespace {
 
-const timeline::Moment day = timeline::dayOf(2025, 2, 20);
+const timeline::Moment testDay = timeline::dayOf(2025, 2, 20);
 
 TimeScale scaleOf(const CallRows& rows, int width)
 {
@@ -50,7 +50,7 @@ std::vector<LaneLayout::Dot> plainDots(const CallRows& rows, const TimeScale& sc
 
 TEST(LaneLayout, PlacesRowsAsAPlainLoopDoes)
 {
-    const CallRows rows = someCall(3000, 5, day + 50'000'000);
+    const CallRows rows = someCall(3000, 5, testDay + 50'000'000);
     TimeScale scale = scaleOf(rows, 700);
     for (int look = 0; look < 12; ++look) {
         SCOPED_TRACE(look);
@@ -74,7 +74,7 @@ TEST(LaneLayout, PlacesRowsAsAPlainLoopDoes)
 
 TEST(LaneLayout, HasNoMoreDotsThanTheScreenShows)
 {
-    const CallRows rows = someCall(100'000, 6, day);
+    const CallRows rows = someCall(100'000, 6, testDay);
     const TimeScale scale = scaleOf(rows, 1600);
     const auto begin = std::chrono::steady_clock::now();
     const LaneLayout layout(rows, scale);
@@ -90,10 +90,10 @@ TEST(LaneLayout, HasNoMoreDotsThanTheScreenShows)
 
 TEST(LaneLayout, RowsWithoutAMomentStandAtTheBeginning)
 {
-    CallRows rows = someCall(3, 1, day);
+    CallRows rows = someCall(3, 1, testDay);
     rows.rows[0].index.moment = timeline::noMoment;
-    rows.rows[1].index.moment = day;
-    rows.rows[2].index.moment = day + 1000;
+    rows.rows[1].index.moment = testDay;
+    rows.rows[2].index.moment = testDay + 1000;
     const TimeScale scale = scaleOf(rows, 500);
     const LaneLayout layout(rows, scale);
     ASSERT_EQ(2u, layout.dots(0).size());
@@ -103,9 +103,9 @@ TEST(LaneLayout, RowsWithoutAMomentStandAtTheBeginning)
 
 TEST(LaneLayout, FindsTheDotNextToAPoint)
 {
-    CallRows rows = someCall(2, 1, day);
-    rows.rows[0].index.moment = day;
-    rows.rows[1].index.moment = day + 1000;
+    CallRows rows = someCall(2, 1, testDay);
+    rows.rows[0].index.moment = testDay;
+    rows.rows[1].index.moment = testDay + 1000;
     const LaneLayout layout(rows, scaleOf(rows, 520));
     ASSERT_EQ(2u, layout.dots(0).size());
     const int last = layout.dots(0)[1].x;
@@ -119,7 +119,7 @@ TEST(TimeScale, ZoomsAroundAPlaceAndShowsAllAgain)
 {
     TimeScale scale;
     scale.setWidth(1020);
-    scale.setAll(day, day + 100'000);
+    scale.setAll(testDay, testDay + 100'000);
     const double moment = scale.momentAt(300);
     scale.zoom(0.5, 300);
     EXPECT_NEAR(moment, scale.momentAt(300), 0.01);
@@ -135,13 +135,13 @@ TEST(TimeScale, StaysAmongAllTimes)
 {
     TimeScale scale;
     scale.setWidth(1020);
-    scale.setAll(day, day + 100'000);
+    scale.setAll(testDay, testDay + 100'000);
     scale.zoom(0.1, 500);
     scale.pan(1e9);
-    EXPECT_DOUBLE_EQ(static_cast<double>(day + 100'000), scale.to());
+    EXPECT_DOUBLE_EQ(static_cast<double>(testDay + 100'000), scale.to());
     EXPECT_NEAR(10'000, scale.to() - scale.from(), 0.01);
-    scale.bringInSight(static_cast<double>(day));
-    EXPECT_DOUBLE_EQ(static_cast<double>(day), scale.from());
+    scale.bringInSight(static_cast<double>(testDay));
+    EXPECT_DOUBLE_EQ(static_cast<double>(testDay), scale.from());
     EXPECT_NEAR(10'000, scale.to() - scale.from(), 0.01);
 }
 
@@ -149,8 +149,8 @@ TEST(TimeScale, GivesASingleMomentRoom)
 {
     TimeScale scale;
     scale.setWidth(1020);
-    scale.setAll(day, day);
-    EXPECT_DOUBLE_EQ(510, scale.xOf(static_cast<double>(day)));
+    scale.setAll(testDay, testDay);
+    EXPECT_DOUBLE_EQ(510, scale.xOf(static_cast<double>(testDay)));
 }
 
 } // namespace

@@ -5,8 +5,8 @@
 namespace viewer {
 namespace {
 
-constexpr timeline::Moment second = 1000;
-constexpr timeline::Moment hour = 3'600'000;
+constexpr timeline::Moment aSecond = 1000;
+constexpr timeline::Moment anHour = 3'600'000;
 
 TEST(TimeTicks, StandWhereAClockHasRoundNumbers)
 {
@@ -20,13 +20,13 @@ TEST(TimeTicks, StandWhereAClockHasRoundNumbers)
         const char* first;
     };
     const Case cases[] = {
-        {"milliseconds", day + 15 * hour + 1, 9, 10, 1, "15:00:00.001"},
-        {"parts of a second", day + 15 * hour + 30, 900, 5, 200, "15:00:00.200"},
-        {"seconds", day + 15 * hour + 300, 25 * second, 5, 5 * second, "15:00:05"},
-        {"quarters of an hour", day + 14 * hour + 1, 2 * hour, 8, hour / 4, "14:15"},
-        {"six hours", day, 24 * hour, 4, 6 * hour, "00:00"},
-        {"days", day + hour, 6 * 24 * hour, 6, 24 * hour, "2025-02-21"},
-        {"weeks and more", day, 100 * 24 * hour, 10, 10 * 24 * hour, nullptr},
+        {"milliseconds", day + 15 * anHour + 1, 9, 10, 1, "15:00:00.001"},
+        {"parts of a second", day + 15 * anHour + 30, 900, 5, 200, "15:00:00.200"},
+        {"seconds", day + 15 * anHour + 300, 25 * aSecond, 5, 5 * aSecond, "15:00:05"},
+        {"quarters of an hour", day + 14 * anHour + 1, 2 * anHour, 8, anHour / 4, "14:15"},
+        {"six hours", day, 24 * anHour, 4, 6 * anHour, "00:00"},
+        {"days", day + anHour, 6 * 24 * anHour, 6, 24 * anHour, "2025-02-21"},
+        {"weeks and more", day, 100 * 24 * anHour, 10, 10 * 24 * anHour, nullptr},
     };
     for (const Case& each : cases) {
         SCOPED_TRACE(each.because);
