@@ -67,15 +67,20 @@ void LanePainter::drawDot(const LaneLayout::Dot& dot, int y, const QString& proc
     painter_.setBrush(RowPainter::processColour(process, palette_));
     painter_.drawRoundedRect(QRect(dot.x - dotRadius, y - dotRadius - growth, 2 * dotRadius + 1,
                                    2 * (dotRadius + growth) + 1),
-                             dotRadius, dotRadius);
+                             dotRadius + 0.5, dotRadius + 0.5);
 }
 
 void LanePainter::drawSelection(int x, int y, bool focused)
 {
     constexpr int reach = 9;
+    constexpr int corner = 3;
+    const QRect ring(x - reach, y - reach, 2 * reach + 1, 2 * reach + 1);
     painter_.setBrush(Qt::NoBrush);
-    painter_.setPen(QPen(palette_.color(focused ? QPalette::Highlight : QPalette::Text), 2));
-    painter_.drawRoundedRect(QRect(x - reach, y - reach, 2 * reach + 1, 2 * reach + 1), 3, 3);
+    // A ground of its own sets it off from dots that stand close.
+    painter_.setPen(QPen(palette_.color(QPalette::Base), 5));
+    painter_.drawRoundedRect(ring, corner, corner);
+    painter_.setPen(QPen(focused ? palette_.color(QPalette::Text) : theme::quietText(palette_), 2));
+    painter_.drawRoundedRect(ring, corner, corner);
 }
 
 } // namespace viewer

@@ -9,10 +9,12 @@
 #include "support/windows/test_application.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTreeView>
+#include <QWheelEvent>
 
 #include <gmock/gmock.h>
 
@@ -235,6 +237,22 @@ TEST_F(CallsTest, ZoomsAndMovesTheTimesAndShowsAllByKey)
     EXPECT_TRUE(lanes.scale().showsAll());
     press(Qt::Key_Minus);
     EXPECT_TRUE(lanes.scale().showsAll()) << "there is nothing beyond";
+}
+
+TEST_F(CallsTest, TheWheelZoomsAroundThePointerAndADoubleClickShowsAll)
+{
+    openTwoCalls();
+    showCall("A", day + 1000);
+    LaneView& lanes = tabs->call().lanes();
+    const QPoint at = lanes.placeOf(3);
+    const QPoint onScreen = lanes.viewport()->mapToGlobal(at);
+    QWheelEvent wheel(at, onScreen, {}, QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(lanes.viewport(), &wheel);
+    EXPECT_NEAR(8000 / 1.5, lanes.scale().to() - lanes.scale().from(), 1);
+    EXPECT_EQ(at.x(), lanes.placeOf(3).x());
+    QTest::mouseDClick(lanes.viewport(), Qt::LeftButton, {}, at + QPoint(30, 0));
+    EXPECT_TRUE(lanes.scale().showsAll());
 }
 
 TEST_F(CallsTest, StopsWhatIsBeingMadeAndKeepsWhatIsThere)

@@ -150,5 +150,26 @@ TEST_F(WindowWithCalls, TheCallIdOfTheDetailsLeadsToTheCall)
     EXPECT_TRUE(shows("fails"));
 }
 
+TEST_F(WindowWithCalls, TheirHeightIsRemembered)
+{
+    window.resize(1000, 800);
+    window.run(Command::calls);
+    settle();
+    const int height = window.callTabs().height();
+    EXPECT_GT(height, 100);
+    EXPECT_GT(window.table().rowsInSight(), 2u);
+    window.callTabs().hide();
+    window.close();
+    MainWindow next(settings);
+    next.resize(1000, 800);
+    next.show();
+    next.document().open({logs.folder() + "/diag_KoCSMgr_20250220_000000.txt"});
+    ASSERT_TRUE(waitForRows(next.document()));
+    EXPECT_FALSE(next.callTabs().isVisible());
+    next.run(Command::calls);
+    settle();
+    EXPECT_NEAR(height, next.callTabs().height(), 3);
+}
+
 } // namespace
 } // namespace viewer
