@@ -4,6 +4,7 @@
 #include "timeline/index/nearly_sorted.h"
 
 #include <algorithm>
+#include <map>
 #include <mutex>
 #include <thread>
 
@@ -24,6 +25,15 @@ struct IsEarlier {
 struct Timeline::Part {
     std::unique_ptr<Source> source;
     SourceRows rows;
+    std::uint32_t lastLine = 0;
+    bool withdrawn = false;
+
+    /// Adds rows behind the others, in the order in which they were read.
+    void add(const IndexRow& row)
+    {
+        lastLine = std::max(lastLine, row.line);
+        rows.push_back(row);
+    }
 
     /// Reads on, and gives the sentence of what the source raised.
     std::string read(SourceNumber number, const Filter& filter, Progress& progress)
@@ -35,13 +45,14 @@ struct Timeline::Part {
         } catch (const RunTimeError& error) {
             failure = error.description();
         }
-        for (std::size_t at = before; at < rows.size(); ++at)
+        for (std::size_t at = before; at < rows.size(); ++at) {
             rows[at].stand(number, rows[at].placeInSource());
+            lastLine = std::max(lastLine, rows[at].line);
+        }
         sortFrom(before);
         return failure;
     }
 
-private:
     /// Puts the rows from one on, which the last reading added, in their place among all.
     void sortFrom(std::size_t before)
     {
@@ -64,7 +75,7 @@ void Timeline::add(std::unique_ptr<Source> source)
     if (parts_.size() == mostSources)
         throw RunTimeError(runTimeErrors::outOfMemory,
                            "no more than " + std::to_string(mostSources) + " logs can be read");
-    parts_.push_back({std::move(source), {}});
+    parts_.emplace_back().source = std::move(source);
 }
 
 std::size_t Timeline::sourceCount() const
@@ -121,11 +132,37 @@ void Timeline::readOn(std::size_t number, const Filter& filter, Progress& progre
     append();
 }
 
+void Timeline::keep(const std::vector<IndexRow>& rows)
+{
+    std::map<SourceNumber, std::size_t> before; ///< rows of each source that has some of these
+    for (const IndexRow& row : rows) {
+        Part& part = parts_[row.source()];
+        before.try_emplace(row.source(), part.rows.size());
+        part.add(row);
+    }
+    for (const auto& [source, size] : before) parts_[source].sortFrom(size);
+}
+
+std::uint32_t Timeline::lastLineOf(std::size_t number) const
+{
+    return parts_[number].lastLine;
+}
+
+void Timeline::withdraw(std::size_t number)
+{
+    parts_[number].withdrawn = true;
+}
+
+bool Timeline::isWithdrawn(std::size_t number) const
+{
+    return parts_[number].withdrawn;
+}
+
 void Timeline::exchange(std::size_t number, std::unique_ptr<Source> source)
 {
     ahead_.clear();
+    parts_[number] = Part();
     parts_[number].source = std::move(source);
-    parts_[number].rows.clear();
 }
 
 void Timeline::forgetRows()

@@ -6,6 +6,7 @@
 #include "timeline/sources/source.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <deque>
 #include <memory>
 #include <string>
@@ -39,6 +40,18 @@ public:
     /// read until then.
     void readOn(std::size_t number, const Filter& filter, Progress& progress,
                 std::vector<IndexRow>& rows);
+
+    /// Keeps rows that `readOn` read: puts them in their places among those of their source. They
+    /// stand behind all others of it in its file.
+    void keep(const std::vector<IndexRow>& rows);
+
+    /// The largest line of the rows of a source; 0 for none.
+    std::uint32_t lastLineOf(std::size_t number) const;
+
+    /// Has whoever counts rows from now on leave out those of a source, which stay until another
+    /// source is put in its place.
+    void withdraw(std::size_t number);
+    bool isWithdrawn(std::size_t number) const;
 
     /// Puts another source in the place of one, whose rows are gone.
     void exchange(std::size_t number, std::unique_ptr<Source> source);

@@ -57,6 +57,7 @@ int run(const ViewerOptions& options, const std::function<void(MainWindow&)>& op
     MainWindow window(settings);
     if (options.size) window.resize(*options.size);
     window.show();
+    window.document().follow(options.follow);
     if (!options.sources.isEmpty()) window.document().open(wholePaths(options.sources));
     if (!options.screenshot.isEmpty()) pictureWhenRead(window, options.screenshot);
     const EndWish wish([&window] { window.close(); });

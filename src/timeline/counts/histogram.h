@@ -24,6 +24,13 @@ public:
     /// Counts a row; one outside of the moments is left out.
     void add(Moment moment, std::int16_t level);
 
+    /// Takes a row back that was counted.
+    void remove(Moment moment, std::int16_t level);
+
+    /// Has buckets for further moments. Where they would be more than `mostBuckets`, they become
+    /// wider: what was counted stays exact.
+    void cover(Moment first, Moment last, std::size_t mostBuckets);
+
     /// One behind the other, those without rows included.
     const std::vector<Bucket>& buckets() const { return buckets_; }
 
@@ -31,6 +38,8 @@ public:
     Moment width() const { return width_; }
 
 private:
+    Bucket* bucketOf(Moment moment);
+
     Moment width_;
     std::vector<Bucket> buckets_;
 };

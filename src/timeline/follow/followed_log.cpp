@@ -20,23 +20,24 @@ constexpr std::size_t firstBytes = 64U << 10;
 
 } // namespace
 
-FollowedLog::FollowedLog(Timeline& timeline, std::size_t number)
-    : timeline_(timeline), path_(timeline.source(number).facts().path), name_(lastNameOf(path_)),
-      throughLink_(false), number_(number)
+FollowedLog::FollowedLog(Timeline& timeline, std::size_t number, const FollowManner& manner)
+    : timeline_(timeline), manner_(manner), path_(timeline.source(number).facts().path),
+      name_(lastNameOf(path_)), throughLink_(false), number_(number)
 {
     const auto facts = unfollowedFactsOf(path_);
     throughLink_ = facts && facts->kind == FileKind::link;
     log().waitForLineEnds(true);
     troublesTold_ = log().troubles().size();
-    // Which form its lines have shows once it has some.
-    begins_ = log().bytesRead() == 0;
     identity_ = log().fileIdentity();
     lastBytes_ = bytesBefore(log().bytesRead());
+    // Which form its lines have shows once it has some.
+    begins_ = log().bytesRead() == 0;
+    halfRead_ = !begins_ && lastBytes_ && !lastBytes_->ends_with('\n');
 }
 
-FollowedLog::FollowedLog(Timeline& timeline, std::string path)
-    : timeline_(timeline), path_(std::move(path)), name_(lastNameOf(path_)), throughLink_(false),
-      begins_(true)
+FollowedLog::FollowedLog(Timeline& timeline, std::string path, const FollowManner& manner)
+    : timeline_(timeline), manner_(manner), path_(std::move(path)), name_(lastNameOf(path_)),
+      throughLink_(false), begins_(true)
 {}
 
 bool FollowedLog::canFollow(const Source& source)
@@ -82,8 +83,10 @@ void FollowedLog::look(const Filter& filter, const LogOpening& opening, News& ne
     if (isSame) return lookAtSame(*facts, filter, opening, news);
     log().waitForLineEnds(false);
     readOn(filter, news);
+    if (more_) return;
     // Its rows are shown before another source takes its place.
     begins_ = true;
+    renamed_ = true;
     size_ = -1;
 }
 
@@ -98,13 +101,19 @@ void FollowedLog::lookWhileGone(const Filter& filter, News& news)
 void FollowedLog::lookAtSame(const FileFacts& facts, const Filter& filter,
                              const LogOpening& opening, News& news)
 {
-    if (facts.size == size_ && facts.modified == modified_) return;
+    if (facts.size == size_ && facts.modified == modified_ && !more_) return;
     const bool isShorter = static_cast<std::uint64_t>(facts.size) < log().bytesRead();
     if (isShorter || !hasWhatWasRead()) {
         told_.clear();
         tell(name_ + (isShorter ? " was cut off" : " was written anew") +
                  ", and is read from its beginning",
              news);
+        begins_ = true;
+        more_ = false;
+        size_ = -1;
+        return begin(facts, filter, opening, news);
+    }
+    if (halfRead_ && static_cast<std::uint64_t>(facts.size) > log().bytesRead()) {
         begins_ = true;
         size_ = -1;
         return begin(facts, filter, opening, news);
@@ -120,6 +129,11 @@ void FollowedLog::begin(const FileFacts& facts, const Filter& filter, const LogO
     if (facts.size == size_ && facts.modified == modified_) return;
     size_ = facts.size;
     modified_ = facts.modified;
+    const bool stays = number_ && renamed_ && manner_.keepsRenamed;
+    if (number_ && !stays && manner_.mayExchange && !manner_.mayExchange(*number_)) {
+        size_ = -1;
+        return;
+    }
     if (!hasWholeLine()) return;
     try {
         auto source = opening(path_);
@@ -131,15 +145,18 @@ void FollowedLog::begin(const FileFacts& facts, const Filter& filter, const LogO
             size_ = -1; // its name leads elsewhere since it was looked at
             return;
         }
-        if (number_)
+        if (number_ && !stays) {
             timeline_.exchange(*number_, std::move(source));
-        else
+        } else {
             timeline_.add(std::move(source));
+            number_ = timeline_.sourceCount() - 1;
+        }
     } catch (const RunTimeError& error) {
         return tell(error.description(), news);
     }
-    if (!number_) number_ = timeline_.sourceCount() - 1;
     begins_ = false;
+    renamed_ = false;
+    halfRead_ = false;
     identity_ = facts.identity;
     troublesTold_ = 0;
     log().waitForLineEnds(true);
@@ -149,12 +166,15 @@ void FollowedLog::begin(const FileFacts& facts, const Filter& filter, const LogO
 void FollowedLog::readOn(const Filter& filter, News& news)
 {
     Progress progress;
+    progress.enough = manner_.mostRows;
+    const std::size_t rowsBefore = news.rows.size();
     const std::uint64_t before = log().bytesRead();
     try {
         timeline_.readOn(*number_, filter, progress, news.rows);
     } catch (const RunTimeError& error) {
         tell(error.description(), news);
     }
+    more_ = news.rows.size() - rowsBefore >= manner_.mostRows;
     const auto& troubles = log().troubles();
     for (; troublesTold_ < troubles.size(); ++troublesTold_)
         news.notices.push_back(troubles[troublesTold_]);

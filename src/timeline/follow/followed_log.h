@@ -5,6 +5,7 @@
 #include "timeline/timeline.h"
 
 #include <functional>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -21,6 +22,21 @@ struct News {
 /// Makes a source of the log at a path of the machine. Raises RunTimeError.
 using LogOpening = std::function<std::unique_ptr<Source>(const std::string& path)>;
 
+/// How logs are followed.
+struct FollowManner {
+    /// Of a log, about so many rows are added by one look at most; others come with the next one.
+    std::size_t mostRows = std::numeric_limits<std::size_t>::max();
+
+    /// Whether the rows of a file stay that was given another name, beside those of the file that
+    /// has its own now: each has a source then.
+    bool keepsRenamed = false;
+
+    /// Is asked before the source of a number is exchanged, as its file was cut off or written anew
+    /// and has its rows no more. False: not yet, it is asked again with the next look. Unset for
+    /// one who keeps none.
+    std::function<bool(std::size_t)> mayExchange;
+};
+
 /// A log whose file is looked at again and again. What became of it shows by its size, its time
 /// and by which file its name leads to.
 ///
@@ -29,12 +45,13 @@ using LogOpening = std::function<std::unique_ptr<Source>(const std::string& path
 /// its end.
 class FollowedLog {
 public:
-    /// A log of a timeline, which outlives this, that was read. A last line that has no end waits
-    /// from now on until it is whole.
-    FollowedLog(Timeline& timeline, std::size_t number);
+    /// A log of a timeline that was read; that and the manner outlive this. A last line that has no
+    /// end waits from now on until it is whole; a log of which half a line was read is read from
+    /// its beginning again once it has grown.
+    FollowedLog(Timeline& timeline, std::size_t number, const FollowManner& manner);
 
     /// A log that has just come.
-    FollowedLog(Timeline& timeline, std::string path);
+    FollowedLog(Timeline& timeline, std::string path, const FollowManner& manner);
 
     /// Whether a source is a log in a file that can be followed.
     static bool canFollow(const Source& source);
@@ -42,6 +59,9 @@ public:
     /// Adds what came since the last look. The rows of the last look are gone from the timeline's
     /// sources where a log was begun anew.
     void look(const Filter& filter, const LogOpening& opening, News& news);
+
+    /// Whether the last look left rows that are there for the next one.
+    bool hasMore() const { return more_; }
 
     const std::string& path() const { return path_; }
 
@@ -62,6 +82,7 @@ private:
     class LogSource& log() const;
 
     Timeline& timeline_;
+    const FollowManner& manner_;
     std::string path_;
     std::string name_;
     bool throughLink_; ///< whether a person named a link to it
@@ -71,7 +92,10 @@ private:
     FileMoment modified_;
     std::optional<std::string> lastBytes_; ///< in front of the end of what was read
     bool gone_ = false;
-    bool begins_ = false; ///< whether it is to be read from its beginning, once it has a line
+    bool more_ = false;
+    bool halfRead_ = false; ///< whether the last line that was read has no end
+    bool renamed_ = false;  ///< whether the file whose rows are there has another name
+    bool begins_ = false;   ///< whether it is to be read from its beginning, once it has a line
     std::size_t troublesTold_ = 0;
     std::string told_;
 };

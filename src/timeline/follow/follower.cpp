@@ -21,15 +21,15 @@ void holdBackHalfLines(Timeline& timeline)
 }
 
 Follower::Follower(Timeline& timeline, Filter filter, LogOpening opening, NewLogs newLogs,
-                   Order order)
+                   Order order, FollowManner manner)
     : timeline_(timeline), filter_(std::move(filter)), opening_(std::move(opening)),
-      newLogs_(std::move(newLogs)), order_(order)
+      newLogs_(std::move(newLogs)), order_(order), manner_(std::move(manner))
 {}
 
 bool Follower::follow(std::size_t number)
 {
     if (!FollowedLog::canFollow(timeline_.source(number))) return false;
-    logs_.emplace_back(timeline_, number);
+    logs_.emplace_back(timeline_, number, manner_);
     return true;
 }
 
@@ -37,10 +37,14 @@ News Follower::look(std::chrono::steady_clock::time_point now)
 {
     News news;
     const std::size_t looks = std::min(logs_.size(), mostLooks);
-    for (std::size_t at = 0; at < looks; ++at) {
+    more_ = false;
+    for (std::size_t at = 0; at < looks && news.rows.size() < manner_.mostRows; ++at) {
         next_ %= logs_.size();
-        logs_[next_++].look(filter_, opening_, news);
+        FollowedLog& log = logs_[next_++];
+        log.look(filter_, opening_, news);
+        more_ = more_ || log.hasMore();
     }
+    more_ = more_ || news.rows.size() >= manner_.mostRows;
     if (!listed_ || now - *listed_ >= betweenLists) {
         listed_ = now;
         findNewLogs(news);
@@ -58,7 +62,7 @@ void Follower::findNewLogs(News& news)
     for (std::string& path : newLogs_.come()) {
         if (isFollowed(path)) continue;
         news.notices.push_back(lastNameOf(path) + " is a new log, and is followed");
-        logs_.emplace_back(timeline_, std::move(path));
+        logs_.emplace_back(timeline_, std::move(path), manner_);
         logs_.back().look(filter_, opening_, news);
     }
 }

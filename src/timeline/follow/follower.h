@@ -27,7 +27,10 @@ public:
     };
 
     /// `timeline` outlives it. `opening` makes sources of logs that come, or begin anew.
-    Follower(Timeline& timeline, Filter filter, LogOpening opening, NewLogs newLogs, Order order);
+    Follower(Timeline& timeline, Filter filter, LogOpening opening, NewLogs newLogs, Order order,
+             FollowManner manner = {});
+    Follower(const Follower&) = delete;
+    Follower& operator=(const Follower&) = delete;
 
     /// Follows a source of the timeline from where it was read to. False for one that can't be
     /// followed, as it is no log in a file of its own.
@@ -36,6 +39,9 @@ public:
     /// Looks at the logs. Rows point into the timeline's sources until the next look; the timeline
     /// itself does not keep them.
     News look(std::chrono::steady_clock::time_point now);
+
+    /// Whether the last look left rows that are there for the next one.
+    bool hasMore() const { return more_; }
 
 private:
     void findNewLogs(News& news);
@@ -46,8 +52,10 @@ private:
     LogOpening opening_;
     NewLogs newLogs_;
     Order order_;
+    FollowManner manner_;
     std::deque<FollowedLog> logs_;
     std::size_t next_ = 0; ///< that is looked at
+    bool more_ = false;
     std::optional<std::chrono::steady_clock::time_point> listed_;
 };
 

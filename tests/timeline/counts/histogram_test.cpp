@@ -32,6 +32,28 @@ TEST(Histogram, HasBucketsOfAWidthThatAClockHas)
     }
 }
 
+TEST(Histogram, ReachesFurtherWithoutLosingWhatItCounted)
+{
+    for (const Moment length : {Moment{1}, Moment{300}, Moment{40'000}, 3 * millisecondsPerDay}) {
+        SCOPED_TRACE(length);
+        Histogram grown(noon, noon + 100, 40);
+        for (Moment at = 0; at <= 100; ++at) grown.add(noon + at, 3);
+        grown.cover(noon - length, noon + 100 + length, 40);
+        EXPECT_GE(40u, grown.buckets().size());
+        EXPECT_EQ(0, grown.width() % 5) << "whole buckets of before lie in one of now";
+        grown.add(noon - length, 0);
+        grown.add(noon + 100 + length, 0);
+        Histogram whole = grown;
+        for (Moment at = 0; at <= 100; ++at) whole.remove(noon + at, 3);
+        std::uint64_t left = 0;
+        for (const auto& bucket : whole.buckets()) {
+            left += bucket.rows;
+            EXPECT_EQ(0u, bucket.levels.count(3)) << "each row was taken back where it was counted";
+        }
+        EXPECT_EQ(2u, left);
+    }
+}
+
 TEST(Histogram, BeginsWhereTheClockDoes)
 {
     Histogram histogram(noon + 61'500, noon + 30 * 60'000, 40);

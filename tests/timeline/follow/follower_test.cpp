@@ -334,5 +334,72 @@ TEST_F(FollowerTest, FollowsNothingThatIsNoLogInAFile)
     EXPECT_FALSE(other.follow(0)) << "a member of a cabinet has no path";
 }
 
+/// Follows a log whose rows a timeline keeps.
+class KeepingFollower : public FollowerTest {
+protected:
+    void begin(FollowManner manner)
+    {
+        folder.write(firstLog, line("00:00", "one") + line("00:01", "two"));
+        timeline.add(open(folder / firstLog));
+        Progress progress;
+        timeline.read(Filter(), progress);
+        follower.emplace(
+            timeline, Filter(), [this](const std::string& path) { return open(path); }, NewLogs(),
+            Follower::Order::ofLogs, std::move(manner));
+        ASSERT_TRUE(follower->follow(0));
+    }
+
+    Texts kept()
+    {
+        timeline.keep(follower->look(now += 100ms).rows);
+        Texts traces;
+        Record record;
+        for (Timeline::Cursor cursor = timeline.begin(); const IndexRow* row = cursor.next();) {
+            timeline.record(*row, record);
+            traces.emplace_back(record.trace);
+        }
+        return traces;
+    }
+};
+
+TEST_F(KeepingFollower, AddsSoManyRowsAtATimeAndTellsThatThereAreMore)
+{
+    FollowManner manner;
+    manner.mostRows = 2;
+    begin(std::move(manner));
+    append(firstLog, line("00:02", "three") + line("00:03", "four") + line("00:04", "five"));
+    EXPECT_EQ((Texts{"one", "two", "three", "four"}), kept());
+    EXPECT_TRUE(follower->hasMore());
+    EXPECT_EQ((Texts{"one", "two", "three", "four", "five"}), kept());
+    EXPECT_FALSE(follower->hasMore());
+    EXPECT_EQ(5u, timeline.lastLineOf(0));
+}
+
+TEST_F(KeepingFollower, WaitsUntilTheRowsOfALogThatWasCutOffMayGo)
+{
+    bool may = false;
+    FollowManner manner;
+    manner.mayExchange = [&](std::size_t number) { return number == 0 && may; };
+    begin(std::move(manner));
+    kept();
+    folder.write(firstLog, line("00:05", "new"));
+    timeline.keep(follower->look(now += 100ms).rows);
+    EXPECT_EQ(2u, timeline.size()) << "they stay for as long as somebody has them";
+    may = true;
+    EXPECT_EQ(Texts{"new"}, kept());
+}
+
+TEST_F(KeepingFollower, KeepsTheRowsOfARenamedLogBesideThoseOfTheNewOne)
+{
+    FollowManner manner;
+    manner.keepsRenamed = true;
+    begin(std::move(manner));
+    std::filesystem::rename(folder / firstLog, folder / "old.txt");
+    folder.write(firstLog, line("00:05", "new"));
+    kept();
+    EXPECT_EQ((Texts{"one", "two", "new"}), kept());
+    EXPECT_EQ(2u, timeline.sourceCount());
+}
+
 } // namespace
 } // namespace timeline

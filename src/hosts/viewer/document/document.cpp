@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace viewer {
 
@@ -48,10 +49,18 @@ Document::Document(QObject* parent)
                                      },
                                      Qt::QueuedConnection);
                              }}),
-      opening_(timeline_, [this](const OpenedPath& opened) {
-          QMetaObject::invokeMethod(
-              this, [this, opened] { takeOpened(opened); }, Qt::QueuedConnection);
-      })
+      following_(timeline_,
+                 [this](const LogNews& news) {
+                     QMetaObject::invokeMethod(
+                         this, [this, news] { takeNews(news); }, Qt::QueuedConnection);
+                 }),
+      opening_(timeline_, {.before = [this](const std::string& path) { following_.watch(path); },
+                           .opened =
+                               [this](const OpenedPath& opened) {
+                                   QMetaObject::invokeMethod(
+                                       this, [this, opened] { takeOpened(opened); },
+                                       Qt::QueuedConnection);
+                               }})
 {
     connect(&levelSteps_, &QTimer::timeout, this, &Document::lookForLevel);
     connect(&watch_, &QTimer::timeout, this, &Document::lookAtReading);
@@ -65,6 +74,7 @@ void Document::open(const QStringList& paths)
     toOpen_ += static_cast<std::size_t>(paths.size());
     for (const QString& path : paths) opening_.open(path.toStdString());
     watch_.start(firstLook);
+    letFollow();
     emit progressed();
 }
 
@@ -72,6 +82,48 @@ void Document::cancel()
 {
     toOpen_ -= opening_.cancel();
     timeline_.cancel();
+    letFollow();
+}
+
+void Document::follow(bool wish)
+{
+    if (follows_ == wish) return;
+    follows_ = wish;
+    timeline_.holdBackHalfLines(wish);
+    letFollow();
+    emit followingChanged();
+}
+
+/// What is still opened may be what can be followed.
+void Document::letFollow()
+{
+    following_.follow(follows_ && toOpen_ == 0);
+}
+
+void Document::takeNews(const LogNews& news)
+{
+    for (const std::string& notice : news.notices)
+        emit noted(harmless(QString::fromStdString(notice)));
+    for (const auto& [source, home] : news.homes) takeHome(source, home);
+    if (news.withdrawn)
+        wish(true);
+    else if (news.grown)
+        growView();
+    if (!news.homes.empty()) emit progressed();
+    if (!follows_ || !news.followable) return;
+    if (*news.followable == Followable::some) emit followedInPart();
+    if (*news.followable != Followable::none) return;
+    follow(false);
+    emit followRefused();
+}
+
+/// Wishes for one grown view at a time; what comes meanwhile comes with the next one.
+void Document::growView()
+{
+    grownSince_ = growing_;
+    if (growing_) return;
+    growing_ = true;
+    maker_.grow();
 }
 
 Document::State Document::state() const
@@ -90,9 +142,11 @@ Document::State Document::state() const
 void Document::takeOpened(const OpenedPath& opened)
 {
     --toOpen_;
+    letFollow();
     if (opened.sources > 0) {
         sources_ += opened.sources;
-        homes_.insert(homes_.end(), opened.homes.begin(), opened.homes.end());
+        for (std::size_t at = 0; at < opened.homes.size(); ++at)
+            takeHome(opened.firstSource + at, opened.homes[at]);
         paths_.append(QString::fromStdString(opened.path));
         lookedAtEnd_ = false;
         watch_.start(firstLook);
@@ -103,6 +157,13 @@ void Document::takeOpened(const OpenedPath& opened)
     tell(opened.troubles);
     for (const std::string& note : opened.notes) emit noted(harmless(QString::fromStdString(note)));
     emit progressed();
+}
+
+/// A log that is followed may have begun before what was opened earlier was told of.
+void Document::takeHome(std::size_t source, const SourceHome& home)
+{
+    if (homes_.size() <= source) homes_.resize(source + 1);
+    homes_[source] = home;
 }
 
 void Document::tell(const std::vector<std::string>& failures)
@@ -158,6 +219,9 @@ void Document::setFilter(RowFilter filter)
 
 void Document::takeView(std::shared_ptr<const View> view)
 {
+    growing_ = false;
+    if (std::exchange(grownSince_, false)) growView();
+    if (view->grownFrom) return takeGrown(std::move(view));
     emit viewAboutToChange();
     view_ = std::move(view);
     blocks_.clear();
@@ -167,20 +231,52 @@ void Document::takeView(std::shared_ptr<const View> view)
     findAgain();
 }
 
+/// Takes a view of which most is as it was, and mostly all but what comes behind.
+void Document::takeGrown(std::shared_ptr<const View> view)
+{
+    const std::size_t same = *view->grownFrom;
+    const std::size_t before = view_->size();
+    const bool atEnd = same == before;
+    if (!atEnd)
+        emit viewAboutToChange();
+    else if (view->size() > before)
+        emit rowsAboutToCome(view->size() - before);
+    const bool comes = atEnd && view->size() > before;
+    view_ = std::move(view);
+    for (auto at = blocks_.begin(); at != blocks_.end();) {
+        if ((at->first + 1) * rowsOfBlock <= same) {
+            ++at;
+            continue;
+        }
+        places_.erase(at->first);
+        at = blocks_.erase(at);
+    }
+    if (levelSteps_.isActive()) levelSearch_->growTo(view_, same);
+    if (!atEnd)
+        emit viewChanged();
+    else if (comes)
+        emit rowsCame();
+    findAgain(same);
+}
+
 void Document::find(const TextCondition& text)
 {
     finding_ = text.text.isEmpty() ? nullptr : text.pattern();
     findAgain();
 }
 
-/// Looks for the same text in what is on show now. The hits of before are those of other places.
-void Document::findAgain()
+/// Looks for the same text in what is on show now. The hits of before are those of other places,
+/// but for those at the top of a view that grew.
+void Document::findAgain(std::optional<std::size_t> same)
 {
     const bool any = hits_ != nullptr;
-    hits_.reset();
-    ++findings_;
-    if (finding_ || any) finder_.find({findings_, view_, finding_});
-    if (any) emit hitsChanged();
+    HitFinder::Wish wish{++findings_, view_, finding_, std::nullopt};
+    if (same)
+        wish.before = {findings_ - 1, *same};
+    else
+        hits_.reset();
+    if (finding_ || any) finder_.find(std::move(wish));
+    if (any && !same) emit hitsChanged();
 }
 
 void Document::findLevel(std::size_t place, Direction direction, std::int8_t level)

@@ -3,6 +3,7 @@
 #include "hosts/common/filters/row_filter.h"
 #include "hosts/viewer/document/hit_finder.h"
 #include "hosts/viewer/document/level_search.h"
+#include "hosts/viewer/document/log_following.h"
 #include "hosts/viewer/document/shown_row.h"
 #include "hosts/viewer/document/source_opening.h"
 #include "hosts/viewer/document/view.h"
@@ -37,6 +38,11 @@ public:
 
     /// Ends opening and reading; the rows so far stay.
     void cancel();
+
+    /// Follows the opened logs, and those that are opened, as they grow: rows that come are shown.
+    /// `followRefused` tells where there is none that can be followed; it follows none then.
+    void follow(bool wish);
+    bool follows() const { return follows_; }
 
     /// How far opening and reading are, and whether a view of it is still being made. The share is
     /// nothing while nobody knows.
@@ -138,6 +144,17 @@ signals:
     void viewAboutToChange();
     void viewChanged();
 
+    /// Rows will be on show behind the last one, and are; nothing else changes.
+    void rowsAboutToCome(std::size_t count);
+    void rowsCame();
+
+    /// Logs are followed, or are no more.
+    void followingChanged();
+
+    /// Nothing that is open can be followed, or not all of it.
+    void followRefused();
+    void followedInPart();
+
     /// Another filter was set; the view of it comes by itself.
     void filterChanged();
 
@@ -162,9 +179,14 @@ signals:
 private:
     void takeOpened(const OpenedPath& opened);
     void takeView(std::shared_ptr<const View> view);
+    void takeGrown(std::shared_ptr<const View> view);
+    void takeHome(std::size_t source, const SourceHome& home);
+    void takeNews(const LogNews& news);
+    void growView();
+    void letFollow();
     void lookAtReading();
     void wish(bool anew);
-    void findAgain();
+    void findAgain(std::optional<std::size_t> same = std::nullopt);
     void lookForLevel();
     void tell(const std::vector<std::string>& failures);
 
@@ -190,13 +212,17 @@ private:
     std::optional<LevelSearch> levelSearch_;
     QTimer levelSteps_;
     std::uint64_t wishes_ = 0; ///< that were made for views
-    bool lookedAtEnd_ = true;  ///< whether the view has the rows of a reading that has ended
-    QTimer watch_;             ///< runs while something is opened or read
+    bool follows_ = false;
+    bool growing_ = false;    ///< whether a grown view was wished for, and is not there yet
+    bool grownSince_ = false; ///< whether rows came since that wish
+    bool lookedAtEnd_ = true; ///< whether the view has the rows of a reading that has ended
+    QTimer watch_;            ///< runs while something is opened or read
     timeline::Record room_;
     std::list<std::pair<std::size_t, Block>> blocks_; ///< those that were used last come first
     std::unordered_map<std::size_t, std::list<std::pair<std::size_t, Block>>::iterator> places_;
     HitFinder finder_;
     ViewMaker maker_;
+    LogFollowing following_;
     SourceOpening opening_;
 };
 

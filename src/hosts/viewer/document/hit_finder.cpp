@@ -4,6 +4,7 @@
 #include "hosts/viewer/document/row_line.h"
 #include "runtime/run_time_error.h"
 
+#include <algorithm>
 #include <chrono>
 #include <map>
 #include <utility>
@@ -20,14 +21,15 @@ constexpr std::size_t rowsFoundAtOnce = 16; ///< between two looks at the clock
 constexpr std::chrono::milliseconds stepLength{2};
 constexpr std::chrono::milliseconds firstPart{50}; ///< of hits that take longer
 
-/// Looks at the rows on show from the first to the last.
+/// Looks at the rows on show from a place to the last.
 class Looking {
 public:
-    Looking(std::shared_ptr<const View> view, std::shared_ptr<const timeline::TextPattern> pattern)
-        : view_(std::move(view)), pattern_(std::move(pattern)), walk_(*view_, 0)
+    Looking(std::shared_ptr<const View> view, std::shared_ptr<const timeline::TextPattern> pattern,
+            std::size_t place)
+        : view_(std::move(view)), pattern_(std::move(pattern)), walk_(*view_, place)
     {}
 
-    /// Goes on until a moment; true at the end.
+    /// Goes on behind the hits until a moment; true at the end.
     bool look(const Timeline& timeline, Clock::time_point until, RowSet& hits)
     {
         for (std::size_t looked = 1; hits.size() < view_->size(); ++looked) {
@@ -71,6 +73,15 @@ HitFinder::~HitFinder() = default;
 void HitFinder::find(Wish wish)
 {
     const std::lock_guard lock(asking_);
+    // What was never begun has found nothing, but may have gone on from what has.
+    if (wish.before && wish_ && wish_->number == wish.before->number) {
+        const auto before = wish_->before;
+        if (before) wish.before->same = std::min(wish.before->same, before->same);
+        if (before)
+            wish.before->number = before->number;
+        else
+            wish.before.reset();
+    }
     wish_ = std::move(wish);
     asked_.notify_all();
 }
@@ -98,25 +109,29 @@ void HitFinder::run(const std::stop_token& stop)
 
 void HitFinder::answer(const Wish& wish, const std::stop_token& stop)
 {
-    Hits hits;
-    hits.number = wish.number;
+    if (wish.before && wish.before->number == hits_.number)
+        hits_.rows.truncate(wish.before->same);
+    else
+        hits_.rows = RowSet();
+    hits_.number = wish.number;
+    hits_.complete = false;
     std::unique_ptr<Looking> looking;
     if (wish.pattern && wish.view->order)
-        looking = std::make_unique<Looking>(wish.view, wish.pattern);
+        looking = std::make_unique<Looking>(wish.view, wish.pattern, hits_.rows.size());
     auto partLength = firstPart;
     auto nextPart = Clock::now() + partLength;
-    while (looking && !hits.complete) {
+    while (looking && !hits_.complete) {
         if (isGivenUp(stop)) return;
         timeline_.work([&](const Timeline& rows) {
-            hits.complete = looking->look(rows, Clock::now() + stepLength, hits.rows);
+            hits_.complete = looking->look(rows, Clock::now() + stepLength, hits_.rows);
         });
-        if (hits.complete || Clock::now() < nextPart) continue;
-        told_(std::make_shared<Hits>(hits));
+        if (hits_.complete || Clock::now() < nextPart) continue;
+        told_(std::make_shared<Hits>(hits_));
         partLength *= 2;
         nextPart = Clock::now() + partLength;
     }
-    hits.complete = true;
-    told_(std::make_shared<Hits>(std::move(hits)));
+    hits_.complete = true;
+    told_(std::make_shared<Hits>(hits_));
 }
 
 } // namespace viewer

@@ -37,6 +37,14 @@ public:
         std::uint64_t number = 0;
         std::shared_ptr<const View> view;
         std::shared_ptr<const timeline::TextPattern> pattern; ///< null for none: no row is a hit
+
+        /// Of the same pattern in the view that this one grew from: the number of that wish, and
+        /// how many places at the top are as they were. What was found there stays.
+        struct Before {
+            std::uint64_t number = 0;
+            std::size_t same = 0;
+        };
+        std::optional<Before> before;
     };
 
     /// Looks for something else. What was looked for before is given up.
@@ -52,6 +60,7 @@ private:
     mutable std::mutex asking_; ///< of the wish
     std::condition_variable_any asked_;
     std::optional<Wish> wish_;
+    Hits hits_; ///< so far, the thread's own
     std::jthread thread_;
 };
 

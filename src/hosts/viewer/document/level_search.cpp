@@ -20,6 +20,13 @@ LevelSearch::LevelSearch(std::shared_ptr<const View> view, std::size_t place, Di
       end_(direction == Direction::down ? view_->size() : std::min(place, view_->size()))
 {}
 
+void LevelSearch::growTo(std::shared_ptr<const View> view, std::size_t same)
+{
+    view_ = std::move(view);
+    begin_ = std::min(begin_, same);
+    end_ = direction_ == Direction::down ? view_->size() : std::min(end_, view_->size());
+}
+
 bool LevelSearch::look(const timeline::Timeline& timeline,
                        std::chrono::steady_clock::time_point until)
 {

@@ -22,6 +22,9 @@ public:
     /// Goes on until a moment; true when it is done.
     bool look(const timeline::Timeline& timeline, std::chrono::steady_clock::time_point until);
 
+    /// Goes on in a view that grew from this one; `same` places at its top are as they were.
+    void growTo(std::shared_ptr<const View> view, std::size_t same);
+
     /// The place of the row that was found; nothing for none.
     std::optional<std::size_t> found() const { return found_; }
 

@@ -81,6 +81,7 @@ public:
     bool fits(Value value) const { return fits_[value]; }
 
     void count(Value value) { ++rows_[value]; }
+    void uncount(Value value) { --rows_[value]; }
 
     const std::string* textOf(Value value) const
     {
@@ -128,12 +129,7 @@ RowAsking::RowAsking(const Timeline& timeline, std::shared_ptr<const RowOrder> o
     for (std::size_t facet = 0; facet < facets; ++facet)
         values_[facet] = std::make_unique<Values>(facetColumns[facet], std::move(filters[facet]));
     for (auto* known : {&levels_, &processes_, &sources_}) known->fill(none);
-    if (const auto span = order_->span(timeline)) {
-        const Choice& frame = rest_.choice();
-        const timeline::Moment first = std::max(span->first, frame.since.value_or(span->first));
-        const timeline::Moment last = std::min(span->second, frame.until.value_or(span->second));
-        histogram_.emplace(first, std::max(first, last), mostBuckets);
-    }
+    coverTimes(timeline);
 }
 
 RowAsking::~RowAsking() = default;
@@ -147,7 +143,35 @@ bool RowAsking::ask(const Timeline& timeline, std::chrono::steady_clock::time_po
     return true;
 }
 
-/// Asks the next row, with the lines that belong to it.
+/// Has the histogram reach over the times of all rows that the choice lets through.
+void RowAsking::coverTimes(const Timeline& timeline)
+{
+    const auto span = order_->span(timeline);
+    if (!span) return;
+    const Choice& frame = rest_.choice();
+    const timeline::Moment first = std::max(span->first, frame.since.value_or(span->first));
+    const timeline::Moment last = std::min(span->second, frame.until.value_or(span->second));
+    if (histogram_)
+        histogram_->cover(first, std::max(first, last), mostBuckets);
+    else
+        histogram_.emplace(first, std::max(first, last), mostBuckets);
+}
+
+void RowAsking::growTo(const Timeline& timeline, std::shared_ptr<const RowOrder> order)
+{
+    before_ = std::exchange(order_, std::move(order));
+    const RowOrder::Growth& growth = order_->growth();
+    same_ = growth.same;
+    takenBefore_ = taken_;
+    taken_.truncate(growth.sameWhole);
+    nextBefore_ = growth.sameWhole;
+    walk_ = order_->from(timeline, growth.sameWhole);
+    components_.resize(timeline.sourceCount());
+    coverTimes(timeline);
+}
+
+/// Asks the next row, with the lines that belong to it. One that was asked before is taken as it
+/// was, if it has no new line.
 void RowAsking::askRow(const Timeline& timeline)
 {
     lines_.clear();
@@ -158,19 +182,51 @@ void RowAsking::askRow(const Timeline& timeline)
          line != nullptr && line->belongsToRowBefore() && line->source() == row->source();
          line = walk_.peek())
         lines_.push_back(walk_.next());
+    std::size_t known = 0;
+    if (before_)
+        while (known < lines_.size() && before_->has(*lines_[known])) ++known;
+    if (known == 0) return taken_.append(takes(timeline, Counting::add), lines_.size());
+    if (known < lines_.size()) return askAgain(timeline, known);
+    taken_.append(takenBefore_.has(nextBefore_), known);
+    nextBefore_ += known;
+}
+
+/// Asks a row whose first lines were asked before.
+void RowAsking::askAgain(const Timeline& timeline, std::size_t known)
+{
+    std::vector<const IndexRow*> whole = lines_;
+    lines_.resize(known);
+    const bool tookIt = takes(timeline, Counting::remove);
+    lines_ = std::move(whole);
+    const bool takesIt = takes(timeline, Counting::add);
+    if (takesIt != tookIt) same_ = std::min(same_, taken_.size());
+    taken_.append(takesIt, lines_.size());
+    nextBefore_ += known;
+}
+
+/// Whether the choice takes the row with its lines, which are counted, or taken back.
+bool RowAsking::takes(const Timeline& timeline, Counting counting)
+{
+    const IndexRow& row = *lines_.front();
     recorded_ = false;
     std::array<Value, facets> values;
     values.fill(none);
-    Against against = this->against(timeline, *row, values);
+    Against against = this->against(timeline, row, values);
     // What has one thing of a facet against it is counted for that facet, if nothing else is.
     const bool counts = (against & (against - 1)) == 0 && (against & all) == 0;
     if (counts && rest_.hasPatterns()) against |= againstTexts(timeline);
-    taken_.append(against == 0, lines_.size());
-    if ((against & all) != 0) return;
-    for (std::size_t facet = 0; facet < facets; ++facet)
-        if (values[facet] != none && (against & ~(1U << facet)) == 0)
+    if ((against & all) != 0) return false;
+    for (std::size_t facet = 0; facet < facets; ++facet) {
+        if (values[facet] == none || (against & ~(1U << facet)) != 0) continue;
+        if (counting == Counting::add)
             values_[facet]->count(values[facet]);
-    if (against == 0 && histogram_) histogram_->add(row->moment, row->level);
+        else
+            values_[facet]->uncount(values[facet]);
+    }
+    if (against != 0) return false;
+    if (histogram_ && counting == Counting::add) histogram_->add(row.moment, row.level);
+    if (histogram_ && counting == Counting::remove) histogram_->remove(row.moment, row.level);
+    return true;
 }
 
 RowAsking::Against RowAsking::against(const Timeline& timeline, const IndexRow& row,

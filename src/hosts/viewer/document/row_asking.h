@@ -35,6 +35,13 @@ public:
     /// Asks rows until a moment; true when all were asked.
     bool ask(const timeline::Timeline& timeline, std::chrono::steady_clock::time_point until);
 
+    /// Goes on with an order that grew from this one, all of whose rows were asked: `ask` asks the
+    /// rows that came. `names` knows theirs if it knew those of all.
+    void growTo(const timeline::Timeline& timeline, std::shared_ptr<const RowOrder> order);
+
+    /// How many rows at the top are as before it grew, and are taken as then.
+    std::size_t same() const { return same_; }
+
     /// Those of the rows asked so far that the choice takes.
     const RowSet& taken() const { return taken_; }
 
@@ -63,8 +70,16 @@ private:
     Value* knownValue(const timeline::IndexRow& row, std::size_t facet);
     bool reads(const timeline::Timeline& timeline, const timeline::IndexRow& row);
     void askRow(const timeline::Timeline& timeline);
+    void askAgain(const timeline::Timeline& timeline, std::size_t known);
+    enum class Counting { add, remove };
+    bool takes(const timeline::Timeline& timeline, Counting counting);
+    void coverTimes(const timeline::Timeline& timeline);
 
     std::shared_ptr<const RowOrder> order_;
+    std::shared_ptr<const RowOrder> before_; ///< that it grew from; null where it did not
+    RowSet takenBefore_;                     ///< of that
+    std::size_t nextBefore_ = 0;             ///< the row of that which comes next
+    std::size_t same_ = 0;
     const RowNames& names_;
     bool namesKnown_;
     RowOrder::Walk walk_;

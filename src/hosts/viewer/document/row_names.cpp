@@ -33,10 +33,21 @@ void RowNames::check(const Timeline& timeline)
         if (log.sources.empty()) continue;
         const timeline::SourceRows& rows = timeline.rowsOf(number);
         const std::size_t last = log.sources.size() - 1;
-        if (last < rows.size() && rows[last].place == log.lastPlace) continue;
+        if (!timeline.isWithdrawn(number) && last < rows.size() &&
+            rows[last].place == log.lastPlace)
+            continue;
         log.sources.clear();
         log.processes.clear();
     }
+}
+
+void RowNames::forgetFrom(const Timeline& timeline, std::size_t log, std::size_t position)
+{
+    if (log >= logs_.size() || position >= logs_[log].sources.size()) return;
+    Log& known = logs_[log];
+    known.sources.resize(position);
+    if (known.processes.size() > position) known.processes.resize(position);
+    if (position > 0) known.lastPlace = timeline.rowsOf(log)[position - 1].place;
 }
 
 bool RowNames::learn(const Timeline& timeline)
@@ -47,7 +58,7 @@ bool RowNames::learn(const Timeline& timeline)
         Log& log = logs_[number];
         const std::string& process = timeline.source(number).facts().process;
         if (log.process == unknown && !process.empty()) log.process = numberOf(processes_, process);
-        const std::size_t rows = timeline.rowsOf(number).size();
+        const std::size_t rows = timeline.isWithdrawn(number) ? 0 : timeline.rowsOf(number).size();
         while (log.sources.size() < rows) {
             learnRow(timeline, log, number);
             if (log.sources.size() % rowsLearnedAtOnce == 0 &&

@@ -24,8 +24,11 @@ public:
     bool learn(const timeline::Timeline& timeline);
 
     /// Forgets what it knows of rows whose places among those of their source have changed, as
-    /// older rows came.
+    /// older rows came, and of those that were withdrawn.
     void check(const timeline::Timeline& timeline);
+
+    /// Forgets what it knows of rows of a log from a position on.
+    void forgetFrom(const timeline::Timeline& timeline, std::size_t log, std::size_t position);
 
     /// The number of a row's process, or of its source, by its position among the rows of its log.
     std::uint8_t process(std::size_t log, std::size_t position) const;

@@ -15,16 +15,94 @@ constexpr std::size_t leastStride = 1024;
 } // namespace
 
 RowOrder::RowOrder(const Timeline& timeline)
-    : limits_(timeline.sourceCount()), positions_(timeline.sourceCount())
+    : limits_(timeline.sourceCount()), lastLines_(limits_.size()), positions_(limits_.size())
 {
     for (std::size_t source = 0; source < limits_.size(); ++source) {
+        if (timeline.isWithdrawn(source)) continue;
         limits_[source] = static_cast<std::uint32_t>(timeline.rowsOf(source).size());
+        lastLines_[source] = timeline.lastLineOf(source);
         size_ += limits_[source];
     }
+    setStride();
+    heads_ = Walk(timeline, *this, positions_).heads_;
+}
+
+RowOrder::RowOrder(const RowOrder& before, const Timeline& timeline)
+    : limits_(before.limits_), lastLines_(before.lastLines_)
+{
+    limits_.resize(timeline.sourceCount());
+    lastLines_.resize(limits_.size());
+    positions_.resize(limits_.size());
+    for (std::size_t source = 0; source < limits_.size(); ++source) {
+        if (!timeline.isWithdrawn(source)) {
+            limits_[source] = static_cast<std::uint32_t>(timeline.rowsOf(source).size());
+            lastLines_[source] = timeline.lastLineOf(source);
+        }
+        size_ += limits_[source];
+    }
+    findGrowth(before, timeline);
+    setStride();
+    if (stride_ <= 2 * before.stride_) takeNotes(before);
+    heads_ = Walk(timeline, *this, positions_).heads_;
+}
+
+void RowOrder::setStride()
+{
     const std::size_t notes =
         mostNotes / (sizeof(std::uint32_t) * std::max<std::size_t>(1, limits_.size()));
     stride_ = std::max(leastStride, size_ / std::max<std::size_t>(1, notes));
-    heads_ = Walk(timeline, *this, positions_).heads_;
+}
+
+/// Looks for the new rows of each source from its last row on: most, and often all of them, stand
+/// behind those that it had.
+void RowOrder::findGrowth(const RowOrder& before, const Timeline& timeline)
+{
+    growth_.firstOfSource = limits_;
+    std::optional<Head> first; ///< of all new rows
+    for (std::uint32_t source = 0; source < limits_.size(); ++source) {
+        const std::uint32_t known = source < before.limits_.size() ? before.limits_[source] : 0;
+        const timeline::SourceRows& rows = timeline.rowsOf(source);
+        std::uint32_t& at = growth_.firstOfSource[source];
+        for (std::uint32_t left = limits_[source] - known; left > 0;)
+            if (!before.has(rows[--at])) --left;
+        if (at == limits_[source]) continue;
+        const Head head{rows[at].moment, source};
+        if (!first || head < *first) first = head;
+    }
+    growth_.same = growth_.sameWhole = size_;
+    if (!first) return;
+    // No new row stands before it, so that what does is the same as it was.
+    std::uint32_t position = growth_.firstOfSource[first->source];
+    growth_.same = position;
+    for (std::uint32_t source = 0; source < limits_.size(); ++source)
+        if (source != first->source)
+            growth_.same += countBefore(timeline, source, first->moment, source < first->source);
+    growth_.sameWhole = growth_.same;
+    const timeline::SourceRows& rows = timeline.rowsOf(first->source);
+    for (; position > 0 && rows[position].belongsToRowBefore(); --position) --growth_.sameWhole;
+}
+
+/// Takes the notes over up to the one before the first new row, and goes on from there.
+void RowOrder::takeNotes(const RowOrder& before)
+{
+    stride_ = before.stride_;
+    const std::size_t sources = before.limits_.size();
+    if (sources == 0 || before.notes_.empty()) return;
+    const std::size_t last = std::min(growth_.same / stride_, before.notes_.size() / sources - 1);
+    const auto note = [&](std::size_t number) {
+        return before.notes_.begin() + static_cast<std::ptrdiff_t>(number * sources);
+    };
+    notes_.reserve((last + 2) * limits_.size());
+    if (sources == limits_.size()) {
+        notes_.assign(note(0), note(last));
+    } else {
+        for (std::size_t number = 0; number < last; ++number) {
+            notes_.insert(notes_.end(), note(number), note(number + 1));
+            notes_.resize((number + 1) * limits_.size()); // none of the new sources' rows
+        }
+    }
+    std::copy(note(last), note(last + 1), positions_.begin());
+    built_ = last * stride_;
 }
 
 bool RowOrder::build(const Timeline& timeline, std::size_t rows)

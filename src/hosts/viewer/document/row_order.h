@@ -21,7 +21,28 @@ namespace viewer {
 /// the same one, by whoever may use it then.
 class RowOrder {
 public:
+    /// Of all rows but those that were withdrawn.
     explicit RowOrder(const timeline::Timeline& timeline);
+
+    /// Of the rows of an order, which was built, and of those that were kept since: what stands
+    /// before the first of these is taken over, and takes no time. Rows that were withdrawn since
+    /// are still among them.
+    RowOrder(const RowOrder& before, const timeline::Timeline& timeline);
+
+    /// What an order has in common with the one that it grew from.
+    struct Growth {
+        std::size_t same = 0;      ///< rows at the top
+        std::size_t sameWhole = 0; ///< those of them that can have no new line of their own
+        std::vector<std::uint32_t> firstOfSource; ///< the position of each source's first new row
+    };
+    const Growth& growth() const { return growth_; }
+
+    /// Whether a row is one of these.
+    bool has(const timeline::IndexRow& row) const
+    {
+        return row.source() < limits_.size() && limits_[row.source()] > 0 &&
+               row.line <= lastLines_[row.source()];
+    }
 
     /// The number of all rows.
     std::size_t size() const { return size_; }
@@ -59,10 +80,15 @@ private:
         }
     };
 
+    void setStride();
+    void findGrowth(const RowOrder& before, const timeline::Timeline& timeline);
+    void takeNotes(const RowOrder& before);
     std::size_t countBefore(const timeline::Timeline& timeline, std::uint32_t source,
                             timeline::Moment moment, bool orAt) const;
 
-    std::vector<std::uint32_t> limits_; ///< of the rows of each source
+    std::vector<std::uint32_t> limits_;    ///< of the rows of each source
+    std::vector<std::uint32_t> lastLines_; ///< the largest line of each source
+    Growth growth_;
     std::size_t size_ = 0;
     std::size_t stride_ = 0;           ///< rows from one note to the next
     std::vector<std::uint32_t> notes_; ///< the position of each source, at each note

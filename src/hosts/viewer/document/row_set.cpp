@@ -26,6 +26,16 @@ void RowSet::append(bool members, std::size_t rows)
     }
 }
 
+void RowSet::truncate(std::size_t size)
+{
+    if (size >= size_) return;
+    count_ = countBefore(size);
+    size_ = size;
+    words_.resize((size + bits - 1) / bits);
+    before_.resize((words_.size() + wordsOfBlock - 1) / wordsOfBlock);
+    if (size % bits != 0) words_.back() &= (std::uint64_t{1} << (size % bits)) - 1;
+}
+
 std::size_t RowSet::countBefore(std::size_t row) const
 {
     if (row >= size_) return count_;

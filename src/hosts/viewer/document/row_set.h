@@ -14,6 +14,9 @@ public:
     /// Tells of the next `rows` rows that they are members, or are none.
     void append(bool members, std::size_t rows = 1);
 
+    /// Forgets what it was told of rows from one on.
+    void truncate(std::size_t size);
+
     /// Of how many rows it was told.
     std::size_t size() const { return size_; }
 

@@ -1,8 +1,11 @@
 #include "hosts/viewer/document/shared_timeline.h"
 
+#include "timeline/follow/follower.h"
+
 #include <algorithm>
 #include <chrono>
 #include <thread>
+#include <utility>
 
 namespace viewer {
 
@@ -55,18 +58,22 @@ private:
     std::atomic<std::uint64_t>& done_;
 };
 
-void SharedTimeline::add(std::vector<std::unique_ptr<timeline::Source>> sources)
+std::size_t SharedTimeline::add(std::vector<std::unique_ptr<timeline::Source>> sources)
 {
     const Turn turn(*this);
     if (const auto reading = this->reading()) {
         reading->cancel();
         reading->wait();
     }
+    const std::size_t first = timeline_.sourceCount();
     for (auto& source : sources) timeline_.add(std::move(source));
+    if (holdsBack_) timeline::holdBackHalfLines(timeline_);
+    ++additions_;
     auto reading = std::make_shared<timeline::BackgroundReading>(timeline_, timeline::Filter(),
                                                                  readingThreads());
     const std::lock_guard lock(keeping_);
     reading_.swap(reading);
+    return first;
 }
 
 /// Whoever has the turn.
@@ -96,6 +103,22 @@ void SharedTimeline::work(const Look& step)
         taken = std::chrono::steady_clock::now() - begin;
     }
     if (!state().ended) std::this_thread::sleep_for(taken);
+}
+
+bool SharedTimeline::change(const std::function<void(timeline::Timeline&)>& step)
+{
+    const Step turn(*this);
+    for (int lookers = lookers_; lookers > 0; lookers = lookers_) lookers_.wait(lookers);
+    const std::lock_guard lock(turn_);
+    if (!state().ended) return false;
+    step(timeline_);
+    return true;
+}
+
+std::weak_ptr<const void> SharedTimeline::withdraw(timeline::Timeline& timeline, std::size_t number)
+{
+    timeline.withdraw(number);
+    return std::exchange(held_, std::make_shared<int>());
 }
 
 std::shared_ptr<timeline::BackgroundReading> SharedTimeline::reading() const

@@ -36,8 +36,8 @@ SourceHome homeOf(const timeline::SourceFacts& facts, const std::string& path)
 
 } // namespace
 
-SourceOpening::SourceOpening(SharedTimeline& timeline, Opened opened)
-    : timeline_(timeline), opened_(std::move(opened)), opener_(timeline::SourceOptions()),
+SourceOpening::SourceOpening(SharedTimeline& timeline, Told told)
+    : timeline_(timeline), told_(std::move(told)), opener_(timeline::SourceOptions()),
       thread_([this](const std::stop_token& stop) { run(stop); })
 {}
 
@@ -75,6 +75,7 @@ void SourceOpening::run(const std::stop_token& stop)
             opens_ = true;
             progress_.cancelled = false;
         }
+        if (path != "-") told_.before(path);
         OpenedPath opened = openNow(path);
         {
             const std::lock_guard lock(asking_);
@@ -82,7 +83,7 @@ void SourceOpening::run(const std::stop_token& stop)
             opens_ = false;
         }
         if (stop.stop_requested()) return;
-        opened_(std::move(opened));
+        told_.opened(std::move(opened));
     }
 }
 
@@ -103,7 +104,7 @@ OpenedPath SourceOpening::openNow(const std::string& path)
                     dynamic_cast<const timeline::TraceDatabaseSource*>(source.get()))
                 addMacroTraces(*database, result);
         }
-        if (!opened.sources.empty()) timeline_.add(std::move(opened.sources));
+        if (!opened.sources.empty()) result.firstSource = timeline_.add(std::move(opened.sources));
     } catch (const std::exception& error) {
         result.troubles.emplace_back(error.what());
     }

@@ -25,6 +25,7 @@ struct SourceHome {
 struct OpenedPath {
     std::string path;
     std::size_t sources = 0;
+    std::size_t firstSource = 0;                             ///< the number of the first one
     std::vector<SourceHome> homes;                           ///< of its sources
     std::vector<std::string> troubles;                       ///< sentences of what can't be read
     std::vector<timeline::MacroTraceDefinition> macroTraces; ///< of its trace databases
@@ -35,11 +36,14 @@ struct OpenedPath {
 /// timeline.
 class SourceOpening {
 public:
-    /// Is called with each path once it is open, on the opening's thread.
-    using Opened = std::function<void(OpenedPath)>;
+    /// Are called on the opening's thread: with each path before it is opened, and once it is.
+    struct Told {
+        std::function<void(const std::string&)> before;
+        std::function<void(OpenedPath)> opened;
+    };
 
     /// The timeline outlives it.
-    SourceOpening(SharedTimeline& timeline, Opened opened);
+    SourceOpening(SharedTimeline& timeline, Told told);
     ~SourceOpening();
 
     /// Opens a path of the machine, or standard input for "-", behind those before it.
@@ -54,7 +58,7 @@ private:
     OpenedPath openNow(const std::string& path);
 
     SharedTimeline& timeline_;
-    Opened opened_;
+    Told told_;
     LogOpener opener_;
     timeline::Progress progress_;
     std::mutex asking_; ///< of the paths

@@ -18,6 +18,9 @@ struct View {
     std::uint64_t wish = 0;                ///< the number of the wish that it answers
     bool complete = true;                  ///< whether all rows were asked for what they have
 
+    /// Of the view before with rows that came since: how many places at the top are as they were.
+    std::optional<std::size_t> grownFrom;
+
     std::size_t size() const
     {
         if (!order) return 0;

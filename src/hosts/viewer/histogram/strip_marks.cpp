@@ -22,6 +22,7 @@ StripMarks::StripMarks(Document& document, TimeStrip& strip, Marks& marks, QObje
     connect(&strip_, &TimeStrip::scaleChanged, this, &StripMarks::measure);
     connect(&document_, &Document::viewChanged, this, &StripMarks::measure);
     connect(&document_, &Document::viewChanged, this, &StripMarks::showFlags);
+    connect(&document_, &Document::rowsCame, this, &StripMarks::grow);
     connect(&document_, &Document::hitsChanged, this, &StripMarks::showHits);
     connect(&marks_, &Marks::changed, this, &StripMarks::showFlags);
 }
@@ -33,6 +34,19 @@ void StripMarks::measure()
 {
     scale_ = {};
     showHits();
+    findScale();
+}
+
+/// Rows came behind the others, whose places are as they were: the scale is good until it is
+/// measured again.
+void StripMarks::grow()
+{
+    if (scale_.view) scale_.view = document_.sharedView();
+    findScale();
+}
+
+void StripMarks::findScale()
+{
     const auto view = document_.sharedView();
     if (!strip_.span() || !view->order) return;
     std::vector<timeline::Moment> begins;

@@ -33,6 +33,8 @@ private:
     };
 
     void measure();
+    void grow();
+    void findScale();
     void showHits();
     void showFlags();
     static Scale scaleOf(SharedTimeline& timeline, std::shared_ptr<const View> view,

@@ -14,6 +14,15 @@ RowModel::RowModel(Document& document, QObject* parent)
     // The rows of before are gone: whoever holds on to some finds them again by what they are.
     connect(&document_, &Document::viewAboutToChange, this, &RowModel::beginResetModel);
     connect(&document_, &Document::viewChanged, this, &RowModel::endResetModel);
+    connect(&document_, &Document::rowsAboutToCome, this, [this](std::size_t count) {
+        const int rows = rowCount();
+        const std::size_t room = std::numeric_limits<int>::max() - static_cast<std::size_t>(rows);
+        comes_ = count <= room;
+        if (comes_) beginInsertRows({}, rows, rows + static_cast<int>(count) - 1);
+    });
+    connect(&document_, &Document::rowsCame, this, [this] {
+        if (comes_) endInsertRows();
+    });
 }
 
 void RowModel::setTimeForm(TimeForm form)

@@ -52,6 +52,7 @@ private:
 
     Document& document_;
     Remark remark_;
+    bool comes_ = false; ///< whether views are being told of rows behind the last one
     TimeForm timeForm_ = TimeForm::clock;
     std::optional<timeline::Moment> mark_;
 };

@@ -184,6 +184,24 @@ void RowTable::goTo(std::size_t place)
     if (place < first || place >= first + rowsInSight()) scrollTo(row, PositionAtCenter);
 }
 
+void RowTable::scrollToEnd()
+{
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+bool RowTable::isAtEnd() const
+{
+    return verticalScrollBar()->value() == verticalScrollBar()->maximum();
+}
+
+/// Rows come behind the last one alone.
+void RowTable::rowsInserted(const QModelIndex& parent, int first, int last)
+{
+    QAbstractItemView::rowsInserted(parent, first, last);
+    updateGeometries();
+    viewport()->update();
+}
+
 /// Notes what stays through a change: the current row where it stands in sight, or else the row at
 /// the top.
 void RowTable::hold()

@@ -57,6 +57,10 @@ public:
     /// The places of the selected rows from the top, at most so many of them.
     std::vector<std::size_t> selectedPlaces(std::size_t most) const;
 
+    /// Brings the last rows in sight; whether the last one is.
+    void scrollToEnd();
+    bool isAtEnd() const;
+
     /// The first row in sight, and how many stand there whole.
     std::size_t firstInSight() const;
     std::size_t rowsInSight() const;
@@ -91,6 +95,7 @@ protected:
     void changeEvent(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void rowsInserted(const QModelIndex& parent, int first, int last) override;
 
 private:
     /// A row that is kept through a change of what is on show.

@@ -58,6 +58,7 @@ enum class Command {
     calls,
     thisCall,
     otherPane,
+    follow,
     clockTimes,
     timesSinceRowBefore,
     timesSinceMark,

@@ -9,6 +9,7 @@
 #include "hosts/viewer/facets/facet_pane.h"
 #include "hosts/viewer/files/row_export.h"
 #include "hosts/viewer/find/find_bar.h"
+#include "hosts/viewer/follow/follow_bar.h"
 #include "hosts/viewer/histogram/strip_marks.h"
 #include "hosts/viewer/histogram/time_strip.h"
 #include "hosts/viewer/marks/mark_list.h"
@@ -119,7 +120,9 @@ void MainWindow::makePanes()
     rows->addWidget(times_);
     rows->addWidget(filterBar_);
     rows->addWidget(findBar_);
+    followBar_ = new FollowBar(document_, *table_, right);
     rows->addWidget(rowsAndDetails_, 1);
+    rows->addWidget(followBar_);
     splitter_->addWidget(facets_);
     splitter_->addWidget(right);
     splitter_->setStretchFactor(1, 1);
@@ -155,6 +158,7 @@ void MainWindow::connectParts()
     connect(&document_, &Document::noted, this,
             [this](const QString& sentence) { statusBar()->showMessage(sentence, 8000); });
     connect(&document_, &Document::filterChanged, this, &MainWindow::updateActions);
+    connectFollowing();
     connect(table_, &RowTable::currentPlaceChanged, this, &MainWindow::currentChanged);
     connect(findBar_, &FindBar::next, this, [this] { goToHit(Direction::down); });
     connect(findBar_, &FindBar::previous, this, [this] { goToHit(Direction::up); });
@@ -230,6 +234,7 @@ void MainWindow::updateStatus()
                            locale.toString(static_cast<qulonglong>(document_.allRows())));
     if (const auto place = table_->currentPlace(); place && document_.rowCount() > 0)
         text += tr(", row %1").arg(locale.toString(static_cast<qulonglong>(*place) + 1));
+    if (document_.follows()) text += tr(", following");
     status_->setText(text);
     times_->setCurrent(currentMoment());
     progress_->setVisible(state.busy);
@@ -256,6 +261,8 @@ void MainWindow::updateActions()
     action(Command::allTimes).setEnabled(document_.filter().since || document_.filter().until);
     action(Command::values).setChecked(!facets_->isHidden());
     action(Command::details).setChecked(!details_->isHidden());
+    action(Command::follow).setEnabled(document_.hasSources());
+    action(Command::follow).setChecked(document_.follows());
     action(Command::exportRows).setEnabled(rows && export_ == nullptr);
     action(Command::copyValue).setEnabled(current && !details_->isHidden());
     for (QAction* made : menus_[CommandMenu::go]->actions()) made->setEnabled(rows);

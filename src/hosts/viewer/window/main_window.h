@@ -31,6 +31,7 @@ class DetailsPane;
 class FacetPane;
 class FilterBar;
 class FindBar;
+class FollowBar;
 class MarkList;
 class Marks;
 class StripMarks;
@@ -55,6 +56,7 @@ public:
     FindBar& findBar() { return *findBar_; }
     DetailsPane& details() { return *details_; }
     FilterBar& filterBar() { return *filterBar_; }
+    FollowBar& followBar() { return *followBar_; }
     TimeStrip& timeStrip() { return *times_; }
     Marks& marks() { return *marks_; }
     MarkList& markList() { return *markList_; }
@@ -98,6 +100,7 @@ private:
     void makeStatusBar();
     void connectParts();
     void connectCalls();
+    void connectFollowing();
     void perform(Command command);
     void performGo(Command command);
     void performFilter(Command command);
@@ -155,6 +158,7 @@ private:
     FilterBar* filterBar_ = nullptr;
     FindBar* findBar_ = nullptr;
     DetailsPane* details_ = nullptr;
+    FollowBar* followBar_ = nullptr;
     Highlights* highlights_ = nullptr;
     RowExport* export_ = nullptr; ///< that is being written; null for none
     TimeStrip* times_ = nullptr;

@@ -129,6 +129,8 @@ void MainWindow::perform(Command command)
         return QApplication::clipboard()->setText(details_->value());
     case Command::selectAll:
         return table_->selectAll();
+    case Command::follow:
+        return document_.follow(!document_.follows());
     case Command::columns:
         return offerColumns();
     case Command::largerText:

@@ -28,6 +28,7 @@ void declare(QCommandLineParser& parser)
     parser.addOptions({
         {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help.")},
         {{QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Show the version.")},
+        {QStringLiteral("follow"), QStringLiteral("Show what comes to logs as they grow.")},
         option("db", "A trace database to open.", "DATABASE"),
         option("theme", "Look: system, light or dark.", "NAME"),
         option("size", "Size of the window, such as 1280x760.", "WIDTHxHEIGHT"),
@@ -56,6 +57,7 @@ std::variant<ViewerOptions, NoWindow> viewerOptionsOf(const QStringList& argumen
     options.sources = parser.values(QStringLiteral("db")) + parser.positionalArguments();
     if (options.sources.contains(QString()))
         return refused(QStringLiteral("an empty name leads to no source"));
+    options.follow = parser.isSet(QStringLiteral("follow"));
     options.theme = parser.value(QStringLiteral("theme"));
     options.screenshot = parser.value(QStringLiteral("screenshot"));
     if (parser.isSet(QStringLiteral("theme")) && !windowStart::isTheme(options.theme))

@@ -17,6 +17,7 @@ struct ViewerOptions {
     QString theme;       ///< "system", "light" or "dark"
     QString screenshot;  ///< a file for a picture of the window, after which the program ends
     std::optional<QSize> size;
+    bool follow = false; ///< whether logs are followed from the beginning
 };
 
 /// Reads a command line, the program's name first. Needs an application object of any kind.

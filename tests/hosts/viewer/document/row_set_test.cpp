@@ -68,6 +68,25 @@ TEST(RowSet, FindsMembersAndTheirPlacesAtEveryBorder)
     }
 }
 
+TEST(RowSet, GoesOnBehindWhatItKeepsOfItsRows)
+{
+    for (const std::size_t kept : {0, 1, 63, 64, 65, 511, 512, 513, 900}) {
+        SCOPED_TRACE(kept);
+        RowSet set;
+        Told told;
+        for (std::size_t row = 0; row < 1200; ++row) {
+            set.append(row % 3 == 0);
+            if (row < kept) told.tell(row % 3 == 0, 1);
+        }
+        set.truncate(kept);
+        EXPECT_EQ(told.set.count(), set.count());
+        told.tell(true, 600);
+        set.append(true, 600);
+        told.set = set;
+        expectSame(told);
+    }
+}
+
 TEST(RowSet, TakesWholeWordsAndBlocks)
 {
     Told told;

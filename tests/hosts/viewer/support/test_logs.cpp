@@ -1,5 +1,7 @@
 #include "hosts/viewer/support/test_logs.h"
 
+#include "platform/event_log_exporter.h"
+
 #include <QCoreApplication>
 #include <QElapsedTimer>
 
@@ -30,6 +32,13 @@ QString TestLogs::writeRows(const std::string& process, std::size_t rows, int fi
         lines += rawLine(first + static_cast<int>(row) * apart, "CallFlow", row % 20 == 0 ? 0 : 3,
                          "row " + std::to_string(row));
     return write(process, lines);
+}
+
+QString TestLogs::writeEvents()
+{
+    return QString::fromStdString(folder_.write(
+        "Application.csv",
+        std::string(eventLogCsvHeader) + "2025-02-20 15:23:07,Error,Disk,7,SERVER,it failed\r\n"));
 }
 
 bool waitForRows(Document& document, int milliseconds)

@@ -20,6 +20,9 @@ public:
     /// after midnight on. The level of each twentieth is 0, their traces are "row 0", "row 1", ...
     QString writeRows(const std::string& process, std::size_t rows, int first, int apart);
 
+    /// Writes an event log as it is exported, with an event, and gives its path.
+    QString writeEvents();
+
     QString folder() const { return QString::fromStdString(folder_.path()); }
     const TemporaryFolder& files() const { return folder_; }
 
