@@ -101,11 +101,15 @@ std::vector<Key> keysOf(const std::vector<Call>& calls, CallColumn column)
     return keys;
 }
 
-/// What decides where keys are the same: negative, 0 or positive.
-int compareTexts(const Call& one, const Call& other, CallColumn column)
+/// What decides where calls have the same key: negative, 0 or positive.
+int compareTexts(const Call& one, const Call& other, CallColumn column, Key key)
 {
     if (column == CallColumn::id) return one.id.compare(other.id);
-    if (column != CallColumn::processes || one.processes == other.processes) return 0;
+    if (column != CallColumn::processes) return 0;
+    // A key that tells of all processes says that they are the same.
+    const bool toldByKey =
+        key != 0 && one.processes.size() <= bytesOfKey && other.processes.size() <= bytesOfKey;
+    if (toldByKey || one.processes == other.processes) return 0;
     return one.processes < other.processes ? -1 : 1;
 }
 
@@ -129,7 +133,7 @@ std::vector<std::uint32_t> orderOf(const std::vector<Call>& calls, CallColumn co
         placed[place] = {keys[place], place};
     std::sort(placed.begin(), placed.end(), [&](const Placed& one, const Placed& other) {
         if (one.key != other.key) return (one.key < other.key) != descending;
-        const int texts = compareTexts(calls[one.place], calls[other.place], column);
+        const int texts = compareTexts(calls[one.place], calls[other.place], column, one.key);
         if (texts != 0) return (texts < 0) != descending;
         return one.place < other.place;
     });
