@@ -141,7 +141,9 @@ NotesFile::Result NotesFile::write(const std::vector<NoteEdit>& edits) const
                                     .arg(edit.after.row.line)
                                     .arg(edit.after.row.source);
     std::string why;
-    if (!writeBeside(result.notes, beside.state, result.sentences, why))
+    if (writeBeside(result.notes, beside.state, result.sentences, why))
+        endOwn(own.state, result.sentences);
+    else
         writeOwn(result.notes, beside, own.state, why, result.sentences);
     return result;
 }
@@ -164,13 +166,22 @@ bool NotesFile::writeBeside(const Notes& notes, State before, QStringList& sente
         why = error.description();
         return false;
     }
-    try {
-        const RootFolder folder(ownFolder_);
-        if (folder.isFile(lastNameOf(own_))) folder.removeFile(lastNameOf(own_));
-    } catch (const RunTimeError&) {
-        return true; // there are none of the user's own
-    }
     return true;
+}
+
+/// Takes the user's own notes away, as they lie beside the log now. Those of a file that could not
+/// be read do not: a damaged one is put aside, any other stays.
+void NotesFile::endOwn(State before, QStringList& sentences) const
+{
+    try {
+        if (before == State::sound)
+            RootFolder(ownFolder_).removeFile(lastNameOf(own_));
+        else if (before == State::damaged)
+            putAside(own_, sentences);
+    } catch (const RunTimeError& error) {
+        sentences << tr("The notes in %1 stay there, though those beside the log go on: %2")
+                         .arg(text(own_), text(error.description()));
+    }
 }
 
 /// Writes what differs from what lies beside the log, notes that are gone as empty ones.

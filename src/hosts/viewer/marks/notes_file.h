@@ -58,6 +58,7 @@ private:
     static void tell(const std::string& path, const OneFile& file, QStringList& sentences);
     bool writeBeside(const Notes& notes, State before, QStringList& sentences,
                      std::string& why) const;
+    void endOwn(State before, QStringList& sentences) const;
     void writeOwn(const Notes& notes, const OneFile& beside, State before, const std::string& why,
                   QStringList& sentences) const;
     void writeOne(const std::string& path, const Notes& notes) const;

@@ -26,6 +26,11 @@ protected:
         return all;
     }
 
+    static std::string nameOf(const std::string& path)
+    {
+        return std::filesystem::path(path).filename().string();
+    }
+
     std::vector<std::string> texts() const { return texts(notes.read().notes); }
 
     TemporaryFolder folder;
@@ -136,6 +141,41 @@ TEST_F(NotesOfAFile, AreTheUsersOwnWhereNothingCanBeWrittenBesideIt)
     notes.write({back});
     EXPECT_FALSE(std::filesystem::exists(notes.own())) << "they go beside the log once they can";
     EXPECT_EQ((Texts{"beside", "own"}), texts());
+}
+
+TEST_F(NotesOfAFile, OfTheUserThatWereNotReadAreNotTakenAwayByAChangeBesideIt)
+{
+    const std::string newer = R"({"format": "orvandiag notes", "version": 9})";
+    folder.write("own/notes/" + nameOf(notes.own()), newer);
+    EXPECT_TRUE(notes.read().sentences.join(" ").contains("newer viewer"));
+    EXPECT_EQ(Texts{"one"}, texts(notes.write({edit(1, "one")}).notes));
+    EXPECT_EQ(newer, folder.read("own/notes/" + nameOf(notes.own())));
+    EXPECT_TRUE(folder.exists("logs/log.txt.notes.json"));
+
+    const std::string damaged = "{\"format\"";
+    folder.write("own/notes/" + nameOf(notes.own()), damaged);
+    const auto written = notes.write({edit(2, "two")});
+    EXPECT_FALSE(std::filesystem::exists(notes.own()));
+    EXPECT_EQ(damaged, folder.read("own/notes/" + nameOf(notes.own()) + ".broken"));
+    EXPECT_TRUE(written.sentences.join(" ").contains(".broken"));
+    EXPECT_EQ((Texts{"one", "two"}), texts());
+
+    std::filesystem::create_symlink(folder / "elsewhere", notes.own());
+    notes.write({edit(3, "three")});
+    EXPECT_TRUE(std::filesystem::is_symlink(notes.own())) << "one that can't be read stays";
+}
+
+TEST_F(NotesOfAFile, OfTheUserThatCanNotBePutAsideStayAndAreTold)
+{
+    folder.write("own/notes/" + nameOf(notes.own()), "damaged");
+    for (int number = 1; number <= 100; ++number)
+        folder.write("own/notes/" + nameOf(notes.own()) + ".broken" +
+                         (number == 1 ? "" : "-" + std::to_string(number)),
+                     "of before");
+    const auto written = notes.write({edit(1, "one")});
+    EXPECT_EQ("damaged", folder.read("own/notes/" + nameOf(notes.own())));
+    EXPECT_TRUE(written.sentences.join(" ").contains(QString::fromStdString(notes.own())));
+    EXPECT_EQ(Texts{"one"}, texts());
 }
 
 TEST_F(NotesOfAFile, TakenAwayByTheUserAloneStayBesideIt)
