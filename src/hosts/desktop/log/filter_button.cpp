@@ -5,6 +5,7 @@
 #include "hosts/common/look/roomy_delegate.h"
 
 #include <QCheckBox>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QLocale>
 #include <QMenu>
@@ -24,12 +25,9 @@ constexpr int sideMargin = 9;
 constexpr int arrowSide = 9;
 constexpr int arrowRoom = 14;
 
-/// The value that a row of the list stands for, as a person reads it.
-QString shownValue(const QListWidgetItem& item)
-{
-    const QString value = item.data(Qt::UserRole).toString();
-    return value.isEmpty() ? FilterButton::tr("(none)") : value;
-}
+constexpr int mostListed = 500;             ///< values
+constexpr std::size_t manyValues = 12;      ///< that a person may want to look among
+constexpr int indexRole = Qt::UserRole + 1; ///< of a row of the list: which value it stands for
 
 } // namespace
 
@@ -41,12 +39,15 @@ FilterButton::FilterButton(QWidget* parent) : QToolButton(parent)
 
     auto* menu = new QMenu(this);
     auto* panel = new QWidget(menu);
+    search_ = new QLineEdit(panel);
+    search_->setClearButtonEnabled(true);
     list_ = new QListWidget(panel);
     list_->setItemDelegate(new RoomyDelegate(list_));
     exclude_ = new QCheckBox(panel);
     auto* clear = new QPushButton(panel);
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(8, 8, 8, 8);
+    column->addWidget(search_);
     column->addWidget(list_);
     column->addWidget(exclude_);
     column->addWidget(clear);
@@ -55,12 +56,14 @@ FilterButton::FilterButton(QWidget* parent) : QToolButton(parent)
     menu->addAction(action);
     setMenu(menu);
 
-    connect(menu, &QMenu::aboutToShow, list_, [this] { list_->setFocus(); });
-    connect(list_, &QListWidget::itemChanged, this, [this] {
-        if (filling_) return;
-        updateText();
-        emit changed();
+    connect(menu, &QMenu::aboutToShow, list_, [this] {
+        search_->clear();
+        search_->setVisible(values_.size() > manyValues);
+        list_->setFocus();
     });
+    connect(search_, &QLineEdit::textChanged, this, &FilterButton::listValues);
+    connect(list_, &QListWidget::itemChanged, this,
+            [this](const QListWidgetItem* item) { takeTick(*item); });
     connect(exclude_, &QCheckBox::toggled, this, [this] {
         if (filling_) return;
         updateText();
@@ -73,7 +76,9 @@ FilterButton::FilterButton(QWidget* parent) : QToolButton(parent)
     showInLanguage(this, [this, clear] {
         exclude_->setText(tr("&Hide the ticked ones"));
         clear->setText(tr("&Untick all"));
-        showValues();
+        search_->setPlaceholderText(tr("Values with this text"));
+        search_->setAccessibleName(tr("Look among the values"));
+        listValues();
         updateText();
     });
 }
@@ -81,28 +86,33 @@ FilterButton::FilterButton(QWidget* parent) : QToolButton(parent)
 void FilterButton::offer(const QString& title, int column, const std::vector<ColumnValue>& values,
                          const TextDecoder& decoder)
 {
-    const ColumnCondition kept = column == column_ ? condition() : ColumnCondition{};
-    const auto isKept = [&](const ColumnValue& value) {
-        return std::find(kept.values.begin(), kept.values.end(), value.text) != kept.values.end();
-    };
-    filling_ = true;
+    const ColumnCondition kept =
+        column == column_ ? condition() : ColumnCondition{column, {}, false};
     column_ = column;
-    values_ = values;
-    for (const auto& text : kept.values) {
-        const auto same = [&](const ColumnValue& value) { return value.text == text; };
-        if (std::none_of(values.begin(), values.end(), same)) values_.push_back({text, 0});
-    }
-    list_->clear();
-    for (const auto& value : values_) {
-        auto* item = new QListWidgetItem(list_);
-        item->setData(Qt::UserRole, decoder.text(value.text));
-        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-        item->setCheckState(isKept(value) ? Qt::Checked : Qt::Unchecked);
-    }
-    exclude_->setChecked(kept.exclude);
-    filling_ = false;
-    showValues();
+    values_.clear();
+    for (const ColumnValue& value : values)
+        values_.push_back({value, decoder.text(value.text), false});
+    setCondition(kept, decoder);
     setTitle(title);
+}
+
+void FilterButton::setCondition(const ColumnCondition& condition, const TextDecoder& decoder)
+{
+    for (Offered& offered : values_) offered.ticked = false;
+    for (const std::string& wanted : condition.values) {
+        const auto found =
+            std::find_if(values_.begin(), values_.end(),
+                         [&](const Offered& offered) { return offered.value.text == wanted; });
+        if (found != values_.end())
+            found->ticked = true;
+        else
+            values_.push_back({{wanted, 0}, decoder.text(wanted), true});
+    }
+    filling_ = true;
+    exclude_->setChecked(condition.exclude);
+    filling_ = false;
+    listValues();
+    updateText();
 }
 
 void FilterButton::setTitle(const QString& title)
@@ -112,48 +122,77 @@ void FilterButton::setTitle(const QString& title)
     updateText();
 }
 
-void FilterButton::showValues()
+/// Those that are ticked, and the first of the others, as far as they have the text that is typed.
+void FilterButton::listValues()
 {
     filling_ = true;
-    for (int row = 0; row < list_->count(); ++row) {
-        QListWidgetItem* item = list_->item(row);
-        item->setText(QStringLiteral("%1   (%2)")
-                          .arg(shownValue(*item),
-                               QLocale().toString(values_[static_cast<std::size_t>(row)].rows)));
+    list_->clear();
+    const QString wanted = search_->text();
+    int more = 0;
+    for (std::size_t index = 0; index < values_.size(); ++index) {
+        const Offered& offered = values_[index];
+        if (!offered.text.contains(wanted, Qt::CaseInsensitive)) continue;
+        if (list_->count() >= mostListed && !offered.ticked) {
+            ++more;
+            continue;
+        }
+        const QString shown = offered.text.isEmpty() ? tr("(none)") : offered.text;
+        auto* item = new QListWidgetItem(list_);
+        item->setText(
+            QStringLiteral("%1   (%2)").arg(shown, QLocale().toString(offered.value.rows)));
+        item->setData(Qt::UserRole, offered.text);
+        item->setData(indexRole, static_cast<qulonglong>(index));
+        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+        item->setCheckState(offered.ticked ? Qt::Checked : Qt::Unchecked);
+    }
+    if (more > 0) {
+        auto* rest = new QListWidgetItem(
+            tr("%1 more: type to look among them").arg(QLocale().toString(more)), list_);
+        rest->setFlags(Qt::NoItemFlags);
     }
     filling_ = false;
+}
+
+void FilterButton::takeTick(const QListWidgetItem& item)
+{
+    if (filling_) return;
+    values_[item.data(indexRole).toULongLong()].ticked = item.checkState() == Qt::Checked;
+    updateText();
+    emit changed();
 }
 
 ColumnCondition FilterButton::condition() const
 {
     ColumnCondition condition{column_, {}, exclude_->isChecked()};
-    for (int row = 0; row < list_->count(); ++row)
-        if (list_->item(row)->checkState() == Qt::Checked)
-            condition.values.push_back(values_[static_cast<std::size_t>(row)].text);
+    for (const Offered& offered : values_)
+        if (offered.ticked) condition.values.push_back(offered.value.text);
     return condition;
 }
 
 void FilterButton::tick(const std::string& value, bool exclude)
 {
-    const auto found = std::find_if(values_.begin(), values_.end(),
-                                    [&](const auto& offered) { return offered.text == value; });
+    const auto found = std::find_if(values_.begin(), values_.end(), [&](const Offered& offered) {
+        return offered.value.text == value;
+    });
     if (found == values_.end()) return;
     const bool turns = exclude != exclude_->isChecked();
     if (turns) reset();
     filling_ = true;
     exclude_->setChecked(exclude);
-    list_->item(static_cast<int>(found - values_.begin()))->setCheckState(Qt::Checked);
     filling_ = false;
+    found->ticked = true;
+    listValues();
     updateText();
     emit changed();
 }
 
 void FilterButton::reset()
 {
+    for (Offered& offered : values_) offered.ticked = false;
     filling_ = true;
-    for (int row = 0; row < list_->count(); ++row) list_->item(row)->setCheckState(Qt::Unchecked);
     exclude_->setChecked(false);
     filling_ = false;
+    listValues();
     updateText();
 }
 
@@ -181,8 +220,8 @@ void FilterButton::paintEvent(QPaintEvent*)
 void FilterButton::updateText()
 {
     QStringList ticked;
-    for (int row = 0; row < list_->count(); ++row)
-        if (list_->item(row)->checkState() == Qt::Checked) ticked << shownValue(*list_->item(row));
+    for (const Offered& offered : values_)
+        if (offered.ticked) ticked << (offered.text.isEmpty() ? tr("(none)") : offered.text);
     QString shown = tr("all");
     if (ticked.size() == 1) shown = ticked.front();
     if (ticked.size() > 1)

@@ -6,11 +6,14 @@
 #include <QToolButton>
 
 class QCheckBox;
+class QLineEdit;
 class QListWidget;
+class QListWidgetItem;
 
 namespace desktop {
 
-/// Opens a list of a column's values, to show or to hide those that are ticked.
+/// Opens a list of a column's values, to show or to hide those that are ticked. Of many values it
+/// lists the ones of most rows, and those with what the person types.
 class FilterButton final : public QToolButton {
     Q_OBJECT
 
@@ -26,6 +29,9 @@ public:
     void setTitle(const QString& title);
 
     int column() const { return column_; }
+
+    /// Ticks these and no others; those that no row has too.
+    void setCondition(const ColumnCondition& condition, const TextDecoder& decoder);
     ColumnCondition condition() const;
 
     /// Ticks a value beside those that are; turns to showing or to hiding.
@@ -43,12 +49,20 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    struct Offered {
+        ColumnValue value;
+        QString text; ///< as a person reads it
+        bool ticked = false;
+    };
+
     void updateText();
-    void showValues();
+    void listValues();
+    void takeTick(const QListWidgetItem& item);
 
     QString title_;
     int column_ = 0;
-    std::vector<ColumnValue> values_; ///< of the list, in its order
+    std::vector<Offered> values_; ///< those of most rows first
+    QLineEdit* search_ = nullptr;
     QListWidget* list_ = nullptr;
     QCheckBox* exclude_ = nullptr;
     bool filling_ = false;

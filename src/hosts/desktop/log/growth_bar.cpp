@@ -26,7 +26,7 @@ GrowthBar::GrowthBar(QWidget* parent)
     connect(follow_, &QCheckBox::toggled, this, &GrowthBar::followed);
     showInLanguage(this, [this] {
         text_->setAccessibleName(tr("New lines"));
-        read_->setText(tr("Read &Again"));
+        read_->setText(tr("Read A&gain"));
         read_->setToolTip(tr("Read the log again, to its present end (F5)"));
         viewer_->setText(tr("Open in Vie&wer"));
         viewer_->setToolTip(tr("Open this log in the viewer, which shows logs of any size"));

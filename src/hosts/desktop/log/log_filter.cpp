@@ -1,8 +1,10 @@
 #include "hosts/desktop/log/log_filter.h"
 
 #include "console/list_view.h"
+#include "runtime/text.h"
 
 #include <algorithm>
+#include <charconv>
 #include <numeric>
 #include <string_view>
 #include <unordered_map>
@@ -20,6 +22,20 @@ bool passes(ListItem row, const ColumnCondition& condition)
     return named != condition.exclude;
 }
 
+bool isTraced(ListItem row, const LogColumns& columns,
+              const std::vector<timeline::ComponentLevels>& macroTrace)
+{
+    const std::string_view component = row.subItem(columns.component);
+    const std::string_view text = row.subItem(columns.level);
+    int level = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), level);
+    if (component.empty() || read.ec != std::errc()) return false;
+    return std::any_of(macroTrace.begin(), macroTrace.end(), [&](const auto& traced) {
+        return equalIgnoringCase(traced.component, component) &&
+               std::find(traced.levels.begin(), traced.levels.end(), level) != traced.levels.end();
+    });
+}
+
 bool holds(ListItem row, const TextMatcher& matcher)
 {
     for (int column = 2; column <= row.subItemCount(); ++column)
@@ -31,9 +47,11 @@ bool holds(ListItem row, const TextMatcher& matcher)
 
 bool LogFilter::passesAll() const
 {
-    return text.empty() && std::all_of(columns.begin(), columns.end(), [](const auto& condition) {
-               return condition.values.empty();
-           });
+    const auto empty = [](const TextRule& rule) { return rule.text.empty(); };
+    return text.empty() && !macroTrace &&
+           std::all_of(furtherTexts.begin(), furtherTexts.end(), empty) &&
+           std::all_of(columns.begin(), columns.end(),
+                       [](const auto& condition) { return condition.values.empty(); });
 }
 
 std::vector<std::uint32_t> LogFilter::positions(ListView& list) const
@@ -45,12 +63,19 @@ std::vector<std::uint32_t> LogFilter::positions(ListView& list) const
         std::iota(passing.begin(), passing.end(), 1U);
         return passing;
     }
+    const LogColumns fields = LogColumns::of(list);
     for (std::uint32_t position = 1; position <= count; ++position) {
         const ListItem row = list.shown(static_cast<int>(position));
         const bool wanted = std::all_of(columns.begin(), columns.end(), [&](const auto& condition) {
             return passes(row, condition);
         });
-        if (wanted && (text.empty() || holds(row, text) != excludeText))
+        if (!wanted || (macroTrace && !isTraced(row, fields, *macroTrace))) continue;
+        const auto fits = [&](const TextMatcher& matcher, bool exclude) {
+            return matcher.empty() || holds(row, matcher) != exclude;
+        };
+        if (fits(text, excludeText) &&
+            std::all_of(furtherTexts.begin(), furtherTexts.end(),
+                        [&](const TextRule& rule) { return fits(rule.text, rule.exclude); }))
             passing.push_back(position);
     }
     return passing;

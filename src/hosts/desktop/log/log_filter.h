@@ -1,8 +1,11 @@
 #pragma once
 
+#include "hosts/desktop/log/log_columns.h"
 #include "hosts/desktop/log/text_matcher.h"
+#include "timeline/filter/filter.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,9 +20,20 @@ struct ColumnCondition {
     bool exclude = false;            ///< hide rows with one of the values, instead of showing them
 };
 
-/// Which rows of a log are on show: each condition must hold, and the text too.
+/// A text that rows have in any column but the number, or in the note, or that they have not. An
+/// empty one lets every row pass.
+struct TextRule {
+    TextMatcher text;
+    bool exclude = false;
+};
+
+/// Which rows of a log are on show: each condition must hold, and the texts too.
 struct LogFilter {
     std::vector<ColumnCondition> columns;
+    std::vector<TextRule> furtherTexts;
+
+    /// The components and levels of a macro trace: rows of others are hidden.
+    std::optional<std::vector<timeline::ComponentLevels>> macroTrace;
     TextMatcher text; ///< in any column but the number, or in the note; an empty one lets every row
                       ///< pass
     bool excludeText = false;

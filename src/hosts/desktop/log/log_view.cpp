@@ -46,7 +46,7 @@ int numberIn(std::string_view text)
 LogView::LogView(const CodePage& codePage, QSettings& settings, QWidget* parent)
     : QWidget(parent), codePage_(codePage), settings_(settings), model_(codePage)
 {
-    filterBar_ = new FilterBar(this);
+    filterBar_ = new FilterBar(codePage_, this);
     findBar_ = new FindBar(marks_, this);
     splitter_ = new QSplitter(Qt::Vertical, this);
     makeLines();
@@ -110,6 +110,7 @@ void LogView::connectParts()
     });
     connect(table_, &QWidget::customContextMenuRequested, this, &LogView::offerRowMenu);
     connect(overview_, &OverviewStrip::rowAsked, table_, &ListTable::goTo);
+    connect(filterBar_, &FilterBar::said, this, &LogView::said);
     connect(filterBar_, &FilterBar::changed, this, &LogView::filterChanged);
     connect(filterBar_, &FilterBar::closed, this, [this] {
         filterBar_->hide();
@@ -158,6 +159,7 @@ void LogView::leave()
 {
     bookmarks_.reset();
     growth_.watch({}, 0);
+    filterBar_->leave();
     model_.leave();
     details_->show(model_, -1);
 }

@@ -50,7 +50,7 @@ void TooLargePane::showTexts()
            "any size.")
             .arg(locale.toString(size_),
                  locale.toString(static_cast<qint64>(mdlSnapIn::largestShownLog))));
-    viewer_->setText(tr("Open in &Viewer"));
+    viewer_->setText(tr("Open in Vie&wer"));
 }
 
 } // namespace desktop

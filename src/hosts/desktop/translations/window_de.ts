@@ -311,6 +311,81 @@
         <source>Open this log in the viewer, which shows logs of any size</source>
         <translation>Dieses Log im Viewer öffnen, der Logs jeder Größe zeigt</translation>
     </message>
+    <message>
+        <source>Filter by &amp;Column...</source>
+        <translation>Nach &amp;Spalte filtern...</translation>
+    </message>
+    <message>
+        <source>Show or hide lines by the values of a further column</source>
+        <translation>Zeilen nach den Werten einer weiteren Spalte zeigen oder ausblenden</translation>
+    </message>
+    <message>
+        <source>Saved Fil&amp;ters...</source>
+        <translation>Gespeicherte Fil&amp;ter...</translation>
+    </message>
+    <message>
+        <source>Take a filter that was saved by a name, here or in the viewer</source>
+        <translation>Einen Filter nehmen, der hier oder im Viewer unter einem Namen gespeichert wurde</translation>
+    </message>
+    <message>
+        <source>&amp;Save Filter...</source>
+        <translation>Filter s&amp;peichern...</translation>
+    </message>
+    <message>
+        <source>Save the filter by a name, in a file that others can open</source>
+        <translation>Den Filter unter einem Namen in einer Datei speichern, die andere öffnen können</translation>
+    </message>
+    <message>
+        <source>O&amp;pen Filter File...</source>
+        <translation>Filterdatei öff&amp;nen...</translation>
+    </message>
+    <message>
+        <source>Take a filter from a file that somebody gave</source>
+        <translation>Einen Filter aus einer Datei nehmen, die jemand gegeben hat</translation>
+    </message>
+</context>
+<context>
+    <name>FilterFiles</name>
+    <message>
+        <source>No filter was saved yet</source>
+        <translation>Noch kein Filter wurde gespeichert</translation>
+    </message>
+    <message>
+        <source>Save Filter</source>
+        <translation>Filter speichern</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Open Filter File</source>
+        <translation>Filterdatei öffnen</translation>
+    </message>
+    <message>
+        <source>Filters (*.json)</source>
+        <translation>Filter (*.json)</translation>
+    </message>
+    <message>
+        <source>Saved as %1, without the values of times and traces.</source>
+        <translation>Als %1 gespeichert, ohne die Werte von Zeiten und Traces.</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Als %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>The filter was not saved: %1.</source>
+        <translation>Der Filter wurde nicht gespeichert: %1.</translation>
+    </message>
+    <message>
+        <source>The filter&apos;s times and processes hold in the viewer, not in a single log.</source>
+        <translation>Zeiten und Prozesse des Filters gelten im Viewer, nicht in einem einzelnen Log.</translation>
+    </message>
+    <message>
+        <source>The filter was not taken: %1.</source>
+        <translation>Der Filter wurde nicht genommen: %1.</translation>
+    </message>
 </context>
 <context>
     <name>FrameNeeds</name>
@@ -713,6 +788,38 @@
         <source>%1 of %2 rows</source>
         <translation>%1 von %2 Zeilen</translation>
     </message>
+    <message>
+        <source>Take the text for a regular expression</source>
+        <translation>Den Text als regulären Ausdruck verstehen</translation>
+    </message>
+    <message>
+        <source>Aa</source>
+        <translation>Aa</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Groß- und Kleinschreibung beachten</translation>
+    </message>
+    <message>
+        <source>Filter by a further column (Ctrl+Alt+F)</source>
+        <translation>Nach einer weiteren Spalte filtern (Strg+Alt+F)</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>not %1</source>
+        <translation>nicht %1</translation>
+    </message>
+    <message>
+        <source>Let go: %1</source>
+        <translation>Aufheben: %1</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation>Ausdruck</translation>
+    </message>
 </context>
 <context>
     <name>desktop::FilterButton</name>
@@ -751,6 +858,18 @@
     <message>
         <source>Show or hide rows by %1</source>
         <translation>Zeilen nach %1 ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>Values with this text</source>
+        <translation>Werte mit diesem Text</translation>
+    </message>
+    <message>
+        <source>Look among the values</source>
+        <translation>Unter den Werten suchen</translation>
+    </message>
+    <message>
+        <source>%1 more: type to look among them</source>
+        <translation>%1 weitere: tippen, um unter ihnen zu suchen</translation>
     </message>
 </context>
 <context>
@@ -809,7 +928,7 @@
     </message>
     <message>
         <source>Ex&amp;pression</source>
-        <translation>Aus&amp;druck</translation>
+        <translation>Ausdr&amp;uck</translation>
     </message>
     <message>
         <source>Take the text for a regular expression</source>
@@ -847,10 +966,6 @@
         <translation>Neue Zeilen</translation>
     </message>
     <message>
-        <source>Read &amp;Again</source>
-        <translation>Neu &amp;lesen</translation>
-    </message>
-    <message>
         <source>Read the log again, to its present end (F5)</source>
         <translation>Das Log bis zu seinem jetzigen Ende neu lesen (F5)</translation>
     </message>
@@ -869,6 +984,10 @@
     <message>
         <source>Show lines as they come, while the last line is the current one</source>
         <translation>Zeilen zeigen, sobald sie kommen, solange die letzte Zeile die aktuelle ist</translation>
+    </message>
+    <message>
+        <source>Read A&amp;gain</source>
+        <translation>Neu le&amp;sen</translation>
     </message>
 </context>
 <context>
@@ -1316,8 +1435,8 @@
         <translation>Dieses Log hat %1 Bytes, und das Werkzeug zeigt Logs bis %2. Der Viewer zeigt Logs jeder Größe.</translation>
     </message>
     <message>
-        <source>Open in &amp;Viewer</source>
-        <translation>Im &amp;Viewer öffnen</translation>
+        <source>Open in Vie&amp;wer</source>
+        <translation>Im Vie&amp;wer öffnen</translation>
     </message>
 </context>
 </TS>

@@ -311,6 +311,81 @@
         <source>Open this log in the viewer, which shows logs of any size</source>
         <translation>Abrir este registro en el visor, que muestra registros de cualquier tamaño</translation>
     </message>
+    <message>
+        <source>Filter by &amp;Column...</source>
+        <translation>Filtrar por &amp;columna...</translation>
+    </message>
+    <message>
+        <source>Show or hide lines by the values of a further column</source>
+        <translation>Mostrar u ocultar líneas según los valores de otra columna</translation>
+    </message>
+    <message>
+        <source>Saved Fil&amp;ters...</source>
+        <translation>Filtros &amp;guardados...</translation>
+    </message>
+    <message>
+        <source>Take a filter that was saved by a name, here or in the viewer</source>
+        <translation>Tomar un filtro guardado con un nombre, aquí o en el visor</translation>
+    </message>
+    <message>
+        <source>&amp;Save Filter...</source>
+        <translation>Guardar f&amp;iltro...</translation>
+    </message>
+    <message>
+        <source>Save the filter by a name, in a file that others can open</source>
+        <translation>Guardar el filtro con un nombre, en un archivo que otros pueden abrir</translation>
+    </message>
+    <message>
+        <source>O&amp;pen Filter File...</source>
+        <translation>A&amp;brir archivo de filtro...</translation>
+    </message>
+    <message>
+        <source>Take a filter from a file that somebody gave</source>
+        <translation>Tomar un filtro de un archivo que alguien dio</translation>
+    </message>
+</context>
+<context>
+    <name>FilterFiles</name>
+    <message>
+        <source>No filter was saved yet</source>
+        <translation>Aún no se ha guardado ningún filtro</translation>
+    </message>
+    <message>
+        <source>Save Filter</source>
+        <translation>Guardar filtro</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nombre:</translation>
+    </message>
+    <message>
+        <source>Open Filter File</source>
+        <translation>Abrir archivo de filtro</translation>
+    </message>
+    <message>
+        <source>Filters (*.json)</source>
+        <translation>Filtros (*.json)</translation>
+    </message>
+    <message>
+        <source>Saved as %1, without the values of times and traces.</source>
+        <translation>Guardado como %1, sin los valores de horas y trazas.</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Guardado como %1.</translation>
+    </message>
+    <message>
+        <source>The filter was not saved: %1.</source>
+        <translation>El filtro no se guardó: %1.</translation>
+    </message>
+    <message>
+        <source>The filter&apos;s times and processes hold in the viewer, not in a single log.</source>
+        <translation>Las horas y los procesos del filtro valen en el visor, no en un solo registro.</translation>
+    </message>
+    <message>
+        <source>The filter was not taken: %1.</source>
+        <translation>El filtro no se tomó: %1.</translation>
+    </message>
 </context>
 <context>
     <name>FrameNeeds</name>
@@ -713,6 +788,38 @@
         <source>%1 of %2 rows</source>
         <translation>%1 de %2 filas</translation>
     </message>
+    <message>
+        <source>Take the text for a regular expression</source>
+        <translation>Tomar el texto como expresión regular</translation>
+    </message>
+    <message>
+        <source>Aa</source>
+        <translation>Aa</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Distinguir mayúsculas y minúsculas</translation>
+    </message>
+    <message>
+        <source>Filter by a further column (Ctrl+Alt+F)</source>
+        <translation>Filtrar por otra columna (Ctrl+Alt+F)</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
+    </message>
+    <message>
+        <source>not %1</source>
+        <translation>no %1</translation>
+    </message>
+    <message>
+        <source>Let go: %1</source>
+        <translation>Quitar: %1</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation>Expresión</translation>
+    </message>
 </context>
 <context>
     <name>desktop::FilterButton</name>
@@ -751,6 +858,18 @@
     <message>
         <source>Show or hide rows by %1</source>
         <translation>Mostrar u ocultar filas por %1</translation>
+    </message>
+    <message>
+        <source>Values with this text</source>
+        <translation>Valores con este texto</translation>
+    </message>
+    <message>
+        <source>Look among the values</source>
+        <translation>Buscar entre los valores</translation>
+    </message>
+    <message>
+        <source>%1 more: type to look among them</source>
+        <translation>%1 más: escriba para buscar entre ellos</translation>
     </message>
 </context>
 <context>
@@ -847,10 +966,6 @@
         <translation>Líneas nuevas</translation>
     </message>
     <message>
-        <source>Read &amp;Again</source>
-        <translation>&amp;Leer de nuevo</translation>
-    </message>
-    <message>
         <source>Read the log again, to its present end (F5)</source>
         <translation>Leer de nuevo el registro hasta su final actual (F5)</translation>
     </message>
@@ -864,11 +979,15 @@
     </message>
     <message>
         <source>Foll&amp;ow</source>
-        <translation>Segui&amp;r</translation>
+        <translation>Se&amp;guir</translation>
     </message>
     <message>
         <source>Show lines as they come, while the last line is the current one</source>
         <translation>Mostrar las líneas según llegan mientras la última sea la actual</translation>
+    </message>
+    <message>
+        <source>Read A&amp;gain</source>
+        <translation>&amp;Leer de nuevo</translation>
     </message>
 </context>
 <context>
@@ -1316,8 +1435,8 @@
         <translation>Este registro tiene %1 bytes, y la herramienta muestra registros de hasta %2. El visor muestra registros de cualquier tamaño.</translation>
     </message>
     <message>
-        <source>Open in &amp;Viewer</source>
-        <translation>Abrir en el &amp;visor</translation>
+        <source>Open in Vie&amp;wer</source>
+        <translation>Abrir en el vi&amp;sor</translation>
     </message>
 </context>
 </TS>

@@ -269,7 +269,7 @@
     </message>
     <message>
         <source>Next &amp;Warning</source>
-        <translation>Proc&amp;hain avertissement</translation>
+        <translation>Prochain &amp;avertissement</translation>
     </message>
     <message>
         <source>Go to the next line of a warning</source>
@@ -310,6 +310,81 @@
     <message>
         <source>Open this log in the viewer, which shows logs of any size</source>
         <translation>Ouvrir ce journal dans la visionneuse, qui affiche les journaux de toute taille</translation>
+    </message>
+    <message>
+        <source>Filter by &amp;Column...</source>
+        <translation>Filtrer par &amp;colonne...</translation>
+    </message>
+    <message>
+        <source>Show or hide lines by the values of a further column</source>
+        <translation>Afficher ou masquer les lignes selon les valeurs d&apos;une autre colonne</translation>
+    </message>
+    <message>
+        <source>Saved Fil&amp;ters...</source>
+        <translation>Filtres &amp;enregistrés...</translation>
+    </message>
+    <message>
+        <source>Take a filter that was saved by a name, here or in the viewer</source>
+        <translation>Prendre un filtre enregistré sous un nom, ici ou dans la visionneuse</translation>
+    </message>
+    <message>
+        <source>&amp;Save Filter...</source>
+        <translation>Enre&amp;gistrer le filtre...</translation>
+    </message>
+    <message>
+        <source>Save the filter by a name, in a file that others can open</source>
+        <translation>Enregistrer le filtre sous un nom, dans un fichier que d&apos;autres peuvent ouvrir</translation>
+    </message>
+    <message>
+        <source>O&amp;pen Filter File...</source>
+        <translation>&amp;Ouvrir un fichier de filtre...</translation>
+    </message>
+    <message>
+        <source>Take a filter from a file that somebody gave</source>
+        <translation>Prendre un filtre d&apos;un fichier que quelqu&apos;un a donné</translation>
+    </message>
+</context>
+<context>
+    <name>FilterFiles</name>
+    <message>
+        <source>No filter was saved yet</source>
+        <translation>Aucun filtre n&apos;a encore été enregistré</translation>
+    </message>
+    <message>
+        <source>Save Filter</source>
+        <translation>Enregistrer le filtre</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nom :</translation>
+    </message>
+    <message>
+        <source>Open Filter File</source>
+        <translation>Ouvrir un fichier de filtre</translation>
+    </message>
+    <message>
+        <source>Filters (*.json)</source>
+        <translation>Filtres (*.json)</translation>
+    </message>
+    <message>
+        <source>Saved as %1, without the values of times and traces.</source>
+        <translation>Enregistré sous %1, sans les valeurs d&apos;heures et de traces.</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Enregistré sous %1.</translation>
+    </message>
+    <message>
+        <source>The filter was not saved: %1.</source>
+        <translation>Le filtre n&apos;a pas été enregistré : %1.</translation>
+    </message>
+    <message>
+        <source>The filter&apos;s times and processes hold in the viewer, not in a single log.</source>
+        <translation>Les heures et les processus du filtre valent dans la visionneuse, pas dans un seul journal.</translation>
+    </message>
+    <message>
+        <source>The filter was not taken: %1.</source>
+        <translation>Le filtre n&apos;a pas été pris : %1.</translation>
     </message>
 </context>
 <context>
@@ -713,6 +788,38 @@
         <source>%1 of %2 rows</source>
         <translation>%1 lignes sur %2</translation>
     </message>
+    <message>
+        <source>Take the text for a regular expression</source>
+        <translation>Prendre le texte pour une expression régulière</translation>
+    </message>
+    <message>
+        <source>Aa</source>
+        <translation>Aa</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Respecter la casse</translation>
+    </message>
+    <message>
+        <source>Filter by a further column (Ctrl+Alt+F)</source>
+        <translation>Filtrer par une autre colonne (Ctrl+Alt+F)</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 de plus</translation>
+    </message>
+    <message>
+        <source>not %1</source>
+        <translation>pas %1</translation>
+    </message>
+    <message>
+        <source>Let go: %1</source>
+        <translation>Abandonner : %1</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation>Expression</translation>
+    </message>
 </context>
 <context>
     <name>desktop::FilterButton</name>
@@ -751,6 +858,18 @@
     <message>
         <source>Show or hide rows by %1</source>
         <translation>Afficher ou masquer des lignes par %1</translation>
+    </message>
+    <message>
+        <source>Values with this text</source>
+        <translation>Valeurs avec ce texte</translation>
+    </message>
+    <message>
+        <source>Look among the values</source>
+        <translation>Chercher parmi les valeurs</translation>
+    </message>
+    <message>
+        <source>%1 more: type to look among them</source>
+        <translation>%1 de plus : saisissez pour chercher parmi elles</translation>
     </message>
 </context>
 <context>
@@ -847,10 +966,6 @@
         <translation>Nouvelles lignes</translation>
     </message>
     <message>
-        <source>Read &amp;Again</source>
-        <translation>Re&amp;lire</translation>
-    </message>
-    <message>
         <source>Read the log again, to its present end (F5)</source>
         <translation>Relire le journal jusqu&apos;à sa fin actuelle (F5)</translation>
     </message>
@@ -869,6 +984,10 @@
     <message>
         <source>Show lines as they come, while the last line is the current one</source>
         <translation>Afficher les lignes à mesure qu&apos;elles arrivent, tant que la dernière est la ligne courante</translation>
+    </message>
+    <message>
+        <source>Read A&amp;gain</source>
+        <translation>Re&amp;lire</translation>
     </message>
 </context>
 <context>
@@ -1316,8 +1435,8 @@
         <translation>Ce journal a %1 octets, et l&apos;outil affiche des journaux jusqu&apos;à %2. La visionneuse affiche les journaux de toute taille.</translation>
     </message>
     <message>
-        <source>Open in &amp;Viewer</source>
-        <translation>Ouvrir dans la &amp;visionneuse</translation>
+        <source>Open in Vie&amp;wer</source>
+        <translation>Ouvrir dans la vi&amp;sionneuse</translation>
     </message>
 </context>
 </TS>

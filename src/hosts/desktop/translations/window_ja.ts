@@ -311,6 +311,81 @@
         <source>Open this log in the viewer, which shows logs of any size</source>
         <translation>このログを、どのサイズのログも表示できるビューアーで開きます</translation>
     </message>
+    <message>
+        <source>Filter by &amp;Column...</source>
+        <translation>列でフィルター(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Show or hide lines by the values of a further column</source>
+        <translation>別の列の値で行を表示または非表示にします</translation>
+    </message>
+    <message>
+        <source>Saved Fil&amp;ters...</source>
+        <translation>保存したフィルター(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Take a filter that was saved by a name, here or in the viewer</source>
+        <translation>ここまたはビューアーで名前を付けて保存したフィルターを使います</translation>
+    </message>
+    <message>
+        <source>&amp;Save Filter...</source>
+        <translation>フィルターを保存(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Save the filter by a name, in a file that others can open</source>
+        <translation>他の人も開けるファイルに、フィルターを名前を付けて保存します</translation>
+    </message>
+    <message>
+        <source>O&amp;pen Filter File...</source>
+        <translation>フィルター ファイルを開く(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Take a filter from a file that somebody gave</source>
+        <translation>受け取ったファイルのフィルターを使います</translation>
+    </message>
+</context>
+<context>
+    <name>FilterFiles</name>
+    <message>
+        <source>No filter was saved yet</source>
+        <translation>保存したフィルターはまだありません</translation>
+    </message>
+    <message>
+        <source>Save Filter</source>
+        <translation>フィルターの保存</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>名前:</translation>
+    </message>
+    <message>
+        <source>Open Filter File</source>
+        <translation>フィルター ファイルを開く</translation>
+    </message>
+    <message>
+        <source>Filters (*.json)</source>
+        <translation>フィルター (*.json)</translation>
+    </message>
+    <message>
+        <source>Saved as %1, without the values of times and traces.</source>
+        <translation>%1 として保存しました。時刻とトレースの値は含まれません。</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>%1 として保存しました。</translation>
+    </message>
+    <message>
+        <source>The filter was not saved: %1.</source>
+        <translation>フィルターを保存できませんでした: %1。</translation>
+    </message>
+    <message>
+        <source>The filter&apos;s times and processes hold in the viewer, not in a single log.</source>
+        <translation>フィルターの時刻とプロセスはビューアーで有効で、1 つのログでは使われません。</translation>
+    </message>
+    <message>
+        <source>The filter was not taken: %1.</source>
+        <translation>フィルターを使えませんでした: %1。</translation>
+    </message>
 </context>
 <context>
     <name>FrameNeeds</name>
@@ -713,6 +788,38 @@
         <source>%1 of %2 rows</source>
         <translation>%1 / %2 行</translation>
     </message>
+    <message>
+        <source>Take the text for a regular expression</source>
+        <translation>文字列を正規表現として扱います</translation>
+    </message>
+    <message>
+        <source>Aa</source>
+        <translation>Aa</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>大文字と小文字を区別する</translation>
+    </message>
+    <message>
+        <source>Filter by a further column (Ctrl+Alt+F)</source>
+        <translation>別の列でフィルター (Ctrl+Alt+F)</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>他 %1 件</translation>
+    </message>
+    <message>
+        <source>not %1</source>
+        <translation>%1 以外</translation>
+    </message>
+    <message>
+        <source>Let go: %1</source>
+        <translation>解除: %1</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation>正規表現</translation>
+    </message>
 </context>
 <context>
     <name>desktop::FilterButton</name>
@@ -751,6 +858,18 @@
     <message>
         <source>Show or hide rows by %1</source>
         <translation>%1 で行を表示または非表示にします</translation>
+    </message>
+    <message>
+        <source>Values with this text</source>
+        <translation>この文字列を含む値</translation>
+    </message>
+    <message>
+        <source>Look among the values</source>
+        <translation>値の中を探す</translation>
+    </message>
+    <message>
+        <source>%1 more: type to look among them</source>
+        <translation>他に %1 個: 入力して探してください</translation>
     </message>
 </context>
 <context>
@@ -847,10 +966,6 @@
         <translation>新しい行</translation>
     </message>
     <message>
-        <source>Read &amp;Again</source>
-        <translation>再読み込み(&amp;A)</translation>
-    </message>
-    <message>
         <source>Read the log again, to its present end (F5)</source>
         <translation>ログを現在の末尾まで読み直します (F5)</translation>
     </message>
@@ -869,6 +984,10 @@
     <message>
         <source>Show lines as they come, while the last line is the current one</source>
         <translation>最後の行が選ばれている間、届いた行を順に表示します</translation>
+    </message>
+    <message>
+        <source>Read A&amp;gain</source>
+        <translation>再読み込み(&amp;G)</translation>
     </message>
 </context>
 <context>
@@ -1316,8 +1435,8 @@
         <translation>このログは %1 バイトあり、ツールが表示できるのは %2 バイトまでです。ビューアーはどのサイズのログも表示します。</translation>
     </message>
     <message>
-        <source>Open in &amp;Viewer</source>
-        <translation>ビューアーで開く(&amp;V)</translation>
+        <source>Open in Vie&amp;wer</source>
+        <translation>ビューアーで開く(&amp;W)</translation>
     </message>
 </context>
 </TS>

@@ -8,8 +8,6 @@
 #include "hosts/common/look/notice_bar.h"
 #include "hosts/common/look/screen_room.h"
 #include "hosts/common/look/theme.h"
-#include "hosts/desktop/log/list_table.h"
-#include "hosts/desktop/log/log_view.h"
 #include "hosts/desktop/open_tool.h"
 #include "hosts/desktop/sheets/gather_additions.h"
 #include "hosts/desktop/sheets/sheet_dialog.h"
@@ -27,7 +25,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
-#include <QLocale>
 #include <QMenu>
 #include <QSettings>
 #include <QStackedWidget>
@@ -51,7 +48,8 @@ constexpr int largestText = 40;
 
 } // namespace
 
-MainWindow::MainWindow(QSettings& settings) : settings_(settings)
+MainWindow::MainWindow(QSettings& settings)
+    : settings_(settings), filterFiles_(SavedFilters::besideSettings(settings), *this)
 {
     setWindowIcon(toolIcon(QStringLiteral("console")));
     setAcceptDrops(true);
@@ -335,63 +333,6 @@ void MainWindow::refresh()
         if (renewed && renewed != &console.currentScopeItem())
             console.currentView().select(*renewed);
     });
-}
-
-void MainWindow::runInTable(Command command)
-{
-    ListTable* table = pane_->table();
-    if (!table) return;
-    if (command == Command::selectAll) return table->selectAll();
-    const int rows = command == Command::copy ? table->copyAsText() : table->copyAsCsv();
-    statusBar()->showMessage(rows == 1 ? tr("1 row copied.")
-                                       : tr("%1 rows copied.").arg(QLocale().toString(rows)),
-                             sayMilliseconds);
-}
-
-void MainWindow::runInLog(Command command)
-{
-    if (!pane_->logShown()) return;
-    LogView& log = pane_->log();
-    switch (command) {
-    case Command::find:
-        return log.startFind();
-    case Command::findNext:
-        return log.findNext();
-    case Command::findPrevious:
-        return log.findPrevious();
-    case Command::highlight:
-        return log.keepFound();
-    case Command::goToTime:
-        return log.startGoToTime();
-    case Command::nextError:
-        return log.nextError();
-    case Command::previousError:
-        return log.previousError();
-    case Command::nextWarning:
-        return log.nextWarning();
-    case Command::previousWarning:
-        return log.previousWarning();
-    case Command::filter:
-        return log.startFilter();
-    case Command::showAll:
-        return log.showAll();
-    case Command::follow:
-        return log.setFollowing(!log.following());
-    case Command::openInViewer:
-        return log.openInViewer();
-    case Command::toggleBookmark:
-        return log.toggleBookmark();
-    case Command::nextBookmark:
-        return log.nextBookmark();
-    case Command::previousBookmark:
-        return log.previousBookmark();
-    case Command::clearBookmarks:
-        return log.clearBookmarks();
-    case Command::details:
-        return log.showDetails(!log.detailsShown());
-    default:
-        return;
-    }
 }
 
 void MainWindow::chooseTheme(Command command)

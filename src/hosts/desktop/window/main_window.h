@@ -6,6 +6,7 @@
 #include "hosts/desktop/sheets/gather_notice.h"
 #include "hosts/desktop/sheets/undone.h"
 #include "hosts/desktop/window/commands.h"
+#include "hosts/desktop/window/filter_files.h"
 
 #include <QMainWindow>
 
@@ -135,6 +136,7 @@ private:
     InterfaceLanguage language_;
     std::int32_t spoken_ = 0; ///< what `spokenByTool` was when the texts on show were made
     QSettings& settings_;
+    FilterFiles filterFiles_;
     OpenTool* tool_ = nullptr;
     ConsolePane* pane_ = nullptr;
     NoticeBar* notice_ = nullptr;

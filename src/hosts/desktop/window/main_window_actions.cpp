@@ -24,17 +24,16 @@ namespace desktop {
 namespace {
 
 /// Commands that need a log on show, and those that need any table of rows.
-const std::set<Command> logCommands = {Command::find,           Command::findNext,
-                                       Command::findPrevious,   Command::highlight,
-                                       Command::nextError,      Command::previousError,
-                                       Command::follow,         Command::openInViewer,
-                                       Command::nextWarning,    Command::previousWarning,
-                                       Command::goToTime,       Command::filter,
-                                       Command::showAll,        Command::toggleBookmark,
-                                       Command::nextBookmark,   Command::previousBookmark,
-                                       Command::clearBookmarks, Command::details,
-                                       Command::largerText,     Command::smallerText,
-                                       Command::normalText};
+const std::set<Command> logCommands = {
+    Command::find,         Command::findNext,         Command::findPrevious,
+    Command::highlight,    Command::nextError,        Command::previousError,
+    Command::filterColumn, Command::savedFilters,     Command::saveFilter,
+    Command::openFilter,   Command::follow,           Command::openInViewer,
+    Command::nextWarning,  Command::previousWarning,  Command::goToTime,
+    Command::filter,       Command::showAll,          Command::toggleBookmark,
+    Command::nextBookmark, Command::previousBookmark, Command::clearBookmarks,
+    Command::details,      Command::largerText,       Command::smallerText,
+    Command::normalText};
 const QString columnsName = QStringLiteral("columns");
 const std::set<Command> tableCommands = {Command::copy, Command::copyCsv, Command::selectAll};
 

@@ -227,7 +227,7 @@ TEST(InterfaceLanguage, TheLettersOfMenusAndBarsAreUnique)
             if (label->buddy()) always << label->text();
         for (const auto* button : shown.log().filterBar().findChildren<QAbstractButton*>())
             if (button->isVisible()) always << button->text();
-        EXPECT_EQ(8U, check(QStringLiteral("window"), always));
+        EXPECT_EQ(9U, check(QStringLiteral("window"), always));
         for (const auto* menu : shown.window->findChildren<QMenu*>()) {
             QStringList texts;
             for (const auto* action : menu->actions())

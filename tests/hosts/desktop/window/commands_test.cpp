@@ -1,3 +1,4 @@
+#include "hosts/common/filters/saved_filters.h"
 #include "hosts/common/look/theme.h"
 #include "hosts/desktop/log/filter_bar.h"
 #include "hosts/desktop/log/find_bar.h"
@@ -209,6 +210,58 @@ const Row editRows[] = {
          return [&shown] {
              EXPECT_TRUE(OpenProgram::field(shown.log().filterBar(), "Filter by text").hasFocus());
          };
+     }},
+    {Command::filterColumn,
+     [](OpenProgram& shown) -> Check {
+         readLog(shown);
+         return [&shown] {
+             QStringList offered;
+             for (auto* menu : shown.log().filterBar().findChildren<QMenu*>())
+                 if (menu->isVisible())
+                     for (auto* entry : menu->actions()) offered << entry->text();
+             EXPECT_EQ(QStringList({"Timestamp", "Trace No.", "Trace"}), offered);
+             person::press(Qt::Key_Escape);
+         };
+     }},
+    {Command::savedFilters,
+     [](OpenProgram& shown) -> Check {
+         readLog(shown);
+         RowFilter filter;
+         filter.showOnly(timeline::Column::component, "RuleEngine");
+         SavedFilters::besideSettings(shown.settings).save("Rules", filter);
+         const int all = shown.log().model().rowCount();
+         return [&shown, all] {
+             auto* menu = shown.window().findChild<QMenu*>("savedFilters");
+             ASSERT_NE(nullptr, menu);
+             ASSERT_EQ(1, menu->actions().size());
+             EXPECT_EQ(QStringLiteral("Rules"), menu->actions().front()->text());
+             menu->actions().front()->trigger();
+             menu->close();
+             EXPECT_LT(shown.log().model().rowCount(), all);
+         };
+     }},
+    {Command::saveFilter,
+     [](OpenProgram& shown) -> Check {
+         readLog(shown);
+         shown.log().filterBar().tick(5, "RuleEngine", false);
+         person::answerNextDialog([](QWidget&) {
+             person::type(QStringLiteral("Rules"));
+             person::press(Qt::Key_Return);
+         });
+         return [&shown] {
+             const auto filters = SavedFilters::besideSettings(shown.settings);
+             EXPECT_EQ(QStringList({"Rules"}), filters.names());
+             EXPECT_FALSE(SavedFilters::read(filters.fileOf("Rules"))
+                              .shows(timeline::Column::component, "CallFlow"));
+         };
+     }},
+    {Command::openFilter,
+     [](OpenProgram& shown) -> Check {
+         readLog(shown);
+         const int all = shown.log().model().rowCount();
+         person::pickNext(
+             shown.server.folder().write("given.json", R"({"texts": [{"text": "RuleEngine"}]})"));
+         return [&shown, all] { EXPECT_LT(shown.log().model().rowCount(), all); };
      }},
     {Command::showAll,
      [](OpenProgram& shown) -> Check {
