@@ -36,14 +36,13 @@ void Marks::takeSources()
 {
     const std::vector<SourceHome>& homes = document_.homes();
     for (; knownSources_ < homes.size(); ++knownSources_) {
-        const std::string& file = homes[knownSources_].file;
-        const QString path = QString::fromStdString(file);
+        const std::string& path = homes[knownSources_].file;
         soughtIn_.reset(); // a note may be of this source, too
         if (books_.contains(path)) continue;
         Book& book = books_[path];
         book.path = path;
-        if (file.empty()) continue;
-        book.file = std::make_shared<NotesFile>(file, ownFolder_);
+        if (path.empty()) continue;
+        book.file = std::make_shared<NotesFile>(path, ownFolder_);
         files_.add([this, path, notes = book.file] {
             const NotesFile::Result read = notes->read();
             QMetaObject::invokeMethod(
@@ -53,7 +52,7 @@ void Marks::takeSources()
 }
 
 /// Takes the notes that a file has after an edit of a number; those behind it are still to come.
-void Marks::takeNotes(const QString& path, const NotesFile::Result& result, std::uint64_t edit)
+void Marks::takeNotes(const std::string& path, const NotesFile::Result& result, std::uint64_t edit)
 {
     Book& book = books_[path];
     book.written = result.notes;
@@ -111,13 +110,13 @@ Marks::Book* Marks::bookOf(const IndexRow& row)
 {
     takeSources();
     if (row.source() >= document_.homes().size()) return nullptr;
-    return &books_[QString::fromStdString(document_.homes()[row.source()].file)];
+    return &books_[document_.homes()[row.source()].file];
 }
 
-void Marks::edit(const IndexRow& row, bool bookmark, const QString& text)
+bool Marks::edit(const IndexRow& row, bool bookmark, const QString& text)
 {
     Book* book = bookOf(row);
-    if (book == nullptr) return;
+    if (book == nullptr) return false;
     if (!book->file) say(tr("Bookmarks and notes on rows that come through a pipe are not kept"));
     NoteEdit edit;
     if (const Note* note = of(row)) {
@@ -135,9 +134,9 @@ void Marks::edit(const IndexRow& row, bool bookmark, const QString& text)
                 read = false;
             }
         });
-        if (!read) return;
+        if (!read) return false;
     }
-    edit.after = {edit.before.row, bookmark, text.left(longestText)};
+    edit.after = {edit.before.row, bookmark, text};
     change(*book, {edit});
     const Note* made = noteOf(book->notes, edit.after.row);
     if (made != nullptr) {
@@ -146,6 +145,7 @@ void Marks::edit(const IndexRow& row, bool bookmark, const QString& text)
         index();
     }
     emit changed();
+    return true;
 }
 
 void Marks::change(Book& book, const std::vector<NoteEdit>& edits)
@@ -168,19 +168,15 @@ std::optional<bool> Marks::toggleBookmark(std::size_t place)
     const IndexRow row = document_.indexRow(place);
     const Note* note = of(row);
     const bool set = note == nullptr || !note->bookmark;
-    edit(row, set, note == nullptr ? QString() : note->text);
-    note = of(row);
-    if ((note != nullptr && note->bookmark) != set) return std::nullopt;
+    if (!edit(row, set, note == nullptr ? QString() : note->text)) return std::nullopt;
     return set;
 }
 
-void Marks::setText(std::size_t place, const QString& text)
+bool Marks::setText(const IndexRow& row, const QString& text)
 {
-    if (place >= document_.rowCount()) return;
-    const IndexRow row = document_.indexRow(place);
     const Note* note = of(row);
-    if (text != (note == nullptr ? QString() : note->text))
-        edit(row, note != nullptr && note->bookmark, text);
+    if (text == (note == nullptr ? QString() : note->text)) return true;
+    return text.size() <= longestText && edit(row, note != nullptr && note->bookmark, text);
 }
 
 void Marks::clearBookmarks()
@@ -253,15 +249,14 @@ void Marks::findMissing()
     const bool everywhere = !document_.state().busy;
     if (!order || (order == soughtIn_ && (soughtEverywhere_ || !everywhere))) return;
     std::vector<WantedRow> wanted;
-    std::vector<QString> paths; // of the wanted rows' books
+    std::vector<std::string> paths; // of the wanted rows' books
     for (const auto& [path, book] : books_)
         for (std::size_t note = 0; note < book.notes.size(); ++note) {
             if (!book.rows[note].empty()) continue;
             WantedRow row{wanted.size(), book.notes[note].row, {}};
             for (std::size_t source = 0; source < document_.homes().size(); ++source)
                 if (const SourceHome& home = document_.homes()[source];
-                    home.file == path.toStdString() &&
-                    home.name == row.identity.source.toStdString())
+                    home.file == path && QString::fromStdString(home.name) == row.identity.source)
                     row.sources.push_back(static_cast<timeline::SourceNumber>(source));
             wanted.push_back(std::move(row));
             paths.push_back(path);

@@ -38,8 +38,9 @@ public:
     /// nothing where none can be.
     std::optional<bool> toggleBookmark(std::size_t place);
 
-    /// Gives the row at a place a text, or takes it away with an empty one.
-    void setText(std::size_t place, const QString& text);
+    /// Gives a row a text, or takes it away with an empty one. False where that failed: nothing is
+    /// known of the row's source, it can't be read, or the text is longer than `longestText`.
+    bool setText(const timeline::IndexRow& row, const QString& text);
 
     /// Takes every bookmark away; texts stay.
     void clearBookmarks();
@@ -51,7 +52,7 @@ public:
     /// A row of which something is kept, and where it is; no row for one that was not found.
     struct Mark {
         Note note;
-        QString file; ///< that has the row
+        std::string file; ///< the path, as it is on the machine, of the one that has the row
         std::optional<timeline::IndexRow> row;
     };
 
@@ -64,7 +65,7 @@ public:
     /// where none is on show.
     std::optional<std::size_t> next(std::optional<std::size_t> from, Direction direction);
 
-    /// The longest text that a note has.
+    /// The longest text that a person may give a row, in characters.
     static constexpr int longestText = 10'000;
 
 signals:
@@ -83,7 +84,7 @@ private:
     /// The notes of a file that has rows.
     struct Book {
         std::shared_ptr<const NotesFile> file;
-        QString path;
+        std::string path;
         Notes written; ///< as its file has them
         std::vector<Pending> pending;
         Notes notes;                                       ///< as they will be
@@ -92,15 +93,15 @@ private:
 
     /// Rows that were found: their files, what they were looked for by, and where they are.
     struct FoundMark {
-        QString file;
+        std::string file;
         RowIdentity identity;
         timeline::IndexRow row;
     };
     using Found = std::vector<FoundMark>;
 
     void takeSources();
-    void takeNotes(const QString& path, const NotesFile::Result& result, std::uint64_t edit);
-    void edit(const timeline::IndexRow& row, bool bookmark, const QString& text);
+    void takeNotes(const std::string& path, const NotesFile::Result& result, std::uint64_t edit);
+    bool edit(const timeline::IndexRow& row, bool bookmark, const QString& text);
     void change(Book& book, const std::vector<NoteEdit>& edits);
     bool renew(Book& book);
     void index();
@@ -111,7 +112,9 @@ private:
 
     Document& document_;
     std::string ownFolder_;
-    std::map<QString, Book> books_; ///< by the paths of the files that have rows
+    /// By the paths of the files that have rows. Names are bytes: as a QString two of them may be
+    /// one.
+    std::map<std::string, Book> books_;
     std::size_t knownSources_ = 0;
     std::unordered_map<std::uint64_t, std::pair<const Book*, std::size_t>> byPlace_;
     std::uint64_t edits_ = 0;

@@ -79,9 +79,6 @@ public:
     void saveFilter(const QString& name);
     void takeFilter(const QString& file);
 
-    /// Gives the current row a note, in the place of the one that it has; none for an empty text.
-    void setNote(const QString& text);
-
     /// Does what a command does, if it can be done now.
     void run(Command command);
     QAction& action(Command command) { return *actions_.at(command); }
@@ -112,6 +109,7 @@ private:
     void goToMark(Direction direction);
     bool goToRow(const timeline::IndexRow& row);
     void askForNote();
+    void setNote(const timeline::IndexRow& row, const QString& text);
     void showMarks();
     void performCalls(Command command);
     void closeCalls();

@@ -4,7 +4,9 @@
 #include "hosts/viewer/marks/mark_list.h"
 #include "hosts/viewer/window/main_window.h"
 
+#include <QDialogButtonBox>
 #include <QInputDialog>
+#include <QPushButton>
 #include <QStatusBar>
 
 namespace viewer {
@@ -89,21 +91,33 @@ bool MainWindow::goToRow(const timeline::IndexRow& row)
     return place.has_value();
 }
 
+/// The row stays the one that was asked about, where another view comes while the dialog is open.
 void MainWindow::askForNote()
 {
     const auto place = table_->currentPlace();
     if (!place) return;
-    const Note* note = marks_->of(document_.indexRow(*place));
-    bool taken = false;
-    const QString text = QInputDialog::getMultiLineText(
-        this, tr("Note"), tr("Text for this row; an empty one takes the note away:"),
-        note == nullptr ? QString() : note->text, &taken);
-    if (taken) setNote(text.trimmed());
+    const timeline::IndexRow row = document_.indexRow(*place);
+    const Note* note = marks_->of(row);
+    QInputDialog dialog(this);
+    dialog.setWindowTitle(tr("Note"));
+    dialog.setOption(QInputDialog::UsePlainTextEditForTextInput);
+    dialog.setTextValue(note == nullptr ? QString() : note->text);
+    const auto showRoom = [&dialog](const QString& text) {
+        const auto tooMany = text.trimmed().size() - Marks::longestText;
+        dialog.setLabelText(tooMany > 0
+                                ? tr("The text is %1 characters too long for a note:").arg(tooMany)
+                                : tr("Text for this row; an empty one takes the note away:"));
+        if (auto* buttons = dialog.findChild<QDialogButtonBox*>())
+            buttons->button(QDialogButtonBox::Ok)->setEnabled(tooMany <= 0);
+    };
+    showRoom({});
+    connect(&dialog, &QInputDialog::textValueChanged, this, showRoom);
+    if (dialog.exec() == QDialog::Accepted) setNote(row, dialog.textValue().trimmed());
 }
 
-void MainWindow::setNote(const QString& text)
+void MainWindow::setNote(const timeline::IndexRow& row, const QString& text)
 {
-    if (const auto place = table_->currentPlace()) marks_->setText(*place, text);
+    if (!marks_->setText(row, text)) sayFailure(tr("The note can't be kept: %1").arg(text));
 }
 
 /// Shows the changed marks wherever rows are.

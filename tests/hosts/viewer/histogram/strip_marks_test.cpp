@@ -62,7 +62,7 @@ TEST_F(MarksOnTheStrip, FollowTheWidthAndTheFilter)
 TEST_F(MarksOnTheStrip, TellNotesOfRowsOnShow)
 {
     const QImage before = strip.grab().toImage();
-    marks.setText(300, "look here");
+    marks.setText(document.indexRow(300), "look here");
     EXPECT_TRUE(told(300).contains("look here"));
     EXPECT_FALSE(told(500).contains("look here"));
     EXPECT_NE(before, strip.grab().toImage());
@@ -75,7 +75,7 @@ TEST_F(MarksOnTheStrip, TellNotesOfRowsOnShow)
     ASSERT_TRUE(waitForRows(document));
     ASSERT_TRUE(waitUntil([&] { return told(300).contains("look here"); }))
         << "row 300 is an error";
-    marks.setText(15, "first");
+    marks.setText(document.indexRow(15), "first");
     filter.showOnly(timeline::Column::level, "3");
     document.setFilter(filter);
     ASSERT_TRUE(waitForRows(document));

@@ -29,6 +29,11 @@ struct Viewer {
         return waitForRows(document);
     }
 
+    void setText(std::size_t place, const QString& text)
+    {
+        EXPECT_TRUE(marks.setText(document.indexRow(place), text));
+    }
+
     /// The places of rows on show of which something is kept.
     Places places()
     {
@@ -72,7 +77,7 @@ TEST_F(MarksOfRows, AreThereAgainInTheNextSession)
     {
         const auto viewer = opened({log});
         EXPECT_EQ(true, viewer->marks.toggleBookmark(7));
-        viewer->marks.setText(9, "a note");
+        viewer->setText(9, "a note");
         viewer->marks.toggleBookmark(11);
         EXPECT_EQ(false, viewer->marks.toggleBookmark(11));
     }
@@ -139,7 +144,7 @@ TEST_F(MarksOfRows, OfAnotherTextAreNotFoundAndStay)
         settle();
         EXPECT_EQ(Places{}, viewer->places());
         EXPECT_EQ("one", viewer->marks.all().front().note.row.trace);
-        viewer->marks.setText(0, "of the new one");
+        viewer->setText(0, "of the new one");
         ASSERT_TRUE(viewer->waitForMarks(1));
         EXPECT_EQ(2u, viewer->marks.all().size());
     }
@@ -158,7 +163,7 @@ TEST_F(MarksOfRows, OfTwoViewersComeTogether)
     other->marks.toggleBookmark(2);
     one->marks.toggleBookmark(3);
     ASSERT_TRUE(waitUntil([&] { return one->places().size() + other->places().size() >= 4; }));
-    other->marks.setText(4, "x");
+    other->setText(4, "x");
     ASSERT_TRUE(other->waitForMarks(4));
     EXPECT_EQ((Places{1, 2, 3, 4}), other->places());
 }
@@ -184,7 +189,7 @@ TEST_F(MarksOfRows, LoseTheirBookmarksAndKeepTheirTexts)
 {
     const auto viewer = opened({logs.writeRows("KoCSMgr", 10, 0, 1000)});
     viewer->marks.toggleBookmark(1);
-    viewer->marks.setText(2, "stays");
+    viewer->setText(2, "stays");
     viewer->marks.toggleBookmark(2);
     viewer->marks.clearBookmarks();
     EXPECT_EQ(Places{2}, viewer->places());
@@ -200,12 +205,39 @@ TEST_F(MarksOfRows, OfALogInAFolderLieBesideTheLogAndAreNoRows)
     {
         const auto viewer = opened({logs.folder()});
         ASSERT_EQ(20u, viewer->document.rowCount());
-        viewer->marks.setText(2, "15:23:07:123,Conv,12,CallFlow,3,like a line of a log");
+        viewer->setText(2, "15:23:07:123,Conv,12,CallFlow,3,like a line of a log");
     }
     EXPECT_TRUE(QFile::exists(log + ".notes.json"));
     const auto viewer = opened({logs.folder()});
     ASSERT_TRUE(viewer->waitForMarks(1));
     EXPECT_EQ(20u, viewer->document.rowCount());
+}
+
+TEST_F(MarksOfRows, AreFoundAgainInLogsWhoseNamesAreNoCharacters)
+{
+    logs.files().write("caf\xe9.txt", rawLine(1000, "A", 3, "one"));
+    logs.files().write("caf\xe8.txt", rawLine(2000, "A", 3, "two"));
+    {
+        const auto viewer = opened({logs.folder()});
+        ASSERT_EQ(2u, viewer->document.rowCount());
+        viewer->setText(0, "of one");
+        viewer->setText(1, "of two");
+    }
+    EXPECT_TRUE(logs.files().exists("caf\xe9.txt.notes.json"));
+    EXPECT_TRUE(logs.files().exists("caf\xe8.txt.notes.json"));
+    const auto viewer = opened({logs.folder()});
+    ASSERT_TRUE(viewer->waitForMarks(2));
+    EXPECT_EQ("of one", viewer->marks.remark(viewer->document.indexRow(0)));
+    EXPECT_EQ("of two", viewer->marks.remark(viewer->document.indexRow(1)));
+}
+
+TEST_F(MarksOfRows, TakeNoTextThatIsTooLong)
+{
+    const auto viewer = opened({logs.writeRows("KoCSMgr", 10, 0, 1000)});
+    const timeline::IndexRow row = viewer->document.indexRow(1);
+    viewer->setText(1, QString(Marks::longestText, 'x'));
+    EXPECT_FALSE(viewer->marks.setText(row, QString(Marks::longestText + 1, 'y')));
+    EXPECT_EQ(QString(Marks::longestText, 'x'), viewer->marks.of(row)->text);
 }
 
 TEST_F(MarksOfRows, WithDamagedNotesAreToldOfOnce)

@@ -5,10 +5,12 @@
 #include "hosts/viewer/window/main_window.h"
 #include "support/windows/test_application.h"
 
+#include <QDialogButtonBox>
 #include <QFile>
 #include <QHelpEvent>
 #include <QInputDialog>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTest>
@@ -17,6 +19,8 @@
 #include <QTreeWidget>
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 namespace viewer {
 namespace {
@@ -43,6 +47,17 @@ protected:
             QTest::keyClick(&window.table(), keys[static_cast<uint>(key)].key(),
                             keys[static_cast<uint>(key)].keyboardModifiers());
         settle();
+    }
+
+    /// Asks for a note on the current row, and does something with the dialog.
+    void note(const std::function<void(QInputDialog&)>& answer)
+    {
+        QTimer::singleShot(0, [&] {
+            auto* dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(nullptr, dialog);
+            answer(*dialog);
+        });
+        press(Command::note);
     }
 
     QString message() { return window.statusBar()->currentMessage(); }
@@ -92,13 +107,10 @@ TEST_F(MarksInTheWindow, ThatTheFilterHidesAreToldOf)
 TEST_F(MarksInTheWindow, ANoteIsAskedForAndShownWithItsRow)
 {
     window.table().goTo(5);
-    QTimer::singleShot(0, [] {
-        auto* dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(nullptr, dialog);
-        dialog->setTextValue("why is it so late?\nask them");
-        dialog->accept();
+    note([](QInputDialog& dialog) {
+        dialog.setTextValue("why is it so late?\nask them");
+        dialog.accept();
     });
-    press(Command::note);
     const auto fields = window.details().fields().findItems("Note", Qt::MatchExactly, 0);
     ASSERT_EQ(1, fields.size());
     EXPECT_TRUE(fields.front()->text(1).startsWith("why is it so late?"));
@@ -112,10 +124,55 @@ TEST_F(MarksInTheWindow, ANoteIsAskedForAndShownWithItsRow)
                     .contains("why is it so late?"));
     EXPECT_FALSE(window.model().data(window.model().index(6, 0), Qt::ToolTipRole).isValid());
     ASSERT_TRUE(waitUntil([&] { return QFile::exists(log + ".notes.json"); }));
-    window.setNote({});
+    window.marks().setText(window.document().indexRow(5), {});
     EXPECT_TRUE(window.marks().isEmpty());
     EXPECT_TRUE(window.details().fields().findItems("Note", Qt::MatchExactly, 0).isEmpty());
     ASSERT_TRUE(waitUntil([&] { return !QFile::exists(log + ".notes.json"); }));
+}
+
+TEST_F(MarksInTheWindow, ANoteStaysWithItsRowWhereAnotherViewComesMeanwhile)
+{
+    window.table().goTo(5);
+    const timeline::IndexRow row = window.document().indexRow(5);
+    note([&](QInputDialog& dialog) {
+        RowFilter errors;
+        errors.showOnly(timeline::Column::level, "0");
+        window.document().setFilter(errors);
+        EXPECT_TRUE(waitForRows(window.document()));
+        dialog.setTextValue("of row 5");
+        dialog.accept();
+    });
+    ASSERT_EQ(1u, window.marks().all().size());
+    ASSERT_NE(nullptr, window.marks().of(row));
+    EXPECT_EQ("of row 5", window.marks().of(row)->text);
+}
+
+TEST_F(MarksInTheWindow, ANoteThatCanNotBeKeptIsShown)
+{
+    window.table().goTo(5);
+    note([](QInputDialog& dialog) {
+        dialog.setTextValue("why is it so late?" + QString(Marks::longestText, '?'));
+        dialog.accept(); // past its button
+    });
+    EXPECT_TRUE(window.marks().isEmpty());
+    EXPECT_TRUE(window.notice().contains("why is it so late?")) << window.notice().toStdString();
+}
+
+TEST_F(MarksInTheWindow, ANoteThatIsTooLongIsNotTaken)
+{
+    window.table().goTo(5);
+    note([](QInputDialog& dialog) {
+        const auto* taking = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+        dialog.setTextValue(QString(Marks::longestText + 7, 'x'));
+        EXPECT_FALSE(taking->isEnabled());
+        EXPECT_TRUE(dialog.labelText().contains("7 characters"))
+            << dialog.labelText().toStdString();
+        dialog.setTextValue(QString(Marks::longestText, 'x'));
+        EXPECT_TRUE(taking->isEnabled());
+        dialog.accept();
+    });
+    ASSERT_EQ(1u, window.marks().all().size());
+    EXPECT_EQ(Marks::longestText, window.marks().all().front().note.text.size());
 }
 
 TEST_F(MarksInTheWindow, AClickBesideARowSetsItsBookmark)
@@ -141,7 +198,7 @@ TEST_F(MarksInTheWindow, AClickBesideARowSetsItsBookmark)
 
 TEST_F(MarksInTheWindow, StandInAListThatGoesToThem)
 {
-    window.marks().setText(40, "late");
+    window.marks().setText(window.document().indexRow(40), "late");
     window.marks().toggleBookmark(20);
     press(Command::markList);
     QTreeWidget& list = window.markList().list();
