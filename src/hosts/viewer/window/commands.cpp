@@ -10,7 +10,8 @@ const std::vector<MenuInfo>& Commands::menus()
         {M::go, M::go, QT_TR_NOOP("&Go")},         {M::filter, M::filter, QT_TR_NOOP("Fi&lter")},
         {M::only, M::filter, QT_TR_NOOP("&Only")}, {M::hide, M::filter, QT_TR_NOOP("&Hide")},
         {M::view, M::view, QT_TR_NOOP("&View")},   {M::times, M::view, QT_TR_NOOP("T&imes")},
-        {M::theme, M::view, QT_TR_NOOP("&Theme")}, {M::help, M::help, QT_TR_NOOP("&Help")},
+        {M::theme, M::view, QT_TR_NOOP("&Theme")}, {M::language, M::view, QT_TR_NOOP("Lan&guage")},
+        {M::help, M::help, QT_TR_NOOP("&Help")},
     };
     return infos;
 }
@@ -180,6 +181,23 @@ const std::vector<CommandInfo>& Commands::all()
          QT_TR_NOOP("Dark letters on a light ground"), "Ctrl+Alt+L", "", false, true},
         {C::darkTheme, M::theme, QT_TR_NOOP("Da&rk"), QT_TR_NOOP("Light letters on a dark ground"),
          "Ctrl+Alt+D", "", false, true},
+
+        // Each language has its own name for itself.
+        {C::english, M::language, "English",
+         QT_TR_NOOP("Show all texts of the window in this language"), "Ctrl+Alt+1", "", false,
+         true},
+        {C::german, M::language, "Deutsch",
+         QT_TR_NOOP("Show all texts of the window in this language"), "Ctrl+Alt+2", "", false,
+         true},
+        {C::spanish, M::language, "Español",
+         QT_TR_NOOP("Show all texts of the window in this language"), "Ctrl+Alt+3", "", false,
+         true},
+        {C::french, M::language, "Français",
+         QT_TR_NOOP("Show all texts of the window in this language"), "Ctrl+Alt+4", "", false,
+         true},
+        {C::japanese, M::language, "日本語",
+         QT_TR_NOOP("Show all texts of the window in this language"), "Ctrl+Alt+5", "", false,
+         true},
 
         {C::about, M::help, QT_TR_NOOP("&About..."), QT_TR_NOOP("Tell the version"), "Ctrl+F1", "",
          false, false},

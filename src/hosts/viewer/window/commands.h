@@ -70,10 +70,15 @@ enum class Command {
     systemTheme,
     lightTheme,
     darkTheme,
+    english,
+    german,
+    spanish,
+    french,
+    japanese,
     about,
 };
 
-enum class CommandMenu { file, edit, go, filter, only, hide, view, times, theme, help };
+enum class CommandMenu { file, edit, go, filter, only, hide, view, times, theme, language, help };
 
 struct MenuInfo {
     CommandMenu menu;

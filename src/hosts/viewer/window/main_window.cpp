@@ -65,6 +65,7 @@ MainWindow::MainWindow(QSettings& settings, const QString& dataFolder, QWidget* 
 {
     setWindowTitle(QStringLiteral("Orvan Diagnostic Viewer"));
     setAcceptDrops(true);
+    chooseFirstLanguage();
     makePanes();
     makeMarks();
     makeActions();
@@ -282,6 +283,7 @@ void MainWindow::updateActions()
     action(Command::systemTheme).setChecked(scheme == theme::Scheme::system);
     action(Command::lightTheme).setChecked(scheme == theme::Scheme::light);
     action(Command::darkTheme).setChecked(scheme == theme::Scheme::dark);
+    updateLanguages();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

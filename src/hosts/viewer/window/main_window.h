@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hosts/common/filters/saved_filters.h"
+#include "hosts/common/look/interface_language.h"
 #include "hosts/viewer/calls/calls.h"
 #include "hosts/viewer/document/document.h"
 #include "hosts/viewer/table/row_copy.h"
@@ -98,6 +99,10 @@ private:
     void connectParts();
     void connectCalls();
     void connectFollowing();
+    void performLanguage(Command command);
+    void chooseFirstLanguage();
+    void updateLanguages();
+    void chooseLanguage(const QString& code);
     void perform(Command command);
     void performGo(Command command);
     void performFilter(Command command);
@@ -145,6 +150,7 @@ private:
     void showAbout();
 
     QSettings& settings_;
+    InterfaceLanguage language_;
     QString dataFolder_;
     Document document_;
     std::unique_ptr<Marks> marks_;

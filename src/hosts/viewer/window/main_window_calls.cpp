@@ -71,7 +71,7 @@ void MainWindow::rememberCalls()
 void MainWindow::performCalls(Command command)
 {
     if (command == Command::thisCall) return showThisCall();
-    if (command != Command::calls) return;
+    if (command != Command::calls) return performLanguage(command);
     // The key brings the keys to the list first, and closes it when they are there.
     const QWidget* focused = focusWidget();
     const bool inList = focused != nullptr && callTabs_->list().isAncestorOf(focused);

@@ -19,11 +19,11 @@ struct TranslatedText {
     QString state; ///< empty for one that is finished
 };
 
-/// All texts of a file such as "de". Raises when it can't be read.
-inline std::vector<TranslatedText> translatedTexts(const char* code)
+/// All texts of a file such as "de" of a folder. Raises when it can't be read.
+inline std::vector<TranslatedText>
+translatedTexts(const char* code, const QString& folder = QString::fromUtf8(checkout::translations))
 {
-    QFile file(QStringLiteral("%1/window_%2.ts")
-                   .arg(QString::fromUtf8(checkout::translations), QLatin1String(code)));
+    QFile file(QStringLiteral("%1/window_%2.ts").arg(folder, QLatin1String(code)));
     if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error(file.errorString().toStdString());
     QXmlStreamReader xml(&file);
     std::vector<TranslatedText> texts;
