@@ -276,14 +276,14 @@ void Marks::findMissing()
 
 void Marks::takeFound(const Found& found)
 {
-    for (const auto& [path, identity, row] : found) {
-        Book& book = books_[path];
-        const Note* note = noteOf(book.notes, identity);
+    for (const FoundMark& mark : found) {
+        Book& book = books_[mark.file];
+        const Note* note = noteOf(book.notes, mark.identity);
         if (note == nullptr) continue; // it was taken away meanwhile
         auto& rows = book.rows[static_cast<std::size_t>(note - book.notes.data())];
         if (std::none_of(rows.begin(), rows.end(),
-                         [&](const IndexRow& other) { return other.place == row.place; }))
-            rows.push_back(row);
+                         [&](const IndexRow& other) { return other.place == mark.row.place; }))
+            rows.push_back(mark.row);
     }
     index();
     emit changed();
