@@ -2,6 +2,7 @@
 
 #include "hosts/common/filters/highlights.h"
 #include "hosts/common/look/theme.h"
+#include "hosts/viewer/table/row_access.h"
 #include "hosts/viewer/table/row_painter.h"
 
 #include <QApplication>
@@ -58,6 +59,7 @@ RowTable::RowTable(RowModel& model, QSettings& settings, QWidget* parent)
     connect(&rows_, &QAbstractItemModel::modelReset, this, &RowTable::restore);
     connect(&rows_, &QAbstractItemModel::headerDataChanged, viewport(),
             qOverload<>(&QWidget::update));
+    makeRowsSpeak(*this);
 }
 
 RowTable::~RowTable() = default;

@@ -4,6 +4,7 @@
 #include "hosts/viewer/table/row_copy.h"
 #include "support/windows/test_application.h"
 
+#include <QAccessible>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QSettings>
@@ -43,6 +44,25 @@ protected:
     RowModel model;
     RowTable table;
 };
+
+TEST_F(RowTableTest, SpeaksItsCurrentRow)
+{
+    open({logs.writeRows("KoCSMgr", 100, 0, 1000)});
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&table);
+    ASSERT_NE(nullptr, spoken);
+    EXPECT_EQ(QAccessible::List, spoken->role());
+    EXPECT_EQ("", spoken->text(QAccessible::Value)) << "no row is the current one";
+    table.goTo(20);
+    const QString text = spoken->text(QAccessible::Value);
+    EXPECT_TRUE(text.contains("row 20")) << text.toStdString();
+    EXPECT_TRUE(text.contains("00:00:20")) << text.toStdString();
+    EXPECT_TRUE(text.contains("0, error")) << "as a cell is spoken";
+    EXPECT_EQ(text, spoken->text(QAccessible::Description));
+    press(Qt::Key_Down);
+    EXPECT_TRUE(spoken->text(QAccessible::Description).contains("row 21"));
+    table.showColumn(RowColumn::trace, false);
+    EXPECT_FALSE(spoken->text(QAccessible::Value).contains("row 21")) << "it is hidden";
+}
 
 TEST_F(RowTableTest, GoesOverRowsByKey)
 {
