@@ -1233,6 +1233,14 @@ Legen Sie Logs, Trace-Datenbanken oder CAB-Dateien hier ab, oder öffnen Sie sie
         <source>The note can&apos;t be kept: %1</source>
         <translation>Die Notiz kann nicht aufgehoben werden: %1</translation>
     </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
 </context>
 <context>
     <name>viewer::MarkGutter</name>

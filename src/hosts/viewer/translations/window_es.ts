@@ -1233,6 +1233,14 @@ Suelte aquí registros, bases de datos de trazas o archivos CAB, o ábralos con 
         <source>The note can&apos;t be kept: %1</source>
         <translation>La nota no se puede guardar: %1</translation>
     </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
 </context>
 <context>
     <name>viewer::MarkGutter</name>

@@ -1233,6 +1233,14 @@ Déposez ici des journaux, des bases de données de traces ou des fichiers CAB, 
         <source>The note can&apos;t be kept: %1</source>
         <translation>La note ne peut pas être gardée&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
 </context>
 <context>
     <name>viewer::MarkGutter</name>

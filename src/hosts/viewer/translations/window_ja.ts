@@ -1233,6 +1233,14 @@ Drop logs, trace databases or cabinets here, or open them with Ctrl+O.</source>
         <source>The note can&apos;t be kept: %1</source>
         <translation>メモを保存できません: %1</translation>
     </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
 </context>
 <context>
     <name>viewer::MarkGutter</name>

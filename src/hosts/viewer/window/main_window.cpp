@@ -156,6 +156,8 @@ void MainWindow::connectParts()
     connect(&document_, &Document::progressed, this, &MainWindow::updateStatus);
     connect(&document_, &Document::viewChanged, this, &MainWindow::updateStatus);
     connect(&document_, &Document::failed, this, &MainWindow::sayFailure);
+    failuresToSay_.setSingleShot(true);
+    connect(&failuresToSay_, &QTimer::timeout, this, &MainWindow::sayFailures);
     connect(&document_, &Document::noted, this,
             [this](const QString& sentence) { statusBar()->showMessage(sentence, 8000); });
     connect(&document_, &Document::filterChanged, this, &MainWindow::updateActions);
@@ -201,10 +203,16 @@ std::optional<timeline::Moment> MainWindow::currentMoment()
     return document_.row(*place).index.moment;
 }
 
-/// Troubles come one by one, and stand in one notice.
+/// Troubles come one by one, thousands of them within an event where no log can be read, and stand
+/// in one notice, which is made once.
 void MainWindow::sayFailure(const QString& sentence)
 {
     failures_ << sentence;
+    failuresToSay_.start();
+}
+
+void MainWindow::sayFailures()
+{
     notice_->say([this] {
         QStringList lines = failures_.mid(0, mostFailures);
         if (failures_.size() > mostFailures)

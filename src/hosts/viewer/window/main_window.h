@@ -9,6 +9,7 @@
 #include "hosts/viewer/window/commands.h"
 
 #include <QMainWindow>
+#include <QTimer>
 
 #include <functional>
 #include <map>
@@ -138,6 +139,7 @@ private:
     void updateStatus();
     std::optional<timeline::Moment> currentMoment();
     void sayFailure(const QString& sentence);
+    void sayFailures();
     void openFiles();
     void openFolder();
     void copy(CopyForm form);
@@ -179,7 +181,8 @@ private:
     QToolBar* toolBar_ = nullptr;
     SavedFilters savedFilters_;
     QStringList failures_;
-    int textStep_ = 0; ///< from the usual size of letters
+    QTimer failuresToSay_; ///< runs until those that came are on show
+    int textStep_ = 0;     ///< from the usual size of letters
     std::map<Command, QAction*> actions_;
     std::map<CommandMenu, QMenu*> menus_;
 };

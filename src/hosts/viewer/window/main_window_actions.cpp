@@ -1,3 +1,4 @@
+#include "hosts/common/look/elided_label.h"
 #include "hosts/common/look/icons.h"
 #include "hosts/common/look/path_dialog.h"
 #include "hosts/common/look/theme.h"
@@ -23,6 +24,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QSettings>
 #include <QStatusBar>
 #include <QToolBar>
@@ -93,6 +95,8 @@ void MainWindow::showTexts()
     empty_->setText(tr("No source is open.\n\nDrop logs, trace databases or cabinets here, or open "
                        "them with Ctrl+O."));
     table_->setAccessibleName(tr("Rows"));
+    status_->setAccessibleName(tr("State"));
+    progress_->setAccessibleName(tr("Progress"));
     model_->renewHeaders();
     updateStatus();
 }

@@ -1,5 +1,6 @@
 #include "hosts/viewer/window/main_window.h"
 
+#include "hosts/common/look/spoken_label.h"
 #include "hosts/viewer/details/details_pane.h"
 #include "hosts/viewer/facets/facet_pane.h"
 #include "hosts/viewer/find/find_bar.h"
@@ -18,7 +19,9 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QSettings>
+#include <QStatusBar>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -68,6 +71,28 @@ TEST_F(ViewerWindow, SaysWhatCouldNotBeReadAndShowsTheRest)
     EXPECT_TRUE(window.notice().contains("none.txt")) << window.notice().toStdString();
     EXPECT_TRUE(window.notice().contains("nor_this.txt"));
     EXPECT_EQ(10, window.model().rowCount());
+}
+
+TEST_F(ViewerWindow, SaysManyFailuresInOneNotice)
+{
+    for (int log = 0; log < 1000; ++log)
+        emit window.document().failed(QStringLiteral("log %1 can't be read").arg(log));
+    EXPECT_EQ("", window.notice()) << "it is made once all have come";
+    settle();
+    EXPECT_TRUE(window.notice().startsWith("log 0 can't be read\nlog 1 "));
+    EXPECT_TRUE(window.notice().endsWith("and 995 more")) << window.notice().toStdString();
+}
+
+TEST_F(ViewerWindow, NamesWhatItsStatusBarShows)
+{
+    open({logs.writeRows("KoCSMgr", 10, 0, 1000)});
+    const auto* progress = window.statusBar()->findChild<QProgressBar*>();
+    const auto* state = window.statusBar()->findChild<SpokenLabel*>();
+    ASSERT_NE(nullptr, progress);
+    ASSERT_NE(nullptr, state);
+    EXPECT_EQ("Progress", progress->accessibleName());
+    EXPECT_EQ("State", state->accessibleName());
+    EXPECT_EQ("10 rows", state->spokenText());
 }
 
 TEST_F(ViewerWindow, OpensWhatIsDroppedOnIt)
@@ -205,6 +230,7 @@ TEST_F(ViewerWindow, SavesAFilterByAName)
     EXPECT_EQ(5, window.model().rowCount());
     EXPECT_EQ("", window.notice());
     window.saveFilter("../errors");
+    settle();
     EXPECT_TRUE(window.notice().contains("can't be the name of a filter"));
 }
 
@@ -237,6 +263,7 @@ TEST_F(ViewerWindow, WritesTheRowsOnShowToAFile)
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(101, file.readAll().count('\n'));
     window.exportTo(logs.folder() + "/none/rows.csv");
+    settle();
     EXPECT_TRUE(window.notice().contains("can't be written"));
 }
 
