@@ -133,7 +133,12 @@ void CallListPane::offerMenu(const QPoint& at)
     const QModelIndex current = list_->currentIndex();
     QAction* show = menu.addAction(tr("&Show This Call"));
     show->setEnabled(current.isValid());
-    connect(show, &QAction::triggered, this, [this, current] { ask(current); });
+    // The list may be another one while the menu is open.
+    if (current.isValid()) {
+        const timeline::Call& call = model_->call(current.row());
+        connect(show, &QAction::triggered, this,
+                [this, id = call.id, first = call.first] { emit callAsked(id, first); });
+    }
     QMenu* sorting = menu.addMenu(tr("Sort &by"));
     auto* group = new QActionGroup(&menu);
     for (int column = 0; column < callColumns; ++column) {

@@ -229,6 +229,7 @@ void Document::takeView(std::shared_ptr<const View> view)
     levelSteps_.stop();
     emit viewChanged();
     findAgain();
+    if (levelWish_) beginLevelSearch();
 }
 
 /// Takes a view of which most is as it was, and mostly all but what comes behind.
@@ -251,7 +252,10 @@ void Document::takeGrown(std::shared_ptr<const View> view)
         places_.erase(at->first);
         at = blocks_.erase(at);
     }
-    if (levelSteps_.isActive()) levelSearch_->growTo(view_, same);
+    if (levelSteps_.isActive())
+        levelSearch_->growTo(view_, same);
+    else if (levelWish_)
+        beginLevelSearch();
     if (!atEnd)
         emit viewChanged();
     else if (comes)
@@ -282,7 +286,25 @@ void Document::findAgain(std::optional<std::size_t> same)
 void Document::findLevel(std::size_t place, Direction direction, std::int8_t level)
 {
     if (!view_->order) return emit levelFound(std::nullopt);
-    levelSearch_.emplace(view_, place, direction, level);
+    levelWish_ = {std::nullopt, direction, level};
+    if (place < rowCount()) levelWish_->from = indexRow(place);
+    beginLevelSearch();
+}
+
+/// From the row that was asked from, or from where it would stand.
+void Document::beginLevelSearch()
+{
+    const bool down = levelWish_->direction == Direction::down;
+    // The row next to this one is the first.
+    const std::size_t ahead = static_cast<std::size_t>(-1);
+    std::size_t place = down ? ahead : rowCount();
+    if (levelWish_->from) {
+        const auto known = placeOf(*levelWish_->from);
+        if (!known) return; // it was not asked yet; another view will have it
+        const bool shown = *known < rowCount() && indexRow(*known).place == levelWish_->from->place;
+        place = down && !shown ? *known - 1 : *known;
+    }
+    levelSearch_.emplace(view_, place, levelWish_->direction, levelWish_->level);
     levelSteps_.start(0);
 }
 
@@ -296,7 +318,11 @@ void Document::lookForLevel()
     });
     if (!done) return;
     levelSteps_.stop();
-    emit levelFound(levelSearch_->found());
+    // Where rows have not been asked yet, there may be one among them.
+    const auto found = levelSearch_->found();
+    if (!found && !view_->complete) return;
+    levelWish_.reset();
+    emit levelFound(found);
 }
 
 const Document::Block& Document::block(std::size_t number)
@@ -408,6 +434,14 @@ Document::placesOnShow(const std::vector<timeline::IndexRow>& rows)
                 places[row] = view_->placeOf(*number);
     });
     return places;
+}
+
+std::optional<std::pair<timeline::Moment, timeline::Moment>> Document::times()
+{
+    std::optional<std::pair<timeline::Moment, timeline::Moment>> times;
+    if (view_->order)
+        timeline_.look([&](const timeline::Timeline& rows) { times = view_->order->span(rows); });
+    return times;
 }
 
 std::size_t Document::placeFrom(timeline::Moment moment)

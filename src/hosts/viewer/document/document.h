@@ -90,7 +90,8 @@ public:
     const Hits* hits() const { return finding_ ? hits_.get() : nullptr; }
 
     /// Looks for the next row on show of a level, from the row next to a place on, and tells of it
-    /// by `levelFound`. What was looked for so before is given up.
+    /// by `levelFound`, over what else comes on show meanwhile. What was looked for so before is
+    /// given up.
     void findLevel(std::size_t place, Direction direction, std::int8_t level);
 
     /// What was counted of the last complete view; null before.
@@ -117,6 +118,10 @@ public:
     /// The places of rows, in their order; nothing for one that is not on show.
     std::vector<std::optional<std::size_t>>
     placesOnShow(const std::vector<timeline::IndexRow>& rows);
+
+    /// The moments of the first and the last of all rows that were read and have one, whether
+    /// they are on show or not; nothing for none.
+    std::optional<std::pair<timeline::Moment, timeline::Moment>> times();
 
     /// The place of the first row on show at a moment or later; `rowCount()` for none.
     std::size_t placeFrom(timeline::Moment moment);
@@ -187,6 +192,7 @@ private:
     void lookAtReading();
     void wish(bool anew);
     void findAgain(std::optional<std::size_t> same = std::nullopt);
+    void beginLevelSearch();
     void lookForLevel();
     void tell(const std::vector<std::string>& failures);
 
@@ -209,6 +215,13 @@ private:
     std::shared_ptr<const timeline::TextPattern> finding_; ///< null for nothing
     std::shared_ptr<const Hits> hits_;
     std::uint64_t findings_ = 0;
+    /// What `findLevel` was asked and has not told yet.
+    struct LevelWish {
+        std::optional<timeline::IndexRow> from; ///< unset for the end that it begins at
+        Direction direction;
+        std::int8_t level;
+    };
+    std::optional<LevelWish> levelWish_;
     std::optional<LevelSearch> levelSearch_;
     QTimer levelSteps_;
     std::uint64_t wishes_ = 0; ///< that were made for views

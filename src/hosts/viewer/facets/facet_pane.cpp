@@ -19,6 +19,11 @@ namespace viewer {
 namespace {
 
 constexpr int valueRole = Qt::UserRole;
+
+std::string valueOf(const QTreeWidgetItem& item)
+{
+    return item.data(0, valueRole).toString().toStdString();
+}
 constexpr int countColumn = 1;
 
 std::size_t facetOf(timeline::Column column)
@@ -71,7 +76,9 @@ FacetPane::FacetPane(Document& document, QWidget* parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(tree_);
     connect(tree_, &QTreeWidget::itemChanged, this, &FacetPane::takeTick);
-    connect(tree_, &QTreeWidget::itemActivated, this, &FacetPane::showOnly);
+    connect(tree_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
+        if (item->parent() != nullptr) showOnly(columnOf(*item), valueOf(*item));
+    });
     connect(tree_, &QWidget::customContextMenuRequested, this, &FacetPane::offerMenu);
     connect(&document_, &Document::countsChanged, this, &FacetPane::showCounts);
     connect(&document_, &Document::filterChanged, this, &FacetPane::showTicks);
@@ -168,20 +175,22 @@ void FacetPane::change(const std::function<void(RowFilter&)>& changing)
 void FacetPane::takeTick(QTreeWidgetItem* item)
 {
     if (filling_ || item->parent() == nullptr) return;
-    const auto facet = static_cast<std::size_t>(tree_->indexOfTopLevelItem(item->parent()));
-    const std::string value = item->data(0, valueRole).toString().toStdString();
     change([&](RowFilter& filter) {
-        filter.show(facetColumns[facet], value, item->checkState(0) == Qt::Checked);
+        filter.show(columnOf(*item), valueOf(*item), item->checkState(0) == Qt::Checked);
     });
 }
 
-/// Shows rows of the value alone, or of all values where it was alone already.
-void FacetPane::showOnly(QTreeWidgetItem* item)
+/// The column of a value, or that of a group of values.
+timeline::Column FacetPane::columnOf(const QTreeWidgetItem& item) const
 {
-    if (item->parent() == nullptr) return;
-    const auto facet = static_cast<std::size_t>(tree_->indexOfTopLevelItem(item->parent()));
-    const std::string value = item->data(0, valueRole).toString().toStdString();
-    const timeline::Column column = facetColumns[facet];
+    const QTreeWidgetItem* group = item.parent() != nullptr ? item.parent() : &item;
+    const auto found = std::find(groups_.begin(), groups_.end(), group);
+    return facetColumns[static_cast<std::size_t>(found - groups_.begin())];
+}
+
+/// Shows rows of the value alone, or of all values where it was alone already.
+void FacetPane::showOnly(timeline::Column column, const std::string& value)
+{
     change([&](RowFilter& filter) {
         RowFilter alone = filter;
         alone.showOnly(column, value);
@@ -196,15 +205,14 @@ void FacetPane::offerMenu(const QPoint& at)
 {
     QTreeWidgetItem* item = tree_->itemAt(at);
     if (item == nullptr) return;
+    const timeline::Column column = columnOf(*item);
     QMenu menu(this);
+    // Items go and come while the menu is open; values stay what they are.
     if (item->parent() != nullptr)
         connect(menu.addAction(tr("&Only This")), &QAction::triggered, this,
-                [this, item] { showOnly(item); });
-    const auto group = static_cast<std::size_t>(
-        tree_->indexOfTopLevelItem(item->parent() != nullptr ? item->parent() : item));
-    connect(menu.addAction(tr("Show &All Values")), &QAction::triggered, this, [this, group] {
-        change([&](RowFilter& filter) { filter.clear(facetColumns[group]); });
-    });
+                [this, column, value = valueOf(*item)] { showOnly(column, value); });
+    connect(menu.addAction(tr("Show &All Values")), &QAction::triggered, this,
+            [this, column] { change([&](RowFilter& filter) { filter.clear(column); }); });
     menu.exec(tree_->viewport()->mapToGlobal(at));
 }
 

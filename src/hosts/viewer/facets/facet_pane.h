@@ -37,8 +37,9 @@ private:
     void showCounts();
     void showTicks();
     void takeTick(QTreeWidgetItem* item);
-    void showOnly(QTreeWidgetItem* item);
+    void showOnly(timeline::Column column, const std::string& value);
     void offerMenu(const QPoint& at);
+    timeline::Column columnOf(const QTreeWidgetItem& item) const;
     void change(const std::function<void(RowFilter&)>& changing);
     void fill(std::size_t facet, const std::vector<timeline::Facet>& values);
 

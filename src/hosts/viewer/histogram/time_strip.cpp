@@ -153,12 +153,23 @@ void TimeStrip::showAllTimes()
 
 void TimeStrip::zoom(Moment around, bool in)
 {
-    const auto times = span();
-    if (!times) return;
+    const auto shown = span();
+    const auto all = document_.times();
+    if (!shown || !all) return;
+    // What was asked for last may be on its way yet.
+    const RowFilter& filter = document_.filter();
+    if (!in && !filter.since && !filter.until) return;
+    const Moment from = filter.since.value_or(shown->first);
+    const Moment to = filter.until.value_or(shown->second);
+    around = std::clamp(around, std::min(from, to), std::max(from, to));
     const auto scaled = [&](Moment end) {
         return in ? around + (end - around) / 2 : around + (end - around) * 2;
     };
-    narrow(scaled(times->first), scaled(times->second));
+    const Moment wideFrom = scaled(from);
+    const Moment wideTo = scaled(to);
+    // Times that leave nothing out are no condition.
+    if (wideFrom <= all->first && wideTo >= all->second) return showAllTimes();
+    narrow(wideFrom, wideTo);
 }
 
 void TimeStrip::mousePressEvent(QMouseEvent* event)
@@ -195,7 +206,13 @@ void TimeStrip::mouseDoubleClickEvent(QMouseEvent* event)
 void TimeStrip::wheelEvent(QWheelEvent* event)
 {
     if (event->angleDelta().y() == 0 || !span()) return;
-    zoom(momentAt(event->position().toPoint().x()), event->angleDelta().y() > 0);
+    // A touch pad tells many small turns where a wheel tells one.
+    turned_ += event->angleDelta().y();
+    while (std::abs(turned_) >= QWheelEvent::DefaultDeltasPerStep) {
+        const bool in = turned_ > 0;
+        turned_ -= in ? QWheelEvent::DefaultDeltasPerStep : -QWheelEvent::DefaultDeltasPerStep;
+        zoom(momentAt(event->position().toPoint().x()), in);
+    }
     event->accept();
 }
 

@@ -83,6 +83,7 @@ private:
     Document& document_;
     std::optional<timeline::Moment> current_;
     std::vector<std::uint32_t> hits_;
+    int turned_ = 0; ///< of the wheel, in eighths of a degree, since the last step
     std::vector<Flag> flags_;
     std::optional<int> pressed_; ///< where a drag began
     int pointer_ = 0;

@@ -231,7 +231,7 @@ void RowTable::reset()
 void RowTable::restore()
 {
     const int rows = rows_.rowCount();
-    if (rows == 0) return;
+    if (rows == 0) return emit currentPlaceChanged();
     restoring_ = true;
     Document& document = rows_.document();
     const auto indexOf = [&](const timeline::IndexRow& row) {

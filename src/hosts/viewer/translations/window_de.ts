@@ -224,7 +224,7 @@
         <translation>Zu den Zeilen einer Zeit gehen</translation>
     </message>
     <message>
-        <source>Next Boo&amp;kmark</source>
+        <source>Next Bookma&amp;rk</source>
         <translation>&amp;Nächstes Lesezeichen</translation>
     </message>
     <message>
@@ -894,6 +894,14 @@
         <translation>Filter</translation>
     </message>
     <message>
+        <source>without &quot;%1&quot;</source>
+        <translation>ohne „%1“</translation>
+    </message>
+    <message>
+        <source>with &quot;%1&quot;</source>
+        <translation>mit „%1“</translation>
+    </message>
+    <message>
         <source>%1 is not %2</source>
         <translation>%1 ist nicht %2</translation>
     </message>
@@ -1045,6 +1053,10 @@
 </context>
 <context>
     <name>viewer::MainWindow</name>
+    <message>
+        <source>The current row has no such value</source>
+        <translation>Die aktuelle Zeile hat keinen solchen Wert</translation>
+    </message>
     <message>
         <source>There is no further one</source>
         <translation>Es gibt keine weitere</translation>

@@ -224,7 +224,7 @@
         <translation>Ir a las filas de una hora</translation>
     </message>
     <message>
-        <source>Next Boo&amp;kmark</source>
+        <source>Next Bookma&amp;rk</source>
         <translation>Marcador si&amp;guiente</translation>
     </message>
     <message>
@@ -894,6 +894,14 @@
         <translation>Filtro</translation>
     </message>
     <message>
+        <source>without &quot;%1&quot;</source>
+        <translation>sin «%1»</translation>
+    </message>
+    <message>
+        <source>with &quot;%1&quot;</source>
+        <translation>con «%1»</translation>
+    </message>
+    <message>
         <source>%1 is not %2</source>
         <translation>%1 no es %2</translation>
     </message>
@@ -1045,6 +1053,10 @@
 </context>
 <context>
     <name>viewer::MainWindow</name>
+    <message>
+        <source>The current row has no such value</source>
+        <translation>La fila actual no tiene ese valor</translation>
+    </message>
     <message>
         <source>There is no further one</source>
         <translation>No hay más</translation>

@@ -224,7 +224,7 @@
         <translation>Aller aux lignes d&apos;une heure</translation>
     </message>
     <message>
-        <source>Next Boo&amp;kmark</source>
+        <source>Next Bookma&amp;rk</source>
         <translation>Signet suiva&amp;nt</translation>
     </message>
     <message>
@@ -894,6 +894,14 @@
         <translation>Filtre</translation>
     </message>
     <message>
+        <source>without &quot;%1&quot;</source>
+        <translation>sans « %1 »</translation>
+    </message>
+    <message>
+        <source>with &quot;%1&quot;</source>
+        <translation>avec « %1 »</translation>
+    </message>
+    <message>
         <source>%1 is not %2</source>
         <translation>%1 n&apos;est pas %2</translation>
     </message>
@@ -1045,6 +1053,10 @@
 </context>
 <context>
     <name>viewer::MainWindow</name>
+    <message>
+        <source>The current row has no such value</source>
+        <translation>La ligne actuelle n&apos;a pas une telle valeur</translation>
+    </message>
     <message>
         <source>There is no further one</source>
         <translation>Il n&apos;y en a pas d&apos;autre</translation>

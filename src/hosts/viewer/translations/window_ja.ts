@@ -224,7 +224,7 @@
         <translation>指定した時刻の行へ移動します</translation>
     </message>
     <message>
-        <source>Next Boo&amp;kmark</source>
+        <source>Next Bookma&amp;rk</source>
         <translation>次のブックマーク(&amp;K)</translation>
     </message>
     <message>
@@ -894,6 +894,14 @@
         <translation>フィルター</translation>
     </message>
     <message>
+        <source>without &quot;%1&quot;</source>
+        <translation>「%1」を含まない</translation>
+    </message>
+    <message>
+        <source>with &quot;%1&quot;</source>
+        <translation>「%1」を含む</translation>
+    </message>
+    <message>
         <source>%1 is not %2</source>
         <translation>%1 が %2 以外</translation>
     </message>
@@ -1045,6 +1053,10 @@
 </context>
 <context>
     <name>viewer::MainWindow</name>
+    <message>
+        <source>The current row has no such value</source>
+        <translation>現在の行にはこの値がありません</translation>
+    </message>
     <message>
         <source>There is no further one</source>
         <translation>これより先にはありません</translation>

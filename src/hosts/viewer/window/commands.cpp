@@ -78,7 +78,7 @@ const std::vector<CommandInfo>& Commands::all()
          QT_TR_NOOP("Go to the row of a warning before"), "Shift+F9", "", false, false},
         {C::goToTime, M::go, QT_TR_NOOP("&Time..."), QT_TR_NOOP("Go to the rows of a time"),
          "Ctrl+G", "", true, false},
-        {C::nextBookmark, M::go, QT_TR_NOOP("Next Boo&kmark"),
+        {C::nextBookmark, M::go, QT_TR_NOOP("Next Bookma&rk"),
          QT_TR_NOOP("Go to the next row with a bookmark or a note"), "F2", "", true, false},
         {C::previousBookmark, M::go, QT_TR_NOOP("Previo&us Bookmark"),
          QT_TR_NOOP("Go to the row with a bookmark or a note before"), "Shift+F2", "", false,

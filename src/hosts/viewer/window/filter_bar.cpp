@@ -14,12 +14,35 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <vector>
 
 namespace viewer {
 
 namespace {
 
 constexpr int typingPause = 200; ///< milliseconds
+
+/// The conditions that the two fields show: the first of either kind, as long as one setting of the
+/// boxes holds for both. Files may have more.
+struct FieldTexts {
+    QString with;
+    QString without;
+    std::vector<TextCondition> others;
+
+    explicit FieldTexts(const std::vector<TextCondition>& texts)
+    {
+        for (const TextCondition& text : texts) {
+            QString& field = text.excluded ? without : with;
+            const TextCondition& first = texts.front();
+            const bool fits = field.isEmpty() && text.expression == first.expression &&
+                              text.matchesCase == first.matchesCase;
+            if (fits)
+                field = text.text;
+            else
+                others.push_back(text);
+        }
+    }
+};
 
 } // namespace
 
@@ -94,6 +117,9 @@ QString FilterBar::summary() const
         parts << (choice.excluded ? tr("%1 is not %2") : tr("%1 is %2"))
                      .arg(column, values.isEmpty() ? tr("nothing") : values.join(tr(" or ")));
     }
+    for (const TextCondition& condition : FieldTexts(filter.texts).others)
+        parts << (condition.excluded ? tr("without \"%1\"") : tr("with \"%1\""))
+                     .arg(harmless(condition.text));
     if (filter.since) parts << tr("from %1").arg(clockText(*filter.since));
     if (filter.until) parts << tr("to %1").arg(clockText(*filter.until));
     if (!filter.macroTrace.isEmpty()) parts << filter.macroTrace;
@@ -104,17 +130,16 @@ void FilterBar::showFilter()
 {
     showing_ = true;
     const RowFilter& filter = document_.filter();
-    QString with;
-    QString without;
-    for (const TextCondition& condition : filter.texts) {
-        (condition.excluded ? without : with) = condition.text;
-        expression_->setChecked(condition.expression);
-        matchesCase_->setChecked(condition.matchesCase);
-    }
-    // What is just being typed is not typed over.
-    if (!wait_.isActive()) {
-        if (with_->text() != with) with_->setText(with);
-        if (without_->text() != without) without_->setText(without);
+    const FieldTexts texts(filter.texts);
+    if (filter.passesAll()) refused_ = false;
+    // What is just being typed is not typed over, nor what was refused.
+    if (!wait_.isActive() && !refused_) {
+        if (!filter.texts.empty()) {
+            expression_->setChecked(filter.texts.front().expression);
+            matchesCase_->setChecked(filter.texts.front().matchesCase);
+        }
+        if (with_->text() != texts.with) with_->setText(texts.with);
+        if (without_->text() != texts.without) without_->setText(texts.without);
         wait_.stop();
     }
     said_->setText(summary());
@@ -129,15 +154,20 @@ void FilterBar::takeTexts()
     wait_.stop();
     RowFilter filter = document_.filter();
     const std::vector<TextCondition> before = filter.texts;
-    filter.texts.clear();
+    filter.texts = FieldTexts(before).others;
+    const auto firstOthers = static_cast<std::ptrdiff_t>(filter.texts.size());
     for (const auto& [field, excluded] : {std::pair(with_, false), std::pair(without_, true)})
         if (!field->text().isEmpty())
             filter.texts.push_back(
                 {field->text(), expression_->isChecked(), matchesCase_->isChecked(), excluded});
+    // The first ones are those of the fields.
+    std::rotate(filter.texts.begin(), filter.texts.begin() + firstOthers, filter.texts.end());
+    refused_ = false;
     if (filter.texts == before) return;
     try {
         document_.setFilter(std::move(filter));
     } catch (const RunTimeError& error) {
+        refused_ = true;
         said_->setText(harmless(QString::fromStdString(error.description())));
     }
 }

@@ -48,7 +48,8 @@ private:
     QCheckBox* matchesCase_;
     ElidedLabel* said_;
     QToolButton* all_;
-    QTimer wait_; ///< until the person has stopped typing
+    QTimer wait_;          ///< until the person has stopped typing
+    bool refused_ = false; ///< whether what stands in the fields makes no sense
     bool showing_ = false;
 };
 

@@ -166,8 +166,7 @@ void MainWindow::connectParts()
     connect(findBar_, &FindBar::next, this, [this] { goToHit(Direction::down); });
     connect(findBar_, &FindBar::previous, this, [this] { goToHit(Direction::up); });
     connect(findBar_, &FindBar::closed, this, &MainWindow::endFind);
-    connect(&document_, &Document::hitsChanged, this,
-            [this] { findBar_->showHits(table_->currentPlace()); });
+    connect(&document_, &Document::hitsChanged, this, &MainWindow::hitsChanged);
     connect(&document_, &Document::levelFound, this, [this](std::optional<std::size_t> place) {
         if (place)
             table_->goTo(*place);
@@ -200,7 +199,8 @@ std::optional<timeline::Moment> MainWindow::currentMoment()
 {
     const auto place = table_->currentPlace();
     if (!place || *place >= document_.rowCount()) return std::nullopt;
-    return document_.row(*place).index.moment;
+    const timeline::Moment moment = document_.row(*place).index.moment;
+    return moment == timeline::noMoment ? std::nullopt : std::optional(moment);
 }
 
 /// Troubles come one by one, thousands of them within an event where no log can be read, and stand

@@ -108,6 +108,7 @@ private:
     void performGo(Command command);
     void performFilter(Command command);
     void goToHit(Direction direction);
+    void hitsChanged();
     void goToLevel(Direction direction, std::int8_t level);
     void performSaved(Command command);
     void performMarks(Command command);
@@ -132,6 +133,7 @@ private:
     void endFind();
     void currentChanged();
     void narrowToCurrent(timeline::Column column, bool hide);
+    std::size_t placeWithValues(std::size_t place);
     void zoomTimes(bool in);
     void changeFilter(const std::function<void(RowFilter&)>& changing);
     void showTexts();
@@ -181,8 +183,9 @@ private:
     QToolBar* toolBar_ = nullptr;
     SavedFilters savedFilters_;
     QStringList failures_;
-    QTimer failuresToSay_; ///< runs until those that came are on show
-    int textStep_ = 0;     ///< from the usual size of letters
+    QTimer failuresToSay_;               ///< runs until those that came are on show
+    std::optional<Direction> wishedHit_; ///< that is gone to once it is known
+    int textStep_ = 0;                   ///< from the usual size of letters
     std::map<Command, QAction*> actions_;
     std::map<CommandMenu, QMenu*> menus_;
 };

@@ -233,18 +233,31 @@ void MainWindow::performGo(Command command)
     }
 }
 
-/// Goes to the next hit that is known, and on from the other end.
+/// Goes to the next hit, and on from the other end. While rows are still looked through, one that
+/// is not known yet is waited for.
 void MainWindow::goToHit(Direction direction)
 {
     if (findBar_->isHidden()) return findBar_->start();
+    wishedHit_ = direction;
     const Hits* hits = document_.hits();
-    if (hits == nullptr || hits->rows.count() == 0) return;
-    const auto place = table_->currentPlace();
-    const std::size_t last = hits->rows.at(hits->rows.count() - 1);
-    if (direction == Direction::down)
-        table_->goTo(hits->rows.nextFrom(place ? *place + 1 : 0).value_or(hits->rows.at(0)));
-    else
-        table_->goTo(hits->rows.lastBefore(place.value_or(0)).value_or(last));
+    if (hits == nullptr) return;
+    const std::size_t place = table_->currentPlace().value_or(0);
+    const bool down = direction == Direction::down;
+    const bool known = down || hits->complete || place <= hits->rows.size();
+    std::optional<std::size_t> hit;
+    if (known)
+        hit = down ? hits->rows.nextFrom(table_->currentPlace() ? place + 1 : 0)
+                   : hits->rows.lastBefore(place);
+    if (!hit && !hits->complete) return;
+    wishedHit_.reset();
+    if (hits->rows.count() == 0) return;
+    table_->goTo(hit.value_or(hits->rows.at(down ? 0 : hits->rows.count() - 1)));
+}
+
+void MainWindow::hitsChanged()
+{
+    findBar_->showHits(table_->currentPlace());
+    if (wishedHit_) goToHit(*wishedHit_);
 }
 
 void MainWindow::goToLevel(Direction direction, std::int8_t level)
@@ -258,6 +271,7 @@ void MainWindow::goToLevel(Direction direction, std::int8_t level)
 
 void MainWindow::endFind()
 {
+    wishedHit_.reset();
     findBar_->hide();
     highlights_->setFound({});
     document_.find({});
@@ -293,7 +307,12 @@ void MainWindow::askForExport()
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters({tr("Comma-separated text (*.csv)"),
                            tr("JSON, an object a line (*.json)"), tr("Text (*.txt)")});
-    dialog.setDefaultSuffix(QStringLiteral("csv"));
+    const QStringList endings{QStringLiteral("csv"), QStringLiteral("json"), QStringLiteral("txt")};
+    dialog.setDefaultSuffix(endings.front());
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& chosen) {
+        dialog.setDefaultSuffix(
+            endings.value(dialog.nameFilters().indexOf(chosen), endings.front()));
+    });
     if (dialog.exec() == QDialog::Accepted) exportTo(dialog.selectedFiles().value(0));
 }
 
@@ -327,7 +346,24 @@ void MainWindow::changeFilter(const std::function<void(RowFilter&)>& changing)
 {
     RowFilter filter = document_.filter();
     changing(filter);
-    document_.setFilter(std::move(filter));
+    try {
+        document_.setFilter(std::move(filter));
+    } catch (const RunTimeError& error) {
+        sayFailure(QString::fromStdString(error.description()));
+    }
+}
+
+/// The place of the row that has the values of a line without a form: the one that the line belongs
+/// to, unless that is far away.
+std::size_t MainWindow::placeWithValues(std::size_t place)
+{
+    constexpr std::size_t mostLines = 1000;
+    std::size_t with = place;
+    for (std::size_t lines = 0; lines < mostLines && document_.row(with).belongs; ++lines) {
+        if (with == 0) return place;
+        --with;
+    }
+    return document_.row(with).belongs ? place : with;
 }
 
 /// Shows rows with the current row's value of a column alone, or hides them.
@@ -335,7 +371,9 @@ void MainWindow::narrowToCurrent(timeline::Column column, bool hide)
 {
     const auto place = table_->currentPlace();
     if (!place) return;
-    const std::string value = document_.value(*place, column);
+    const std::string value = document_.value(placeWithValues(*place), column);
+    if (value.empty())
+        return statusBar()->showMessage(tr("The current row has no such value"), 6000);
     changeFilter([&](RowFilter& filter) {
         if (hide)
             filter.show(column, value, false);

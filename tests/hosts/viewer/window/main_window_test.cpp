@@ -24,6 +24,7 @@
 #include <QStatusBar>
 #include <QTest>
 #include <QTreeWidget>
+#include <QWheelEvent>
 
 #include <gmock/gmock.h>
 
@@ -61,6 +62,18 @@ TEST_F(ViewerWindow, EveryCommandHasAKeyOfItsOwn)
         EXPECT_FALSE(key.isEmpty()) << info.text;
         EXPECT_TRUE(keys.insert(key).second) << info.text;
         EXPECT_FALSE(window.action(info.command).text().isEmpty());
+    }
+}
+
+TEST_F(ViewerWindow, NoTwoEntriesOfAMenuHaveOneLetter)
+{
+    std::set<std::pair<CommandMenu, QChar>> letters;
+    for (const CommandInfo& info : Commands::all()) {
+        const QString text = QString::fromUtf8(info.text);
+        const auto sign = text.indexOf(QLatin1Char('&'));
+        if (sign < 0) continue; // languages go by their own names
+        const QChar letter = text.at(sign + 1).toLower();
+        EXPECT_TRUE(letters.emplace(info.menu, letter).second) << info.text;
     }
 }
 
@@ -232,6 +245,140 @@ TEST_F(ViewerWindow, SavesAFilterByAName)
     window.saveFilter("../errors");
     settle();
     EXPECT_TRUE(window.notice().contains("can't be the name of a filter"));
+}
+
+TEST_F(ViewerWindow, TakesTheValuesOfALineWithoutAFormFromItsRow)
+{
+    open({logs.write("KoCSMgr",
+                     rawLine(1000, "A", 3, "a") + "second line\n" + rawLine(2000, "B", 1, "b"))});
+    window.table().goTo(1);
+    window.run(Command::onlyLevel);
+    ASSERT_TRUE(waitForRows(window.document()));
+    EXPECT_EQ(2, window.model().rowCount());
+    EXPECT_EQ("", window.notice());
+}
+
+TEST_F(ViewerWindow, SaysThatALineInFrontOfAllRowsHasNoLevel)
+{
+    open({logs.write("KoCSMgr", "no form\n" + rawLine(2000, "B", 1, "b"))});
+    window.table().goTo(0);
+    window.run(Command::onlyLevel);
+    window.run(Command::hideLevel);
+    EXPECT_EQ(2, window.model().rowCount());
+    EXPECT_EQ("The current row has no such value", window.statusBar()->currentMessage());
+}
+
+TEST_F(ViewerWindow, GoesToTheNextHitOnceItIsKnown)
+{
+    open({logs.writeRows("KoCSMgr", 100, 0, 1000)});
+    window.table().goTo(50);
+    window.run(Command::find);
+    window.findBar().text().setText("row 7");
+    QTest::keyClick(&window.findBar().text(), Qt::Key_Return);
+    EXPECT_TRUE(waitUntil([&] { return window.table().currentPlace() == 70u; }));
+}
+
+TEST_F(ViewerWindow, ASearchForAnErrorOutlivesAnotherView)
+{
+    open({logs.writeRows("KoCSMgr", 100, 0, 1000)});
+    window.table().goTo(50);
+    window.run(Command::nextError);
+    RowFilter filter;
+    filter.since = timeline::dayOf(2025, 2, 20) + 40'000;
+    window.document().setFilter(filter);
+    ASSERT_TRUE(waitForRows(window.document()));
+    EXPECT_TRUE(waitUntil([&] { return window.table().currentPlace() == 20u; }));
+    EXPECT_EQ("row 60", window.model().text(20, RowColumn::trace));
+}
+
+TEST_F(ViewerWindow, NarrowsTimesWhereTheCurrentRowHasNone)
+{
+    open({logs.write("KoCSMgr",
+                     "no form\n" + rawLine(1000, "A", 3, "a") + rawLine(9000, "B", 1, "b"))});
+    ASSERT_TRUE(waitUntil([&] { return window.timeStrip().span().has_value(); }));
+    window.table().goTo(0);
+    window.run(Command::narrowTimes);
+    const RowFilter& filter = window.document().filter();
+    const timeline::Moment day = timeline::dayOf(2025, 2, 20);
+    ASSERT_TRUE(filter.since && filter.until);
+    EXPECT_GT(*filter.since, day);
+    EXPECT_LT(*filter.until, day + 10'000);
+}
+
+TEST_F(ViewerWindow, TimesThatLeaveNothingOutAreNoCondition)
+{
+    open({logs.writeRows("KoCSMgr", 1000, 0, 1000)});
+    ASSERT_TRUE(waitUntil([&] { return window.timeStrip().span().has_value(); }));
+    window.table().goTo(500);
+    window.run(Command::narrowTimes);
+    window.run(Command::narrowTimes);
+    ASSERT_TRUE(waitForRows(window.document()));
+    EXPECT_NEAR(250, window.model().rowCount(), 10);
+    for (int times = 0; times < 3; ++times) window.run(Command::widenTimes);
+    EXPECT_TRUE(window.document().filter().passesAll());
+}
+
+TEST_F(ViewerWindow, AWheelsSmallTurnsMakeOneStep)
+{
+    open({logs.writeRows("KoCSMgr", 1000, 0, 1000)});
+    TimeStrip& times = window.timeStrip();
+    ASSERT_TRUE(waitUntil([&] { return times.span().has_value(); }));
+    const QPointF middle(times.width() / 2.0, 20);
+    const auto turn = [&] {
+        QWheelEvent event(middle, times.mapToGlobal(middle), {}, {0, 30}, Qt::NoButton, {},
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&times, &event);
+    };
+    for (int turns = 0; turns < 3; ++turns) turn();
+    EXPECT_TRUE(window.document().filter().passesAll());
+    turn();
+    const RowFilter& filter = window.document().filter();
+    ASSERT_TRUE(filter.since && filter.until);
+    EXPECT_NEAR(500'000, static_cast<double>(*filter.until - *filter.since), 20'000);
+}
+
+TEST_F(ViewerWindow, WhatATextFieldRefusedStaysInIt)
+{
+    open({logs.writeRows("KoCSMgr", 100, 0, 1000)});
+    window.run(Command::filter);
+    window.filterBar().expression().setChecked(true);
+    window.filterBar().with().setText("row (");
+    ASSERT_TRUE(waitUntil([&] { return window.filterBar().said().contains("("); }));
+    window.table().goTo(0);
+    window.run(Command::onlyLevel);
+    ASSERT_TRUE(waitForRows(window.document()));
+    EXPECT_EQ("row (", window.filterBar().with().text());
+    window.run(Command::showAll);
+    EXPECT_EQ("", window.filterBar().with().text());
+}
+
+TEST_F(ViewerWindow, KeepsTextsOfAFilterThatItsFieldsHaveNoRoomFor)
+{
+    open({logs.writeRows("KoCSMgr", 100, 0, 1000)});
+    RowFilter filter;
+    filter.texts = {{"row", false, false, false}, {"9", false, false, false}};
+    window.document().setFilter(filter);
+    ASSERT_TRUE(waitForRows(window.document()));
+    EXPECT_EQ(19, window.model().rowCount());
+    EXPECT_EQ("row", window.filterBar().with().text());
+    EXPECT_TRUE(window.filterBar().said().contains("with \"9\""));
+    window.filterBar().with().setText("row 1");
+    ASSERT_TRUE(waitUntil([&] { return window.model().rowCount() == 1; }));
+    EXPECT_EQ("row 19", window.model().text(0, RowColumn::trace));
+}
+
+TEST_F(ViewerWindow, ShowsNoDetailsOfARowThatIsGone)
+{
+    open({logs.writeRows("KoCSMgr", 100, 0, 1000)});
+    window.run(Command::details);
+    window.table().goTo(5);
+    RowFilter none;
+    none.showOnly(timeline::Column::component, "None");
+    window.document().setFilter(none);
+    ASSERT_TRUE(waitForRows(window.document()));
+    EXPECT_EQ(0, window.model().rowCount());
+    EXPECT_EQ("", window.details().trace().toPlainText());
+    EXPECT_FALSE(window.action(Command::copyValue).isEnabled());
 }
 
 TEST_F(ViewerWindow, GoesToATime)
