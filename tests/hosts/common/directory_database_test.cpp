@@ -14,9 +14,9 @@ namespace {
 
 constexpr const char* maximum = "System.LogMgr.MaxDiagnosticMegabytesSaved";
 
-class Host final : public ToolOnSite {
+class HostOfDatabase final : public ToolOnSite {
 public:
-    Host(const std::string& folder, SiteUse use, Desktop& desktop)
+    HostOfDatabase(const std::string& folder, SiteUse use, Desktop& desktop)
         : ToolOnSite(folder, "", HostFacts{}, use, desktop)
     {}
 
@@ -58,7 +58,7 @@ struct ToolOnServer : testing::Test {
 
 TEST_F(ToolOnServer, ReadsAValueWhoseConnectionTheServerEndedAsIfNothingHadHappened)
 {
-    Host host(folder.path(), SiteUse::look, desktop);
+    HostOfDatabase host(folder.path(), SiteUse::look, desktop);
     host.load();
     EXPECT_EQ("", host.databaseFailure());
     EXPECT_EQ(Value(400), mdlOrvanDatabase::GetConfigurationSetting(host.context(), maximum));
@@ -76,7 +76,7 @@ TEST_F(ToolOnServer, ReadsAValueWhoseConnectionTheServerEndedAsIfNothingHadHappe
 
 TEST_F(ToolOnServer, GivesUpReadingFromAServerThatStaysAway)
 {
-    Host host(folder.path(), SiteUse::look, desktop);
+    HostOfDatabase host(folder.path(), SiteUse::look, desktop);
     host.load();
     server().stop();
     EXPECT_EQ(Value(Null{}), mdlOrvanDatabase::GetConfigurationSetting(host.context(), maximum));
@@ -89,7 +89,7 @@ TEST_F(ToolOnServer, GivesUpReadingFromAServerThatStaysAway)
 
 TEST_F(ToolOnServer, AWriteToAConnectionThatTheServerEndedFailsAndIsOnlyLogged)
 {
-    Host host(folder.path(), SiteUse::look, desktop);
+    HostOfDatabase host(folder.path(), SiteUse::look, desktop);
     host.startChanges();
     host.load();
     mdlOrvanDatabase::SetFlags(host.context(), "Codec", -2147483647 - 1);
@@ -102,7 +102,7 @@ TEST_F(ToolOnServer, AWriteToAConnectionThatTheServerEndedFailsAndIsOnlyLogged)
 
 TEST_F(ToolOnServer, OneThatLooksWritesNothingThere)
 {
-    Host host(folder.path(), SiteUse::look, desktop);
+    HostOfDatabase host(folder.path(), SiteUse::look, desktop);
     host.load();
     mdlOrvanDatabase::SetFlags(host.context(), "Codec", 5);
     EXPECT_EQ("1", flags());

@@ -11,14 +11,14 @@
 
 namespace {
 
-class Host final : public ToolOnSite {
+class HostOfLanguages final : public ToolOnSite {
 public:
-    Host(const std::string& folder, Desktop& desktop)
+    HostOfLanguages(const std::string& folder, Desktop& desktop)
         : ToolOnSite(folder, "", HostFacts{}, SiteUse::change, desktop)
     {
         load();
     }
-    ~Host() { unload(); }
+    ~HostOfLanguages() { unload(); }
 
     std::string registryLanguage()
     {
@@ -44,7 +44,7 @@ struct LanguageMenuTest : testing::Test {
 
 TEST_F(LanguageMenuTest, IsEmptyForOneLanguageAlone)
 {
-    Host host(folder.path(), desktop);
+    HostOfLanguages host(folder.path(), desktop);
     const LanguageMenu menu = LanguageMenu::of(host);
 
     EXPECT_EQ("", menu.caption);
@@ -54,7 +54,7 @@ TEST_F(LanguageMenuTest, IsEmptyForOneLanguageAlone)
 TEST_F(LanguageMenuTest, ChoosesTheLanguageThatIsShownAtAPlace)
 {
     addLanguage("DEU", "1071 = Sprache w\xC3\xA4hlen\n");
-    Host host(folder.path(), desktop);
+    HostOfLanguages host(folder.path(), desktop);
     EXPECT_EQ("Select Language", LanguageMenu::of(host).caption);
     EXPECT_THAT(LanguageMenu::of(host).languages,
                 testing::ElementsAre("German (Germany)", "French (France)"));

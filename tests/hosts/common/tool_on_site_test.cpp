@@ -14,9 +14,9 @@ namespace {
 namespace fs = std::filesystem;
 
 /// A host without a face, on the site in a folder.
-class Host final : public ToolOnSite {
+class HostOfSite final : public ToolOnSite {
 public:
-    Host(const std::string& folder, SiteUse use, Desktop& desktop)
+    HostOfSite(const std::string& folder, SiteUse use, Desktop& desktop)
         : ToolOnSite(folder, "", HostFacts{}, use, desktop)
     {}
 
@@ -45,14 +45,14 @@ struct ToolOnSiteTest : testing::Test {
 TEST_F(ToolOnSiteTest, ALookLeavesNothingAndAChangeItsLog)
 {
     {
-        Host host(folder.path(), SiteUse::look, desktop);
+        HostOfSite host(folder.path(), SiteUse::look, desktop);
         EXPECT_TRUE(host.looksOnly());
         host.load();
         host.unload();
     }
     EXPECT_THAT(contents(), testing::ElementsAre("drive_c"));
     {
-        Host host(folder.path(), SiteUse::look, desktop);
+        HostOfSite host(folder.path(), SiteUse::look, desktop);
         host.startChanges();
         EXPECT_FALSE(host.looksOnly());
         host.load();
@@ -63,7 +63,7 @@ TEST_F(ToolOnSiteTest, ALookLeavesNothingAndAChangeItsLog)
 
 TEST_F(ToolOnSiteTest, TellsWhyTheDatabaseCouldNotBeOpened)
 {
-    Host host(folder.path(), SiteUse::look, desktop);
+    HostOfSite host(folder.path(), SiteUse::look, desktop);
     EXPECT_EQ("", host.databaseFailure());
     host.load();
     EXPECT_NE("", host.databaseFailure());
@@ -72,7 +72,7 @@ TEST_F(ToolOnSiteTest, TellsWhyTheDatabaseCouldNotBeOpened)
 
 TEST_F(ToolOnSiteTest, AContextThatWasForgottenHasNothingOfTheOneBefore)
 {
-    Host host(folder.path(), SiteUse::look, desktop);
+    HostOfSite host(folder.path(), SiteUse::look, desktop);
     host.context().g_strLogFolder = "C:\\Elsewhere";
     host.forgetContext();
     EXPECT_EQ("", host.context().g_strLogFolder);
@@ -80,7 +80,7 @@ TEST_F(ToolOnSiteTest, AContextThatWasForgottenHasNothingOfTheOneBefore)
 
 TEST_F(ToolOnSiteTest, UnloadsOnceAndWithoutATurnThatDoesNotCome)
 {
-    Host host(folder.path(), SiteUse::look, desktop);
+    HostOfSite host(folder.path(), SiteUse::look, desktop);
     int asked = 0;
     const auto refused = [&]() -> HeldTurn {
         ++asked;
@@ -98,7 +98,7 @@ TEST_F(ToolOnSiteTest, IsWritableWithTheRightsThatTheProcessActsWith)
 {
     if (geteuid() != 0) GTEST_SKIP() << "needs two persons";
     fs::permissions(folder.path(), fs::perms(0755));
-    Host host(folder.path(), SiteUse::look, desktop);
+    HostOfSite host(folder.path(), SiteUse::look, desktop);
     EXPECT_TRUE(host.writable());
     ASSERT_EQ(0, seteuid(65534));
     EXPECT_FALSE(host.writable());

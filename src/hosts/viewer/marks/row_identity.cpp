@@ -15,7 +15,7 @@ namespace {
 constexpr qsizetype hashDigits = 16;
 constexpr qsizetype longestTrace = 160;
 
-[[noreturn]] void refuse(const char* what)
+[[noreturn]] void refuseIdentity(const char* what)
 {
     throw RunTimeError(runTimeErrors::invalidCall, what);
 }
@@ -26,10 +26,10 @@ timeline::Moment momentOf(const QString& text)
     static const QRegularExpression form(QStringLiteral(
         "^([0-9]{4})-([0-9]{2})-([0-9]{2})T([0-9]{2}):([0-9]{2}):([0-9]{2})\\.([0-9]{3})$"));
     const auto match = form.match(text);
-    if (!match.hasMatch()) refuse("the time of a row is no time");
+    if (!match.hasMatch()) refuseIdentity("the time of a row is no time");
     const auto part = [&](int number) { return match.captured(number).toInt(); };
     if (part(2) < 1 || part(2) > 12 || part(3) < 1 || part(3) > 31)
-        refuse("the day of a row is no day");
+        refuseIdentity("the day of a row is no day");
     constexpr timeline::Moment second = 1000;
     constexpr timeline::Moment minute = 60 * second;
     constexpr timeline::Moment hour = 60 * minute;
@@ -62,13 +62,14 @@ RowIdentity RowIdentity::ofJson(const QJsonObject& json)
     static const QRegularExpression digits(QStringLiteral("^[0-9a-f]{16}$"));
     RowIdentity identity;
     const QJsonValue source = json.value(QStringLiteral("file"));
-    if (!source.isString()) refuse("a row has no file");
+    if (!source.isString()) refuseIdentity("a row has no file");
     identity.source = source.toString();
     const qint64 line = json.value(QStringLiteral("line")).toInteger(-1);
-    if (line < 0 || line > std::numeric_limits<std::uint32_t>::max()) refuse("a row has no line");
+    if (line < 0 || line > std::numeric_limits<std::uint32_t>::max())
+        refuseIdentity("a row has no line");
     identity.line = static_cast<std::uint32_t>(line);
     identity.hash = json.value(QStringLiteral("hash")).toString();
-    if (!digits.match(identity.hash).hasMatch()) refuse("a row has no hash");
+    if (!digits.match(identity.hash).hasMatch()) refuseIdentity("a row has no hash");
     if (json.contains(QStringLiteral("time")))
         identity.moment = momentOf(json.value(QStringLiteral("time")).toString());
     identity.trace = json.value(QStringLiteral("trace")).toString().left(longestTrace);
