@@ -1,5 +1,6 @@
 #include "hosts/viewer/marks/marks.h"
 
+#include "hosts/viewer/marks/notes_file.h"
 #include "hosts/viewer/support/test_logs.h"
 #include "support/windows/test_application.h"
 
@@ -162,7 +163,8 @@ TEST_F(MarksOfRows, OfTwoViewersComeTogether)
     one->marks.toggleBookmark(1);
     other->marks.toggleBookmark(2);
     one->marks.toggleBookmark(3);
-    ASSERT_TRUE(waitUntil([&] { return one->places().size() + other->places().size() >= 4; }));
+    const NotesFile file(log.toStdString(), (logs.folder() + "/own").toStdString());
+    ASSERT_TRUE(waitUntil([&] { return file.read().notes.size() == 3; }));
     other->setText(4, "x");
     ASSERT_TRUE(other->waitForMarks(4));
     EXPECT_EQ((Places{1, 2, 3, 4}), other->places());
