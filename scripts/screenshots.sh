@@ -28,7 +28,7 @@ install_missing "${build_packages[@]}" "${desktop_packages[@]}" "${test_packages
   fontconfig fonts-dejavu-core fonts-ipafont-gothic imagemagick xauth xvfb
 [ -n "$(fc-list :lang=ja)" ] ||
   say "no font has Japanese letters: install fonts-ipafont-gothic, or boxes stand in their places"
-build_preset "$preset" orvandiag orvandiag-console console_pictures orvan_data
+build_preset "$preset" orvandiag orvandiag-console orvandiag-viewer console_pictures orvan_data
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -56,6 +56,13 @@ log=$(basename "$(ls "$logs"/diag_KoCSMgr_*.txt | grep -v _fmtd | tail -n 1)")
 mkdir -p docs/images
 console console --theme light --show "$log"
 console console-dark --theme dark --show "Static Node"
+# The hour that the user guide leads from a complaint to its cause in.
+"$bin/orvandiag" sample "$work/voice01" --fields extended > "$work/sample.txt"
+"$bin/orvandiag" --site "$work/voice01" gather frame --from "2025-02-20 13:00" --hours 1 \
+  --to "$work/case" > "$work/gathered.txt"
+display "$bin/orvandiag-viewer" --screenshot "$work/viewer.png" --size 1180x720 --theme light \
+  "$work/case"/*.mdb
+small "$work/viewer.png" docs/images/viewer.png
 display "$bin/console_pictures" "$work/pages" --language ENU --theme light \
   --only gather-3-time-frame
 small "$work/pages/ENU-light/gather-3-time-frame.png" docs/images/wizard.png
