@@ -92,9 +92,10 @@ QString textHash(const timeline::Record& record)
     if (!record.whole.empty()) {
         add(record.whole);
     } else {
+        const std::string number = std::to_string(record.traceNumber);
         for (const std::string_view field :
-             {record.timeStamp, record.source, std::string_view(std::to_string(record.traceNumber)),
-              record.component, record.trace}) {
+             {record.timeStamp, record.source, std::string_view(number), record.component,
+              record.trace}) {
             add(field);
             add("\n");
         }
