@@ -6,11 +6,13 @@
 #include "hosts/common/look/theme.h"
 #include "hosts/common/look/window_start.h"
 #include "hosts/common/places.h"
+#include "hosts/viewer/session/session_keeper.h"
 #include "hosts/viewer/window/main_window.h"
 #include "hosts/viewer/window/viewer_options.h"
 
 #include <QApplication>
 #include <QSettings>
+#include <QStandardPaths>
 
 #include <exception>
 #include <memory>
@@ -54,7 +56,8 @@ int run(const ViewerOptions& options, const std::function<void(MainWindow&)>& op
                                      ? settings.value(QStringLiteral("window/theme")).toString()
                                      : options.theme));
     QApplication::setWindowIcon(toolIcon(QStringLiteral("viewer")));
-    MainWindow window(settings);
+    MainWindow window(settings, QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    window.session().setRestoring(!options.fresh);
     if (options.size) window.resize(*options.size);
     window.show();
     window.document().follow(options.follow);

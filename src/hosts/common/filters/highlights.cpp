@@ -31,6 +31,20 @@ bool Highlights::keep(const TextCondition& text)
     return true;
 }
 
+void Highlights::setKept(const std::vector<Kept>& kept)
+{
+    kept_.clear();
+    for (const Kept& one : kept) {
+        const auto same = [&](const Kept& other) {
+            return other.colour == one.colour || other.text == one.text;
+        };
+        if (!one.text.text.isEmpty() && one.colour < most &&
+            std::none_of(kept_.begin(), kept_.end(), same))
+            kept_.push_back(one);
+    }
+    renew();
+}
+
 void Highlights::letGo(std::size_t colour)
 {
     std::erase_if(kept_, [&](const Kept& kept) { return kept.colour == colour; });

@@ -37,6 +37,10 @@ public:
     };
     const std::vector<Kept>& kept() const { return kept_; }
 
+    /// Keeps these texts in the place of those of before; one without a colour of its own, or
+    /// without letters, is left out.
+    void setKept(const std::vector<Kept>& kept);
+
     /// A part of a text that is marked, and its colour; `most` for the text that is looked for.
     struct Mark {
         qsizetype begin = 0;

@@ -36,6 +36,7 @@ void Marks::takeSources()
 {
     const std::vector<SourceHome>& homes = document_.homes();
     for (; knownSources_ < homes.size(); ++knownSources_) {
+        if (homes[knownSources_].name.empty()) return; // it is told of behind a later one
         const std::string& path = homes[knownSources_].file;
         soughtIn_.reset(); // a note may be of this source, too
         if (books_.contains(path)) continue;
@@ -96,7 +97,14 @@ void Marks::index()
 const Note* Marks::of(const IndexRow& row) const
 {
     const auto known = byPlace_.find(row.place);
-    return known == byPlace_.end() ? nullptr : &known->second.first->notes[known->second.second];
+    if (known == byPlace_.end()) return nullptr;
+    const auto& [book, note] = known->second;
+    // A log that was cut off may have another row at the place by now.
+    const auto same = [&](const IndexRow& other) {
+        return other.place == row.place && other.moment == row.moment && other.line == row.line;
+    };
+    const auto& rows = book->rows[note];
+    return std::any_of(rows.begin(), rows.end(), same) ? &book->notes[note] : nullptr;
 }
 
 QString Marks::remark(const IndexRow& row) const
@@ -122,19 +130,12 @@ bool Marks::edit(const IndexRow& row, bool bookmark, const QString& text)
     if (const Note* note = of(row)) {
         edit.before = *note;
     } else {
-        const QString source = QString::fromStdString(document_.homes()[row.source()].name);
-        bool read = true;
-        document_.timeline().look([&](const timeline::Timeline& rows) {
-            try {
-                timeline::Record record;
-                rows.record(row, record);
-                edit.before.row = identityOf(source, row, record);
-            } catch (const RunTimeError& error) {
-                say(QString::fromStdString(error.description()));
-                read = false;
-            }
-        });
-        if (!read) return false;
+        try {
+            edit.before.row = identityIn(document_, row);
+        } catch (const RunTimeError& error) {
+            say(harmless(QString::fromStdString(error.description())));
+            return false;
+        }
     }
     edit.after = {edit.before.row, bookmark, text};
     change(*book, {edit});
@@ -253,12 +254,8 @@ void Marks::findMissing()
     for (const auto& [path, book] : books_)
         for (std::size_t note = 0; note < book.notes.size(); ++note) {
             if (!book.rows[note].empty()) continue;
-            WantedRow row{wanted.size(), book.notes[note].row, {}};
-            for (std::size_t source = 0; source < document_.homes().size(); ++source)
-                if (const SourceHome& home = document_.homes()[source];
-                    home.file == path && QString::fromStdString(home.name) == row.identity.source)
-                    row.sources.push_back(static_cast<timeline::SourceNumber>(source));
-            wanted.push_back(std::move(row));
+            const RowIdentity& row = book.notes[note].row;
+            wanted.push_back({wanted.size(), row, sourcesOf(document_, path, row.source)});
             paths.push_back(path);
         }
     soughtIn_ = order;

@@ -85,6 +85,30 @@ void findByLine(SharedTimeline& timeline, SourceNumber source, const ByLine& wan
 
 } // namespace
 
+std::vector<SourceNumber> sourcesOf(const Document& document, const std::string& file,
+                                    const QString& name)
+{
+    std::vector<SourceNumber> sources;
+    for (std::size_t source = 0; source < document.homes().size(); ++source)
+        if (const SourceHome& home = document.homes()[source];
+            home.file == file && QString::fromStdString(home.name) == name)
+            sources.push_back(static_cast<SourceNumber>(source));
+    return sources;
+}
+
+RowIdentity identityIn(Document& document, const IndexRow& row)
+{
+    if (row.source() >= document.homes().size()) throw RunTimeError(runTimeErrors::deviceIo);
+    const QString name = QString::fromStdString(document.homes()[row.source()].name);
+    RowIdentity identity;
+    document.timeline().look([&](const Timeline& rows) {
+        timeline::Record record;
+        rows.record(row, record);
+        identity = identityOf(name, row, record);
+    });
+    return identity;
+}
+
 std::vector<FoundRow> findRows(SharedTimeline& timeline, const std::vector<WantedRow>& wanted,
                                bool everyLine, const NewestTask::GivenUp& givenUp)
 {

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "hosts/viewer/document/document.h"
 #include "hosts/viewer/document/newest_task.h"
-#include "hosts/viewer/document/shared_timeline.h"
 #include "hosts/viewer/marks/row_identity.h"
 
 #include <cstddef>
+#include <string>
 #include <vector>
 
 namespace viewer {
@@ -15,6 +16,14 @@ struct WantedRow {
     RowIdentity identity;
     std::vector<timeline::SourceNumber> sources;
 };
+
+/// The sources of a document that have the rows of a file by a name, such as a cabinet's member.
+std::vector<timeline::SourceNumber> sourcesOf(const Document& document, const std::string& file,
+                                              const QString& name);
+
+/// The identity of a row of a document. Raises what reading the row raises, and 57 for one of no
+/// source that is known.
+RowIdentity identityIn(Document& document, const timeline::IndexRow& row);
 
 struct FoundRow {
     std::size_t number = 0;

@@ -30,6 +30,10 @@ const std::vector<CommandInfo>& Commands::all()
         {C::exportRows, M::file, QT_TR_NOOP("&Export..."),
          QT_TR_NOOP("Write the rows on show to a file: CSV, JSON or text"), "Ctrl+E", "", true,
          false},
+        {C::startAfresh, M::file, QT_TR_NOOP("Start &Afresh"),
+         QT_TR_NOOP("Show all rows and first columns, and forget how these sources were seen last; "
+                    "bookmarks and notes stay"),
+         "Ctrl+Shift+R", "", false, false},
         {C::stop, M::file, QT_TR_NOOP("&Stop Reading"),
          QT_TR_NOOP("End what is being opened or read; the rows so far stay"), "Ctrl+.", "", true,
          false},

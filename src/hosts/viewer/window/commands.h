@@ -11,6 +11,7 @@ enum class Command {
     openFiles,
     openFolder,
     exportRows,
+    startAfresh,
     stop,
     quit,
     copy,

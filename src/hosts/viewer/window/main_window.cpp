@@ -13,6 +13,7 @@
 #include "hosts/viewer/histogram/strip_marks.h"
 #include "hosts/viewer/histogram/time_strip.h"
 #include "hosts/viewer/marks/mark_list.h"
+#include "hosts/viewer/session/session_keeper.h"
 #include "hosts/viewer/window/filter_bar.h"
 
 #include <QActionGroup>
@@ -44,7 +45,6 @@ const QString detailsKey = QStringLiteral("window/details");
 constexpr int firstPaneWidth = 210;
 constexpr int firstDetailsHeight = 150;
 constexpr int progressSteps = 1000;
-constexpr int mostFailures = 5; ///< that the notice names
 
 /// The paths of this machine among what is dragged.
 QStringList pathsOf(const QMimeData& dragged)
@@ -68,6 +68,7 @@ MainWindow::MainWindow(QSettings& settings, const QString& dataFolder, QWidget* 
     chooseFirstLanguage();
     makePanes();
     makeMarks();
+    makeSession();
     makeActions();
     makeToolBar();
     makeStatusBar();
@@ -213,12 +214,7 @@ void MainWindow::sayFailure(const QString& sentence)
 
 void MainWindow::sayFailures()
 {
-    notice_->say([this] {
-        QStringList lines = failures_.mid(0, mostFailures);
-        if (failures_.size() > mostFailures)
-            lines << tr("and %1 more").arg(failures_.size() - mostFailures);
-        return lines.join(QLatin1Char('\n'));
-    });
+    showNotice();
     updateStatus();
 }
 
@@ -275,8 +271,8 @@ void MainWindow::updateActions()
     action(Command::exportRows).setEnabled(rows && export_ == nullptr);
     action(Command::copyValue).setEnabled(current && !details_->isHidden());
     for (QAction* made : menus_[CommandMenu::go]->actions()) made->setEnabled(rows);
-    for (const Command command :
-         {Command::filter, Command::narrowTimes, Command::widenTimes, Command::otherPane})
+    for (const Command command : {Command::filter, Command::narrowTimes, Command::widenTimes,
+                                  Command::otherPane, Command::startAfresh})
         action(command).setEnabled(document_.hasSources());
     menus_[CommandMenu::only]->setEnabled(current);
     menus_[CommandMenu::hide]->setEnabled(current);
@@ -302,6 +298,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
     settings_.setValue(rowsKey, rowsAndDetails_->saveState());
     settings_.setValue(detailsKey, !details_->isHidden());
     rememberCalls();
+    session_->save();
     document_.cancel();
     QMainWindow::closeEvent(event);
 }

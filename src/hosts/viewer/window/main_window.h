@@ -36,6 +36,7 @@ class FindBar;
 class FollowBar;
 class MarkList;
 class Marks;
+class SessionKeeper;
 class StripMarks;
 class RowExport;
 class TimeStrip;
@@ -63,6 +64,7 @@ public:
     Marks& marks() { return *marks_; }
     MarkList& markList() { return *markList_; }
     CallTabs& callTabs() { return *callTabs_; }
+    SessionKeeper& session() { return *session_; }
 
     /// The notice on show; the empty text for none.
     QString notice() const;
@@ -123,6 +125,9 @@ private:
     void showThisCall();
     void updateCallActions();
     void rememberCalls();
+    void makeSession();
+    void showNotice();
+    QString noticeText() const;
     void offerMacroTraces();
     void offerSavedFilters();
     void askForFilterName();
@@ -160,6 +165,7 @@ private:
     std::unique_ptr<Marks> marks_;
     std::unique_ptr<StripMarks> stripMarks_;
     std::unique_ptr<Calls> calls_; ///< which works on the document until it goes
+    std::unique_ptr<SessionKeeper> session_;
     RowModel* model_ = nullptr;
     RowTable* table_ = nullptr;
     FacetPane* facets_ = nullptr;

@@ -2,6 +2,7 @@
 #include "hosts/viewer/histogram/strip_marks.h"
 #include "hosts/viewer/marks/mark_gutter.h"
 #include "hosts/viewer/marks/mark_list.h"
+#include "hosts/viewer/session/session_keeper.h"
 #include "hosts/viewer/window/main_window.h"
 
 #include <QDialogButtonBox>
@@ -52,6 +53,9 @@ void MainWindow::performMarks(Command command)
         return statusBar()->showMessage(tr("No row has a bookmark any more."), toldFor);
     case Command::note:
         return askForNote();
+    case Command::startAfresh:
+        session_->startAfresh();
+        return updateActions();
     case Command::markList:
         markList_->show();
         markList_->raise();

@@ -30,6 +30,8 @@ void declare(QCommandLineParser& parser)
         {{QStringLiteral("v"), QStringLiteral("version")}, QStringLiteral("Show the version.")},
         {QStringLiteral("follow"), QStringLiteral("Show what comes to logs as they grow.")},
         option("db", "A trace database to open.", "DATABASE"),
+        {QStringLiteral("fresh"),
+         QStringLiteral("Show all rows, not what was on show when the sources were open last.")},
         option("theme", "Look: system, light or dark.", "NAME"),
         option("size", "Size of the window, such as 1280x760.", "WIDTHxHEIGHT"),
         option("screenshot", "Write a picture of the window and end.", "FILE"),
@@ -59,6 +61,7 @@ std::variant<ViewerOptions, NoWindow> viewerOptionsOf(const QStringList& argumen
         return refused(QStringLiteral("an empty name leads to no source"));
     options.follow = parser.isSet(QStringLiteral("follow"));
     options.theme = parser.value(QStringLiteral("theme"));
+    options.fresh = parser.isSet(QStringLiteral("fresh"));
     options.screenshot = parser.value(QStringLiteral("screenshot"));
     if (parser.isSet(QStringLiteral("theme")) && !windowStart::isTheme(options.theme))
         return refused(

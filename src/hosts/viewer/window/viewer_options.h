@@ -18,6 +18,7 @@ struct ViewerOptions {
     QString screenshot;  ///< a file for a picture of the window, after which the program ends
     std::optional<QSize> size;
     bool follow = false; ///< whether logs are followed from the beginning
+    bool fresh = false;  ///< sources are not shown as they were seen last
 };
 
 /// Reads a command line, the program's name first. Needs an application object of any kind.

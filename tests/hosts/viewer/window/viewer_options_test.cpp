@@ -28,7 +28,9 @@ TEST(ViewerOptions, TakesDatabasesAndSources)
     EXPECT_EQ(QStringList({"x.mdb", "a.txt", "-", "logs"}), options.sources);
     EXPECT_EQ("dark", options.theme);
     EXPECT_EQ(QSize(900, 600), options.size);
+    EXPECT_FALSE(options.fresh);
     EXPECT_THAT(std::get<ViewerOptions>(read({})).sources, testing::IsEmpty());
+    EXPECT_TRUE(std::get<ViewerOptions>(read({"--fresh", "a.txt"})).fresh);
 }
 
 TEST(ViewerOptions, WrongUsageIsOneLineAndStatusTwo)
