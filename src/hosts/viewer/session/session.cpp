@@ -14,7 +14,7 @@ namespace viewer {
 
 namespace {
 
-constexpr int version = 1;
+constexpr int sessionVersion = 1;
 constexpr int leastWidth = 24;
 constexpr int mostWidth = 4000;
 const QString versionKey = QStringLiteral("version");
@@ -119,7 +119,7 @@ std::optional<RowPlace> placeOfJson(const QJsonObject& json)
 
 QByteArray toJson(const Session& session)
 {
-    QJsonObject json{{versionKey, version},
+    QJsonObject json{{versionKey, sessionVersion},
                      {filterKey, session.filter.toJson()},
                      {columnsKey, toJson(session.columns)},
                      {keptKey, toJson(session.kept)}};
@@ -136,7 +136,7 @@ Session sessionOfJson(const QByteArray& bytes)
     QJsonParseError error{};
     const QJsonObject json = QJsonDocument::fromJson(bytes, &error).object();
     Session session;
-    if (json.value(versionKey).toInt() != version) return session;
+    if (json.value(versionKey).toInt() != sessionVersion) return session;
     if (auto filter = partOf([&] { return RowFilter::ofJson(json.value(filterKey).toObject()); }))
         session.filter = std::move(*filter);
     session.columns = columnsOfJson(json.value(columnsKey).toArray());

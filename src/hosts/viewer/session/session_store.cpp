@@ -10,7 +10,7 @@ namespace viewer {
 namespace {
 
 const QString ending = QStringLiteral(".json");
-constexpr qint64 largestFile = 1'000'000;
+constexpr qint64 largestSessionFile = 1'000'000;
 
 } // namespace
 
@@ -31,8 +31,8 @@ QString SessionStore::fileOf(const QStringList& paths) const
 std::optional<Session> SessionStore::read(const QStringList& paths) const
 {
     QFile file(fileOf(paths));
-    if (file.size() > largestFile || !file.open(QIODevice::ReadOnly)) return std::nullopt;
-    return sessionOfJson(file.read(largestFile));
+    if (file.size() > largestSessionFile || !file.open(QIODevice::ReadOnly)) return std::nullopt;
+    return sessionOfJson(file.read(largestSessionFile));
 }
 
 void SessionStore::write(const QStringList& paths, const Session& session) const

@@ -4,6 +4,14 @@
 <context>
     <name>Commands</name>
     <message>
+        <source>Show all rows and first columns, and forget how these sources were seen last; bookmarks and notes stay</source>
+        <translation>Alle Zeilen und die anfänglichen Spalten zeigen und vergessen, wie diese Quellen zuletzt zu sehen waren; Lesezeichen und Notizen bleiben</translation>
+    </message>
+    <message>
+        <source>Start &amp;Afresh</source>
+        <translation>&amp;Neu beginnen</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>&amp;Datei</translation>
     </message>
@@ -1053,6 +1061,10 @@
 </context>
 <context>
     <name>viewer::MainWindow</name>
+    <message>
+        <source>The filter of last time is on and hides rows; Ctrl+Shift+A shows all.</source>
+        <translation>Der Filter vom letzten Mal gilt und blendet Zeilen aus; Strg+Umschalt+A zeigt alle.</translation>
+    </message>
     <message>
         <source>The current row has no such value</source>
         <translation>Die aktuelle Zeile hat keinen solchen Wert</translation>

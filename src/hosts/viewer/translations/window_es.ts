@@ -4,6 +4,14 @@
 <context>
     <name>Commands</name>
     <message>
+        <source>Show all rows and first columns, and forget how these sources were seen last; bookmarks and notes stay</source>
+        <translation>Mostrar todas las filas y las columnas iniciales, y olvidar cómo se veían estas fuentes; los marcadores y las notas se conservan</translation>
+    </message>
+    <message>
+        <source>Start &amp;Afresh</source>
+        <translation>Empezar de &amp;nuevo</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>&amp;Archivo</translation>
     </message>
@@ -1053,6 +1061,10 @@
 </context>
 <context>
     <name>viewer::MainWindow</name>
+    <message>
+        <source>The filter of last time is on and hides rows; Ctrl+Shift+A shows all.</source>
+        <translation>El filtro de la última vez está activo y oculta filas; Ctrl+Mayús+A las muestra todas.</translation>
+    </message>
     <message>
         <source>The current row has no such value</source>
         <translation>La fila actual no tiene ese valor</translation>

@@ -4,6 +4,14 @@
 <context>
     <name>Commands</name>
     <message>
+        <source>Show all rows and first columns, and forget how these sources were seen last; bookmarks and notes stay</source>
+        <translation>Montrer toutes les lignes et les colonnes du début, et oublier comment ces sources étaient présentées ; les signets et les notes restent</translation>
+    </message>
+    <message>
+        <source>Start &amp;Afresh</source>
+        <translation>Recommencer à &amp;neuf</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>&amp;Fichier</translation>
     </message>
@@ -1053,6 +1061,10 @@
 </context>
 <context>
     <name>viewer::MainWindow</name>
+    <message>
+        <source>The filter of last time is on and hides rows; Ctrl+Shift+A shows all.</source>
+        <translation>Le filtre de la dernière fois est appliqué et masque des lignes ; Ctrl+Maj+A les montre toutes.</translation>
+    </message>
     <message>
         <source>The current row has no such value</source>
         <translation>La ligne actuelle n&apos;a pas une telle valeur</translation>

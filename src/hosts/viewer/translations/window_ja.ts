@@ -4,6 +4,14 @@
 <context>
     <name>Commands</name>
     <message>
+        <source>Show all rows and first columns, and forget how these sources were seen last; bookmarks and notes stay</source>
+        <translation>すべての行と初めの列を表示し、これらのソースの前回の表示を忘れます。ブックマークとメモは残ります</translation>
+    </message>
+    <message>
+        <source>Start &amp;Afresh</source>
+        <translation>最初からやり直す(&amp;A)</translation>
+    </message>
+    <message>
         <source>&amp;File</source>
         <translation>ファイル(&amp;F)</translation>
     </message>
@@ -1053,6 +1061,10 @@
 </context>
 <context>
     <name>viewer::MainWindow</name>
+    <message>
+        <source>The filter of last time is on and hides rows; Ctrl+Shift+A shows all.</source>
+        <translation>前回のフィルターが有効で、隠れている行があります。Ctrl+Shift+A ですべて表示します。</translation>
+    </message>
     <message>
         <source>The current row has no such value</source>
         <translation>現在の行にはこの値がありません</translation>

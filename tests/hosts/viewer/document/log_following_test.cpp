@@ -175,7 +175,11 @@ TEST_F(FollowedDocument, ARowWhoseNewLineHasTheTextPassesTheFilter)
     EXPECT_EQ(QStringList(), traces());
     append(log, "  the needle\r\n" + rawLine(3000, "A", 3, "plain"));
     EXPECT_TRUE(waitForTraces({"head", "  a line", "  the needle"}));
-    EXPECT_TRUE(waitUntil([&] { return document.counts()->facets[1]->front().rows == 1; }));
+    EXPECT_TRUE(waitUntil([&] {
+        const RowCounts* counts = document.counts();
+        if (counts == nullptr || !counts->facets[1] || counts->facets[1]->empty()) return false;
+        return counts->facets[1]->front().rows == 1;
+    }));
 }
 
 /// What two documents show, and counted.
