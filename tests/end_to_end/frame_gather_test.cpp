@@ -155,9 +155,10 @@ TEST_F(FrameGather, RefusesWhatIsNoFrameAndChangesNothing)
         {"half an hour", "2025-02-20 16:42", "0.5", 2},
         {"a word for a number", "2025-02-20 16:42", "two", 2},
         {"hours below zero", "2025-02-20 16:42", "-1", 2},
-        {"a date alone", "2025-02-20", "1", 2},
         {"a day that is none", "2025-02-30 16:42", "1", 2},
-        {"no date", "yesterday", "1", 2},
+        {"no time", "the day before", "1", 2},
+        {"a time of another clock, without its date", "16:42Z", "1", 2},
+        {"a year that the tool's calendar lacks", "0099-02-20 16:42", "1", 2},
         {"a start in the future", "2999-01-01 00:00", "1", 1},
     };
     for (const auto& c : cases) {
@@ -168,6 +169,101 @@ TEST_F(FrameGather, RefusesWhatIsNoFrameAndChangesNothing)
         EXPECT_EQ("", refused.out);
         EXPECT_FALSE(fs::exists(target));
     }
+}
+
+TEST_F(FrameGather, TakesAFrameAsPeopleSayIt)
+{
+    const auto whatIsGathered = [this](std::vector<std::string> frame) {
+        frame.insert(frame.begin(), {"gather", "frame"});
+        frame.insert(frame.end(), {"--to", target.string()});
+        const Outcome gathered = runJson(frame);
+        EXPECT_EQ(0, gathered.status) << gathered.err;
+        auto rows = rowsOf(databaseIn(target), "tblTraces");
+        fs::remove_all(target);
+        return std::tuple(rows, gathered.json()["frame"], gathered.err);
+    };
+    const auto [rows, frame, silence] =
+        whatIsGathered({"--from", "2025-02-20 16:42", "--hours", "1"});
+    EXPECT_FALSE(rows.empty());
+    EXPECT_EQ("2025-02-20T16:42:00-08:00", frame["from"]);
+    EXPECT_EQ("2025-02-20T17:42:00-08:00", frame["to"]);
+    EXPECT_EQ("", silence) << "it is as it was typed";
+
+    const std::string told =
+        "orvandiag: the time frame is 2025-02-20 16:42 to 2025-02-20 17:42 PST (UTC-08:00)";
+    const struct {
+        std::vector<std::string> frame;
+        std::string told;
+    } same[] = {
+        {{"--from", "2025-02-20T16:42", "--to-time", "2025-02-20T17:42"}, told + "\n"},
+        {{"--from", "2025-02-21T00:42Z", "--hours", "1"}, told + "\n"},
+        {{"--from", "2025-02-21T01:42+01:00", "--to-time", "2025-02-20 17:42"}, told + "\n"},
+        {{"--from", "2025-02-20 16:42:30", "--hours", "1"},
+         told + "; a frame starts at a whole minute\n"},
+        {{"--from", "2025-02-20 16:42:30", "--to-time", "2025-02-20 17:00"},
+         told + "; wider than asked for, as a frame has whole hours from a whole minute on\n"},
+    };
+    for (const auto& c : same) {
+        const auto [sameRows, sameFrame, err] = whatIsGathered(c.frame);
+        EXPECT_EQ(rows, sameRows) << c.told;
+        EXPECT_EQ(frame, sameFrame);
+        EXPECT_EQ(c.told, err);
+    }
+}
+
+TEST_F(FrameGather, OfTheLastHoursTakesALineOfThisMinute)
+{
+    const auto lastLineOf = [this](const std::vector<std::string>& frame) {
+        std::vector<std::string> words = {"gather", "frame"};
+        words.insert(words.end(), frame.begin(), frame.end());
+        words.insert(words.end(), {"--to", target.string()});
+        const Outcome gathered = run(words);
+        EXPECT_EQ(0, gathered.status) << gathered.err;
+        EXPECT_THAT(
+            gathered.err,
+            testing::ContainsRegex("^orvandiag: the time frame is [^;\n]* UTC [(]UTC[+]00:00[)]"));
+        const auto rows = rowsOf(databaseIn(target), "tblTraces");
+        fs::remove_all(target);
+        const std::string trace = rows.empty() ? "" : rows.back().at("Trace");
+        return trace.substr(0, trace.find_last_not_of(' ') + 1);
+    };
+    write(site / "site.ini", "[site]\ntimeZone = UTC0\n");
+    const std::time_t moment = std::time(nullptr);
+    std::tm now{};
+    ::gmtime_r(&moment, &now);
+    char stamp[20];
+    char name[48];
+    std::strftime(stamp, sizeof stamp, "%H:%M:%S", &now);
+    std::strftime(name, sizeof name, "diag_KoNotify_%Y%m%d_%H%M%S.txt", &now);
+    write(drive("KelmaOrvan/Logs") / name, std::string(stamp) + ":000,Conv,1,X,2,just now\n");
+    EXPECT_EQ("just now", lastLineOf({"--last", "90s"}));
+    EXPECT_EQ("just now", lastLineOf({"--last", "2 hours"}));
+    EXPECT_EQ("just now", lastLineOf({"--from", "1 hour ago", "--to-time", "now"}));
+}
+
+TEST_F(FrameGather, WithoutAFrameTakesTheWizardsOwn)
+{
+    const Outcome planned = runJson({"gather", "frame", "--dry-run"});
+    ASSERT_EQ(0, planned.status) << planned.err;
+    const auto frame = planned.json()["frame"];
+    const std::string from = frame["from"];
+    EXPECT_EQ(":00-0", from.substr(16, 5)) << "a whole minute, by the site's clock";
+    const std::time_t now = std::time(nullptr);
+    std::tm parts{};
+    ASSERT_NE(nullptr, ::strptime(from.substr(0, 19).c_str(), "%Y-%m-%dT%H:%M:%S", &parts));
+    const std::time_t start =
+        ::timegm(&parts) + (from[20] - '0') * 10 * 3'600 + (from[21] - '0') * 3'600;
+    EXPECT_NEAR(static_cast<double>(now - 3'600), static_cast<double>(start), 120);
+    EXPECT_THAT(planned.err, testing::StartsWith("orvandiag: the time frame is "));
+}
+
+TEST_F(FrameGather, TellsTheSitesClockWhereAFrameLiesAheadOfIt)
+{
+    const Outcome refused = gather("2999-01-01 00:00", "1");
+    EXPECT_EQ(1, refused.status);
+    EXPECT_THAT(refused.err, testing::ContainsRegex(
+                                 "starts in the future, at 2999-01-01 00:00 PST [(]UTC-08:00[)]; "
+                                 "the site's clock says 20[0-9-]* [0-9:]* P[SD]T [(]UTC"));
 }
 
 TEST_F(FrameGather, NoProgramOfTheSiteOrOfTheDestinationIsRun)

@@ -112,7 +112,11 @@ TEST_F(MergedReading, TakesTimesFromTheLastRow)
     EXPECT_EQ(hour, rows({"--since", "15:20", "--until", "16:20"}));
     EXPECT_EQ(those(hour, [](const json& row) { return row["component"] == "CallFlow"; }),
               rows({"--since", "15:20", "--until", "16:20", "--component", "CallFlow"}));
+    EXPECT_EQ(hour, rows({"--since", day + "T23:20Z", "--until", day + " 19:20 -05:00"}))
+        << "the sample stands eight hours behind universal time";
     EXPECT_EQ(rows({"--since", "-90m"}), rows({"--last", "90m"}));
+    EXPECT_EQ(rows({"--since", "-90m"}), rows({"--since", "1 hour 30 minutes ago"}));
+    EXPECT_EQ(all.size(), rows({"--until", "now"}).size());
     EXPECT_FALSE(rows({"--last", "90m"}).empty());
 }
 

@@ -152,7 +152,12 @@ TEST(WrongUsage, NamesTheUnknownCommandAndTheHelpThatTellsMore)
         {{"gather"},
          "name a command, such as standard, logs or frame (see orvandiag gather --help)"},
         {{"logs"}, "PROCESS is required (see orvandiag logs --help)"},
-        {{"gather", "frame"}, "--from is required (see orvandiag gather frame --help)"},
+        {{"gather", "frame", "--from", "today"},
+         "--from needs an end: add --to-time, such as --to-time now, or --hours (see orvandiag "
+         "gather frame --help)"},
+        {{"gather", "frame", "--hours", "3"},
+         "--hours needs a --from; for the hours until now there is --last 3h (see orvandiag gather "
+         "frame --help)"},
         {{"macro", "set"}, "macro set needs an --on or an --off (see orvandiag macro set --help)"},
     };
     for (const auto& c : cases) {

@@ -5,9 +5,9 @@
 #include "hosts/cli/gather/gather_preview.h"
 #include "hosts/cli/gather/gather_run.h"
 #include "hosts/cli/gather/gather_wizard.h"
+#include "hosts/cli/site_times.h"
 #include "hosts/common/gather/gather_outcome.h"
 #include "logreader/log_file_names.h"
-#include "platform/clock.h"
 #include "platform/file_system.h"
 #include "runtime/text.h"
 #include "wizards/gather_welcome.h"
@@ -35,9 +35,24 @@ public:
                "database, which is packed into a cabinet together with the event logs. Ctrl-C "
                "cancels,\n"
                "and keeps what was read. --dry-run lists what would be taken.\n\n"
+               "A TIME of a frame is a day (2025-02-20, today, yesterday), a time of one "
+               "(15:20,\n"
+               "15:20:07), both (\"2025-02-20 15:20\", 2025-02-20T15:20, \"yesterday 15:20\"), "
+               "now, or\n"
+               "how long ago (\"2 hours ago\", -2h): by the server's clock, or with an offset by\n"
+               "another one (2025-02-20T15:20+01:00, 2025-02-20T14:20Z). A SPAN such as 90m, "
+               "1h30m or\n"
+               "\"2 hours\" has whole numbers of s, m, h, d (days) and w (weeks). Without any "
+               "the frame\n"
+               "is the last hour. Frames start at a whole minute and have whole hours: the seconds "
+               "of\n"
+               "--from are dropped with --hours; --to-time and --last take a wider frame where "
+               "that is\n"
+               "needed. The frame is told, unless --from and --hours say it as it is.\n\n"
                "  orvandiag gather standard --to case-4711\n"
                "  orvandiag gather logs --log diag_KoCSMgr_20250219_144115.txt --event-log System\n"
-               "  orvandiag gather frame --from \"2025-02-20 16:42\" --hours 1 --to case-4711";
+               "  orvandiag gather frame --from \"2025-02-20 16:42\" --hours 1 --to case-4711\n"
+               "  orvandiag gather frame --last 2h --to case-4711";
     }
 
     void declare(Arguments& arguments) override
@@ -50,10 +65,14 @@ public:
         logs_.add("--log", orvanLogs_, "a log in the server's log folder").called("NAME");
         logs_.add("--event-log", windowsLogs_, "a Windows event log").called("NAME");
         frame_ = arguments.addCommand("frame", "The lines of a time frame, as a trace database");
-        frame_.add("--from", from_, "when the frame starts")
-            .called("\"YYYY-MM-DD HH:MM\"")
-            .required();
-        frame_.add("--hours", hours_, "how long it is, 1 to 999").called("N").required();
+        frame_
+            .add("--from", from_,
+                 "when the frame starts, such as \"2025-02-20 16:42\" or \"yesterday 15:00\"; "
+                 "else an hour ago")
+            .called("TIME");
+        frame_.add("--hours", hours_, "how long it is, 1 to 999").called("N");
+        frame_.add("--to-time", toTime_, "when it ends, in place of --hours").called("TIME");
+        frame_.add("--last", last_, "the last 2h, 90m, 1d12h, ... until now").called("SPAN");
         frame_.addFlag("--no-application", noApplication_, "leave the Application events out");
         frame_.addFlag("--no-system", noSystem_, "leave the System events out");
         for (Arguments mode : {standard_, logs_, frame_}) {
@@ -73,21 +92,28 @@ public:
         answers.option = option();
         answers.logs = orvanLogs_;
         answers.eventLogs = windowsLogs_;
-        if (frame_.given()) answers.frame = frameChoice();
-        OpenTool tool(options, dryRun_ ? ToolUse::look : ToolUse::add,
-                      [&](OpenTool& opened) { requireSound(opened, answers.frame); });
+        std::optional<FrameRequest> asked;
+        if (frame_.given()) asked.emplace(frameWords());
+        answers.applicationLog = !noApplication_;
+        answers.systemLog = !noSystem_;
+        OpenTool tool(options, dryRun_ ? ToolUse::look : ToolUse::add, [&](OpenTool& opened) {
+            if (asked && !asked->isDefault()) answers.frame = frameOf(opened, *asked);
+            requireSound(opened);
+        });
         if (!to_.empty()) answers.destination = tool.toolPath(to_);
         if (excel_) tool.server().exportEventsFor(CsvReader::spreadsheet);
         std::optional<GatherOutcome> outcome;
+        std::optional<FrameEnds> frame;
         {
             GatherWizard wizard(tool, answers);
+            if (wizard.frame()) frame = tellFrame(tool, *wizard.frame(), answers.frame, output);
             if (dryRun_)
-                preview(tool, wizard, output);
+                preview(tool, wizard, frame, output);
             else
                 outcome = runGather(tool, wizard);
         }
         tool.close();
-        if (outcome) report(output, *outcome);
+        if (outcome) report(output, *outcome, frame);
     }
 
 private:
@@ -104,18 +130,44 @@ private:
         return given(standard_) || given(logs_) || given(frame_);
     }
 
-    TimeFrameChoice frameChoice() const
+    FrameWords frameWords() const
     {
-        const Date start = frameStart(from_);
-        return {start, start, frameDuration(hours_), !noApplication_, !noSystem_};
+        const auto word = [this](const char* option, const std::string& value) {
+            return frame_.given(option) ? std::optional(value) : std::nullopt;
+        };
+        return {word("--from", from_), word("--to-time", toTime_), word("--hours", hours_),
+                word("--last", last_)};
+    }
+
+    /// The frame by the server's clock. Raises UsageError for none, and CommandFailure for one
+    /// that the wizard's page refuses.
+    static FrameEntry frameOf(OpenTool& tool, const FrameRequest& asked)
+    {
+        SiteTimes times(tool.context());
+        FrameEntry entry = asked.entry(times);
+        if (const auto start = momentOf(entry.start); start > times.now())
+            throw CommandFailure("the time frame starts in the future, at " + times.text(start) +
+                                 "; the site's clock says " + times.text(times.now()));
+        return entry;
+    }
+
+    /// Says what the frame is, where the person did not say it in the page's own words.
+    static FrameEnds tellFrame(OpenTool& tool, const TimeFrame& frame,
+                               const std::optional<FrameEntry>& entry, Output& output)
+    {
+        const SiteTimes times(tool.context());
+        const timeline::Moment start = momentOf(frame.start);
+        const timeline::Moment end = momentOf(frame.end);
+        const std::string difference = entry ? entry->difference : "";
+        if (!entry || entry->told || !difference.empty())
+            output.message("the time frame is " + times.text(start, end) +
+                           (difference.empty() ? "" : "; " + difference));
+        return {times.isoText(start), times.isoText(end)};
     }
 
     /// Raises CommandFailure for what the person asks for and this server does not have.
-    void requireSound(OpenTool& tool, const TimeFrameChoice& choice) const
+    void requireSound(OpenTool& tool) const
     {
-        const Platform& platform = tool.context().platform;
-        if (frame_.given() && choice.startDate > platform.clock.now())
-            throw CommandFailure("the time frame starts in the future");
         const std::string folder = getRegistryText(tool.context(), logManagerKey, logFolderValue);
         for (const auto& log : orvanLogs_) requireLog(tool, folder, log);
         for (const auto& log : windowsLogs_)
@@ -156,7 +208,9 @@ private:
     std::vector<std::string> orvanLogs_;
     std::vector<std::string> windowsLogs_;
     std::string from_;
+    std::string toTime_;
     std::string hours_;
+    std::string last_;
     bool noApplication_ = false;
     bool noSystem_ = false;
     std::string to_;

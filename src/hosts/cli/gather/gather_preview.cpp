@@ -1,7 +1,6 @@
 #include "hosts/cli/gather/gather_preview.h"
 
 #include "gather/pipeline.h"
-#include "hosts/cli/gather/gather_run.h"
 #include "hosts/cli/gather/gather_wizard.h"
 #include "hosts/cli/log_folder.h"
 #include "hosts/cli/terminal/output.h"
@@ -74,7 +73,8 @@ std::string table(const Plan& plan, const std::optional<std::int64_t>& room)
 
 } // namespace
 
-void preview(OpenTool& tool, GatherWizard& wizard, Output& output)
+void preview(OpenTool& tool, GatherWizard& wizard, const std::optional<FrameEnds>& frame,
+             Output& output)
 {
     requireBeginning(tool, wizard);
     const Plan plan = planOf(tool, wizard.steps());
@@ -90,11 +90,13 @@ void preview(OpenTool& tool, GatherWizard& wizard, Output& output)
     Json logs = Json::array();
     for (const PlannedLog& log : plan.logs)
         logs.push_back({{"name", log.name}, {"size", orNull(log.size)}});
-    output.value({{"destination", shownPathOf(destination)},
-                  {"logs", logs},
-                  {"eventLogs", plan.eventLogs},
-                  {"size", plan.size},
-                  {"freeSpace", orNull(room)}});
+    Json result = {{"destination", shownPathOf(destination)},
+                   {"logs", logs},
+                   {"eventLogs", plan.eventLogs},
+                   {"size", plan.size},
+                   {"freeSpace", orNull(room)}};
+    addFrame(result, frame);
+    output.value(result);
 }
 
 } // namespace cli

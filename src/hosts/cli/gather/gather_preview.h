@@ -1,13 +1,16 @@
 #pragma once
 
+#include "hosts/cli/gather/gather_run.h"
+
+#include <optional>
+
 namespace cli {
 
 class GatherWizard;
-class OpenTool;
-class Output;
 
 /// Tells what a gather would take, how large it is and how much room there is, and gathers nothing.
-/// Raises CommandFailure for a gather that would be refused.
-void preview(OpenTool& tool, GatherWizard& wizard, Output& output);
+/// Its frame is told where it has one. Raises CommandFailure for a gather that would be refused.
+void preview(OpenTool& tool, GatherWizard& wizard, const std::optional<FrameEnds>& frame,
+             Output& output);
 
 } // namespace cli

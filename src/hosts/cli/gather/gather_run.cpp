@@ -163,16 +163,18 @@ std::string joined(const std::vector<Sentence>& sentences)
     return text;
 }
 
-void print(Output& output, const GatherOutcome& outcome)
+void print(Output& output, const GatherOutcome& outcome, const std::optional<FrameEnds>& frame)
 {
     const auto orNull = [](const std::optional<std::string>& path) {
         return path ? Json(shownPathOf(*path)) : Json(nullptr);
     };
     if (output.json()) {
-        output.value({{"destination", shownPathOf(outcome.destination)},
-                      {"database", orNull(outcome.database)},
-                      {"cabinet", orNull(outcome.cabinet)},
-                      {"files", outcome.files}});
+        Json result = {{"destination", shownPathOf(outcome.destination)},
+                       {"database", orNull(outcome.database)},
+                       {"cabinet", orNull(outcome.cabinet)},
+                       {"files", outcome.files}};
+        addFrame(result, frame);
+        output.value(result);
         return;
     }
     output.line((outcome.files.empty() ? "Nothing was gathered into " : "Gathered into ") +
@@ -186,7 +188,12 @@ void print(Output& output, const GatherOutcome& outcome)
 
 } // namespace
 
-void report(Output& output, const GatherOutcome& outcome)
+void addFrame(Json& result, const std::optional<FrameEnds>& frame)
+{
+    if (frame) result["frame"] = {{"from", frame->from}, {"to", frame->to}};
+}
+
+void report(Output& output, const GatherOutcome& outcome, const std::optional<FrameEnds>& frame)
 {
     std::string missing = joined(outcome.missing);
     if (outcome.destinationSwapped)
@@ -194,7 +201,7 @@ void report(Output& output, const GatherOutcome& outcome)
                   "lie elsewhere; " +
                   missing;
     if (!outcome.destinationThere) throw CommandFailure(missing);
-    print(output, outcome);
+    print(output, outcome, frame);
     if (outcome.cabinetMakerReplaced)
         output.message(asClause({gatherSentences::cabinetMakerReplaced, {}}));
     if (outcome.cancelled)

@@ -3,6 +3,7 @@
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/terminal/output.h"
 
+#include <optional>
 #include <string>
 
 struct GatherOutcome;
@@ -10,6 +11,15 @@ struct GatherOutcome;
 namespace cli {
 
 class GatherWizard;
+
+/// The ends of a time frame as `--json` tells them: ISO 8601, with the zone of the server's clock.
+struct FrameEnds {
+    std::string from;
+    std::string to;
+};
+
+/// Adds the frame to a result, where there is one.
+void addFrame(Json& result, const std::optional<FrameEnds>& frame);
 
 /// Sees to it that a gather can write to its destination. Raises CommandFailure, and changes
 /// nothing.
@@ -23,7 +33,8 @@ void requireBeginning(OpenTool& tool, GatherWizard& wizard);
 /// CommandFailure when the wizard does not come to its end.
 GatherOutcome runGather(OpenTool& tool, GatherWizard& wizard);
 
-/// Prints the result, and raises CommandFailure when something is missing from it.
-void report(Output& output, const GatherOutcome& outcome);
+/// Prints the result, with its frame where it has one, and raises CommandFailure when something is
+/// missing from it.
+void report(Output& output, const GatherOutcome& outcome, const std::optional<FrameEnds>& frame);
 
 } // namespace cli

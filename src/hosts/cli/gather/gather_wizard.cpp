@@ -66,7 +66,7 @@ GatherWizard::GatherWizard(OpenTool& tool, const GatherAnswers& answers)
     driver_.control<OptionButtonGroup>("optGatherLogs").click(answers.option);
     driver_.next();
     if (answers.option == gatherOption::byHand) tickLogs(answers);
-    if (answers.option == gatherOption::timeFrame) enterFrame(answers.frame);
+    if (answers.option == gatherOption::timeFrame) enterFrame(answers);
     progressPage_ = dynamic_cast<ppgGatherLogs03Step*>(&driver_.sheet().currentPage());
     if (!progressPage_) throw CommandFailure("the wizard does not come to its progress page");
     steps_ = &driver_.control<TreeView>("treeviewSteps");
@@ -97,19 +97,23 @@ void GatherWizard::tickLogs(const GatherAnswers& answers)
     driver_.next();
 }
 
-void GatherWizard::enterFrame(const TimeFrameChoice& choice)
+void GatherWizard::enterFrame(const GatherAnswers& answers)
 {
     auto& date = driver_.control<DateTimePicker>("dtpickerDate");
     auto& time = driver_.control<DateTimePicker>("dtpickerTime");
     auto& duration = driver_.control<TextBox>("txtDuration");
-    date.setByPerson(choice.startDate);
-    time.setByPerson(choice.startTime);
-    duration.setByPerson(choice.duration);
-    if (dayOf(date.value()) != dayOf(choice.startDate) ||
-        timeOf(time.value()) != timeOf(choice.startTime))
-        throw CommandFailure("the time frame starts in the future");
-    tickBox(driver_.control<CheckBox>("chkWindowsEventLogs_Application"), choice.applicationLog);
-    tickBox(driver_.control<CheckBox>("chkWindowsEventLogs_System"), choice.systemLog);
+    if (answers.frame) {
+        const Date start = answers.frame->start;
+        date.setByPerson(start);
+        time.setByPerson(start);
+        duration.setByPerson(answers.frame->hours);
+        if (dayOf(date.value()) != dayOf(start) || timeOf(time.value()) != timeOf(start))
+            throw CommandFailure("the time frame starts in the future");
+    }
+    tickBox(driver_.control<CheckBox>("chkWindowsEventLogs_Application"), answers.applicationLog);
+    tickBox(driver_.control<CheckBox>("chkWindowsEventLogs_System"), answers.systemLog);
+    frame_.emplace();
+    computeTimeFrame({date.value(), time.value(), duration.text()}, *frame_);
     driver_.next();
 }
 

@@ -2,8 +2,10 @@
 
 #include "controls/controls.h"
 #include "hosts/cli/driving/wizard_driver.h"
+#include "hosts/cli/gather/frame_arguments.h"
 #include "wizards/time_frame_choice.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,7 +18,9 @@ struct GatherAnswers {
     int option = 0;                     ///< one of `gatherOption`
     std::vector<std::string> logs;      ///< of a selection by hand, in any case
     std::vector<std::string> eventLogs; ///< the same
-    TimeFrameChoice frame;              ///< of a time frame
+    std::optional<FrameEntry> frame;    ///< of a time frame; none for the page's own
+    bool applicationLog = true;         ///< with a time frame
+    bool systemLog = true;              ///< the same
     std::string destination;            ///< as the tool's path; empty for the wizard's own
 };
 
@@ -29,6 +33,9 @@ public:
 
     /// Where the results go, as the tool's path.
     const std::string& destination() const { return destination_; }
+
+    /// The time frame that the page has taken; nothing where none was asked for.
+    const std::optional<TimeFrame>& frame() const { return frame_; }
 
     /// The controls that the run reports to. They live as long as this.
     TreeView& steps() { return *steps_; }
@@ -50,10 +57,11 @@ public:
 private:
     void chooseDestination(OpenTool& tool, const GatherAnswers& answers);
     void tickLogs(const GatherAnswers& answers);
-    void enterFrame(const TimeFrameChoice& choice);
+    void enterFrame(const GatherAnswers& answers);
 
     WizardDriver driver_;
     std::string destination_;
+    std::optional<TimeFrame> frame_;
     const ppgGatherLogs03Step* progressPage_ = nullptr;
     TreeView* steps_ = nullptr;
     Label* currentStep_ = nullptr;

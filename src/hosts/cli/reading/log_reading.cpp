@@ -139,10 +139,10 @@ void LogReading::readRows()
     if (choice_.needsLastRow())
         logs_->timeline().read(timeline::Filter(), progress, threads);
     else if (asked_.first > 0)
-        readFirstRows(logs_->timeline(), choice_.filter(timeline::noMoment), progress,
+        readFirstRows(logs_->timeline(), choice_.filter(timeline::noMoment, *clock_), progress,
                       static_cast<std::size_t>(asked_.first));
     else
-        logs_->timeline().read(choice_.filter(timeline::noMoment), progress, threads);
+        logs_->timeline().read(choice_.filter(timeline::noMoment, *clock_), progress, threads);
 }
 
 void LogReading::tellTroubles()
@@ -194,13 +194,13 @@ void LogReading::requireLogsToFollow() const
 /// What rows have to fit; times are those before the last row that is there now.
 timeline::Filter LogReading::followedFilter() const
 {
-    if (!choice_.needsLastRow()) return choice_.filter(timeline::noMoment);
+    if (!choice_.needsLastRow()) return choice_.filter(timeline::noMoment, *clock_);
     OpenedLogs all(settings_);
     for (const std::string& path : paths_) all.open(path);
     timeline::Progress progress;
     const ReadingProgress shown(progress);
     all.timeline().read(timeline::Filter(), progress, readingThreads());
-    return choice_.filter(lastMomentOf(all.timeline()));
+    return choice_.filter(lastMomentOf(all.timeline()), *clock_);
 }
 
 /// Shows the last rows, and then those that come.
@@ -238,7 +238,7 @@ void LogReading::show()
     const timeline::Timeline& timeline = logs_->timeline();
     tellTroubles();
     ShownRows rows(timeline);
-    if (choice_.needsLastRow()) rows.choose(choice_.filter(lastMomentOf(timeline)));
+    if (choice_.needsLastRow()) rows.choose(choice_.filter(lastMomentOf(timeline), *clock_));
     if (asked_.first > 0) rows.keepFirst(static_cast<std::size_t>(asked_.first));
     if (asked_.tail > 0) rows.keepLast(static_cast<std::size_t>(asked_.tail));
     target_.begin();

@@ -37,7 +37,10 @@ RowChoice::RowChoice(const ReadOptions& options) : macroTrace_(options.macroTrac
     readTyped([&] {
         if (!options.since.empty()) since_.emplace(options.since);
         if (!options.until.empty()) until_.emplace(options.until);
-        if (!options.last.empty()) last_ = timeline::readSpan(options.last);
+        if (!options.last.empty()) {
+            timeline::readSpan(options.last); // refuses what is no span
+            since_.emplace("-" + options.last);
+        }
         addColumns(options);
         addPatterns(options);
         timeline::Filter tried(choice_);
@@ -89,20 +92,19 @@ void RowChoice::findMacroTrace(const MacroTraceLookUp& lookUp)
 
 bool RowChoice::needsLastRow() const
 {
-    return last_ || (since_ && since_->needsLastRow()) || (until_ && until_->needsLastRow());
+    return (since_ && since_->needsReference()) || (until_ && until_->needsReference());
 }
 
 bool RowChoice::takesAll() const
 {
-    return !since_ && !until_ && !last_ && timeline::Filter(choice_).letsAllThrough();
+    return !since_ && !until_ && timeline::Filter(choice_).letsAllThrough();
 }
 
-timeline::Filter RowChoice::filter(timeline::Moment lastRow) const
+timeline::Filter RowChoice::filter(timeline::Moment lastRow, timeline::ServerClock& clock) const
 {
     timeline::Choice choice = choice_;
-    if (since_) choice.since = since_->moment(FrameEnd::since, lastRow);
-    if (until_) choice.until = until_->moment(FrameEnd::until, lastRow);
-    if (last_ && lastRow != timeline::noMoment) choice.since = lastRow - *last_;
+    if (since_) choice.since = since_->moment(FrameEnd::since, lastRow, clock);
+    if (until_) choice.until = until_->moment(FrameEnd::until, lastRow, clock);
     return timeline::Filter(std::move(choice));
 }
 

@@ -31,8 +31,9 @@ public:
     /// Whether it takes every row.
     bool takesAll() const;
 
-    /// As a filter; `lastRow` is the moment of the last row, where that is needed.
-    timeline::Filter filter(timeline::Moment lastRow) const;
+    /// As a filter; `lastRow` is the moment of the last row, where that is needed. Times are told
+    /// by the clock.
+    timeline::Filter filter(timeline::Moment lastRow, timeline::ServerClock& clock) const;
 
 private:
     void addColumns(const ReadOptions& options);
@@ -43,7 +44,6 @@ private:
     std::string macroTrace_;
     std::optional<timeline::TimeText> since_;
     std::optional<timeline::TimeText> until_;
-    std::optional<timeline::Moment> last_; ///< how long before the last row
 };
 
 } // namespace cli

@@ -4,19 +4,16 @@
 #include "platform/platform.h"
 #include "platform/time_zone.h"
 #include "runtime/run_time_error.h"
+#include "timeline/filter/time_text.h"
 #include "timeline/sources/open_sources.h"
 
-#include <algorithm>
-#include <optional>
-#include <string_view>
+#include <utility>
 
 namespace cli {
 
 namespace {
 
 using timeline::Moment;
-
-constexpr Moment quarterOfAnHour = 900'000; ///< zones change at none but its beginning
 
 Moment momentOf(const SystemTime& time)
 {
@@ -38,68 +35,28 @@ SystemTime systemTimeOf(Moment moment)
     return time;
 }
 
-/// The seconds of "+01:00", "+0100", "+1" or "Z"; nothing for a text of another form.
-std::optional<int> offsetOfText(std::string_view text)
+Moment localOf(const TimeZoneService& service, const TimeZoneInformation& zone, Moment universal)
 {
-    if (text == "Z" || text == "z") return 0;
-    if (text.size() < 2 || (text[0] != '+' && text[0] != '-')) return std::nullopt;
-    const int sign = text[0] == '-' ? -1 : 1;
-    text.remove_prefix(1);
-    const auto isDigit = [](char letter) { return letter >= '0' && letter <= '9'; };
-    const std::size_t hourDigits = text.size() > 1 && isDigit(text[1]) ? 2 : 1;
-    std::string_view minutes = text.substr(hourDigits);
-    if (minutes.starts_with(':')) {
-        minutes.remove_prefix(1);
-        if (minutes.empty()) return std::nullopt;
+    try {
+        return momentOf(service.toLocal(zone, systemTimeOf(universal)));
+    } catch (const RunTimeError&) {
+        return universal; // before the calendar of its rules begins
     }
-    const std::string_view hours = text.substr(0, hourDigits);
-    if (!std::all_of(hours.begin(), hours.end(), isDigit) ||
-        !std::all_of(minutes.begin(), minutes.end(), isDigit) ||
-        (!minutes.empty() && minutes.size() != 2))
-        return std::nullopt;
-    int hour = 0;
-    for (const char digit : hours) hour = hour * 10 + (digit - '0');
-    int minute = 0;
-    for (const char digit : minutes) minute = minute * 10 + (digit - '0');
-    constexpr int mostHours = 14;
-    if (minute > 59 || hour * 60 + minute > mostHours * 60) return std::nullopt;
-    return sign * (hour * 60 + minute) * 60;
 }
 
 } // namespace
 
-Moment ServerClock::offsetAt(Moment universal)
-{
-    const Moment into = universal % quarterOfAnHour;
-    const Moment quarter = universal - (into < 0 ? into + quarterOfAnHour : into);
-    const std::lock_guard lock(mutex_);
-    if (quarter != quarter_) {
-        offset_ = toLocal_(quarter) - quarter;
-        quarter_ = quarter;
-    }
-    return offset_;
-}
-
-Moment ServerClock::local(Moment universal)
-{
-    return universal + offsetAt(universal);
-}
-
-Moment ServerClock::universal(Moment local)
-{
-    const Moment guess = local - offsetAt(local);
-    return local - offsetAt(guess);
-}
-
 std::shared_ptr<ServerClock> clockOf(ToolContext& tool)
 {
     return std::make_shared<ServerClock>([&tool](Moment universal) {
-        try {
-            return momentOf(
-                tool.platform.timeZone.toLocal(tool.g_timeZone, systemTimeOf(universal)));
-        } catch (const RunTimeError&) {
-            return universal; // before the calendar of its rules begins
-        }
+        return localOf(tool.platform.timeZone, tool.g_timeZone, universal);
+    });
+}
+
+std::shared_ptr<ServerClock> clockOf(const TimeZoneService& service, TimeZoneInformation zone)
+{
+    return std::make_shared<ServerClock>([&service, zone = std::move(zone)](Moment universal) {
+        return localOf(service, zone, universal);
     });
 }
 
@@ -114,10 +71,10 @@ std::shared_ptr<ServerClock> clockOf(const PosixTimeZone& zone)
 
 PosixTimeZone zoneOfText(const std::string& text)
 {
-    if (const auto offset = offsetOfText(text)) {
+    if (const auto offset = timeline::readOffset(text)) {
         PosixTimeZone zone;
         zone.standardName = text;
-        zone.standardOffset = *offset;
+        zone.standardOffset = static_cast<int>(*offset / 1000);
         return zone;
     }
     try {

@@ -11,6 +11,7 @@
 #include "hosts/viewer/window/main_window.h"
 #include "runtime/run_time_error.h"
 #include "timeline/filter/time_text.h"
+#include "timeline/sources/source_making.h"
 
 #include <QAction>
 #include <QApplication>
@@ -284,7 +285,9 @@ bool MainWindow::goToTime(const QString& time)
         const timeline::TimeText typed(time.toStdString());
         const timeline::Moment day =
             currentMoment().value_or(times_->span() ? times_->span()->first : 0);
-        const std::size_t place = document_.placeFrom(typed.moment(timeline::FrameEnd::since, day));
+        timeline::ServerClock clock(timeline::machineLocalTime);
+        const std::size_t place =
+            document_.placeFrom(typed.moment(timeline::FrameEnd::since, day, clock));
         if (document_.rowCount() > 0) table_->goTo(std::min(place, document_.rowCount() - 1));
         return true;
     } catch (const RunTimeError& error) {
