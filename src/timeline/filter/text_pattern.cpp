@@ -71,7 +71,9 @@ bool isAsciiPattern(std::string_view text)
 
 class PlainSearch final : public PatternSearch {
 public:
-    PlainSearch(std::string text, bool inAnyCase) : text_(std::move(text), inAnyCase) {}
+    PlainSearch(std::string text, bool inAnyCase)
+        : length_(text.size()), text_(std::move(text), inAnyCase)
+    {}
 
     bool occursIn(std::string_view line) const override
     {
@@ -80,7 +82,16 @@ public:
 
     std::size_t firstPlaceIn(std::string_view lines) const override { return text_.find(lines); }
 
+    std::optional<Found> findIn(std::string_view line, std::size_t from,
+                                std::size_t end) const override
+    {
+        const std::size_t begin = text_.find(line.substr(0, end), from);
+        if (begin == std::string_view::npos) return std::nullopt;
+        return Found{begin, length_};
+    }
+
 private:
+    std::size_t length_;
     LiteralSearch text_;
 };
 
@@ -131,6 +142,14 @@ public:
         re2::StringPiece found;
         const bool any = lines_.Match(piece(lines), 0, lines.size(), RE2::UNANCHORED, &found, 1);
         return any ? static_cast<std::size_t>(found.data() - lines.data()) : std::string_view::npos;
+    }
+
+    std::optional<Found> findIn(std::string_view line, std::size_t from,
+                                std::size_t end) const override
+    {
+        re2::StringPiece found;
+        if (!line_.Match(piece(line), from, end, RE2::UNANCHORED, &found, 1)) return std::nullopt;
+        return Found{static_cast<std::size_t>(found.data() - line.data()), found.size()};
     }
 
 private:

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -22,6 +23,18 @@ public:
     /// A place among many lines before whose line none has the pattern; `npos` where none has it at
     /// all.
     virtual std::size_t firstPlaceIn(std::string_view lines) const = 0;
+
+    struct Found {
+        std::size_t begin = 0;
+        std::size_t length = 0; ///< in bytes; 0 for an expression that wants none here
+    };
+
+    /// The first place in a part of a line that has the pattern, which does not reach past the
+    /// part. What stands around the part tells where words and the line itself begin and end.
+    /// Nothing where the part lacks it; `from` is no more than `end`, and that no more than the
+    /// line.
+    virtual std::optional<Found> findIn(std::string_view line, std::size_t from,
+                                        std::size_t end) const = 0;
 };
 
 /// What a line is searched for: a text, or a regular expression of RE2, which takes time in

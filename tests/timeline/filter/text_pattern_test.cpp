@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <random>
 #include <vector>
 
@@ -63,6 +64,38 @@ TEST(TextPattern, TakesAnExpressionWithoutSignsForAText)
                     .searchIn(nullptr)
                     ->occursIn("\u212Aelvin"))
         << "the sign of the unit is a K";
+}
+
+TEST(TextPattern, TellsWhereItStandsInAPartOfALine)
+{
+    struct Case {
+        const char* because;
+        Kind kind;
+        const char* pattern;
+        std::optional<std::size_t> begin;
+        std::size_t length;
+    };
+    constexpr std::string_view line = ",one two one,"; // the part is what the commas part
+    const Case cases[] = {
+        {"a text stands where it begins", Kind::text, "two", 5, 3},
+        {"a text may not reach past the part", Kind::text, "one,", std::nullopt, 0},
+        {"an expression takes as much as it wants", Kind::expression, "t[a-z ]+", 5, 7},
+        {"nor may an expression reach past it", Kind::expression, "one,", std::nullopt, 0},
+        {"the part is not where the line begins", Kind::expression, "^one", std::nullopt, 0},
+        {"nor where it ends", Kind::expression, "one$", std::nullopt, 0},
+        {"but where a word does", Kind::expression, "\\bone\\b", 1, 3},
+        {"an expression may want nothing", Kind::expression, "x*", 1, 0},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.because);
+        const auto search = TextPattern(c.kind, c.pattern).searchIn(nullptr);
+        const auto found = search->findIn(line, 1, line.size() - 1);
+        ASSERT_EQ(c.begin.has_value(), found.has_value());
+        if (!found) continue;
+        EXPECT_EQ(*c.begin, found->begin);
+        EXPECT_EQ(c.length, found->length);
+    }
+    EXPECT_EQ(9u, TextPattern(Kind::text, "one").searchIn(nullptr)->findIn(line, 2, 12)->begin);
 }
 
 TEST(TextPattern, RefusesWhatIsNoExpressionWithASentence)

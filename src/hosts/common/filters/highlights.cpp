@@ -1,13 +1,53 @@
 #include "hosts/common/filters/highlights.h"
 
 #include "hosts/common/look/theme.h"
+#include "runtime/run_time_error.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <array>
+#include <string>
+#include <string_view>
+#include <utility>
 
 namespace {
 
+using timeline::PatternSearch;
+
 constexpr std::size_t mostMarks = 200; ///< in one text
+
+/// Walks over a text in UTF-8, and tells where it is in UTF-16.
+class UnitCount {
+public:
+    /// `place` is no less than the one of before.
+    qsizetype unitsBefore(std::string_view text, std::size_t place)
+    {
+        for (; at_ < place; ++at_) {
+            const auto byte = static_cast<unsigned char>(text[at_]);
+            if ((byte & 0xC0U) != 0x80U) units_ += byte >= 0xF0U ? 2 : 1;
+        }
+        return units_;
+    }
+
+private:
+    std::size_t at_ = 0;
+    qsizetype units_ = 0;
+};
+
+/// Calls with each place of a part of a line that has the pattern, and not in vain.
+template <typename Does>
+void forEachFound(const PatternSearch& search, std::string_view line, std::size_t from,
+                  std::size_t end, const Does& does)
+{
+    while (from < end) {
+        const auto found = search.findIn(line, from, end);
+        if (!found) return;
+        if (found->length > 0 && !does(*found)) return;
+        from = found->begin + found->length;
+        if (found->length == 0)
+            from += std::max<std::size_t>(1, utf8CharacterLength(line.substr(from)));
+    }
+}
 
 } // namespace
 
@@ -56,27 +96,35 @@ void Highlights::renew()
     searches_.clear();
     const auto add = [this](const TextCondition& text, std::size_t colour) {
         if (text.text.isEmpty()) return;
-        const QString pattern = text.expression ? text.text : QRegularExpression::escape(text.text);
-        QRegularExpression expression(pattern, text.matchesCase
-                                                   ? QRegularExpression::NoPatternOption
-                                                   : QRegularExpression::CaseInsensitiveOption);
-        if (expression.isValid()) searches_.push_back({std::move(expression), colour});
+        try {
+            searches_.push_back({text.pattern()->searchIn(nullptr), colour});
+        } catch (const RunTimeError&) {
+            return; // who looks for it is told what is wrong with it
+        }
     };
     for (const Kept& kept : kept_) add(kept.text, kept.colour);
     add(found_, most);
     emit changed();
 }
 
-std::vector<Highlights::Mark> Highlights::marksIn(const QString& text) const
+std::vector<Highlights::Mark> Highlights::marksIn(const QString& text, LineEdges ends) const
 {
     std::vector<Mark> marks;
+    if (searches_.empty()) return marks;
+    // A sign that parts fields stands for what the line has before the text and behind it.
+    const std::string before(ends.begins ? "" : ",");
+    const std::string line = before + text.toStdString() + (ends.ends ? "" : ",");
+    const std::size_t end = line.size() - (ends.ends ? 0 : 1);
+    const auto outside = static_cast<qsizetype>(before.size());
     for (const Search& search : searches_) {
-        auto matches = search.expression.globalMatch(text);
-        while (matches.hasNext() && marks.size() < mostMarks) {
-            const auto match = matches.next();
-            if (match.capturedLength() > 0)
-                marks.push_back({match.capturedStart(), match.capturedLength(), search.colour});
-        }
+        UnitCount count;
+        forEachFound(*search.search, line, before.size(), end, [&](PatternSearch::Found found) {
+            const qsizetype begin = count.unitsBefore(line, found.begin);
+            const qsizetype behind = count.unitsBefore(line, found.begin + found.length);
+            if (marks.size() == mostMarks) return false;
+            marks.push_back({begin - outside, behind - begin, search.colour});
+            return true;
+        });
     }
     return marks;
 }

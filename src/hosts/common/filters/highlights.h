@@ -5,10 +5,16 @@
 #include <QColor>
 #include <QObject>
 #include <QPalette>
-#include <QRegularExpression>
 #include <QString>
 
+#include <memory>
 #include <vector>
+
+/// Whether a text stands where its line begins, and where it ends, as an expression may ask.
+struct LineEdges {
+    bool begins = true;
+    bool ends = true;
+};
 
 /// The texts that are marked in the rows, each by a colour of its own: the one that is looked for,
 /// and those that a person keeps beside it.
@@ -21,8 +27,7 @@ public:
     /// How many can be kept, which is how many colours there are.
     static constexpr std::size_t most = 6;
 
-    /// The text that is looked for; an empty one for none. An expression that Qt does not take is
-    /// not marked.
+    /// The text that is looked for; an empty one for none. What is no expression is not marked.
     void setFound(const TextCondition& text);
 
     /// Keeps a text in the first colour that is free; false when none is, or it is kept already.
@@ -48,8 +53,9 @@ public:
         std::size_t colour = 0;
     };
 
-    /// The marks in a text, those that are drawn above others behind them.
-    std::vector<Mark> marksIn(const QString& text) const;
+    /// The marks in a text, those that are drawn above others behind them. They are found as rows
+    /// are, in a time in proportion to the text.
+    std::vector<Mark> marksIn(const QString& text, LineEdges ends = {}) const;
 
     /// The ground of a colour of marks.
     static QColor ground(std::size_t colour, const QPalette& palette);
@@ -59,7 +65,7 @@ signals:
 
 private:
     struct Search {
-        QRegularExpression expression;
+        std::unique_ptr<timeline::PatternSearch> search;
         std::size_t colour = 0;
     };
     void renew();

@@ -9,9 +9,12 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLocale>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSplitter>
 #include <QTreeWidget>
+#include <QVBoxLayout>
 
 namespace viewer {
 
@@ -32,18 +35,34 @@ DetailsPane::DetailsPane(Document& document, QWidget* parent) : QWidget(parent),
     fields_->setUniformRowHeights(true);
     fields_->setFrameShape(QFrame::NoFrame);
     fields_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
-    trace_ = new QPlainTextEdit(splitter);
+    auto* side = new QWidget(splitter);
+    trace_ = new QPlainTextEdit(side);
     trace_->setReadOnly(true);
     trace_->setFrameShape(QFrame::NoFrame);
     trace_->setFont(theme::traceFont());
     trace_->setTabChangesFocus(true);
     splitter->addWidget(fields_);
-    splitter->addWidget(trace_);
+    showAll_ = new QPushButton(side);
+    showAll_->hide();
+    auto* traceAndButton = new QVBoxLayout(side);
+    traceAndButton->setContentsMargins(0, 0, 0, 0);
+    traceAndButton->setSpacing(0);
+    traceAndButton->addWidget(trace_);
+    traceAndButton->addWidget(showAll_, 0, Qt::AlignLeft);
+    splitter->addWidget(side);
     splitter->setStretchFactor(1, 1);
     splitter->setSizes({fieldsWidth, traceWidth});
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(splitter);
+    connect(showAll_, &QPushButton::clicked, this, [this] {
+        if (!place_ || *place_ >= document_.rowCount()) return;
+        trace_->setFocus(); // the button goes
+        showAll_->hide();
+        // A line of a million characters takes minutes to be broken at a width.
+        trace_->setLineWrapMode(QPlainTextEdit::NoWrap);
+        trace_->setPlainText(document_.wholeTrace(*place_));
+    });
     showInLanguage(this, [this] { showTexts(); });
 }
 
@@ -60,6 +79,7 @@ void DetailsPane::show(std::optional<std::size_t> place)
     place_ = place;
     fields_->clear();
     trace_->clear();
+    showAll_->hide();
     if (!place || *place >= document_.rowCount()) return;
     const ShownRow row = document_.row(*place);
     const auto add = [this](RowColumn column, const QString& value) {
@@ -84,7 +104,13 @@ void DetailsPane::show(std::optional<std::size_t> place)
     add(RowColumn::callId, row.callId);
     add(RowColumn::file, row.file);
     add(RowColumn::line, QString::number(row.index.line));
-    trace_->setPlainText(document_.wholeTrace(*place));
+    const QString trace = document_.wholeTrace(*place);
+    trace_->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    trace_->setPlainText(trace.left(mostAtOnce));
+    if (trace.size() <= mostAtOnce) return;
+    showAll_->setText(tr("Show all %1 characters of the trace")
+                          .arg(QLocale().toString(static_cast<qlonglong>(trace.size()))));
+    showAll_->show();
 }
 
 QString DetailsPane::value() const
@@ -93,7 +119,8 @@ QString DetailsPane::value() const
     if (fields_->hasFocus() && field != nullptr) return field->text(1);
     const QString selected = trace_->textCursor().selectedText();
     if (!selected.isEmpty()) return QString(selected).replace(QChar(0x2029), QLatin1Char('\n'));
-    return trace_->toPlainText();
+    const bool cut = !showAll_->isHidden() && place_ && *place_ < document_.rowCount();
+    return cut ? document_.wholeTrace(*place_) : trace_->toPlainText();
 }
 
 } // namespace viewer

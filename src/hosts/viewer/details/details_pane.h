@@ -8,12 +8,14 @@
 #include <optional>
 
 class QPlainTextEdit;
+class QPushButton;
 class QTreeWidget;
 
 namespace viewer {
 
 /// All of one row: its fields, one below the other, and its trace with the ends of lines that it
-/// has. A value can be selected and copied by itself.
+/// has. A value can be selected and copied by itself. A trace that takes long to lay out is cut
+/// until a person wants all of it.
 class DetailsPane final : public QWidget {
     Q_OBJECT
 
@@ -34,6 +36,12 @@ public:
     QTreeWidget& fields() { return *fields_; }
     QPlainTextEdit& trace() { return *trace_; }
 
+    /// Shows all of a trace that is cut; hidden where none is.
+    QPushButton& showAll() { return *showAll_; }
+
+    /// The most characters of a trace that are shown at once.
+    static constexpr qsizetype mostAtOnce = 20'000;
+
 private:
     void showTexts();
 
@@ -41,6 +49,7 @@ private:
     RowModel::Remark remark_;
     QTreeWidget* fields_;
     QPlainTextEdit* trace_;
+    QPushButton* showAll_;
     std::optional<std::size_t> place_;
 };
 

@@ -341,7 +341,7 @@ const Document::Block& Document::block(std::size_t number)
     timeline_.look([&](const timeline::Timeline& rows) {
         PlaceWalk walk(*view_, first);
         for (std::size_t place = first; place < end; ++place)
-            read.push_back(readRow(rows, walk.next(rows), room_));
+            read.push_back(readRow(rows, walk.next(rows), room_, Texts::shortened));
     });
     blocks_.emplace_front(number, std::move(read));
     places_[number] = blocks_.begin();
@@ -357,6 +357,15 @@ void Document::prepare(std::size_t place, std::size_t count)
 {
     for (std::size_t number = place / rowsOfBlock; number * rowsOfBlock < place + count; ++number)
         if (number * rowsOfBlock < rowCount()) block(number);
+}
+
+ShownRow Document::wholeRow(std::size_t place)
+{
+    ShownRow row;
+    timeline_.look([&](const timeline::Timeline& rows) {
+        row = readRow(rows, *view_->order->from(rows, view_->rowAt(place)).next(), room_);
+    });
+    return row;
 }
 
 QString Document::wholeLine(std::size_t place)

@@ -103,9 +103,12 @@ public:
     const View& view() const { return *view_; }
     std::size_t rowCount() const { return view_->size(); }
 
-    /// The row at a place on show, which is less than `rowCount()`. It holds until another one is
-    /// asked for.
+    /// The row at a place on show, which is less than `rowCount()`, with long texts shortened. It
+    /// holds until another one is asked for.
     const ShownRow& row(std::size_t place);
+
+    /// The same with texts as long as they are; it is read anew.
+    ShownRow wholeRow(std::size_t place);
 
     /// Reads the rows at places, a screenful or so, for `row` to have them.
     void prepare(std::size_t place, std::size_t count);

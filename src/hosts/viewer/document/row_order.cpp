@@ -157,13 +157,15 @@ std::optional<std::size_t> RowOrder::find(const Timeline& timeline, const IndexR
 {
     if (row.source() >= limits_.size()) return std::nullopt;
     const timeline::SourceRows& rows = timeline.rowsOf(row.source());
-    const std::size_t first = countBefore(timeline, row.source(), row.moment, false);
-    std::size_t position = first;
-    while (position < limits_[row.source()] && rows[position].moment == row.moment &&
-           rows[position].place != row.place)
-        ++position;
-    if (position == limits_[row.source()] || rows[position].place != row.place) return std::nullopt;
-    std::size_t before = position;
+    const auto end = rows.begin() + static_cast<std::ptrdiff_t>(limits_[row.source()]);
+    const auto stands = [](const IndexRow& one) { return std::pair(one.moment, one.line); };
+    // A moment may have millions of rows, as that of a log without times has; a line has one, but
+    // where there are no lines.
+    auto at = std::partition_point(
+        rows.begin(), end, [&](const IndexRow& other) { return stands(other) < stands(row); });
+    while (at != end && stands(*at) == stands(row) && at->place != row.place) ++at;
+    if (at == end || at->place != row.place) return std::nullopt;
+    auto before = static_cast<std::size_t>(at - rows.begin());
     for (std::uint32_t source = 0; source < limits_.size(); ++source)
         if (source != row.source())
             before += countBefore(timeline, source, row.moment, source < row.source());

@@ -2,6 +2,7 @@
 
 #include "runtime/run_time_error.h"
 #include "text/code_page.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 
@@ -67,7 +68,26 @@ QString harmless(QString text)
     return text;
 }
 
-ShownRow readRow(const Timeline& timeline, const IndexRow& row, Record& room)
+namespace {
+
+/// The beginning of a text, with a sign where there is more. No more than that is decoded.
+QString shortened(std::string_view bytes, const CodePage* codePage, qsizetype most, bool& cut)
+{
+    constexpr char16_t moreSign = 0x2026;
+    const auto characters = static_cast<std::size_t>(most);
+    const std::string_view beginning =
+        codePage == nullptr ? firstCharacters(bytes, characters) : bytes.substr(0, characters);
+    QString text = harmless(decoded(beginning, codePage));
+    if (beginning.size() == bytes.size() && text.size() <= most) return text;
+    cut = true;
+    text.truncate(most - 1);
+    if (!text.isEmpty() && text.back().isHighSurrogate()) text.chop(1);
+    return text + QChar(moreSign);
+}
+
+} // namespace
+
+ShownRow readRow(const Timeline& timeline, const IndexRow& row, Record& room, Texts texts)
 {
     ShownRow shown;
     shown.index = row;
@@ -78,14 +98,15 @@ ShownRow readRow(const Timeline& timeline, const IndexRow& row, Record& room)
         shown.trace = harmless(QString::fromStdString(error.description()));
         return shown;
     }
-    const auto text = [&](std::string_view bytes) {
-        return harmless(decoded(bytes, room.codePage));
+    const auto text = [&](std::string_view bytes, qsizetype most = longestShownField) {
+        if (texts == Texts::whole) return harmless(decoded(bytes, room.codePage));
+        return shortened(bytes, room.codePage, most, shown.cut);
     };
     shown.hasForm = room.hasForm;
     shown.severity = severityOf(room);
     shown.process = harmless(decoded(room.process, nullptr));
     shown.file = harmless(decoded(room.file, nullptr));
-    shown.trace = text(room.trace);
+    shown.trace = text(room.trace, longestShownTrace);
     if (!room.hasForm) return shown;
     shown.traceNumber = room.traceNumber;
     shown.level = room.level;

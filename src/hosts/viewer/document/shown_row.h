@@ -21,6 +21,7 @@ struct ShownRow {
     timeline::IndexRow index;
     bool hasForm = false; ///< false for a line without a form, which is `trace` alone
     bool belongs = false; ///< to the row before it in its source
+    bool cut = false;     ///< whether a text is shortened, and ends with a sign of that
     Severity severity = Severity::none;
     std::int32_t traceNumber = 0;
     std::int16_t level = 0;
@@ -34,9 +35,19 @@ struct ShownRow {
     QString trace; ///< one line: a line's end within it is a sign
 };
 
+/// How much is kept of a row's texts, which may have millions of characters.
+enum class Texts {
+    whole,
+    shortened, ///< to more than a line on a screen has
+};
+
+/// The most characters of a shortened trace, and of another shortened text.
+inline constexpr qsizetype longestShownTrace = 2000;
+inline constexpr qsizetype longestShownField = 250;
+
 /// Reads a row of a timeline. One that can't be read any more has the reason for its trace.
 ShownRow readRow(const timeline::Timeline& timeline, const timeline::IndexRow& row,
-                 timeline::Record& room);
+                 timeline::Record& room, Texts texts = Texts::whole);
 
 /// A text of a record, in the characters of its code page.
 QString decoded(std::string_view bytes, const CodePage* codePage);

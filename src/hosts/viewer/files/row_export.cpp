@@ -68,7 +68,10 @@ bool RowExport::start()
 
 QByteArray RowExport::rowText(std::size_t place) const
 {
-    if (form_ == ExportForm::json) return jsonOf(rows_.document().row(place));
+    if (form_ == ExportForm::json) {
+        const ShownRow& row = rows_.document().row(place);
+        return jsonOf(row.cut ? rows_.document().wholeRow(place) : row);
+    }
     return (rowLine(rows_, place, columns_, form_ == ExportForm::csv) + QLatin1Char('\n')).toUtf8();
 }
 

@@ -37,8 +37,10 @@ public:
         const auto end = std::upper_bound(
             first, rows.end(), wanted.moment,
             [](timeline::Moment moment, const IndexRow& row) { return moment < row.moment; });
-        for (auto row = first; row != end; ++row)
-            if (row->line == wanted.line && says(*row, wanted)) return *row;
+        const auto line = std::partition_point(
+            first, end, [&](const IndexRow& row) { return row.line < wanted.line; });
+        for (auto row = line; row != end && row->line == wanted.line; ++row)
+            if (says(*row, wanted)) return *row;
         if (static_cast<std::size_t>(end - first) > mostOfAMoment) return std::nullopt;
         for (auto row = first; row != end; ++row)
             if (says(*row, wanted)) return *row;

@@ -9,11 +9,9 @@ namespace viewer {
 QString rowLine(const RowModel& rows, std::size_t place, const std::vector<RowColumn>& columns,
                 bool csv)
 {
-    QStringList cells;
-    for (const RowColumn column : columns) {
-        const QString text = rows.text(place, column);
-        cells << (csv ? csvField(text) : text);
-    }
+    QStringList cells = rows.wholeTexts(place, columns);
+    if (csv)
+        for (QString& cell : cells) cell = csvField(cell);
     return cells.join(csv ? QLatin1Char(',') : QLatin1Char('\t'));
 }
 

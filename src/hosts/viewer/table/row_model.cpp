@@ -71,9 +71,23 @@ QString RowModel::time(std::size_t place) const
 
 QString RowModel::text(std::size_t place, RowColumn column) const
 {
-    if (column == RowColumn::time) return document_.row(place).belongs ? QString() : time(place);
-    const ShownRow& row = document_.row(place);
+    return text(place, document_.row(place), column);
+}
+
+QStringList RowModel::wholeTexts(std::size_t place, const std::vector<RowColumn>& columns) const
+{
+    ShownRow row = document_.row(place);
+    if (row.cut) row = document_.wholeRow(place);
+    QStringList texts;
+    for (const RowColumn column : columns) texts << text(place, row, column);
+    return texts;
+}
+
+QString RowModel::text(std::size_t place, const ShownRow& row, RowColumn column) const
+{
     switch (column) {
+    case RowColumn::time:
+        return row.belongs ? QString() : time(place);
     case RowColumn::process:
         return row.belongs ? QString() : row.process;
     case RowColumn::source:
@@ -96,8 +110,6 @@ QString RowModel::text(std::size_t place, RowColumn column) const
         return row.file;
     case RowColumn::line:
         return QString::number(row.index.line);
-    case RowColumn::time:
-        break;
     }
     return {};
 }

@@ -4,6 +4,7 @@
 #include "hosts/viewer/table/row_column.h"
 
 #include <QAbstractTableModel>
+#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -21,8 +22,11 @@ public:
 
     Document& document() const { return document_; }
 
-    /// The text of a cell, as it is shown and copied.
+    /// The text of a cell, as it is shown; a long one is shortened.
     QString text(std::size_t place, RowColumn column) const;
+
+    /// The texts of a row in columns, in their order, as long as they are.
+    QStringList wholeTexts(std::size_t place, const std::vector<RowColumn>& columns) const;
 
     TimeForm timeForm() const { return timeForm_; }
     void setTimeForm(TimeForm form);
@@ -48,6 +52,7 @@ public:
 
 private:
     QString time(std::size_t place) const;
+    QString text(std::size_t place, const ShownRow& row, RowColumn column) const;
     QString spoken(const ShownRow& row, RowColumn column) const;
 
     Document& document_;

@@ -1,6 +1,5 @@
 #include "hosts/viewer/table/row_painter.h"
 
-#include "hosts/common/filters/highlights.h"
 #include "hosts/common/look/icons.h"
 #include "hosts/common/look/theme.h"
 
@@ -15,6 +14,13 @@ constexpr int stripeWidth = 3;
 constexpr int signSize = 14;
 constexpr int indentation = 2; ///< characters before a line that belongs to the row above
 constexpr int longestDrawn = 2000;
+
+/// Where a cell stands in the line of a row. One without a form is a trace and nothing else.
+LineEdges edgesOf(RowColumn column, const ShownRow& row)
+{
+    return {.begins = column == RowColumn::time || !row.hasForm,
+            .ends = column == RowColumn::trace || !row.hasForm};
+}
 
 } // namespace
 
@@ -88,18 +94,18 @@ void RowPainter::drawCell(const QRect& room, RowColumn column, const ShownRow& r
                                   : palette_.color(QPalette::Text));
     const QString shown = painter_.fontMetrics().elidedText(
         text.size() > longestDrawn ? text.left(longestDrawn) : text, Qt::ElideRight, inner.width());
-    drawText(inner, shown, RowColumns::info(column).right);
+    drawText(inner, shown, RowColumns::info(column).right, edgesOf(column, row));
 }
 
 /// Draws a text on the grounds of its marks. A mark has a line below it too, so that it is seen on
 /// a selected row, and by who does not tell colours.
-void RowPainter::drawText(const QRect& room, const QString& text, bool right)
+void RowPainter::drawText(const QRect& room, const QString& text, bool right, LineEdges ends)
 {
     const QFontMetrics metrics = painter_.fontMetrics();
     const int start = right ? room.right() + 1 - metrics.horizontalAdvance(text) : room.left();
     if (highlights_ != nullptr) {
         const QPen pen = painter_.pen();
-        for (const Highlights::Mark& mark : highlights_->marksIn(text)) {
+        for (const Highlights::Mark& mark : highlights_->marksIn(text, ends)) {
             const QRect ground(
                 start + metrics.horizontalAdvance(text.left(mark.begin)), room.top() + 2,
                 metrics.horizontalAdvance(text.mid(mark.begin, mark.length)), room.height() - 4);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hosts/common/filters/highlights.h"
 #include "hosts/viewer/table/row_model.h"
 
 #include <QFont>
@@ -7,7 +8,6 @@
 
 #include <vector>
 
-class Highlights;
 class QPainter;
 class QPalette;
 
@@ -49,7 +49,7 @@ private:
     void drawCell(const QRect& room, RowColumn column, const ShownRow& row, const QString& text,
                   const Look& look);
 
-    void drawText(const QRect& room, const QString& text, bool right);
+    void drawText(const QRect& room, const QString& text, bool right, LineEdges ends);
 
     QPainter& painter_;
     const QPalette& palette_;

@@ -161,14 +161,32 @@ std::optional<std::size_t> RowTable::currentPlace() const
     return static_cast<std::size_t>(currentIndex().row());
 }
 
-std::vector<std::size_t> RowTable::selectedPlaces(std::size_t most) const
+/// The first and the last row of each selected range, from the top; one may overlap the next.
+std::vector<std::pair<int, int>> RowTable::selectedRanges() const
 {
     std::vector<std::pair<int, int>> ranges;
     for (const QItemSelectionRange& range : selectionModel()->selection())
         ranges.emplace_back(range.top(), range.bottom());
     std::sort(ranges.begin(), ranges.end());
+    return ranges;
+}
+
+std::size_t RowTable::selectedCount() const
+{
+    std::size_t count = 0;
+    int next = 0;
+    for (const auto& [top, bottom] : selectedRanges()) {
+        if (bottom < next) continue;
+        count += static_cast<std::size_t>(bottom - std::max(top, next) + 1);
+        next = bottom + 1;
+    }
+    return count;
+}
+
+std::vector<std::size_t> RowTable::selectedPlaces(std::size_t most) const
+{
     std::vector<std::size_t> places;
-    for (const auto& [top, bottom] : ranges)
+    for (const auto& [top, bottom] : selectedRanges())
         for (int row = top; row <= bottom && places.size() < most; ++row)
             if (places.empty() || static_cast<std::size_t>(row) > places.back())
                 places.push_back(static_cast<std::size_t>(row));
@@ -210,7 +228,10 @@ void RowTable::hold()
 {
     held_.selected.clear();
     held_.anchor.reset();
+    held_.all = false;
     if (rows_.rowCount() == 0) return;
+    const std::size_t selected = selectedCount();
+    held_.all = selected > mostHeld && selected == static_cast<std::size_t>(rows_.rowCount());
     for (const std::size_t place : selectedPlaces(mostHeld))
         held_.selected.push_back(rows_.document().indexRow(place));
     const std::size_t first = firstInSight();
@@ -245,6 +266,7 @@ void RowTable::restore()
                                                            QItemSelectionModel::Rows);
     }
     QItemSelection selection;
+    if (held_.all) selection.select(rows_.index(0, 0), rows_.index(rows - 1, rowColumns - 1));
     for (const timeline::IndexRow& row : held_.selected)
         if (const QModelIndex index = indexOf(row);
             index.isValid() &&

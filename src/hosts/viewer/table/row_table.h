@@ -5,6 +5,7 @@
 #include <QAbstractItemView>
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 class Highlights;
@@ -57,6 +58,9 @@ public:
     /// The places of the selected rows from the top, at most so many of them.
     std::vector<std::size_t> selectedPlaces(std::size_t most) const;
 
+    /// How many rows are selected.
+    std::size_t selectedCount() const;
+
     /// Brings the last rows in sight; whether the last one is.
     void scrollToEnd();
     bool isAtEnd() const;
@@ -101,12 +105,14 @@ private:
     /// A row that is kept through a change of what is on show.
     struct Held {
         std::optional<timeline::IndexRow> current; ///< as the person chose it
+        bool all = false;                          ///< whether all of many rows are selected
         std::vector<timeline::IndexRow> selected;
         std::optional<timeline::IndexRow> anchor; ///< that stays where it is in sight
         int above = 0;                            ///< rows in sight above the anchor
     };
 
     int placeAt(int y) const;
+    std::vector<std::pair<int, int>> selectedRanges() const;
     void hold();
     void restore();
     void rememberColumns();

@@ -819,6 +819,10 @@
         <source>Note</source>
         <translation>Notiz</translation>
     </message>
+    <message>
+        <source>Show all %1 characters of the trace</source>
+        <translation>Alle %1 Zeichen des Traces anzeigen</translation>
+    </message>
 </context>
 <context>
     <name>viewer::FacetPane</name>
@@ -1264,6 +1268,10 @@ Legen Sie Logs, Trace-Datenbanken oder CAB-Dateien hier ab, oder öffnen Sie sie
     <message>
         <source>Progress</source>
         <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected rows copied; an export has all that are on show</source>
+        <translation>%1 von %2 ausgewählten Zeilen kopiert; ein Export enthält alle angezeigten Zeilen</translation>
     </message>
 </context>
 <context>

@@ -819,6 +819,10 @@
         <source>Note</source>
         <translation>Nota</translation>
     </message>
+    <message>
+        <source>Show all %1 characters of the trace</source>
+        <translation>Mostrar los %1 caracteres de la traza</translation>
+    </message>
 </context>
 <context>
     <name>viewer::FacetPane</name>
@@ -1264,6 +1268,10 @@ Suelte aquí registros, bases de datos de trazas o archivos CAB, o ábralos con 
     <message>
         <source>Progress</source>
         <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected rows copied; an export has all that are on show</source>
+        <translation>%1 de %2 filas seleccionadas copiadas; una exportación contiene todas las mostradas</translation>
     </message>
 </context>
 <context>

@@ -819,6 +819,10 @@
         <source>Note</source>
         <translation>Note</translation>
     </message>
+    <message>
+        <source>Show all %1 characters of the trace</source>
+        <translation>Afficher les %1 caractères de la trace</translation>
+    </message>
 </context>
 <context>
     <name>viewer::FacetPane</name>
@@ -1264,6 +1268,10 @@ Déposez ici des journaux, des bases de données de traces ou des fichiers CAB, 
     <message>
         <source>Progress</source>
         <translation>Progression</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected rows copied; an export has all that are on show</source>
+        <translation>%1 lignes copiées sur %2 sélectionnées ; un export contient toutes les lignes affichées</translation>
     </message>
 </context>
 <context>

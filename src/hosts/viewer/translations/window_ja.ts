@@ -819,6 +819,10 @@
         <source>Note</source>
         <translation>メモ</translation>
     </message>
+    <message>
+        <source>Show all %1 characters of the trace</source>
+        <translation>トレースの全 %1 文字を表示</translation>
+    </message>
 </context>
 <context>
     <name>viewer::FacetPane</name>
@@ -1264,6 +1268,10 @@ Drop logs, trace databases or cabinets here, or open them with Ctrl+O.</source>
     <message>
         <source>Progress</source>
         <translation>進行状況</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected rows copied; an export has all that are on show</source>
+        <translation>選択した %2 行のうち %1 行をコピーしました。表示中のすべての行はエクスポートで保存できます</translation>
     </message>
 </context>
 <context>

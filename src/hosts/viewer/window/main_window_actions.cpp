@@ -413,8 +413,15 @@ void MainWindow::copy(CopyForm form)
     const auto places = table_->selectedPlaces(mostCopied);
     if (places.empty()) return;
     QApplication::clipboard()->setText(copiedRows(*model_, places, table_->shownColumns(), form));
-    statusBar()->showMessage(
-        tr("%1 rows copied").arg(QLocale().toString(static_cast<qulonglong>(places.size()))), 4000);
+    const auto number = [](std::size_t rows) {
+        return QLocale().toString(static_cast<qulonglong>(rows));
+    };
+    const std::size_t selected = table_->selectedCount();
+    if (selected == places.size())
+        return statusBar()->showMessage(tr("%1 rows copied").arg(number(selected)), 4000);
+    statusBar()->showMessage(tr("%1 of %2 selected rows copied; an export has all that are on show")
+                                 .arg(number(places.size()), number(selected)),
+                             15'000);
 }
 
 void MainWindow::setTimes(TimeForm form)

@@ -104,6 +104,22 @@ TEST_F(DocumentTest, ShowsASignForWhatWouldActOnAScreen)
               document.wholeLine(0));
 }
 
+TEST_F(DocumentTest, KeepsTheBeginningOfALongText)
+{
+    const std::string longText = std::string(1'000'000, 'x');
+    document.open({logs.write("KoCSMgr", rawLine(1000, "A", 3, longText) +
+                                             rawLine(2000, std::string(300, 'C'), 3, "short"))});
+    ASSERT_TRUE(waitForRows(document));
+    EXPECT_EQ(QString(longestShownTrace - 1, QLatin1Char('x')) + QChar(0x2026),
+              document.row(0).trace);
+    EXPECT_TRUE(document.row(0).cut);
+    EXPECT_EQ(QString::fromStdString(longText), document.wholeTrace(0));
+    EXPECT_EQ(QString::fromStdString(longText), document.wholeRow(0).trace);
+    EXPECT_EQ(longestShownField, document.row(1).component.size());
+    EXPECT_EQ(300, document.wholeRow(1).component.size());
+    EXPECT_FALSE(document.wholeRow(1).cut);
+}
+
 TEST(Harmless, PutsASignInThePlaceOfEachCharacterThatActs)
 {
     const struct {

@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <chrono>
+
 namespace viewer {
 namespace {
 
@@ -61,6 +63,17 @@ TEST_F(RowOrderTest, HasTheRowsOfATimelineInItsOrderFromEveryNumberOn)
             ASSERT_EQ(expected[at], walk.next()) << row;
     }
     EXPECT_EQ(nullptr, order.from(timeline, order.size()).next());
+}
+
+TEST_F(RowOrderTest, FindsOneOfManyRowsOfAMomentAtOnce)
+{
+    addRows("A", 200'000, 1000, 0);
+    read();
+    const RowOrder order = made();
+    const auto begin = std::chrono::steady_clock::now();
+    for (std::size_t row = 190'000; row < 200'000; ++row)
+        ASSERT_EQ(row, order.find(timeline, *expected[row]));
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(500));
 }
 
 TEST_F(RowOrderTest, FindsTheNumberOfEveryRow)

@@ -52,6 +52,17 @@ TEST_F(RowExportTest, WritesWhatIsOnShowInTheFormOfTheEnding)
     EXPECT_FALSE(row.contains("port"));
 }
 
+TEST_F(RowExportTest, WritesLongTextsAsLongAsTheyAre)
+{
+    const QByteArray longText(500'000, 'x');
+    document.open({logs.write("KoCSMgr", rawLine(1000, "A", 3, longText.toStdString()))});
+    ASSERT_TRUE(waitForRows(document));
+    EXPECT_EQ("Component,Trace\nA," + longText + '\n', written("rows.csv"));
+    EXPECT_EQ("A\t" + longText + '\n', written("rows.txt"));
+    EXPECT_EQ(QString(longText),
+              QJsonDocument::fromJson(written("rows.json").value()).object()["trace"].toString());
+}
+
 TEST_F(RowExportTest, SaysWhenTheFileCanNotBeWritten)
 {
     RowExport writing(model, {RowColumn::trace}, logs.folder() + "/none/rows.csv");

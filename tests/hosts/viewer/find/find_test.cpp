@@ -4,6 +4,7 @@
 #include "support/windows/test_application.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 
 #include <gmock/gmock.h>
 
@@ -108,6 +109,44 @@ TEST(Highlights, MarksTextsInColoursOfTheirOwn)
     EXPECT_EQ(1u, marks[2].colour);
     EXPECT_EQ(Highlights::most, marks[4].colour);
     EXPECT_EQ(6, marks[4].length);
+}
+
+/// The marked parts of a text, for an expression.
+QStringList marked(const QString& expression, const QString& text, LineEdges ends = {})
+{
+    Highlights highlights;
+    highlights.setFound({expression, true, false, false});
+    QStringList parts;
+    for (const Highlights::Mark& mark : highlights.marksIn(text, ends))
+        parts << text.mid(mark.begin, mark.length);
+    return parts;
+}
+
+TEST(Highlights, MarksWhatTheSearchFinds)
+{
+    EXPECT_EQ(QStringList({"ab", "AB"}), marked("(?-s)a+b", "ab AB"));
+    EXPECT_EQ(QStringList({"x12"}), marked("\\pL[[:digit:]]+", "7 x12"));
+    EXPECT_EQ(QStringList({"yy", "y"}), marked("y*", QString::fromUtf8("é😀yyé😀y")));
+    EXPECT_EQ(QStringList(), marked("(?=a)ab", "ab")) << "the search takes no such expression";
+}
+
+TEST(Highlights, KnowsWhereTheLineBeginsAndEnds)
+{
+    EXPECT_EQ(QStringList({"a"}), marked("^a", "a a"));
+    EXPECT_EQ(QStringList(), marked("^a", "a a", {.begins = false}));
+    EXPECT_EQ(QStringList({"a"}), marked("a$", "a a", {.begins = false}));
+    EXPECT_EQ(QStringList(), marked("a$", "a a", {.begins = false, .ends = false}));
+    EXPECT_EQ(QStringList({"a", "a"}), marked("\\ba\\b", "a a", {.begins = false, .ends = false}));
+}
+
+TEST(Highlights, TakeATimeInProportionToTheText)
+{
+    const QString longText(2'000'000, QLatin1Char('a'));
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(QStringList(), marked("(a+)+b", longText));
+    EXPECT_EQ(QStringList({"aab"}), marked("(a+)+b", "aab"));
+    EXPECT_LT(clock.elapsed(), 2000);
 }
 
 TEST(Highlights, AColourThatIsLetGoIsTakenAgain)

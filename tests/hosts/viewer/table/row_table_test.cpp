@@ -93,6 +93,19 @@ TEST_F(RowTableTest, SelectsRangesOfRows)
     EXPECT_EQ(5000u, table.selectedPlaces(10'000).size());
 }
 
+TEST_F(RowTableTest, KeepsASelectionOfAllRowsWhenRowsCome)
+{
+    open({logs.writeRows("KoCSMgr", 3000, 0, 10)});
+    table.goTo(7);
+    table.selectAll();
+    EXPECT_EQ(3000u, table.selectedCount());
+    open({logs.writeRows("KoNotify", 3000, 5, 10)});
+    EXPECT_EQ(6000u, table.selectedCount());
+    EXPECT_EQ(14u, table.currentPlace());
+    table.goTo(7);
+    EXPECT_EQ(1u, table.selectedCount());
+}
+
 TEST_F(RowTableTest, AClickSelectsTheRowUnderIt)
 {
     open({logs.writeRows("KoCSMgr", 5000, 0, 10)});
@@ -172,6 +185,17 @@ TEST_F(RowTableTest, CopiesRowsAsTheyAreShownAsLinesAndForASpreadsheet)
               copiedRows(model, {0, 1}, columns, CopyForm::raw));
     EXPECT_EQ("Component,Trace\nA,\"'=1+2, \"\"x\"\"\"\n",
               copiedRows(model, {0}, columns, CopyForm::csv));
+}
+
+TEST_F(RowTableTest, CopiesLongTextsAsLongAsTheyAre)
+{
+    const std::string longText(500'000, 'x');
+    open({logs.write("KoCSMgr", rawLine(1000, "A", 3, longText))});
+    const std::vector<RowColumn> columns = {RowColumn::component, RowColumn::trace};
+    const QString trace = QString::fromStdString(longText);
+    EXPECT_EQ("A\t" + trace + "\n", copiedRows(model, {0}, columns, CopyForm::shown));
+    EXPECT_EQ("00:00:01:000,Conv,12,A,3," + trace + "\n",
+              copiedRows(model, {0}, columns, CopyForm::raw));
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "hosts/viewer/find/find_bar.h"
 #include "hosts/viewer/histogram/time_strip.h"
 #include "hosts/viewer/support/test_logs.h"
+#include "hosts/viewer/table/row_copy.h"
 #include "hosts/viewer/window/filter_bar.h"
 #include "support/windows/test_application.h"
 
@@ -20,6 +21,7 @@
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTest>
@@ -398,6 +400,34 @@ TEST_F(ViewerWindow, ShowsAllOfTheCurrentRow)
     const auto fields = window.details().fields().findItems("CallFlow", Qt::MatchExactly, 1);
     ASSERT_EQ(1, fields.size());
     EXPECT_EQ("Component", fields.front()->text(0));
+}
+
+TEST_F(ViewerWindow, SaysHowManyOfTheSelectedRowsWereCopied)
+{
+    open({logs.writeRows("KoCSMgr", mostCopied + 5, 0, 1)});
+    window.table().goTo(0);
+    window.table().selectAll();
+    window.run(Command::copyRaw);
+    EXPECT_EQ(mostCopied, static_cast<std::size_t>(QApplication::clipboard()->text().count('\n')));
+    EXPECT_TRUE(window.statusBar()->currentMessage().startsWith("100,000 of 100,005 "))
+        << window.statusBar()->currentMessage().toStdString();
+}
+
+TEST_F(ViewerWindow, ShowsTheRestOfALongTraceWhenItIsAskedFor)
+{
+    const std::string longText(1'000'000, 'x');
+    open({logs.write("KoCSMgr", rawLine(1000, "A", 3, longText) + rawLine(2000, "A", 3, "next"))});
+    window.table().goTo(0);
+    DetailsPane& details = window.details();
+    EXPECT_EQ(DetailsPane::mostAtOnce, details.trace().toPlainText().size());
+    EXPECT_EQ(1'000'000, details.value().size()) << "all of it is copied";
+    ASSERT_FALSE(details.showAll().isHidden());
+    details.showAll().click();
+    EXPECT_EQ(1'000'000, details.trace().toPlainText().size());
+    EXPECT_TRUE(details.showAll().isHidden());
+    window.table().goTo(1);
+    EXPECT_EQ("next", details.trace().toPlainText());
+    EXPECT_TRUE(details.showAll().isHidden());
 }
 
 TEST_F(ViewerWindow, WritesTheRowsOnShowToAFile)
