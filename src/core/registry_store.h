@@ -20,6 +20,11 @@ constexpr const char* logFolderValue = "Output Path";
 constexpr const char* logProcessesKey = "Software\\Kelma Systems\\Kelma Orvan\\RoLogMgr\\Process";
 constexpr const char* currentLogValue = "CurrentLogFile";
 
+/// The companion viewer's program, in the form that `expandPath` takes.
+constexpr const char* viewerKey = "Software\\Kelma Systems\\Kelma Orvan\\ToolsCrate\\"
+                                  "Diagnostic Tools\\Orvan Diagnostic Viewer";
+constexpr const char* viewerValue = "Path";
+
 /// A registry value as routines pass it: nothing, a text, bytes or a 32-bit number.
 using RegistryData =
     std::variant<std::monostate, std::string, std::vector<std::uint8_t>, std::int32_t>;

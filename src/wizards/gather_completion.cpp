@@ -13,8 +13,6 @@
 
 namespace {
 constexpr const char* pageName = "ppgGatherLogs99Final";
-constexpr const char* viewerKey = "Software\\Kelma Systems\\Kelma Orvan\\ToolsCrate\\"
-                                  "Diagnostic Tools\\Orvan Diagnostic Viewer";
 } // namespace
 
 ppgGatherLogs99Final::ppgGatherLogs99Final(ToolContext& tool,
@@ -91,7 +89,7 @@ void ppgGatherLogs99Final::cmdLaunchQRV_Click()
     step.body([&] {
         step.enterProc();
         std::string path =
-            step.value("", [&] { return getRegistryText(tool(), viewerKey, "Path"); });
+            step.value("", [&] { return getRegistryText(tool(), viewerKey, viewerValue); });
         if (!path.empty()) {
             step([&] { path = expandPath(tool(), path); });
             const std::string command =

@@ -163,6 +163,25 @@ TEST_F(ReadOnlySite, IsLookedAtWithoutLeaveToWrite)
     EXPECT_THAT(refused.err, HasSubstr("is read-only"));
 }
 
+TEST_F(ReadOnlySite, IsToldByDoctorAsOneThatCantBeChanged)
+{
+    const Record before = recordOf(site);
+    const Outcome outcome = asReader({"--json", "doctor"});
+    EXPECT_EQ(1, outcome.status);
+    EXPECT_THAT(outcome.err, HasSubstr("3 needed things are not in order"));
+    std::map<std::string, std::string> notOk;
+    for (const auto& finding : outcome.json())
+        if (finding["state"] != "ok") notOk[finding["id"]] = finding["state"];
+    // The program stands alone where the reader can reach it, without what is installed beside it.
+    EXPECT_EQ((std::map<std::string, std::string>{{"cabinet-maker", "unusable"},
+                                                  {"rights", "unusable"},
+                                                  {"rights.database", "unusable"},
+                                                  {"rights.tool-log", "unusable"},
+                                                  {"viewer", "missing"}}),
+              notOk);
+    EXPECT_THAT(differences(before, recordOf(site)), testing::IsEmpty());
+}
+
 TEST_F(ReadOnlySite, IsGatheredFromIntoAFolderOutsideOfIt)
 {
     const Record before = recordOf(site);

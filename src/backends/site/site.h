@@ -73,6 +73,7 @@ public:
     SiteDatabase& database() { return database_; }
     SiteFileSystem& files() { return files_; }
     SiteRegistry& registry() { return registry_; }
+    const SiteProcesses& processes() const { return processes_; }
     SiteEventLogExporter& eventLogExporter() { return eventLogExporter_; }
 
 private:

@@ -58,10 +58,13 @@ std::string machineNameOf(const SitePaths& paths, const std::string& name)
     }
 }
 
+constexpr const char* notOfThisMachine = "it is not a program of this machine's own";
+constexpr const char* noCabinetMaker = "no cabinet maker is installed on this machine";
+
 [[noreturn]] void refuse(const std::string& program)
 {
     throw RunTimeError(runTimeErrors::permissionDenied,
-                       program + " is not run: it is not a program of this machine's own");
+                       program + " is not run: " + notOfThisMachine);
 }
 
 /// The last line of what a process wrote, without the name that it puts before it.
@@ -136,12 +139,20 @@ std::int32_t SiteProcesses::start(const std::string& commandLine, WindowStyle)
     throw RunTimeError(runTimeErrors::fileNotFound);
 }
 
+std::string SiteProcesses::obstacleTo(const std::string& program) const
+{
+    const auto asked = fileOf(program);
+    if (!asked) return "it is not there";
+    if (isCalled(program, cabinetMakerName))
+        return isPlainFile(installed_.cabinetMaker) ? "" : noCabinetMaker;
+    return isSameFile(*asked, installed_.viewer) ? "" : notOfThisMachine;
+}
+
 std::int32_t SiteProcesses::startCabinetMaker(const std::string& asked,
                                               const std::vector<std::string>& arguments)
 {
     if (!isPlainFile(installed_.cabinetMaker))
-        throw RunTimeError(runTimeErrors::fileNotFound,
-                           "no cabinet maker is installed on this machine");
+        throw RunTimeError(runTimeErrors::fileNotFound, noCabinetMaker);
     Running running;
     running.standardError = makeMemoryFile();
     running.replaced = !hasSameBytes(asked, installed_.cabinetMaker);

@@ -39,6 +39,10 @@ public:
     /// A process is there until it was waited for to its end.
     bool wait(std::int32_t processId, std::int32_t milliseconds) override;
 
+    /// Why a program, by its name with or without an ending, would not be started: a clause; empty
+    /// where nothing stands in its way.
+    std::string obstacleTo(const std::string& program) const;
+
     ProcessReport lastReport() const override { return lastReport_; }
 
 private:

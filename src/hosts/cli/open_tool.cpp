@@ -35,9 +35,9 @@ MachineFacts machineFacts(const GlobalOptions& options)
     return facts;
 }
 
-/// The site's folder, once it is sure that a tool that changes something can keep its log and its
-/// registry there.
-const std::string& usableSite(const std::string& folder, ToolUse use)
+/// Refuses a folder that is no site, or where a tool that changes something can't keep its log and
+/// its registry.
+void requireUsableSite(const std::string& folder, ToolUse use)
 {
     if (folder.empty()) throw CommandFailure("the folder of the site has no name");
     if (!isSite(folder))
@@ -46,17 +46,22 @@ const std::string& usableSite(const std::string& folder, ToolUse use)
                              "orvandiag sample makes one to try things on");
     if (use == ToolUse::change && !mayWrite(folder))
         throw CommandFailure("the site " + folder + " is read-only");
-    return folder;
 }
 
 std::unique_ptr<ServerAccess> serverToOpen(const GlobalOptions& options, ToolUse use)
 {
-    if (!options.site) return openMachine(machineFacts(options));
-    return std::make_unique<SiteServer>(usableSite(*options.site, use), places::installedData(),
-                                        hostFacts(options), SiteUse::look);
+    if (options.site) requireUsableSite(*options.site, use);
+    return serverToExamine(options);
 }
 
 } // namespace
+
+std::unique_ptr<ServerAccess> serverToExamine(const GlobalOptions& options)
+{
+    if (!options.site) return openMachine(machineFacts(options));
+    return std::make_unique<SiteServer>(*options.site, places::installedData(), hostFacts(options),
+                                        SiteUse::look);
+}
 
 OpenTool::OpenTool(const GlobalOptions& options, ToolUse use, const Check& check)
     : AroundTool{{}, serverToOpen(options, use), {}, {}},

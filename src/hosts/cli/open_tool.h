@@ -20,6 +20,10 @@ enum class ToolUse {
     look,   ///< leaves no event, log or value, and needs no leave to write
 };
 
+/// The server that the command line names, opened to look at it alone. Raises 76 for a folder that
+/// is no site, 321 for a damaged one, and 70, 57.
+std::unique_ptr<ServerAccess> serverToExamine(const GlobalOptions& options);
+
 /// What has to be there before a command's tool and as long as it.
 struct AroundTool {
     TerminalDesktop desktop_;

@@ -19,7 +19,7 @@ DatabaseConnection& eitherOf(OdbcDatabase* server, SiteDatabase& file)
 } // namespace
 
 DirectoryDatabase::DirectoryDatabase(Site& site)
-    : file_(site.database()), server_(serverOf(site.settings())),
+    : file_(site.database()), path_(site.databaseFile()), server_(serverOf(site.settings())),
       inUse_(eitherOf(server_.get(), file_))
 {
     openFor(ServerUse::look);

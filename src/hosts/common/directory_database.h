@@ -19,6 +19,8 @@ public:
 
     std::unique_ptr<DatabaseConnection> anotherToLook() const override;
 
+    std::string file() const override { return server_ ? std::string() : path_; }
+
     /// As of `SiteDatabase`, for the site's own file.
     void waitAsOneRun() override;
     void holdCalls() override;
@@ -34,6 +36,7 @@ public:
 
 private:
     SiteDatabase& file_;
+    std::string path_;                     ///< of the site's own file
     std::unique_ptr<OdbcDatabase> server_; ///< none where the site's own file is in use
     DatabaseConnection& inUse_;
 };

@@ -55,6 +55,10 @@ public:
     /// the server and that no person named.
     virtual std::string machinePath(const std::string& path) = 0;
 
+    /// Why a program, by its path of the tool, would not be started, as far as that can be told
+    /// without starting it: a clause; empty where nothing stands in its way.
+    virtual std::string obstacleTo(const std::string&) const { return {}; }
+
     /// A path as a person types it, as one of the tool, which may be reached from then on.
     virtual std::string toolPath(const std::string& typed) = 0;
 

@@ -19,6 +19,10 @@ public:
     /// Another connection to the same database, closed yet, for a look.
     virtual std::unique_ptr<DatabaseConnection> anotherToLook() const = 0;
 
+    /// The file of this machine that holds it, which need not be there; the empty text for that of
+    /// a server.
+    virtual std::string file() const { return {}; }
+
     /// Lets waits for other programs last as long, all together, as one run may take; does nothing
     /// for a server that lets nobody wait for another.
     virtual void waitAsOneRun() {}

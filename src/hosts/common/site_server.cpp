@@ -45,6 +45,11 @@ std::string SiteServer::machinePath(const std::string& path)
     return site_.paths().machinePath(path);
 }
 
+std::string SiteServer::obstacleTo(const std::string& program) const
+{
+    return site_.processes().obstacleTo(program);
+}
+
 std::string SiteServer::toolPath(const std::string& typed)
 {
     std::string path = places::wholePath(typed);

@@ -26,6 +26,8 @@ public:
     bool isServers(const std::string& path) const override;
     std::string machinePath(const std::string& path) override;
 
+    std::string obstacleTo(const std::string& program) const override;
+
     /// A drive's path stays, another one is this machine's own.
     std::string toolPath(const std::string& typed) override;
 
