@@ -104,8 +104,9 @@ TEST_F(BadInput, AResultThatCantBeWrittenIsAFailure)
 
 TEST_F(BadInput, HelpAndVersionThatCantBeWrittenAreFailures)
 {
-    for (const std::string& asked : {std::string("--help"), std::string("gather frame --help"),
-                                     std::string("--version"), std::string("man")}) {
+    for (const std::string& asked :
+         {std::string("--help"), std::string("gather frame --help"), std::string("--version"),
+          std::string("man"), std::string("help gather"), std::string("completion bash")}) {
         SCOPED_TRACE(asked);
         expectOneLine(
             runProgram({"bash", "-c",
@@ -117,7 +118,6 @@ TEST_F(BadInput, HelpAndVersionThatCantBeWrittenAreFailures)
 TEST_F(BadInput, WrongUsageEndsWithTwo)
 {
     const std::vector<std::vector<std::string>> cases = {
-        {},
         {"frobnicate"},
         {"logs"},
         {"--colour", "status"},

@@ -155,9 +155,7 @@ TEST_F(MergedReading, ShowsWhatAMacroTraceTurnsOn)
     EXPECT_EQ(traced, rows({"--macro", "Z - T"}));
     const Outcome refused = run({"read", "--macro", "Z - U"});
     EXPECT_EQ(1, refused.status);
-    EXPECT_EQ("orvandiag: no macro trace \"Z - U\"; near it is \"Z - T\"; orvandiag macro lists "
-              "them\n",
-              refused.err);
+    EXPECT_EQ("orvandiag: no macro trace \"Z - U\"; did you mean \"Z - T\"?\n", refused.err);
 }
 
 TEST_F(MergedReading, TakesAMacroTraceAsTheTraceDatabaseDefinesIt)
@@ -192,8 +190,8 @@ TEST_F(MergedReading, TakesAMacroTraceAsTheTraceDatabaseDefinesIt)
     EXPECT_EQ(stored.size(), linesOf(alone.out).size());
     const Outcome refused = orvandiag({"--site", none, "read", database, "--macro", "Zed - Te"});
     EXPECT_EQ(1, refused.status);
-    EXPECT_EQ("orvandiag: no macro trace \"Zed - Te\" in the trace databases; near it is "
-              "\"Zed - Tee\"\n",
+    EXPECT_EQ("orvandiag: no macro trace \"Zed - Te\" in the trace databases; did you mean "
+              "\"Zed - Tee\"?\n",
               refused.err);
     const Outcome unknown = run({"read", database, "--macro", "Nobody's"});
     EXPECT_EQ("orvandiag: no macro trace \"Nobody's\", neither in the trace databases nor at the "

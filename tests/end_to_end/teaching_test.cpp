@@ -145,10 +145,10 @@ TEST(WrongUsage, NamesTheUnknownCommandAndTheHelpThatTellsMore)
         Words words;
         const char* told;
     } cases[] = {
-        {{"statsu"}, "no command \"statsu\" (see orvandiag --help)"},
-        {{"gather", "frames"}, "no command \"frames\" (see orvandiag gather --help)"},
-        {{"--jsn"}, "no option \"--jsn\" (see orvandiag --help)"},
-        {{}, "name a command, such as sample, status or tree (see orvandiag --help)"},
+        {{"statsu"}, "no command \"statsu\"; did you mean status? (see orvandiag --help)"},
+        {{"gather", "frames"},
+         "no command \"frames\"; did you mean frame? (see orvandiag gather --help)"},
+        {{"--jsn"}, "no option \"--jsn\"; did you mean --json? (see orvandiag --help)"},
         {{"gather"},
          "name a command, such as standard, logs or frame (see orvandiag gather --help)"},
         {{"logs"}, "PROCESS is required (see orvandiag logs --help)"},
@@ -163,6 +163,76 @@ TEST(WrongUsage, NamesTheUnknownCommandAndTheHelpThatTellsMore)
     for (const auto& c : cases) {
         const Outcome refused = orvandiag(c.words);
         EXPECT_EQ(2, refused.status);
+        EXPECT_EQ("orvandiag: " + std::string(c.told) + "\n", refused.err);
+    }
+}
+
+TEST(WrongUsage, WithoutACommandTellsTheCommandsThatOneStartsWith)
+{
+    const Outcome refused = orvandiag({});
+    EXPECT_EQ(2, refused.status);
+    EXPECT_EQ("", refused.out);
+    EXPECT_THAT(refused.err, StartsWith("orvandiag: name a command (see orvandiag --help)\n\n"
+                                        "Usage: orvandiag [OPTIONS] COMMAND [ARGUMENTS]\n\n"));
+    Words named;
+    std::istringstream lines(refused.err);
+    for (std::string line; std::getline(lines, line);)
+        if (line.rfind("  ", 0) == 0) named.push_back(line.substr(2, line.find(' ', 2) - 2));
+    EXPECT_THAT(named, ElementsAre("sample", "status", "read", "macro", "gather"));
+    EXPECT_EQ(refused.err, orvandiag({"--json"}).err);
+}
+
+TEST(WrongUsage, HelpAndVersionOfWhatIsNoCommandAreRefused)
+{
+    for (const char* option : {"--help", "-h", "--version"}) {
+        const Outcome refused = orvandiag({"statsu", option});
+        EXPECT_EQ(2, refused.status);
+        EXPECT_EQ("", refused.out);
+        EXPECT_EQ("orvandiag: no command \"statsu\"; did you mean status? (see orvandiag --help)\n",
+                  refused.err);
+    }
+}
+
+TEST(HelpCommand, ShowsTheHelpThatTheOptionShows)
+{
+    EXPECT_EQ(orvandiag({"--help"}).out, orvandiag({"help"}).out);
+    Words all = commands();
+    all.insert(all.end(), {"gather frame", "macro set", "man"});
+    for (const std::string& command : all) {
+        SCOPED_TRACE(command);
+        Words words = {"help"};
+        std::istringstream parts(command);
+        for (std::string part; parts >> part;) words.push_back(part);
+        const Outcome told = orvandiag(words);
+        words.erase(words.begin());
+        words.emplace_back("--help");
+        EXPECT_EQ(0, told.status);
+        EXPECT_EQ(orvandiag(words).out, told.out);
+        EXPECT_NE("", told.out);
+    }
+}
+
+TEST(HelpCommand, IsAJsonValueWhereOneIsAskedFor)
+{
+    EXPECT_EQ(orvandiag({"gather", "frame", "--help"}).out,
+              orvandiag({"--json", "help", "gather", "frame"}).json()["help"]);
+}
+
+TEST(HelpCommand, RefusesWhatIsNoCommand)
+{
+    const struct {
+        Words words;
+        const char* told;
+    } cases[] = {
+        {{"help", "statsu"}, "no command \"statsu\"; did you mean status? (see orvandiag --help)"},
+        {{"help", "gather", "frames"},
+         "no command \"frames\"; did you mean frame? (see orvandiag gather --help)"},
+        {{"help", "status", "x"}, "unexpected word \"x\" (see orvandiag status --help)"},
+    };
+    for (const auto& c : cases) {
+        const Outcome refused = orvandiag(c.words);
+        EXPECT_EQ(2, refused.status);
+        EXPECT_EQ("", refused.out);
         EXPECT_EQ("orvandiag: " + std::string(c.told) + "\n", refused.err);
     }
 }

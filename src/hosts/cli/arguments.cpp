@@ -1,10 +1,45 @@
 #include "hosts/cli/arguments.h"
 
+#include "hosts/cli/naming/near_names.h"
+
 #include <CLI/CLI.hpp>
 
+#include <charconv>
 #include <limits>
+#include <optional>
 
 namespace cli {
+
+namespace {
+
+/// The number of digits alone: what else a number could be written as, such as in octal digits, is
+/// nothing that a person means.
+std::optional<std::uint64_t> wholeNumber(const std::string& text)
+{
+    std::uint64_t number = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, number);
+    if (error != std::errc{} || stop != end) return std::nullopt;
+    return number;
+}
+
+/// Takes whole numbers within bounds, and hands them on without leading zeros, which the library
+/// takes for a sign of octal digits.
+CLI::Validator numberWithin(std::uint64_t lowest, std::uint64_t highest,
+                            const std::string& description)
+{
+    const auto take = [lowest, highest](std::string& text) -> std::string {
+        const auto number = wholeNumber(text);
+        if (!number || *number < lowest || *number > highest)
+            return "takes a whole number from " + std::to_string(lowest) + " to " +
+                   std::to_string(highest) + ", not \"" + text + "\"";
+        text = std::to_string(*number);
+        return {};
+    };
+    return CLI::Validator(take, description);
+}
+
+} // namespace
 
 Argument& Argument::called(const std::string& valueName)
 {
@@ -32,21 +67,33 @@ Argument& Argument::oneAtATime()
 
 Argument& Argument::oneOf(const std::vector<std::string>& words)
 {
-    option_->check(CLI::IsMember(words));
+    const CLI::IsMember member(words, CLI::ignore_case);
+    const auto take = [member, words](std::string& text) -> std::string {
+        const std::string typed = text;
+        if (member(text).empty()) return {};
+        return "takes " + namesToChoose(words) + ", not \"" + typed + "\"" +
+               didYouMean(typed, words);
+    };
+    option_->transform(CLI::Validator(take, member.get_description()));
     return *this;
 }
 
 Argument& Argument::within(std::uint64_t lowest, std::uint64_t highest)
 {
-    option_->check(CLI::Range(lowest, highest));
+    const CLI::Range range(lowest, highest);
+    option_->transform(numberWithin(lowest, highest, range.get_description()));
     return *this;
 }
 
 Argument& Argument::positive()
 {
-    CLI::Range range(std::int32_t{1}, std::numeric_limits<std::int32_t>::max());
-    range.description("");
-    option_->check(range);
+    option_->transform(numberWithin(1, std::numeric_limits<std::int32_t>::max(), ""));
+    return *this;
+}
+
+Argument& Argument::notNegative()
+{
+    option_->transform(numberWithin(0, std::numeric_limits<std::uint64_t>::max(), ""));
     return *this;
 }
 

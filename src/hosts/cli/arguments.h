@@ -31,7 +31,8 @@ public:
     /// Takes one value each time that it is given: what follows it is not its own.
     Argument& oneAtATime();
 
-    /// Refuses other words, and names these in the help.
+    /// Refuses other words, and names these in the help. They match in any case, and the variable
+    /// gets the one that is given here.
     Argument& oneOf(const std::vector<std::string>& words);
 
     /// Refuses other numbers, and names the bounds in the help.
@@ -39,6 +40,9 @@ public:
 
     /// Refuses numbers that are not from 1 to the largest of 32 bits.
     Argument& positive();
+
+    /// Refuses what is no whole number of 64 bits.
+    Argument& notNegative();
 
     /// Refuses a word for which `reason` gives a text: why.
     Argument& refusedBy(const std::function<std::string(const std::string& word)>& reason);

@@ -4,6 +4,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace cli {
@@ -30,6 +31,17 @@ public:
 class UsageError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
+
+    /// The help of another command than the chosen one tells more, such as "orvandiag gather".
+    UsageError(const std::string& sentence, std::string command)
+        : std::runtime_error(sentence), command_(std::move(command))
+    {}
+
+    /// Empty for the chosen command.
+    const std::string& command() const { return command_; }
+
+private:
+    std::string command_;
 };
 
 /// A command of orvandiag. It lives as long as the program, so that options can write into it.

@@ -2,6 +2,8 @@
 #include "hosts/cli/program.h"
 #include "hosts/cli/terminal/message.h"
 #include "hosts/cli/terminal/output.h"
+#include "hosts/cli/usage/help_text.h"
+#include "hosts/cli/usage/wrong_usage.h"
 #include "runtime/out_of_memory.h"
 #include "runtime/run_time_error.h"
 #include "system/program_arguments.h"
@@ -11,6 +13,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cstdio>
 #include <exception>
 #include <utility>
 
@@ -24,10 +27,20 @@ int refuse(const std::string& text, int status)
     return status;
 }
 
-/// Says what makes no sense, and which help tells more.
-int refuseUsage(const CLI::App& app, const std::string& text)
+/// Says what makes no sense, and which command's help tells more.
+int refuseUsage(const std::string& text, const std::string& command)
 {
-    return refuse(text + " (see " + chosenCommand(app) + " --help)", 2);
+    return refuse(text + " (see " + command + " --help)", 2);
+}
+
+/// Refuses a command line that could not be read; one that names nothing is told how to begin.
+int refuseCommandLine(const CLI::App& app, const CLI::ParseError& error)
+{
+    const bool isBare = namesNothing(app) && error.get_name() == "RequiredError";
+    const int status = isBare ? refuseUsage("name a command", app.get_name())
+                              : refuseUsage(wrongUsage(app, error), chosenCommand(app));
+    if (isBare) std::fputs(("\n" + shortUsage(app)).c_str(), stderr);
+    return status;
 }
 
 /// Tells what the person asked of the program itself.
@@ -46,14 +59,13 @@ int run(std::vector<std::string> arguments)
     auto app = describeCommandLine(options, commands);
     try {
         app->parse(std::move(arguments));
-    } catch (const CLI::CallForHelp&) {
-        return tell(app->help());
-    } catch (const CLI::CallForVersion&) {
-        return tell(versionText() + "\n");
+    } catch (const CLI::Success& asked) {
+        // Of what is no command there is no help.
+        if (const std::string wrong = unknownCommand(*app); !wrong.empty())
+            return refuseUsage(wrong, chosenCommand(*app));
+        return tell(asked.get_name() == "CallForHelp" ? app->help() : versionText() + "\n");
     } catch (const CLI::ParseError& error) {
-        std::string wrong = unknownCommand(*app);
-        if (wrong.empty() && error.get_name() == "RequiredError") wrong = missingCommand(*app);
-        return refuseUsage(*app, wrong.empty() ? error.what() : wrong);
+        return refuseCommandLine(*app, error);
     }
     try {
         Output output(options.json);
@@ -61,7 +73,8 @@ int run(std::vector<std::string> arguments)
             if (app->got_subcommand(command->name())) command->run(options, output);
         output.finish();
     } catch (const UsageError& error) {
-        return refuseUsage(*app, error.what());
+        return refuseUsage(error.what(),
+                           error.command().empty() ? chosenCommand(*app) : error.command());
     }
     return 0;
 }

@@ -66,18 +66,16 @@ std::string closing()
     return text + ".\n" + outputNote;
 }
 
-const CLI::App& innermostOf(const CLI::App& app)
-{
-    const auto chosen = app.get_subcommands();
-    return chosen.empty() ? app : innermostOf(*chosen.front());
-}
-
 } // namespace
 
 std::unique_ptr<CLI::App> describeCommandLine(GlobalOptions& options,
                                               const std::vector<std::unique_ptr<Command>>& commands)
 {
     auto app = std::make_unique<CLI::App>(introductionHere(), "orvandiag");
+    // Both are handed on to the commands, whose names and options are asked for as they are made.
+    app->ignore_case();
+    app->get_help_ptr()->ignore_case();
+    app->option_defaults()->ignore_case();
     app->allow_windows_style_options(false); // a path of the machine begins with a slash there, too
     app->formatter(std::make_shared<HelpText>());
     app->footer(closing());
@@ -101,37 +99,6 @@ std::unique_ptr<CLI::App> describeCommandLine(GlobalOptions& options,
         command->declare(arguments);
     }
     return app;
-}
-
-std::string chosenCommand(const CLI::App& app)
-{
-    const auto chosen = app.get_subcommands();
-    return chosen.empty() ? app.get_name() : app.get_name() + " " + chosenCommand(*chosen.front());
-}
-
-std::string missingCommand(const CLI::App& app)
-{
-    constexpr std::size_t most = 3;
-    const CLI::App& innermost = innermostOf(app);
-    if (innermost.get_require_subcommand_min() == 0 || !app.remaining(true).empty()) return {};
-    std::vector<std::string> names;
-    for (const CLI::App* command :
-         innermost.get_subcommands([](const CLI::App* sub) { return sub->get_group() != hidden; }))
-        if (names.size() < most) names.push_back(command->get_name());
-    std::string list;
-    for (std::size_t at = 0; at < names.size(); ++at)
-        list += (at == 0 ? "" : at + 1 < names.size() ? ", " : " or ") + names[at];
-    return "name a command, such as " + list;
-}
-
-std::string unknownCommand(const CLI::App& app)
-{
-    const CLI::App* innermost = &innermostOf(app);
-    // The words that no command took wait in the outermost one.
-    const auto words = app.remaining(true);
-    if (innermost->get_require_subcommand_min() == 0 || words.empty()) return {};
-    const bool option = words.front().front() == '-';
-    return (option ? "no option \"" : "no command \"") + words.front() + "\"";
 }
 
 ModuleVersion moduleVersion()
@@ -164,6 +131,7 @@ std::vector<std::unique_ptr<Command>> allCommands()
     commands.push_back(makeDoctorCommand());
     commands.push_back(makeAboutCommand());
     commands.push_back(makeCompletionCommand());
+    commands.push_back(makeHelpCommand());
     commands.push_back(makeManCommand());
     return commands;
 }

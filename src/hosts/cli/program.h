@@ -36,18 +36,6 @@ constexpr const char* outputNote = "Results go to standard output, messages to s
 std::unique_ptr<CLI::App>
 describeCommandLine(GlobalOptions& options, const std::vector<std::unique_ptr<Command>>& commands);
 
-/// The command that was parsed, down to the innermost, such as "orvandiag gather frame"; as much of
-/// it as was understood.
-std::string chosenCommand(const CLI::App& app);
-
-/// Names the first word that stands where a command should and is none; empty when that is not
-/// what went wrong.
-std::string unknownCommand(const CLI::App& app);
-
-/// Asks for the command that is not there, with some that could be; empty when that is not what
-/// went wrong.
-std::string missingCommand(const CLI::App& app);
-
 /// The version that the tool shows as its own.
 ModuleVersion moduleVersion();
 

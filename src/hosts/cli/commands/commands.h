@@ -12,6 +12,7 @@ std::unique_ptr<Command> makeDoctorCommand();
 std::unique_ptr<Command> makeEventLanguageCommand();
 std::unique_ptr<Command> makeFlagsCommand();
 std::unique_ptr<Command> makeGatherCommand();
+std::unique_ptr<Command> makeHelpCommand();
 std::unique_ptr<Command> makeLanguageCommand();
 std::unique_ptr<Command> makeLogsCommand();
 std::unique_ptr<Command> makeMacroCommand();

@@ -2,6 +2,8 @@
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/driving/sheet_driver.h"
+#include "hosts/cli/naming/matching_name.h"
+#include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/terminal/output.h"
 #include "runtime/text.h"
 #include "settings/event_log_language.h"
@@ -49,10 +51,10 @@ std::string installedLanguage(OpenTool& tool, const std::string& wanted)
     } catch (const RunTimeError& error) {
         throw CommandFailure("the installed languages can't be listed: " + error.description());
     }
-    for (const std::string& language : installed)
-        if (equalIgnoringCase(language, wanted)) return language;
-    throw CommandFailure("no event log language " + wanted +
-                         "; orvandiag event-language lists those that are installed");
+    if (const auto language = matchingName(wanted, installed)) return *language;
+    throw CommandFailure(
+        "no event log language " + wanted +
+        didYouMean(wanted, installed, "; orvandiag event-language lists those that are installed"));
 }
 
 class EventLanguageCommand final : public Command {

@@ -2,17 +2,23 @@
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/driving/flag_words.h"
 #include "hosts/cli/driving/known_names.h"
+#include "hosts/cli/naming/matching_name.h"
+#include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/terminal/output.h"
 #include "platform/database.h"
+#include "runtime/text.h"
 
 namespace cli {
 
 namespace {
 
-CommandFailure noSuchComponent(const std::string& component)
+/// One of the components in its own letters. Raises CommandFailure for none of them.
+std::string componentNamed(const std::string& typed, const std::vector<std::string>& components)
 {
-    return CommandFailure("no component " + component + " in the diagnostic grid");
+    if (const auto name = matchingName(typed, components)) return *name;
+    throw CommandFailure("no component " + typed + " in the diagnostic grid" +
+                         didYouMean(typed, components, "; orvandiag flags lists them"));
 }
 
 class FlagsCommand final : public Command {
@@ -29,15 +35,14 @@ public:
     void run(const GlobalOptions& options, Output& output) override
     {
         OpenTool tool(options, ToolUse::look, [this](OpenTool& opened) {
-            if (!component_.empty() && !knownNames::hasComponent(opened, component_))
-                throw noSuchComponent(component_);
+            if (component_.empty()) return;
+            if (const auto known = knownNames::components(opened))
+                component_ = componentNamed(component_, *known);
         });
         tool.requireDatabase();
         auto words = readFlagWords(tool.context().g_connection);
-        if (!component_.empty())
-            std::erase_if(words, [this](const FlagWords& word) { return word.name != component_; });
         tool.close();
-        if (!component_.empty() && words.empty()) throw noSuchComponent(component_);
+        if (!component_.empty()) keepComponent(words);
         if (output.json())
             printJson(output, words);
         else
@@ -45,6 +50,14 @@ public:
     }
 
 private:
+    void keepComponent(std::vector<FlagWords>& words) const
+    {
+        std::vector<std::string> names;
+        for (const FlagWords& word : words) names.emplace_back(trim(word.name));
+        const std::string component = componentNamed(component_, names);
+        std::erase_if(words, [&](const FlagWords& word) { return trim(word.name) != component; });
+    }
+
     static void printJson(Output& output, const std::vector<FlagWords>& words)
     {
         Json all = Json::array();

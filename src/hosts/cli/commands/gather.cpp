@@ -5,6 +5,8 @@
 #include "hosts/cli/gather/gather_preview.h"
 #include "hosts/cli/gather/gather_run.h"
 #include "hosts/cli/gather/gather_wizard.h"
+#include "hosts/cli/naming/matching_name.h"
+#include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/site_times.h"
 #include "hosts/common/gather/gather_outcome.h"
 #include "logreader/log_file_names.h"
@@ -12,8 +14,8 @@
 #include "runtime/text.h"
 #include "wizards/gather_welcome.h"
 
-#include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace cli {
 
@@ -98,7 +100,7 @@ public:
         answers.systemLog = !noSystem_;
         OpenTool tool(options, dryRun_ ? ToolUse::look : ToolUse::add, [&](OpenTool& opened) {
             if (asked && !asked->isDefault()) answers.frame = frameOf(opened, *asked);
-            requireSound(opened);
+            requireSound(opened, answers);
         });
         if (!to_.empty()) answers.destination = tool.toolPath(to_);
         if (excel_) tool.server().exportEventsFor(CsvReader::spreadsheet);
@@ -166,26 +168,40 @@ private:
     }
 
     /// Raises CommandFailure for what the person asks for and this server does not have.
-    void requireSound(OpenTool& tool) const
+    void requireSound(OpenTool& tool, GatherAnswers& answers) const
     {
-        const std::string folder = getRegistryText(tool.context(), logManagerKey, logFolderValue);
-        for (const auto& log : orvanLogs_) requireLog(tool, folder, log);
-        for (const auto& log : windowsLogs_)
-            if (!holds(subkeys(tool, eventLogsKey), log))
-                throw CommandFailure("no Windows event log \"" + log + "\" on this server");
+        if (logs_.given()) writeAsKnown(tool, answers);
         if (!to_.empty()) requireUsableDestination(tool, tool.toolPath(to_));
     }
 
-    /// Raises CommandFailure for a file that is none of a process's logs, which are all that the
-    /// wizard offers.
-    static void requireLog(OpenTool& tool, const std::string& folder, const std::string& name)
+    /// Writes the logs as the wizard offers them: those of processes, and the event logs. Raises
+    /// CommandFailure for others.
+    static void writeAsKnown(OpenTool& tool, GatherAnswers& answers)
     {
+        const std::string folder = getRegistryText(tool.context(), logManagerKey, logFolderValue);
+        const std::vector<std::string> logs = logsOfProcesses(tool, folder);
+        for (std::string& log : answers.logs)
+            log = offered(log, logs, "no log \"" + log + "\" of a process in " + folder);
+        const std::vector<std::string> eventLogs = subkeys(tool, eventLogsKey);
+        for (std::string& log : answers.eventLogs)
+            log = offered(log, eventLogs, "no Windows event log \"" + log + "\" on this server");
+    }
+
+    static std::string offered(const std::string& typed, const std::vector<std::string>& known,
+                               const std::string& refusal)
+    {
+        if (const auto name = matchingName(typed, known)) return *name;
+        throw CommandFailure(refusal + didYouMean(typed, known));
+    }
+
+    static std::vector<std::string> logsOfProcesses(OpenTool& tool, const std::string& folder)
+    {
+        std::vector<std::string> logs;
         for (const std::string& process : subkeys(tool, logProcessesKey))
-            if (holds(tool.context().platform.files.matching(folder + "\\" +
-                                                             logFileNames::logsOfProcess(process)),
-                      name))
-                return;
-        throw CommandFailure("no log \"" + name + "\" of a process in " + folder);
+            for (std::string& log : tool.context().platform.files.matching(
+                     folder + "\\" + logFileNames::logsOfProcess(process)))
+                logs.push_back(std::move(log));
+        return logs;
     }
 
     static std::vector<std::string> subkeys(OpenTool& tool, const std::string& path)
@@ -193,13 +209,6 @@ private:
         return tool.context()
             .platform.registry.subkeys(registryRoot::localMachine, path)
             .value_or(std::vector<std::string>{});
-    }
-
-    static bool holds(const std::vector<std::string>& names, const std::string& wanted)
-    {
-        return std::any_of(names.begin(), names.end(), [&](const std::string& name) {
-            return equalIgnoringCase(name, wanted);
-        });
     }
 
     Arguments standard_;

@@ -3,11 +3,15 @@
 #include "core/registry_store.h"
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
+#include "hosts/cli/naming/matching_name.h"
+#include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/terminal/output.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "settings/about_box.h"
+
+#include <algorithm>
 
 namespace cli {
 
@@ -29,11 +33,12 @@ Codes offered(const Codes& codes)
 /// offer.
 int menuIndex(const Codes& codes, const std::string& wanted)
 {
-    if (codes.empty() && equalIgnoringCase(wanted, english)) return 0;
-    for (std::size_t index = 0; index < codes.size(); ++index)
-        if (equalIgnoringCase(codes[index], wanted)) return static_cast<int>(index);
-    throw CommandFailure("no interface language " + wanted +
-                         "; orvandiag language lists those beside the tool");
+    const Codes& known = codes.empty() ? Codes{english} : codes;
+    if (const auto code = matchingName(wanted, known))
+        return static_cast<int>(std::find(known.begin(), known.end(), *code) - known.begin());
+    throw CommandFailure(
+        "no interface language " + wanted +
+        didYouMean(wanted, known, "; orvandiag language lists those beside the tool"));
 }
 
 class LanguageCommand final : public Command {

@@ -2,6 +2,8 @@
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/log_folder.h"
+#include "hosts/cli/naming/matching_name.h"
+#include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/terminal/output.h"
 #include "runtime/numbers.h"
@@ -18,10 +20,10 @@ struct LogFile {
     long long size;
 };
 
-CommandFailure noSuchProcess(const std::string& process)
+CommandFailure noSuchProcess(const std::string& process, const std::vector<std::string>& known = {})
 {
-    return CommandFailure("no process \"" + process +
-                          "\" writes logs here; orvandiag status lists them");
+    return CommandFailure("no process \"" + process + "\" writes logs here" +
+                          didYouMean(process, known, "; orvandiag status lists them"));
 }
 
 /// A process's rows as the log list shows them.
@@ -84,11 +86,16 @@ public:
     }
 
 private:
-    void requireProcess(OpenTool& tool) const
+    /// Writes the process as the server does. Raises CommandFailure for one that it does not have.
+    void requireProcess(OpenTool& tool)
     {
-        const std::string key = std::string(logProcessesKey) + "\\" + process_;
-        if (process_.empty() || !registryKeyExists(tool.context(), registryRoot::localMachine, key))
-            throw noSuchProcess(process_);
+        const auto known =
+            tool.context()
+                .platform.registry.subkeys(registryRoot::localMachine, logProcessesKey)
+                .value_or(std::vector<std::string>{});
+        const auto name = matchingName(process_, known);
+        if (!name) throw noSuchProcess(process_, known);
+        process_ = *name;
     }
 
     std::string process_;

@@ -5,13 +5,15 @@
 #include "hosts/cli/driving/trace_check.h"
 #include "hosts/cli/driving/trace_choice.h"
 #include "hosts/cli/driving/wizard_driver.h"
+#include "hosts/cli/naming/matching_name.h"
+#include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/terminal/output.h"
 #include "platform/xml.h"
 #include "runtime/text.h"
 #include "shell/snapin_names.h"
 
-#include <algorithm>
+#include <functional>
 
 namespace cli {
 
@@ -35,9 +37,11 @@ std::vector<MacroTrace> shownMacroTraces(const XmlDocument& catalogue)
     return traces;
 }
 
-CommandFailure noSuchMacroTrace(const std::string& wanted)
+CommandFailure noSuchMacroTrace(const std::string& wanted,
+                                const std::vector<std::string>& known = {})
 {
-    return CommandFailure("no macro trace \"" + wanted + "\"; orvandiag macro lists them");
+    return CommandFailure("no macro trace \"" + wanted + "\"" +
+                          didYouMean(wanted, known, "; orvandiag macro lists them"));
 }
 
 /// The macro trace of "GROUP - TRACE". Raises CommandFailure for one that the wizard does not show.
@@ -88,8 +92,6 @@ public:
     {
         if (set_.given() && choice_.empty())
             throw UsageError("macro set needs an --on or an --off");
-        if (const std::string* both = choice_.contradiction(equalIgnoringCase))
-            throw UsageError("\"" + *both + "\" is to be turned on and off");
         OpenTool tool(options, set_.given() ? ToolUse::change : ToolUse::look,
                       [&](OpenTool& opened) { requireMacroTraces(opened, output); });
         if (set_.given())
@@ -99,16 +101,21 @@ public:
     }
 
 private:
-    void requireMacroTraces(OpenTool& tool, Output& output) const
+    /// Raises CommandFailure for a macro trace that this server does not have, UsageError where one
+    /// is to be turned on and off. Writes their names as the wizard shows them.
+    void requireMacroTraces(OpenTool& tool, Output& output)
     {
         const auto traces = knownNames::macroTraces(tool);
         for (const auto& file : traces.passedOver)
             output.message(file + " is passed over: it is no definition of macro traces");
         if (!set_.given()) return;
-        choice_.forEach([&](const std::string& name) {
-            if (std::find(traces.shown.begin(), traces.shown.end(), name) == traces.shown.end())
-                throw noSuchMacroTrace(name);
+        choice_.forEach([&](std::string& name) {
+            const auto known = matchingName(name, traces.shown);
+            if (!known) throw noSuchMacroTrace(name, traces.shown);
+            name = *known;
         });
+        if (const std::string* both = choice_.contradiction(std::equal_to<std::string>()))
+            throw UsageError("\"" + *both + "\" is to be turned on and off");
     }
 
     static void list(OpenTool& tool, Output& output)

@@ -6,6 +6,8 @@
 #include "hosts/cli/driving/trace_check.h"
 #include "hosts/cli/driving/trace_choice.h"
 #include "hosts/cli/driving/wizard_driver.h"
+#include "hosts/cli/naming/matching_name.h"
+#include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/open_tool.h"
 #include "hosts/cli/terminal/output.h"
 #include "runtime/numbers.h"
@@ -46,10 +48,9 @@ struct LevelName {
     int level;
 };
 
-/// The same level of the same component, in whatever case its name is written.
 bool isSameLevel(const LevelName& left, const LevelName& right)
 {
-    return left.level == right.level && equalIgnoringCase(left.component, right.component);
+    return left.level == right.level && left.component == right.component;
 }
 
 /// The parts of "COMPONENT:LEVEL". Raises UsageError for a text of another form.
@@ -88,10 +89,11 @@ std::vector<LevelName> defaultLevels(DatabaseConnection& connection,
     return found;
 }
 
-CommandFailure noSuchComponent(const std::string& component)
+CommandFailure noSuchComponent(const std::string& component,
+                               const std::vector<std::string>& known = {})
 {
-    return CommandFailure("no component " + component +
-                          " in the diagnostic grid; orvandiag micro lists them");
+    return CommandFailure("no component " + component + " in the diagnostic grid" +
+                          didYouMean(component, known, "; orvandiag micro lists them"));
 }
 
 CommandFailure noSuchLevel(const LevelName& wanted)
@@ -200,18 +202,16 @@ public:
 
     void run(const GlobalOptions& options, Output& output) override
     {
+        if (set_.given() && !component_.empty())
+            throw UsageError("micro set takes no component but in --on and --off; leave out \"" +
+                             component_ + "\"");
         if (set_.given() && on_.empty() && off_.empty())
             throw UsageError("micro set needs an --on or an --off");
         TraceChoice<LevelName> choice;
         for (const auto& name : on_) choice.on.push_back(levelName(name));
         for (const auto& name : off_) choice.off.push_back(levelName(name));
-        if (const LevelName* both = choice.contradiction(isSameLevel))
-            throw UsageError(textOf(*both) + " is to be turned on and off");
-        OpenTool tool(
-            options, set_.given() ? ToolUse::change : ToolUse::look, [&](OpenTool& opened) {
-                if (!component_.empty()) requireComponent(opened, component_);
-                choice.forEach([&](const LevelName& name) { requireLevel(opened, name); });
-            });
+        OpenTool tool(options, set_.given() ? ToolUse::change : ToolUse::look,
+                      [&](OpenTool& opened) { requireSound(opened, choice); });
         if (set_.given())
             set(tool, output, choice);
         else
@@ -219,14 +219,28 @@ public:
     }
 
 private:
-    static void requireComponent(OpenTool& tool, const std::string& component)
+    /// Raises CommandFailure for what this server does not have, UsageError where the names turn
+    /// out to contradict each other. Writes them as the server does.
+    void requireSound(OpenTool& tool, TraceChoice<LevelName>& choice)
     {
-        if (!knownNames::hasComponent(tool, component)) throw noSuchComponent(component);
+        if (const auto known = knownNames::components(tool)) {
+            if (!component_.empty()) writeAsKnown(component_, *known);
+            choice.forEach([&](LevelName& name) { writeAsKnown(name.component, *known); });
+        }
+        if (const LevelName* both = choice.contradiction(isSameLevel))
+            throw UsageError(textOf(*both) + " is to be turned on and off");
+        choice.forEach([&](const LevelName& name) { requireLevel(tool, name); });
+    }
+
+    static void writeAsKnown(std::string& component, const std::vector<std::string>& known)
+    {
+        const auto name = matchingName(component, known);
+        if (!name) throw noSuchComponent(component, known);
+        component = *name;
     }
 
     static void requireLevel(OpenTool& tool, const LevelName& wanted)
     {
-        requireComponent(tool, wanted.component);
         const bool shown = knownNames::showsLevel(tool, wanted.component, wanted.level);
         requireLevelTexts(tool);
         if (!shown) throw noSuchLevel(wanted);

@@ -5,7 +5,6 @@
 #include "hosts/cli/terminal/output.h"
 #include "hosts/cli/terminal/progress_line.h"
 #include "hosts/common/places.h"
-#include "runtime/text.h"
 #include "sample/sample_server.h"
 #include "system/machine_path.h"
 
@@ -36,12 +35,15 @@ public:
     {
         arguments.add("DIR", folder_, "the folder to make").required();
         arguments.add("--lines", lines_, "lines of all diagnostic logs together")
+            .called("N")
             .withDefault()
             .within(100, 1'000'000'000);
         arguments.add("--seed", seed_, "another seed makes another server")
+            .called("N")
             .withDefault()
-            .refusedBy(negativeNumber);
+            .notNegative();
         arguments.add("--fields", fields_, "what a log line carries: basic or extended")
+            .called("FORM")
             .withDefault()
             .oneOf({"basic", "extended"});
     }
@@ -64,12 +66,6 @@ public:
     }
 
 private:
-    /// A number that is read without its sign would be another one.
-    static std::string negativeNumber(const std::string& text)
-    {
-        return trim(text).substr(0, 1) == "-" ? text + " is less than 0" : "";
-    }
-
     /// A wish to stop leaves nothing behind.
     static void make(SampleOptions& options)
     {

@@ -111,18 +111,19 @@ knownNames::MacroTraces knownNames::macroTraces(OpenTool& tool)
 }
 
 /// By a connection of its own: the tool opens its connection when it starts, and never closes it.
-bool knownNames::hasComponent(OpenTool& tool, const std::string& component)
+std::optional<std::vector<std::string>> knownNames::components(OpenTool& tool)
 {
     try {
         const auto database = tool.database().anotherToLook();
         database->open(mdlOrvanDatabase::connectionStringOf("(local)"), "", "");
         const auto rows = database->openRecordset("SELECT Name FROM vw_LoggerDiagnosticGrid",
                                                   CursorKind::forwardOnly, LockKind::readOnly);
+        std::vector<std::string> names;
         for (; !rows->atEnd(); rows->moveNext())
-            if (trim(valueAsText(rows->field("Name"))) == component) return true;
-        return false;
+            names.emplace_back(trim(valueAsText(rows->field("Name"))));
+        return names;
     } catch (const RunTimeError&) {
-        return true;
+        return std::nullopt;
     }
 }
 

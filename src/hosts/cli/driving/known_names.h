@@ -30,9 +30,9 @@ struct MacroTraces {
 
 MacroTraces macroTraces(OpenTool& tool);
 
-/// Whether the diagnostic grid has a component. A database that can't be asked is taken to have it:
-/// that is for the command to tell.
-bool hasComponent(OpenTool& tool, const std::string& component);
+/// The components of the diagnostic grid, without the blanks around their names; nothing where the
+/// database can't be asked, which is for the command to tell.
+std::optional<std::vector<std::string>> components(OpenTool& tool);
 
 /// The path of the catalogue of level texts where the one that the tool holds tells of no
 /// component, as it is missing or can't be read; absent where it does. To be asked once the tool

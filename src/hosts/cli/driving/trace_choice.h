@@ -15,6 +15,14 @@ struct TraceChoice {
 
     bool empty() const { return on.empty() && off.empty(); }
 
+    /// Calls `visit` with each name, which it may write otherwise.
+    template <typename Visit>
+    void forEach(Visit visit)
+    {
+        for (auto* names : {&on, &off})
+            for (auto& name : *names) visit(name);
+    }
+
     /// Calls `visit` with each name.
     template <typename Visit>
     void forEach(Visit visit) const

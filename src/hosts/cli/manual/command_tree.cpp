@@ -28,23 +28,6 @@ std::string valueName(const std::string& typeName)
     return checks ? typeName.substr(0, check) : typeName;
 }
 
-DescribedOption describeOption(const CLI::Option& option)
-{
-    DescribedOption described;
-    for (const auto& name : option.get_snames()) described.names.push_back("-" + name);
-    for (const auto& name : option.get_lnames()) described.names.push_back("--" + name);
-    const std::string typeName = option.get_type_name();
-    if (described.isArgument())
-        described.argument = option.get_name(true);
-    else if (option.get_items_expected_max() > 0)
-        described.argument = valueName(typeName);
-    described.choices = choicesOf(typeName);
-    described.defaultValue = option.get_default_str();
-    described.description = option.get_description();
-    described.required = option.get_required();
-    return described;
-}
-
 /// A command below another one says the same below its options unless it has a text of its own.
 std::string ownExplanation(const CLI::App& app)
 {
@@ -68,6 +51,23 @@ DescribedCommand describe(const CLI::App& app, const std::string& path)
 }
 
 } // namespace
+
+DescribedOption describeOption(const CLI::Option& option)
+{
+    DescribedOption described;
+    for (const auto& name : option.get_snames()) described.names.push_back("-" + name);
+    for (const auto& name : option.get_lnames()) described.names.push_back("--" + name);
+    const std::string typeName = option.get_type_name();
+    if (described.isArgument())
+        described.argument = option.get_name(true);
+    else if (option.get_items_expected_max() > 0)
+        described.argument = valueName(typeName);
+    described.choices = choicesOf(typeName);
+    described.defaultValue = option.get_default_str();
+    described.description = option.get_description();
+    described.required = option.get_required();
+    return described;
+}
 
 DescribedCommand describeCommands(const CLI::App& app)
 {

@@ -32,6 +32,8 @@ struct DescribedCommand {
     std::vector<DescribedCommand> commands;
 };
 
+DescribedOption describeOption(const CLI::Option& option);
+
 /// The whole command line from `app` down.
 DescribedCommand describeCommands(const CLI::App& app);
 

@@ -2,6 +2,8 @@
 
 #include "backends/site/site.h"
 #include "core/registry_store.h"
+#include "hosts/cli/naming/matching_name.h"
+#include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/terminal/message.h"
 #include "hosts/common/places.h"
 #include "platform/file_system.h"
@@ -52,9 +54,13 @@ void findOnServer(FoundLogs& found, OpenTool& tool, const std::string& log)
     }
     const auto& files = tool.context().platform.files;
     const std::string folder = logFolderOf(tool);
-    if (isBareName(log) && !log.empty() && files.fileExists(folder + "\\" + log)) {
-        found.paths.push_back(tool.machinePath(folder + "\\" + log));
-        return;
+    std::vector<std::string> names;
+    if (isBareName(log) && !log.empty()) {
+        names = files.matching(folder + "\\*");
+        if (const auto name = matchingName(log, names)) {
+            found.paths.push_back(tool.machinePath(folder + "\\" + *name));
+            return;
+        }
     }
     const std::string path = tool.toolPath(log);
     // A pipe of this machine is nothing that a server has.
@@ -66,7 +72,8 @@ void findOnServer(FoundLogs& found, OpenTool& tool, const std::string& log)
         found.paths.push_back(tool.machinePath(path));
     else
         tellMissing(found, log,
-                    isBareName(log) && !folder.empty() ? ", neither here nor in " + folder : "");
+                    (isBareName(log) && !folder.empty() ? ", neither here nor in " + folder : "") +
+                        didYouMean(log, names));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "hosts/cli/reading/log_reading.h"
 
+#include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/reading/format_choice.h"
 #include "hosts/cli/reading/log_finding.h"
 #include "hosts/cli/reading/log_following.h"
@@ -22,9 +23,10 @@ namespace {
 timeline::Column countedColumn(const std::string& name)
 {
     if (const auto column = timeline::columnOf(name)) return *column;
-    throw UsageError("rows can't be counted by \"" + name +
-                     "\"; there are process, source, component, level, thread, port, callId and "
-                     "traceNumber");
+    const std::vector<std::string> columns = {"process", "source", "component", "level",
+                                              "thread",  "port",   "callId",    "traceNumber"};
+    throw UsageError("--count-by takes " + namesToChoose(columns) + ", not \"" + name + "\"" +
+                     didYouMean(name, columns));
 }
 
 unsigned readingThreads()

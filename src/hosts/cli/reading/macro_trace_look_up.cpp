@@ -4,7 +4,8 @@
 #include "core/tool_context.h"
 #include "hosts/cli/command.h"
 #include "hosts/cli/driving/known_names.h"
-#include "hosts/cli/reading/near_names.h"
+#include "hosts/cli/naming/matching_name.h"
+#include "hosts/cli/naming/near_names.h"
 #include "platform/xml.h"
 #include "runtime/text.h"
 #include "timeline/sources/macro_trace_definitions.h"
@@ -60,13 +61,12 @@ public:
     {
         atServer_ = true;
         mdlTraces::initMacroTraces(tool);
-        for (const auto& shown : knownNames::shownTraces(*tool.g_domMacroTraces)) {
-            known_.push_back(shown.group + " - " + shown.trace);
-            if (found_ || !equalIgnoringCase(known_.back(), name_)) continue;
-            found_.emplace();
-            for (const auto& component : shown.element->selectNodes("DIAG"))
-                found_->push_back(levelsOf(*component));
-        }
+        const auto traces = knownNames::shownTraces(*tool.g_domMacroTraces);
+        const auto* trace = named(traces);
+        if (trace == nullptr) return;
+        found_.emplace();
+        for (const auto& component : trace->element->selectNodes("DIAG"))
+            found_->push_back(levelsOf(*component));
     }
 
     bool hasFound() const { return found_.has_value(); }
@@ -74,20 +74,33 @@ public:
     std::vector<ComponentLevels> take()
     {
         if (found_) return *std::move(found_);
-        const std::string hint = nearNamesHint(name_, known_);
         if (!inDatabases_ && !atServer_)
             throw CommandFailure("no server tells what \"" + name_ + "\" traces; name a --site");
         std::string where;
         if (inDatabases_)
             where = atServer_ ? ", neither in the trace databases nor at the server"
                               : " in the trace databases";
-        throw CommandFailure("no macro trace \"" + name_ + "\"" + where + hint +
-                             (!atServer_     ? ""
-                              : inDatabases_ ? "; orvandiag macro lists the server's"
-                                             : "; orvandiag macro lists them"));
+        const std::string lists = !atServer_     ? ""
+                                  : inDatabases_ ? "; orvandiag macro lists the server's"
+                                                 : "; orvandiag macro lists them";
+        throw CommandFailure("no macro trace \"" + name_ + "\"" + where +
+                             didYouMean(name_, known_, lists));
     }
 
 private:
+    /// The one of these macro traces that is asked for; null for none. All of them are known then.
+    template <typename Trace>
+    const Trace* named(const std::vector<Trace>& traces)
+    {
+        std::vector<std::string> names;
+        for (const Trace& trace : traces) names.push_back(trace.group + " - " + trace.trace);
+        known_.insert(known_.end(), names.begin(), names.end());
+        const auto name = matchingName(name_, names);
+        if (!name) return nullptr;
+        return &traces[static_cast<std::size_t>(std::find(names.begin(), names.end(), *name) -
+                                                names.begin())];
+    }
+
     void lookIn(const timeline::TraceDatabaseSource& database, XmlService& xml)
     {
         inDatabases_ = true;
@@ -95,9 +108,7 @@ private:
         std::vector<std::string> troubles;
         const auto definitions = MacroTraceDefinitions::of(database.tables(), xml, troubles);
         for (const std::string& trouble : troubles) notes_.push_back(source + ": " + trouble);
-        for (const auto& definition : definitions.all())
-            known_.push_back(definition.group + " - " + definition.trace);
-        const auto* definition = definitions.find(name_);
+        const auto* definition = named(definitions.all());
         if (definition == nullptr) return;
         if (!found_) {
             found_ = definition->levels;

@@ -2,6 +2,7 @@
 
 #include "core/tool_context.h"
 #include "hosts/cli/command.h"
+#include "hosts/cli/naming/near_names.h"
 #include "logreader/format_line.h"
 #include "logreader/parse_diagnostic.h"
 #include "runtime/text.h"
@@ -69,9 +70,9 @@ std::vector<RowColumn> columnsOfList(std::string_view list)
         while (at < columnNames.size() && !equalIgnoringCase(name, std::string(columnNames[at])))
             ++at;
         if (at == columnNames.size()) {
-            std::string known;
-            for (const auto& one : columnNames) known.append(known.empty() ? "" : ", ").append(one);
-            throw UsageError("no column \"" + name + "\"; there are " + known);
+            const std::vector<std::string> known(columnNames.begin(), columnNames.end());
+            throw UsageError("--columns takes " + namesToChoose(known) + ", not \"" + name + "\"" +
+                             didYouMean(name, known));
         }
         columns.push_back(static_cast<RowColumn>(at));
     }

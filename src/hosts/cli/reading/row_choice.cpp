@@ -1,6 +1,7 @@
 #include "hosts/cli/reading/row_choice.h"
 
 #include "hosts/cli/command.h"
+#include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/reading/read_options.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
@@ -70,7 +71,7 @@ void RowChoice::addExclusion(const std::string& exclusion, Letters letters)
 {
     const auto sign = exclusion.find('=');
     if (sign == std::string::npos)
-        throw UsageError("--exclude \"" + exclusion + "\" has no =; write KEY=VALUE");
+        throw UsageError("--exclude takes KEY=VALUE, not \"" + exclusion + "\"");
     const std::string key = exclusion.substr(0, sign);
     const std::string value = exclusion.substr(sign + 1);
     if (equalIgnoringCase(key, "grep")) {
@@ -78,10 +79,12 @@ void RowChoice::addExclusion(const std::string& exclusion, Letters letters)
         return;
     }
     const auto column = timeline::columnOf(key);
-    if (!column)
-        throw UsageError("rows have no \"" + key +
-                         "\" to exclude by; there are process, source, component, level, thread, "
-                         "port, call, number and grep");
+    if (!column) {
+        const std::vector<std::string> keys = {"process", "source", "component", "level", "thread",
+                                               "port",    "call",   "number",    "grep"};
+        throw UsageError("--exclude takes " + namesToChoose(keys) + ", not \"" + key + "\"" +
+                         didYouMean(key, keys));
+    }
     choice_.columns.push_back({*column, {value}, true});
 }
 
