@@ -18,6 +18,7 @@ using timeline::IndexRow;
 using timeline::Timeline;
 
 constexpr std::size_t rowsFoundAtOnce = 16; ///< between two looks at the clock
+constexpr std::size_t bytesFoundAtOnce = 64 << 10;
 constexpr std::chrono::milliseconds stepLength{2};
 constexpr std::chrono::milliseconds firstPart{50}; ///< of hits that take longer
 
@@ -32,9 +33,14 @@ public:
     /// Goes on behind the hits until a moment; true at the end.
     bool look(const Timeline& timeline, Clock::time_point until, RowSet& hits)
     {
-        for (std::size_t looked = 1; hits.size() < view_->size(); ++looked) {
+        std::size_t rows = 0;
+        bytes_ = 0;
+        while (hits.size() < view_->size()) {
             hits.append(hit(timeline, walk_.next(timeline)));
-            if (looked % rowsFoundAtOnce == 0 && Clock::now() >= until) return false;
+            if (++rows < rowsFoundAtOnce && bytes_ < bytesFoundAtOnce) continue;
+            if (Clock::now() >= until) return false;
+            rows = 0;
+            bytes_ = 0;
         }
         return true;
     }
@@ -47,6 +53,7 @@ private:
         } catch (const RunTimeError&) {
             return false; // the row itself tells why
         }
+        bytes_ += std::max(record_.whole.size(), record_.trace.size());
         auto& search = searches_[record_.codePage];
         if (!search) search = pattern_->searchIn(record_.codePage);
         return anyLineOf(record_, room_,
@@ -58,6 +65,7 @@ private:
     PlaceWalk walk_;
     timeline::Record record_;
     std::string room_;
+    std::size_t bytes_ = 0; ///< that were searched since the last look at the clock
     std::map<const CodePage*, std::unique_ptr<timeline::PatternSearch>> searches_;
 };
 

@@ -18,7 +18,8 @@ using timeline::NameTable;
 using timeline::Record;
 using timeline::Timeline;
 
-constexpr std::size_t rowsAskedAtOnce = 64; ///< between two looks at the clock
+constexpr std::size_t linesAskedAtOnce = 64; ///< between two looks at the clock
+constexpr std::size_t bytesOfLine = 1024;    ///< that take as long as a line, searched
 constexpr std::size_t mostBuckets = 400;
 
 enum Facet : std::size_t { processFacet, componentFacet, sourceFacet, levelFacet };
@@ -136,9 +137,18 @@ RowAsking::~RowAsking() = default;
 
 bool RowAsking::ask(const Timeline& timeline, std::chrono::steady_clock::time_point until)
 {
-    for (std::size_t rows = 1; walk_.peek() != nullptr; ++rows) {
-        askRow(timeline);
-        if (rows % rowsAskedAtOnce == 0 && std::chrono::steady_clock::now() >= until) return false;
+    std::size_t lines = 0;
+    while (const IndexRow* next = walk_.peek()) {
+        const bool begins = row_.lines + row_.known == 0;
+        if (passedFrom_ || (begins && before_ && before_->has(*next))) {
+            passLine();
+            ++lines;
+        } else {
+            lines += askLine(timeline);
+        }
+        if (lines < linesAskedAtOnce) continue;
+        lines = 0;
+        if (std::chrono::steady_clock::now() >= until) return walk_.peek() == nullptr;
     }
     return true;
 }
@@ -170,60 +180,107 @@ void RowAsking::growTo(const Timeline& timeline, std::shared_ptr<const RowOrder>
     coverTimes(timeline);
 }
 
-/// Asks the next row, with the lines that belong to it. One that was asked before is taken as it
-/// was, if it has no new line.
-void RowAsking::askRow(const Timeline& timeline)
+/// Whether the next line belongs to the row of the last one.
+bool RowAsking::goesOn(std::uint32_t source) const
 {
-    lines_.clear();
-    const IndexRow* row = walk_.next();
-    position_ = walk_.position();
-    lines_.push_back(row);
-    for (const IndexRow* line = walk_.peek();
-         line != nullptr && line->belongsToRowBefore() && line->source() == row->source();
-         line = walk_.peek())
-        lines_.push_back(walk_.next());
-    std::size_t known = 0;
-    if (before_)
-        while (known < lines_.size() && before_->has(*lines_[known])) ++known;
-    if (known == 0) return taken_.append(takes(timeline, Counting::add), lines_.size());
-    if (known < lines_.size()) return askAgain(timeline, known);
-    taken_.append(takenBefore_.has(nextBefore_), known);
-    nextBefore_ += known;
+    const IndexRow* next = walk_.peek();
+    return next != nullptr && next->belongsToRowBefore() && next->source() == source;
 }
 
-/// Asks a row whose first lines were asked before.
-void RowAsking::askAgain(const Timeline& timeline, std::size_t known)
+/// Goes over the next line of a row that was asked before the order grew. The row is taken as it
+/// was, but for one with a new line, which is asked from its first line on.
+void RowAsking::passLine()
 {
-    std::vector<const IndexRow*> whole = lines_;
-    lines_.resize(known);
-    const bool tookIt = takes(timeline, Counting::remove);
-    lines_ = std::move(whole);
-    const bool takesIt = takes(timeline, Counting::add);
-    if (takesIt != tookIt) same_ = std::min(same_, taken_.size());
-    taken_.append(takesIt, lines_.size());
-    nextBefore_ += known;
+    if (!passedFrom_) passedFrom_ = walk_;
+    if (!before_->has(*walk_.peek())) {
+        walk_ = *std::exchange(passedFrom_, std::nullopt);
+        row_.known = std::exchange(passed_, 0);
+        return;
+    }
+    const auto source = walk_.next()->source();
+    ++passed_;
+    if (goesOn(source)) return;
+    taken_.append(takenBefore_.has(nextBefore_), passed_);
+    nextBefore_ += std::exchange(passed_, 0);
+    passedFrom_.reset();
 }
 
-/// Whether the choice takes the row with its lines, which are counted, or taken back.
-bool RowAsking::takes(const Timeline& timeline, Counting counting)
+/// Asks the next line, and ends its row with the last one of that. Gives how long it took, in lines
+/// of the usual length.
+std::size_t RowAsking::askLine(const Timeline& timeline)
 {
-    const IndexRow& row = *lines_.front();
+    const IndexRow line = *walk_.next();
     recorded_ = false;
-    std::array<Value, facets> values;
-    values.fill(none);
-    Against against = this->against(timeline, row, values);
+    if (row_.lines++ == 0) beginRow(timeline, line);
+    const std::size_t took = row_.searched ? searchLine(timeline, line) : 1;
+    if (row_.lines == row_.known) row_.wasTaken = takes(Counting::remove);
+    if (!goesOn(line.source())) endRow();
+    return took;
+}
+
+void RowAsking::beginRow(const Timeline& timeline, const IndexRow& first)
+{
+    position_ = walk_.position();
+    row_.first = first;
+    row_.values.fill(none);
+    row_.against = against(timeline, first, row_.values);
     // What has one thing of a facet against it is counted for that facet, if nothing else is.
-    const bool counts = (against & (against - 1)) == 0 && (against & all) == 0;
-    if (counts && rest_.hasPatterns()) against |= againstTexts(timeline);
+    const bool counts = (row_.against & (row_.against - 1)) == 0 && (row_.against & all) == 0;
+    row_.searched = counts && rest_.hasPatterns();
+}
+
+/// Looks for the patterns in a line of the row.
+std::size_t RowAsking::searchLine(const Timeline& timeline, const IndexRow& line)
+{
+    const bool found = row_.search != nullptr && row_.search->fits();
+    if (found && rest_.choice().without.empty()) return 1; // no line makes it unfit
+    if (!reads(timeline, line)) return 1;
+    if (row_.search == nullptr) {
+        row_.search =
+            &searches_.try_emplace(record_.codePage, rest_, record_.codePage).first->second;
+        row_.search->begin();
+    }
+    std::size_t bytes = 0;
+    anyLineOf(record_, room_, [&](std::string_view text) {
+        row_.search->look(text);
+        bytes += text.size();
+        return false;
+    });
+    return 1 + bytes / bytesOfLine;
+}
+
+/// What speaks against the row by the lines of it that were searched.
+RowAsking::Against RowAsking::againstTexts() const
+{
+    if (!row_.searched) return 0;
+    return row_.search != nullptr && row_.search->fits() ? 0 : all;
+}
+
+void RowAsking::endRow()
+{
+    const bool takesIt = takes(Counting::add);
+    if (row_.known > 0 && takesIt != row_.wasTaken) same_ = std::min(same_, taken_.size());
+    taken_.append(takesIt, row_.lines);
+    nextBefore_ += row_.known;
+    row_ = Row();
+}
+
+/// Whether the choice takes the row with the lines of it that were asked, which is counted, or
+/// taken back.
+bool RowAsking::takes(Counting counting)
+{
+    const Against against = row_.against | againstTexts();
     if ((against & all) != 0) return false;
     for (std::size_t facet = 0; facet < facets; ++facet) {
-        if (values[facet] == none || (against & ~(1U << facet)) != 0) continue;
+        const Value value = row_.values[facet];
+        if (value == none || (against & ~(1U << facet)) != 0) continue;
         if (counting == Counting::add)
-            values_[facet]->count(values[facet]);
+            values_[facet]->count(value);
         else
-            values_[facet]->uncount(values[facet]);
+            values_[facet]->uncount(value);
     }
     if (against != 0) return false;
+    const IndexRow& row = row_.first;
     if (histogram_ && counting == Counting::add) histogram_->add(row.moment, row.level);
     if (histogram_ && counting == Counting::remove) histogram_->remove(row.moment, row.level);
     return true;
@@ -338,26 +395,6 @@ bool RowAsking::fitsMacroTrace(Value component, std::int16_t level)
         known->second = macroTrace_.takesFields(record);
     }
     return known->second;
-}
-
-/// Looks for the patterns in all lines of the row.
-RowAsking::Against RowAsking::againstTexts(const Timeline& timeline)
-{
-    Filter::Search* search = nullptr;
-    for (const IndexRow* line : lines_) {
-        if (line != lines_.front()) recorded_ = false;
-        if (!reads(timeline, *line)) continue;
-        if (search == nullptr) {
-            search =
-                &searches_.try_emplace(record_.codePage, rest_, record_.codePage).first->second;
-            search->begin();
-        }
-        anyLineOf(record_, room_, [&](std::string_view text) {
-            search->look(text);
-            return false;
-        });
-    }
-    return search != nullptr && search->fits() ? 0 : all;
 }
 
 RowCounts RowAsking::counts() const

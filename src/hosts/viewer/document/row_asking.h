@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -22,7 +23,7 @@ namespace viewer {
 ///
 /// What the index or the names tell of a row is asked of those: some nanoseconds. Only where a
 /// choice asks for more are its texts read. A row goes with the lines that belong to it, as in
-/// `timeline::Filter`.
+/// `timeline::Filter`; there may be millions of them, so that a step may end between two.
 class RowAsking {
 public:
     /// `names` outlives it, and stays as it is meanwhile; `namesKnown` tells whether it knows those
@@ -63,16 +64,20 @@ private:
 
     Against against(const timeline::Timeline& timeline, const timeline::IndexRow& row,
                     std::array<Value, facets>& values);
-    Against againstTexts(const timeline::Timeline& timeline);
+    Against againstTexts() const;
     bool fitsMacroTrace(Value component, std::int16_t level);
     Value value(const timeline::Timeline& timeline, const timeline::IndexRow& row,
                 std::size_t facet);
     Value* knownValue(const timeline::IndexRow& row, std::size_t facet);
     bool reads(const timeline::Timeline& timeline, const timeline::IndexRow& row);
-    void askRow(const timeline::Timeline& timeline);
-    void askAgain(const timeline::Timeline& timeline, std::size_t known);
+    std::size_t askLine(const timeline::Timeline& timeline);
+    void passLine();
+    void beginRow(const timeline::Timeline& timeline, const timeline::IndexRow& first);
+    std::size_t searchLine(const timeline::Timeline& timeline, const timeline::IndexRow& line);
+    void endRow();
+    bool goesOn(std::uint32_t source) const;
     enum class Counting { add, remove };
-    bool takes(const timeline::Timeline& timeline, Counting counting);
+    bool takes(Counting counting);
     void coverTimes(const timeline::Timeline& timeline);
 
     std::shared_ptr<const RowOrder> order_;
@@ -92,11 +97,25 @@ private:
     std::array<Value, 256> sources_;
     std::unordered_map<std::uint64_t, bool> traced_; ///< components with levels
     RowSet taken_;
-    std::vector<const timeline::IndexRow*> lines_; ///< a row and those that belong to it
-    std::size_t position_ = 0;                     ///< of the row, among those of its log
+
+    /// The row that is asked, as far as its lines were.
+    struct Row {
+        timeline::IndexRow first;
+        std::size_t lines = 0; ///< that were asked
+        std::size_t known = 0; ///< that were asked before the order grew
+        std::array<Value, facets> values;
+        Against against = 0;                        ///< the row, but for its texts
+        bool searched = false;                      ///< whether its texts tell
+        timeline::Filter::Search* search = nullptr; ///< null before a line that could be read
+        bool wasTaken = false;                      ///< before the order grew
+    };
+    Row row_;
+    std::optional<RowOrder::Walk> passedFrom_; ///< the first line of a row that is passed over
+    std::size_t passed_ = 0;                   ///< lines of it
+    std::size_t position_ = 0;                 ///< of the row, among those of its log
     timeline::Record record_;
     std::string room_;
-    bool recorded_ = false; ///< whether `record_` is of the row
+    bool recorded_ = false; ///< whether `record_` is of the line
     bool readable_ = false; ///< and could be read
     std::map<const CodePage*, timeline::Filter::Search> searches_;
     std::optional<timeline::Histogram> histogram_;

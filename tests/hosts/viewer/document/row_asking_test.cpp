@@ -244,6 +244,67 @@ TEST_F(RowAskingTest, GoesOnWhereItStopped)
     EXPECT_EQ(8u, asking.taken().count());
 }
 
+/// A log whose lines have no form is a single row with all of them.
+class RowOfManyLines : public CountedLogs {
+protected:
+    /// How often the asking of a log's only row stopped before it was through.
+    std::size_t stops(std::size_t lines, const std::string& line, Choice choice)
+    {
+        std::string bytes;
+        for (std::size_t at = 0; at < lines; ++at)
+            bytes += line + " " + std::to_string(at) + " of it\n";
+        add("KoCSMgr", bytes);
+        timeline::Progress progress;
+        timeline.read(timeline::Filter(), progress);
+        auto order = std::make_shared<RowOrder>(timeline);
+        order->build(timeline, lines);
+        RowAsking asking(timeline, order, std::move(choice), names, false);
+        std::size_t stops = 0;
+        while (!asking.ask(timeline, std::chrono::steady_clock::time_point::min())) {
+            ++stops;
+            EXPECT_EQ(0u, asking.taken().size()) << "nobody knows before its last line";
+        }
+        EXPECT_EQ(lines, asking.taken().size());
+        taken = asking.taken().count();
+        return stops;
+    }
+
+    static Choice with(const std::string& text)
+    {
+        Choice choice;
+        choice.patterns.push_back(
+            std::make_shared<const TextPattern>(TextPattern::Kind::text, text, Letters::inAnyCase));
+        return choice;
+    }
+
+    RowNames names;
+    std::size_t taken = 0;
+};
+
+TEST_F(RowOfManyLines, IsAskedInSteps)
+{
+    EXPECT_GT(stops(5000, "no form", with("form 4999")), 70u);
+    EXPECT_EQ(5000u, taken);
+}
+
+TEST_F(RowOfManyLines, IsAskedInStepsWhereNoLineFits)
+{
+    EXPECT_GT(stops(5000, "no form", with("form 5000")), 70u);
+    EXPECT_EQ(0u, taken);
+}
+
+TEST_F(RowOfManyLines, IsAskedInShorterStepsTheLongerTheyAre)
+{
+    EXPECT_GT(stops(20, std::string(200'000, 'x'), with("form")), 15u);
+    EXPECT_EQ(0u, taken);
+}
+
+TEST_F(RowOfManyLines, IsAskedInStepsWhereNoTextIsAskedFor)
+{
+    EXPECT_GT(stops(5000, "no form", {}), 70u);
+    EXPECT_EQ(5000u, taken);
+}
+
 TEST_F(RowAskingTest, NamesOfALogWhoseOlderRowsCameAreLearnedAnew)
 {
     learn();
