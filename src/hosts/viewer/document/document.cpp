@@ -15,7 +15,8 @@ namespace {
 
 constexpr std::size_t rowsOfBlock = 64;
 constexpr std::size_t mostBlocks = 64;
-constexpr int firstLook = 5; ///< milliseconds until the first rows may be there
+constexpr std::size_t bytesReadAhead = 1 << 20; ///< of rows that nobody asked for yet
+constexpr int firstLook = 5;                    ///< milliseconds until the first rows may be there
 constexpr int otherLooks = 100;
 
 } // namespace
@@ -325,7 +326,7 @@ void Document::lookForLevel()
     emit levelFound(found);
 }
 
-const Document::Block& Document::block(std::size_t number)
+Document::Block& Document::block(std::size_t number)
 {
     if (const auto known = places_.find(number); known != places_.end()) {
         blocks_.splice(blocks_.begin(), blocks_, known->second);
@@ -335,28 +336,39 @@ const Document::Block& Document::block(std::size_t number)
         places_.erase(blocks_.back().first);
         blocks_.pop_back();
     }
-    Block read;
     const std::size_t first = number * rowsOfBlock;
-    const std::size_t end = std::min(first + rowsOfBlock, view_->size());
-    timeline_.look([&](const timeline::Timeline& rows) {
-        PlaceWalk walk(*view_, first);
-        for (std::size_t place = first; place < end; ++place)
-            read.push_back(readRow(rows, walk.next(rows), room_, Texts::shortened));
-    });
-    blocks_.emplace_front(number, std::move(read));
+    blocks_.emplace_front(number, Block(std::min(rowsOfBlock, view_->size() - first)));
     places_[number] = blocks_.begin();
+    read(blocks_.front().second, first);
     return blocks_.front().second;
+}
+
+/// Reads the row at a place and those behind it in its block, unless that takes long: lines may
+/// have megabytes, and nobody may ever ask for the others.
+void Document::read(Block& block, std::size_t place)
+{
+    timeline_.look([&](const timeline::Timeline& rows) {
+        PlaceWalk walk(*view_, place);
+        std::size_t bytes = 0;
+        for (std::size_t at = place % rowsOfBlock;
+             at < block.size() && !block[at] && bytes < bytesReadAhead; ++at) {
+            block[at] = readRow(rows, walk.next(rows), room_, Texts::shortened);
+            bytes += std::max(room_.whole.size(), room_.trace.size());
+        }
+    });
 }
 
 const ShownRow& Document::row(std::size_t place)
 {
-    return block(place / rowsOfBlock)[place % rowsOfBlock];
+    Block& rows = block(place / rowsOfBlock);
+    std::optional<ShownRow>& row = rows[place % rowsOfBlock];
+    if (!row) read(rows, place);
+    return *row;
 }
 
 void Document::prepare(std::size_t place, std::size_t count)
 {
-    for (std::size_t number = place / rowsOfBlock; number * rowsOfBlock < place + count; ++number)
-        if (number * rowsOfBlock < rowCount()) block(number);
+    for (; count > 0 && place < rowCount(); ++place, --count) row(place);
 }
 
 ShownRow Document::wholeRow(std::size_t place)

@@ -199,9 +199,10 @@ private:
     void lookForLevel();
     void tell(const std::vector<std::string>& failures);
 
-    /// Rows that stand beside each other, as they were read. A block is found by its number.
-    using Block = std::vector<ShownRow>;
-    const Block& block(std::size_t number);
+    /// Rows that stand beside each other, those that were read. A block is found by its number.
+    using Block = std::vector<std::optional<ShownRow>>;
+    Block& block(std::size_t number);
+    void read(Block& block, std::size_t place);
 
     SharedTimeline timeline_;
     std::shared_ptr<const View> view_ = std::make_shared<View>();

@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+
 namespace viewer {
 namespace {
 
@@ -187,6 +189,22 @@ TEST_F(DocumentTest, EndsAtOnceWhenItGoesWhileItReads)
     reading.reset();
     settle();
     EXPECT_THAT(failures, testing::IsEmpty());
+}
+
+TEST_F(DocumentTest, ReadsNoMoreLongLinesThanAreAskedFor)
+{
+    std::string lines;
+    for (int row = 0; row < 40; ++row)
+        lines += rawLine(1000 + row, "A", 3, std::to_string(row) + std::string(300'000, 'x'));
+    const QString log = logs.write("KoCSMgr", lines);
+    document.open({log});
+    ASSERT_TRUE(waitForRows(document));
+    EXPECT_TRUE(document.row(0).trace.startsWith("0x"));
+    EXPECT_TRUE(document.row(30).trace.startsWith("30x")) << "those between are passed over";
+    std::filesystem::resize_file(log.toStdString(), 0);
+    EXPECT_TRUE(document.row(1).trace.startsWith("1x")) << "it was read with the first one";
+    EXPECT_FALSE(document.row(20).trace.startsWith("20x")) << document.row(20).trace.toStdString();
+    EXPECT_FALSE(document.row(39).trace.startsWith("39x"));
 }
 
 } // namespace
