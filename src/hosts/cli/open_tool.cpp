@@ -58,7 +58,12 @@ std::unique_ptr<ServerAccess> serverToOpen(const GlobalOptions& options, ToolUse
 
 std::unique_ptr<ServerAccess> serverToExamine(const GlobalOptions& options)
 {
-    if (!options.site) return openMachine(machineFacts(options));
+    if (!options.site) {
+        if (!machineIsAServer())
+            throw CommandFailure("no site is named, and there is no usual one, as HOME names no "
+                                 "folder; name one with --site or ORVAN_SITE");
+        return openMachine(machineFacts(options));
+    }
     return std::make_unique<SiteServer>(*options.site, places::installedData(), hostFacts(options),
                                         SiteUse::look);
 }

@@ -18,7 +18,8 @@ std::string places::siteOfEnvironment()
 std::string places::defaultSite()
 {
     if (const std::string site = siteOfEnvironment(); !site.empty()) return site;
-    return machineTextOf(filePathOf(userDataFolder()) / "orvandiag" / "site");
+    const std::string data = userDataFolder();
+    return data.empty() ? "" : machineTextOf(filePathOf(data) / "orvandiag" / "site");
 }
 
 std::string places::installedData()

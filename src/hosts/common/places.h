@@ -9,6 +9,7 @@ namespace places {
 std::string siteOfEnvironment();
 
 /// The site that is opened when none is named: `$ORVAN_SITE`, or the one in the user's data folder.
+/// The empty text where the environment names no such folder.
 std::string defaultSite();
 
 /// The folder of what ships with the tool: the program's own where that holds it, as on Windows;

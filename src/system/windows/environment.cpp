@@ -19,7 +19,36 @@ std::optional<std::string> environmentVariable(const char* name)
     return utf8Of(value);
 }
 
+namespace {
+
+/// The folder that a variable names with its whole path; else the empty text.
+std::string folderOf(const char* variable)
+{
+    const std::string folder = environmentVariable(variable).value_or("");
+    return filePathOf(folder).is_absolute() ? machineTextOf(filePathOf(folder)) : "";
+}
+
+} // namespace
+
 std::string userDataFolder()
 {
-    return machineTextOf(filePathOf(environmentVariable("LOCALAPPDATA").value_or("")));
+    return folderOf("LOCALAPPDATA");
+}
+
+std::string userSettingsFolder()
+{
+    return folderOf("APPDATA");
+}
+
+std::string userFolder()
+{
+    return folderOf("USERPROFILE");
+}
+
+MessageLocale messageLocale()
+{
+    for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"})
+        if (const auto name = environmentVariable(variable); name && !name->empty())
+            return {*name, variable};
+    return {};
 }

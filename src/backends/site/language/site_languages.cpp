@@ -69,7 +69,7 @@ std::int32_t SiteLanguages::userDefaultLanguage() const
 {
     if (language_) return *language_;
     if (const auto setting = languageSetting()) return *setting;
-    return languageOfLocale(environmentVariable("LANG").value_or(""));
+    return languageOfLocale(messageLocale().name);
 }
 
 std::string SiteLanguages::languageName(std::int32_t id) const

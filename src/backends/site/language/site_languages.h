@@ -17,7 +17,8 @@ std::int32_t languageOfLocale(std::string_view locale);
 /// `NAME.txt` beside it serves.
 class SiteLanguages final : public Languages {
 public:
-    /// `language` is the user's; without one `LANG` tells it. `paths` outlives this.
+    /// `language` is the user's; without one the machine's setting or the
+    /// locale of messages tells it. `paths` outlives this.
     SiteLanguages(std::optional<std::int32_t> language, const SitePaths& paths);
 
     std::int32_t userDefaultLanguage() const override;

@@ -6,6 +6,7 @@
 #include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/terminal/message.h"
 #include "hosts/common/places.h"
+#include "hosts/machine/open_machine.h"
 #include "platform/file_system.h"
 #include "shell/snapin_names.h"
 #include "system/file_facts.h"
@@ -81,7 +82,8 @@ void findOnServer(FoundLogs& found, OpenTool& tool, const std::string& log)
 FoundLogs findLogs(const GlobalOptions& options, const std::vector<std::string>& logs)
 {
     FoundLogs found;
-    if (options.site && !isSite(*options.site) && areOfThisMachine(logs)) {
+    const bool noServer = options.site ? !isSite(*options.site) : !machineIsAServer();
+    if (noServer && areOfThisMachine(logs)) {
         for (const std::string& log : logs)
             if (log == "-" || isOnThisMachine(log))
                 found.paths.push_back(log == "-" ? log : places::wholePath(log));

@@ -50,6 +50,21 @@ TEST_F(SiteLanguagesTest, TheSitesLanguageComesBeforeTheMachines)
     EXPECT_EQ(1033, SiteLanguages({}, paths).userDefaultLanguage());
 }
 
+TEST_F(SiteLanguagesTest, AreThoseOfMessagesBeforeThoseOfAllElse)
+{
+    const SiteLanguages ofTheMachine({}, paths);
+    ::setenv("LANG", "it_CH.UTF-8", 1);
+    ::setenv("LC_MESSAGES", "fr_FR.UTF-8", 1);
+    EXPECT_EQ(1036, ofTheMachine.userDefaultLanguage());
+    ::setenv("LC_ALL", "de_AT.UTF-8", 1);
+    EXPECT_EQ(3079, ofTheMachine.userDefaultLanguage());
+    ::setenv("LC_ALL", "", 1);
+    EXPECT_EQ(1036, ofTheMachine.userDefaultLanguage()) << "an empty variable says nothing";
+    ::setenv("LC_ALL", "C", 1);
+    EXPECT_EQ(1033, ofTheMachine.userDefaultLanguage());
+    for (const char* name : {"LANG", "LC_MESSAGES", "LC_ALL"}) ::unsetenv(name);
+}
+
 TEST_F(SiteLanguagesTest, ACatalogueServesAsTheLibraryOfItsName)
 {
     folder.write("drive_c/Tool/zmkBrandingRes_FRA.TXT", "1062 = D'accord\n");
