@@ -65,31 +65,37 @@ std::string ownersOf(const std::string& option, const DescribedCommand& program,
 } // namespace
 
 UnknownWords::UnknownWords(const DescribedCommand& program, const std::string& path)
-    : program_(program), command_(&program)
+    : program_(program)
 {
     const auto addOptions = [this](const DescribedCommand& command) {
         for (const DescribedOption& option : command.options)
             options_.insert(options_.end(), option.names.begin(), option.names.end());
     };
-    addOptions(program);
-    forEachBelow(program, [&](const DescribedCommand& command) {
-        if (!beginsWith(path + " ", command.path + " ")) return;
-        command_ = &command;
+    const auto addOnPath = [&](const DescribedCommand& command) {
+        if (!command.path.empty() && !beginsWith(path + " ", command.path + " ")) return;
         addOptions(command);
-    });
+        if (command.path == path) command_ = command;
+    };
+    addOnPath(program);
+    forEachBelow(program, addOnPath);
+    command_.path = path;
+}
+
+bool UnknownWords::mayBeCommand() const
+{
+    const auto isArgument = [](const DescribedOption& option) { return option.isArgument(); };
+    return !command_.commands.empty() &&
+           std::none_of(command_.options.begin(), command_.options.end(), isArgument);
 }
 
 std::string UnknownWords::refuseCommand(const std::string& word) const
 {
-    Names here;
-    for (const DescribedCommand& command : command_->commands)
-        here.push_back(lastWordOf(command.path));
     Names elsewhere;
     forEachBelow(program_, [&](const DescribedCommand& command) {
         if (equalIgnoringCase(lastWordOf(command.path), word)) elsewhere.push_back(command.path);
     });
     const std::string meant = elsewhere.empty()
-                                  ? didYouMean(word, here, didYouMean("--" + word, options_))
+                                  ? didYouMean(word, commandsHere(), optionMeant(word))
                                   : "; did you mean " + namesToChoose(elsewhere) + "?";
     return "no command \"" + word + "\"" + meant;
 }
@@ -97,9 +103,8 @@ std::string UnknownWords::refuseCommand(const std::string& word) const
 std::string UnknownWords::refuseOption(const std::string& word) const
 {
     const std::string option = word.substr(0, word.find('='));
-    const std::string owners = ownersOf(option, program_, command_->path);
-    return "no option \"" + option + "\"" +
-           (owners.empty() ? didYouMean(option, options_) : owners);
+    const std::string owners = ownersOf(option, program_, command_.path);
+    return "no option \"" + option + "\"" + (owners.empty() ? optionMeant(option) : owners);
 }
 
 std::string UnknownWords::refuseWords(const Names& words) const
@@ -107,7 +112,23 @@ std::string UnknownWords::refuseWords(const Names& words) const
     Names quoted;
     for (const std::string& word : words) quoted.push_back("\"" + word + "\"");
     return (words.size() == 1 ? "unexpected word " : "unexpected words ") + enumerated(quoted) +
-           didYouMean("--" + words.front(), options_);
+           didYouMean(words.front(), commandsHere(), optionMeant(words.front()));
+}
+
+std::vector<std::string> UnknownWords::commandsHere() const
+{
+    Names names;
+    for (const DescribedCommand& command : command_.commands)
+        names.push_back(lastWordOf(command.path));
+    return names;
+}
+
+std::string UnknownWords::optionMeant(const std::string& word) const
+{
+    const auto start = word.find_first_not_of('-');
+    // A letter alone is near to every other one.
+    if (start == std::string::npos || word.size() - start < 2) return {};
+    return didYouMean("--" + word.substr(start), options_);
 }
 
 } // namespace cli

@@ -14,8 +14,8 @@ class UnknownWords {
 public:
     UnknownWords(const DescribedCommand& program, const std::string& path);
 
-    /// Whether the command has commands of its own, one of which may have been meant.
-    bool mayBeCommand() const { return !command_->commands.empty(); }
+    /// Whether the command takes nothing but one of its own commands, which was meant then.
+    bool mayBeCommand() const;
 
     /// `no command "statsu"; did you mean status?`; also a command that stands elsewhere.
     std::string refuseCommand(const std::string& word) const;
@@ -24,13 +24,19 @@ public:
     /// sign of the option is left out.
     std::string refuseOption(const std::string& word) const;
 
-    /// `unexpected words "now" and "then"`, in that order, with an option that the first may have
-    /// been meant for.
+    /// `unexpected words "now" and "then"`, in that order, with a command or an option that the
+    /// first may have been meant for.
     std::string refuseWords(const std::vector<std::string>& words) const;
 
 private:
+    std::vector<std::string> commandsHere() const;
+
+    /// The option that a word, with dashes or without, may have been meant for, as a sentence's
+    /// end.
+    std::string optionMeant(const std::string& word) const;
+
     const DescribedCommand& program_;
-    const DescribedCommand* command_;  ///< the one of the path
+    DescribedCommand command_;         ///< the one of the path; empty for one that is not shown
     std::vector<std::string> options_; ///< that it takes, those of the commands around it too
 };
 
