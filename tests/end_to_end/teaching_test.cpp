@@ -36,7 +36,7 @@ Words commands()
     std::istringstream help(orvandiag({"--help"}).out);
     bool listed = false;
     for (std::string line; std::getline(help, line);) {
-        if (line == "Subcommands:") {
+        if (line == "Commands:") {
             listed = true;
         } else if (line.empty()) {
             listed = false;

@@ -1,5 +1,6 @@
 #include "hosts/cli/arguments.h"
 
+#include "hosts/cli/manual/values.h"
 #include "hosts/cli/naming/near_names.h"
 
 #include <CLI/CLI.hpp>
@@ -44,6 +45,12 @@ CLI::Validator numberWithin(std::uint64_t lowest, std::uint64_t highest,
 Argument& Argument::called(const std::string& valueName)
 {
     option_->type_name(valueName);
+    return *this;
+}
+
+Argument& Argument::completes(Values values)
+{
+    if (CommandLine* line = CommandLine::of(*command_)) line->setValues(option_, values);
     return *this;
 }
 
@@ -110,30 +117,30 @@ bool Argument::given() const
 
 Argument Arguments::add(const std::string& name, std::string& value, const std::string& description)
 {
-    return Argument(app_->add_option(name, value, description));
+    return Argument(app_, app_->add_option(name, value, description));
 }
 
 Argument Arguments::add(const std::string& name, std::int32_t& value,
                         const std::string& description)
 {
-    return Argument(app_->add_option(name, value, description));
+    return Argument(app_, app_->add_option(name, value, description));
 }
 
 Argument Arguments::add(const std::string& name, std::uint64_t& value,
                         const std::string& description)
 {
-    return Argument(app_->add_option(name, value, description));
+    return Argument(app_, app_->add_option(name, value, description));
 }
 
 Argument Arguments::add(const std::string& name, std::vector<std::string>& values,
                         const std::string& description)
 {
-    return Argument(app_->add_option(name, values, description));
+    return Argument(app_, app_->add_option(name, values, description));
 }
 
 Argument Arguments::addFlag(const std::string& name, bool& value, const std::string& description)
 {
-    return Argument(app_->add_flag(name, value, description));
+    return Argument(app_, app_->add_flag(name, value, description));
 }
 
 Arguments Arguments::addCommand(const std::string& name, const std::string& summary)

@@ -12,15 +12,20 @@ class Option;
 
 namespace cli {
 
+enum class Values;
+
 /// An option or an argument of a command, and what its help says of it. Copies are the same one; it
 /// lives as long as the command line.
 class Argument {
 public:
     Argument() = default;
-    explicit Argument(CLI::Option* option) : option_(option) {}
+    Argument(CLI::App* command, CLI::Option* option) : command_(command), option_(option) {}
 
     /// What stands for the value in the help, such as "NAME".
     Argument& called(const std::string& valueName);
+
+    /// What its value is one of, which completion offers.
+    Argument& completes(Values values);
 
     /// The command makes no sense without it.
     Argument& required();
@@ -51,6 +56,7 @@ public:
     bool given() const;
 
 private:
+    CLI::App* command_ = nullptr;
     CLI::Option* option_ = nullptr;
 };
 

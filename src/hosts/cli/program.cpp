@@ -2,6 +2,8 @@
 
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
+#include "hosts/cli/manual/help_page.h"
+#include "hosts/cli/manual/values.h"
 #include "hosts/common/places.h"
 #include "hosts/machine/open_machine.h"
 
@@ -26,16 +28,6 @@ constexpr const char* introductionOnAServer =
     "things on:\n\n"
     "  orvandiag sample orvan-sample\n"
     "  orvandiag --site orvan-sample status";
-
-/// Sets off what the program is for from how it is used.
-class HelpText final : public CLI::Formatter {
-public:
-    std::string make_usage(const CLI::App* app, std::string name) const override
-    {
-        const std::string usage = CLI::Formatter::make_usage(app, std::move(name));
-        return app->get_description().empty() ? usage : "\n" + usage;
-    }
-};
 
 /// The group that help, completion and manual page leave out.
 constexpr const char* hidden = "";
@@ -71,24 +63,27 @@ std::string closing()
 std::unique_ptr<CLI::App> describeCommandLine(GlobalOptions& options,
                                               const std::vector<std::unique_ptr<Command>>& commands)
 {
-    auto app = std::make_unique<CLI::App>(introductionHere(), "orvandiag");
+    auto app = std::make_unique<CommandLine>(introductionHere(), "orvandiag");
+    app->set_help_flag("-h,--help", "show this help"); // commands have the one that stands here
     // Both are handed on to the commands, whose names and options are asked for as they are made.
     app->ignore_case();
     app->get_help_ptr()->ignore_case();
     app->option_defaults()->ignore_case();
     app->allow_windows_style_options(false); // a path of the machine begins with a slash there, too
-    app->formatter(std::make_shared<HelpText>());
+    app->formatter(std::make_shared<HelpPage>());
     app->footer(closing());
     if (const std::string site = siteByDefault(); !site.empty()) options.site = site;
-    app->add_option("--site", options.site, siteHelp())->type_name("DIR");
-    app->add_option("--tool-folder", options.toolFolder,
-                    "the folder of the tool's files, also one of this machine; else the site's")
-        ->type_name("DIR");
+    CLI::Option* site = app->add_option("--site", options.site, siteHelp())->type_name("DIR");
+    CLI::Option* toolFolder =
+        app->add_option("--tool-folder", options.toolFolder,
+                        "the folder of the tool's files, also one of this machine; else the site's")
+            ->type_name("DIR");
+    for (const CLI::Option* folder : {site, toolFolder}) app->setValues(folder, Values::folders);
     app->add_flag("--json", options.json, "print one JSON value instead of text");
     app->add_flag("--development-host", options.developmentHost,
                   "answer the tool's debug-mode test with true")
         ->group(hidden);
-    app->set_version_flag("--version", versionText());
+    app->set_version_flag("--version", versionText(), "show the version");
     app->require_subcommand(1);
     app->fallthrough();
     for (const auto& command : commands) {

@@ -17,8 +17,8 @@ public:
     {
         return "For this shell, or for all that are started later:\n\n"
                "  source <(orvandiag completion bash)\n"
-               "  orvandiag completion bash > "
-               "~/.local/share/bash-completion/completions/orvandiag";
+               "  orvandiag completion bash > \\\n"
+               "      ~/.local/share/bash-completion/completions/orvandiag";
     }
 
     void declare(Arguments& arguments) override

@@ -2,6 +2,7 @@
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/driving/sheet_driver.h"
+#include "hosts/cli/manual/values.h"
 #include "hosts/cli/naming/matching_name.h"
 #include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/terminal/output.h"
@@ -78,7 +79,8 @@ public:
 
     void declare(Arguments& arguments) override
     {
-        arguments.add("CODE", code_, "a language that is installed, such as FRA");
+        arguments.add("CODE", code_, "a language that is installed, such as FRA")
+            .completes(Values::eventLanguages);
         arguments.addFlag("--keep", keep_, "leave the new language in force");
     }
 

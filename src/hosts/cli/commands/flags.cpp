@@ -2,6 +2,7 @@
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/driving/flag_words.h"
 #include "hosts/cli/driving/known_names.h"
+#include "hosts/cli/manual/values.h"
 #include "hosts/cli/naming/matching_name.h"
 #include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/open_tool.h"
@@ -29,7 +30,8 @@ public:
 
     void declare(Arguments& arguments) override
     {
-        arguments.add("COMPONENT", component_, "one component instead of all");
+        arguments.add("COMPONENT", component_, "one component instead of all")
+            .completes(Values::components);
     }
 
     void run(const GlobalOptions& options, Output& output) override

@@ -5,6 +5,7 @@
 #include "hosts/cli/gather/gather_preview.h"
 #include "hosts/cli/gather/gather_run.h"
 #include "hosts/cli/gather/gather_wizard.h"
+#include "hosts/cli/manual/values.h"
 #include "hosts/cli/naming/matching_name.h"
 #include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/site_times.h"
@@ -52,7 +53,8 @@ public:
                "that is\n"
                "needed. The frame is told, unless --from and --hours say it as it is.\n\n"
                "  orvandiag gather standard --to case-4711\n"
-               "  orvandiag gather logs --log diag_KoCSMgr_20250219_144115.txt --event-log System\n"
+               "  orvandiag gather logs --log diag_KoCSMgr_20250219_144115.txt \\\n"
+               "      --event-log System\n"
                "  orvandiag gather frame --from \"2025-02-20 16:42\" --hours 1 --to case-4711\n"
                "  orvandiag gather frame --last 2h --to case-4711";
     }
@@ -64,8 +66,12 @@ public:
             arguments.addCommand("standard", "The current " + std::string(standardGatherProcess) +
                                                  " log and the Application and System events");
         logs_ = arguments.addCommand("logs", "Logs chosen by name");
-        logs_.add("--log", orvanLogs_, "a log in the server's log folder").called("NAME");
-        logs_.add("--event-log", windowsLogs_, "a Windows event log").called("NAME");
+        logs_.add("--log", orvanLogs_, "a log in the server's log folder")
+            .called("NAME")
+            .completes(Values::logs);
+        logs_.add("--event-log", windowsLogs_, "a Windows event log")
+            .called("NAME")
+            .completes(Values::eventLogs);
         frame_ = arguments.addCommand("frame", "The lines of a time frame, as a trace database");
         frame_
             .add("--from", from_,
@@ -78,7 +84,9 @@ public:
         frame_.addFlag("--no-application", noApplication_, "leave the Application events out");
         frame_.addFlag("--no-system", noSystem_, "leave the System events out");
         for (Arguments mode : {standard_, logs_, frame_}) {
-            mode.add("--to", to_, "the folder to gather into").called("DIR");
+            mode.add("--to", to_, "the folder to gather into")
+                .called("DIR")
+                .completes(Values::folders);
             mode.addFlag("--excel", excel_,
                          "make the event logs' CSV safe for a spreadsheet: no cell is a formula");
             mode.addFlag("--dry-run", dryRun_, "tell what would be gathered, and gather nothing");

@@ -1,5 +1,6 @@
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
+#include "hosts/cli/manual/values.h"
 #include "hosts/cli/terminal/output.h"
 #include "hosts/cli/usage/help_text.h"
 
@@ -23,7 +24,8 @@ public:
     void declare(Arguments& arguments) override
     {
         arguments_ = arguments;
-        arguments.add("COMMAND", command_, "the command; else the program");
+        arguments.add("COMMAND", command_, "the command; else the program")
+            .completes(Values::commands);
     }
 
     void run(const GlobalOptions&, Output& output) override

@@ -3,6 +3,7 @@
 #include "core/registry_store.h"
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
+#include "hosts/cli/manual/values.h"
 #include "hosts/cli/naming/matching_name.h"
 #include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/open_tool.h"
@@ -63,7 +64,8 @@ public:
 
     void declare(Arguments& arguments) override
     {
-        arguments.add("CODE", code_, "a language whose texts lie beside the tool, such as FRA");
+        arguments.add("CODE", code_, "a language whose texts lie beside the tool, such as FRA")
+            .completes(Values::languages);
     }
 
     void run(const GlobalOptions& options, Output& output) override

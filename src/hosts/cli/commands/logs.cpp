@@ -2,6 +2,7 @@
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/log_folder.h"
+#include "hosts/cli/manual/values.h"
 #include "hosts/cli/naming/matching_name.h"
 #include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/open_tool.h"
@@ -54,7 +55,9 @@ public:
 
     void declare(Arguments& arguments) override
     {
-        arguments.add("PROCESS", process_, "the process, such as KoCSMgr").required();
+        arguments.add("PROCESS", process_, "the process, such as KoCSMgr")
+            .completes(Values::processes)
+            .required();
     }
 
     void run(const GlobalOptions& options, Output& output) override

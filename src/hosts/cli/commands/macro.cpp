@@ -5,6 +5,7 @@
 #include "hosts/cli/driving/trace_check.h"
 #include "hosts/cli/driving/trace_choice.h"
 #include "hosts/cli/driving/wizard_driver.h"
+#include "hosts/cli/manual/values.h"
 #include "hosts/cli/naming/matching_name.h"
 #include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/open_tool.h"
@@ -84,8 +85,10 @@ public:
     void declare(Arguments& arguments) override
     {
         set_ = arguments.addCommand("set", "Turn macro traces on and off");
-        set_.add("--on", choice_.on, "turn on, as in \"GROUP - TRACE\"").called("NAME");
-        set_.add("--off", choice_.off, "turn off").called("NAME");
+        set_.add("--on", choice_.on, "turn on, as in \"GROUP - TRACE\"")
+            .called("NAME")
+            .completes(Values::macroTraces);
+        set_.add("--off", choice_.off, "turn off").called("NAME").completes(Values::macroTraces);
     }
 
     void run(const GlobalOptions& options, Output& output) override

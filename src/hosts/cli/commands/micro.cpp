@@ -6,6 +6,7 @@
 #include "hosts/cli/driving/trace_check.h"
 #include "hosts/cli/driving/trace_choice.h"
 #include "hosts/cli/driving/wizard_driver.h"
+#include "hosts/cli/manual/values.h"
 #include "hosts/cli/naming/matching_name.h"
 #include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/open_tool.h"
@@ -194,10 +195,15 @@ public:
 
     void declare(Arguments& arguments) override
     {
-        arguments.add("COMPONENT", component_, "one component instead of all");
+        arguments.add("COMPONENT", component_, "one component instead of all")
+            .completes(Values::components);
         set_ = arguments.addCommand("set", "Turn trace levels on and off");
-        set_.add("--on", on_, "turn on, as in CallFlow:7").called("COMPONENT:LEVEL");
-        set_.add("--off", off_, "turn off").called("COMPONENT:LEVEL");
+        set_.add("--on", on_, "turn on, as in CallFlow:7")
+            .called("COMPONENT:LEVEL")
+            .completes(Values::componentsAndLevels);
+        set_.add("--off", off_, "turn off")
+            .called("COMPONENT:LEVEL")
+            .completes(Values::componentsAndLevels);
     }
 
     void run(const GlobalOptions& options, Output& output) override

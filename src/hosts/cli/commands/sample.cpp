@@ -1,5 +1,6 @@
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
+#include "hosts/cli/manual/values.h"
 #include "hosts/cli/program.h"
 #include "hosts/cli/terminal/interrupt.h"
 #include "hosts/cli/terminal/output.h"
@@ -33,7 +34,7 @@ public:
 
     void declare(Arguments& arguments) override
     {
-        arguments.add("DIR", folder_, "the folder to make").required();
+        arguments.add("DIR", folder_, "the folder to make").completes(Values::folders).required();
         arguments.add("--lines", lines_, "lines of all diagnostic logs together")
             .called("N")
             .withDefault()
@@ -42,7 +43,7 @@ public:
             .called("N")
             .withDefault()
             .notNegative();
-        arguments.add("--fields", fields_, "what a log line carries: basic or extended")
+        arguments.add("--fields", fields_, "what a log line carries")
             .called("FORM")
             .withDefault()
             .oneOf({"basic", "extended"});

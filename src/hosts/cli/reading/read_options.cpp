@@ -1,4 +1,5 @@
 #include "hosts/cli/reading/read_options.h"
+#include "hosts/cli/manual/values.h"
 
 #include "backends/site/code_pages.h"
 #include "hosts/cli/arguments.h"
@@ -22,8 +23,9 @@ std::string whyNothing(const std::string& text)
 void declareChoice(Arguments& arguments, ReadOptions& options)
 {
     const auto addMany = [&](const char* name, std::vector<std::string>& values,
-                             const char* valueName, const char* description) {
-        arguments.add(name, values, description).called(valueName).oneAtATime();
+                             const char* valueName, const char* description,
+                             Values kind = Values::any) {
+        arguments.add(name, values, description).called(valueName).completes(kind).oneAtATime();
     };
     arguments
         .add("--since", options.since, "rows at this time or later, such as 15:20 or yesterday")
@@ -35,8 +37,9 @@ void declareChoice(Arguments& arguments, ReadOptions& options)
     arguments.add("--last", options.last, "rows of the last 2h, 30m, ... before the last row")
         .called("SPAN")
         .refusedBy(whyNothing);
-    addMany("--process", options.processes, "NAME", "rows of this process");
-    addMany("--component", options.components, "NAME", "rows of this component");
+    addMany("--process", options.processes, "NAME", "rows of this process", Values::processes);
+    addMany("--component", options.components, "NAME", "rows of this component",
+            Values::components);
     addMany("--source", options.sources, "NAME", "rows of this source");
     addMany("--level", options.levels, "LEVEL", "rows of this level, or of a range such as 0-1");
     addMany("--call", options.calls, "ID", "rows of this call, over all processes");
@@ -49,6 +52,7 @@ void declareChoice(Arguments& arguments, ReadOptions& options)
             "no rows with this, such as level=7, component=Timer or grep=RE");
     arguments.add("--macro", options.macroTrace, "rows that this macro trace turns on")
         .called("\"GROUP - TRACE\"")
+        .completes(Values::macroTraces)
         .refusedBy(whyNothing);
     arguments.add("-n", options.first, "the first so many of these rows").called("N").positive();
     arguments.add("--tail", options.tail, "the last so many").called("N").positive();
@@ -61,11 +65,13 @@ void declareOutput(Arguments& arguments, ReadOptions& options)
     arguments.addFlag("--count", options.count, "tell how many rows these are");
     arguments.add("--count-by", options.countBy, "tell how many rows have each value of a column")
         .called("COLUMN")
+        .completes(Values::countedColumns)
         .refusedBy(whyNothing);
     arguments.addFlag("--histogram", options.histogram, "draw how many rows there are over time");
     arguments.addFlag("--calls", options.listCalls, "list the calls, with their processes");
     arguments.add("--columns", options.columns, "these columns, with commas between them")
         .called("LIST")
+        .completes(Values::columns)
         .refusedBy(whyNothing);
     arguments.add("--format", options.format, "how rows are written; else table, with --json json")
         .called("FORMAT")
@@ -123,9 +129,11 @@ std::optional<CodePage> codePageOfText(std::string_view text)
 
 void ReadOptions::declare(Arguments& arguments)
 {
-    arguments.add("LOG", logs,
-                  "a log's name, or a path to a log or to a folder of logs; else all logs of the "
-                  "server; - is standard input");
+    arguments
+        .add("LOG", logs,
+             "a log's name, or a path to a log or to a folder of logs; else all logs of the "
+             "server; - is standard input")
+        .completes(Values::logsAndFiles);
     arguments
         .add("--fields", fields,
              "how the server wrote its lines; else as it is set, or as they look without a server")
