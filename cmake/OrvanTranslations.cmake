@@ -26,6 +26,7 @@ function(orvan_translations target)
     PREFIX /translations BASE ${CMAKE_CURRENT_BINARY_DIR} FILES ${compiled})
   add_custom_target(${target}_texts
     COMMAND ${ORVAN_LUPDATE} -silent -locations none -no-obsolete -I ${PROJECT_SOURCE_DIR}/src
-      ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/src/hosts/common/look -ts ${sources}
+      ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/src/hosts/common/filters
+      ${PROJECT_SOURCE_DIR}/src/hosts/common/look -ts ${sources}
     VERBATIM)
 endfunction()

@@ -1,7 +1,7 @@
 #include "hosts/desktop/desktop_services.h"
 
+#include "hosts/common/look/help_window.h"
 #include "hosts/common/look/path_dialog.h"
-#include "hosts/desktop/window/help_window.h"
 
 #include <QApplication>
 #include <QCoreApplication>

@@ -8,11 +8,10 @@
 #include <functional>
 #include <memory>
 
+class HelpWindow;
 class QWidget;
 
 namespace desktop {
-
-class HelpWindow;
 
 /// The person's desktop: boxes, pickers, the message queue and the manual.
 class DesktopServices final : public Desktop {

@@ -57,6 +57,7 @@ int run(const ViewerOptions& options, const std::function<void(MainWindow&)>& op
                                      : options.theme));
     QApplication::setWindowIcon(toolIcon(QStringLiteral("viewer")));
     MainWindow window(settings, QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    window.setManual(QString::fromStdString(places::installedData()) + QStringLiteral("/help"));
     window.session().setRestoring(!options.fresh);
     if (options.size) window.resize(*options.size);
     window.show();

@@ -183,10 +183,16 @@ TextPattern::TextPattern(Kind kind, std::string pattern, Letters letters)
       letters_(letters)
 {
     if (kind_ == Kind::text) return;
-    const RE2 tried(pattern_, optionsFor(RE2::Options::EncodingUTF8, letters_));
-    if (!tried.ok())
+    const std::string fault = faultOf(pattern_);
+    if (!fault.empty())
         throw RunTimeError(runTimeErrors::invalidCall,
-                           "\"" + pattern_ + "\" is no regular expression: " + tried.error());
+                           "\"" + pattern_ + "\" is no regular expression: " + fault);
+}
+
+std::string TextPattern::faultOf(const std::string& expression)
+{
+    const RE2 tried(expression, optionsFor(RE2::Options::EncodingUTF8, Letters::asWritten));
+    return tried.ok() ? std::string() : tried.error();
 }
 
 std::unique_ptr<PatternSearch> TextPattern::searchIn(const CodePage* codePage) const

@@ -47,6 +47,10 @@ public:
     /// that is none.
     TextPattern(Kind kind, std::string pattern, Letters letters = Letters::asWritten);
 
+    /// What is wrong with an expression, in a few words of the library that searches; the empty
+    /// text for a sound one.
+    static std::string faultOf(const std::string& expression);
+
     /// The search in texts of a code page, or of UTF-8 where that is null. A character that the
     /// code page lacks occurs nowhere in them.
     std::unique_ptr<PatternSearch> searchIn(const CodePage* codePage) const;

@@ -2,6 +2,7 @@
 
 #include "runtime/run_time_error.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonValue>
 
@@ -12,6 +13,11 @@ namespace {
 using timeline::Column;
 using timeline::ColumnChoice;
 using timeline::ComponentLevels;
+
+/// What is said of filters that make no sense.
+class FilterTexts {
+    Q_DECLARE_TR_FUNCTIONS(FilterTexts)
+};
 
 [[noreturn]] void refuse(const QString& what)
 {
@@ -28,7 +34,7 @@ QJsonValue member(const QJsonObject& json, const char* name, QJsonValue::Type ty
 {
     const QJsonValue value = json.value(QLatin1String(name));
     if (!value.isUndefined() && value.type() != type)
-        refuse(QStringLiteral("\"%1\" of a filter is of another kind").arg(QLatin1String(name)));
+        refuse(FilterTexts::tr("\"%1\" of a filter is of another kind").arg(QLatin1String(name)));
     return value;
 }
 
@@ -45,7 +51,7 @@ ColumnChoice columnOfJson(const QJsonObject& json)
 {
     const QString name = member(json, "column", QJsonValue::String).toString();
     const auto column = timeline::columnOf(name.toStdString());
-    if (!column) refuse(QStringLiteral("a filter asks for a column \"%1\"").arg(name));
+    if (!column) refuse(FilterTexts::tr("there is no column \"%1\" to filter by").arg(name));
     ColumnChoice choice{*column, {}, member(json, "excluded", QJsonValue::Bool).toBool()};
     for (const auto& value : member(json, "values", QJsonValue::Array).toArray())
         choice.values.push_back(value.toString().toStdString());
@@ -101,7 +107,7 @@ std::optional<timeline::Moment> momentOfJson(const QJsonObject& json, const char
     bool understood = false;
     const qlonglong moment = value.toString().toLongLong(&understood);
     if (!understood)
-        refuse(QStringLiteral("\"%1\" of a filter is no time").arg(QLatin1String(name)));
+        refuse(FilterTexts::tr("\"%1\" of a filter is no time").arg(QLatin1String(name)));
     return moment;
 }
 
@@ -111,6 +117,10 @@ std::shared_ptr<const timeline::TextPattern> TextCondition::pattern() const
 {
     using timeline::Letters;
     using timeline::TextPattern;
+    const std::string fault = expression ? TextPattern::faultOf(text.toStdString()) : std::string();
+    if (!fault.empty())
+        refuse(FilterTexts::tr("\"%1\" is no regular expression: %2")
+                   .arg(text, QString::fromStdString(fault)));
     return std::make_shared<const TextPattern>(
         expression ? TextPattern::Kind::expression : TextPattern::Kind::text, text.toStdString(),
         matchesCase ? Letters::asWritten : Letters::inAnyCase);

@@ -25,6 +25,11 @@ bool canBeOfAFile(const QString& name)
            });
 }
 
+[[noreturn]] void refuseFilter(int number, const QString& sentence)
+{
+    throw RunTimeError(number, sentence.toStdString());
+}
+
 } // namespace
 
 SavedFilters SavedFilters::besideSettings(const QSettings& settings)
@@ -49,29 +54,24 @@ QStringList SavedFilters::names() const
 void SavedFilters::save(const QString& name, const RowFilter& filter) const
 {
     if (!canBeOfAFile(name))
-        throw RunTimeError(runTimeErrors::invalidCall,
-                           "\"" + name.toStdString() + "\" can't be the name of a filter");
+        refuseFilter(runTimeErrors::invalidCall,
+                     tr("\"%1\" can't be the name of a filter").arg(name));
     QDir().mkpath(folder_);
     QSaveFile file(fileOf(name));
     const QByteArray text = QJsonDocument(filter.toJson()).toJson();
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
-        throw RunTimeError(
-            runTimeErrors::pathFileAccess,
-            (file.fileName() + QStringLiteral(" can't be written: ") + file.errorString())
-                .toStdString());
+        refuseFilter(runTimeErrors::pathFileAccess,
+                     tr("%1 can't be written: %2").arg(file.fileName(), file.errorString()));
 }
 
 RowFilter SavedFilters::read(const QString& name)
 {
     QFile file(name);
     if (!file.open(QIODevice::ReadOnly))
-        throw RunTimeError(
-            runTimeErrors::fileNotFound,
-            (name + QStringLiteral(" can't be read: ") + file.errorString()).toStdString());
+        refuseFilter(runTimeErrors::fileNotFound,
+                     tr("%1 can't be read: %2").arg(name, file.errorString()));
     QJsonParseError error{};
     const QJsonDocument json = QJsonDocument::fromJson(file.read(largestFile), &error);
-    if (!json.isObject())
-        throw RunTimeError(runTimeErrors::invalidCall,
-                           (name + QStringLiteral(" is no filter")).toStdString());
+    if (!json.isObject()) refuseFilter(runTimeErrors::invalidCall, tr("%1 is no filter").arg(name));
     return RowFilter::ofJson(json.object());
 }

@@ -2,6 +2,7 @@
 
 #include "hosts/common/filters/row_filter.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -9,6 +10,8 @@ class QSettings;
 
 /// Filters that a person has given names, a file of JSON each, which can be given to others.
 class SavedFilters {
+    Q_DECLARE_TR_FUNCTIONS(SavedFilters)
+
 public:
     /// `folder` is made when the first one is saved.
     explicit SavedFilters(QString folder) : folder_(std::move(folder)) {}

@@ -2,9 +2,9 @@
 
 #include "controls/controls.h"
 #include "hosts/common/look/icons.h"
+#include "hosts/common/look/mnemonics.h"
 #include "hosts/common/look/thin_line.h"
 #include "hosts/desktop/sheets/control_widgets.h"
-#include "hosts/desktop/sheets/mnemonics.h"
 #include "hosts/desktop/sheets/page_addition.h"
 #include "hosts/desktop/sheets/text_views.h"
 

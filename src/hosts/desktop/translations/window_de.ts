@@ -388,6 +388,25 @@
     </message>
 </context>
 <context>
+    <name>FilterTexts</name>
+    <message>
+        <source>&quot;%1&quot; of a filter is of another kind</source>
+        <translation>„%1“ eines Filters ist von anderer Art</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;%1&quot; to filter by</source>
+        <translation>es gibt keine Spalte „%1“, nach der gefiltert werden kann</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a filter is no time</source>
+        <translation>„%1“ eines Filters ist keine Zeit</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no regular expression: %2</source>
+        <translation>„%1“ ist kein regulärer Ausdruck: %2</translation>
+    </message>
+</context>
+<context>
     <name>FrameNeeds</name>
     <message>
         <source>End with the Newest Log</source>
@@ -554,10 +573,135 @@
     </message>
 </context>
 <context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help - Orvan Diagnostic Tool</source>
+        <translation>Hilfe - Orvan-Diagnosetool</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Was sie bewirkt</translation>
+    </message>
+</context>
+<context>
     <name>NoticeBar</name>
     <message>
         <source>Close this notice</source>
         <translation>Diesen Hinweis schließen</translation>
+    </message>
+</context>
+<context>
+    <name>PaneKeys</name>
+    <message>
+        <source>In lists and pages</source>
+        <translation>In Listen und auf Seiten</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Opens the log or the node of the current row</source>
+        <translation>Öffnet das Protokoll oder den Knoten der aktuellen Zeile</translation>
+    </message>
+    <message>
+        <source>Open or close a node</source>
+        <translation>Knoten öffnen oder schließen</translation>
+    </message>
+    <message>
+        <source>Right, Left</source>
+        <translation>Rechts, Links</translation>
+    </message>
+    <message>
+        <source>In a tree</source>
+        <translation>In einer Baumstruktur</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>Ankreuzen</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>Ticks or clears the current node of a page&apos;s tree</source>
+        <translation>Kreuzt den aktuellen Knoten im Baum einer Seite an oder entfernt das Kreuz</translation>
+    </message>
+    <message>
+        <source>Help on a page</source>
+        <translation>Hilfe zu einer Seite</translation>
+    </message>
+    <message>
+        <source>In a wizard or a sheet, and in the about box</source>
+        <translation>In einem Assistenten, einem Einstellungsfenster und im Infofenster</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>Erste und letzte Zeile</translation>
+    </message>
+    <message>
+        <source>Home, End</source>
+        <translation>Pos1, Ende</translation>
+    </message>
+    <message>
+        <source>In a list</source>
+        <translation>In einer Liste</translation>
+    </message>
+    <message>
+        <source>Close find or filter</source>
+        <translation>Suche oder Filter schließen</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Closes the bar in which the cursor is</source>
+        <translation>Schließt die Leiste, in der sich der Cursor befindet</translation>
     </message>
 </context>
 <context>
@@ -648,6 +792,49 @@
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>Device I/O error</source>
+        <translation>E/A-Fehler des Geräts</translation>
+    </message>
+    <message>
+        <source>Disk full</source>
+        <translation>Datenträger voll</translation>
+    </message>
+    <message>
+        <source>File already exists</source>
+        <translation>Datei ist schon vorhanden</translation>
+    </message>
+    <message>
+        <source>File not found</source>
+        <translation>Datei nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Input past end of file</source>
+        <translation>Lesen über das Dateiende hinaus</translation>
+    </message>
+    <message>
+        <source>Out of memory</source>
+        <translation>Zu wenig Speicher</translation>
+    </message>
+    <message>
+        <source>Out of string space</source>
+        <translation>Zu wenig Platz für Text</translation>
+    </message>
+    <message>
+        <source>Path not found</source>
+        <translation>Pfad nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Path/File access error</source>
+        <translation>Fehler beim Zugriff auf Pfad oder Datei</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Zugriff verweigert</translation>
+    </message>
+</context>
+<context>
     <name>ResultPlace</name>
     <message>
         <source>On this machine: %1</source>
@@ -656,6 +843,25 @@
     <message>
         <source>No file manager was found on this machine. The results are in %1.</source>
         <translation>Auf diesem Rechner wurde kein Dateimanager gefunden. Die Ergebnisse liegen in %1.</translation>
+    </message>
+</context>
+<context>
+    <name>SavedFilters</name>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be the name of a filter</source>
+        <translation>„%1“ kann kein Name eines Filters sein</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 is no filter</source>
+        <translation>%1 ist kein Filter</translation>
     </message>
 </context>
 <context>
@@ -988,128 +1194,6 @@
     <message>
         <source>Read A&amp;gain</source>
         <translation>Neu le&amp;sen</translation>
-    </message>
-</context>
-<context>
-    <name>desktop::HelpWindow</name>
-    <message>
-        <source>Help - Orvan Diagnostic Tool</source>
-        <translation>Hilfe - Orvan-Diagnosetool</translation>
-    </message>
-    <message>
-        <source>Manual</source>
-        <translation>Handbuch</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Hilfe</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Zurück</translation>
-    </message>
-    <message>
-        <source>Forward</source>
-        <translation>Vorwärts</translation>
-    </message>
-    <message>
-        <source>Contents</source>
-        <translation>Inhalt</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-</context>
-<context>
-    <name>desktop::KeyList</name>
-    <message>
-        <source>Keys</source>
-        <translation>Tasten</translation>
-    </message>
-    <message>
-        <source>Command</source>
-        <translation>Befehl</translation>
-    </message>
-    <message>
-        <source>Key</source>
-        <translation>Taste</translation>
-    </message>
-    <message>
-        <source>What it does</source>
-        <translation>Was sie bewirkt</translation>
-    </message>
-    <message>
-        <source>In lists and pages</source>
-        <translation>In Listen und auf Seiten</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Öffnen</translation>
-    </message>
-    <message>
-        <source>Enter</source>
-        <translation>Eingabe</translation>
-    </message>
-    <message>
-        <source>Opens the log or the node of the current row</source>
-        <translation>Öffnet das Protokoll oder den Knoten der aktuellen Zeile</translation>
-    </message>
-    <message>
-        <source>Open or close a node</source>
-        <translation>Knoten öffnen oder schließen</translation>
-    </message>
-    <message>
-        <source>Right, Left</source>
-        <translation>Rechts, Links</translation>
-    </message>
-    <message>
-        <source>In a tree</source>
-        <translation>In einer Baumstruktur</translation>
-    </message>
-    <message>
-        <source>Tick</source>
-        <translation>Ankreuzen</translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation>Leertaste</translation>
-    </message>
-    <message>
-        <source>Ticks or clears the current node of a page&apos;s tree</source>
-        <translation>Kreuzt den aktuellen Knoten im Baum einer Seite an oder entfernt das Kreuz</translation>
-    </message>
-    <message>
-        <source>First and last row</source>
-        <translation>Erste und letzte Zeile</translation>
-    </message>
-    <message>
-        <source>Home, End</source>
-        <translation>Pos1, Ende</translation>
-    </message>
-    <message>
-        <source>In a list</source>
-        <translation>In einer Liste</translation>
-    </message>
-    <message>
-        <source>Close find or filter</source>
-        <translation>Suche oder Filter schließen</translation>
-    </message>
-    <message>
-        <source>Esc</source>
-        <translation>Esc</translation>
-    </message>
-    <message>
-        <source>Closes the bar in which the cursor is</source>
-        <translation>Schließt die Leiste, in der sich der Cursor befindet</translation>
-    </message>
-    <message>
-        <source>Help on a page</source>
-        <translation>Hilfe zu einer Seite</translation>
-    </message>
-    <message>
-        <source>In a wizard or a sheet, and in the about box</source>
-        <translation>In einem Assistenten, einem Einstellungsfenster und im Infofenster</translation>
     </message>
 </context>
 <context>

@@ -388,6 +388,25 @@
     </message>
 </context>
 <context>
+    <name>FilterTexts</name>
+    <message>
+        <source>&quot;%1&quot; of a filter is of another kind</source>
+        <translation>«%1» de un filtro es de otro tipo</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;%1&quot; to filter by</source>
+        <translation>no hay columna «%1» por la que filtrar</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a filter is no time</source>
+        <translation>«%1» de un filtro no es una hora</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no regular expression: %2</source>
+        <translation>«%1» no es una expresión regular: %2</translation>
+    </message>
+</context>
+<context>
     <name>FrameNeeds</name>
     <message>
         <source>End with the Newest Log</source>
@@ -554,10 +573,135 @@
     </message>
 </context>
 <context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help - Orvan Diagnostic Tool</source>
+        <translation>Ayuda - Herramienta de diagnóstico de Orvan</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Adelante</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Contenido</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Comando</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Tecla</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Qué hace</translation>
+    </message>
+</context>
+<context>
     <name>NoticeBar</name>
     <message>
         <source>Close this notice</source>
         <translation>Cerrar este aviso</translation>
+    </message>
+</context>
+<context>
+    <name>PaneKeys</name>
+    <message>
+        <source>In lists and pages</source>
+        <translation>En listas y páginas</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Intro</translation>
+    </message>
+    <message>
+        <source>Opens the log or the node of the current row</source>
+        <translation>Abre el registro o el nodo de la fila actual</translation>
+    </message>
+    <message>
+        <source>Open or close a node</source>
+        <translation>Abrir o cerrar un nodo</translation>
+    </message>
+    <message>
+        <source>Right, Left</source>
+        <translation>Derecha, Izquierda</translation>
+    </message>
+    <message>
+        <source>In a tree</source>
+        <translation>En un árbol</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>Marcar</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espacio</translation>
+    </message>
+    <message>
+        <source>Ticks or clears the current node of a page&apos;s tree</source>
+        <translation>Marca o desmarca el nodo actual del árbol de una página</translation>
+    </message>
+    <message>
+        <source>Help on a page</source>
+        <translation>Ayuda de una página</translation>
+    </message>
+    <message>
+        <source>In a wizard or a sheet, and in the about box</source>
+        <translation>En un asistente, en una hoja de propiedades y en el cuadro Acerca de</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>Primera y última fila</translation>
+    </message>
+    <message>
+        <source>Home, End</source>
+        <translation>Inicio, Fin</translation>
+    </message>
+    <message>
+        <source>In a list</source>
+        <translation>En una lista</translation>
+    </message>
+    <message>
+        <source>Close find or filter</source>
+        <translation>Cerrar la búsqueda o el filtro</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Escape</translation>
+    </message>
+    <message>
+        <source>Closes the bar in which the cursor is</source>
+        <translation>Cierra la barra en la que está el cursor</translation>
     </message>
 </context>
 <context>
@@ -648,6 +792,49 @@
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>Device I/O error</source>
+        <translation>Error de E/S del dispositivo</translation>
+    </message>
+    <message>
+        <source>Disk full</source>
+        <translation>Disco lleno</translation>
+    </message>
+    <message>
+        <source>File already exists</source>
+        <translation>El archivo ya existe</translation>
+    </message>
+    <message>
+        <source>File not found</source>
+        <translation>Archivo no encontrado</translation>
+    </message>
+    <message>
+        <source>Input past end of file</source>
+        <translation>Lectura más allá del final del archivo</translation>
+    </message>
+    <message>
+        <source>Out of memory</source>
+        <translation>Memoria insuficiente</translation>
+    </message>
+    <message>
+        <source>Out of string space</source>
+        <translation>Espacio de texto insuficiente</translation>
+    </message>
+    <message>
+        <source>Path not found</source>
+        <translation>Ruta no encontrada</translation>
+    </message>
+    <message>
+        <source>Path/File access error</source>
+        <translation>Error de acceso a la ruta o al archivo</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Permiso denegado</translation>
+    </message>
+</context>
+<context>
     <name>ResultPlace</name>
     <message>
         <source>On this machine: %1</source>
@@ -656,6 +843,25 @@
     <message>
         <source>No file manager was found on this machine. The results are in %1.</source>
         <translation>No se ha encontrado ningún administrador de archivos en este equipo. Los resultados están en %1.</translation>
+    </message>
+</context>
+<context>
+    <name>SavedFilters</name>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be the name of a filter</source>
+        <translation>«%1» no puede ser el nombre de un filtro</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: %2</source>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>%1 no se puede leer: %2</translation>
+    </message>
+    <message>
+        <source>%1 is no filter</source>
+        <translation>%1 no es un filtro</translation>
     </message>
 </context>
 <context>
@@ -988,128 +1194,6 @@
     <message>
         <source>Read A&amp;gain</source>
         <translation>&amp;Leer de nuevo</translation>
-    </message>
-</context>
-<context>
-    <name>desktop::HelpWindow</name>
-    <message>
-        <source>Help - Orvan Diagnostic Tool</source>
-        <translation>Ayuda - Herramienta de diagnóstico de Orvan</translation>
-    </message>
-    <message>
-        <source>Manual</source>
-        <translation>Manual</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Ayuda</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Atrás</translation>
-    </message>
-    <message>
-        <source>Forward</source>
-        <translation>Adelante</translation>
-    </message>
-    <message>
-        <source>Contents</source>
-        <translation>Contenido</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Cerrar</translation>
-    </message>
-</context>
-<context>
-    <name>desktop::KeyList</name>
-    <message>
-        <source>Keys</source>
-        <translation>Teclas</translation>
-    </message>
-    <message>
-        <source>Command</source>
-        <translation>Comando</translation>
-    </message>
-    <message>
-        <source>Key</source>
-        <translation>Tecla</translation>
-    </message>
-    <message>
-        <source>What it does</source>
-        <translation>Qué hace</translation>
-    </message>
-    <message>
-        <source>In lists and pages</source>
-        <translation>En listas y páginas</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Abrir</translation>
-    </message>
-    <message>
-        <source>Enter</source>
-        <translation>Intro</translation>
-    </message>
-    <message>
-        <source>Opens the log or the node of the current row</source>
-        <translation>Abre el registro o el nodo de la fila actual</translation>
-    </message>
-    <message>
-        <source>Open or close a node</source>
-        <translation>Abrir o cerrar un nodo</translation>
-    </message>
-    <message>
-        <source>Right, Left</source>
-        <translation>Derecha, Izquierda</translation>
-    </message>
-    <message>
-        <source>In a tree</source>
-        <translation>En un árbol</translation>
-    </message>
-    <message>
-        <source>Tick</source>
-        <translation>Marcar</translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation>Espacio</translation>
-    </message>
-    <message>
-        <source>Ticks or clears the current node of a page&apos;s tree</source>
-        <translation>Marca o desmarca el nodo actual del árbol de una página</translation>
-    </message>
-    <message>
-        <source>First and last row</source>
-        <translation>Primera y última fila</translation>
-    </message>
-    <message>
-        <source>Home, End</source>
-        <translation>Inicio, Fin</translation>
-    </message>
-    <message>
-        <source>In a list</source>
-        <translation>En una lista</translation>
-    </message>
-    <message>
-        <source>Close find or filter</source>
-        <translation>Cerrar la búsqueda o el filtro</translation>
-    </message>
-    <message>
-        <source>Esc</source>
-        <translation>Escape</translation>
-    </message>
-    <message>
-        <source>Closes the bar in which the cursor is</source>
-        <translation>Cierra la barra en la que está el cursor</translation>
-    </message>
-    <message>
-        <source>Help on a page</source>
-        <translation>Ayuda de una página</translation>
-    </message>
-    <message>
-        <source>In a wizard or a sheet, and in the about box</source>
-        <translation>En un asistente, en una hoja de propiedades y en el cuadro Acerca de</translation>
     </message>
 </context>
 <context>

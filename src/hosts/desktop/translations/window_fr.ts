@@ -388,6 +388,25 @@
     </message>
 </context>
 <context>
+    <name>FilterTexts</name>
+    <message>
+        <source>&quot;%1&quot; of a filter is of another kind</source>
+        <translation>«&#xa0;%1&#xa0;» d&apos;un filtre est d&apos;un autre type</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;%1&quot; to filter by</source>
+        <translation>il n&apos;y a pas de colonne «&#xa0;%1&#xa0;» pour filtrer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a filter is no time</source>
+        <translation>«&#xa0;%1&#xa0;» d&apos;un filtre n&apos;est pas une heure</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no regular expression: %2</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une expression régulière&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
     <name>FrameNeeds</name>
     <message>
         <source>End with the Newest Log</source>
@@ -554,10 +573,135 @@
     </message>
 </context>
 <context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help - Orvan Diagnostic Tool</source>
+        <translation>Aide - Outil de diagnostic Orvan</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Touche</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Effet</translation>
+    </message>
+</context>
+<context>
     <name>NoticeBar</name>
     <message>
         <source>Close this notice</source>
         <translation>Fermer cet avis</translation>
+    </message>
+</context>
+<context>
+    <name>PaneKeys</name>
+    <message>
+        <source>In lists and pages</source>
+        <translation>Dans les listes et les pages</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>Opens the log or the node of the current row</source>
+        <translation>Ouvre le journal ou le nœud de la ligne active</translation>
+    </message>
+    <message>
+        <source>Open or close a node</source>
+        <translation>Ouvrir ou fermer un nœud</translation>
+    </message>
+    <message>
+        <source>Right, Left</source>
+        <translation>Droite, Gauche</translation>
+    </message>
+    <message>
+        <source>In a tree</source>
+        <translation>Dans une arborescence</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>Cocher</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espace</translation>
+    </message>
+    <message>
+        <source>Ticks or clears the current node of a page&apos;s tree</source>
+        <translation>Coche ou décoche le nœud actif de l&apos;arborescence d&apos;une page</translation>
+    </message>
+    <message>
+        <source>Help on a page</source>
+        <translation>Aide d&apos;une page</translation>
+    </message>
+    <message>
+        <source>In a wizard or a sheet, and in the about box</source>
+        <translation>Dans un assistant, une feuille de propriétés et la boîte À propos</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>Première et dernière ligne</translation>
+    </message>
+    <message>
+        <source>Home, End</source>
+        <translation>Début, Fin</translation>
+    </message>
+    <message>
+        <source>In a list</source>
+        <translation>Dans une liste</translation>
+    </message>
+    <message>
+        <source>Close find or filter</source>
+        <translation>Fermer la recherche ou le filtre</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Échap</translation>
+    </message>
+    <message>
+        <source>Closes the bar in which the cursor is</source>
+        <translation>Ferme la barre dans laquelle se trouve le curseur</translation>
     </message>
 </context>
 <context>
@@ -648,6 +792,49 @@
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>Device I/O error</source>
+        <translation>Erreur d&apos;E/S du périphérique</translation>
+    </message>
+    <message>
+        <source>Disk full</source>
+        <translation>Disque plein</translation>
+    </message>
+    <message>
+        <source>File already exists</source>
+        <translation>Le fichier existe déjà</translation>
+    </message>
+    <message>
+        <source>File not found</source>
+        <translation>Fichier introuvable</translation>
+    </message>
+    <message>
+        <source>Input past end of file</source>
+        <translation>Lecture au-delà de la fin du fichier</translation>
+    </message>
+    <message>
+        <source>Out of memory</source>
+        <translation>Mémoire insuffisante</translation>
+    </message>
+    <message>
+        <source>Out of string space</source>
+        <translation>Espace de texte insuffisant</translation>
+    </message>
+    <message>
+        <source>Path not found</source>
+        <translation>Chemin introuvable</translation>
+    </message>
+    <message>
+        <source>Path/File access error</source>
+        <translation>Erreur d&apos;accès au chemin ou au fichier</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Accès refusé</translation>
+    </message>
+</context>
+<context>
     <name>ResultPlace</name>
     <message>
         <source>On this machine: %1</source>
@@ -656,6 +843,25 @@
     <message>
         <source>No file manager was found on this machine. The results are in %1.</source>
         <translation>Aucun gestionnaire de fichiers n&apos;a été trouvé sur cet ordinateur. Les résultats sont dans %1.</translation>
+    </message>
+</context>
+<context>
+    <name>SavedFilters</name>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be the name of a filter</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être le nom d&apos;un filtre</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: %2</source>
+        <translation>%1 ne peut pas être écrit&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>%1 ne peut pas être lu&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 is no filter</source>
+        <translation>%1 n&apos;est pas un filtre</translation>
     </message>
 </context>
 <context>
@@ -988,128 +1194,6 @@
     <message>
         <source>Read A&amp;gain</source>
         <translation>Re&amp;lire</translation>
-    </message>
-</context>
-<context>
-    <name>desktop::HelpWindow</name>
-    <message>
-        <source>Help - Orvan Diagnostic Tool</source>
-        <translation>Aide - Outil de diagnostic Orvan</translation>
-    </message>
-    <message>
-        <source>Manual</source>
-        <translation>Manuel</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Aide</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Précédent</translation>
-    </message>
-    <message>
-        <source>Forward</source>
-        <translation>Suivant</translation>
-    </message>
-    <message>
-        <source>Contents</source>
-        <translation>Sommaire</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Fermer</translation>
-    </message>
-</context>
-<context>
-    <name>desktop::KeyList</name>
-    <message>
-        <source>Keys</source>
-        <translation>Touches</translation>
-    </message>
-    <message>
-        <source>Command</source>
-        <translation>Commande</translation>
-    </message>
-    <message>
-        <source>Key</source>
-        <translation>Touche</translation>
-    </message>
-    <message>
-        <source>What it does</source>
-        <translation>Effet</translation>
-    </message>
-    <message>
-        <source>In lists and pages</source>
-        <translation>Dans les listes et les pages</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Ouvrir</translation>
-    </message>
-    <message>
-        <source>Enter</source>
-        <translation>Entrée</translation>
-    </message>
-    <message>
-        <source>Opens the log or the node of the current row</source>
-        <translation>Ouvre le journal ou le nœud de la ligne active</translation>
-    </message>
-    <message>
-        <source>Open or close a node</source>
-        <translation>Ouvrir ou fermer un nœud</translation>
-    </message>
-    <message>
-        <source>Right, Left</source>
-        <translation>Droite, Gauche</translation>
-    </message>
-    <message>
-        <source>In a tree</source>
-        <translation>Dans une arborescence</translation>
-    </message>
-    <message>
-        <source>Tick</source>
-        <translation>Cocher</translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation>Espace</translation>
-    </message>
-    <message>
-        <source>Ticks or clears the current node of a page&apos;s tree</source>
-        <translation>Coche ou décoche le nœud actif de l&apos;arborescence d&apos;une page</translation>
-    </message>
-    <message>
-        <source>First and last row</source>
-        <translation>Première et dernière ligne</translation>
-    </message>
-    <message>
-        <source>Home, End</source>
-        <translation>Début, Fin</translation>
-    </message>
-    <message>
-        <source>In a list</source>
-        <translation>Dans une liste</translation>
-    </message>
-    <message>
-        <source>Close find or filter</source>
-        <translation>Fermer la recherche ou le filtre</translation>
-    </message>
-    <message>
-        <source>Esc</source>
-        <translation>Échap</translation>
-    </message>
-    <message>
-        <source>Closes the bar in which the cursor is</source>
-        <translation>Ferme la barre dans laquelle se trouve le curseur</translation>
-    </message>
-    <message>
-        <source>Help on a page</source>
-        <translation>Aide d&apos;une page</translation>
-    </message>
-    <message>
-        <source>In a wizard or a sheet, and in the about box</source>
-        <translation>Dans un assistant, une feuille de propriétés et la boîte À propos</translation>
     </message>
 </context>
 <context>

@@ -388,6 +388,25 @@
     </message>
 </context>
 <context>
+    <name>FilterTexts</name>
+    <message>
+        <source>&quot;%1&quot; of a filter is of another kind</source>
+        <translation>フィルターの「%1」は種類が違います</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;%1&quot; to filter by</source>
+        <translation>「%1」という列はなく、フィルターに使えません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a filter is no time</source>
+        <translation>フィルターの「%1」は時刻ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no regular expression: %2</source>
+        <translation>「%1」は正規表現ではありません: %2</translation>
+    </message>
+</context>
+<context>
     <name>FrameNeeds</name>
     <message>
         <source>End with the Newest Log</source>
@@ -554,10 +573,135 @@
     </message>
 </context>
 <context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help - Orvan Diagnostic Tool</source>
+        <translation>ヘルプ - Orvan 診断ツール</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>マニュアル</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>進む</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>目次</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>キー一覧</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>動作</translation>
+    </message>
+</context>
+<context>
     <name>NoticeBar</name>
     <message>
         <source>Close this notice</source>
         <translation>この通知を閉じます</translation>
+    </message>
+</context>
+<context>
+    <name>PaneKeys</name>
+    <message>
+        <source>In lists and pages</source>
+        <translation>リストとページ</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Opens the log or the node of the current row</source>
+        <translation>現在の行のログまたはノードを開きます</translation>
+    </message>
+    <message>
+        <source>Open or close a node</source>
+        <translation>ノードを開閉</translation>
+    </message>
+    <message>
+        <source>Right, Left</source>
+        <translation>→、←</translation>
+    </message>
+    <message>
+        <source>In a tree</source>
+        <translation>ツリーで使います</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>チェック</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Space</translation>
+    </message>
+    <message>
+        <source>Ticks or clears the current node of a page&apos;s tree</source>
+        <translation>ページのツリーで現在のノードのチェックを付けるか、外します</translation>
+    </message>
+    <message>
+        <source>Help on a page</source>
+        <translation>ページのヘルプ</translation>
+    </message>
+    <message>
+        <source>In a wizard or a sheet, and in the about box</source>
+        <translation>ウィザード、プロパティ シート、バージョン情報で使います</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>先頭の行と末尾の行</translation>
+    </message>
+    <message>
+        <source>Home, End</source>
+        <translation>Home、End</translation>
+    </message>
+    <message>
+        <source>In a list</source>
+        <translation>リストで使います</translation>
+    </message>
+    <message>
+        <source>Close find or filter</source>
+        <translation>検索またはフィルターを閉じる</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Closes the bar in which the cursor is</source>
+        <translation>カーソルのあるバーを閉じます</translation>
     </message>
 </context>
 <context>
@@ -648,6 +792,49 @@
     </message>
 </context>
 <context>
+    <name>Reasons</name>
+    <message>
+        <source>Device I/O error</source>
+        <translation>デバイスの入出力エラー</translation>
+    </message>
+    <message>
+        <source>Disk full</source>
+        <translation>ディスクがいっぱいです</translation>
+    </message>
+    <message>
+        <source>File already exists</source>
+        <translation>ファイルは既に存在します</translation>
+    </message>
+    <message>
+        <source>File not found</source>
+        <translation>ファイルが見つかりません</translation>
+    </message>
+    <message>
+        <source>Input past end of file</source>
+        <translation>ファイルの終わりを越えた読み取り</translation>
+    </message>
+    <message>
+        <source>Out of memory</source>
+        <translation>メモリが足りません</translation>
+    </message>
+    <message>
+        <source>Out of string space</source>
+        <translation>文字列領域が足りません</translation>
+    </message>
+    <message>
+        <source>Path not found</source>
+        <translation>パスが見つかりません</translation>
+    </message>
+    <message>
+        <source>Path/File access error</source>
+        <translation>パスまたはファイルにアクセスできません</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>アクセスが拒否されました</translation>
+    </message>
+</context>
+<context>
     <name>ResultPlace</name>
     <message>
         <source>On this machine: %1</source>
@@ -656,6 +843,25 @@
     <message>
         <source>No file manager was found on this machine. The results are in %1.</source>
         <translation>このコンピューターにはファイル マネージャーが見つかりません。結果は %1 にあります。</translation>
+    </message>
+</context>
+<context>
+    <name>SavedFilters</name>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be the name of a filter</source>
+        <translation>「%1」はフィルターの名前にできません</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: %2</source>
+        <translation>%1 を書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>%1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>%1 is no filter</source>
+        <translation>%1 はフィルターではありません</translation>
     </message>
 </context>
 <context>
@@ -988,128 +1194,6 @@
     <message>
         <source>Read A&amp;gain</source>
         <translation>再読み込み(&amp;G)</translation>
-    </message>
-</context>
-<context>
-    <name>desktop::HelpWindow</name>
-    <message>
-        <source>Help - Orvan Diagnostic Tool</source>
-        <translation>ヘルプ - Orvan 診断ツール</translation>
-    </message>
-    <message>
-        <source>Manual</source>
-        <translation>マニュアル</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>ヘルプ</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>戻る</translation>
-    </message>
-    <message>
-        <source>Forward</source>
-        <translation>進む</translation>
-    </message>
-    <message>
-        <source>Contents</source>
-        <translation>目次</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>閉じる</translation>
-    </message>
-</context>
-<context>
-    <name>desktop::KeyList</name>
-    <message>
-        <source>Keys</source>
-        <translation>キー一覧</translation>
-    </message>
-    <message>
-        <source>Command</source>
-        <translation>コマンド</translation>
-    </message>
-    <message>
-        <source>Key</source>
-        <translation>キー</translation>
-    </message>
-    <message>
-        <source>What it does</source>
-        <translation>動作</translation>
-    </message>
-    <message>
-        <source>In lists and pages</source>
-        <translation>リストとページ</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>開く</translation>
-    </message>
-    <message>
-        <source>Enter</source>
-        <translation>Enter</translation>
-    </message>
-    <message>
-        <source>Opens the log or the node of the current row</source>
-        <translation>現在の行のログまたはノードを開きます</translation>
-    </message>
-    <message>
-        <source>Open or close a node</source>
-        <translation>ノードを開閉</translation>
-    </message>
-    <message>
-        <source>Right, Left</source>
-        <translation>→、←</translation>
-    </message>
-    <message>
-        <source>In a tree</source>
-        <translation>ツリーで使います</translation>
-    </message>
-    <message>
-        <source>Tick</source>
-        <translation>チェック</translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation>Space</translation>
-    </message>
-    <message>
-        <source>Ticks or clears the current node of a page&apos;s tree</source>
-        <translation>ページのツリーで現在のノードのチェックを付けるか、外します</translation>
-    </message>
-    <message>
-        <source>First and last row</source>
-        <translation>先頭の行と末尾の行</translation>
-    </message>
-    <message>
-        <source>Home, End</source>
-        <translation>Home、End</translation>
-    </message>
-    <message>
-        <source>In a list</source>
-        <translation>リストで使います</translation>
-    </message>
-    <message>
-        <source>Close find or filter</source>
-        <translation>検索またはフィルターを閉じる</translation>
-    </message>
-    <message>
-        <source>Esc</source>
-        <translation>Esc</translation>
-    </message>
-    <message>
-        <source>Closes the bar in which the cursor is</source>
-        <translation>カーソルのあるバーを閉じます</translation>
-    </message>
-    <message>
-        <source>Help on a page</source>
-        <translation>ページのヘルプ</translation>
-    </message>
-    <message>
-        <source>In a wizard or a sheet, and in the about box</source>
-        <translation>ウィザード、プロパティ シート、バージョン情報で使います</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "hosts/desktop/window/filter_files.h"
 
 #include "hosts/common/look/path_dialog.h"
+#include "hosts/common/look/reason.h"
 #include "hosts/desktop/log/filter_bar.h"
 #include "hosts/desktop/log/log_view.h"
 #include "runtime/run_time_error.h"
@@ -53,8 +54,7 @@ void FilterFiles::save(LogView& log, const QString& name)
                           ? tr("Saved as %1, without the values of times and traces.").arg(name)
                           : tr("Saved as %1.").arg(name));
     } catch (const RunTimeError& error) {
-        emit log.said(
-            tr("The filter was not saved: %1.").arg(QString::fromStdString(error.description())));
+        emit log.said(tr("The filter was not saved: %1.").arg(reasonOf(error)));
     }
 }
 
@@ -67,8 +67,7 @@ void FilterFiles::take(LogView& log, const QString& file)
             emit log.said(
                 tr("The filter's times and processes hold in the viewer, not in a single log."));
     } catch (const RunTimeError& error) {
-        emit log.said(
-            tr("The filter was not taken: %1.").arg(QString::fromStdString(error.description())));
+        emit log.said(tr("The filter was not taken: %1.").arg(reasonOf(error)));
     }
 }
 

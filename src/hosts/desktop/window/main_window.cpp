@@ -14,7 +14,7 @@
 #include "hosts/desktop/window/about_dialog.h"
 #include "hosts/desktop/window/console_pane.h"
 #include "hosts/desktop/window/help_topics.h"
-#include "hosts/desktop/window/key_list.h"
+#include "hosts/desktop/window/pane_keys.h"
 #include "hosts/desktop/window/start_page.h"
 #include "hosts/desktop/window/task_pad_view.h"
 #include "sample/sample_server.h"
@@ -359,7 +359,7 @@ void MainWindow::changeTextSize(int step)
 
 void MainWindow::showKeys()
 {
-    KeyList keys(*this, this);
+    KeyList keys(*this, PaneKeys::groups(), this);
     keys.exec();
 }
 

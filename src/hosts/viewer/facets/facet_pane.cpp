@@ -91,6 +91,11 @@ void FacetPane::showTexts()
     const std::array titles = {tr("Processes"), tr("Components"), tr("Sources"), tr("Levels")};
     for (std::size_t facet = 0; facet < groups_.size(); ++facet)
         groups_[facet]->setText(0, titles[facet]);
+    filling_ = true;
+    for (const auto& items : items_)
+        if (const auto none = items.find({}); none != items.end())
+            none->second->setText(0, tr("(none)"));
+    filling_ = false;
     showCounts();
 }
 

@@ -2,6 +2,7 @@
 
 #include "runtime/run_time_error.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -14,17 +15,23 @@ namespace {
 constexpr int version = 1;
 const QString formName = QStringLiteral("orvandiag notes");
 
-[[noreturn]] void refuse(const char* what)
+/// What is said of notes that are damaged.
+class NoteTexts {
+    Q_DECLARE_TR_FUNCTIONS(NoteTexts)
+};
+
+[[noreturn]] void refuse(const QString& what)
 {
-    throw RunTimeError(runTimeErrors::invalidCall, what);
+    throw RunTimeError(runTimeErrors::invalidCall, what.toStdString());
 }
 
 Note noteOfJson(const QJsonValue& json)
 {
-    if (!json.isObject()) refuse("a note is no object");
+    if (!json.isObject()) refuse(NoteTexts::tr("a note is no object"));
     const QJsonValue bookmark = json[QStringLiteral("bookmark")];
     const QJsonValue text = json[QStringLiteral("note")];
-    if (!bookmark.isBool() || !text.isString()) refuse("a note has no bookmark or text");
+    if (!bookmark.isBool() || !text.isString())
+        refuse(NoteTexts::tr("a note has no bookmark or text"));
     return {RowIdentity::ofJson(json.toObject()), bookmark.toBool(), text.toString()};
 }
 
@@ -87,11 +94,13 @@ Notes notesOfJson(const QByteArray& json)
 {
     QJsonParseError error{};
     const QJsonObject file = QJsonDocument::fromJson(json, &error).object();
-    if (file.value(QStringLiteral("format")).toString() != formName) refuse("it is none of notes");
+    if (file.value(QStringLiteral("format")).toString() != formName)
+        refuse(NoteTexts::tr("it is none of notes"));
     if (file.value(QStringLiteral("version")).toInt() > version)
         throw RunTimeError(runTimeErrors::invalidFileFormat, "it is of a newer version");
-    if (file.value(QStringLiteral("version")).toInt() != version) refuse("it has no version");
-    if (!file.value(QStringLiteral("notes")).isArray()) refuse("it has no notes");
+    if (file.value(QStringLiteral("version")).toInt() != version)
+        refuse(NoteTexts::tr("it has no version"));
+    if (!file.value(QStringLiteral("notes")).isArray()) refuse(NoteTexts::tr("it has no notes"));
     Notes notes;
     for (const auto& note : file.value(QStringLiteral("notes")).toArray())
         notes.push_back(noteOfJson(note));

@@ -1,5 +1,6 @@
 #include "hosts/viewer/marks/notes_file.h"
 
+#include "hosts/common/look/reason.h"
 #include "runtime/run_time_error.h"
 #include "system/file_lock.h"
 #include "system/whole_file.h"
@@ -84,7 +85,7 @@ NotesFile::OneFile NotesFile::readOne(const std::string& path) const
         if (error.number() == runTimeErrors::pathNotFound) return one;
         one.state =
             error.number() == runTimeErrors::outOfStringSpace ? State::damaged : State::closed;
-        one.why = error.description();
+        one.why = reasonOf(error);
         return one;
     }
     try {
@@ -93,7 +94,7 @@ NotesFile::OneFile NotesFile::readOne(const std::string& path) const
     } catch (const RunTimeError& error) {
         one.state =
             error.number() == runTimeErrors::invalidFileFormat ? State::newer : State::damaged;
-        one.why = error.description();
+        one.why = reasonOf(error);
     }
     return one;
 }
@@ -109,7 +110,7 @@ Notes NotesFile::together(const OneFile& beside, const OneFile& own)
 void NotesFile::tell(const std::string& path, const OneFile& file, QStringList& sentences)
 {
     const QString name = text(path);
-    const QString why = text(file.why);
+    const QString& why = file.why;
     if (file.state == State::damaged)
         sentences << tr("The notes in %1 can't be read, and stay as they are: %2").arg(name, why);
     if (file.state == State::newer)
@@ -140,7 +141,7 @@ NotesFile::Result NotesFile::write(const std::vector<NoteEdit>& edits) const
                                    "texts are kept")
                                     .arg(edit.after.row.line)
                                     .arg(edit.after.row.source);
-    std::string why;
+    QString why;
     if (writeBeside(result.notes, beside.state, result.sentences, why))
         endOwn(own.state, result.sentences);
     else
@@ -150,10 +151,11 @@ NotesFile::Result NotesFile::write(const std::vector<NoteEdit>& edits) const
 
 /// False, and why, where nothing can be written beside the log.
 bool NotesFile::writeBeside(const Notes& notes, State before, QStringList& sentences,
-                            std::string& why) const
+                            QString& why) const
 {
     if (before == State::newer || before == State::closed) {
-        why = before == State::newer ? "a newer viewer has written there" : "it can't be read";
+        why = before == State::newer ? tr("a newer viewer has written there")
+                                     : tr("it can't be read");
         return false;
     }
     try {
@@ -163,7 +165,7 @@ bool NotesFile::writeBeside(const Notes& notes, State before, QStringList& sente
         else if (!notes.empty())
             writeOne(beside_, notes);
     } catch (const RunTimeError& error) {
-        why = error.description();
+        why = reasonOf(error);
         return false;
     }
     return true;
@@ -180,13 +182,13 @@ void NotesFile::endOwn(State before, QStringList& sentences) const
             putAside(own_, sentences);
     } catch (const RunTimeError& error) {
         sentences << tr("The notes in %1 stay there, though those beside the log go on: %2")
-                         .arg(text(own_), text(error.description()));
+                         .arg(text(own_), reasonOf(error));
     }
 }
 
 /// Writes what differs from what lies beside the log, notes that are gone as empty ones.
 void NotesFile::writeOwn(const Notes& notes, const OneFile& beside, State before,
-                         const std::string& why, QStringList& sentences) const
+                         const QString& why, QStringList& sentences) const
 {
     Notes differing;
     for (const Note& note : notes) {
@@ -202,10 +204,10 @@ void NotesFile::writeOwn(const Notes& notes, const OneFile& beside, State before
         QDir().mkpath(text(ownFolder_));
         writeOne(own_, differing);
         sentences << tr("No notes can be written beside %1 (%2). They are kept in %3.")
-                         .arg(text(file_), text(why), text(own_));
+                         .arg(text(file_), why, text(own_));
     } catch (const RunTimeError& error) {
         sentences << tr("The notes on %1 can't be kept, neither beside it (%2) nor in %3 (%4)")
-                         .arg(text(file_), text(why), text(own_), text(error.description()));
+                         .arg(text(file_), why, text(own_), reasonOf(error));
     }
 }
 
@@ -219,7 +221,9 @@ void NotesFile::writeOne(const std::string& path, const Notes& notes) const
     file.write(bytes);
     file.commit(true);
     if (readWholeFile(folder, lastNameOf(path), runTimeErrors::fileNotFound) != bytes)
-        throw RunTimeError(runTimeErrors::deviceIo, path + " does not say what was written to it");
+        throw RunTimeError(
+            runTimeErrors::deviceIo,
+            tr("%1 does not say what was written to it").arg(text(path)).toStdString());
 }
 
 /// Gives a damaged file another name, which is free.

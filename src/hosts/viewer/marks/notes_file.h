@@ -50,16 +50,15 @@ private:
     struct OneFile {
         State state = State::missing;
         Notes notes;
-        std::string why; ///< it is not sound
+        QString why; ///< it is not sound
     };
 
     OneFile readOne(const std::string& path) const;
     static Notes together(const OneFile& beside, const OneFile& own);
     static void tell(const std::string& path, const OneFile& file, QStringList& sentences);
-    bool writeBeside(const Notes& notes, State before, QStringList& sentences,
-                     std::string& why) const;
+    bool writeBeside(const Notes& notes, State before, QStringList& sentences, QString& why) const;
     void endOwn(State before, QStringList& sentences) const;
-    void writeOwn(const Notes& notes, const OneFile& beside, State before, const std::string& why,
+    void writeOwn(const Notes& notes, const OneFile& beside, State before, const QString& why,
                   QStringList& sentences) const;
     void writeOne(const std::string& path, const Notes& notes) const;
     static void putAside(const std::string& path, QStringList& sentences);

@@ -4,6 +4,7 @@
 #include "hosts/viewer/table/time_text.h"
 #include "runtime/run_time_error.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QJsonValue>
 #include <QRegularExpression>
@@ -15,9 +16,14 @@ namespace {
 constexpr qsizetype hashDigits = 16;
 constexpr qsizetype longestTrace = 160;
 
-[[noreturn]] void refuseIdentity(const char* what)
+/// What is said of rows that notes are for.
+class RowTexts {
+    Q_DECLARE_TR_FUNCTIONS(RowTexts)
+};
+
+[[noreturn]] void refuseIdentity(const QString& what)
 {
-    throw RunTimeError(runTimeErrors::invalidCall, what);
+    throw RunTimeError(runTimeErrors::invalidCall, what.toStdString());
 }
 
 /// A time as `toJson` writes it, such as "2025-02-20T15:23:07.123".
@@ -26,10 +32,10 @@ timeline::Moment momentOf(const QString& text)
     static const QRegularExpression form(QStringLiteral(
         "^([0-9]{4})-([0-9]{2})-([0-9]{2})T([0-9]{2}):([0-9]{2}):([0-9]{2})\\.([0-9]{3})$"));
     const auto match = form.match(text);
-    if (!match.hasMatch()) refuseIdentity("the time of a row is no time");
+    if (!match.hasMatch()) refuseIdentity(RowTexts::tr("the time of a row is no time"));
     const auto part = [&](int number) { return match.captured(number).toInt(); };
     if (part(2) < 1 || part(2) > 12 || part(3) < 1 || part(3) > 31)
-        refuseIdentity("the day of a row is no day");
+        refuseIdentity(RowTexts::tr("the day of a row is no day"));
     constexpr timeline::Moment second = 1000;
     constexpr timeline::Moment minute = 60 * second;
     constexpr timeline::Moment hour = 60 * minute;
@@ -62,14 +68,14 @@ RowIdentity RowIdentity::ofJson(const QJsonObject& json)
     static const QRegularExpression digits(QStringLiteral("^[0-9a-f]{16}$"));
     RowIdentity identity;
     const QJsonValue source = json.value(QStringLiteral("file"));
-    if (!source.isString()) refuseIdentity("a row has no file");
+    if (!source.isString()) refuseIdentity(RowTexts::tr("a row has no file"));
     identity.source = source.toString();
     const qint64 line = json.value(QStringLiteral("line")).toInteger(-1);
     if (line < 0 || line > std::numeric_limits<std::uint32_t>::max())
-        refuseIdentity("a row has no line");
+        refuseIdentity(RowTexts::tr("a row has no line"));
     identity.line = static_cast<std::uint32_t>(line);
     identity.hash = json.value(QStringLiteral("hash")).toString();
-    if (!digits.match(identity.hash).hasMatch()) refuseIdentity("a row has no hash");
+    if (!digits.match(identity.hash).hasMatch()) refuseIdentity(RowTexts::tr("a row has no hash"));
     if (json.contains(QStringLiteral("time")))
         identity.moment = momentOf(json.value(QStringLiteral("time")).toString());
     identity.trace = json.value(QStringLiteral("trace")).toString().left(longestTrace);

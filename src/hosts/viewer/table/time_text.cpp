@@ -1,5 +1,7 @@
 #include "hosts/viewer/table/time_text.h"
 
+#include <QCoreApplication>
+
 #include <string>
 
 namespace viewer {
@@ -23,7 +25,7 @@ QString differenceText(timeline::Moment from, timeline::Moment to)
         return QString::number(number).rightJustified(2, QLatin1Char('0'));
     };
     QString text = to < from ? QStringLiteral("-") : QStringLiteral("+");
-    if (days > 0) text += QStringLiteral("%1 d ").arg(days);
+    if (days > 0) text += QCoreApplication::translate("TimeText", "%1 d ").arg(days);
     const bool asked = days > 0 || hours > 0;
     if (asked) text += QString::number(hours) + QLatin1Char(':');
     if (asked || minutes > 0)

@@ -547,6 +547,114 @@
         <source>Tell the version</source>
         <translation>Die Version nennen</translation>
     </message>
+    <message>
+        <source>&amp;Help Topics</source>
+        <translation>&amp;Hilfethemen</translation>
+    </message>
+    <message>
+        <source>Open the manual at the page of the viewer</source>
+        <translation>Das Handbuch bei der Seite des Betrachters öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Tasten</translation>
+    </message>
+    <message>
+        <source>Show every key of the viewer</source>
+        <translation>Alle Tasten des Betrachters zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>FilterTexts</name>
+    <message>
+        <source>&quot;%1&quot; of a filter is of another kind</source>
+        <translation>„%1“ eines Filters ist von anderer Art</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;%1&quot; to filter by</source>
+        <translation>es gibt keine Spalte „%1“, nach der gefiltert werden kann</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a filter is no time</source>
+        <translation>„%1“ eines Filters ist keine Zeit</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no regular expression: %2</source>
+        <translation>„%1“ ist kein regulärer Ausdruck: %2</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help - Orvan Diagnostic Tool</source>
+        <translation>Hilfe - Orvan-Diagnosetool</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Was sie bewirkt</translation>
+    </message>
+</context>
+<context>
+    <name>NoteTexts</name>
+    <message>
+        <source>a note is no object</source>
+        <translation>eine Notiz ist kein Objekt</translation>
+    </message>
+    <message>
+        <source>a note has no bookmark or text</source>
+        <translation>eine Notiz hat kein Lesezeichen oder keinen Text</translation>
+    </message>
+    <message>
+        <source>it is none of notes</source>
+        <translation>sie ist keine Datei mit Notizen</translation>
+    </message>
+    <message>
+        <source>it has no version</source>
+        <translation>sie hat keine Version</translation>
+    </message>
+    <message>
+        <source>it has no notes</source>
+        <translation>sie hat keine Notizen</translation>
+    </message>
 </context>
 <context>
     <name>NotesFile</name>
@@ -582,12 +690,298 @@
         <source>The notes in %1 stay there, though those beside the log go on: %2</source>
         <translation>Die Notizen in %1 bleiben dort, neben dem Log geht es aber weiter: %2</translation>
     </message>
+    <message>
+        <source>a newer viewer has written there</source>
+        <translation>ein neuerer Betrachter hat dort geschrieben</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>es ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>%1 does not say what was written to it</source>
+        <translation>%1 enthält nicht, was hineingeschrieben wurde</translation>
+    </message>
 </context>
 <context>
     <name>NoticeBar</name>
     <message>
         <source>Close this notice</source>
         <translation>Diesen Hinweis schließen</translation>
+    </message>
+</context>
+<context>
+    <name>PaneKeys</name>
+    <message>
+        <source>In the rows</source>
+        <translation>In den Zeilen</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>Erste und letzte Zeile</translation>
+    </message>
+    <message>
+        <source>Home, End</source>
+        <translation>Pos1, Ende</translation>
+    </message>
+    <message>
+        <source>End stays at the end of logs that are followed</source>
+        <translation>Ende bleibt am Ende von Logs, denen gefolgt wird</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Shift+Up, Shift+Down</source>
+        <translation>Umschalt+Auf, Umschalt+Ab</translation>
+    </message>
+    <message>
+        <source>Selects rows from the current one on</source>
+        <translation>Wählt Zeilen von der aktuellen an aus</translation>
+    </message>
+    <message>
+        <source>Sideways</source>
+        <translation>Seitwärts</translation>
+    </message>
+    <message>
+        <source>Left, Right</source>
+        <translation>Links, Rechts</translation>
+    </message>
+    <message>
+        <source>Shows the rest of long rows</source>
+        <translation>Zeigt den Rest langer Zeilen</translation>
+    </message>
+    <message>
+        <source>Menu of the row</source>
+        <translation>Menü der Zeile</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>What can be done with the current row</source>
+        <translation>Was mit der aktuellen Zeile getan werden kann</translation>
+    </message>
+    <message>
+        <source>In the values</source>
+        <translation>In den Werten</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>Ankreuzen</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>Shows or hides the rows of the value</source>
+        <translation>Zeigt oder verbirgt die Zeilen des Wertes</translation>
+    </message>
+    <message>
+        <source>Only This</source>
+        <translation>Nur dieser Wert</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Shows the rows of the value alone, or all again</source>
+        <translation>Zeigt nur die Zeilen des Wertes oder wieder alle</translation>
+    </message>
+    <message>
+        <source>Open or close a group</source>
+        <translation>Eine Gruppe öffnen oder schließen</translation>
+    </message>
+    <message>
+        <source>Right, Left</source>
+        <translation>Rechts, Links</translation>
+    </message>
+    <message>
+        <source>Such as all components</source>
+        <translation>Etwa alle Komponenten</translation>
+    </message>
+    <message>
+        <source>In the bars of find and filter</source>
+        <translation>In den Leisten für Suche und Filter</translation>
+    </message>
+    <message>
+        <source>Next and previous hit</source>
+        <translation>Nächster und voriger Treffer</translation>
+    </message>
+    <message>
+        <source>Enter, Shift+Enter</source>
+        <translation>Eingabe, Umschalt+Eingabe</translation>
+    </message>
+    <message>
+        <source>In the text to find</source>
+        <translation>Im gesuchten Text</translation>
+    </message>
+    <message>
+        <source>Close find</source>
+        <translation>Suche schließen</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Ends the marks of the text, but for those kept</source>
+        <translation>Beendet die Markierung des Textes, bis auf behaltene</translation>
+    </message>
+    <message>
+        <source>Back to the rows</source>
+        <translation>Zurück zu den Zeilen</translation>
+    </message>
+    <message>
+        <source>Enter, Esc</source>
+        <translation>Eingabe, Esc</translation>
+    </message>
+    <message>
+        <source>In the texts of the filter</source>
+        <translation>In den Texten des Filters</translation>
+    </message>
+    <message>
+        <source>In the lanes of a call</source>
+        <translation>In den Bahnen eines Anrufs</translation>
+    </message>
+    <message>
+        <source>Line before and after</source>
+        <translation>Zeile davor und danach</translation>
+    </message>
+    <message>
+        <source>In all lanes, by time</source>
+        <translation>In allen Bahnen, nach der Zeit</translation>
+    </message>
+    <message>
+        <source>Within the lane</source>
+        <translation>In der Bahn</translation>
+    </message>
+    <message>
+        <source>Ctrl+Left, Ctrl+Right</source>
+        <translation>Strg+Links, Strg+Rechts</translation>
+    </message>
+    <message>
+        <source>The line before and after of the same process</source>
+        <translation>Die Zeile davor und danach desselben Prozesses</translation>
+    </message>
+    <message>
+        <source>Other lane</source>
+        <translation>Andere Bahn</translation>
+    </message>
+    <message>
+        <source>Up, Down</source>
+        <translation>Auf, Ab</translation>
+    </message>
+    <message>
+        <source>The line of another process that is nearest</source>
+        <translation>Die nächstgelegene Zeile eines anderen Prozesses</translation>
+    </message>
+    <message>
+        <source>First and last line</source>
+        <translation>Erste und letzte Zeile</translation>
+    </message>
+    <message>
+        <source>Of the call; with Ctrl of the lane</source>
+        <translation>Des Anrufs; mit Strg der Bahn</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Plus, Minus, 0</source>
+        <translation>Plus, Minus, 0</translation>
+    </message>
+    <message>
+        <source>0 shows the whole call</source>
+        <translation>0 zeigt den ganzen Anruf</translation>
+    </message>
+    <message>
+        <source>Go to the row</source>
+        <translation>Zur Zeile gehen</translation>
+    </message>
+    <message>
+        <source>Shows the line among all rows</source>
+        <translation>Zeigt die Zeile unter allen Zeilen</translation>
+    </message>
+    <message>
+        <source>The lanes stay open</source>
+        <translation>Die Bahnen bleiben offen</translation>
+    </message>
+    <message>
+        <source>In the lists of calls and bookmarks</source>
+        <translation>In den Listen der Anrufe und Lesezeichen</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Shows the lanes of the call, or the row of the mark</source>
+        <translation>Zeigt die Bahnen des Anrufs oder die Zeile des Zeichens</translation>
+    </message>
+    <message>
+        <source>Remove a mark</source>
+        <translation>Ein Zeichen entfernen</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Entf</translation>
+    </message>
+    <message>
+        <source>In the list of bookmarks and notes</source>
+        <translation>In der Liste der Lesezeichen und Notizen</translation>
+    </message>
+    <message>
+        <source>In the list of calls; it stays open</source>
+        <translation>In der Anrufliste; sie bleibt offen</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>Device I/O error</source>
+        <translation>E/A-Fehler des Geräts</translation>
+    </message>
+    <message>
+        <source>Disk full</source>
+        <translation>Datenträger voll</translation>
+    </message>
+    <message>
+        <source>File already exists</source>
+        <translation>Datei ist schon vorhanden</translation>
+    </message>
+    <message>
+        <source>File not found</source>
+        <translation>Datei nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Input past end of file</source>
+        <translation>Lesen über das Dateiende hinaus</translation>
+    </message>
+    <message>
+        <source>Out of memory</source>
+        <translation>Zu wenig Speicher</translation>
+    </message>
+    <message>
+        <source>Out of string space</source>
+        <translation>Zu wenig Platz für Text</translation>
+    </message>
+    <message>
+        <source>Path not found</source>
+        <translation>Pfad nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Path/File access error</source>
+        <translation>Fehler beim Zugriff auf Pfad oder Datei</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Zugriff verweigert</translation>
     </message>
 </context>
 <context>
@@ -639,6 +1033,55 @@
     <message>
         <source>Line</source>
         <translation>Zeile</translation>
+    </message>
+</context>
+<context>
+    <name>RowTexts</name>
+    <message>
+        <source>the time of a row is no time</source>
+        <translation>die Zeit einer Zeile ist keine Zeit</translation>
+    </message>
+    <message>
+        <source>the day of a row is no day</source>
+        <translation>der Tag einer Zeile ist kein Tag</translation>
+    </message>
+    <message>
+        <source>a row has no file</source>
+        <translation>eine Zeile hat keine Datei</translation>
+    </message>
+    <message>
+        <source>a row has no line</source>
+        <translation>eine Zeile hat keine Zeilennummer</translation>
+    </message>
+    <message>
+        <source>a row has no hash</source>
+        <translation>eine Zeile hat keine Prüfsumme</translation>
+    </message>
+</context>
+<context>
+    <name>SavedFilters</name>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be the name of a filter</source>
+        <translation>„%1“ kann kein Name eines Filters sein</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 is no filter</source>
+        <translation>%1 ist kein Filter</translation>
+    </message>
+</context>
+<context>
+    <name>TimeText</name>
+    <message>
+        <source>%1 d </source>
+        <translation>%1 T </translation>
     </message>
 </context>
 <context>
@@ -1272,6 +1715,10 @@ Legen Sie Logs, Trace-Datenbanken oder CAB-Dateien hier ab, oder öffnen Sie sie
     <message>
         <source>%1 of %2 selected rows copied; an export has all that are on show</source>
         <translation>%1 von %2 ausgewählten Zeilen kopiert; ein Export enthält alle angezeigten Zeilen</translation>
+    </message>
+    <message>
+        <source>The manual is not beside the viewer. Install it again to read it.</source>
+        <translation>Das Handbuch liegt nicht beim Betrachter. Installieren Sie ihn neu, um es zu lesen.</translation>
     </message>
 </context>
 <context>

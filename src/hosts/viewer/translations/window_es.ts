@@ -547,6 +547,114 @@
         <source>Tell the version</source>
         <translation>Indicar la versión</translation>
     </message>
+    <message>
+        <source>&amp;Help Topics</source>
+        <translation>&amp;Temas de ayuda</translation>
+    </message>
+    <message>
+        <source>Open the manual at the page of the viewer</source>
+        <translation>Abrir el manual por la página del visor</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>Te&amp;clas</translation>
+    </message>
+    <message>
+        <source>Show every key of the viewer</source>
+        <translation>Mostrar todas las teclas del visor</translation>
+    </message>
+</context>
+<context>
+    <name>FilterTexts</name>
+    <message>
+        <source>&quot;%1&quot; of a filter is of another kind</source>
+        <translation>«%1» de un filtro es de otro tipo</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;%1&quot; to filter by</source>
+        <translation>no hay columna «%1» por la que filtrar</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a filter is no time</source>
+        <translation>«%1» de un filtro no es una hora</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no regular expression: %2</source>
+        <translation>«%1» no es una expresión regular: %2</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help - Orvan Diagnostic Tool</source>
+        <translation>Ayuda - Herramienta de diagnóstico de Orvan</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Adelante</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Contenido</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Comando</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Tecla</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Qué hace</translation>
+    </message>
+</context>
+<context>
+    <name>NoteTexts</name>
+    <message>
+        <source>a note is no object</source>
+        <translation>una nota no es un objeto</translation>
+    </message>
+    <message>
+        <source>a note has no bookmark or text</source>
+        <translation>una nota no tiene marcador o texto</translation>
+    </message>
+    <message>
+        <source>it is none of notes</source>
+        <translation>no es un archivo de notas</translation>
+    </message>
+    <message>
+        <source>it has no version</source>
+        <translation>no tiene versión</translation>
+    </message>
+    <message>
+        <source>it has no notes</source>
+        <translation>no tiene notas</translation>
+    </message>
 </context>
 <context>
     <name>NotesFile</name>
@@ -582,12 +690,298 @@
         <source>The notes in %1 stay there, though those beside the log go on: %2</source>
         <translation>Las notas de %1 se quedan allí, aunque las que están junto al registro continúan: %2</translation>
     </message>
+    <message>
+        <source>a newer viewer has written there</source>
+        <translation>un visor más nuevo ha escrito ahí</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>%1 does not say what was written to it</source>
+        <translation>%1 no contiene lo que se escribió</translation>
+    </message>
 </context>
 <context>
     <name>NoticeBar</name>
     <message>
         <source>Close this notice</source>
         <translation>Cerrar este aviso</translation>
+    </message>
+</context>
+<context>
+    <name>PaneKeys</name>
+    <message>
+        <source>In the rows</source>
+        <translation>En las filas</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>Primera y última fila</translation>
+    </message>
+    <message>
+        <source>Home, End</source>
+        <translation>Inicio, Fin</translation>
+    </message>
+    <message>
+        <source>End stays at the end of logs that are followed</source>
+        <translation>Fin se queda al final de los registros que se siguen</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Seleccionar</translation>
+    </message>
+    <message>
+        <source>Shift+Up, Shift+Down</source>
+        <translation>Mayús+Arriba, Mayús+Abajo</translation>
+    </message>
+    <message>
+        <source>Selects rows from the current one on</source>
+        <translation>Selecciona filas a partir de la actual</translation>
+    </message>
+    <message>
+        <source>Sideways</source>
+        <translation>De lado</translation>
+    </message>
+    <message>
+        <source>Left, Right</source>
+        <translation>Izquierda, Derecha</translation>
+    </message>
+    <message>
+        <source>Shows the rest of long rows</source>
+        <translation>Muestra el resto de las filas largas</translation>
+    </message>
+    <message>
+        <source>Menu of the row</source>
+        <translation>Menú de la fila</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menú</translation>
+    </message>
+    <message>
+        <source>What can be done with the current row</source>
+        <translation>Lo que se puede hacer con la fila actual</translation>
+    </message>
+    <message>
+        <source>In the values</source>
+        <translation>En los valores</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>Marcar</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espacio</translation>
+    </message>
+    <message>
+        <source>Shows or hides the rows of the value</source>
+        <translation>Muestra u oculta las filas del valor</translation>
+    </message>
+    <message>
+        <source>Only This</source>
+        <translation>Solo este</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Intro</translation>
+    </message>
+    <message>
+        <source>Shows the rows of the value alone, or all again</source>
+        <translation>Muestra solo las filas del valor, o de nuevo todas</translation>
+    </message>
+    <message>
+        <source>Open or close a group</source>
+        <translation>Abrir o cerrar un grupo</translation>
+    </message>
+    <message>
+        <source>Right, Left</source>
+        <translation>Derecha, Izquierda</translation>
+    </message>
+    <message>
+        <source>Such as all components</source>
+        <translation>Por ejemplo, todos los componentes</translation>
+    </message>
+    <message>
+        <source>In the bars of find and filter</source>
+        <translation>En las barras de búsqueda y filtro</translation>
+    </message>
+    <message>
+        <source>Next and previous hit</source>
+        <translation>Coincidencia siguiente y anterior</translation>
+    </message>
+    <message>
+        <source>Enter, Shift+Enter</source>
+        <translation>Intro, Mayús+Intro</translation>
+    </message>
+    <message>
+        <source>In the text to find</source>
+        <translation>En el texto que se busca</translation>
+    </message>
+    <message>
+        <source>Close find</source>
+        <translation>Cerrar la búsqueda</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Escape</translation>
+    </message>
+    <message>
+        <source>Ends the marks of the text, but for those kept</source>
+        <translation>Quita las marcas del texto, salvo las conservadas</translation>
+    </message>
+    <message>
+        <source>Back to the rows</source>
+        <translation>Volver a las filas</translation>
+    </message>
+    <message>
+        <source>Enter, Esc</source>
+        <translation>Intro, Esc</translation>
+    </message>
+    <message>
+        <source>In the texts of the filter</source>
+        <translation>En los textos del filtro</translation>
+    </message>
+    <message>
+        <source>In the lanes of a call</source>
+        <translation>En los carriles de una llamada</translation>
+    </message>
+    <message>
+        <source>Line before and after</source>
+        <translation>Línea anterior y siguiente</translation>
+    </message>
+    <message>
+        <source>In all lanes, by time</source>
+        <translation>En todos los carriles, por hora</translation>
+    </message>
+    <message>
+        <source>Within the lane</source>
+        <translation>Dentro del carril</translation>
+    </message>
+    <message>
+        <source>Ctrl+Left, Ctrl+Right</source>
+        <translation>Ctrl+Izquierda, Ctrl+Derecha</translation>
+    </message>
+    <message>
+        <source>The line before and after of the same process</source>
+        <translation>La línea anterior y siguiente del mismo proceso</translation>
+    </message>
+    <message>
+        <source>Other lane</source>
+        <translation>Otro carril</translation>
+    </message>
+    <message>
+        <source>Up, Down</source>
+        <translation>Arriba, Abajo</translation>
+    </message>
+    <message>
+        <source>The line of another process that is nearest</source>
+        <translation>La línea más cercana de otro proceso</translation>
+    </message>
+    <message>
+        <source>First and last line</source>
+        <translation>Primera y última línea</translation>
+    </message>
+    <message>
+        <source>Of the call; with Ctrl of the lane</source>
+        <translation>De la llamada; con Ctrl, del carril</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Plus, Minus, 0</source>
+        <translation>Más, Menos, 0</translation>
+    </message>
+    <message>
+        <source>0 shows the whole call</source>
+        <translation>0 muestra la llamada entera</translation>
+    </message>
+    <message>
+        <source>Go to the row</source>
+        <translation>Ir a la fila</translation>
+    </message>
+    <message>
+        <source>Shows the line among all rows</source>
+        <translation>Muestra la línea entre todas las filas</translation>
+    </message>
+    <message>
+        <source>The lanes stay open</source>
+        <translation>Los carriles quedan abiertos</translation>
+    </message>
+    <message>
+        <source>In the lists of calls and bookmarks</source>
+        <translation>En las listas de llamadas y marcadores</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Shows the lanes of the call, or the row of the mark</source>
+        <translation>Muestra los carriles de la llamada o la fila de la marca</translation>
+    </message>
+    <message>
+        <source>Remove a mark</source>
+        <translation>Quitar una marca</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Supr</translation>
+    </message>
+    <message>
+        <source>In the list of bookmarks and notes</source>
+        <translation>En la lista de marcadores y notas</translation>
+    </message>
+    <message>
+        <source>In the list of calls; it stays open</source>
+        <translation>En la lista de llamadas, que queda abierta</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>Device I/O error</source>
+        <translation>Error de E/S del dispositivo</translation>
+    </message>
+    <message>
+        <source>Disk full</source>
+        <translation>Disco lleno</translation>
+    </message>
+    <message>
+        <source>File already exists</source>
+        <translation>El archivo ya existe</translation>
+    </message>
+    <message>
+        <source>File not found</source>
+        <translation>Archivo no encontrado</translation>
+    </message>
+    <message>
+        <source>Input past end of file</source>
+        <translation>Lectura más allá del final del archivo</translation>
+    </message>
+    <message>
+        <source>Out of memory</source>
+        <translation>Memoria insuficiente</translation>
+    </message>
+    <message>
+        <source>Out of string space</source>
+        <translation>Espacio de texto insuficiente</translation>
+    </message>
+    <message>
+        <source>Path not found</source>
+        <translation>Ruta no encontrada</translation>
+    </message>
+    <message>
+        <source>Path/File access error</source>
+        <translation>Error de acceso a la ruta o al archivo</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Permiso denegado</translation>
     </message>
 </context>
 <context>
@@ -639,6 +1033,55 @@
     <message>
         <source>Line</source>
         <translation>Línea</translation>
+    </message>
+</context>
+<context>
+    <name>RowTexts</name>
+    <message>
+        <source>the time of a row is no time</source>
+        <translation>la hora de una fila no es una hora</translation>
+    </message>
+    <message>
+        <source>the day of a row is no day</source>
+        <translation>el día de una fila no es un día</translation>
+    </message>
+    <message>
+        <source>a row has no file</source>
+        <translation>una fila no tiene archivo</translation>
+    </message>
+    <message>
+        <source>a row has no line</source>
+        <translation>una fila no tiene número de línea</translation>
+    </message>
+    <message>
+        <source>a row has no hash</source>
+        <translation>una fila no tiene suma de comprobación</translation>
+    </message>
+</context>
+<context>
+    <name>SavedFilters</name>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be the name of a filter</source>
+        <translation>«%1» no puede ser el nombre de un filtro</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: %2</source>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>%1 no se puede leer: %2</translation>
+    </message>
+    <message>
+        <source>%1 is no filter</source>
+        <translation>%1 no es un filtro</translation>
+    </message>
+</context>
+<context>
+    <name>TimeText</name>
+    <message>
+        <source>%1 d </source>
+        <translation>%1 d </translation>
     </message>
 </context>
 <context>
@@ -1272,6 +1715,10 @@ Suelte aquí registros, bases de datos de trazas o archivos CAB, o ábralos con 
     <message>
         <source>%1 of %2 selected rows copied; an export has all that are on show</source>
         <translation>%1 de %2 filas seleccionadas copiadas; una exportación contiene todas las mostradas</translation>
+    </message>
+    <message>
+        <source>The manual is not beside the viewer. Install it again to read it.</source>
+        <translation>El manual no está junto al visor. Vuelva a instalarlo para leerlo.</translation>
     </message>
 </context>
 <context>

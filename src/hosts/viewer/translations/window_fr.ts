@@ -547,6 +547,114 @@
         <source>Tell the version</source>
         <translation>Indiquer la version</translation>
     </message>
+    <message>
+        <source>&amp;Help Topics</source>
+        <translation>&amp;Rubriques d&apos;aide</translation>
+    </message>
+    <message>
+        <source>Open the manual at the page of the viewer</source>
+        <translation>Ouvrir le manuel à la page de la visionneuse</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Touches</translation>
+    </message>
+    <message>
+        <source>Show every key of the viewer</source>
+        <translation>Montrer toutes les touches de la visionneuse</translation>
+    </message>
+</context>
+<context>
+    <name>FilterTexts</name>
+    <message>
+        <source>&quot;%1&quot; of a filter is of another kind</source>
+        <translation>«&#xa0;%1&#xa0;» d&apos;un filtre est d&apos;un autre type</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;%1&quot; to filter by</source>
+        <translation>il n&apos;y a pas de colonne «&#xa0;%1&#xa0;» pour filtrer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a filter is no time</source>
+        <translation>«&#xa0;%1&#xa0;» d&apos;un filtre n&apos;est pas une heure</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no regular expression: %2</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas une expression régulière&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help - Orvan Diagnostic Tool</source>
+        <translation>Aide - Outil de diagnostic Orvan</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Touche</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Effet</translation>
+    </message>
+</context>
+<context>
+    <name>NoteTexts</name>
+    <message>
+        <source>a note is no object</source>
+        <translation>une note n&apos;est pas un objet</translation>
+    </message>
+    <message>
+        <source>a note has no bookmark or text</source>
+        <translation>une note n&apos;a pas de signet ou de texte</translation>
+    </message>
+    <message>
+        <source>it is none of notes</source>
+        <translation>ce n&apos;est pas un fichier de notes</translation>
+    </message>
+    <message>
+        <source>it has no version</source>
+        <translation>il n&apos;a pas de version</translation>
+    </message>
+    <message>
+        <source>it has no notes</source>
+        <translation>il n&apos;a pas de notes</translation>
+    </message>
 </context>
 <context>
     <name>NotesFile</name>
@@ -582,12 +690,298 @@
         <source>The notes in %1 stay there, though those beside the log go on: %2</source>
         <translation>Les notes de %1 y restent, mais celles à côté du journal continuent : %2</translation>
     </message>
+    <message>
+        <source>a newer viewer has written there</source>
+        <translation>une visionneuse plus récente y a écrit</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>lecture impossible</translation>
+    </message>
+    <message>
+        <source>%1 does not say what was written to it</source>
+        <translation>%1 ne contient pas ce qui y a été écrit</translation>
+    </message>
 </context>
 <context>
     <name>NoticeBar</name>
     <message>
         <source>Close this notice</source>
         <translation>Fermer cet avis</translation>
+    </message>
+</context>
+<context>
+    <name>PaneKeys</name>
+    <message>
+        <source>In the rows</source>
+        <translation>Dans les lignes</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>Première et dernière ligne</translation>
+    </message>
+    <message>
+        <source>Home, End</source>
+        <translation>Début, Fin</translation>
+    </message>
+    <message>
+        <source>End stays at the end of logs that are followed</source>
+        <translation>Fin reste à la fin des journaux suivis</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Sélectionner</translation>
+    </message>
+    <message>
+        <source>Shift+Up, Shift+Down</source>
+        <translation>Maj+Haut, Maj+Bas</translation>
+    </message>
+    <message>
+        <source>Selects rows from the current one on</source>
+        <translation>Sélectionne des lignes à partir de la ligne active</translation>
+    </message>
+    <message>
+        <source>Sideways</source>
+        <translation>De côté</translation>
+    </message>
+    <message>
+        <source>Left, Right</source>
+        <translation>Gauche, Droite</translation>
+    </message>
+    <message>
+        <source>Shows the rest of long rows</source>
+        <translation>Montre le reste des longues lignes</translation>
+    </message>
+    <message>
+        <source>Menu of the row</source>
+        <translation>Menu de la ligne</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>What can be done with the current row</source>
+        <translation>Ce qu&apos;on peut faire de la ligne active</translation>
+    </message>
+    <message>
+        <source>In the values</source>
+        <translation>Dans les valeurs</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>Cocher</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espace</translation>
+    </message>
+    <message>
+        <source>Shows or hides the rows of the value</source>
+        <translation>Montre ou masque les lignes de la valeur</translation>
+    </message>
+    <message>
+        <source>Only This</source>
+        <translation>Seulement celle-ci</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>Shows the rows of the value alone, or all again</source>
+        <translation>Montre seulement les lignes de la valeur, ou de nouveau toutes</translation>
+    </message>
+    <message>
+        <source>Open or close a group</source>
+        <translation>Ouvrir ou fermer un groupe</translation>
+    </message>
+    <message>
+        <source>Right, Left</source>
+        <translation>Droite, Gauche</translation>
+    </message>
+    <message>
+        <source>Such as all components</source>
+        <translation>Par exemple tous les composants</translation>
+    </message>
+    <message>
+        <source>In the bars of find and filter</source>
+        <translation>Dans les barres de recherche et de filtre</translation>
+    </message>
+    <message>
+        <source>Next and previous hit</source>
+        <translation>Correspondance suivante et précédente</translation>
+    </message>
+    <message>
+        <source>Enter, Shift+Enter</source>
+        <translation>Entrée, Maj+Entrée</translation>
+    </message>
+    <message>
+        <source>In the text to find</source>
+        <translation>Dans le texte à rechercher</translation>
+    </message>
+    <message>
+        <source>Close find</source>
+        <translation>Fermer la recherche</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Échap</translation>
+    </message>
+    <message>
+        <source>Ends the marks of the text, but for those kept</source>
+        <translation>Retire les marques du texte, sauf celles conservées</translation>
+    </message>
+    <message>
+        <source>Back to the rows</source>
+        <translation>Retour aux lignes</translation>
+    </message>
+    <message>
+        <source>Enter, Esc</source>
+        <translation>Entrée, Échap</translation>
+    </message>
+    <message>
+        <source>In the texts of the filter</source>
+        <translation>Dans les textes du filtre</translation>
+    </message>
+    <message>
+        <source>In the lanes of a call</source>
+        <translation>Dans les couloirs d&apos;un appel</translation>
+    </message>
+    <message>
+        <source>Line before and after</source>
+        <translation>Ligne précédente et suivante</translation>
+    </message>
+    <message>
+        <source>In all lanes, by time</source>
+        <translation>Dans tous les couloirs, par heure</translation>
+    </message>
+    <message>
+        <source>Within the lane</source>
+        <translation>Dans le couloir</translation>
+    </message>
+    <message>
+        <source>Ctrl+Left, Ctrl+Right</source>
+        <translation>Ctrl+Gauche, Ctrl+Droite</translation>
+    </message>
+    <message>
+        <source>The line before and after of the same process</source>
+        <translation>La ligne précédente et suivante du même processus</translation>
+    </message>
+    <message>
+        <source>Other lane</source>
+        <translation>Autre couloir</translation>
+    </message>
+    <message>
+        <source>Up, Down</source>
+        <translation>Haut, Bas</translation>
+    </message>
+    <message>
+        <source>The line of another process that is nearest</source>
+        <translation>La ligne la plus proche d&apos;un autre processus</translation>
+    </message>
+    <message>
+        <source>First and last line</source>
+        <translation>Première et dernière ligne</translation>
+    </message>
+    <message>
+        <source>Of the call; with Ctrl of the lane</source>
+        <translation>De l&apos;appel&#xa0;; avec Ctrl, du couloir</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Plus, Minus, 0</source>
+        <translation>Plus, Moins, 0</translation>
+    </message>
+    <message>
+        <source>0 shows the whole call</source>
+        <translation>0 montre tout l&apos;appel</translation>
+    </message>
+    <message>
+        <source>Go to the row</source>
+        <translation>Aller à la ligne</translation>
+    </message>
+    <message>
+        <source>Shows the line among all rows</source>
+        <translation>Montre la ligne parmi toutes les lignes</translation>
+    </message>
+    <message>
+        <source>The lanes stay open</source>
+        <translation>Les couloirs restent ouverts</translation>
+    </message>
+    <message>
+        <source>In the lists of calls and bookmarks</source>
+        <translation>Dans les listes des appels et des signets</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Shows the lanes of the call, or the row of the mark</source>
+        <translation>Montre les couloirs de l&apos;appel ou la ligne de la marque</translation>
+    </message>
+    <message>
+        <source>Remove a mark</source>
+        <translation>Retirer une marque</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Suppr</translation>
+    </message>
+    <message>
+        <source>In the list of bookmarks and notes</source>
+        <translation>Dans la liste des signets et notes</translation>
+    </message>
+    <message>
+        <source>In the list of calls; it stays open</source>
+        <translation>Dans la liste des appels, qui reste ouverte</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>Device I/O error</source>
+        <translation>Erreur d&apos;E/S du périphérique</translation>
+    </message>
+    <message>
+        <source>Disk full</source>
+        <translation>Disque plein</translation>
+    </message>
+    <message>
+        <source>File already exists</source>
+        <translation>Le fichier existe déjà</translation>
+    </message>
+    <message>
+        <source>File not found</source>
+        <translation>Fichier introuvable</translation>
+    </message>
+    <message>
+        <source>Input past end of file</source>
+        <translation>Lecture au-delà de la fin du fichier</translation>
+    </message>
+    <message>
+        <source>Out of memory</source>
+        <translation>Mémoire insuffisante</translation>
+    </message>
+    <message>
+        <source>Out of string space</source>
+        <translation>Espace de texte insuffisant</translation>
+    </message>
+    <message>
+        <source>Path not found</source>
+        <translation>Chemin introuvable</translation>
+    </message>
+    <message>
+        <source>Path/File access error</source>
+        <translation>Erreur d&apos;accès au chemin ou au fichier</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Accès refusé</translation>
     </message>
 </context>
 <context>
@@ -639,6 +1033,55 @@
     <message>
         <source>Line</source>
         <translation>Ligne</translation>
+    </message>
+</context>
+<context>
+    <name>RowTexts</name>
+    <message>
+        <source>the time of a row is no time</source>
+        <translation>l&apos;heure d&apos;une ligne n&apos;est pas une heure</translation>
+    </message>
+    <message>
+        <source>the day of a row is no day</source>
+        <translation>le jour d&apos;une ligne n&apos;est pas un jour</translation>
+    </message>
+    <message>
+        <source>a row has no file</source>
+        <translation>une ligne n&apos;a pas de fichier</translation>
+    </message>
+    <message>
+        <source>a row has no line</source>
+        <translation>une ligne n&apos;a pas de numéro</translation>
+    </message>
+    <message>
+        <source>a row has no hash</source>
+        <translation>une ligne n&apos;a pas d&apos;empreinte</translation>
+    </message>
+</context>
+<context>
+    <name>SavedFilters</name>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be the name of a filter</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être le nom d&apos;un filtre</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: %2</source>
+        <translation>%1 ne peut pas être écrit&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>%1 ne peut pas être lu&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>%1 is no filter</source>
+        <translation>%1 n&apos;est pas un filtre</translation>
+    </message>
+</context>
+<context>
+    <name>TimeText</name>
+    <message>
+        <source>%1 d </source>
+        <translation>%1 j </translation>
     </message>
 </context>
 <context>
@@ -1272,6 +1715,10 @@ Déposez ici des journaux, des bases de données de traces ou des fichiers CAB, 
     <message>
         <source>%1 of %2 selected rows copied; an export has all that are on show</source>
         <translation>%1 lignes copiées sur %2 sélectionnées ; un export contient toutes les lignes affichées</translation>
+    </message>
+    <message>
+        <source>The manual is not beside the viewer. Install it again to read it.</source>
+        <translation>Le manuel n&apos;est pas à côté de la visionneuse. Réinstallez-la pour le lire.</translation>
     </message>
 </context>
 <context>

@@ -547,6 +547,114 @@
         <source>Tell the version</source>
         <translation>バージョンを表示します</translation>
     </message>
+    <message>
+        <source>&amp;Help Topics</source>
+        <translation>ヘルプ トピック(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Open the manual at the page of the viewer</source>
+        <translation>マニュアルのビューアーのページを開きます</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>キー一覧(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Show every key of the viewer</source>
+        <translation>ビューアーのすべてのキーを表示します</translation>
+    </message>
+</context>
+<context>
+    <name>FilterTexts</name>
+    <message>
+        <source>&quot;%1&quot; of a filter is of another kind</source>
+        <translation>フィルターの「%1」は種類が違います</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;%1&quot; to filter by</source>
+        <translation>「%1」という列はなく、フィルターに使えません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of a filter is no time</source>
+        <translation>フィルターの「%1」は時刻ではありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no regular expression: %2</source>
+        <translation>「%1」は正規表現ではありません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Help - Orvan Diagnostic Tool</source>
+        <translation>ヘルプ - Orvan 診断ツール</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>マニュアル</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>進む</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>目次</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>KeyList</name>
+    <message>
+        <source>Keys</source>
+        <translation>キー一覧</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>動作</translation>
+    </message>
+</context>
+<context>
+    <name>NoteTexts</name>
+    <message>
+        <source>a note is no object</source>
+        <translation>オブジェクトでないメモがあります</translation>
+    </message>
+    <message>
+        <source>a note has no bookmark or text</source>
+        <translation>ブックマークか文章のないメモがあります</translation>
+    </message>
+    <message>
+        <source>it is none of notes</source>
+        <translation>メモのファイルではありません</translation>
+    </message>
+    <message>
+        <source>it has no version</source>
+        <translation>バージョンがありません</translation>
+    </message>
+    <message>
+        <source>it has no notes</source>
+        <translation>メモがありません</translation>
+    </message>
 </context>
 <context>
     <name>NotesFile</name>
@@ -582,12 +690,298 @@
         <source>The notes in %1 stay there, though those beside the log go on: %2</source>
         <translation>%1 のメモはそのまま残し、今後はログの隣のメモを使います: %2</translation>
     </message>
+    <message>
+        <source>a newer viewer has written there</source>
+        <translation>より新しいビューアーが書き込んでいます</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>読み取れません</translation>
+    </message>
+    <message>
+        <source>%1 does not say what was written to it</source>
+        <translation>%1 の内容が書き込んだものと一致しません</translation>
+    </message>
 </context>
 <context>
     <name>NoticeBar</name>
     <message>
         <source>Close this notice</source>
         <translation>この通知を閉じます</translation>
+    </message>
+</context>
+<context>
+    <name>PaneKeys</name>
+    <message>
+        <source>In the rows</source>
+        <translation>行の表で</translation>
+    </message>
+    <message>
+        <source>First and last row</source>
+        <translation>先頭の行と末尾の行</translation>
+    </message>
+    <message>
+        <source>Home, End</source>
+        <translation>Home、End</translation>
+    </message>
+    <message>
+        <source>End stays at the end of logs that are followed</source>
+        <translation>End で追従中のログの末尾に留まります</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>Shift+Up, Shift+Down</source>
+        <translation>Shift+↑、Shift+↓</translation>
+    </message>
+    <message>
+        <source>Selects rows from the current one on</source>
+        <translation>現在の行から行を選択します</translation>
+    </message>
+    <message>
+        <source>Sideways</source>
+        <translation>左右へ</translation>
+    </message>
+    <message>
+        <source>Left, Right</source>
+        <translation>←、→</translation>
+    </message>
+    <message>
+        <source>Shows the rest of long rows</source>
+        <translation>長い行の続きを表示します</translation>
+    </message>
+    <message>
+        <source>Menu of the row</source>
+        <translation>行のメニュー</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>What can be done with the current row</source>
+        <translation>現在の行に対してできること</translation>
+    </message>
+    <message>
+        <source>In the values</source>
+        <translation>値の一覧で</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>チェック</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Space</translation>
+    </message>
+    <message>
+        <source>Shows or hides the rows of the value</source>
+        <translation>この値の行を表示または非表示にします</translation>
+    </message>
+    <message>
+        <source>Only This</source>
+        <translation>この値のみ</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Shows the rows of the value alone, or all again</source>
+        <translation>この値の行だけを表示するか、すべてに戻します</translation>
+    </message>
+    <message>
+        <source>Open or close a group</source>
+        <translation>グループを開閉</translation>
+    </message>
+    <message>
+        <source>Right, Left</source>
+        <translation>→、←</translation>
+    </message>
+    <message>
+        <source>Such as all components</source>
+        <translation>例: すべてのコンポーネント</translation>
+    </message>
+    <message>
+        <source>In the bars of find and filter</source>
+        <translation>検索とフィルターのバーで</translation>
+    </message>
+    <message>
+        <source>Next and previous hit</source>
+        <translation>次と前の一致</translation>
+    </message>
+    <message>
+        <source>Enter, Shift+Enter</source>
+        <translation>Enter、Shift+Enter</translation>
+    </message>
+    <message>
+        <source>In the text to find</source>
+        <translation>検索する文字列の欄で</translation>
+    </message>
+    <message>
+        <source>Close find</source>
+        <translation>検索を閉じる</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Ends the marks of the text, but for those kept</source>
+        <translation>保持したもの以外の文字列の強調を終えます</translation>
+    </message>
+    <message>
+        <source>Back to the rows</source>
+        <translation>行へ戻る</translation>
+    </message>
+    <message>
+        <source>Enter, Esc</source>
+        <translation>Enter、Esc</translation>
+    </message>
+    <message>
+        <source>In the texts of the filter</source>
+        <translation>フィルターの文字列の欄で</translation>
+    </message>
+    <message>
+        <source>In the lanes of a call</source>
+        <translation>呼のレーンで</translation>
+    </message>
+    <message>
+        <source>Line before and after</source>
+        <translation>前と次の行</translation>
+    </message>
+    <message>
+        <source>In all lanes, by time</source>
+        <translation>全レーンで時刻順に</translation>
+    </message>
+    <message>
+        <source>Within the lane</source>
+        <translation>レーンの中</translation>
+    </message>
+    <message>
+        <source>Ctrl+Left, Ctrl+Right</source>
+        <translation>Ctrl+←、Ctrl+→</translation>
+    </message>
+    <message>
+        <source>The line before and after of the same process</source>
+        <translation>同じプロセスの前と次の行</translation>
+    </message>
+    <message>
+        <source>Other lane</source>
+        <translation>別のレーン</translation>
+    </message>
+    <message>
+        <source>Up, Down</source>
+        <translation>↑、↓</translation>
+    </message>
+    <message>
+        <source>The line of another process that is nearest</source>
+        <translation>別のプロセスの最も近い行</translation>
+    </message>
+    <message>
+        <source>First and last line</source>
+        <translation>最初と最後の行</translation>
+    </message>
+    <message>
+        <source>Of the call; with Ctrl of the lane</source>
+        <translation>呼の両端。Ctrl を付けるとレーンの両端</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>拡大・縮小</translation>
+    </message>
+    <message>
+        <source>Plus, Minus, 0</source>
+        <translation>+、-、0</translation>
+    </message>
+    <message>
+        <source>0 shows the whole call</source>
+        <translation>0 で呼全体を表示します</translation>
+    </message>
+    <message>
+        <source>Go to the row</source>
+        <translation>行へ移動</translation>
+    </message>
+    <message>
+        <source>Shows the line among all rows</source>
+        <translation>その行を表の中で表示します</translation>
+    </message>
+    <message>
+        <source>The lanes stay open</source>
+        <translation>レーンは開いたままです</translation>
+    </message>
+    <message>
+        <source>In the lists of calls and bookmarks</source>
+        <translation>呼とブックマークの一覧で</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Shows the lanes of the call, or the row of the mark</source>
+        <translation>呼のレーン、または印の行を表示します</translation>
+    </message>
+    <message>
+        <source>Remove a mark</source>
+        <translation>印を削除</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>In the list of bookmarks and notes</source>
+        <translation>ブックマークとメモの一覧で</translation>
+    </message>
+    <message>
+        <source>In the list of calls; it stays open</source>
+        <translation>呼の一覧で。一覧は開いたままです</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>Device I/O error</source>
+        <translation>デバイスの入出力エラー</translation>
+    </message>
+    <message>
+        <source>Disk full</source>
+        <translation>ディスクがいっぱいです</translation>
+    </message>
+    <message>
+        <source>File already exists</source>
+        <translation>ファイルは既に存在します</translation>
+    </message>
+    <message>
+        <source>File not found</source>
+        <translation>ファイルが見つかりません</translation>
+    </message>
+    <message>
+        <source>Input past end of file</source>
+        <translation>ファイルの終わりを越えた読み取り</translation>
+    </message>
+    <message>
+        <source>Out of memory</source>
+        <translation>メモリが足りません</translation>
+    </message>
+    <message>
+        <source>Out of string space</source>
+        <translation>文字列領域が足りません</translation>
+    </message>
+    <message>
+        <source>Path not found</source>
+        <translation>パスが見つかりません</translation>
+    </message>
+    <message>
+        <source>Path/File access error</source>
+        <translation>パスまたはファイルにアクセスできません</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>アクセスが拒否されました</translation>
     </message>
 </context>
 <context>
@@ -639,6 +1033,55 @@
     <message>
         <source>Line</source>
         <translation>行</translation>
+    </message>
+</context>
+<context>
+    <name>RowTexts</name>
+    <message>
+        <source>the time of a row is no time</source>
+        <translation>行の時刻が時刻ではありません</translation>
+    </message>
+    <message>
+        <source>the day of a row is no day</source>
+        <translation>行の日付が日付ではありません</translation>
+    </message>
+    <message>
+        <source>a row has no file</source>
+        <translation>ファイルのない行があります</translation>
+    </message>
+    <message>
+        <source>a row has no line</source>
+        <translation>行番号のない行があります</translation>
+    </message>
+    <message>
+        <source>a row has no hash</source>
+        <translation>ハッシュのない行があります</translation>
+    </message>
+</context>
+<context>
+    <name>SavedFilters</name>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be the name of a filter</source>
+        <translation>「%1」はフィルターの名前にできません</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: %2</source>
+        <translation>%1 を書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2</source>
+        <translation>%1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>%1 is no filter</source>
+        <translation>%1 はフィルターではありません</translation>
+    </message>
+</context>
+<context>
+    <name>TimeText</name>
+    <message>
+        <source>%1 d </source>
+        <translation>%1 日 </translation>
     </message>
 </context>
 <context>
@@ -1272,6 +1715,10 @@ Drop logs, trace databases or cabinets here, or open them with Ctrl+O.</source>
     <message>
         <source>%1 of %2 selected rows copied; an export has all that are on show</source>
         <translation>選択した %2 行のうち %1 行をコピーしました。表示中のすべての行はエクスポートで保存できます</translation>
+    </message>
+    <message>
+        <source>The manual is not beside the viewer. Install it again to read it.</source>
+        <translation>マニュアルがビューアーと同じ場所にありません。読むには再インストールしてください。</translation>
     </message>
 </context>
 <context>

@@ -203,8 +203,12 @@ const std::vector<CommandInfo>& Commands::all()
          QT_TR_NOOP("Show all texts of the window in this language"), "Ctrl+Alt+5", "", false,
          true},
 
+        {C::help, M::help, QT_TR_NOOP("&Help Topics"),
+         QT_TR_NOOP("Open the manual at the page of the viewer"), "F1", "help", false, false},
+        {C::keys, M::help, QT_TR_NOOP("&Keys"), QT_TR_NOOP("Show every key of the viewer"),
+         "Shift+F1", "", false, false},
         {C::about, M::help, QT_TR_NOOP("&About..."), QT_TR_NOOP("Tell the version"), "Ctrl+F1", "",
-         false, false},
+         true, false},
     };
     return infos;
 }

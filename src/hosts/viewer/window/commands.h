@@ -76,6 +76,8 @@ enum class Command {
     spanish,
     french,
     japanese,
+    help,
+    keys,
     about,
 };
 

@@ -3,6 +3,7 @@
 #include "hosts/common/look/elided_label.h"
 #include "hosts/common/look/interface_language.h"
 #include "hosts/common/look/plain_tool_tip.h"
+#include "hosts/viewer/table/row_column.h"
 #include "hosts/viewer/table/time_text.h"
 #include "runtime/run_time_error.h"
 
@@ -43,6 +44,30 @@ struct FieldTexts {
         }
     }
 };
+
+/// The column of the table that shows what is filtered by.
+RowColumn columnOf(timeline::Column column)
+{
+    switch (column) {
+    case timeline::Column::process:
+        return RowColumn::process;
+    case timeline::Column::source:
+        return RowColumn::source;
+    case timeline::Column::component:
+        return RowColumn::component;
+    case timeline::Column::level:
+        return RowColumn::level;
+    case timeline::Column::thread:
+        return RowColumn::thread;
+    case timeline::Column::port:
+        return RowColumn::port;
+    case timeline::Column::callId:
+        return RowColumn::callId;
+    case timeline::Column::traceNumber:
+        break;
+    }
+    return RowColumn::number;
+}
 
 } // namespace
 
@@ -113,7 +138,7 @@ QString FilterBar::summary() const
         QStringList values;
         for (const std::string& value : choice.values)
             values << harmless(QString::fromStdString(value));
-        const QString column = QString::fromStdString(std::string(nameOf(choice.column)));
+        const QString column = RowColumns::title(columnOf(choice.column));
         parts << (choice.excluded ? tr("%1 is not %2") : tr("%1 is %2"))
                      .arg(column, values.isEmpty() ? tr("nothing") : values.join(tr(" or ")));
     }

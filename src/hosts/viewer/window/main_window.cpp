@@ -1,6 +1,7 @@
 #include "hosts/viewer/window/main_window.h"
 
 #include "hosts/common/look/elided_label.h"
+#include "hosts/common/look/help_window.h"
 #include "hosts/common/look/interface_language.h"
 #include "hosts/common/look/notice_bar.h"
 #include "hosts/common/look/screen_room.h"

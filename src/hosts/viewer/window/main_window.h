@@ -17,6 +17,7 @@
 #include <optional>
 
 class ElidedLabel;
+class HelpWindow;
 class Highlights;
 class NoticeBar;
 class QLabel;
@@ -65,6 +66,9 @@ public:
     MarkList& markList() { return *markList_; }
     CallTabs& callTabs() { return *callTabs_; }
     SessionKeeper& session() { return *session_; }
+
+    /// The folder of the manual, which help opens; without it help says that there is none.
+    void setManual(const QString& folder);
 
     /// The notice on show; the empty text for none.
     QString notice() const;
@@ -156,11 +160,15 @@ private:
     void offerRowMenu(const QPoint& at);
     void setTextSize(int step);
     void setTheme(const char* name);
+    void performHelp(Command command);
+    void showHelp();
     void showAbout();
 
     QSettings& settings_;
     InterfaceLanguage language_;
     QString dataFolder_;
+    QString manual_;
+    std::unique_ptr<HelpWindow> help_;
     Document document_;
     std::unique_ptr<Marks> marks_;
     std::unique_ptr<StripMarks> stripMarks_;

@@ -24,7 +24,6 @@
 #include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QProgressBar>
 #include <QSettings>
 #include <QStatusBar>
@@ -158,8 +157,10 @@ void MainWindow::perform(Command command)
         return setTheme("light");
     case Command::darkTheme:
         return setTheme("dark");
+    case Command::help:
+    case Command::keys:
     case Command::about:
-        return showAbout();
+        return performHelp(command);
     case Command::values:
         facets_->setVisible(facets_->isHidden());
         return updateActions();
@@ -473,13 +474,6 @@ void MainWindow::setTheme(const char* name)
     settings_.setValue(QStringLiteral("window/theme"), QString::fromLatin1(name));
     theme::apply(theme::schemeOf(QString::fromLatin1(name)));
     updateActions();
-}
-
-void MainWindow::showAbout()
-{
-    QMessageBox::about(this, tr("About"),
-                       QStringLiteral("Orvan Diagnostic Viewer\n%1 %2")
-                           .arg(tr("Version"), QCoreApplication::applicationVersion()));
 }
 
 } // namespace viewer

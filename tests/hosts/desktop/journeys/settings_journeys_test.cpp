@@ -1,8 +1,8 @@
+#include "hosts/common/look/help_window.h"
 #include "hosts/desktop/sheets/sheet_dialog.h"
 #include "hosts/desktop/support/open_program.h"
 #include "hosts/desktop/support/outside_view.h"
 #include "hosts/desktop/support/person.h"
-#include "hosts/desktop/window/help_window.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

@@ -1,12 +1,13 @@
 #include "hosts/common/look/interface_language.h"
 
+#include "hosts/common/look/key_list.h"
 #include "hosts/desktop/log/filter_bar.h"
 #include "hosts/desktop/log/find_bar.h"
 #include "hosts/desktop/log/list_table.h"
 #include "hosts/desktop/log/log_view.h"
 #include "hosts/desktop/support/test_window.h"
 #include "hosts/desktop/translations/translation_file.h"
-#include "hosts/desktop/window/key_list.h"
+#include "hosts/desktop/window/pane_keys.h"
 #include "hosts/desktop/window/task_pad_view.h"
 
 #include <QAbstractButton>
@@ -182,7 +183,7 @@ TEST(InterfaceLanguage, TheListOfKeysAndItsButtonSpeakTheLanguage)
 {
     TestWindow shown;
     shown.chooseLanguage(1031);
-    KeyList keys(*shown.window);
+    KeyList keys(*shown.window, PaneKeys::groups());
     EXPECT_EQ(QStringLiteral("Tasten"), keys.windowTitle());
     const auto* list = keys.findChild<QTreeWidget*>();
     EXPECT_EQ(QStringLiteral("Befehl"), list->headerItem()->text(0));

@@ -1,14 +1,15 @@
 #include "hosts/desktop/support/window_tour.h"
 
 #include "console/console.h"
+#include "hosts/common/look/help_window.h"
+#include "hosts/common/look/key_list.h"
 #include "hosts/desktop/log/filter_button.h"
 #include "hosts/desktop/log/list_table.h"
 #include "hosts/desktop/log/log_view.h"
 #include "hosts/desktop/sheets/sheet_dialog.h"
 #include "hosts/desktop/support/sheet_walk.h"
 #include "hosts/desktop/window/about_dialog.h"
-#include "hosts/desktop/window/help_window.h"
-#include "hosts/desktop/window/key_list.h"
+#include "hosts/desktop/window/pane_keys.h"
 #include "settings/about_box.h"
 #include "support/places.h"
 
@@ -166,7 +167,7 @@ void tourBoxes(TestWindow& shown, const Visit& visit)
     visit("about", about);
     about.reject();
 
-    KeyList keys(*shown.window, shown.window.get());
+    KeyList keys(*shown.window, PaneKeys::groups(), shown.window.get());
     keys.show();
     settle();
     visit("keys", keys);

@@ -1,4 +1,4 @@
-#include "hosts/desktop/sheets/mnemonics.h"
+#include "hosts/common/look/mnemonics.h"
 #include "hosts/desktop/translations/translation_file.h"
 
 #include <QRegularExpression>

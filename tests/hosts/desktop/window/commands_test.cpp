@@ -1,4 +1,6 @@
 #include "hosts/common/filters/saved_filters.h"
+#include "hosts/common/look/help_window.h"
+#include "hosts/common/look/key_list.h"
 #include "hosts/common/look/theme.h"
 #include "hosts/desktop/log/filter_bar.h"
 #include "hosts/desktop/log/find_bar.h"
@@ -7,8 +9,6 @@
 #include "hosts/desktop/support/open_program.h"
 #include "hosts/desktop/support/person.h"
 #include "hosts/desktop/window/about_dialog.h"
-#include "hosts/desktop/window/help_window.h"
-#include "hosts/desktop/window/key_list.h"
 
 #include <QAction>
 #include <QClipboard>

@@ -158,7 +158,7 @@ TEST_F(ViewerWindow, AValueIsHiddenAndShownByItsBox)
     a->setCheckState(0, Qt::Unchecked);
     ASSERT_TRUE(waitForRows(window.document()));
     EXPECT_EQ(1, window.model().rowCount());
-    EXPECT_TRUE(window.filterBar().said().contains("component is not A"));
+    EXPECT_TRUE(window.filterBar().said().contains("Component is not A"));
     window.run(Command::showAll);
     ASSERT_TRUE(waitForRows(window.document()));
     EXPECT_EQ(3, window.model().rowCount());

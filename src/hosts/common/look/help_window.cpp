@@ -1,4 +1,4 @@
-#include "hosts/desktop/window/help_window.h"
+#include "hosts/common/look/help_window.h"
 
 #include "hosts/common/look/icons.h"
 #include "hosts/common/look/interface_language.h"
@@ -9,8 +9,6 @@
 #include <QFileInfo>
 #include <QTextBrowser>
 #include <QToolBar>
-
-namespace desktop {
 
 namespace {
 
@@ -97,5 +95,3 @@ QString HelpWindow::shownPage() const
 {
     return pages_->source().fileName();
 }
-
-} // namespace desktop

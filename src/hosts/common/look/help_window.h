@@ -4,8 +4,6 @@
 
 class QTextBrowser;
 
-namespace desktop {
-
 /// The manual: pages of a folder, with a list of them to find one's way.
 class HelpWindow final : public QMainWindow {
     Q_OBJECT
@@ -23,5 +21,3 @@ public:
 private:
     QTextBrowser* pages_ = nullptr;
 };
-
-} // namespace desktop

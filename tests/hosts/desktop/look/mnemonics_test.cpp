@@ -1,4 +1,4 @@
-#include "hosts/desktop/sheets/mnemonics.h"
+#include "hosts/common/look/mnemonics.h"
 
 #include <gtest/gtest.h>
 

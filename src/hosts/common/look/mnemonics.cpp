@@ -1,10 +1,8 @@
-#include "hosts/desktop/sheets/mnemonics.h"
+#include "hosts/common/look/mnemonics.h"
 
 #include <QSet>
 
 #include <algorithm>
-
-namespace desktop {
 
 namespace {
 
@@ -104,5 +102,3 @@ QString withoutMnemonic(QString caption)
         unmark(caption, letter);
     return caption.replace(QLatin1String("&&"), QLatin1String("&"));
 }
-
-} // namespace desktop
