@@ -6,6 +6,7 @@
 #include "hosts/viewer/table/time_text.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 namespace viewer {
@@ -29,10 +30,33 @@ CallListModel::CallListModel(QObject* parent)
 
 void CallListModel::show(std::shared_ptr<const CallList> list)
 {
+    if (list_ && list && isGrownTo(*list)) return grow(std::move(list));
     beginResetModel();
     list_ = std::move(list);
     order();
     endResetModel();
+}
+
+/// Whether a list has the calls of this one, and others behind them at most.
+bool CallListModel::isGrownTo(const CallList& list) const
+{
+    return list.calls.size() >= list_->calls.size() &&
+           std::equal(list_->calls.begin(), list_->calls.end(), list.calls.begin(),
+                      [](const Call& one, const Call& other) { return one.id == other.id; });
+}
+
+/// Views keep their place and what is selected.
+void CallListModel::grow(std::shared_ptr<const CallList> list)
+{
+    const std::size_t before = rows_.size();
+    const std::size_t after = list->calls.size();
+    if (after > before) beginInsertRows({}, static_cast<int>(before), static_cast<int>(after) - 1);
+    list_ = std::move(list);
+    rows_.resize(after);
+    std::iota(rows_.begin() + static_cast<std::ptrdiff_t>(before), rows_.end(),
+              static_cast<std::uint32_t>(before));
+    if (after > before) endInsertRows();
+    sort(static_cast<int>(column_), order_);
 }
 
 void CallListModel::order()

@@ -19,7 +19,8 @@ class CallListModel final : public QAbstractTableModel {
 public:
     explicit CallListModel(QObject* parent = nullptr);
 
-    /// Shows another list, in the order of before; null for none.
+    /// Shows another list, in the order of before; null for none. One that has the calls of before
+    /// and others behind them comes without a reset.
     void show(std::shared_ptr<const CallList> list);
 
     /// The call of a row, and the row of a call; -1 for one that is not listed.
@@ -41,6 +42,8 @@ public:
     void renewHeaders();
 
 private:
+    bool isGrownTo(const CallList& list) const;
+    void grow(std::shared_ptr<const CallList> list);
     void order();
 
     std::shared_ptr<const CallList> list_;

@@ -81,7 +81,8 @@ void CallListPane::showCalls()
         const std::string id = current.isValid() ? model_->call(current.row()).id : std::string();
         model_->show(calls_.list());
         const int row = id.empty() ? -1 : model_->rowOf(id);
-        if (model_->rowCount() > 0) list_->setCurrentIndex(model_->index(std::max(0, row), 0));
+        if (model_->rowCount() > 0 && !list_->currentIndex().isValid())
+            list_->setCurrentIndex(model_->index(std::max(0, row), 0));
     }
     showState();
 }

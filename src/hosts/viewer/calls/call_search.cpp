@@ -22,14 +22,37 @@ constexpr std::uint16_t mostLanes = std::numeric_limits<std::uint16_t>::max();
 
 CallSearch::CallSearch(const Timeline& timeline, std::shared_ptr<const RowOrder> order,
                        std::string id, timeline::Moment around)
-    : order_(std::move(order)), id_(std::move(id)), hasCalls_(sourcesWithCalls(timeline)),
-      begin_(order_->firstFrom(timeline, around)), end_(begin_),
-      down_(order_->from(timeline, begin_))
-{}
+    : order_(std::move(order)), id_(std::move(id)), around_(around)
+{
+    beginAnew(timeline);
+}
+
+void CallSearch::beginAnew(const Timeline& timeline)
+{
+    hasCalls_ = sourcesWithCalls(timeline);
+    begin_ = end_ = order_->firstFrom(timeline, around_);
+    down_ = order_->from(timeline, begin_);
+    before_.clear();
+    behind_.clear();
+}
+
+void CallSearch::growTo(const Timeline& timeline, std::shared_ptr<const RowOrder> order,
+                        std::size_t same)
+{
+    order_ = std::move(order);
+    if (same < begin_) return beginAnew(timeline);
+    hasCalls_ = sourcesWithCalls(timeline);
+    // Rows of other numbers are looked at again: those that came stand among them.
+    const auto isSame = [same](const Found& found) { return found.number < same; };
+    before_.erase(before_.begin(), std::find_if(before_.begin(), before_.end(), isSame));
+    behind_.erase(std::find_if_not(behind_.begin(), behind_.end(), isSame), behind_.end());
+    end_ = std::min(end_, same);
+    down_ = order_->from(timeline, end_);
+}
 
 bool CallSearch::isDone() const
 {
-    return (begin_ == 0 && end_ == order_->size()) || before_.size() + behind_.size() >= mostRows;
+    return (begin_ == 0 && end_ == order_->size()) || count() >= mostRows;
 }
 
 bool CallSearch::goOn(const Timeline& timeline, std::chrono::steady_clock::time_point until)
@@ -46,7 +69,7 @@ void CallSearch::lookDown(const Timeline& timeline)
 {
     const std::size_t end = std::min(end_ + rowsInTurn, order_->size());
     for (; end_ < end; ++end_)
-        if (const auto found = look(timeline, *down_.next())) behind_.push_back(*found);
+        if (const auto found = look(timeline, *down_->next())) behind_.push_back({*found, end_});
 }
 
 /// Rows are walked downwards in either direction.
@@ -56,7 +79,7 @@ void CallSearch::lookUp(const Timeline& timeline)
     RowOrder::Walk walk = order_->from(timeline, first);
     block_.clear();
     for (std::size_t row = first; row < begin_; ++row)
-        if (const auto found = look(timeline, *walk.next())) block_.push_back(*found);
+        if (const auto found = look(timeline, *walk.next())) block_.push_back({*found, row});
     before_.insert(before_.end(), block_.rbegin(), block_.rend());
     begin_ = first;
 }
@@ -86,9 +109,9 @@ CallRows CallSearch::rows() const
 {
     CallRows found;
     found.id = id_;
-    found.rows.reserve(before_.size() + behind_.size());
-    found.rows.assign(before_.rbegin(), before_.rend());
-    found.rows.insert(found.rows.end(), behind_.begin(), behind_.end());
+    found.rows.reserve(count());
+    for (auto at = before_.rbegin(); at != before_.rend(); ++at) found.rows.push_back(at->row);
+    for (const Found& each : behind_) found.rows.push_back(each.row);
     // A lane's number is that of its process among those whose rows were found, until all are put
     // in order.
     constexpr std::size_t unknown = std::numeric_limits<std::size_t>::max();

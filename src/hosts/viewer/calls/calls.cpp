@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace viewer {
@@ -15,6 +16,13 @@ namespace viewer {
 namespace {
 
 constexpr std::size_t mostLines = 1000; ///< of a row, that are shown or walked back over
+
+/// Between two lists or lanes of a log that grows: often enough to be followed, and seldom enough
+/// for a person to read them, and for sorting the longest of lists.
+constexpr int betweenGrowths = 400; ///< milliseconds
+
+/// More than there can be.
+constexpr std::size_t allSame = std::numeric_limits<std::size_t>::max();
 
 } // namespace
 
@@ -25,6 +33,10 @@ Calls::Calls(Document& document, QObject* parent)
       finder_([this](const RowsWish& wish, const GivenUp& givenUp) { answer(wish, givenUp); })
 {
     connect(&document_, &Document::viewChanged, this, &Calls::followView);
+    connect(&document_, &Document::rowsCame, this, &Calls::followGrowth);
+    growing_.setSingleShot(true);
+    growing_.setInterval(betweenGrowths);
+    connect(&growing_, &QTimer::timeout, this, &Calls::grow);
 }
 
 Calls::~Calls() = default;
@@ -38,10 +50,13 @@ void Calls::keepList(bool kept)
         return;
     }
     if (kept) return makeList();
+    listWork_ = Work::none;
+    if (!listInWork_) return;
     // What was begun is of no use once the rows on show are others.
     lister_.giveUp();
     ++listWish_;
-    listWork_ = Work::none;
+    listInWork_ = false;
+    listed_.reset();
 }
 
 void Calls::look(const std::string& id, timeline::Moment around)
@@ -49,6 +64,8 @@ void Calls::look(const std::string& id, timeline::Moment around)
     looked_.id = id;
     looked_.around = around;
     rows_.reset();
+    searched_.reset();
+    rowsSame_.reset();
     makeRows();
 }
 
@@ -56,21 +73,60 @@ void Calls::look(const std::string& id, timeline::Moment around)
 /// these may come again and again, what is being made is made to its end before it begins anew.
 void Calls::followView()
 {
+    if (document_.view().grownFrom) return followGrowth();
     const auto& order = document_.view().order;
     const bool grows = listed_ && listed_->order != order;
+    listSame_.reset();
+    counted_.reset();
+    // Rows that are no more must not be kept for a list that nobody sees.
+    if (!listKept_) listed_.reset();
     if (listKept_ && !(grows && listWork_ == Work::running)) makeList();
-    if (!looked_.id.empty() && looked_.order != order && rowsWork_ != Work::running) makeRows();
+    if (looked_.id.empty() || looked_.order == order) return;
+    rowsSame_.reset();
+    searched_.reset();
+    if (rowsWork_ != Work::running) makeRows();
+}
+
+/// Notes what of the rows is as it was, and lets list and lanes grow soon.
+void Calls::followGrowth()
+{
+    const View& view = document_.view();
+    if (listSame_) listSame_ = std::min(*listSame_, *view.grownFrom);
+    if (rowsSame_) rowsSame_ = std::min(*rowsSame_, view.order->growth().same);
+    if (!listKept_) {
+        counted_.reset();
+        listed_.reset();
+    }
+    if (!growing_.isActive()) growing_.start();
+}
+
+/// What was stopped stays as it is, and what is being made is made to its end first.
+void Calls::grow()
+{
+    if (listKept_ && listWork_ == Work::done && !listInWork_ && listed_ != document_.sharedView())
+        makeList();
+    if (rowsWork_ == Work::done && !rowsInWork_ && looked_.order != document_.view().order)
+        makeRows();
 }
 
 void Calls::makeList()
 {
     // A view that is still being made would be counted in vain.
     if (!document_.view().order || !document_.view().complete) return;
+    ListWish wish;
+    if (listSame_) wish.grows = std::move(counted_);
+    wish.same = listSame_.value_or(0);
+    counted_.reset();
     listGrows_ = listed_ && listed_->order != document_.view().order;
     listed_ = document_.sharedView();
-    listWish_ = ++wishes_;
+    listSame_ = allSame;
+    listInWork_ = true;
+    wish.number = listWish_ = ++wishes_;
+    wish.view = listed_;
+    const bool stands = wish.grows != nullptr;
+    lister_.wish(std::move(wish));
+    if (stands) return;
     listWork_ = Work::running;
-    lister_.wish({listWish_, listed_});
     emit listChanged();
 }
 
@@ -79,9 +135,17 @@ void Calls::makeRows()
     if (!document_.view().order) return;
     looked_.number = ++wishes_;
     looked_.order = document_.view().order;
+    RowsWish wish = looked_;
+    if (rowsSame_) wish.grows = std::move(searched_);
+    wish.same = rowsSame_.value_or(0);
+    searched_.reset();
+    rowsSame_ = allSame;
+    rowsInWork_ = true;
+    const bool stands = wish.grows != nullptr;
+    finder_.wish(std::move(wish));
+    if (stands) return;
     rowsWork_ = Work::running;
     rowsShare_ = 0;
-    finder_.wish(looked_);
     emit rowsChanged();
 }
 
@@ -90,12 +154,14 @@ void Calls::stop()
     if (listWork_ == Work::running) {
         lister_.giveUp();
         listWish_ = ++wishes_;
+        listInWork_ = false;
         listWork_ = Work::stopped;
         emit listChanged();
     }
     if (rowsWork_ == Work::running) {
         finder_.giveUp();
         looked_.number = ++wishes_;
+        rowsInWork_ = false;
         rowsWork_ = Work::stopped;
         emit rowsChanged();
     }
@@ -103,44 +169,75 @@ void Calls::stop()
 
 void Calls::answer(const ListWish& wish, const GivenUp& givenUp)
 {
-    std::unique_ptr<CallCounting> counting;
+    std::shared_ptr<CallCounting> counting = wish.grows;
     document_.timeline().work([&](const timeline::Timeline& rows) {
-        counting = std::make_unique<CallCounting>(rows, wish.view);
+        if (counting)
+            counting->growTo(rows, wish.view, wish.same);
+        else
+            counting = std::make_shared<CallCounting>(rows, wish.view);
     });
-    doInParts(document_.timeline(), *counting, givenUp, [&](bool) {
+    doInParts(document_.timeline(), *counting, givenUp, [&](bool done) {
+        // One that grows stands as it is until it is whole again, and where no row came.
+        std::optional<CallList> list;
+        if (!wish.grows || (done && counting->anyNew())) list = counting->list();
         QMetaObject::invokeMethod(
-            this, [this, wish, list = counting->list()]() mutable { take(wish, std::move(list)); },
+            this,
+            [this, wish, list = std::move(list), counted = done ? counting : nullptr]() mutable {
+                if (wish.number != listWish_) return;
+                if (list) take(std::move(*list));
+                if (counted) listDone(std::move(counted));
+            },
             Qt::QueuedConnection);
     });
 }
 
 void Calls::answer(const RowsWish& wish, const GivenUp& givenUp)
 {
-    std::unique_ptr<CallSearch> search;
+    std::shared_ptr<CallSearch> search = wish.grows;
+    const std::size_t before = search ? search->count() : 0;
     document_.timeline().work([&](const timeline::Timeline& rows) {
-        search = std::make_unique<CallSearch>(rows, wish.order, wish.id, wish.around);
+        if (search)
+            search->growTo(rows, wish.order, wish.same);
+        else
+            search = std::make_shared<CallSearch>(rows, wish.order, wish.id, wish.around);
     });
-    doInParts(document_.timeline(), *search, givenUp, [&](bool) {
+    doInParts(document_.timeline(), *search, givenUp, [&](bool done) {
+        std::optional<CallRows> found;
+        if (!wish.grows || (done && search->count() != before)) found = search->rows();
         QMetaObject::invokeMethod(
-            this, [this, wish, found = search->rows()]() mutable { take(wish, std::move(found)); },
+            this,
+            [this, wish, found = std::move(found), searched = done ? search : nullptr]() mutable {
+                if (wish.number != looked_.number) return;
+                if (found) take(std::move(*found));
+                if (searched) rowsDone(std::move(searched));
+            },
             Qt::QueuedConnection);
     });
 }
 
-void Calls::take(const ListWish& wish, CallList list)
+void Calls::take(CallList list)
 {
-    if (wish.number != listWish_) return;
     const bool complete = list.complete;
     if (complete) listWork_ = Work::done;
     if (complete || !list_ || !listGrows_ || list.calls.size() >= list_->calls.size())
         list_ = std::make_shared<const CallList>(std::move(list));
     emit listChanged();
-    if (complete && listKept_ && listed_ != document_.sharedView()) makeList();
 }
 
-void Calls::take(const RowsWish& wish, CallRows rows)
+/// Goes on with what came meanwhile.
+void Calls::listDone(std::shared_ptr<CallCounting> counted)
 {
-    if (wish.number != looked_.number) return;
+    listInWork_ = false;
+    counted_ = std::move(counted);
+    if (!listKept_ || listed_ == document_.sharedView()) return;
+    if (listSame_)
+        growing_.start();
+    else
+        makeList();
+}
+
+void Calls::take(CallRows rows)
+{
     const bool complete = rows.complete;
     rowsShare_ = rows.share;
     if (complete) rowsWork_ = Work::done;
@@ -148,7 +245,17 @@ void Calls::take(const RowsWish& wish, CallRows rows)
     if (complete || !rows_ || rows.rows.size() >= rows_->rows.size())
         rows_ = std::make_shared<const CallRows>(std::move(rows));
     emit rowsChanged();
-    if (complete && looked_.order != document_.view().order) makeRows();
+}
+
+void Calls::rowsDone(std::shared_ptr<CallSearch> searched)
+{
+    rowsInWork_ = false;
+    searched_ = std::move(searched);
+    if (looked_.order == document_.view().order) return;
+    if (rowsSame_)
+        growing_.start();
+    else
+        makeRows();
 }
 
 bool Calls::anySource() const

@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
 #include <memory>
 #include <optional>
@@ -14,8 +15,11 @@
 
 namespace viewer {
 
+class CallSearch;
+
 /// The calls of a document, for the thread of the windows: the list of those on show, and the rows
 /// of one. Both are made on threads of their own, and told by signals, the first parts at once.
+/// They grow with logs that are followed, some times a second, without being made anew.
 class Calls final : public QObject {
     Q_OBJECT
 
@@ -75,21 +79,29 @@ private:
     struct ListWish {
         std::uint64_t number = 0;
         std::shared_ptr<const View> view;
+        std::shared_ptr<CallCounting> grows; ///< what it goes on with; null to begin
+        std::size_t same = 0;                ///< places that are as they were there
     };
     struct RowsWish {
         std::uint64_t number = 0;
         std::shared_ptr<const RowOrder> order;
         std::string id;
         timeline::Moment around = timeline::noMoment;
+        std::shared_ptr<CallSearch> grows; ///< what it goes on with; null to begin
+        std::size_t same = 0;              ///< rows at the top that are as they were there
     };
 
     void followView();
+    void followGrowth();
+    void grow();
     void makeList();
     void makeRows();
     void answer(const ListWish& wish, const GivenUp& givenUp);
     void answer(const RowsWish& wish, const GivenUp& givenUp);
-    void take(const ListWish& wish, CallList list);
-    void take(const RowsWish& wish, CallRows rows);
+    void take(CallList list);
+    void take(CallRows rows);
+    void listDone(std::shared_ptr<CallCounting> counted);
+    void rowsDone(std::shared_ptr<CallSearch> searched);
 
     Document& document_;
     bool listKept_ = false;
@@ -97,10 +109,17 @@ private:
     std::shared_ptr<const CallList> list_;
     bool listGrows_ = false; ///< whether it is one of more rows than the one before
     Work listWork_ = Work::none;
-    RowsWish looked_; ///< for; its id is empty while nothing is
+    bool listInWork_ = false;
+    std::shared_ptr<CallCounting> counted_; ///< all rows of `listed_`; null before
+    std::optional<std::size_t> listSame_;   ///< places as in `listed_`; unset unless it grew
+    RowsWish looked_;                       ///< for; its id is empty while nothing is
     std::shared_ptr<const CallRows> rows_;
     Work rowsWork_ = Work::none;
+    bool rowsInWork_ = false;
+    std::shared_ptr<CallSearch> searched_; ///< all rows of the order; null before
+    std::optional<std::size_t> rowsSame_;  ///< rows as in that order; unset unless it grew
     double rowsShare_ = 0;
+    QTimer growing_; ///< runs from growing to growing
     std::uint64_t wishes_ = 0;
     std::uint64_t listWish_ = 0;
     WishThread<ListWish> lister_;
