@@ -44,6 +44,7 @@ constexpr QSize firstSize(1180, 720);
 const QString rowsKey = QStringLiteral("window/rows");
 const QString detailsKey = QStringLiteral("window/details");
 constexpr int firstPaneWidth = 210;
+constexpr int leastPaneCharacters = 22; ///< of a value and its count
 constexpr int firstDetailsHeight = 150;
 constexpr int progressSteps = 1000;
 
@@ -81,7 +82,11 @@ MainWindow::MainWindow(QSettings& settings, const QString& dataFolder, QWidget* 
     updateStatus();
 }
 
-MainWindow::~MainWindow() = default;
+/// Panes that are hidden tell the calls so, which go before their panes.
+MainWindow::~MainWindow()
+{
+    hide();
+}
 
 void MainWindow::makePanes()
 {
@@ -131,6 +136,7 @@ void MainWindow::makePanes()
     splitter_->setStretchFactor(1, 1);
     splitter_->setSizes({firstPaneWidth, firstSize.width() - firstPaneWidth});
     splitter_->restoreState(settings_.value(splitterKey).toByteArray());
+    facets_->setMinimumWidth(fontMetrics().averageCharWidth() * leastPaneCharacters);
     facets_->setVisible(settings_.value(valuesKey, true).toBool());
     pages_->addWidget(empty_);
     makeCalls();
