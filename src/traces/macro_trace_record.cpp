@@ -7,6 +7,7 @@
 #include "platform/tool_events.h"
 #include "runtime/dates.h"
 #include "runtime/numbers.h"
+#include "runtime/run_time_error.h"
 
 namespace {
 
@@ -71,4 +72,12 @@ std::int16_t mdlTraces::isenabledMacroTrace(ToolContext& tool, const std::string
     return step.value(0, [&] {
         return toInteger16(getRegistryNumber(tool, traceKey(groupName, traceName), "Enabled"));
     });
+}
+
+std::optional<Date> mdlTraces::macroTraceRecorded(ToolContext& tool, const std::string& groupName,
+                                                  const std::string& traceName)
+try {
+    return parseDate(getRegistryText(tool, traceKey(groupName, traceName), "Date"));
+} catch (const RunTimeError&) {
+    return {};
 }

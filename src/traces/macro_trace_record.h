@@ -1,6 +1,9 @@
 #pragma once
 
+#include "runtime/dates.h"
+
 #include <cstdint>
+#include <optional>
 #include <string>
 
 struct ToolContext;
@@ -17,5 +20,9 @@ void recordMacroTrace(ToolContext& tool, const std::string& groupName, const std
 /// off. Raises nothing: one past 16 bits is logged and gives 0.
 std::int16_t isenabledMacroTrace(ToolContext& tool, const std::string& groupName,
                                  const std::string& traceName);
+
+/// When the record was written last; nothing where that does not stand there. Raises nothing.
+std::optional<Date> macroTraceRecorded(ToolContext& tool, const std::string& groupName,
+                                       const std::string& traceName);
 
 } // namespace mdlTraces

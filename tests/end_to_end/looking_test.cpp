@@ -48,6 +48,7 @@ struct Looking : SampleSite {
         return {{"status"},
                 {"tree"},
                 {"logs", "KoCSMgr"},
+                {"logs", "--all", "--since", "2025-01-01"},
                 {"read", currentLog()},
                 {"flags"},
                 {"flags", "CallFlow"},

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <thread>
 
 namespace {
 
@@ -46,6 +47,42 @@ TEST_F(StatusCommand, ALogFolderThatIsNotThereIsToldWhereLogsAreListed)
     std::filesystem::create_directories(site / "drive_d/Gone");
     EXPECT_EQ("", run({"status"}).err);
     EXPECT_EQ("orvandiag: no log of KoCSMgr in D:\\Gone\n", run({"logs", "KoCSMgr"}).err);
+}
+
+TEST_F(StatusCommand, TellsWhichTracesAreOnAndSinceWhenAtLeast)
+{
+    ASSERT_EQ(0, run({"reset"}).status);
+    const std::string trace = "Call Flow - Transfers";
+    EXPECT_THAT(runJson({"status"}).json()["traces"]["macro"], testing::IsEmpty());
+    EXPECT_THAT(run({"status"}).out, HasSubstr("Macro traces on  none\nLevels added     none\n"));
+    ASSERT_EQ(0, run({"macro", "set", "--on", trace}).status);
+    const auto traces = runJson({"status"}).json()["traces"];
+    ASSERT_EQ(1u, traces["macro"].size());
+    EXPECT_EQ("Call Flow", traces["macro"][0]["group"]);
+    EXPECT_EQ("Transfers", traces["macro"][0]["trace"]);
+    const std::string since = traces["macro"][0]["onAtLeastSince"];
+    EXPECT_THAT(since, testing::MatchesRegex("20..-..-..T..:..:..-0[78]:00"));
+    EXPECT_THAT(traces["levels"], testing::Not(testing::IsEmpty()));
+    EXPECT_THAT(run({"status"}).out,
+                HasSubstr("Macro traces on  " + trace + ", at least since 20"));
+
+    // Recorded as on once more, it is on since the first time; the events tell.
+    std::this_thread::sleep_for(std::chrono::milliseconds(1100));
+    ASSERT_EQ(0, run({"macro", "set", "--on", trace}).status);
+    EXPECT_EQ(since, runJson({"status"}).json()["traces"]["macro"][0]["onAtLeastSince"]);
+    // Without events the record tells when it was on at the latest.
+    std::filesystem::remove(site / "eventlogs/Application.jsonl");
+    const std::string recorded = runJson({"status"}).json()["traces"]["macro"][0]["onAtLeastSince"];
+    EXPECT_GT(recorded, since);
+    ASSERT_EQ(0, run({"macro", "set", "--off", trace}).status);
+    EXPECT_THAT(runJson({"status"}).json()["traces"]["macro"], testing::IsEmpty());
+}
+
+TEST_F(StatusCommand, SaysNothingOfLevelsThatCantBeRead)
+{
+    std::filesystem::remove(site / "OrvanDirDb.sqlite");
+    EXPECT_TRUE(runJson({"status"}).json()["traces"]["levels"].is_null());
+    EXPECT_THAT(run({"status"}).out, testing::Not(HasSubstr("Levels added")));
 }
 
 TEST_F(StatusCommand, ACommandThatChangesSomethingLeavesItsMarksInTheEventLog)
@@ -91,6 +128,45 @@ TEST_F(LogsCommand, ListsTheFilesOfAProcessNewestFirst)
     EXPECT_GT(logs[0]["fileName"], logs[1]["fileName"]);
     EXPECT_EQ(std::filesystem::file_size(drive("KelmaOrvan/Logs/") / logs[0]["fileName"]),
               logs[0]["size"].get<std::uintmax_t>());
+}
+
+TEST_F(LogsCommand, ListsTheLogsOfAllProcessesWithTheirNames)
+{
+    const auto all = runJson({"logs", "--all"}).json();
+    std::map<std::string, std::size_t> logs;
+    for (const auto& log : all) ++logs[log["process"]];
+    EXPECT_EQ(5u, logs.size());
+    EXPECT_EQ(3u, logs["KoCSMgr"]);
+    EXPECT_THAT(run({"logs", "--all"}).out, StartsWith("Process"));
+    EXPECT_THAT(run({"logs", "KoCSMgr"}).out, testing::Not(HasSubstr("Process")));
+}
+
+TEST_F(LogsCommand, ListsThoseThatWereWrittenToSinceATime)
+{
+    namespace fs = std::filesystem;
+    const auto now = fs::file_time_type::clock::now();
+    for (const auto& log : fs::directory_iterator(drive("KelmaOrvan/Logs")))
+        fs::last_write_time(log.path(), now - std::chrono::hours(100));
+    const fs::path current = drive("KelmaOrvan/Logs/" + currentLog());
+    fs::last_write_time(current, now - std::chrono::hours(2));
+    const auto recent = runJson({"logs", "--all", "--since", "3 hours ago"}).json();
+    ASSERT_EQ(1u, recent.size());
+    EXPECT_EQ(current.filename().string(), recent[0]["fileName"]);
+    EXPECT_EQ(3u, runJson({"logs", "KoCSMgr", "--since", "5 days ago"}).json().size());
+    const Outcome none = run({"logs", "KoCSMgr", "--since", "1 hour ago"});
+    EXPECT_EQ(0, none.status);
+    EXPECT_EQ("", none.out);
+    EXPECT_THAT(none.err, HasSubstr("was written to since 1 hour ago"));
+}
+
+TEST_F(LogsCommand, RefusesATimeThatIsNoneAndAProcessBesideAll)
+{
+    for (const auto& words :
+         std::vector<std::vector<std::string>>{{"logs"},
+                                               {"logs", "KoCSMgr", "--all"},
+                                               {"logs", "--all", "--since", "someday"},
+                                               {"logs", "--all", "--since", ""}})
+        EXPECT_EQ(2, run(words).status) << testing::PrintToString(words);
 }
 
 struct CycleCommand : SampleSite {};

@@ -151,7 +151,10 @@ TEST(WrongUsage, NamesTheUnknownCommandAndTheHelpThatTellsMore)
         {{"--jsn"}, "no option \"--jsn\"; did you mean --json? (see orvandiag --help)"},
         {{"gather"},
          "name a command, such as standard, logs or frame (see orvandiag gather --help)"},
-        {{"logs"}, "PROCESS is required (see orvandiag logs --help)"},
+        {{"logs"}, "logs needs a PROCESS, or --all (see orvandiag logs --help)"},
+        {{"logs", "--all", "KoCSMgr"},
+         "logs takes a PROCESS or --all, not both (see orvandiag logs --help)"},
+        {{"diff", "a"}, "SITE_B is required (see orvandiag diff --help)"},
         {{"gather", "frame", "--from", "today"},
          "--from needs an end: add --to-time, such as --to-time now, or --hours (see orvandiag "
          "gather frame --help)"},

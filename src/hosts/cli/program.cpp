@@ -124,6 +124,7 @@ std::vector<std::unique_ptr<Command>> allCommands()
     commands.push_back(makeEventLanguageCommand());
     commands.push_back(makeLanguageCommand());
     commands.push_back(makeDoctorCommand());
+    commands.push_back(makeDiffCommand());
     commands.push_back(makeAboutCommand());
     commands.push_back(makeCompletionCommand());
     commands.push_back(makeHelpCommand());

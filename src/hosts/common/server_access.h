@@ -22,6 +22,12 @@ struct ReportedEvent {
     auto operator<=>(const ReportedEvent&) const = default;
 };
 
+/// An event of the server's event log, with the time that the server's clock showed.
+struct DatedEvent {
+    std::string time; ///< "2025-02-20 17:38:04"
+    ReportedEvent event;
+};
+
 /// A program's turn to change a server, kept until the last copy goes; null where there is none to
 /// take.
 using HeldTurn = std::shared_ptr<const void>;
@@ -76,6 +82,10 @@ public:
     /// on, as far as is known that the server's event log took them. Others' may be among them.
     virtual std::int64_t endOfEvents() const = 0;
     virtual std::vector<ReportedEvent> eventsSince(std::int64_t place) const = 0;
+
+    /// What the tool, and whatever else reports there, reported in the past, oldest first, as far
+    /// as the server's event log can be read here.
+    virtual std::vector<DatedEvent> pastEvents() const { return {}; }
 
     /// Why the tool finds next to nothing here, as no server is installed; nothing where one is, or
     /// a folder stands for it.

@@ -80,6 +80,16 @@ std::vector<ReportedEvent> SiteServer::eventsSince(std::int64_t place) const
     return events;
 }
 
+std::vector<DatedEvent> SiteServer::pastEvents() const
+{
+    std::vector<DatedEvent> events;
+    std::istringstream log(eventLogFrom(0));
+    for (std::string line; std::getline(log, line);)
+        if (auto event = parseEventLine(line))
+            events.push_back({event->time, {event->id, event->firstInsert}});
+    return events;
+}
+
 /// What stands in the event log from an offset on; nothing where it can't be read.
 std::string SiteServer::eventLogFrom(std::int64_t offset) const
 try {

@@ -38,6 +38,7 @@ public:
     /// Bytes of the event log; the events are those that stand in it, whoever reported them.
     std::int64_t endOfEvents() const override;
     std::vector<ReportedEvent> eventsSince(std::int64_t place) const override;
+    std::vector<DatedEvent> pastEvents() const override;
 
 private:
     std::string eventLogFrom(std::int64_t offset) const;

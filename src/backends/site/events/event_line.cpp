@@ -8,7 +8,9 @@ std::optional<EventLine> parseEventLine(const std::string& line)
     if (!event.is_object()) return std::nullopt;
     const auto id = event.find("id");
     if (id == event.end() || !id->is_number_integer()) return std::nullopt;
-    EventLine found{id->get<std::int32_t>(), ""};
+    EventLine found{id->get<std::int32_t>(), "", ""};
+    const auto time = event.find("time");
+    if (time != event.end() && time->is_string()) found.time = time->get<std::string>();
     const auto inserts = event.find("inserts");
     if (inserts != event.end() && inserts->is_array() && !inserts->empty() &&
         inserts->front().is_string())

@@ -8,6 +8,7 @@ namespace cli {
 std::unique_ptr<Command> makeAboutCommand();
 std::unique_ptr<Command> makeCompletionCommand();
 std::unique_ptr<Command> makeCycleCommand();
+std::unique_ptr<Command> makeDiffCommand();
 std::unique_ptr<Command> makeDoctorCommand();
 std::unique_ptr<Command> makeEventLanguageCommand();
 std::unique_ptr<Command> makeFlagsCommand();
