@@ -115,6 +115,36 @@ TEST_F(BadInput, HelpAndVersionThatCantBeWrittenAreFailures)
     }
 }
 
+TEST_F(BadInput, APathThatIsTooLongIsToldInWordsAndNotAtItsLength)
+{
+    const std::string name(300, 'a');
+    const std::string path = "/" + std::string(5000, 'a');
+    const std::string shown = "/" + std::string(59, 'a') + "..." + std::string(20, 'a');
+    const std::string told = " has too long a path, 5,001 bytes: " + shown;
+    const std::string before = fingerprint();
+    const struct {
+        Words words;
+        std::string told;
+    } cases[] = {
+        {{"--site", path, "status"}, "the site" + told},
+        {{"--tool-folder", path, "--site", site.string(), "status"}, "the tool folder" + told},
+        {{"sample", path}, "the folder to make" + told},
+        {{"sample", name}, "the folder to make has too long a path, 300 bytes: "},
+        {{"--site", site.string(), "gather", "standard", "--to", path}, "the destination" + told},
+        {{"--site", site.string(), "read", path},
+         "the log \"" + shown + "\" can not be found: its path is too long"},
+        {{"--site", (folder / "none").string(), "read", path},
+         "the log \"" + shown + "\" can not be found: its path is too long"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.told);
+        const Outcome refused = orvandiag(c.words, folder.string());
+        expectOneLine(refused, 1, "orvandiag: " + c.told);
+        EXPECT_LT(refused.err.size(), 250u);
+    }
+    EXPECT_EQ(before, fingerprint());
+}
+
 TEST_F(BadInput, WrongUsageEndsWithTwo)
 {
     const std::vector<std::vector<std::string>> cases = {

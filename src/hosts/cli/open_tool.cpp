@@ -1,5 +1,6 @@
 #include "hosts/cli/open_tool.h"
 
+#include "hosts/cli/naming/long_paths.h"
 #include "hosts/cli/program.h"
 #include "hosts/cli/terminal/message.h"
 #include "hosts/common/places.h"
@@ -40,6 +41,7 @@ MachineFacts machineFacts(const GlobalOptions& options)
 void requireUsableSite(const std::string& folder, ToolUse use)
 {
     if (folder.empty()) throw CommandFailure("the folder of the site has no name");
+    requireShortEnough("the site", folder);
     if (!isSite(folder))
         throw CommandFailure(folder +
                              " is not a site (no site.ini, registry.reg or drive_c in it); " +
@@ -58,6 +60,7 @@ std::unique_ptr<ServerAccess> serverToOpen(const GlobalOptions& options, ToolUse
 
 std::unique_ptr<ServerAccess> serverToExamine(const GlobalOptions& options)
 {
+    requireShortEnough("the tool folder", options.toolFolder);
     if (!options.site) {
         if (!machineIsAServer())
             throw CommandFailure("no site is named, and there is no usual one, as HOME names no "

@@ -1,6 +1,7 @@
 #include "hosts/cli/arguments.h"
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/manual/values.h"
+#include "hosts/cli/naming/long_paths.h"
 #include "hosts/cli/program.h"
 #include "hosts/cli/terminal/interrupt.h"
 #include "hosts/cli/terminal/output.h"
@@ -52,6 +53,7 @@ public:
     void run(const GlobalOptions&, Output& output) override
     {
         if (folder_.empty()) throw CommandFailure("the folder to make has no name");
+        requireShortEnough("the folder to make", folder_);
         const fs::path folder = fs::absolute(filePathOf(folder_)).lexically_normal();
         SampleOptions options;
         options.folder = machineTextOf(folder.has_filename() ? folder : folder.parent_path());

@@ -2,6 +2,7 @@
 
 #include "hosts/cli/gather/gather_progress.h"
 #include "hosts/cli/gather/gather_wizard.h"
+#include "hosts/cli/naming/long_paths.h"
 #include "hosts/common/gather/destination_turn.h"
 #include "hosts/common/gather/gather_sentences.h"
 #include "hosts/common/gather/gather_watch.h"
@@ -99,12 +100,11 @@ void requireUsableDestination(OpenTool& tool, const std::string& destination)
                              " is read-only; make its folder writable, or name a destination "
                              "outside of it with --to");
     const std::string there = tool.machinePath(destination);
+    requireShortEnough("the destination", there);
     const std::string shown = shownPathOf(there);
     const fs::path folder = filePathOf(there);
     std::error_code none;
     const fs::file_status status = fs::status(folder, none);
-    if (none == std::errc::filename_too_long)
-        throw CommandFailure("the destination " + shown + " has too long a name");
     if (fs::exists(status)) {
         if (!fs::is_directory(status))
             throw CommandFailure("the destination " + shown + " is not a folder");

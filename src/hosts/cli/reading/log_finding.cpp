@@ -2,6 +2,7 @@
 
 #include "backends/site/site.h"
 #include "core/registry_store.h"
+#include "hosts/cli/naming/long_paths.h"
 #include "hosts/cli/naming/matching_name.h"
 #include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/terminal/message.h"
@@ -37,7 +38,8 @@ bool areOfThisMachine(const std::vector<std::string>& logs)
 
 void tellMissing(FoundLogs& found, const std::string& log, const std::string& where = {})
 {
-    printMessage("the log \"" + log + "\" can not be found" + where);
+    printMessage("the log \"" + shortened(log) + "\" can not be found" +
+                 (isTooLong(log) ? ": its path is too long" : where));
     found.missing = true;
 }
 
