@@ -7,8 +7,12 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace viewer {
+
+/// Places on show: the first one, and the one behind the last.
+using PlaceRange = std::pair<std::size_t, std::size_t>;
 
 /// What is on show: rows of an order, by their places from the top. A view is made on one thread,
 /// changes no more, and is shown by another.

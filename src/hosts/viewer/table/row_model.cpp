@@ -1,7 +1,7 @@
 #include "hosts/viewer/table/row_model.h"
 
 #include "hosts/common/look/plain_tool_tip.h"
-#include "hosts/viewer/table/time_text.h"
+#include "hosts/viewer/table/cell_text.h"
 
 #include <algorithm>
 #include <limits>
@@ -27,13 +27,13 @@ RowModel::RowModel(Document& document, QObject* parent)
 
 void RowModel::setTimeForm(TimeForm form)
 {
-    timeForm_ = form;
+    times_.form = form;
     emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }
 
 void RowModel::setMark(std::optional<timeline::Moment> moment)
 {
-    mark_ = moment;
+    times_.mark = moment;
     emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }
 
@@ -57,61 +57,17 @@ int RowModel::columnCount(const QModelIndex& parent) const
 QString RowModel::time(std::size_t place) const
 {
     const timeline::Moment moment = document_.row(place).index.moment;
-    switch (timeForm_) {
-    case TimeForm::clock:
-        return clockText(moment);
-    case TimeForm::sinceRowBefore:
-        return place == 0 ? QString()
-                          : differenceText(document_.row(place - 1).index.moment, moment);
-    case TimeForm::sinceMark:
-        return differenceText(mark_.value_or(timeline::noMoment), moment);
-    }
-    return {};
+    std::optional<timeline::Moment> before;
+    if (times_.form == TimeForm::sinceRowBefore && place > 0)
+        before = document_.row(place - 1).index.moment;
+    return timeText(times_, moment, before);
 }
 
 QString RowModel::text(std::size_t place, RowColumn column) const
 {
-    return text(place, document_.row(place), column);
-}
-
-QStringList RowModel::wholeTexts(std::size_t place, const std::vector<RowColumn>& columns) const
-{
-    ShownRow row = document_.row(place);
-    if (row.cut) row = document_.wholeRow(place);
-    QStringList texts;
-    for (const RowColumn column : columns) texts << text(place, row, column);
-    return texts;
-}
-
-QString RowModel::text(std::size_t place, const ShownRow& row, RowColumn column) const
-{
-    switch (column) {
-    case RowColumn::time:
-        return row.belongs ? QString() : time(place);
-    case RowColumn::process:
-        return row.belongs ? QString() : row.process;
-    case RowColumn::source:
-        return row.source;
-    case RowColumn::component:
-        return row.component;
-    case RowColumn::level:
-        return row.hasForm ? QString::number(row.level) : QString();
-    case RowColumn::thread:
-        return row.thread;
-    case RowColumn::port:
-        return row.port;
-    case RowColumn::callId:
-        return row.callId;
-    case RowColumn::number:
-        return row.hasForm ? QString::number(row.traceNumber) : QString();
-    case RowColumn::trace:
-        return row.trace;
-    case RowColumn::file:
-        return row.file;
-    case RowColumn::line:
-        return QString::number(row.index.line);
-    }
-    return {};
+    const ShownRow& row = document_.row(place);
+    if (column == RowColumn::time) return row.belongs ? QString() : time(place);
+    return cellText(row, column);
 }
 
 /// What a screen reader says of a cell beyond its text; nothing where the text is all.
@@ -150,9 +106,9 @@ QVariant RowModel::headerData(int section, Qt::Orientation orientation, int role
         return static_cast<int>(Qt::AlignVCenter |
                                 (RowColumns::info(column).right ? Qt::AlignRight : Qt::AlignLeft));
     if (role != Qt::DisplayRole) return {};
-    if (column == RowColumn::time && timeForm_ == TimeForm::sinceRowBefore)
+    if (column == RowColumn::time && times_.form == TimeForm::sinceRowBefore)
         return tr("Since row before");
-    if (column == RowColumn::time && timeForm_ == TimeForm::sinceMark)
+    if (column == RowColumn::time && times_.form == TimeForm::sinceMark)
         return tr("Since marked row");
     return RowColumns::title(column);
 }

@@ -2,9 +2,9 @@
 
 #include "hosts/viewer/document/document.h"
 #include "hosts/viewer/table/row_column.h"
+#include "hosts/viewer/table/time_text.h"
 
 #include <QAbstractTableModel>
-#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -25,15 +25,13 @@ public:
     /// The text of a cell, as it is shown; a long one is shortened.
     QString text(std::size_t place, RowColumn column) const;
 
-    /// The texts of a row in columns, in their order, as long as they are.
-    QStringList wholeTexts(std::size_t place, const std::vector<RowColumn>& columns) const;
-
-    TimeForm timeForm() const { return timeForm_; }
+    TimeForm timeForm() const { return times_.form; }
     void setTimeForm(TimeForm form);
 
     /// The moment that times are told from in the form `sinceMark`.
-    std::optional<timeline::Moment> mark() const { return mark_; }
+    std::optional<timeline::Moment> mark() const { return times_.mark; }
     void setMark(std::optional<timeline::Moment> moment);
+    const TimeTelling& times() const { return times_; }
 
     /// What a person keeps of a row, in words; empty for nothing.
     using Remark = std::function<QString(const timeline::IndexRow&)>;
@@ -52,14 +50,12 @@ public:
 
 private:
     QString time(std::size_t place) const;
-    QString text(std::size_t place, const ShownRow& row, RowColumn column) const;
     QString spoken(const ShownRow& row, RowColumn column) const;
 
     Document& document_;
     Remark remark_;
     bool comes_ = false; ///< whether views are being told of rows behind the last one
-    TimeForm timeForm_ = TimeForm::clock;
-    std::optional<timeline::Moment> mark_;
+    TimeTelling times_;
 };
 
 } // namespace viewer

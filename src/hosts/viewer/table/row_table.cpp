@@ -161,35 +161,42 @@ std::optional<std::size_t> RowTable::currentPlace() const
     return static_cast<std::size_t>(currentIndex().row());
 }
 
-/// The first and the last row of each selected range, from the top; one may overlap the next.
-std::vector<std::pair<int, int>> RowTable::selectedRanges() const
+std::vector<PlaceRange> RowTable::selectedRanges(std::size_t most) const
 {
-    std::vector<std::pair<int, int>> ranges;
+    std::vector<PlaceRange> selected;
     for (const QItemSelectionRange& range : selectionModel()->selection())
-        ranges.emplace_back(range.top(), range.bottom());
-    std::sort(ranges.begin(), ranges.end());
+        selected.emplace_back(range.top(), static_cast<std::size_t>(range.bottom()) + 1);
+    std::sort(selected.begin(), selected.end());
+    std::vector<PlaceRange> ranges;
+    for (auto [first, end] : selected) {
+        if (!ranges.empty() && first <= ranges.back().second) {
+            // One may overlap the next.
+            first = ranges.back().second;
+            end = std::max(first, end);
+        }
+        end = std::min(end, first + most);
+        most -= end - first;
+        if (!ranges.empty() && first == ranges.back().second)
+            ranges.back().second = end;
+        else if (first < end)
+            ranges.emplace_back(first, end);
+    }
     return ranges;
 }
 
 std::size_t RowTable::selectedCount() const
 {
     std::size_t count = 0;
-    int next = 0;
-    for (const auto& [top, bottom] : selectedRanges()) {
-        if (bottom < next) continue;
-        count += static_cast<std::size_t>(bottom - std::max(top, next) + 1);
-        next = bottom + 1;
-    }
+    const auto all = static_cast<std::size_t>(rows_.rowCount());
+    for (const auto& [first, end] : selectedRanges(all)) count += end - first;
     return count;
 }
 
 std::vector<std::size_t> RowTable::selectedPlaces(std::size_t most) const
 {
     std::vector<std::size_t> places;
-    for (const auto& [top, bottom] : selectedRanges())
-        for (int row = top; row <= bottom && places.size() < most; ++row)
-            if (places.empty() || static_cast<std::size_t>(row) > places.back())
-                places.push_back(static_cast<std::size_t>(row));
+    for (const auto& [first, end] : selectedRanges(most))
+        for (std::size_t place = first; place < end; ++place) places.push_back(place);
     return places;
 }
 

@@ -5,7 +5,6 @@
 #include <QAbstractItemView>
 
 #include <optional>
-#include <utility>
 #include <vector>
 
 class Highlights;
@@ -57,6 +56,9 @@ public:
 
     /// The places of the selected rows from the top, at most so many of them.
     std::vector<std::size_t> selectedPlaces(std::size_t most) const;
+
+    /// The same as ranges, none of which touches another.
+    std::vector<PlaceRange> selectedRanges(std::size_t most) const;
 
     /// How many rows are selected.
     std::size_t selectedCount() const;
@@ -112,7 +114,6 @@ private:
     };
 
     int placeAt(int y) const;
-    std::vector<std::pair<int, int>> selectedRanges() const;
     void hold();
     void restore();
     void rememberColumns();

@@ -36,4 +36,18 @@ QString differenceText(timeline::Moment from, timeline::Moment to)
            QString::number(length % second).rightJustified(3, QLatin1Char('0'));
 }
 
+QString timeText(const TimeTelling& telling, timeline::Moment moment,
+                 std::optional<timeline::Moment> before)
+{
+    switch (telling.form) {
+    case TimeForm::clock:
+        return clockText(moment);
+    case TimeForm::sinceRowBefore:
+        return differenceText(before.value_or(timeline::noMoment), moment);
+    case TimeForm::sinceMark:
+        return differenceText(telling.mark.value_or(timeline::noMoment), moment);
+    }
+    return {};
+}
+
 } // namespace viewer

@@ -84,10 +84,6 @@
         <translation>Lesen an&amp;halten</translation>
     </message>
     <message>
-        <source>End what is being opened or read; the rows so far stay</source>
-        <translation>Öffnen und Lesen beenden; die bisherigen Zeilen bleiben</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>B&amp;eenden</translation>
     </message>
@@ -562,6 +558,17 @@
     <message>
         <source>Show every key of the viewer</source>
         <translation>Alle Tasten des Betrachters zeigen</translation>
+    </message>
+    <message>
+        <source>End what is being opened, read, copied or exported; the rows so far stay</source>
+        <translation>Öffnen, Lesen, Kopieren oder Exportieren beenden; die bisherigen Zeilen bleiben</translation>
+    </message>
+</context>
+<context>
+    <name>FileTarget</name>
+    <message>
+        <source>%1 can&apos;t be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>
@@ -1720,6 +1727,14 @@ Legen Sie Logs, Trace-Datenbanken oder CAB-Dateien hier ab, oder öffnen Sie sie
         <source>The manual is not beside the viewer. Install it again to read it.</source>
         <translation>Das Handbuch liegt nicht beim Betrachter. Installieren Sie ihn neu, um es zu lesen.</translation>
     </message>
+    <message>
+        <source>Copying was given up; the clipboard is as it was</source>
+        <translation>Das Kopieren wurde abgebrochen; die Zwischenablage ist unverändert</translation>
+    </message>
+    <message>
+        <source>Copying: %1 of %2 rows</source>
+        <translation>Kopieren: %1 von %2 Zeilen</translation>
+    </message>
 </context>
 <context>
     <name>viewer::MarkGutter</name>
@@ -1776,13 +1791,6 @@ Legen Sie Logs, Trace-Datenbanken oder CAB-Dateien hier ab, oder öffnen Sie sie
     <message>
         <source>Bookmarks and notes on rows that come through a pipe are not kept</source>
         <translation>Lesezeichen und Notizen zu Zeilen, die durch eine Pipe kommen, werden nicht aufgehoben</translation>
-    </message>
-</context>
-<context>
-    <name>viewer::RowExport</name>
-    <message>
-        <source>%1 can&apos;t be written: %2</source>
-        <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>

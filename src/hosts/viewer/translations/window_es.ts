@@ -84,10 +84,6 @@
         <translation>&amp;Detener la lectura</translation>
     </message>
     <message>
-        <source>End what is being opened or read; the rows so far stay</source>
-        <translation>Terminar de abrir o leer; las filas leídas se quedan</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Salir</translation>
     </message>
@@ -562,6 +558,17 @@
     <message>
         <source>Show every key of the viewer</source>
         <translation>Mostrar todas las teclas del visor</translation>
+    </message>
+    <message>
+        <source>End what is being opened, read, copied or exported; the rows so far stay</source>
+        <translation>Terminar de abrir, leer, copiar o exportar; las filas leídas se quedan</translation>
+    </message>
+</context>
+<context>
+    <name>FileTarget</name>
+    <message>
+        <source>%1 can&apos;t be written: %2</source>
+        <translation>No se puede escribir %1: %2</translation>
     </message>
 </context>
 <context>
@@ -1720,6 +1727,14 @@ Suelte aquí registros, bases de datos de trazas o archivos CAB, o ábralos con 
         <source>The manual is not beside the viewer. Install it again to read it.</source>
         <translation>El manual no está junto al visor. Vuelva a instalarlo para leerlo.</translation>
     </message>
+    <message>
+        <source>Copying was given up; the clipboard is as it was</source>
+        <translation>Se ha cancelado la copia; el portapapeles no ha cambiado</translation>
+    </message>
+    <message>
+        <source>Copying: %1 of %2 rows</source>
+        <translation>Copiando: %1 de %2 filas</translation>
+    </message>
 </context>
 <context>
     <name>viewer::MarkGutter</name>
@@ -1776,13 +1791,6 @@ Suelte aquí registros, bases de datos de trazas o archivos CAB, o ábralos con 
     <message>
         <source>Bookmarks and notes on rows that come through a pipe are not kept</source>
         <translation>Los marcadores y notas en filas que llegan por una tubería no se guardan</translation>
-    </message>
-</context>
-<context>
-    <name>viewer::RowExport</name>
-    <message>
-        <source>%1 can&apos;t be written: %2</source>
-        <translation>No se puede escribir %1: %2</translation>
     </message>
 </context>
 <context>

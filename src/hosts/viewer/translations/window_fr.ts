@@ -84,10 +84,6 @@
         <translation>&amp;Arrêter la lecture</translation>
     </message>
     <message>
-        <source>End what is being opened or read; the rows so far stay</source>
-        <translation>Mettre fin à l&apos;ouverture ou à la lecture&#xa0;; les lignes déjà lues restent</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Quitter</translation>
     </message>
@@ -562,6 +558,17 @@
     <message>
         <source>Show every key of the viewer</source>
         <translation>Montrer toutes les touches de la visionneuse</translation>
+    </message>
+    <message>
+        <source>End what is being opened, read, copied or exported; the rows so far stay</source>
+        <translation>Mettre fin à l&apos;ouverture, à la lecture, à la copie ou à l&apos;export&#xa0;; les lignes déjà lues restent</translation>
+    </message>
+</context>
+<context>
+    <name>FileTarget</name>
+    <message>
+        <source>%1 can&apos;t be written: %2</source>
+        <translation>%1 ne peut pas être écrit&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1714,11 +1721,19 @@ Déposez ici des journaux, des bases de données de traces ou des fichiers CAB, 
     </message>
     <message>
         <source>%1 of %2 selected rows copied; an export has all that are on show</source>
-        <translation>%1 lignes copiées sur %2 sélectionnées ; un export contient toutes les lignes affichées</translation>
+        <translation>%1 lignes copiées sur %2 sélectionnées&#xa0;; un export contient toutes les lignes affichées</translation>
     </message>
     <message>
         <source>The manual is not beside the viewer. Install it again to read it.</source>
         <translation>Le manuel n&apos;est pas à côté de la visionneuse. Réinstallez-la pour le lire.</translation>
+    </message>
+    <message>
+        <source>Copying was given up; the clipboard is as it was</source>
+        <translation>La copie a été abandonnée&#xa0;; le presse-papiers est inchangé</translation>
+    </message>
+    <message>
+        <source>Copying: %1 of %2 rows</source>
+        <translation>Copie&#xa0;: %1 lignes sur %2</translation>
     </message>
 </context>
 <context>
@@ -1776,13 +1791,6 @@ Déposez ici des journaux, des bases de données de traces ou des fichiers CAB, 
     <message>
         <source>Bookmarks and notes on rows that come through a pipe are not kept</source>
         <translation>Les signets et les notes sur des lignes venues d&apos;un tube ne sont pas gardés</translation>
-    </message>
-</context>
-<context>
-    <name>viewer::RowExport</name>
-    <message>
-        <source>%1 can&apos;t be written: %2</source>
-        <translation>%1 ne peut pas être écrit&#xa0;: %2</translation>
     </message>
 </context>
 <context>

@@ -84,10 +84,6 @@
         <translation>読み込みを中止(&amp;S)</translation>
     </message>
     <message>
-        <source>End what is being opened or read; the rows so far stay</source>
-        <translation>読み込みを終えます。読み込んだ行は残ります</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>終了(&amp;Q)</translation>
     </message>
@@ -562,6 +558,17 @@
     <message>
         <source>Show every key of the viewer</source>
         <translation>ビューアーのすべてのキーを表示します</translation>
+    </message>
+    <message>
+        <source>End what is being opened, read, copied or exported; the rows so far stay</source>
+        <translation>開く処理、読み込み、コピー、エクスポートを終えます。読み込んだ行は残ります</translation>
+    </message>
+</context>
+<context>
+    <name>FileTarget</name>
+    <message>
+        <source>%1 can&apos;t be written: %2</source>
+        <translation>%1 を書き込めません: %2</translation>
     </message>
 </context>
 <context>
@@ -1720,6 +1727,14 @@ Drop logs, trace databases or cabinets here, or open them with Ctrl+O.</source>
         <source>The manual is not beside the viewer. Install it again to read it.</source>
         <translation>マニュアルがビューアーと同じ場所にありません。読むには再インストールしてください。</translation>
     </message>
+    <message>
+        <source>Copying was given up; the clipboard is as it was</source>
+        <translation>コピーを中止しました。クリップボードは元のままです</translation>
+    </message>
+    <message>
+        <source>Copying: %1 of %2 rows</source>
+        <translation>コピー中: %1 / %2 行</translation>
+    </message>
 </context>
 <context>
     <name>viewer::MarkGutter</name>
@@ -1776,13 +1791,6 @@ Drop logs, trace databases or cabinets here, or open them with Ctrl+O.</source>
     <message>
         <source>Bookmarks and notes on rows that come through a pipe are not kept</source>
         <translation>パイプから届いた行のブックマークとメモは保存されません</translation>
-    </message>
-</context>
-<context>
-    <name>viewer::RowExport</name>
-    <message>
-        <source>%1 can&apos;t be written: %2</source>
-        <translation>%1 を書き込めません: %2</translation>
     </message>
 </context>
 <context>

@@ -35,8 +35,8 @@ const std::vector<CommandInfo>& Commands::all()
                     "bookmarks and notes stay"),
          "Ctrl+Shift+R", "", false, false},
         {C::stop, M::file, QT_TR_NOOP("&Stop Reading"),
-         QT_TR_NOOP("End what is being opened or read; the rows so far stay"), "Ctrl+.", "", true,
-         false},
+         QT_TR_NOOP("End what is being opened, read, copied or exported; the rows so far stay"),
+         "Ctrl+.", "", true, false},
         {C::quit, M::file, QT_TR_NOOP("&Quit"), QT_TR_NOOP("Close the viewer"), "Ctrl+Q", "", true,
          false},
 

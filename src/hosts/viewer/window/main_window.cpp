@@ -8,7 +8,6 @@
 #include "hosts/common/look/theme.h"
 #include "hosts/viewer/details/details_pane.h"
 #include "hosts/viewer/facets/facet_pane.h"
-#include "hosts/viewer/files/row_export.h"
 #include "hosts/viewer/find/find_bar.h"
 #include "hosts/viewer/follow/follow_bar.h"
 #include "hosts/viewer/histogram/strip_marks.h"
@@ -181,9 +180,6 @@ void MainWindow::connectParts()
         else
             statusBar()->showMessage(tr("There is no further one"), 4000);
     });
-    connect(&document_, &Document::viewAboutToChange, this, [this] {
-        if (export_ != nullptr) export_->cancel();
-    });
     connect(filterBar_, &FilterBar::left, table_, qOverload<>(&QWidget::setFocus));
     connect(times_, &TimeStrip::momentAsked, this,
             [this](timeline::Moment moment) { table_->goTo(document_.placeFrom(moment)); });
@@ -229,15 +225,12 @@ void MainWindow::updateStatus()
 {
     const Document::State state = document_.state();
     const QLocale locale;
-    QString text;
-    if (export_ != nullptr)
-        text = tr("Writing: %1 of %2 rows")
-                   .arg(locale.toString(static_cast<qulonglong>(export_->written())),
-                        locale.toString(static_cast<qulonglong>(document_.rowCount())));
-    else if (state.busy)
+    const RowWriting* const written = writing();
+    QString text = writingText();
+    if (written == nullptr && state.busy)
         text =
             tr("Reading: %1 rows so far").arg(locale.toString(static_cast<qulonglong>(state.rows)));
-    else if (document_.hasSources())
+    else if (written == nullptr && document_.hasSources())
         text =
             document_.filter().passesAll()
                 ? tr("%1 rows").arg(locale.toString(static_cast<qulonglong>(document_.rowCount())))
@@ -249,9 +242,10 @@ void MainWindow::updateStatus()
     if (document_.follows()) text += tr(", following");
     status_->setText(text);
     times_->setCurrent(currentMoment());
-    progress_->setVisible(state.busy);
-    progress_->setRange(0, state.share ? progressSteps : 0);
-    if (state.share) progress_->setValue(static_cast<int>(*state.share * progressSteps));
+    const std::optional<double> share = written != nullptr ? written->share() : state.share;
+    progress_->setVisible(written != nullptr || state.busy);
+    progress_->setRange(0, share ? progressSteps : 0);
+    if (share) progress_->setValue(static_cast<int>(*share * progressSteps));
     pages_->setCurrentIndex(document_.hasSources() || document_.rowCount() > 0 ? 1 : 0);
     updateActions();
 }

@@ -4,7 +4,7 @@
 #include "hosts/common/look/interface_language.h"
 #include "hosts/viewer/calls/calls.h"
 #include "hosts/viewer/document/document.h"
-#include "hosts/viewer/table/row_copy.h"
+#include "hosts/viewer/files/row_writing.h"
 #include "hosts/viewer/table/row_table.h"
 #include "hosts/viewer/window/commands.h"
 
@@ -39,7 +39,6 @@ class MarkList;
 class Marks;
 class SessionKeeper;
 class StripMarks;
-class RowExport;
 class TimeStrip;
 
 /// The viewer's window: the rows of all opened sources, and what is done with them.
@@ -138,7 +137,13 @@ private:
     void askForFilterFile();
     void askForTime();
     void askForExport();
+    std::unique_ptr<RowWriting> writeRows(RowForm form, std::vector<PlaceRange> places,
+                                          std::unique_ptr<RowTarget> target);
     void endExport(bool done);
+    void endCopy(bool done, std::size_t copied, std::size_t selected);
+    void stopWriting();
+    const RowWriting* writing() const;
+    QString writingText() const;
     void endFind();
     void currentChanged();
     void narrowToCurrent(timeline::Column column, bool hide);
@@ -153,7 +158,7 @@ private:
     void sayFailures();
     void openFiles();
     void openFolder();
-    void copy(CopyForm form);
+    void copy(RowForm form);
     void setTimes(TimeForm form);
     void markTime();
     void offerColumns();
@@ -172,7 +177,9 @@ private:
     Document document_;
     std::unique_ptr<Marks> marks_;
     std::unique_ptr<StripMarks> stripMarks_;
-    std::unique_ptr<Calls> calls_; ///< which works on the document until it goes
+    std::unique_ptr<Calls> calls_;        ///< which works on the document until it goes
+    std::unique_ptr<RowWriting> export_;  ///< of rows of the document; null for none
+    std::unique_ptr<RowWriting> copying_; ///< the same for the clipboard
     std::unique_ptr<SessionKeeper> session_;
     RowModel* model_ = nullptr;
     RowTable* table_ = nullptr;
@@ -182,7 +189,6 @@ private:
     DetailsPane* details_ = nullptr;
     FollowBar* followBar_ = nullptr;
     Highlights* highlights_ = nullptr;
-    RowExport* export_ = nullptr; ///< that is being written; null for none
     TimeStrip* times_ = nullptr;
     MarkList* markList_ = nullptr;
     CallTabs* callTabs_ = nullptr;

@@ -4,7 +4,6 @@
 #include "hosts/common/look/theme.h"
 #include "hosts/viewer/details/details_pane.h"
 #include "hosts/viewer/facets/facet_pane.h"
-#include "hosts/viewer/files/row_export.h"
 #include "hosts/viewer/find/find_bar.h"
 #include "hosts/viewer/histogram/time_strip.h"
 #include "hosts/viewer/window/filter_bar.h"
@@ -21,7 +20,6 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
 #include <QProgressBar>
@@ -117,18 +115,18 @@ void MainWindow::perform(Command command)
     case Command::exportRows:
         return askForExport();
     case Command::stop:
-        if (export_ != nullptr) export_->cancel();
+        stopWriting();
         calls_->stop();
         return document_.cancel();
     case Command::quit:
         close();
         return;
     case Command::copy:
-        return copy(CopyForm::shown);
+        return copy(RowForm::shown);
     case Command::copyRaw:
-        return copy(CopyForm::raw);
+        return copy(RowForm::raw);
     case Command::copyCsv:
-        return copy(CopyForm::csv);
+        return copy(RowForm::csv);
     case Command::copyValue:
         return QApplication::clipboard()->setText(details_->value());
     case Command::selectAll:
@@ -305,47 +303,6 @@ void MainWindow::askForTime()
     if (taken) goToTime(time);
 }
 
-void MainWindow::askForExport()
-{
-    QFileDialog dialog(this, tr("Export"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters({tr("Comma-separated text (*.csv)"),
-                           tr("JSON, an object a line (*.json)"), tr("Text (*.txt)")});
-    const QStringList endings{QStringLiteral("csv"), QStringLiteral("json"), QStringLiteral("txt")};
-    dialog.setDefaultSuffix(endings.front());
-    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& chosen) {
-        dialog.setDefaultSuffix(
-            endings.value(dialog.nameFilters().indexOf(chosen), endings.front()));
-    });
-    if (dialog.exec() == QDialog::Accepted) exportTo(dialog.selectedFiles().value(0));
-}
-
-void MainWindow::exportTo(const QString& file)
-{
-    if (export_ != nullptr) return;
-    export_ = new RowExport(*model_, table_->shownColumns(), file, this);
-    connect(export_, &RowExport::went, this, &MainWindow::updateStatus);
-    connect(export_, &RowExport::ended, this, &MainWindow::endExport);
-    if (!export_->start()) endExport(false);
-    updateStatus();
-}
-
-void MainWindow::endExport(bool done)
-{
-    RowExport* ended = std::exchange(export_, nullptr);
-    const QString problem = ended->problem();
-    const std::size_t rows = ended->written();
-    ended->deleteLater();
-    if (!problem.isEmpty())
-        sayFailure(problem);
-    else
-        statusBar()->showMessage(
-            done ? tr("%1 rows written").arg(QLocale().toString(static_cast<qulonglong>(rows)))
-                 : tr("The export was given up, and left no file"),
-            6000);
-    updateStatus();
-}
-
 void MainWindow::changeFilter(const std::function<void(RowFilter&)>& changing)
 {
     RowFilter filter = document_.filter();
@@ -407,22 +364,6 @@ void MainWindow::openFolder()
     PathDialog dialog(this, tr("Open Folder"), QFileDialog::Directory);
     const QString folder = dialog.ask();
     if (!folder.isEmpty()) document_.open({folder});
-}
-
-void MainWindow::copy(CopyForm form)
-{
-    const auto places = table_->selectedPlaces(mostCopied);
-    if (places.empty()) return;
-    QApplication::clipboard()->setText(copiedRows(*model_, places, table_->shownColumns(), form));
-    const auto number = [](std::size_t rows) {
-        return QLocale().toString(static_cast<qulonglong>(rows));
-    };
-    const std::size_t selected = table_->selectedCount();
-    if (selected == places.size())
-        return statusBar()->showMessage(tr("%1 rows copied").arg(number(selected)), 4000);
-    statusBar()->showMessage(tr("%1 of %2 selected rows copied; an export has all that are on show")
-                                 .arg(number(places.size()), number(selected)),
-                             15'000);
 }
 
 void MainWindow::setTimes(TimeForm form)

@@ -107,7 +107,7 @@ void MainWindow::updateCallActions()
     action(Command::calls).setChecked(callTabs_->showsList());
     action(Command::thisCall).setEnabled(hasCall);
     action(Command::stop)
-        .setEnabled(document_.state().busy || export_ != nullptr || calls_->busy());
+        .setEnabled(document_.state().busy || writing() != nullptr || calls_->busy());
     const QString key = action(Command::thisCall).shortcut().toString(QKeySequence::NativeText);
     callTabs_->call().setReason(
         !current || hasCall

@@ -1,7 +1,6 @@
 #include "hosts/viewer/table/row_table.h"
 
 #include "hosts/viewer/support/test_logs.h"
-#include "hosts/viewer/table/row_copy.h"
 #include "support/windows/test_application.h"
 
 #include <QAccessible>
@@ -176,26 +175,22 @@ TEST_F(RowTableTest, SaysAnErrorToAScreenReader)
     EXPECT_FALSE(model.index(1, level).data(Qt::AccessibleTextRole).isValid());
 }
 
-TEST_F(RowTableTest, CopiesRowsAsTheyAreShownAsLinesAndForASpreadsheet)
+TEST_F(RowTableTest, TellsItsSelectionAsRanges)
 {
-    open({logs.write("KoCSMgr", rawLine(1000, "A", 3, "=1+2, \"x\"") + "  more\r\n")});
-    const std::vector<RowColumn> columns = {RowColumn::component, RowColumn::trace};
-    EXPECT_EQ("A\t=1+2, \"x\"\n\t  more\n", copiedRows(model, {0, 1}, columns, CopyForm::shown));
-    EXPECT_EQ("00:00:01:000,Conv,12,A,3,=1+2, \"x\"\n  more\n",
-              copiedRows(model, {0, 1}, columns, CopyForm::raw));
-    EXPECT_EQ("Component,Trace\nA,\"'=1+2, \"\"x\"\"\"\n",
-              copiedRows(model, {0}, columns, CopyForm::csv));
-}
-
-TEST_F(RowTableTest, CopiesLongTextsAsLongAsTheyAre)
-{
-    const std::string longText(500'000, 'x');
-    open({logs.write("KoCSMgr", rawLine(1000, "A", 3, longText))});
-    const std::vector<RowColumn> columns = {RowColumn::component, RowColumn::trace};
-    const QString trace = QString::fromStdString(longText);
-    EXPECT_EQ("A\t" + trace + "\n", copiedRows(model, {0}, columns, CopyForm::shown));
-    EXPECT_EQ("00:00:01:000,Conv,12,A,3," + trace + "\n",
-              copiedRows(model, {0}, columns, CopyForm::raw));
+    open({logs.writeRows("KoCSMgr", 5000, 0, 10)});
+    EXPECT_TRUE(table.selectedRanges(100).empty());
+    const auto select = [&](int first, int last) {
+        QItemSelection rows(model.index(first, 0), model.index(last, rowColumns - 1));
+        table.selectionModel()->select(rows, QItemSelectionModel::Select);
+    };
+    select(20, 29);
+    select(3, 3);
+    select(30, 31);
+    EXPECT_EQ((std::vector<PlaceRange>{{3, 4}, {20, 32}}), table.selectedRanges(5000));
+    EXPECT_EQ((std::vector<PlaceRange>{{3, 4}, {20, 24}}), table.selectedRanges(5));
+    EXPECT_EQ((std::vector<PlaceRange>{{3, 4}}), table.selectedRanges(1));
+    EXPECT_EQ(13u, table.selectedCount());
+    EXPECT_EQ((std::vector<std::size_t>{3, 20, 21}), table.selectedPlaces(3));
 }
 
 } // namespace

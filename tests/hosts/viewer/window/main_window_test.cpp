@@ -3,10 +3,10 @@
 #include "hosts/common/look/spoken_label.h"
 #include "hosts/viewer/details/details_pane.h"
 #include "hosts/viewer/facets/facet_pane.h"
+#include "hosts/viewer/files/row_targets.h"
 #include "hosts/viewer/find/find_bar.h"
 #include "hosts/viewer/histogram/time_strip.h"
 #include "hosts/viewer/support/test_logs.h"
-#include "hosts/viewer/table/row_copy.h"
 #include "hosts/viewer/window/filter_bar.h"
 #include "support/windows/test_application.h"
 
@@ -131,7 +131,9 @@ TEST_F(ViewerWindow, CopiesTheSelectedRowsByKey)
     open({logs.writeRows("KoCSMgr", 10, 0, 1000)});
     window.table().goTo(3);
     window.run(Command::copyRaw);
-    EXPECT_EQ("00:00:03:000,Conv,12,CallFlow,3,row 3\n", QApplication::clipboard()->text());
+    EXPECT_TRUE(waitUntil([] {
+        return QApplication::clipboard()->text() == "00:00:03:000,Conv,12,CallFlow,3,row 3\n";
+    })) << QApplication::clipboard()->text().toStdString();
 }
 
 TEST_F(ViewerWindow, MarksARowThatTimesAreToldFrom)
@@ -408,9 +410,53 @@ TEST_F(ViewerWindow, SaysHowManyOfTheSelectedRowsWereCopied)
     window.table().goTo(0);
     window.table().selectAll();
     window.run(Command::copyRaw);
+    EXPECT_TRUE(waitUntil([&] {
+        return window.statusBar()->currentMessage().startsWith("100,000 of 100,005 ");
+    })) << window.statusBar()->currentMessage().toStdString();
     EXPECT_EQ(mostCopied, static_cast<std::size_t>(QApplication::clipboard()->text().count('\n')));
-    EXPECT_TRUE(window.statusBar()->currentMessage().startsWith("100,000 of 100,005 "))
-        << window.statusBar()->currentMessage().toStdString();
+    EXPECT_FALSE(window.action(Command::stop).isEnabled());
+}
+
+TEST_F(ViewerWindow, GivesUpCopyingAndLeavesTheClipboardAsItWas)
+{
+    open({logs.writeRows("KoCSMgr", mostCopied, 0, 1)});
+    QApplication::clipboard()->setText("before");
+    window.table().goTo(0);
+    window.table().selectAll();
+    window.run(Command::copyCsv);
+    ASSERT_TRUE(window.action(Command::stop).isEnabled());
+    QTest::keyClick(&window, Qt::Key_Period, Qt::ControlModifier);
+    EXPECT_TRUE(waitUntil(
+        [&] { return window.statusBar()->currentMessage().startsWith("Copying was given up"); }));
+    EXPECT_EQ("before", QApplication::clipboard()->text());
+}
+
+TEST_F(ViewerWindow, TheLastCopyIsTheOneThatCounts)
+{
+    open({logs.writeRows("KoCSMgr", mostCopied, 0, 1)});
+    window.table().goTo(0);
+    window.table().selectAll();
+    window.run(Command::copyCsv);
+    window.table().goTo(3);
+    window.run(Command::copyRaw);
+    EXPECT_TRUE(waitUntil(
+        [&] { return window.statusBar()->currentMessage().startsWith("1 rows copied"); }));
+    EXPECT_EQ("00:00:00:003,Conv,12,CallFlow,3,row 3\n", QApplication::clipboard()->text());
+}
+
+TEST_F(ViewerWindow, EndsWhileItStillWrites)
+{
+    const QString log = logs.writeRows("KoCSMgr", mostCopied, 0, 1);
+    const QString path = logs.folder() + "/rows.csv";
+    auto other = std::make_unique<MainWindow>(settings);
+    other->document().open({log});
+    ASSERT_TRUE(waitForRows(other->document()));
+    other->table().goTo(0);
+    other->table().selectAll();
+    other->run(Command::copy);
+    other->exportTo(path);
+    other.reset();
+    EXPECT_FALSE(QFile::exists(path));
 }
 
 TEST_F(ViewerWindow, ShowsTheRestOfALongTraceWhenItIsAskedFor)
@@ -435,13 +481,13 @@ TEST_F(ViewerWindow, WritesTheRowsOnShowToAFile)
     open({logs.writeRows("KoCSMgr", 100, 0, 1000)});
     const QString path = logs.folder() + "/rows.csv";
     window.exportTo(path);
-    ASSERT_TRUE(waitUntil([&] { return QFile::exists(path); }));
+    ASSERT_TRUE(waitUntil(
+        [&] { return window.statusBar()->currentMessage().startsWith("100 rows written"); }));
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(101, file.readAll().count('\n'));
     window.exportTo(logs.folder() + "/none/rows.csv");
-    settle();
-    EXPECT_TRUE(window.notice().contains("can't be written"));
+    EXPECT_TRUE(waitUntil([&] { return window.notice().contains("can't be written"); }));
 }
 
 } // namespace
