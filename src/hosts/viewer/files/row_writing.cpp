@@ -11,7 +11,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::milliseconds stepLength{2};
+constexpr std::chrono::milliseconds writingStep{2};
 constexpr std::chrono::milliseconds betweenTellings{100};
 
 } // namespace
@@ -55,7 +55,7 @@ bool RowWriting::write(const std::stop_token& stop)
             return false;
         }
         timeline_.work([&](const timeline::Timeline& rows) {
-            all = reading_.goOn(rows, Clock::now() + stepLength);
+            all = reading_.goOn(rows, Clock::now() + writingStep);
         });
         const RowTarget::Taken taken = target_->take(reading_.text());
         if (taken != RowTarget::Taken::goOn) return taken == RowTarget::Taken::enough;

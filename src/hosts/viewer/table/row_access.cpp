@@ -1,46 +1,31 @@
 #include "hosts/viewer/table/row_access.h"
 
 #include "hosts/viewer/table/row_table.h"
+#include "hosts/viewer/table/rows_interface.h"
 
 #include <QAccessible>
-#include <QAccessibleWidget>
-#include <QStringList>
 
 namespace viewer {
 
 namespace {
 
-constexpr qsizetype longestSpoken = 2000; ///< what is longer stands in the details
-
-QString spokenRow(const RowTable& table)
-{
-    const QModelIndex current = table.currentIndex();
-    if (!current.isValid()) return {};
-    QStringList texts;
-    for (const RowColumn column : table.shownColumns()) {
-        const QModelIndex cell = current.siblingAtColumn(static_cast<int>(column));
-        const QVariant spoken = cell.data(Qt::AccessibleTextRole);
-        const QString text = (spoken.isValid() ? spoken : cell.data()).toString();
-        if (!text.isEmpty()) texts << text.left(longestSpoken);
-    }
-    return texts.join(QStringLiteral(", ")).left(longestSpoken);
-}
-
-class RowsInterface final : public QAccessibleWidget {
-public:
-    explicit RowsInterface(RowTable& table) : QAccessibleWidget(&table, QAccessible::List) {}
-
-    QString text(QAccessible::Text kind) const override
-    {
-        if (kind == QAccessible::Value) return spokenRow(*static_cast<RowTable*>(object()));
-        return QAccessibleWidget::text(kind);
-    }
-};
-
 QAccessibleInterface* interfaceOf(const QString&, QObject* object)
 {
     auto* table = qobject_cast<RowTable*>(object);
     return table ? new RowsInterface(*table) : nullptr;
+}
+
+/// Tells of the cell of the current row that has the focus; false where none has it in sight.
+bool tellFocus(RowTable& table)
+{
+    QAccessibleInterface* rows = QAccessible::queryAccessibleInterface(&table);
+    if (!table.hasFocus() || rows == nullptr) return false;
+    const int child = rows->indexOfChild(rows->focusChild());
+    if (child < 0) return false;
+    QAccessibleEvent focus(&table, QAccessible::Focus);
+    focus.setChild(child);
+    QAccessible::updateAccessibility(&focus);
+    return true;
 }
 
 } // namespace
@@ -63,6 +48,7 @@ void tellCurrentRow(RowTable& table)
     // Some screen readers hear of values, others of descriptions.
     table.setAccessibleDescription(spoken);
     if (!QAccessible::isActive()) return;
+    if (tellFocus(table)) return;
     QAccessibleValueChangeEvent changed(&table, spoken);
     QAccessible::updateAccessibility(&changed);
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
