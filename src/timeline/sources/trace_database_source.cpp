@@ -228,7 +228,7 @@ void TraceDatabaseSource::read(const Filter& filter, SourceRows& rows, Progress&
         row.level = indexedLevel(reading.level());
         rows.push_back(row);
     };
-    while (!progress.cancelled) {
+    while (!progress.cancelled && rows.size() < progress.enough) {
         try {
             if (!rows_->next()) {
                 noteEnd();

@@ -156,6 +156,23 @@ TEST(TraceDatabaseSource, GoesOnBehindACancelledReading)
     EXPECT_EQ(progress.total.load(), progress.done.load());
 }
 
+TEST(TraceDatabaseSource, EndsWhereItHasRowsEnoughAndGoesOn)
+{
+    const Database database({traceRow("10/8/2005 15:23:07:120", "A", "C", "first"),
+                             traceRow("10/8/2005 15:23:08:000", "B", "C", "second"),
+                             traceRow("10/8/2005 15:23:09:000", "B", "C", "third")});
+    const auto source = database.source();
+    SourceRows rows;
+    Progress progress;
+    progress.enough = 2;
+    source->read(Filter(), rows, progress);
+    EXPECT_THAT(rows, SizeIs(2));
+    progress.enough = 4;
+    source->read(Filter(), rows, progress);
+    EXPECT_THAT(rows, SizeIs(3));
+    EXPECT_EQ(progress.total.load(), progress.done.load());
+}
+
 TEST(TraceDatabaseSource, ReadsWhatIsLeftOfADatabaseThatWasCutAndSaysSo)
 {
     std::vector<Row> many(3000, traceRow("10/8/2005 15:23:07:120", "A", "C", "some text"));

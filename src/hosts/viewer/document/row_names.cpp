@@ -59,6 +59,7 @@ bool RowNames::learn(const Timeline& timeline)
         const std::string& process = timeline.source(number).facts().process;
         if (log.process == unknown && !process.empty()) log.process = numberOf(processes_, process);
         const std::size_t rows = timeline.isWithdrawn(number) ? 0 : timeline.rowsOf(number).size();
+        if (log.sources.empty()) makeRoom(log, rows);
         while (log.sources.size() < rows) {
             learnRow(timeline, log, number);
             if (log.sources.size() % rowsLearnedAtOnce == 0 &&
@@ -67,6 +68,15 @@ bool RowNames::learn(const Timeline& timeline)
         }
     }
     return true;
+}
+
+/// Vectors that grow by themselves would leave twice the memory behind. What is more than there are
+/// rows costs none until a log grows.
+void RowNames::makeRoom(Log& log, std::size_t rows)
+{
+    const std::size_t room = rows + rows / 8;
+    log.sources.reserve(room);
+    if (log.process == unknown) log.processes.reserve(room);
 }
 
 void RowNames::learnRow(const Timeline& timeline, Log& log, std::size_t number)

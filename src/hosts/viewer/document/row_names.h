@@ -49,6 +49,7 @@ private:
     };
 
     static std::uint8_t numberOf(std::vector<std::string>& texts, const std::string& text);
+    static void makeRoom(Log& log, std::size_t rows);
     void learnRow(const timeline::Timeline& timeline, Log& log, std::size_t number);
 
     std::vector<Log> logs_;

@@ -10,7 +10,10 @@ namespace {
 using timeline::Timeline;
 using Clock = std::chrono::steady_clock;
 
-constexpr std::size_t rowsOfStep = 20'000; ///< that are put in order in about a millisecond
+/// That are put in order in some five milliseconds. Each step interrupts the reading, which puts
+/// what it has read so far in its place then, so that many short ones would keep the first rows
+/// waiting.
+constexpr std::size_t rowsOfStep = 100'000;
 constexpr std::chrono::milliseconds stepLength{2};
 constexpr std::chrono::milliseconds firstPart{30}; ///< of a view that takes longer
 
