@@ -1,4 +1,4 @@
-# What window_benchmark.sh measures: the console's window, and an empty one.
+# What window_benchmark.sh measures: the windows of console and viewer, and an empty one.
 if(NOT TARGET orvan_desktop)
   return()
 endif()
@@ -7,3 +7,7 @@ add_executable(console_window console_window.cpp page_through.cpp)
 target_link_libraries(console_window PRIVATE orvan_desktop)
 add_executable(empty_window empty_window.cpp)
 target_link_libraries(empty_window PRIVATE orvan_options Qt6::Widgets)
+
+# And the viewer's, on a database that count_components fills.
+add_executable(viewer_window viewer_window.cpp)
+target_link_libraries(viewer_window PRIVATE orvan_viewer)
