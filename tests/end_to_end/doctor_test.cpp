@@ -29,7 +29,7 @@ struct Doctor : SampleSite {
         EXPECT_EQ(before, recordOf(site)) << "a look changes nothing";
         EXPECT_EQ(status, outcome.status) << outcome.err;
         std::map<std::string, nlohmann::json> byId;
-        for (const auto& finding : outcome.json()) byId[finding["id"]] = finding;
+        for (const auto& finding : outcome.json()) byId[finding["check"]] = finding;
         return byId;
     }
 
@@ -39,7 +39,7 @@ struct Doctor : SampleSite {
     {
         std::map<std::string, std::string> states;
         for (const auto& [id, finding] : findings)
-            if (finding["state"] != "ok") states[id] = finding["state"];
+            if (finding["condition"] != "ok") states[id] = finding["condition"];
         return states;
     }
 
@@ -126,14 +126,20 @@ TEST_F(Doctor, TellsEachCheckByAStableNameInAStableOrder)
     std::vector<std::string> told;
     const Outcome outcome = runJson({"doctor"});
     for (const auto& finding : outcome.json()) {
-        told.push_back(finding["id"]);
+        told.push_back(finding["check"]);
         std::set<std::string> names;
         for (const auto& item : finding.items()) names.insert(item.key());
-        EXPECT_EQ((std::set<std::string>{"id", "subject", "state", "needed", "detail", "remedy"}),
+        EXPECT_EQ((std::set<std::string>{"check", "state", "text", "subject", "needed", "condition",
+                                         "remedy"}),
                   names);
         EXPECT_TRUE(finding["needed"].is_boolean());
-        EXPECT_NE("", finding["detail"]);
-        EXPECT_EQ(finding["state"] == "ok", finding["remedy"].is_null()) << finding;
+        EXPECT_NE("", finding["text"]);
+        EXPECT_EQ(finding["condition"] == "ok", finding["remedy"].is_null()) << finding;
+        EXPECT_EQ(finding["condition"] == "ok" ? "ok"
+                  : finding["needed"]          ? "error"
+                                               : "warning",
+                  finding["state"])
+            << finding;
     }
     EXPECT_EQ(ids, told);
 }
@@ -556,9 +562,9 @@ TEST_F(Doctor, TellsOfEachThingThatIsBrokenAndOfWhatTheToolCannotDoThen)
         const auto found = findings(broken.needed ? 1 : 0);
         ASSERT_EQ(1u, found.count(broken.id));
         const auto& finding = found.at(broken.id);
-        EXPECT_EQ(broken.state, finding["state"]) << finding;
+        EXPECT_EQ(broken.state, finding["condition"]) << finding;
         EXPECT_EQ(broken.needed, finding["needed"]) << finding;
-        EXPECT_THAT(finding["detail"].get<std::string>(), HasSubstr(broken.why));
+        EXPECT_THAT(finding["text"].get<std::string>(), HasSubstr(broken.why));
         EXPECT_TRUE(finding["remedy"].is_string()) << "what to do is told";
         // What hangs on it is not looked at; everything else is as it was.
         for (const auto& [id, state] : notOk(found))
@@ -595,8 +601,8 @@ TEST_F(Doctor, TellsAFolderThatIsNoSite)
         if (there) fs::create_directory(site);
         const Outcome outcome = runJson({"doctor"});
         EXPECT_EQ(1, outcome.status);
-        EXPECT_EQ("server", outcome.json()[0]["id"]);
-        EXPECT_EQ("missing", outcome.json()[0]["state"]);
+        EXPECT_EQ("server", outcome.json()[0]["check"]);
+        EXPECT_EQ("missing", outcome.json()[0]["condition"]);
         EXPECT_EQ(ids.size(), outcome.json().size());
     }
 }
@@ -618,9 +624,9 @@ TEST_F(Doctor, WaitsForADatabaseThatAnotherHoldsOnceAndNoLongerThanTheTool)
     EXPECT_EQ(1, outcome.status);
     EXPECT_LT(took, std::chrono::seconds(16));
     for (const auto& finding : outcome.json())
-        if (finding["id"] == "database") {
-            EXPECT_EQ("unusable", finding["state"]);
-            EXPECT_THAT(finding["detail"].get<std::string>(), HasSubstr("did not let go in time"));
+        if (finding["check"] == "database") {
+            EXPECT_EQ("unusable", finding["condition"]);
+            EXPECT_THAT(finding["text"].get<std::string>(), HasSubstr("did not let go in time"));
         }
     runProgram({"sh", "-c", "kill " + holder.out});
 }

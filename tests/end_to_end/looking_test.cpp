@@ -172,7 +172,7 @@ TEST_F(ReadOnlySite, IsToldByDoctorAsOneThatCantBeChanged)
     EXPECT_THAT(outcome.err, HasSubstr("3 needed things are not in order"));
     std::map<std::string, std::string> notOk;
     for (const auto& finding : outcome.json())
-        if (finding["state"] != "ok") notOk[finding["id"]] = finding["state"];
+        if (finding["state"] != "ok") notOk[finding["check"]] = finding["condition"];
     // The program stands alone where the reader can reach it, without what is installed beside it.
     EXPECT_EQ((std::map<std::string, std::string>{{"cabinet-maker", "unusable"},
                                                   {"rights", "unusable"},

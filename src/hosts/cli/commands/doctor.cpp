@@ -35,6 +35,13 @@ std::string nameOf(const Finding& finding)
     return std::string(finding.subject) + (finding.needed ? "" : " (useful)");
 }
 
+/// "ok", "warning" for what is merely useful and lacks, "error" for what is needed.
+const char* gravityOf(const Finding& finding)
+{
+    if (finding.well()) return "ok";
+    return finding.needed ? "error" : "warning";
+}
+
 class DoctorCommand final : public Command {
 public:
     std::string name() const override { return "doctor"; }
@@ -74,11 +81,12 @@ private:
         Json list = Json::array();
         for (const Finding& finding : findings) {
             const HealthReport& report = finding.report;
-            list.push_back({{"id", finding.id},
+            list.push_back({{"check", finding.id},
+                            {"state", gravityOf(finding)},
+                            {"text", report.detail.text()},
                             {"subject", finding.subject},
-                            {"state", wordOf(report.state)},
                             {"needed", finding.needed},
-                            {"detail", report.detail.text()},
+                            {"condition", wordOf(report.state)},
                             {"remedy", report.remedy ? Json(report.remedy->text()) : Json()}});
         }
         return list;
