@@ -4,8 +4,8 @@
 # count of the lines that they run a reporter, the benchmarks some peers, and packing some tools of
 # Debian's.
 build_packages=(
-  ccache cmake g++ libcli11-dev libmspack-dev libre2-dev libsqlite3-dev libxml2-dev ninja-build
-  nlohmann-json3-dev unixodbc-dev zlib1g-dev
+  ccache cmake g++ libcli11-dev libmspack-dev libre2-dev libsqlite3-dev libtomlplusplus-dev
+  libxml2-dev ninja-build nlohmann-json3-dev unixodbc-dev zlib1g-dev
 )
 desktop_packages=(qt6-base-dev qt6-l10n-tools qt6-svg-dev qt6-translations-l10n)
 test_packages=(

@@ -93,14 +93,14 @@ cross_build_re2() {
 # Libraries of headers alone serve as they are.
 copy_header_libraries() {
   mkdir -p "$windows_libraries/include" "$windows_libraries/share/cmake"
-  cp -r /usr/include/CLI /usr/include/nlohmann "$windows_libraries/include/"
+  cp -r /usr/include/CLI /usr/include/nlohmann /usr/include/toml++ "$windows_libraries/include/"
   cp -r /usr/share/cmake/CLI11 /usr/share/cmake/nlohmann_json "$windows_libraries/share/cmake/"
 }
 
 # What the libraries are made of, and how: other ones are made when this changes.
 windows_libraries_stamp() {
   dpkg-query -W -f '${Package} ${Version}\n' g++-mingw-w64-x86-64-posix googletest libcli11-dev \
-    libmspack-dev libre2-dev libsqlite3-0 libxml2 nlohmann-json3-dev zlib1g
+    libmspack-dev libre2-dev libsqlite3-0 libtomlplusplus-dev libxml2 nlohmann-json3-dev zlib1g
   declare -f fetch_sources cross_build cross_build_sqlite cross_build_mspack cross_build_zlib \
     cross_build_re2 copy_header_libraries build_windows_libraries
   sha256sum cmake/windows.cmake

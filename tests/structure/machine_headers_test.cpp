@@ -8,9 +8,9 @@ namespace {
 
 /// The libraries' own headers. Every other header in angle brackets with an ending is the
 /// machine's.
-const std::set<std::string> libraries = {"iconv.h",   "mspack.h",   "re2/filtered_re2.h",
-                                         "re2/re2.h", "sql.h",      "sqlext.h",
-                                         "sqlite3.h", "sqlucode.h", "zlib.h"};
+const std::set<std::string> libraries = {
+    "iconv.h", "mspack.h", "re2/filtered_re2.h", "toml++/toml.h", "re2/re2.h",
+    "sql.h",   "sqlext.h", "sqlite3.h",          "sqlucode.h",    "zlib.h"};
 
 /// Windows' own headers have to come before those of ODBC, which is a library everywhere else.
 bool isNeededByALibrary(const std::string& file, const Include& include)

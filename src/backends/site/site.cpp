@@ -85,7 +85,8 @@ Site::Site(const std::string& folder, const std::string& installedData, const Ho
       workstation_(settings_), eventReporter_(paths_.root(), workstation_.details()->computerName,
                                               settings_.logFields, clock_),
       eventLogExporter_(paths_), processes_(paths_, installedPrograms(installedData_)),
-      module_(settings_.toolFolder, host), languages_(settings_.language, paths_),
+      module_(settings_.toolFolder, host),
+      languages_(host.language ? host.language : settings_.language, paths_),
       database_(databaseFile()), xml_(files_, codePage())
 {
     registry_.keyExists(registryRoot::localMachine,

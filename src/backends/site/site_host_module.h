@@ -2,7 +2,9 @@
 
 #include "platform/host_module.h"
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -34,6 +36,9 @@ struct HostFacts {
     /// A folder for the tool's module that the person named, as a path of the tool; empty for that
     /// of the site. It alone may be a folder of the machine.
     std::string toolFolder = {};
+
+    /// The identifier of the language that the person wants texts in; nothing for that of the site.
+    std::optional<std::int32_t> language = {};
 };
 
 /// The tool's module, which lies in a folder of the site.

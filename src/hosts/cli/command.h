@@ -1,5 +1,7 @@
 #pragma once
 
+#include "hosts/cli/config/person_settings.h"
+
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -14,10 +16,11 @@ class Output;
 
 /// What stands before the command on the command line.
 struct GlobalOptions {
-    std::optional<std::string> site; ///< folder of the site; none for the machine itself
+    std::optional<std::string> site; ///< folder of the site; none for the machine itself, or none
     std::string toolFolder;          ///< the person's own; empty for that of the site
     bool json = false;
     bool developmentHost = false;
+    PersonSettings settings; ///< what is in force, once the command line has been read
 };
 
 /// The command could not do it: one clear line on standard error, exit status 1. The empty text is
@@ -56,6 +59,9 @@ public:
 
     /// What `--help` of the command teaches below its options: how it behaves, with examples.
     virtual std::string explanation() const { return {}; }
+
+    /// Whether it goes by what the person has set, which has to be right then.
+    virtual bool takesSettings() const { return true; }
 
     /// Whether the list of commands leaves it out.
     virtual bool hidden() const { return false; }

@@ -1,5 +1,6 @@
 #include "hosts/cli/command.h"
 #include "hosts/cli/program.h"
+#include "hosts/cli/settled_options.h"
 #include "hosts/cli/terminal/message.h"
 #include "hosts/cli/terminal/output.h"
 #include "hosts/cli/usage/help_text.h"
@@ -70,7 +71,10 @@ int run(std::vector<std::string> arguments)
     try {
         Output output(options.json);
         for (auto& command : commands)
-            if (app->got_subcommand(command->name())) command->run(options, output);
+            if (app->got_subcommand(command->name())) {
+                if (command->takesSettings()) settleOptions(options);
+                command->run(options, output);
+            }
         output.finish();
     } catch (const UsageError& error) {
         return refuseUsage(error.what(),

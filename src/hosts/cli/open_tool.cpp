@@ -24,6 +24,7 @@ HostFacts hostFacts(const GlobalOptions& options)
     facts.interrupted = interruptNoted;
     facts.notice = printMessage;
     if (!options.toolFolder.empty()) facts.toolFolder = places::wholePath(options.toolFolder);
+    facts.language = options.settings.language();
     return facts;
 }
 

@@ -4,7 +4,6 @@
 #include "hosts/cli/commands/commands.h"
 #include "hosts/cli/manual/help_page.h"
 #include "hosts/cli/manual/values.h"
-#include "hosts/common/places.h"
 #include "hosts/machine/open_machine.h"
 
 #include <CLI/CLI.hpp>
@@ -32,16 +31,12 @@ constexpr const char* introductionOnAServer =
 /// The group that help, completion and manual page leave out.
 constexpr const char* hidden = "";
 
-/// The site that is taken where none is given; empty for the machine itself.
-std::string siteByDefault()
-{
-    return machineIsAServer() ? places::siteOfEnvironment() : places::defaultSite();
-}
-
 const char* siteHelp()
 {
-    return machineIsAServer() ? "the site's folder; else %ORVAN_SITE%, else this machine itself"
-                              : "the site's folder; else $ORVAN_SITE, else the user's data folder";
+    return machineIsAServer()
+               ? "the site's folder; else %ORVAN_SITE%, your settings, or this machine itself"
+               : "the site's folder; else $ORVAN_SITE, your settings, or the user's "
+                 "data folder";
 }
 
 const char* introductionHere()
@@ -72,7 +67,6 @@ std::unique_ptr<CLI::App> describeCommandLine(GlobalOptions& options,
     app->allow_windows_style_options(false); // a path of the machine begins with a slash there, too
     app->formatter(std::make_shared<HelpPage>());
     app->footer(closing());
-    if (const std::string site = siteByDefault(); !site.empty()) options.site = site;
     CLI::Option* site = app->add_option("--site", options.site, siteHelp())->type_name("DIR");
     CLI::Option* toolFolder =
         app->add_option("--tool-folder", options.toolFolder,
@@ -125,6 +119,7 @@ std::vector<std::unique_ptr<Command>> allCommands()
     commands.push_back(makeLanguageCommand());
     commands.push_back(makeDoctorCommand());
     commands.push_back(makeDiffCommand());
+    commands.push_back(makeConfigCommand());
     commands.push_back(makeAboutCommand());
     commands.push_back(makeCompletionCommand());
     commands.push_back(makeHelpCommand());

@@ -15,11 +15,16 @@ std::string places::siteOfEnvironment()
     return environmentVariable("ORVAN_SITE").value_or("");
 }
 
-std::string places::defaultSite()
+std::string places::usualSite()
 {
-    if (const std::string site = siteOfEnvironment(); !site.empty()) return site;
     const std::string data = userDataFolder();
     return data.empty() ? "" : machineTextOf(filePathOf(data) / "orvandiag" / "site");
+}
+
+std::string places::defaultSite()
+{
+    const std::string site = siteOfEnvironment();
+    return site.empty() ? usualSite() : site;
 }
 
 std::string places::installedData()

@@ -8,8 +8,10 @@ namespace places {
 /// `$ORVAN_SITE`; the empty text where it is not set.
 std::string siteOfEnvironment();
 
-/// The site that is opened when none is named: `$ORVAN_SITE`, or the one in the user's data folder.
-/// The empty text where the environment names no such folder.
+/// The site in the user's data folder; the empty text where the environment names no such folder.
+std::string usualSite();
+
+/// The site that is opened when none is named: `$ORVAN_SITE`, or the usual one.
 std::string defaultSite();
 
 /// The folder of what ships with the tool: the program's own where that holds it, as on Windows;

@@ -42,6 +42,14 @@ std::int32_t listedLanguage(std::string_view locale)
     return 0;
 }
 
+/// The language of a locale's name, or of that without its country; 0 for neither.
+std::int32_t knownLanguage(std::string_view locale)
+{
+    locale = locale.substr(0, locale.find_first_of(".@"));
+    if (const auto language = listedLanguage(locale)) return language;
+    return listedLanguage(locale.substr(0, locale.find('_')));
+}
+
 /// The catalogue's path for a library's: the same with the ending `.txt`.
 std::string catalogueOf(const std::string& library)
 {
@@ -55,10 +63,13 @@ std::string catalogueOf(const std::string& library)
 
 std::int32_t languageOfLocale(std::string_view locale)
 {
-    locale = locale.substr(0, locale.find_first_of(".@"));
-    if (const auto language = listedLanguage(locale)) return language;
-    if (const auto language = listedLanguage(locale.substr(0, locale.find('_')))) return language;
-    return english;
+    const std::int32_t language = knownLanguage(locale);
+    return language != 0 ? language : english;
+}
+
+bool isKnownLocale(std::string_view locale)
+{
+    return knownLanguage(locale) != 0;
 }
 
 SiteLanguages::SiteLanguages(std::optional<std::int32_t> language, const SitePaths& paths)

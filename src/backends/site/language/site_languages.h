@@ -13,6 +13,9 @@ class SitePaths;
 /// The language identifier of a locale's name such as "fr_CA.UTF-8"; 1033 for one that is unknown.
 std::int32_t languageOfLocale(std::string_view locale);
 
+/// Whether a locale's name is one whose language is known.
+bool isKnownLocale(std::string_view locale);
+
 /// Language catalogues in the place of resource libraries: for a library `NAME.dll` the catalogue
 /// `NAME.txt` beside it serves.
 class SiteLanguages final : public Languages {

@@ -6,6 +6,7 @@ namespace cli {
 
 // One maker a command; each lives in the file of its name.
 std::unique_ptr<Command> makeAboutCommand();
+std::unique_ptr<Command> makeConfigCommand();
 std::unique_ptr<Command> makeCompletionCommand();
 std::unique_ptr<Command> makeCycleCommand();
 std::unique_ptr<Command> makeDiffCommand();

@@ -21,6 +21,8 @@ public:
                "      ~/.local/share/bash-completion/completions/orvandiag";
     }
 
+    bool takesSettings() const override { return false; }
+
     void declare(Arguments& arguments) override
     {
         arguments_ = arguments;

@@ -16,6 +16,8 @@ public:
 
     bool hidden() const override { return true; }
 
+    bool takesSettings() const override { return false; }
+
     void declare(Arguments& arguments) override { arguments_ = arguments; }
 
     void run(const GlobalOptions&, Output& output) override

@@ -40,7 +40,8 @@ LogReading::LogReading(const GlobalOptions& options, const ReadOptions& asked, O
     : options_(options), asked_(asked), format_(!asked.format.empty() ? asked.format
                                                 : options.json        ? "json"
                                                                       : "table"),
-      choice_(asked), columns_(columnsOfList(asked.columns)), target_(asked, output)
+      choice_(asked), columns_(columnsOfList(asked.columns)),
+      target_(asked, options.settings, output)
 {
     if (!asked.countBy.empty()) countBy_ = countedColumn(asked.countBy);
 }

@@ -78,10 +78,10 @@ void declareOutput(Arguments& arguments, ReadOptions& options)
         .oneOf({"table", "raw", "json", "csv", "otlp"});
     arguments.addFlag("--excel", options.excel, "csv of which a spreadsheet takes no formulas");
     arguments.addFlag("--wide", options.wide, "cut no row to the width of the terminal");
-    arguments.add("--color", options.color, "colour rows by their level")
+    arguments
+        .add("--color", options.color, "colour rows by their level; else as you have set, or auto")
         .called("WHEN")
-        .oneOf({"auto", "always", "never"})
-        .withDefault();
+        .oneOf({"auto", "always", "never"});
     arguments.addFlag("--no-pager", options.noPager, "write to the terminal itself");
 }
 

@@ -54,7 +54,7 @@ struct ReadOptions {
     std::string format;
     bool excel = false;
     bool wide = false;
-    std::string color = "auto";
+    std::string color; ///< empty for what the person has set
     bool noPager = false;
 
     /// Adds them all to the command.

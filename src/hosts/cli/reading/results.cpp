@@ -17,18 +17,9 @@ namespace {
 constexpr std::size_t widthWithoutTerminal = 80;
 constexpr std::size_t writtenAtOnce = 64U << 10;
 
-/// What the person wants to read long results in: the empty text for the usual.
-std::string chosenPager()
+bool wantsColours(const std::string& wish, bool terminal)
 {
-    for (const char* name : {"ORVAN_PAGER", "PAGER"})
-        if (const auto chosen = environmentVariable(name); chosen && !chosen->empty())
-            return *chosen;
-    return {};
-}
-
-bool wantsColours(const ReadOptions& options, bool terminal)
-{
-    if (options.color != "auto") return options.color == "always";
+    if (wish != "auto") return wish == "always";
     const auto noColour = environmentVariable("NO_COLOR");
     return terminal && (!noColour || noColour->empty()) &&
            environmentVariable("TERM").value_or("") != "dumb";
@@ -36,9 +27,14 @@ bool wantsColours(const ReadOptions& options, bool terminal)
 
 } // namespace
 
-ResultTarget::ResultTarget(const ReadOptions& options, Output& output)
-    : output_(output), pager_(chosenPager()), terminal_(outputGoesToATerminal()),
-      colours_(wantsColours(options, terminal_)), width_(widthWithoutTerminal)
+ResultTarget::ResultTarget(const ReadOptions& options, const PersonSettings& settings,
+                           Output& output)
+    : output_(output), pager_(settings.of("pager").value.value_or("")),
+      terminal_(outputGoesToATerminal()),
+      colours_(wantsColours(options.color.empty() ? settings.of("color").value.value_or("auto")
+                                                  : options.color,
+                            terminal_)),
+      width_(widthWithoutTerminal)
 {
     pages_ = terminal_ && !options.noPager && !options.follow && pager_ != "cat";
     if (const auto width = widthOfOutputTerminal()) width_ = static_cast<std::size_t>(*width);

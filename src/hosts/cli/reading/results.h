@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hosts/cli/config/person_settings.h"
 #include "hosts/cli/reading/row_cells.h"
 #include "hosts/cli/reading/row_format.h"
 #include "hosts/cli/reading/shown_rows.h"
@@ -17,7 +18,8 @@ struct ReadOptions;
 /// output leads to.
 class ResultTarget {
 public:
-    ResultTarget(const ReadOptions& options, Output& output);
+    /// An option of the command counts before what the person has set.
+    ResultTarget(const ReadOptions& options, const PersonSettings& settings, Output& output);
     ~ResultTarget();
     ResultTarget(const ResultTarget&) = delete;
     ResultTarget& operator=(const ResultTarget&) = delete;

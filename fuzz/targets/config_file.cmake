@@ -1,0 +1,1 @@
+orvan_fuzz(config_file LINKS orvan_cli_config)
