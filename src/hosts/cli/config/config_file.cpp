@@ -2,6 +2,7 @@
 
 #include "runtime/run_time_error.h"
 #include "system/environment.h"
+#include "system/file_facts.h"
 #include "system/machine_path.h"
 #include "system/whole_file.h"
 
@@ -94,6 +95,8 @@ ConfigFile readConfigFile(const std::string& path)
         text = readMachineFile(path, runTimeErrors::fileNotFound, largestFile);
     } catch (const RunTimeError& error) {
         if (error.number() == runTimeErrors::fileNotFound) return none;
+        // Another user's folder, which HOME may name still, is none of the person's.
+        if (!factsOf(path)) return none;
         throw RunTimeError(error.number(),
                            shownPathOf(path) + " can't be read: " + error.description());
     }
