@@ -115,7 +115,7 @@ TEST(Help, SaysInWordsWhatAValueMayBe)
     EXPECT_THAT(sample, HasSubstr("the folder to make (required)\n"));
     EXPECT_THAT(sample, HasSubstr("default 60000)\n"));
     EXPECT_THAT(sample, HasSubstr("(100 to"));
-    EXPECT_THAT(helpOf("read"), HasSubstr("(auto, always or never;"));
+    EXPECT_THAT(helpOf("read"), HasSubstr("auto, always or never"));
     EXPECT_THAT(helpOf("micro set"), HasSubstr("(may be repeated)\n"));
 }
 
