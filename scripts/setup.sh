@@ -9,9 +9,9 @@ build_packages=(
 )
 desktop_packages=(qt6-base-dev qt6-l10n-tools qt6-svg-dev qt6-translations-l10n)
 test_packages=(
-  appstream btrfs-progs cabextract clang clang-format clang-tidy desktop-file-utils gcab
-  libclang-rt-14-dev libgmock-dev libgtest-dev librapidcheck-dev libsqliteodbc mawk mdbtools
-  odbc-postgresql p7zip-full postgresql sqlite3
+  appstream btrfs-progs cabextract clang clang-format clang-tidy desktop-file-utils fish gcab
+  libclang-rt-14-dev libgmock-dev libgtest-dev librapidcheck-dev libsqliteodbc mandoc mawk mdbtools
+  odbc-postgresql p7zip-full postgresql sqlite3 zsh
 )
 coverage_packages=(gcovr)
 package_packages=(dpkg-dev file lintian)

@@ -171,7 +171,7 @@ TEST_F(BadInput, WrongUsageEndsWithTwo)
         {"event-language", "FRA", "JPN"},
         {"language", "FRA", "JPN"},
         {"completion"},
-        {"completion", "fish"},
+        {"completion", "powershell"},
     };
     for (const auto& words : cases) {
         SCOPED_TRACE(testing::PrintToString(words));

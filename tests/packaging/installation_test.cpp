@@ -75,10 +75,13 @@ TEST_F(Installation, IsMadeBelowAStagingFolder)
                            "usr/bin/orvandiag",
                            "usr/libexec/orvandiag/cabmaker",
                            "usr/share/bash-completion/completions/orvandiag",
+                           "usr/share/fish/vendor_completions.d/orvandiag.fish",
+                           "usr/share/man/man1/orvandiag-gather.1",
                            "usr/share/man/man1/orvandiag.1",
                            "usr/share/orvandiag/blankWPNDB.mdb",
                            "usr/share/orvandiag/help/index.html",
                            "usr/share/orvandiag/ZMKbrandingres_ENU.txt",
+                           "usr/share/zsh/site-functions/_orvandiag",
                        }));
     const auto gathered = gather(folder / "staging" / "usr");
     EXPECT_TRUE(fs::exists(gathered["cabinet"].get<std::string>()));

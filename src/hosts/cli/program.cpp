@@ -122,6 +122,7 @@ std::vector<std::unique_ptr<Command>> allCommands()
     commands.push_back(makeConfigCommand());
     commands.push_back(makeAboutCommand());
     commands.push_back(makeCompletionCommand());
+    commands.push_back(makeCompleteCommand());
     commands.push_back(makeHelpCommand());
     commands.push_back(makeManCommand());
     return commands;

@@ -19,16 +19,21 @@ std::optional<std::string> usualSite()
 
 } // namespace
 
-void settleOptions(GlobalOptions& options)
+void settleOptionsQuietly(GlobalOptions& options)
 {
     GivenOptions given;
     given.site = options.site;
     if (!options.toolFolder.empty()) given.toolFolder = options.toolFolder;
     options.settings =
         settledSettings(given, environmentVariable, readConfigFile(configFilePath()), usualSite());
-    for (const std::string& warning : options.settings.file.warnings) printMessage(warning);
     options.site = options.settings.of("site").value;
     options.toolFolder = options.settings.of("tool-folder").value.value_or("");
+}
+
+void settleOptions(GlobalOptions& options)
+{
+    settleOptionsQuietly(options);
+    for (const std::string& warning : options.settings.file.warnings) printMessage(warning);
 }
 
 } // namespace cli

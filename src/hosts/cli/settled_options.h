@@ -9,4 +9,7 @@ struct GlobalOptions;
 /// names the file and the line or the variable, for what can't be taken.
 void settleOptions(GlobalOptions& options);
 
+/// The same, and tells nothing.
+void settleOptionsQuietly(GlobalOptions& options);
+
 } // namespace cli

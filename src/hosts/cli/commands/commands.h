@@ -6,8 +6,9 @@ namespace cli {
 
 // One maker a command; each lives in the file of its name.
 std::unique_ptr<Command> makeAboutCommand();
-std::unique_ptr<Command> makeConfigCommand();
+std::unique_ptr<Command> makeCompleteCommand();
 std::unique_ptr<Command> makeCompletionCommand();
+std::unique_ptr<Command> makeConfigCommand();
 std::unique_ptr<Command> makeCycleCommand();
 std::unique_ptr<Command> makeDiffCommand();
 std::unique_ptr<Command> makeDoctorCommand();

@@ -108,7 +108,7 @@ private:
     /// is to be turned on and off. Writes their names as the wizard shows them.
     void requireMacroTraces(OpenTool& tool, Output& output)
     {
-        const auto traces = knownNames::macroTraces(tool);
+        const auto traces = knownNames::macroTraces(tool.context());
         for (const auto& file : traces.passedOver)
             output.message(file + " is passed over: it is no definition of macro traces");
         if (!set_.given()) return;

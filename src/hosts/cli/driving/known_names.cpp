@@ -6,6 +6,7 @@
 #include "platform/host_module.h"
 #include "platform/tool_files.h"
 #include "platform/xml.h"
+#include "runtime/numbers.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
 #include "server/configuration_database.h"
@@ -96,9 +97,9 @@ std::vector<knownNames::ShownTrace> knownNames::shownTraces(const XmlDocument& c
     return traces;
 }
 
-knownNames::MacroTraces knownNames::macroTraces(OpenTool& tool)
+knownNames::MacroTraces knownNames::macroTraces(ToolContext& context)
 {
-    const Platform& platform = tool.context().platform;
+    const Platform& platform = context.platform;
     const std::string folder =
         platform.module.folder() + "\\" + toolFiles::definitionsFolder + "\\";
     MacroTraces traces;
@@ -136,6 +137,22 @@ std::optional<std::string> knownNames::unreadCatalogue(OpenTool& tool)
     if (const auto doubled = file.find("\\\\", 1); doubled != std::string::npos)
         file.erase(doubled, 1);
     return file;
+}
+
+std::vector<knownNames::ShownLevels> knownNames::shownLevels(ToolContext& context)
+{
+    const auto catalogue = context.platform.xml.newDocument();
+    if (!catalogue->load(catalogueFile(context))) return {};
+    std::vector<ShownLevels> components;
+    for (const auto& component : catalogue->getElementsByTagName("DiagnosticGrid")) {
+        ShownLevels shown{component->attribute("name").value_or(""), {}};
+        for (const auto& level : component->selectNodes("DiagnosticLevels/DiagnosticLevel"))
+            if (!isPlaceholderLevel(level->attribute("text").value_or("")))
+                shown.levels.push_back(
+                    static_cast<int>(leadingNumber(level->attribute("level").value_or(""))));
+        components.push_back(std::move(shown));
+    }
+    return components;
 }
 
 bool knownNames::showsLevel(OpenTool& tool, const std::string& component, int level)

@@ -28,7 +28,7 @@ struct MacroTraces {
     std::vector<std::string> passedOver; ///< files that are no definitions, by name
 };
 
-MacroTraces macroTraces(OpenTool& tool);
+MacroTraces macroTraces(ToolContext& context);
 
 /// The components of the diagnostic grid, without the blanks around their names; nothing where the
 /// database can't be asked, which is for the command to tell.
@@ -38,6 +38,15 @@ std::optional<std::vector<std::string>> components(OpenTool& tool);
 /// component, as it is missing or can't be read; absent where it does. To be asked once the tool
 /// holds one: after `showsLevel`, or after its start.
 std::optional<std::string> unreadCatalogue(OpenTool& tool);
+
+/// The components that the catalogue of level texts tells of, with their levels that are more than
+/// placeholders, in its order; none where there is no catalogue. It is the one that the tool starts
+/// with.
+struct ShownLevels {
+    std::string component;
+    std::vector<int> levels;
+};
+std::vector<ShownLevels> shownLevels(ToolContext& context);
 
 /// Whether the catalogue of level texts has a level that is more than a placeholder. The catalogue
 /// that is looked at is the one that the tool starts with.

@@ -96,6 +96,7 @@ DescribedOption describeOption(const CLI::Option& option)
     described.description = option.get_description();
     described.required = option.get_required();
     described.repeated = option.get_items_expected_max() > 1;
+    described.takesMany = described.repeated && option.get_allow_extra_args();
     return described;
 }
 

@@ -23,7 +23,8 @@ struct DescribedOption {
     std::string description;
     Values values = Values::any; ///< of which kind the value is
     bool required = false;
-    bool repeated = false; ///< may be given again and again
+    bool repeated = false;  ///< may be given again and again
+    bool takesMany = false; ///< takes the words behind its value, too
 
     bool isArgument() const { return names.empty(); }
 

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "hosts/cli/manual/command_tree.h"
-
-#include <string>
-
 namespace cli {
 
-/// A script that completes the program's commands and options in bash, with nothing but bash.
-std::string bashCompletion(const DescribedCommand& program);
+/// The scripts that complete the program's command line in a shell. They ask the program at each
+/// Tab (`complete`), and know nothing of its commands themselves.
+extern const char* const bashCompletion;
+extern const char* const zshCompletion;
+extern const char* const fishCompletion;
 
 } // namespace cli

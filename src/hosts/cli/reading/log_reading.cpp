@@ -6,6 +6,7 @@
 #include "hosts/cli/reading/log_following.h"
 #include "hosts/cli/reading/macro_trace_look_up.h"
 #include "hosts/cli/reading/reading_progress.h"
+#include "hosts/cli/reading/row_cells.h"
 #include "hosts/cli/terminal/message.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text.h"
@@ -23,8 +24,7 @@ namespace {
 timeline::Column countedColumn(const std::string& name)
 {
     if (const auto column = timeline::columnOf(name)) return *column;
-    const std::vector<std::string> columns = {"process", "source", "component", "level",
-                                              "thread",  "port",   "callId",    "traceNumber"};
+    const std::vector<std::string> columns = countedColumnNames();
     throw UsageError("--count-by takes " + namesToChoose(columns) + ", not \"" + name + "\"" +
                      didYouMean(name, columns));
 }

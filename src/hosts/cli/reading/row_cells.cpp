@@ -57,6 +57,16 @@ void appendNumber(std::string& text, std::int64_t number, std::size_t digits)
 
 } // namespace
 
+std::vector<std::string> columnNamesOfRows()
+{
+    return {columnNames.begin(), columnNames.end()};
+}
+
+std::vector<std::string> countedColumnNames()
+{
+    return {"process", "source", "component", "level", "thread", "port", "callId", "traceNumber"};
+}
+
 std::string_view nameOf(RowColumn column)
 {
     return columnNames[static_cast<std::size_t>(column)];

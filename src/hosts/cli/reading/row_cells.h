@@ -36,6 +36,12 @@ enum class RowColumn {
 /// A column's name in JSON and in `--columns`.
 std::string_view nameOf(RowColumn column);
 
+/// The names of all columns, in the order of `RowColumn`.
+std::vector<std::string> columnNamesOfRows();
+
+/// The names of those by which rows are counted.
+std::vector<std::string> countedColumnNames();
+
 /// The columns of a list such as "moment,level,trace". Raises UsageError for a name that is none.
 std::vector<RowColumn> columnsOfList(std::string_view list);
 
