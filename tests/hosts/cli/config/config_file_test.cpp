@@ -55,8 +55,9 @@ TEST(ConfigFile, WarnsOfWhatIsNoSetting)
 
 TEST(ConfigFile, RefusesWhatIsNoTomlWithItsLine)
 {
-    for (const char* text : {"\nsite", "\nsite = ", "\nsite = \"/srv", "\nsite = /srv",
-                             "site = \"a\"\nsite = \"b\"", "\n= \"a\"", "\nsite = \"\xff\""}) {
+    for (const char* text :
+         {"\nsite", "\nsite = ", "\nsite = \"/srv", "\nsite = /srv", "site = \"a\"\nsite = \"b\"",
+          "\n= \"a\"", "\nsite = \"\xff\"", "\n[=x]", "\n[ \x15"}) {
         EXPECT_THAT(refusalOf(text), StartsWith("/c.toml:2: this is no TOML: ")) << text;
         EXPECT_EQ(std::string::npos, refusalOf(text).find('\n')) << text;
     }
