@@ -41,6 +41,24 @@ TEST(ConfigFile, MayBeEmptyAndHaveLinesOfWindows)
     EXPECT_EQ("never", parseConfig("/c.toml", "\r\ncolor = \"never\"\r\n").find("color")->value);
 }
 
+TEST(ConfigFile, TakesLettersOfAnyLanguageAndPercentSigns)
+{
+    const ConfigFile file =
+        parseConfig("/c.toml", "\xef\xbb\xbf# \u00fcber\nsite = \"/srv/\u00e4\uff43 100%41\"\n"
+                               "pager = '\u65e5\u672c%'\ncolor = \"\\u00e4\\u0025\"\n");
+    EXPECT_EQ("/srv/\u00e4\uff43 100%41", file.find("site")->value);
+    EXPECT_EQ("\u65e5\u672c%", file.find("pager")->value);
+    EXPECT_EQ("\u00e4%", file.find("color")->value);
+    EXPECT_EQ("/c.toml:2", file.placeOf(*file.find("site")));
+}
+
+TEST(ConfigFile, LettersOutsideOfTextsAreNoToml)
+{
+    EXPECT_THAT(refusalOf("\n\u00e4 = 1"), StartsWith("/c.toml:2: this is no TOML: "));
+    EXPECT_THAT(refusalOf("\nsite\ufefb = \"a\""), StartsWith("/c.toml:2: this is no TOML: "));
+    EXPECT_EQ("/c.toml:3: this is no TOML: it is not in UTF-8", refusalOf("\n\nsite = \"\xe4\""));
+}
+
 TEST(ConfigFile, WarnsOfWhatIsNoSetting)
 {
     const ConfigFile file =
