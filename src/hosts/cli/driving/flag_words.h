@@ -8,6 +8,9 @@ class DatabaseConnection;
 
 namespace cli {
 
+/// Bits of a flag word, each of which turns a level of its component on.
+constexpr int levelsOfAWord = 32;
+
 /// A component's row of the diagnostic grid, as stored.
 struct FlagWords {
     std::string name;

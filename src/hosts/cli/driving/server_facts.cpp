@@ -47,7 +47,6 @@ void addRegistry(OpenTool& tool, ServerFacts& facts)
 /// A level that is off and not on by default is the rule, and is not told of.
 void addLevels(const FlagWords& word, ServerFacts& facts)
 {
-    constexpr int levelsOfAWord = 32;
     for (int level = 0; level < levelsOfAWord; ++level) {
         const bool is = (static_cast<std::uint32_t>(word.flags) >> level & 1U) != 0;
         const bool shipped = (static_cast<std::uint32_t>(word.defaultFlags) >> level & 1U) != 0;

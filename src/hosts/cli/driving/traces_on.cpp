@@ -66,7 +66,6 @@ std::vector<MacroTraceOn> macroTracesOn(OpenTool& tool)
 
 std::optional<std::vector<LevelsOn>> levelsOn(OpenTool& tool)
 try {
-    constexpr int levelsOfAWord = 32;
     std::vector<LevelsOn> all;
     for (const FlagWords& word : readFlagWords(tool.context().g_connection)) {
         const auto added = static_cast<std::uint32_t>(word.flags & ~word.defaultFlags);

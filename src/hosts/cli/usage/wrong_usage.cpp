@@ -1,5 +1,6 @@
 #include "hosts/cli/usage/wrong_usage.h"
 
+#include "hosts/cli/naming/near_names.h"
 #include "hosts/cli/usage/unknown_words.h"
 #include "runtime/text.h"
 
@@ -53,10 +54,7 @@ std::string missingCommand(const CLI::App& innermost)
     for (const CLI::App* command :
          innermost.get_subcommands([](const CLI::App* sub) { return !sub->get_group().empty(); }))
         if (names.size() < most) names.push_back(command->get_name());
-    std::string list;
-    for (std::size_t at = 0; at < names.size(); ++at)
-        list += (at == 0 ? "" : at + 1 < names.size() ? ", " : " or ") + names[at];
-    return "name a command, such as " + list;
+    return "name a command, such as " + namesToChoose(names);
 }
 
 /// Something that is not there, unless words that nothing takes stand in its stead.
